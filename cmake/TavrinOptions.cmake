@@ -1,0 +1,32 @@
+# How every target of the tree is compiled.
+option(TAVRIN_TESTS "Build the tests" ON)
+option(TAVRIN_BENCH "Build the benchmarks" ON)
+option(TAVRIN_WINDOW "Build the desktop program" ON)
+option(TAVRIN_FUZZ "Build the fuzz targets (clang)" OFF)
+option(TAVRIN_WERROR "Treat warnings as errors" ON)
+set(TAVRIN_SANITIZER "" CACHE STRING "address or thread")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+find_program(TAVRIN_CCACHE ccache)
+if(TAVRIN_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TAVRIN_CCACHE})
+endif()
+
+# No fused multiply-add: a*b+c must give the same bytes on every machine and at every lane width.
+add_compile_options(-Wall -Wextra -Wconversion -Wno-sign-conversion -ffp-contract=off)
+if(TAVRIN_WERROR)
+  add_compile_options(-Werror)
+endif()
+
+if(TAVRIN_SANITIZER STREQUAL "address")
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+elseif(TAVRIN_SANITIZER STREQUAL "thread")
+  add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=thread)
+endif()

@@ -1,0 +1,30 @@
+#include "core/Log.h"
+
+#include <atomic>
+#include <cstdio>
+
+namespace tavrin {
+
+namespace {
+std::atomic<bool> traceOn = false;
+
+// One call a line, so that lines of several threads do not mix.
+void writeLine(const std::string& line) {
+    const std::string text = line + "\n";
+    std::fwrite(text.data(), 1, text.size(), stderr);
+}
+}  // namespace
+
+void logTrace(const std::string& line) {
+    if (traceOn.load(std::memory_order_relaxed)) writeLine(line);
+}
+
+void logError(const std::string& line) {
+    writeLine(line);
+}
+
+void setTraceLog(bool on) {
+    traceOn.store(on, std::memory_order_relaxed);
+}
+
+}  // namespace tavrin

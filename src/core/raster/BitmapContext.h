@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include <QImage>
+#include <QPainter>
+#include <QRectF>
+
+namespace tavrin {
+
+/// A drawing context bound to the bytes of a pixel buffer: what is drawn changes the buffer, what is written into
+/// the buffer is seen by the next snapshot. Coordinates start at the bottom left with y growing upward; as far as
+/// drawing is concerned the buffer's alpha is premultiplied. Drawing is antialiased, pictures are scaled smoothly.
+class BitmapContext {
+  public:
+    /// Binds to `bytes` (4 * width * height, the first row at the top), which must outlive the context.
+    BitmapContext(std::uint8_t* bytes, int width, int height);
+    ~BitmapContext();
+    BitmapContext(const BitmapContext&) = delete;
+    BitmapContext& operator=(const BitmapContext&) = delete;
+
+    int width() const { return image_.width(); }
+    int height() const { return image_.height(); }
+
+    /// Fills a rectangle with a colour, channels 0 to 1 and not premultiplied.
+    void fillRect(const QRectF& rect, double red, double green, double blue, double alpha);
+
+    /// Draws a picture, scaled to the rectangle, over what is there. A picture that needs no scaling, turning or
+    /// shift between pixels goes through unchanged.
+    void drawImage(const QImage& picture, const QRectF& rect);
+
+    /// The coordinate system; each call acts on what later calls draw. Angles in radians, anticlockwise.
+    void scale(double x, double y);
+    void translate(double x, double y);
+    void rotate(double angle);
+    void saveState();
+    void restoreState();
+
+    /// A copy of the picture as it stands, which stays valid when the buffer is overwritten.
+    QImage snapshot() const;
+
+    /// For text and shapes: a painter with this context's coordinate system, y upward. It must be gone before
+    /// the next call of another operation.
+    std::unique_ptr<QPainter> painter();
+
+  private:
+    QTransform toDevice() const;
+    bool copyUnscaled(const QImage& picture, const QTransform& mapping, const QRectF& rect);
+
+    QImage image_;
+    QTransform transform_;
+    std::vector<QTransform> saved_;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+
+namespace tavrin {
+
+/// Truncates a colour value to a byte, holding it within 0 to 255. Every write of a computed colour goes here.
+inline std::uint8_t toByte(double value) {
+    return static_cast<std::uint8_t>(value <= 0.0 ? 0 : value >= 255.0 ? 255 : static_cast<int>(value));
+}
+
+inline double clampTo(double value, double low, double high) {
+    return value < low ? low : (value > high ? high : value);
+}
+
+/// A colour with doubles on the 0 to 255 scale, in real channels or in roles.
+struct Rgb {
+    double r, g, b;
+};
+
+/// The engine's colour conversion: hue in degrees (0 to below 360), saturation 0 to 1, value on the scale of the
+/// input; `delta` is the difference between the largest and the smallest channel. Grey has hue and saturation 0.
+inline void rgb_to_hsv(double& h, double& s, double& v, double& delta, double r, double g, double b) {
+    const double mx = std::max({r, g, b});
+    const double mn = std::min({r, g, b});
+    const double d = mx - mn;
+    delta = d;
+    v = mx;
+    if (d == 0.0) {
+        s = 0.0;
+        h = 0.0;
+        return;
+    }
+    s = d / mx;
+    // The offsets of 180 cancel; leaving them out would change the last bit.
+    const double dR = (mx - r) * 60.0 / d + 180.0;
+    const double dG = (mx - g) * 60.0 / d + 180.0;
+    const double dB = (mx - b) * 60.0 / d + 180.0;
+    if (mx == r) {
+        h = dB - dG;
+    } else if (mx == g) {
+        h = dR + 120.0 - dB;
+    } else {
+        h = dG + 240.0 - dR;
+    }
+    if (h < 0.0) h += 360.0;
+    if (h >= 360.0) h -= 360.0;
+}
+
+/// One step of the hue-keeping limiter: where `c` is above 255 the other two are scaled down with it.
+inline void limitChannel(double& c, double& other1, double& other2) {
+    if (c > 255.0) {
+        const double scale = 255.0 / c;
+        other1 *= scale;
+        other2 *= scale;
+        c = 255.0;
+    }
+}
+
+}  // namespace tavrin

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+namespace tavrin {
+
+/// Bytes of a pixel: red, green, blue, alpha, 8 bits each.
+inline constexpr int kPixelBytes = 4;
+
+/// Offset of pixel (x, y) in a buffer of `width` pixels a row; rows are packed, the first row is the top one.
+constexpr std::size_t pixelOffset(int width, int x, int y) {
+    return (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)) *
+           kPixelBytes;
+}
+
+/// Size of a pixel buffer in bytes.
+constexpr std::size_t pixelBytes(int width, int height) {
+    return pixelOffset(width, 0, height);
+}
+
+/// An owned pixel buffer with undefined contents. `data()` is null where memory was refused or the size is 0.
+class PixelBuffer {
+  public:
+    PixelBuffer() = default;
+    PixelBuffer(int width, int height);
+
+    std::uint8_t* data() const { return bytes_.get(); }
+
+  private:
+    struct Free {
+        void operator()(std::uint8_t* bytes) const;
+    };
+    std::unique_ptr<std::uint8_t, Free> bytes_;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,62 @@
+#include "core/raster/Rows.h"
+
+#include <algorithm>
+#include <oneapi/tbb/blocked_range.h>
+#include <oneapi/tbb/global_control.h>
+#include <oneapi/tbb/parallel_for.h>
+
+namespace tavrin {
+
+namespace {
+
+// One band between two reports of progress. Every piece asks again before it starts.
+bool runBand(const RunContext& context, int first, int last, int grain, const std::function<void(int, int)>& range) {
+    using Range = oneapi::tbb::blocked_range<int>;
+    std::atomic<bool> stopped = false;
+    oneapi::tbb::parallel_for(Range(first, last, static_cast<std::size_t>(grain)), [&](const Range& piece) {
+        for (int y = piece.begin(); y < piece.end(); y += grain) {
+            if (stopped.load(std::memory_order_relaxed)) return;
+            if (context.isSuperseded()) {
+                stopped.store(true, std::memory_order_relaxed);
+                return;
+            }
+            range(y, std::min(y + grain, piece.end()));
+        }
+    });
+    return !stopped.load();
+}
+
+}  // namespace
+
+bool runRowRanges(const RunContext& context, int rows, int grain, const std::function<void(int, int)>& range) {
+    grain = std::max(grain, 1);
+    const bool reports = context.progress && context.progressRows > 0;
+    const int band = reports ? context.progressRows : std::max(rows, 1);
+    for (int first = 0; first < rows; first += std::min(band, rows - first)) {
+        const int last = first + std::min(band, rows - first);
+        if (!runBand(context, first, last, grain, range)) return false;
+        if (reports) context.progress(first, last);
+    }
+    return true;
+}
+
+bool runRows(const RunContext& context, int rows, int grain, const std::function<void(int)>& row) {
+    return runRowRanges(context, rows, grain,
+                        [&](int first, int last) {
+                            for (int y = first; y < last; ++y) {
+                                if (y != first && context.isSuperseded()) return;
+                                row(y);
+                            }
+                        }) &&
+           !context.isSuperseded();
+}
+
+ThreadLimit::ThreadLimit(int threads)
+    : control_(new oneapi::tbb::global_control(oneapi::tbb::global_control::max_allowed_parallelism,
+                                               static_cast<std::size_t>(std::max(threads, 1)))) {}
+
+ThreadLimit::~ThreadLimit() {
+    delete static_cast<oneapi::tbb::global_control*>(control_);
+}
+
+}  // namespace tavrin

@@ -1,0 +1,68 @@
+#include "core/state/FontObject.h"
+
+namespace tavrin {
+
+std::span<const Leaf<FontObject>> FontObject::leaves() {
+    using G = FontObject;
+    static const Leaf<G> table[] = {
+        TAVRIN_LEAF(G, sFontName),
+        TAVRIN_LEAF(G, isImage),
+        TAVRIN_LEAF(G, iFontSize),
+        TAVRIN_LEAF(G, rectSizeX),
+        TAVRIN_LEAF(G, rectSizeY),
+        TAVRIN_LEAF(G, rectSizeWidth),
+        TAVRIN_LEAF(G, rectSizeHeight),
+        TAVRIN_LEAF(G, sLabelSize),
+        TAVRIN_LEAF(G, sLabelJust),
+        TAVRIN_LEAF(G, sLocation),
+        TAVRIN_LEAF(G, bDropShadow),
+        TAVRIN_LEAF(G, dFontFillRed),
+        TAVRIN_LEAF(G, dFontFillGreen),
+        TAVRIN_LEAF(G, dFontFillBlue),
+        TAVRIN_LEAF(G, dFontOutlineRed),
+        TAVRIN_LEAF(G, dFontOutlineGreen),
+        TAVRIN_LEAF(G, dFontOutlineBlue),
+        TAVRIN_LEAF(G, dFontDropshadowGlowRed),
+        TAVRIN_LEAF(G, dFontDropshadowGlowGreen),
+        TAVRIN_LEAF(G, dFontDropshadowGlowBlue),
+        TAVRIN_LEAF(G, isItallic),
+        TAVRIN_LEAF(G, isBold),
+        TAVRIN_LEAF(G, sLevel),
+        TAVRIN_LEAF(G, iFontDropShadowRadius),
+        TAVRIN_LEAF(G, iFontDropShadowVert),
+        TAVRIN_LEAF(G, iFontDropShadowHorz),
+        TAVRIN_LEAF(G, iFontOutlineThickness),
+        TAVRIN_LEAF(G, sText),
+        TAVRIN_LEAF(G, iJustify),
+        TAVRIN_LEAF(G, sFontColor),
+        TAVRIN_LEAF(G, lFontColor),
+        TAVRIN_LEAF(G, sFontOutlineColor),
+        TAVRIN_LEAF(G, lFontOutlineColor),
+        TAVRIN_LEAF(G, sFontShadowColor),
+        TAVRIN_LEAF(G, lFontShadowColor),
+        TAVRIN_LEAF(G, sFontGlowColor),
+        TAVRIN_LEAF(G, lFontGlowColor),
+        TAVRIN_LEAF(G, dHorzSizeScale),
+        TAVRIN_LEAF(G, dVertSizeScale),
+        TAVRIN_LEAF(G, dTextBackgroundSize),
+        TAVRIN_LEAF(G, dGlobalScaleX),
+        TAVRIN_LEAF(G, dGlobalScaleY),
+        TAVRIN_LEAF(G, xPos),
+        TAVRIN_LEAF(G, yPos),
+        TAVRIN_LEAF(G, dInchWidth),
+        TAVRIN_LEAF(G, dInchHeight),
+        TAVRIN_LEAF(G, dInchBitmapWidth),
+        TAVRIN_LEAF(G, dInchBitmapHeight),
+        TAVRIN_LEAF(G, dInchXPos),
+        TAVRIN_LEAF(G, dInchYPos),
+        TAVRIN_LEAF(G, dInchXOffset),
+        TAVRIN_LEAF(G, dInchYOffset),
+        TAVRIN_LEAF(G, iAngle),
+        TAVRIN_LEAF(G, imageSizeWidth),
+        TAVRIN_LEAF(G, imageSizeHeight),
+        TAVRIN_LEAF(G, dTransparency),
+    };
+    return table;
+}
+
+}  // namespace tavrin

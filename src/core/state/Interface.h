@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <QImage>
+
+namespace tavrin {
+
+/// A part of the picture for the view. The pixels are the receiver's own copy: the engine goes on writing to its
+/// buffers while the view paints.
+struct PublishedRows {
+    QImage pixels;        ///< the rows, RGBA, alpha as the buffer holds it
+    int firstRow = 0;     ///< where they belong
+    int height = 0;       ///< height of the whole picture; its width is that of `pixels`
+    bool lowRes = false;  ///< the preview, not the full picture
+};
+
+/// All that the engine asks of a window. Every operation may be called from the processing thread and must not
+/// wait for the main thread, but for `performAndWait`. The default does nothing, so that the whole engine runs
+/// without a window.
+class Interface {
+  public:
+    virtual ~Interface() = default;
+
+    /// New rows to show; with `lowRes` always the whole preview.
+    virtual void repaint(const PublishedRows&) {}
+    /// A pass begins (false) or a full picture stands (true): save, print, sizes and freeze go with it. The save
+    /// control is called "Return To Lightroom" when the program serves a host application, else "Save".
+    virtual void enableControls(bool /*enabled*/, bool /*hostApplication*/) {}
+    /// The output has a new shape: size the window to it and show the whole picture.
+    virtual void sizeWindow(int /*outputWidth*/, int /*outputHeight*/) {}
+    /// The fit of a layer was worked out anew.
+    virtual void updateScaleUI() {}
+    /// Shows a message with the one button "OK".
+    virtual void showAlert(const std::string& /*message*/) {}
+    /// Runs a job on the main thread and returns when it is done.
+    virtual void performAndWait(const std::function<void()>& job) { job(); }
+
+    /// The airbrush editor is open, and how to close it.
+    virtual bool editorIsOpen() const { return false; }
+    virtual void exitEditorMode() {}
+    /// The mouse is held in the main view, and what it does there (1 and 2 move the foreground).
+    virtual bool mouseDown() const { return false; }
+    virtual int eventMouseMode() const { return 0; }
+};
+
+}  // namespace tavrin

@@ -1,0 +1,68 @@
+#include "core/state/LayerSettings.h"
+
+namespace tavrin {
+
+std::span<const Leaf<LayerSettings>> LayerSettings::leaves() {
+    using G = LayerSettings;
+    static const Leaf<G> table[] = {
+        TAVRIN_LEAF(G, sSourceImageFullPath),
+        TAVRIN_LEAF(G, dOrgScale),
+        TAVRIN_LEAF(G, dOrgXOrg),
+        TAVRIN_LEAF(G, dOrgYOrg),
+        TAVRIN_LEAF(G, dImageScale),
+        TAVRIN_LEAF(G, dImageXOrg),
+        TAVRIN_LEAF(G, dImageYOrg),
+        TAVRIN_LEAF(G, iOrgXoff),
+        TAVRIN_LEAF(G, iOrgYoff),
+        TAVRIN_LEAF(G, iOrgHeight),
+        TAVRIN_LEAF(G, iOrgWidth),
+        TAVRIN_LEAF(G, fOrgScale),
+        TAVRIN_LEAF(G, fScale),
+        TAVRIN_LEAF(G, iOrgScaleSlider),
+        TAVRIN_LEAF(G, iScaleViewScale),
+        TAVRIN_LEAF(G, iContrast),
+        TAVRIN_LEAF(G, iBrightness),
+        TAVRIN_LEAF(G, iBrightnessSat),
+        TAVRIN_LEAF(G, iEnhanseShadows),
+        TAVRIN_LEAF(G, iReduceHighlights),
+        TAVRIN_LEAF(G, iBrightnessSharpen),
+        TAVRIN_LEAF(G, bLimitBloom),
+        TAVRIN_LEAF(G, bDynamicColors),
+        TAVRIN_LEAF(G, iExpScaleSlider),
+        TAVRIN_LEAF(G, bHaveColorChange),
+        TAVRIN_LEAF(G, iRedDelta),
+        TAVRIN_LEAF(G, iGreenDelta),
+        TAVRIN_LEAF(G, iBlueDelta),
+        TAVRIN_LEAF(G, iCooling),
+        TAVRIN_LEAF(G, iWarming),
+        TAVRIN_LEAF(G, iSaturationDelta),
+        TAVRIN_LEAF(G, iIntensityDelta),
+        TAVRIN_LEAF(G, iHueDelta),
+        TAVRIN_LEAF(G, bBlackAndWhite),
+        TAVRIN_LEAF(G, bPreserveLuminosity),
+        TAVRIN_LEAF(G, iColorScaleSlider),
+        TAVRIN_LEAF(G, iComboXoff),
+        TAVRIN_LEAF(G, iComboYoff),
+        TAVRIN_LEAF(G, iComboZoom),
+        TAVRIN_LEAF(G, fComboScale),
+        TAVRIN_LEAF(G, iComboScaleSlider),
+        TAVRIN_LEAF(G, sliderAdjustBaseGreen),
+        TAVRIN_LEAF(G, sliderRemoveGreenAreas),
+        TAVRIN_LEAF(G, sliderRestoredDarkAreas),
+        TAVRIN_LEAF(G, sliderWhiteAdjust),
+        TAVRIN_LEAF(G, sliderGreenTintAreas),
+        TAVRIN_LEAF(G, sliderTransparentcyAdjustment),
+        TAVRIN_LEAF(G, sliderWhiteBalance),
+        TAVRIN_LEAF(G, sliderSolidColor),
+        TAVRIN_LEAF(G, sliderAlphaAdd),
+        TAVRIN_LEAF(G, sliderAlphaRemove),
+        TAVRIN_LEAF(G, bFlipHorz),
+        TAVRIN_LEAF(G, bFlipVert),
+        TAVRIN_LEAF(G, fTilt),
+        TAVRIN_LEAF(G, fRotate),
+        TAVRIN_LEAF_NOT_STORED(G, bShowSelectedAreas),
+    };
+    return table;
+}
+
+}  // namespace tavrin

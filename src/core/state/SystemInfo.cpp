@@ -1,0 +1,85 @@
+#include "core/state/SystemInfo.h"
+
+#include <cstring>
+
+#include "core/Log.h"
+
+namespace tavrin {
+
+SystemInfo::SystemInfo()
+    : pForegroundBitmapInfo(std::make_unique<BitmapInfo>(BitmapInfo::kForeground)),
+      pBackgroundBitmapInfo(std::make_unique<BitmapInfo>(BitmapInfo::kBackground)),
+      pCombinedBitmapInfo(std::make_unique<BitmapInfo>(BitmapInfo::kCombined)),
+      oQLXInfo(std::make_unique<QLXInfo>()),
+      oImageTexture(std::make_unique<ImageTexture>()),
+      oReflectionTexture(std::make_unique<ImageTexture>()),
+      oFrame(std::make_unique<ImageFrame>()),
+      oFrameOverlay(std::make_unique<ImageFrame>()) {
+    pForegroundBitmapInfo->bOrgFileChange = true;
+    pBackgroundBitmapInfo->bOrgFileChange = true;
+    pBackgroundBitmapInfo->bHaveBitmap = true;
+    pCombinedBitmapInfo->bHaveBaseGreen = false;
+
+    FontObject& title = oFontLabelObject[0];
+    title.bDropShadow = true;
+    FontObject& note = oFontLabelObject[1];
+    note.sLabelSize = "Small";
+    note.sLocation = "Bottom Right";
+    note.sFontColor = "Black";
+    note.dFontFillRed = note.dFontFillGreen = note.dFontFillBlue = 0.0;
+}
+
+void SystemInfo::StartUpdate() {
+    {
+        std::lock_guard lock(wakeMutex_);
+        iNewThreadCount = iNewThreadCount + 1;
+        woken_ = true;
+    }
+    wake_.notify_one();
+}
+
+void SystemInfo::waitForUpdate(std::chrono::milliseconds limit) {
+    std::unique_lock lock(wakeMutex_);
+    wake_.wait_for(lock, limit, [this] { return woken_; });
+    woken_ = false;
+}
+
+RunContext SystemInfo::rowsWhileCurrent() const {
+    RunContext context;
+    context.superseded = [this] { return isStale(); };
+    return context;
+}
+
+void SystemInfo::publishFull(int firstRow, int lastRow) {
+    publish(*pCombinedBitmapInfo, false, firstRow, lastRow);
+}
+
+void SystemInfo::publishLowRes() {
+    publish(*pCombinedBitmapInfo, true, 0, iOutputPixelLowResHeight);
+}
+
+void SystemInfo::publish(BitmapInfo& record, bool lowRes, int firstRow, int lastRow) {
+    const std::uint8_t* bytes = lowRes ? record.pBitmapDataLowRes : record.pBitmapData;
+    const int width = lowRes ? iOutputPixelLowResWidth : iOutputPixelWidth;
+    const int height = lowRes ? iOutputPixelLowResHeight : iOutputPixelHeight;
+    if (!pInterface || !bytes || lastRow <= firstRow) return;
+
+    PublishedRows rows;
+    rows.pixels = QImage(width, lastRow - firstRow, QImage::Format_RGBA8888);
+    if (rows.pixels.isNull()) return;
+    std::memcpy(rows.pixels.bits(), bytes + pixelOffset(width, 0, firstRow), pixelBytes(width, lastRow - firstRow));
+    rows.firstRow = firstRow;
+    rows.height = height;
+    rows.lowRes = lowRes;
+    pInterface->repaint(rows);
+}
+
+void SystemInfo::alert(const std::string& message) {
+    if (pInterface) {
+        pInterface->showAlert(message);
+    } else {
+        logError(message);
+    }
+}
+
+}  // namespace tavrin

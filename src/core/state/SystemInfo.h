@@ -1,0 +1,99 @@
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+
+#include "core/raster/Rows.h"
+#include "core/state/BitmapInfo.h"
+#include "core/state/EffectSettings.h"
+#include "core/state/Interface.h"
+#include "core/state/KeySettings.h"
+#include "core/state/PageSettings.h"
+#include "core/state/QLXInfo.h"
+#include "core/state/RunState.h"
+
+namespace tavrin {
+
+/// Every setting that a state file or a command line can name.
+class Settings : public GuardSettings,
+                 public GlobalSmoothingSettings,
+                 public StarFilterSettings,
+                 public OutputGeometry,
+                 public EasySettings,
+                 public SelectionSettings,
+                 public BlurSettings,
+                 public ClipSettings,
+                 public OutputModeSettings,
+                 public ShadowSettings,
+                 public OverlaySettings,
+                 public CartoonSettings,
+                 public KeyOutputSettings,
+                 public EventSettings,
+                 public SkinSettings,
+                 public LightingSettings,
+                 public SilhouetteSettings,
+                 public ReflectionSettings {
+  public:
+    /// The leaves of all groups, in the order of the state file.
+    static std::span<const Leaf<Settings>> leaves();
+};
+
+/// The central state: every setting, every record and every list of the running program. Whoever changes a
+/// picture writes a field, raises the record's flag when a stage before the key must run again, and calls
+/// `StartUpdate`. The groups, and what their fields mean, stand in the headers above.
+///
+/// Two live at run time: the one that the interface edits and the processing thread serves, and the one of event
+/// mode, which has no thread and is driven by `loadAndCombineFiles`. They share nothing.
+class SystemInfo : public Settings,
+                   public ScreenColor,
+                   public HairColors,
+                   public ViewState,
+                   public PageState,
+                   public TextState,
+                   public StageState,
+                   public LoopState,
+                   public ReplayState,
+                   public ModeState {
+  public:
+    /// A state with all defaults and three empty records. Files are read by `startSystem` of the pipeline.
+    SystemInfo();
+    SystemInfo(const SystemInfo&) = delete;
+    SystemInfo& operator=(const SystemInfo&) = delete;
+
+    /// Asks for a new picture. Callable from any thread, never waits.
+    void StartUpdate();
+    /// Waits until `StartUpdate` was called since the last wait, at most `limit`. For the processing thread.
+    void waitForUpdate(std::chrono::milliseconds limit);
+
+    /// A newer picture is wanted than the one under work, or the work has been overtaken.
+    bool isStale() const { return iCurrentThreadCount != iNewThreadCount; }
+    /// What the rows of a stage listen to: they stop when the state is stale.
+    RunContext rowsWhileCurrent() const;
+
+    /// Hands rows [first, last) of the combined picture to the interface, if there is one.
+    void publishFull(int firstRow, int lastRow);
+    /// Hands the whole combined preview to the interface, if there is one.
+    void publishLowRes();
+
+    /// Shows an alert in the interface; without one the message goes to the standard error stream.
+    void alert(const std::string& message);
+
+    SystemInfo* const pMySystemInfo = this;
+    Interface* pInterface = nullptr;  ///< the window, not owned; null is fine
+
+    const std::unique_ptr<BitmapInfo> pForegroundBitmapInfo, pBackgroundBitmapInfo, pCombinedBitmapInfo;
+    const std::unique_ptr<QLXInfo> oQLXInfo;
+    const std::unique_ptr<ImageTexture> oImageTexture, oReflectionTexture;
+    const std::unique_ptr<ImageFrame> oFrame, oFrameOverlay;
+
+  private:
+    void publish(BitmapInfo& record, bool lowRes, int firstRow, int lastRow);
+
+    std::mutex wakeMutex_;
+    std::condition_variable wake_;
+    bool woken_ = false;
+};
+
+}  // namespace tavrin
