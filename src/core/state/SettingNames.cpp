@@ -1,0 +1,159 @@
+#include "core/state/SettingNames.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string_view>
+
+#include "core/state/SystemInfo.h"
+
+namespace tavrin {
+
+namespace {
+
+/// Calls visit(prefix, object) for everything that has settings, in the order of the state file.
+template <class Info, class Visit>
+void visitObjects(Info& info, Visit&& visit) {
+    visit("", info, Settings::leaves());
+    visit("foreground.", *info.pForegroundBitmapInfo, LayerSettings::leaves());
+    visit("background.", *info.pBackgroundBitmapInfo, LayerSettings::leaves());
+    visit("combined.", *info.pCombinedBitmapInfo, LayerSettings::leaves());
+    for (std::size_t i = 0; i < info.oFontLabelObject.size(); ++i)
+        visit("label" + std::to_string(i) + ".", info.oFontLabelObject[i], FontObject::leaves());
+    for (std::size_t i = 0; i < info.oFontObject.size(); ++i)
+        visit("text" + std::to_string(i) + ".", info.oFontObject[i], FontObject::leaves());
+    visit("texture.", *info.oImageTexture, ImageTexture::leaves());
+    visit("frame.", *info.oFrame, ImageFrame::leaves());
+    visit("frame.texture.", info.oFrame->oTexture, ImageTexture::leaves());
+    visit("frameOverlay.", *info.oFrameOverlay, ImageFrame::leaves());
+    visit("frameOverlay.texture.", info.oFrameOverlay->oTexture, ImageTexture::leaves());
+    visit("reflectionTexture.", *info.oReflectionTexture, ImageTexture::leaves());
+}
+
+std::string lowerCase(std::string_view text) {
+    std::string lower(text);
+    for (char& c : lower)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return lower;
+}
+
+template <class Number>
+bool readNumber(std::string_view text, Number& number) {
+    if (text.starts_with('+')) text.remove_prefix(1);
+    const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return problem == std::errc() && end == text.data() + text.size();
+}
+
+/// What a field of this type takes, in words.
+template <class T>
+std::string takes() {
+    if constexpr (std::is_same_v<T, bool>) return "0 or 1 (true, false, yes, no, on, off)";
+    if constexpr (std::is_same_v<T, double>) return "a number";
+    return "a whole number from " + std::to_string(std::numeric_limits<T>::min()) + " to " +
+           std::to_string(std::numeric_limits<T>::max());
+}
+
+bool parse(const std::string& text, bool& value) {
+    const std::string word = lowerCase(text);
+    value = word == "1" || word == "true" || word == "yes" || word == "on";
+    return value || word == "0" || word == "false" || word == "no" || word == "off";
+}
+bool parse(const std::string& text, double& value) {
+    return readNumber(text, value) && std::isfinite(value);
+}
+bool parse(const std::string& text, std::int32_t& value) {
+    return readNumber(text, value);
+}
+bool parse(const std::string& text, std::int64_t& value) {
+    return readNumber(text, value);
+}
+
+template <class T>
+std::string assign(Field<T>& field, const std::string& name, const std::string& text) {
+    if constexpr (std::is_same_v<T, std::string>) {
+        field = text;
+    } else {
+        T value{};
+        if (!parse(text, value)) return name + " takes " + takes<T>() + ", not \"" + text + "\"";
+        field = value;
+    }
+    return "";
+}
+
+std::string show(const std::string& value) {
+    return value;
+}
+std::string show(bool value) {
+    return value ? "1" : "0";
+}
+template <class Number>
+std::string show(Number value) {
+    char digits[400];  // a double of full size has 309 digits before its point
+    const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    return std::string(digits, end);
+}
+
+/// Number of single letters to change, put in or take out to make one word of the other (Levenshtein 1966).
+std::size_t editDistance(const std::string& a, const std::string& b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    for (std::size_t j = 0; j <= b.size(); ++j)
+        row[j] = j;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t changed = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
+            diagonal = row[j];
+            row[j] = std::min({changed, row[j] + 1, row[j - 1] + 1});
+        }
+    }
+    return row[b.size()];
+}
+
+/// The name most like a wrong one: by its whole, or by its last word when the object's name was left out.
+std::string nearestName(const SystemInfo& info, const std::string& wrong) {
+    constexpr std::size_t kLongestName = 100;  // a longer one is no slip of the fingers
+    const std::string wanted = lowerCase(std::string_view(wrong).substr(0, kLongestName));
+    std::string nearest;
+    std::size_t least = std::numeric_limits<std::size_t>::max();
+    visitObjects(info, [&](const std::string& prefix, const auto&, auto leaves) {
+        for (const auto& leaf : leaves) {
+            const std::size_t distance = std::min(editDistance(wanted, lowerCase(prefix + leaf.key)),
+                                                  editDistance(wanted, lowerCase(leaf.key)));
+            if (distance >= least) continue;
+            least = distance;
+            nearest = prefix + leaf.key;
+        }
+    });
+    return nearest;
+}
+
+}  // namespace
+
+std::string setField(SystemInfo& info, const std::string& name, const std::string& value) {
+    bool found = false;
+    std::string problem;
+    visitObjects(info, [&](const std::string& prefix, auto& object, auto leaves) {
+        if (found || !name.starts_with(prefix)) return;
+        const auto* leaf = findLeaf(leaves, name.substr(prefix.size()));
+        if (!leaf) return;
+        found = true;
+        std::visit([&](auto member) { problem = assign(object.*member, name, value); }, leaf->member);
+    });
+    if (!found) return "There is no field " + name + "; did you mean " + nearestName(info, name) + "?";
+    return problem;
+}
+
+std::vector<std::pair<std::string, std::string>> listFields(const SystemInfo& info) {
+    std::vector<std::pair<std::string, std::string>> fields;
+    visitObjects(info, [&](const std::string& prefix, const auto& object, auto leaves) {
+        for (const auto& leaf : leaves)
+            std::visit([&](auto member) { fields.emplace_back(prefix + leaf.key, show((object.*member).load())); },
+                       leaf.member);
+    });
+    return fields;
+}
+
+}  // namespace tavrin

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tavrin {
+
+class SystemInfo;
+
+// Settings by name, for the command line. A setting of the central state has its own name; one of an object has that
+// object's name and a full stop before it:
+//   foreground. background. combined.      the three records
+//   label0. label1. label2.                the built-in labels
+//   text0. text1. ...                      the items of the text and picture list, as many as there are
+//   texture. reflectionTexture.            texture of the picture and of the reflection
+//   frame. frameOverlay.                   the frames, and frame.texture. frameOverlay.texture. inside them
+
+/// Gives a setting a new value. Integers and decimals are written the C way whatever the locale; a boolean is one of
+/// 0 1 true false yes no on off.
+/// @return "" when done; otherwise one plain line that names the field and what it takes, and nothing is changed
+std::string setField(SystemInfo& info, const std::string& name, const std::string& value);
+
+/// Every setting with its value, in the order of the state file; the ones that the file does not hold included. What
+/// stands there is what `setField` takes: decimals have as many digits as they need.
+std::vector<std::pair<std::string, std::string>> listFields(const SystemInfo& info);
+
+}  // namespace tavrin
