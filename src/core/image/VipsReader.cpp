@@ -1,0 +1,185 @@
+#include "core/image/VipsReader.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <fstream>
+
+#include "core/image/SrgbConversion.h"
+
+namespace tavrin {
+
+namespace {
+
+/// The loaders stop with an error where the data ends too early, and mend what they can otherwise.
+constexpr VipsFailOn kFailOn = VIPS_FAIL_ON_TRUNCATED;
+
+bool readWhole(const std::string& path, std::vector<std::uint8_t>& bytes) {
+    std::ifstream file(path, std::ios::binary);
+    std::error_code error;
+    const auto size = std::filesystem::file_size(path, error);
+    if (!file || error) return false;
+    bytes.resize(size);
+    file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size));
+    return file.gcount() == static_cast<std::streamsize>(size);
+}
+
+// The general decoder goes by what it sees: it gets the bytes alone, which begin as a PSD or BMP file does, and no
+// name from which it might conclude something else.
+VipsRef loadFromMemory(const std::string& path, std::vector<std::uint8_t>& bytes) {
+    VipsImage* image = nullptr;
+    if (!readWhole(path, bytes)) return nullptr;
+    return takeVips(vips_magickload_buffer(bytes.data(), bytes.size(), &image, "fail_on", kFailOn, nullptr), image);
+}
+
+using Loader = int (*)(const char*, VipsImage**, ...);
+
+VipsRef loadFile(Loader loader, const std::string& path) {
+    VipsImage* image = nullptr;
+    const int status = loader(path.c_str(), &image, "access", VIPS_ACCESS_SEQUENTIAL, "fail_on", kFailOn, nullptr);
+    return takeVips(status, image);
+}
+
+VipsRef load(const std::string& path, FileKind kind, std::vector<std::uint8_t>& bytes) {
+    switch (kind) {
+        case FileKind::jpeg:
+            return loadFile(vips_jpegload, path);
+        case FileKind::png:
+            return loadFile(vips_pngload, path);
+        case FileKind::tiff:
+            return loadFile(vips_tiffload, path);
+        case FileKind::gif:
+            return loadFile(vips_gifload, path);
+        case FileKind::webp:
+            return loadFile(vips_webpload, path);
+        case FileKind::heif:
+            return loadFile(vips_heifload, path);
+        case FileKind::bmp:
+        case FileKind::psd:
+            return loadFromMemory(path, bytes);
+        default:
+            return nullptr;
+    }
+}
+
+std::string decodeError() {
+    const std::string reason = takeVipsError();
+    return "it is damaged or cut short" + (reason.empty() ? reason : " (" + reason + ")");
+}
+
+/// Takes finished rows of the decoder and lays them, upright and as RGBA, into the result.
+class RowSink {
+  public:
+    RowSink(QImage& target, int orientation, int width, int height) {
+        const std::ptrdiff_t pixel = 4, row = target.bytesPerLine();
+        const bool turned = orientation >= 5;
+        // Which way the stored columns and rows run in the upright picture.
+        const bool mirrorX = orientation == 2 || orientation == 3 || orientation == 7 || orientation == 8;
+        const bool mirrorY = orientation == 3 || orientation == 4 || orientation == 6 || orientation == 7;
+        stepX_ = (turned ? row : pixel) * (mirrorX ? -1 : 1);
+        stepY_ = (turned ? pixel : row) * (mirrorY ? -1 : 1);
+        first_ = target.bits() + (mirrorX ? -stepX_ * (width - 1) : 0) + (mirrorY ? -stepY_ * (height - 1) : 0);
+    }
+
+    static int write(VipsRegion* region, VipsRect* area, void* self) {
+        const auto* sink = static_cast<const RowSink*>(self);
+        switch (region->im->Bands) {
+            case 1:
+                sink->copy<1>(region, *area);
+                break;
+            case 2:
+                sink->copy<2>(region, *area);
+                break;
+            case 3:
+                sink->copy<3>(region, *area);
+                break;
+            default:
+                sink->copy<4>(region, *area);
+                break;
+        }
+        return 0;
+    }
+
+  private:
+    template <int Bands>
+    static void copyPixel(const VipsPel* from, std::uint8_t* to) {
+        to[0] = from[0];
+        to[1] = from[Bands > 2 ? 1 : 0];
+        to[2] = from[Bands > 2 ? 2 : 0];
+        to[3] = Bands % 2 ? 255 : from[Bands - 1];
+    }
+
+    template <int Bands>
+    void copy(VipsRegion* region, const VipsRect& area) const {
+        const std::ptrdiff_t pel = static_cast<std::ptrdiff_t>(VIPS_IMAGE_SIZEOF_PEL(region->im));
+        const std::ptrdiff_t line = static_cast<std::ptrdiff_t>(VIPS_REGION_LSKIP(region));
+        const VipsPel* from = VIPS_REGION_ADDR(region, area.left, area.top);
+        std::uint8_t* to = first_ + area.left * stepX_ + area.top * stepY_;
+        // The inner loop runs along the rows of the result, so that a turned picture is not written byte by byte
+        // all over its memory.
+        const bool turned = stepY_ == 4 || stepY_ == -4;
+        const int outer = turned ? area.width : area.height, inner = turned ? area.height : area.width;
+        const std::ptrdiff_t fromOuter = turned ? pel : line, fromInner = turned ? line : pel;
+        const std::ptrdiff_t toOuter = turned ? stepX_ : stepY_, toInner = turned ? stepY_ : stepX_;
+        for (int o = 0; o < outer; ++o) {
+            const VipsPel* in = from + o * fromOuter;
+            std::uint8_t* out = to + o * toOuter;
+            for (int i = 0; i < inner; ++i, in += fromInner, out += toInner)
+                copyPixel<Bands>(in, out);
+        }
+    }
+
+    std::uint8_t* first_;  ///< where the stored picture's first pixel lies
+    std::ptrdiff_t stepX_, stepY_;
+};
+
+}  // namespace
+
+std::vector<std::uint8_t> vipsBlob(VipsImage* image, const char* name) {
+    const void* data = nullptr;
+    std::size_t size = 0;
+    if (!vips_image_get_typeof(image, name) || vips_image_get_blob(image, name, &data, &size) != 0) return {};
+    const auto* bytes = static_cast<const std::uint8_t*>(data);
+    return {bytes, bytes + size};
+}
+
+OpenPicture openWithVips(const std::string& path, FileKind kind) {
+    OpenPicture open;
+    if (!startVips()) {
+        open.error = "the image library cannot be started";
+        return open;
+    }
+    open.image = load(path, kind, open.bytes);
+    if (!open.image) {
+        open.error = decodeError();
+        return open;
+    }
+    open.error = sizeError(open.image->Xsize, open.image->Ysize);
+    if (!open.error.empty()) open.image.reset();
+    return open;
+}
+
+QImage decodeWithVips(VipsImage* image, std::string& error) {
+    const int orientation = vips_image_get_orientation(image), width = image->Xsize, height = image->Ysize;
+    const VipsRef srgb = toSrgb(image);
+    if (!srgb) {
+        error = decodeError();
+        return {};
+    }
+    const bool turned = orientation >= 5;
+    const bool alpha = srgb->Bands % 2 == 0 || srgb->Bands > 4;
+    QImage result(turned ? height : width, turned ? width : height,
+                  alpha ? QImage::Format_RGBA8888 : QImage::Format_RGBA8888_Premultiplied);
+    if (result.isNull()) {
+        error = "there is not enough memory for it";
+        return {};
+    }
+    RowSink sink(result, orientation, width, height);
+    if (vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0) {
+        error = decodeError();
+        return {};
+    }
+    if (alpha) result.convertTo(QImage::Format_RGBA8888_Premultiplied);
+    return result;
+}
+
+}  // namespace tavrin

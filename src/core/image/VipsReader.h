@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <QImage>
+
+#include "core/image/FileKind.h"
+#include "core/image/Vips.h"
+
+namespace tavrin {
+
+/// A picture file whose header has been read and found sound; its pixels have not been decoded.
+struct OpenPicture {
+    std::vector<std::uint8_t> bytes;  ///< the file, for the decoders that want it whole
+    VipsRef image;                    ///< null on failure
+    std::string error;                ///< one plain line, empty on success
+};
+
+/// Opens a file of any kind but raw for one pass from top to bottom, with its size checked.
+OpenPicture openWithVips(const std::string& path, FileKind kind);
+
+/// Decodes an open picture: upright, sRGB, RGBA8888_Premultiplied. Beside the result only some rows are in memory,
+/// but for interlaced and progressive files.
+/// @return null on failure, with the reason in `error`
+QImage decodeWithVips(VipsImage* image, std::string& error);
+
+/// A block of metadata of an open picture (VIPS_META_EXIF_NAME, VIPS_META_ICC_NAME); empty when there is none.
+std::vector<std::uint8_t> vipsBlob(VipsImage* image, const char* name);
+
+}  // namespace tavrin
