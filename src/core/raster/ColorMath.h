@@ -6,12 +6,19 @@
 namespace tavrin {
 
 /// Truncates a colour value to a byte, holding it within 0 to 255. Every write of a computed colour goes here.
+/// What is no number becomes 0.
 inline std::uint8_t toByte(double value) {
-    return static_cast<std::uint8_t>(value <= 0.0 ? 0 : value >= 255.0 ? 255 : static_cast<int>(value));
+    return static_cast<std::uint8_t>(value >= 255.0 ? 255 : value > 0.0 ? static_cast<int>(value) : 0);
 }
 
+/// The value, or the lower limit where it is below it or no number.
+inline double atLeast(double value, double low) {
+    return value >= low ? value : low;
+}
+
+/// The value held within the limits; what is no number becomes the lower one.
 inline double clampTo(double value, double low, double high) {
-    return value < low ? low : (value > high ? high : value);
+    return value >= low ? (value > high ? high : value) : low;
 }
 
 /// A colour with doubles on the 0 to 255 scale, in real channels or in roles.

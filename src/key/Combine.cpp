@@ -1,0 +1,107 @@
+#include "key/Combine.h"
+
+#include <algorithm>
+
+#include "key/KeyJoins.h"
+#include "key/SilhouettePicture.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kGrainRows = 4;
+
+// One pixel after the key: the rest of its way to the buffers.
+void finishPixel(const CombineParams& params, const KeyedPixel& pixel, int x, int y) {
+    const FinishConstants& finish = params.finish;
+    const std::size_t index =
+        static_cast<std::size_t>(y) * static_cast<std::size_t>(params.size.width) + static_cast<std::size_t>(x);
+    const std::int32_t gain = finish.light.values ? finish.light.values[index] : 0;
+    std::uint8_t* background = params.background + index * kPixelBytes;
+    std::uint8_t* out = params.combined + index * kPixelBytes;
+
+    const Rgb foreground = finishForeground(finish, pixel.color, x, y);
+    Rgb shown = foreground;
+    double alpha = pixel.alpha;
+    showGuard(params, shown, alpha, x, y);
+    if (pixel.inClipMargin) alpha = 0.0;
+
+    out[3] = 255;
+    if (finish.transparent) {
+        writeTransparent(finish, foreground, alpha, out);
+    } else {
+        const Rgb behind = finishBackground(finish, background, x, y, gain);
+        writeColor(finish.blueLogic, blendPixel(finish, shown, behind, alpha, gain), out);
+    }
+    background[3] = toByte(alpha * 255.0);
+}
+
+void combineRow(const CombineParams& params, int y) {
+    const GridStep row = gridStep(y, params.size.height);
+    const std::uint8_t* foreground = params.foreground + pixelOffset(params.size.width, 0, y);
+    for (int x = 0; x < params.size.width; ++x, foreground += kPixelBytes) {
+        KeyedPixel pixel = decidePixel(params.key, foreground, x, y, row);
+        correctHair(params, pixel, x, y);
+        overrideByGuard(params, pixel, x, y);
+        finishPixel(params, pixel, x, y);
+    }
+}
+
+// The one thing that pixels hand on to those after them, found beforehand so that rows can run in any order.
+bool searchBrightGrey(const RunContext& context, CombineParams& params) {
+    if (!params.key.showOrgImage || !params.key.showBright) return true;
+    const std::int64_t width = params.size.width;
+    std::atomic<std::int64_t> first = params.key.firstBrightGrey;
+    const bool finished = runRows(context, params.size.height, kGrainRows, [&](int y) {
+        if (y * width > first.load()) return;
+        const int x = findBrightGrey(params.key, params.foreground + pixelOffset(params.size.width, 0, y));
+        if (x == width) return;
+        std::int64_t known = first.load();
+        while (y * width + x < known && !first.compare_exchange_weak(known, y * width + x)) {
+        }
+    });
+    params.key.firstBrightGrey = first;
+    return finished;
+}
+
+// What a full-resolution run listens to and tells on its way.
+RunContext fullRun(SystemInfo& info, int height) {
+    RunContext context = info.rowsWhileCurrent();
+    context.progressRows = std::max(height / 10, 1);
+    context.progress = [&info](int first, int last) {
+        info.bShowLowRes = false;
+        info.publishFull(first, last);
+    };
+    return context;
+}
+
+}  // namespace
+
+void Combine(SystemInfo& info, int /*ignored*/, int hiRes, const CombineInputs& inputs) {
+    const RunSize size = runSize(info, hiRes);
+    if (size.width < 1 || size.height < 1) return;
+    CombineParams params = makeCombineParams(info, hiRes, inputs);
+    if (!params.foreground || !params.background || !params.combined) return;
+
+    buildGreenGuard(info, params);
+    QImage silhouette;
+    if (!loadSilhouette(info, params, silhouette)) return;
+
+    const RunContext context = hiRes == 0 ? RunContext{} : fullRun(info, size.height);
+    RunContext quiet = context;
+    quiet.progress = nullptr;
+    if (!searchBrightGrey(quiet, params)) return;
+    runRows(context, size.height, kGrainRows, [&](int y) { combineRow(params, y); });
+}
+
+void Combine(SystemInfo& info, int ignored, int hiRes) {
+    const RunSize size = runSize(info, hiRes);
+    CombineInputs inputs;
+    if (size.width > 0 && size.height > 0 &&
+        info.oLightingMap.size() == static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height)) {
+        inputs.lightingMap = info.oLightingMap.data();
+    }
+    Combine(info, ignored, hiRes, inputs);
+}
+
+}  // namespace tavrin

@@ -1,0 +1,122 @@
+#include "key/CombineParams.h"
+
+namespace tavrin {
+
+namespace {
+
+// Sliders are 32-bit numbers of any value; their arithmetic is done in doubles.
+double number(const Field<std::int32_t>& field) {
+    return field.load();
+}
+
+double removeGain(double slider) {
+    const double gain = (slider - 100.0) / 50.0 + 1.0;
+    return gain < 1.0 ? (slider + 1.0) / 100.0 : gain;
+}
+
+ClipMargins makeClip(const SystemInfo& info, RunSize size) {
+    const auto margin = [](std::int64_t percent, std::int64_t length) { return percent * length / 100; };
+    return {margin(info.iSliderClipLeft, size.width), margin(info.iSliderClipRight, size.width),
+            margin(info.iSliderClipTop, size.height), margin(info.iSliderClipBottom, size.height)};
+}
+
+// Needs the white balance, which the global screen colour goes through.
+void makeScreen(const SystemInfo& info, KeyConstants& key) {
+    ScreenField& screen = key.screen;
+    screen.scale = number(info.pCombinedBitmapInfo->sliderAdjustBaseGreen) / 100.0;
+    screen.local = info.bUseAdaptiveBackgroundGreen;
+    if (!screen.local) {
+        screen.global = balanceScreen(key, {info.baseRed, info.baseGreen, info.baseBlue});
+        return;
+    }
+    for (std::size_t i = 0; i < screen.cells.size(); ++i) {
+        screen.cells[i] = {info.iBaseRedArray[i], info.iBaseGreenArray[i], info.iBaseBlueArray[i]};
+    }
+    screen.columns.resize(static_cast<std::size_t>(key.width));
+    for (int x = 0; x < key.width; ++x)
+        screen.columns[static_cast<std::size_t>(x)] = gridStep(x, key.width);
+}
+
+KeyConstants makeKey(const SystemInfo& info, RunSize size) {
+    const BitmapInfo& sliders = *info.pCombinedBitmapInfo;
+    const double tint = number(sliders.sliderGreenTintAreas);
+    const double balance = number(sliders.sliderWhiteBalance) - 100.0;
+    const double darkAreas = number(sliders.sliderRestoredDarkAreas);
+
+    KeyConstants key;
+    key.width = size.width;
+    key.height = size.height;
+    key.blueLogic = info.bUseBlueLogic;
+    key.showOrgImage = info.bShowOrgImage;
+    key.showBright = info.bShowBright;
+    key.showSelectedAreas = sliders.bShowSelectedAreas;
+    key.whiteBalanceU = balance * -0.5;
+    key.whiteBalanceV = balance;
+    key.k = 2.0 - info.baseGreen / 255.0;
+    key.darkChroma = darkAreas * 0.15;
+    key.darkLimit = darkAreas * 2.0;
+    key.transShift = (number(sliders.sliderTransparentcyAdjustment) - 100.0) / 100.0;
+    key.removeGain = removeGain(number(sliders.sliderRemoveGreenAreas));
+    key.search = {tint - 100.0, 200.0 - tint, !key.blueLogic};
+    key.clip = makeClip(info, size);
+    makeScreen(info, key);
+    return key;
+}
+
+WhiteAdjust makeWhite(const SystemInfo& info) {
+    const double wide = number(info.pCombinedBitmapInfo->sliderWhiteAdjust) * 10.0;
+    return {!info.bShowOrgImage, number(info.pCombinedBitmapInfo->sliderWhiteAdjust), wide, wide / 2000.0,
+            2000.0 - wide};
+}
+
+FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params, const CombineInputs& inputs) {
+    const BitmapInfo &foreground = *info.pForegroundBitmapInfo, &background = *info.pBackgroundBitmapInfo;
+    const auto [width, height] = params.size;
+    const std::int32_t lightingMode = info.iLightingMode, applyTo = info.iLightingApplyTo;
+
+    FinishConstants finish;
+    finish.blueLogic = info.bUseBlueLogic;
+    finish.foregroundTone = makeTone(foreground, ToneLayer::kForeground, params.foreground, width, height);
+    finish.backgroundTone = makeTone(background, ToneLayer::kBackground, params.background, width, height);
+    finish.white = makeWhite(info);
+    finish.foregroundMode = info.iForegroundOutputMode;
+    finish.backgroundMode = info.iBackgroundOutputMode;
+    finish.silhouette.on = info.bOutputSilhouette || finish.foregroundMode == kModeSilhouette;
+    finish.silhouette.color = {number(info.iSilhouetteRed), number(info.iSilhouetteGreen),
+                               number(info.iSilhouetteBlue)};
+    finish.foregroundDelta = {number(foreground.iRedDelta), number(foreground.iGreenDelta),
+                              number(foreground.iBlueDelta)};
+    finish.backgroundDelta = {number(background.iRedDelta), number(background.iGreenDelta),
+                              number(background.iBlueDelta)};
+    finish.light.values = lightingMode != 0 ? inputs.lightingMap : nullptr;
+    finish.light.onBackground = lightingMode == 4 || applyTo == 2;
+    finish.light.byAlpha = applyTo == 1;
+    // A background that may take the light goes through its chain even when all its settings are neutral.
+    finish.backgroundTone.active = finish.backgroundTone.active || finish.light.onBackground;
+    finish.transparent = info.bOutputTransparency || finish.foregroundMode == kModeSilhouette;
+    finish.showOrgImage = info.bShowOrgImage;
+    return finish;
+}
+
+}  // namespace
+
+RunSize runSize(const SystemInfo& info, int hiRes) {
+    if (hiRes == 0) return {info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight};
+    return {info.iOutputPixelWidth, info.iOutputPixelHeight};
+}
+
+CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const CombineInputs& inputs) {
+    const auto buffer = [hiRes](const BitmapInfo& record) {
+        return hiRes == 0 ? record.pBitmapDataLowRes : record.pBitmapData;
+    };
+    CombineParams params;
+    params.size = runSize(info, hiRes);
+    params.foreground = buffer(*info.pForegroundBitmapInfo);
+    params.background = buffer(*info.pBackgroundBitmapInfo);
+    params.combined = buffer(*info.pCombinedBitmapInfo);
+    params.key = makeKey(info, params.size);
+    params.finish = makeFinish(info, params, inputs);
+    return params;
+}
+
+}  // namespace tavrin

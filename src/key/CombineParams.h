@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/state/SystemInfo.h"
+#include "key/KeyDecision.h"
+#include "key/PixelFinish.h"
+
+namespace tavrin {
+
+/// What a caller hands to a run beside the state.
+struct CombineInputs {
+    /// Light over the picture: one value for each pixel of the run's size, gain in thousandths. Used when
+    /// `iLightingMode` is not 0; null is no light.
+    const std::int32_t* lightingMap = nullptr;
+};
+
+/// The size of a run's buffers.
+struct RunSize {
+    int width = 0, height = 0;
+};
+
+/// Everything that a row of the key reads, fixed for a run.
+struct CombineParams {
+    RunSize size;
+    const std::uint8_t* foreground = nullptr;  ///< the three buffers: RGBA, rows packed, `size` each
+    std::uint8_t* background = nullptr;        ///< only its alpha bytes are written
+    std::uint8_t* combined = nullptr;
+    KeyConstants key;
+    FinishConstants finish;
+};
+
+/// Size of the preview (hiRes 0) or of the full output.
+RunSize runSize(const SystemInfo& info, int hiRes);
+
+/// Reads the state once. The silhouette's picture is not loaded and `firstBrightGrey` not searched here.
+CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const CombineInputs& inputs);
+
+}  // namespace tavrin

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/raster/ColorMath.h"
+
+namespace tavrin {
+
+class BitmapInfo;
+
+/// The two layers go through one chain with a few differences.
+enum class ToneLayer { kForeground, kBackground };
+
+/// The tone adjustments of a layer, the same for every pixel of a run.
+struct ToneConstants {
+    ToneLayer layer = ToneLayer::kForeground;
+    bool active = false;  ///< the chain has anything to do
+
+    bool cools = false, warms = false;
+    double cooling = 0.0, warming = 0.0;  ///< strength of the photo filters, 0 to 1
+
+    double sharpen = 0.0;                  ///< below 1 is off; 50 doubles a pixel's distance from its surroundings
+    const std::uint8_t* pixels = nullptr;  ///< the layer's buffer, read for the surroundings; RGBA, rows packed
+    int width = 0, height = 0;
+
+    double shadowRate = 0.0, shadowNorm = 1.0;  ///< of the curve that lifts the darks
+    double gain = 50.0;                         ///< contrast, 50 is neutral
+    double brightness = 0.0;
+    double floor = 0.0;       ///< level to which black is lifted
+    double highlights = 1.0;  ///< slope of the brights
+};
+
+/// The constants for a layer whose buffer has `pixels` of width x height. Its chain is active where a setting is
+/// away from neutral.
+ToneConstants makeTone(const BitmapInfo& record, ToneLayer layer, const std::uint8_t* pixels, int width, int height);
+
+/// Photo filters, sharpen, shadow lift, contrast and highlight reduction of a colour at (x, y): real channels for
+/// the background, roles for the foreground. `light` is a factor for the background's lighting, 1 where there is
+/// none. The background comes out with no channel above 255; the foreground is limited by the caller. Channels may
+/// come out negative.
+void adjustTone(const ToneConstants& tone, Rgb& color, int x, int y, double light);
+
+/// Holds the hue of a colour that is too bright, in the order red, green, blue.
+void limitTone(Rgb& color);
+
+}  // namespace tavrin
