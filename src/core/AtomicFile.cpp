@@ -1,0 +1,144 @@
+#include "core/AtomicFile.h"
+
+#include <atomic>
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace tavrin {
+
+namespace {
+
+// Unique among the processes and calls of this machine.
+std::string hiddenName() {
+    static std::atomic<std::uint32_t> counter = 0;
+    return ".tavrin-" + std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".part";
+}
+
+std::string plainReason(int code, const std::string& folder) {
+    switch (code) {
+        case ENOENT:
+            return "the folder " + folder + " does not exist";
+        case ENOTDIR:
+            return folder + " is not a folder";
+        case EACCES:
+        case EPERM:
+            return "no permission to write into the folder " + folder;
+        case EROFS:
+            return "the folder " + folder + " can only be read";
+        case ENOSPC:
+        case EDQUOT:
+            return "the disk is full";
+        case EFBIG:
+            return "the file would be larger than this disk allows";
+        case EISDIR:
+            return "there is a folder of that name";
+        case ENAMETOOLONG:
+            return "the name is too long";
+        default:
+            return std::strerror(code);
+    }
+}
+
+// Where a link leads to; the path itself where it is none.
+fs::path followLink(const fs::path& path) {
+    std::error_code error;
+    const fs::path target = fs::weakly_canonical(path, error);
+    return error || !fs::is_symlink(path, error) ? path : target;
+}
+
+}  // namespace
+
+AtomicFile::AtomicFile(const std::string& target) {
+    const fs::path path = followLink(target);
+    target_ = path.string();
+    folder_ = path.has_parent_path() ? path.parent_path().string() : ".";
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (fs::is_directory(status) || !path.has_filename()) {
+        fail(EISDIR);
+        return;
+    }
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        error_ = target_ + " is not a plain file";
+        return;
+    }
+    hidden_ = (path.parent_path() / hiddenName()).string();
+    file_ = ::open(hidden_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (file_ < 0) {
+        fail(errno);
+    } else if (fs::exists(status)) {
+        ::fchmod(file_, static_cast<mode_t>(status.permissions() & fs::perms::all));
+    }
+}
+
+AtomicFile::~AtomicFile() {
+    const bool created = file_ >= 0;
+    close();
+    if (created) ::unlink(hidden_.c_str());
+}
+
+void AtomicFile::close() {
+    if (file_ >= 0) ::close(file_);
+    file_ = -1;
+}
+
+bool AtomicFile::fail(int code) {
+    if (error_.empty()) error_ = plainReason(code, folder_);
+    return false;
+}
+
+bool AtomicFile::write(const void* bytes, std::size_t size) {
+    const char* from = static_cast<const char*>(bytes);
+    if (!error_.empty()) return false;
+    while (size > 0) {
+        const ssize_t done = ::write(file_, from, size);
+        if (done < 0 && errno == EINTR) continue;
+        if (done < 0) return fail(errno);
+        from += done;
+        size -= static_cast<std::size_t>(done);
+    }
+    return true;
+}
+
+std::ptrdiff_t AtomicFile::read(void* bytes, std::size_t size) {
+    if (!error_.empty()) return -1;
+    char* to = static_cast<char*>(bytes);
+    std::size_t got = 0;
+    while (got < size) {
+        const ssize_t done = ::read(file_, to + got, size - got);
+        if (done < 0 && errno == EINTR) continue;
+        if (done < 0) return fail(errno) - 1;
+        if (done == 0) break;
+        got += static_cast<std::size_t>(done);
+    }
+    return static_cast<std::ptrdiff_t>(got);
+}
+
+long long AtomicFile::seek(long long offset, int origin) {
+    if (!error_.empty()) return -1;
+    const long long place = ::lseek(file_, static_cast<off_t>(offset), origin);
+    if (place < 0) fail(errno);
+    return place;
+}
+
+long long AtomicFile::size() {
+    struct stat facts {};
+    return file_ >= 0 && ::fstat(file_, &facts) == 0 ? facts.st_size : -1;
+}
+
+bool AtomicFile::commit() {
+    if (!error_.empty()) return false;
+    if (::fsync(file_) != 0) return fail(errno);
+    if (::rename(hidden_.c_str(), target_.c_str()) != 0) return fail(errno);
+    close();
+    return true;
+}
+
+}  // namespace tavrin

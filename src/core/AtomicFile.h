@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace tavrin {
+
+/// A file that appears under its name only when it is complete. It is written under a hidden name of its own in the
+/// same folder, brought to the disk, and moved over the target by `commit`; without that the hidden file goes away
+/// with the object. Neither a full disk nor a kill leaves half a file under the name or harms the old one.
+/// Every operation after a failed one does nothing.
+class AtomicFile {
+  public:
+    /// Creates the hidden file beside `target` (beside the file it leads to, where it is a link).
+    explicit AtomicFile(const std::string& target);
+    ~AtomicFile();
+    AtomicFile(const AtomicFile&) = delete;
+    AtomicFile& operator=(const AtomicFile&) = delete;
+
+    bool write(const void* bytes, std::size_t size);
+    /// Bytes read, fewer at the end of the file; -1 on failure.
+    std::ptrdiff_t read(void* bytes, std::size_t size);
+    /// As the system's lseek; -1 on failure.
+    long long seek(long long offset, int origin);
+    long long size();
+
+    /// Flushes to the disk and moves the file over the target.
+    bool commit();
+
+    /// What went wrong first, as one plain line; empty while all is well.
+    const std::string& error() const { return error_; }
+
+  private:
+    bool fail(int code);
+    void close();
+
+    std::string target_, folder_, hidden_, error_;
+    int file_ = -1;
+};
+
+}  // namespace tavrin
