@@ -10,10 +10,10 @@ namespace tavrin {
 /// A part of the picture for the view. The pixels are the receiver's own copy: the engine goes on writing to its
 /// buffers while the view paints.
 struct PublishedRows {
-    QImage pixels;        ///< the rows, RGBA, alpha as the buffer holds it
-    int firstRow = 0;     ///< where they belong
-    int height = 0;       ///< height of the whole picture; its width is that of `pixels`
-    bool lowRes = false;  ///< the preview, not the full picture
+    QImage pixels;                   ///< the rows, RGBA, alpha as the buffer holds it
+    int firstRow = 0, rowCount = 0;  ///< where they belong
+    int height = 0;                  ///< height of the whole picture; its width is that of `pixels`
+    bool lowRes = false;             ///< the preview, not the full picture
 };
 
 /// All that the engine asks of a window. Every operation may be called from the processing thread and must not
@@ -23,6 +23,8 @@ class Interface {
   public:
     virtual ~Interface() = default;
 
+    /// False: `repaint` tells the rows only and leaves their pixels out, which saves the copy.
+    virtual bool wantsPixels() const { return true; }
     /// New rows to show; with `lowRes` always the whole preview.
     virtual void repaint(const PublishedRows&) {}
     /// A pass begins (false) or a full picture stands (true): save, print, sizes and freeze go with it. The save
@@ -32,8 +34,9 @@ class Interface {
     virtual void sizeWindow(int /*outputWidth*/, int /*outputHeight*/) {}
     /// The fit of a layer was worked out anew.
     virtual void updateScaleUI() {}
-    /// Shows a message with the one button "OK".
-    virtual void showAlert(const std::string& /*message*/) {}
+    /// Shows a message with the one button "OK". The reason, in plain words, also belongs on the standard error
+    /// stream.
+    virtual void showAlert(const std::string& /*message*/, const std::string& /*reason*/) {}
     /// Runs a job on the main thread and returns when it is done.
     virtual void performAndWait(const std::function<void()>& job) { job(); }
 

@@ -65,20 +65,24 @@ void SystemInfo::publish(BitmapInfo& record, bool lowRes, int firstRow, int last
     if (!pInterface || !bytes || lastRow <= firstRow) return;
 
     PublishedRows rows;
-    rows.pixels = QImage(width, lastRow - firstRow, QImage::Format_RGBA8888);
-    if (rows.pixels.isNull()) return;
-    std::memcpy(rows.pixels.bits(), bytes + pixelOffset(width, 0, firstRow), pixelBytes(width, lastRow - firstRow));
+    const int count = lastRow - firstRow;
+    if (pInterface->wantsPixels()) {
+        rows.pixels = QImage(width, count, QImage::Format_RGBA8888);
+        if (rows.pixels.isNull()) return;
+        std::memcpy(rows.pixels.bits(), bytes + pixelOffset(width, 0, firstRow), pixelBytes(width, count));
+    }
     rows.firstRow = firstRow;
+    rows.rowCount = count;
     rows.height = height;
     rows.lowRes = lowRes;
     pInterface->repaint(rows);
 }
 
-void SystemInfo::alert(const std::string& message) {
+void SystemInfo::alert(const std::string& message, const std::string& reason) {
     if (pInterface) {
-        pInterface->showAlert(message);
+        pInterface->showAlert(message, reason);
     } else {
-        logError(message);
+        logError(message + " (" + reason + ")");
     }
 }
 

@@ -77,8 +77,8 @@ class SystemInfo : public Settings,
     /// Hands the whole combined preview to the interface, if there is one.
     void publishLowRes();
 
-    /// Shows an alert in the interface; without one the message goes to the standard error stream.
-    void alert(const std::string& message);
+    /// Shows an alert in the interface; without one message and reason go to the standard error stream.
+    void alert(const std::string& message, const std::string& reason);
 
     SystemInfo* const pMySystemInfo = this;
     Interface* pInterface = nullptr;  ///< the window, not owned; null is fine

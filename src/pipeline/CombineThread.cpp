@@ -1,0 +1,178 @@
+#include "pipeline/CombineThread.h"
+
+#include <chrono>
+
+#include "core/raster/ColorMath.h"
+#include "pipeline/Layers.h"
+#include "pipeline/OutputSize.h"
+#include "pipeline/Stages.h"
+
+namespace tavrin {
+
+namespace {
+
+// The flags that a change of a layer raises for what comes after it.
+void cascade(BitmapInfo& record) {
+    record.bAdjChange = true;
+    record.bCombineChange = true;
+    record.bEditChange = false;
+}
+
+/// While a layer is dragged the preview is a plain mix: the layer in hand shows strongly, the other faintly.
+void drawGhost(SystemInfo& info, bool foregroundInHand) {
+    const double share = foregroundInHand ? 0.75 : 0.25;
+    const int width = info.iOutputPixelLowResWidth;
+    const std::uint8_t* fg = info.pForegroundBitmapInfo->pBitmapDataLowRes;
+    const std::uint8_t* bg = info.pBackgroundBitmapInfo->pBitmapDataLowRes;
+    std::uint8_t* out = info.pCombinedBitmapInfo->pBitmapDataLowRes;
+    if (!fg || !bg || !out) return;
+    runRows({}, info.iOutputPixelLowResHeight, 32, [&](int y) {
+        const std::size_t last = pixelOffset(width, 0, y + 1);
+        for (std::size_t i = pixelOffset(width, 0, y); i < last; i += kPixelBytes) {
+            for (std::size_t c = i; c < i + 3; ++c)
+                out[c] = toByte(share * fg[c] + (1.0 - share) * bg[c]);
+        }
+    });
+}
+
+}  // namespace
+
+CombineThread::~CombineThread() {
+    if (!thread_.joinable()) return;
+    thread_.request_stop();
+    info_.StartUpdate();
+    thread_.join();
+}
+
+void CombineThread::StartMainThread() {
+    thread_ = std::jthread([this](std::stop_token token) {
+        cancelled_ = std::move(token);
+        combineThread();
+    });
+}
+
+void CombineThread::combineThread() {
+    while (!cancelled_.stop_requested()) {
+        if (iterate() == Turn::idle) info_.waitForUpdate(std::chrono::milliseconds(100));
+    }
+}
+
+void CombineThread::runUntilIdle() {
+    while (iterate() != Turn::idle) {
+    }
+}
+
+CombineThread::Turn CombineThread::iterate() {
+    if (!info_.isStale() && runPass() == Turn::dragging) return Turn::dragging;
+    if (info_.iCurrentThreadCount > info_.iNewThreadCount) {
+        for (const auto& work : idleWork_)
+            work();
+        return Turn::idle;
+    }
+    info_.iCurrentThreadCount = info_.iCurrentThreadCount + 1;
+    return Turn::worked;
+}
+
+CombineThread::Turn CombineThread::runPass() {
+    Interface* view = info_.pInterface;
+    if (view) {
+        if (view->editorIsOpen()) view->exitEditorMode();
+        view->enableControls(false, info_.bLightroomActive);
+    }
+    if (!updateLayers()) return Turn::worked;
+    if (view && view->mouseDown()) {
+        const int mode = view->eventMouseMode();
+        if (info_.iOutputPixelLowResHeight >= 1) drawGhost(info_, mode == 1 || mode == 2);
+        info_.bShowLowRes = true;
+        info_.publishLowRes();
+        return info_.bStop ? Turn::worked : Turn::dragging;
+    }
+    if (info_.isStale()) return Turn::worked;
+
+    makePreview();
+    if (!info_.isStale() && !info_.bSkipHiRes) makeFullPicture();
+    return Turn::worked;
+}
+
+/// Brings both layers up to date: size, sources, placement, and what lies on the background.
+/// @return false when a newer request came in between
+bool CombineThread::updateLayers() {
+    BitmapInfo& foreground = *info_.pForegroundBitmapInfo;
+    BitmapInfo& background = *info_.pBackgroundBitmapInfo;
+    if (info_.bChangeImageSize.exchange(false)) {
+        ChangeImageSize(info_);
+        foreground.bOrgFileChange = true;
+        background.bOrgFileChange = true;
+        foreground.bHaveBitmap = false;
+        info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
+    }
+    if (foreground.bOrgFileChange.exchange(false)) updateSource(foreground);
+    if (info_.isStale()) return false;
+    if (info_.bNewOutputSize.exchange(false) && info_.pInterface) {
+        info_.pInterface->sizeWindow(info_.iOutputPixelWidth, info_.iOutputPixelHeight);
+    }
+    if (background.bOrgFileChange.exchange(false)) updateSource(background);
+    if (info_.isStale()) return false;
+    if (foreground.bScaleChange.exchange(false)) updateForegroundScale();
+    if (info_.isStale()) return false;
+    if (!info_.bBackgroundFrozen && background.bScaleChange.exchange(false)) {
+        updateBackground();
+        if (info_.isStale()) {
+            background.bScaleChange = true;  // the interrupted background is redone
+            return false;
+        }
+    }
+    return true;
+}
+
+void CombineThread::updateSource(BitmapInfo& record) {
+    record.bScaleChange = true;
+    cascade(record);
+    info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
+    ChangeOrgBitmap(info_, record);
+}
+
+void CombineThread::updateForegroundScale() {
+    BitmapInfo& foreground = *info_.pForegroundBitmapInfo;
+    cascade(foreground);
+    info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
+    // The shadow lives in the background's buffers.
+    if (info_.iHaveShadow != 1) info_.pBackgroundBitmapInfo->bScaleChange = true;
+    ChangeBitmapScale(info_, foreground);
+    runStages(foregroundStages(), info_, kLowRes);
+    runStages(foregroundStages(), info_, kFullRes);
+}
+
+void CombineThread::updateBackground() {
+    BitmapInfo& background = *info_.pBackgroundBitmapInfo;
+    background.bHiResScaleChange = true;
+    cascade(background);
+    ChangeBitmapScale(info_, background);
+    runStages(backgroundStages(), info_, kLowRes);
+}
+
+void CombineThread::makePreview() {
+    runStages(previewStages(), info_, kLowRes);
+    info_.bShowLowRes = true;
+    info_.publishLowRes();
+}
+
+void CombineThread::makeFullPicture() {
+    BitmapInfo& combined = *info_.pCombinedBitmapInfo;
+    if (!combined.oBitmapRep || !combined.oBitmapRepLowRes) return;
+    // Until the full picture is done the enlarged preview stands in for it.
+    BitmapContext& full = *combined.oBitmapRep;
+    full.drawImage(combined.oBitmapRepLowRes->snapshot(), QRectF(0, 0, full.width(), full.height()));
+    if (info_.pBackgroundBitmapInfo->bHiResScaleChange.exchange(false)) {
+        runStages(backgroundStages(), info_, kFullRes);
+        // Not raised again: a background interrupted here stays as far as it got until it is scaled anew.
+        if (info_.isStale()) return;
+    }
+    runStages(fullStages(), info_, kFullRes);
+    if (info_.isStale()) return;
+    info_.bShowLowRes = false;
+    if (info_.pInterface) info_.pInterface->enableControls(true, info_.bLightroomActive);
+    info_.publishFull(0, info_.iOutputPixelHeight);
+}
+
+}  // namespace tavrin

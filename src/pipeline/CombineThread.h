@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <thread>
+#include <vector>
+
+#include "core/state/SystemInfo.h"
+
+namespace tavrin {
+
+/// The processing loop: turns changed settings into pictures, first a whole pass over the preview buffers, then
+/// the same work at full resolution, which any newer request abandons. When there is nothing to do it gives the
+/// registered idle work its turn.
+class CombineThread {
+  public:
+    /// What an iteration came to.
+    enum class Turn {
+        worked,    ///< a pass ended, was superseded, or a count was caught up
+        dragging,  ///< the mouse is held: a ghost picture was made, the next iteration follows at once
+        idle,      ///< nothing to do; idle work had its turn
+    };
+
+    explicit CombineThread(SystemInfo& info) : info_(info) {}
+    /// Cancels the thread and waits for it.
+    ~CombineThread();
+    CombineThread(const CombineThread&) = delete;
+    CombineThread& operator=(const CombineThread&) = delete;
+
+    /// Work for idle moments, called in the order of registration, on the loop's thread, and only when a finished
+    /// picture stands in the buffers. Register before the thread starts.
+    void addIdleWork(std::function<void()> work) { idleWork_.push_back(std::move(work)); }
+
+    void StartMainThread();
+    /// The loop itself; returns when the thread was cancelled.
+    void combineThread();
+    /// One iteration, without the sleep of an idle one.
+    Turn iterate();
+    /// Iterates on the caller's thread until idle: one whole pass for the present settings.
+    void runUntilIdle();
+
+  private:
+    Turn runPass();
+    bool updateLayers();
+    void updateSource(BitmapInfo& record);
+    void updateForegroundScale();
+    void updateBackground();
+    void makePreview();
+    void makeFullPicture();
+
+    SystemInfo& info_;
+    std::vector<std::function<void()>> idleWork_;
+    std::jthread thread_;
+    std::stop_token cancelled_;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,174 @@
+#include "pipeline/Layers.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <filesystem>
+
+#include "core/Log.h"
+#include "core/image/ImageReader.h"
+#include "key/BaseGreen.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr double kDegree = 0.017453292519943295;
+constexpr double kMaxPixels = 400e6;
+
+// Truncated to a whole number, as a screen coordinate; any double is accepted.
+std::int64_t truncated(double value) {
+    return static_cast<std::int64_t>(std::clamp(value, -1e15, 1e15));
+}
+
+double finiteOr(double value, double other) {
+    return std::isfinite(value) ? value : other;
+}
+
+struct Size {
+    std::int64_t width, height;
+};
+
+/// Bounding box of a picture turned by `angle`. Each product is truncated before it loses its sign.
+Size boundingBox(double angle, int width, int height) {
+    const double c = std::cos(angle), s = std::sin(angle);
+    return {std::abs(truncated(c * width)) + std::abs(truncated(s * height)),
+            std::abs(truncated(c * height)) + std::abs(truncated(s * width))};
+}
+
+/// Moves the coordinate system so that a picture of w * h, drawn at the origin, comes out turned by -angle with
+/// its bounding box at the origin.
+void turnContext(BitmapContext& context, double angle, double w, double h) {
+    context.rotate(-angle);
+    const double s = std::sin(-angle), c = std::cos(-angle);
+    const double cornerX[] = {0.0, w * c, -h * s, w * c - h * s};
+    const double cornerY[] = {0.0, w * s, h * c, w * s + h * c};
+    const double mx = -*std::min_element(std::begin(cornerX), std::end(cornerX));
+    const double my = -*std::min_element(std::begin(cornerY), std::end(cornerY));
+    const double ca = std::cos(angle), sa = std::sin(angle);
+    context.translate(mx * ca - my * sa, my * ca + mx * sa);
+}
+
+/// The source as the layer wants it. Null when memory is refused or the turned picture would be too large.
+QImage turnedSource(const BitmapInfo& record, const QImage& pixels) {
+    const double degrees = finiteOr(record.fRotate + record.fTilt, 0.0);
+    const bool flip = record.bFlipHorz;
+    if (degrees == 0.0 && !flip && !pixels.hasAlphaChannel()) return pixels;
+
+    const double angle = degrees * kDegree;
+    const Size box = boundingBox(angle, pixels.width(), pixels.height());
+    if (box.width < 1 || box.height < 1 ||
+        static_cast<double>(box.width) * static_cast<double>(box.height) > kMaxPixels) {
+        return QImage();
+    }
+    QImage turned(static_cast<int>(box.width), static_cast<int>(box.height), QImage::Format_RGBA8888_Premultiplied);
+    if (turned.isNull()) return turned;
+    turned.fill(QColor(10, 130, 60));
+    BitmapContext context(turned.bits(), turned.width(), turned.height());
+    if (flip) {
+        context.scale(-1.0, 1.0);
+        context.translate(-turned.width(), 0.0);
+    }
+    if (degrees != 0.0) {
+        turnContext(context, angle, pixels.width(), pixels.height());
+        context.drawImage(pixels, QRectF(0, 0, pixels.width(), pixels.height()));
+    } else {
+        context.drawImage(pixels, QRectF(0, 0, turned.width(), turned.height()));
+    }
+    return turned;
+}
+
+/// How a layer fits one geometry: the drawn size before the user's scale, and the factor that gives it.
+struct Fit {
+    double width = 0.0, height = 0.0;
+    double scale = 1.0;
+};
+
+Fit fitSource(const BitmapInfo& record, int width, int height, bool outputIsPortrait) {
+    const double sx = static_cast<double>(width) / record.iOrgWidth;
+    const double sy = static_cast<double>(height) / record.iOrgHeight;
+    const bool sourceIsPortrait = record.iOrgHeight > record.iOrgWidth;
+    // A standing person in a wide picture is shown whole; everything else covers the output.
+    const bool wholePerson = record.iBitmapType == BitmapInfo::kForeground && sourceIsPortrait && !outputIsPortrait;
+    Fit fit;
+    fit.scale = wholePerson ? sy : std::max(sx, sy);
+    if (wholePerson || sy > sx) {
+        fit.width = static_cast<double>(truncated(sy / sx * width));
+        fit.height = height;
+    } else {
+        fit.width = width;
+        fit.height = static_cast<double>(truncated(sx / sy * height));
+    }
+    return fit;
+}
+
+/// Where the source goes, from the bottom left of the buffer.
+QRectF placedRect(const BitmapInfo& record, const Fit& fit, int width, int height) {
+    const double scale = finiteOr(record.fScale, 1.0);
+    double x = static_cast<double>(static_cast<std::int64_t>(width) * record.iOrgXoff / 1000);
+    double y = static_cast<double>(static_cast<std::int64_t>(height) * record.iOrgYoff / 1000);
+    x -= (fit.width * scale - fit.width) * 0.5;
+    y -= (fit.height * scale - fit.height) * 0.5;
+    return QRectF(x, y, scale * fit.width, scale * fit.height);
+}
+
+/// What a layer leaves empty has the colour of the screen, so that on the foreground it is keyed away. The base
+/// colour is held in roles: on a blue screen its green level is that of the third channel.
+void fillWithScreen(const SystemInfo& info, BitmapContext& context) {
+    const bool blue = info.bUseBlueLogic;
+    const double green = (blue ? info.baseBlue : info.baseGreen) / 255.0;
+    const double third = (blue ? info.baseGreen : info.baseBlue) / 255.0;
+    context.fillRect(QRectF(0, 0, context.width(), context.height()), info.baseRed / 255.0, green, third, 1.0);
+}
+
+void drawSource(const BitmapInfo& record, BitmapContext& context, const Fit& fit) {
+    context.drawImage(record.orgImage, placedRect(record, fit, context.width(), context.height()));
+}
+
+}  // namespace
+
+bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record) {
+    logTrace("**** Loading Org Image");
+    const std::string path = record.sSourceImageFullPath;
+    ReadPicture picture = readPicture(path);
+    if (!picture.error.empty()) {
+        const std::string name = std::filesystem::path(path).filename().string();
+        info.alert("Cound not load file: " + name + ", check your file permissions", picture.error);
+        return false;
+    }
+    QImage source = turnedSource(record, picture.pixels);
+    if (source.isNull()) {
+        logError("Memory not allocated!");
+        return false;
+    }
+    picture.pixels = QImage();
+    record.setSource(std::move(source));
+    record.sourceExif = std::move(picture.exif);
+    if (record.iBitmapType == BitmapInfo::kForeground) ComputeBaseGreen(info, 0, 2);
+    return true;
+}
+
+void ChangeBitmapScale(SystemInfo& info, BitmapInfo& record) {
+    if (!record.oBitmapRep || !record.oBitmapRepLowRes) return;
+    const bool drawable = !record.orgImage.isNull() && record.iOrgWidth > 0 && record.iOrgHeight > 0;
+    const bool portrait = info.iOutputPixelLowResHeight > info.iOutputPixelLowResWidth;
+
+    BitmapContext& low = *record.oBitmapRepLowRes;
+    fillWithScreen(info, low);
+    if (drawable) drawSource(record, low, fitSource(record, low.width(), low.height(), portrait));
+
+    BitmapContext& full = *record.oBitmapRep;
+    fillWithScreen(info, full);
+    Fit fit;
+    if (drawable) {
+        fit = fitSource(record, full.width(), full.height(), portrait);
+        record.fOrgScale = fit.scale;
+    }
+    if (info.pInterface) {
+        info.pInterface->updateScaleUI();
+        if (info.pInterface->mouseDown()) return;
+    }
+    if (drawable) drawSource(record, full, fit);
+}
+
+}  // namespace tavrin

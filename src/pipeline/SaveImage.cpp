@@ -1,0 +1,77 @@
+#include "pipeline/SaveImage.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+
+#include <QSaveFile>
+
+#include "core/image/ImageWriter.h"
+
+namespace tavrin {
+
+namespace {
+
+bool refuse(SystemInfo& info, const std::string& reason) {
+    info.alert("You cannot save an image to selected location\nYou must have program write permisson set", reason);
+    return false;
+}
+
+struct Geometry {
+    int width, height, dpi;
+};
+
+Geometry geometryFor(const SystemInfo& info, int myRes) {
+    if (myRes == 1) return {info.iOutputPixelWidth, info.iOutputPixelHeight, info.iOutputImageDPI};
+    return {info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight, info.iOutputImageLowResDPI};
+}
+
+QImage matteOf(const std::uint8_t* pixels, int width, int height) {
+    QImage matte(width, height, QImage::Format_Grayscale8);
+    for (int y = 0; y < matte.height(); ++y) {
+        std::uint8_t* row = matte.scanLine(y);
+        for (int x = 0; x < width; ++x)
+            row[x] = pixels[pixelOffset(width, x, y) + 3];
+    }
+    return matte;
+}
+
+}  // namespace
+
+int fileTypeForPath(const std::string& path) {
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    if (extension == ".jpg" || extension == ".jpeg") return kFileTypeJPEG;
+    if (extension == ".png") return kFileTypePNG;
+    if (extension == ".tif" || extension == ".tiff") return kFileTypeTIFF;
+    return 0;
+}
+
+bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes) {
+    if (theFileType < kFileTypeJPEG || theFileType > kFileTypeTIFF) {
+        return refuse(info, path + ": there is no file type " + std::to_string(theFileType) + ".");
+    }
+    const BitmapInfo& combined = *info.pCombinedBitmapInfo;
+    const Geometry size = geometryFor(info, myRes);
+    const std::uint8_t* pixels = myRes == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes;
+    if (!pixels) return refuse(info, path + ": there is no picture to save yet.");
+
+    const std::string error = writePicture(
+        path, {pixels, size.width, size.height, theFileType, size.dpi, info.pForegroundBitmapInfo->sourceExif});
+    return error.empty() || refuse(info, error);
+}
+
+bool saveMatteToDisk(SystemInfo& info, const std::string& path, int myRes) {
+    const BitmapInfo& background = *info.pBackgroundBitmapInfo;
+    const Geometry size = geometryFor(info, myRes);
+    const std::uint8_t* pixels = myRes == 1 ? background.pBitmapData : background.pBitmapDataLowRes;
+    if (!pixels) return refuse(info, path + ": there is no matte to save yet.");
+
+    QSaveFile file(QString::fromStdString(path));
+    const bool written = file.open(QIODevice::WriteOnly) &&
+                         matteOf(pixels, size.width, size.height).save(&file, "PNG") && file.commit();
+    return written || refuse(info, path + ": " + file.errorString().toStdString() + ".");
+}
+
+}  // namespace tavrin

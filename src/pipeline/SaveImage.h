@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "core/state/SystemInfo.h"
+
+namespace tavrin {
+
+/// File types, everywhere.
+inline constexpr int kFileTypeJPEG = 1, kFileTypePNG = 2, kFileTypeTIFF = 3;
+
+/// File type for a path by its extension (jpg, jpeg, png, tif, tiff); 0 for any other.
+int fileTypeForPath(const std::string& path);
+
+/// Writes the combined picture as it stands: `myRes` 1 the full picture, any other value the preview. The file
+/// carries the resolution, an sRGB profile and the foreground's camera data; JPEG goes out at quality 100 without
+/// chroma subsampling. The target is replaced only by a whole file.
+/// @return false after an alert with the reason
+bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes);
+
+/// Writes the key's alpha, which a run of `Combine` left with the background, as a grey PNG (white is subject).
+/// @return false after an alert with the reason
+bool saveMatteToDisk(SystemInfo& info, const std::string& path, int myRes);
+
+}  // namespace tavrin

@@ -1,0 +1,210 @@
+#include "pipeline/Stages.h"
+
+#include "core/raster/BlurBitmap.h"
+#include "key/BaseGreen.h"
+#include "key/Combine.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kEveryPixel = 10'000;  // blur threshold that lets every pixel pass
+
+struct Target {
+    std::uint8_t* pixels;
+    int width, height, dpi;
+};
+
+Target targetOf(const SystemInfo& info, const BitmapInfo& record, int res) {
+    if (res == kFullRes) {
+        return {record.pBitmapData, info.iOutputPixelWidth, info.iOutputPixelHeight, info.iOutputImageDPI};
+    }
+    return {record.pBitmapDataLowRes, info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight,
+            info.iOutputImageLowResDPI};
+}
+
+void findHair(SystemInfo& info, int) {
+    info.bFoundHair = false;
+    applyHairPreset(info);
+}
+
+void measureScreen(SystemInfo& info, int) {
+    info.pCombinedBitmapInfo->bHaveBaseGreen = true;
+    ComputeBaseGreen(info, 1, 0);
+}
+
+void combine(SystemInfo& info, int res) {
+    Combine(info, 1, res);
+}
+
+void blurBackground(SystemInfo& info, int res) {
+    const Target t = targetOf(info, *info.pBackgroundBitmapInfo, res);
+    BlurBitmap(info, t.pixels, t.width, t.height, t.dpi, kEveryPixel, info.dSliderBlur);
+}
+
+void blurResult(SystemInfo& info, int res) {
+    const Target t = targetOf(info, *info.pCombinedBitmapInfo, res);
+    BlurBitmap(info, t.pixels, t.width, t.height, t.dpi, info.iSliderForegroundThreshold, info.dSliderForegroundBlur);
+}
+
+bool always(const SystemInfo&) {
+    return true;
+}
+bool hasShadow(const SystemInfo& i) {
+    return i.iHaveShadow != 1;
+}
+bool blursBackground(const SystemInfo& i) {
+    return i.dSliderBlur > 0.0;
+}
+bool hasBackgroundOverlay(const SystemInfo& i) {
+    return i.bHaveBackgroundOverlay;
+}
+bool needsScreenColour(const SystemInfo& i) {
+    return !i.pCombinedBitmapInfo->bHaveBaseGreen;
+}
+bool hasStars(const SystemInfo& i) {
+    return i.bStarFilerTurnOn;
+}
+bool hasReflection(const SystemInfo& i) {
+    return i.bHaveReflection;
+}
+bool hasTexture(const SystemInfo& i) {
+    return i.oImageTexture->bHaveTexture;
+}
+bool blursResult(const SystemInfo& i) {
+    return i.dSliderForegroundBlur > 0.0;
+}
+bool hasForegroundOverlay(const SystemInfo& i) {
+    return i.bHaveForegroundOverlay;
+}
+bool hasFrameOverlayPicture(const SystemInfo& i) {
+    return i.bHaveFrameOverlay;
+}
+bool hasFrame(const SystemInfo& i) {
+    return i.oFrame->iFrameType != 0;
+}
+bool hasSecondFrame(const SystemInfo& i) {
+    return i.oFrameOverlay->iFrameType != 0;
+}
+bool smoothsResult(const SystemInfo& i) {
+    return i.iGlobalSmoothingMode == 2;
+}
+bool smoothsForeground(const SystemInfo& i) {
+    return i.iGlobalSmoothingMode == 1;
+}
+bool blendsEdges(const SystemInfo& i) {
+    return i.iBlendEdges != 0;
+}
+bool smoothsSkin(const SystemInfo& i) {
+    return i.iSmoothMode != 0;
+}
+bool isCartoon(const SystemInfo& i) {
+    return i.iCartoonEffectType >= 1;
+}
+
+constexpr Stage kForeground[] = {
+    {"smoothing of the foreground", smoothsForeground, nullptr},
+};
+
+constexpr Stage kBackground[] = {
+    {"shadow", hasShadow, nullptr},
+    {"background blur", blursBackground, blurBackground},
+    {"text Background", always, nullptr},
+    {"background overlay", hasBackgroundOverlay, nullptr},
+    {"text Background Layer", always, nullptr},
+};
+
+// The two orders. What the preview leaves out (edges, skin, sketch) shows at full size only; texture, final blur and
+// smoothing of the result stand at different places, and moving them changes every picture that was ever saved.
+constexpr Stage kPreview[] = {
+    {"hair", always, findHair},
+    {"screen colour", needsScreenColour, measureScreen},
+    {"combine", always, combine},
+    {"stars", hasStars, nullptr},
+    {"reflection", hasReflection, nullptr},
+    {"texture", hasTexture, nullptr},
+    {"final blur", blursResult, blurResult},
+    {"text Foreground", always, nullptr},
+    {"foreground overlay", hasForegroundOverlay, nullptr},
+    {"text Foreground Layer", always, nullptr},
+    {"frame overlay picture", hasFrameOverlayPicture, nullptr},
+    {"text Frame Layer", always, nullptr},
+    {"frame", hasFrame, nullptr},
+    {"second frame", hasSecondFrame, nullptr},
+    {"smoothing of the result", smoothsResult, nullptr},
+};
+
+constexpr Stage kFull[] = {
+    {"combine", always, combine},
+    {"reflection", hasReflection, nullptr},
+    {"edges", blendsEdges, nullptr},
+    {"stars", hasStars, nullptr},
+    {"text Foreground", always, nullptr},
+    {"foreground overlay", hasForegroundOverlay, nullptr},
+    {"text Foreground Layer", always, nullptr},
+    {"frame overlay picture", hasFrameOverlayPicture, nullptr},
+    {"skin", smoothsSkin, nullptr},
+    {"smoothing of the result", smoothsResult, nullptr},
+    {"texture", hasTexture, nullptr},
+    {"sketch", isCartoon, nullptr},
+    {"final blur", blursResult, blurResult},
+    {"text Frame Layer", always, nullptr},
+    {"frame", hasFrame, nullptr},
+    {"second frame", hasSecondFrame, nullptr},
+};
+
+// A plain keyed picture with text and overlays; everything else is left out for speed.
+constexpr Stage kFast[] = {
+    {"combine", always, combine},
+    {"text Foreground", always, nullptr},
+    {"foreground overlay", hasForegroundOverlay, nullptr},
+    {"text Foreground Layer", always, nullptr},
+    {"frame overlay picture", hasFrameOverlayPicture, nullptr},
+    {"final blur", blursResult, blurResult},
+    {"text Frame Layer", always, nullptr},
+};
+
+struct HairPreset {
+    int red, green, blue;
+};
+
+constexpr HairPreset kHairPresets[] = {
+    {150, 100, 60}, {30, 30, 30}, {190, 170, 110}, {100, 65, 10}, {245, 245, 245},
+};
+
+}  // namespace
+
+std::span<const Stage> foregroundStages() {
+    return kForeground;
+}
+std::span<const Stage> backgroundStages() {
+    return kBackground;
+}
+std::span<const Stage> previewStages() {
+    return kPreview;
+}
+std::span<const Stage> fullStages() {
+    return kFull;
+}
+std::span<const Stage> fastStages() {
+    return kFast;
+}
+
+void runStages(std::span<const Stage> stages, SystemInfo& info, int res) {
+    for (const Stage& stage : stages) {
+        if (stage.run && stage.when(info)) stage.run(info, res);
+    }
+}
+
+void applyHairPreset(SystemInfo& info) {
+    const int hair = info.iMacroHairColor;
+    if (hair < 1 || hair > static_cast<int>(std::size(kHairPresets))) return;
+    const HairPreset& preset = kHairPresets[hair - 1];
+    info.iHairColorBinRed[0] = preset.red;
+    info.iHairColorBinGreen[0] = preset.green;
+    info.iHairColorBinBlue[0] = preset.blue;
+    info.iHairColorCount = 1;
+    info.bFoundHair = true;
+}
+
+}  // namespace tavrin

@@ -1,0 +1,233 @@
+#include <atomic>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <thread>
+
+#include "pipeline/CombineThread.h"
+#include "pipeline/OutputSize.h"
+#include "pipeline/WholePicture.h"
+#include "support/Pictures.h"
+#include "support/TestData.h"
+
+namespace tavrin {
+namespace {
+
+/// Counts what the loop asks for.
+class CountingInterface : public Interface {
+  public:
+    void enableControls(bool enabled, bool) override { ++(enabled ? enabled_ : disabled_); }
+    void repaint(const PublishedRows& rows) override {
+        if (rows.lowRes) {
+            ++previews_;
+        } else if (rows.rowCount == rows.height) {
+            ++fulls_;
+        } else {
+            ++parts_;
+        }
+        if (onRepaint) onRepaint(rows);
+    }
+    void showAlert(const std::string& message, const std::string&) override { lastAlert = message; }
+    bool mouseDown() const override { return mouse; }
+    int eventMouseMode() const override { return mouseMode; }
+
+    int passes() const { return disabled_; }
+    std::atomic<int> enabled_ = 0, disabled_ = 0, previews_ = 0, fulls_ = 0, parts_ = 0;
+    std::atomic<bool> mouse = false;
+    std::atomic<int> mouseMode = 1;
+    std::string lastAlert;
+    std::function<void(const PublishedRows&)> onRepaint;
+};
+
+class CombineThreadTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        info_->pInterface = &view_;
+        useSources(*info_);
+    }
+    void TearDown() override { info_->pInterface = nullptr; }
+
+    void useSources(SystemInfo& info) {
+        info.pForegroundBitmapInfo->sSourceImageFullPath = foreground_;
+        info.pBackgroundBitmapInfo->sSourceImageFullPath = background_;
+    }
+    std::vector<std::uint8_t> fullBytes(const SystemInfo& info) {
+        const std::uint8_t* p = info.pCombinedBitmapInfo->pBitmapData;
+        return {p, p + pixelBytes(info.iOutputPixelWidth, info.iOutputPixelHeight)};
+    }
+    void runOnce() {
+        info_->StartUpdate();
+        CombineThread(*info_).runUntilIdle();
+    }
+
+    test::TempFolder folder_;
+    const std::string foreground_ = test::savePng(test::discOnScreen(240, 300), folder_.file("fg.png"));
+    const std::string background_ = test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
+    CountingInterface view_;
+    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
+};
+
+TEST_F(CombineThreadTest, FirstPassMakesPreviewAndFullPicture) {
+    CombineThread(*info_).runUntilIdle();
+    EXPECT_EQ(view_.passes(), 1);
+    EXPECT_EQ(view_.previews_, 1);
+    EXPECT_EQ(view_.fulls_, 1);
+    EXPECT_EQ(view_.enabled_, 1);
+    EXPECT_GE(view_.parts_, 9);
+    EXPECT_FALSE(info_->bShowLowRes);
+
+    // The disc stays, the screen gives way to the background, untouched as it has the size of the output.
+    const std::vector<std::uint8_t> full = fullBytes(*info_);
+    const std::uint8_t* corner = info_->pBackgroundBitmapInfo->orgBitmapData;
+    EXPECT_EQ(std::memcmp(full.data(), corner, 3), 0);
+    const std::uint8_t* middle = &full[pixelOffset(240, 120, 150)];
+    EXPECT_GT(middle[0], 180);
+    EXPECT_LT(middle[1], 80);
+}
+
+TEST_F(CombineThreadTest, LoopAndFastPathGiveTheSameBytes) {
+    CombineThread(*info_).runUntilIdle();
+    const auto other = test::stateForOutput(240, 300);
+    useSources(*other);
+    ASSERT_TRUE(loadAndCombineFiles(*other));
+    EXPECT_EQ(fullBytes(*info_), fullBytes(*other));
+}
+
+TEST_F(CombineThreadTest, AnyNumberOfUpdatesCostsOnePass) {
+    CombineThread loop(*info_);
+    loop.runUntilIdle();
+    const int before = view_.passes();
+    info_->StartUpdate();
+    loop.runUntilIdle();
+    EXPECT_EQ(view_.passes(), before + 1);
+    for (int i = 0; i < 10; ++i)
+        info_->StartUpdate();
+    loop.runUntilIdle();
+    EXPECT_EQ(view_.passes(), before + 2);
+}
+
+TEST_F(CombineThreadTest, ANewerRequestStopsTheFullPicture) {
+    CombineThread loop(*info_);
+    loop.runUntilIdle();
+    const int fulls = view_.fulls_;
+    bool asked = false;
+    view_.onRepaint = [&](const PublishedRows& rows) {
+        if (rows.lowRes || asked) return;
+        asked = true;
+        info_->StartUpdate();
+    };
+    info_->StartUpdate();
+    EXPECT_EQ(loop.iterate(), CombineThread::Turn::worked);
+    EXPECT_EQ(view_.fulls_, fulls);
+    loop.runUntilIdle();
+    EXPECT_EQ(view_.fulls_, fulls + 1);
+}
+
+TEST_F(CombineThreadTest, SkippingHiResLeavesTheFullBufferAlone) {
+    info_->bSkipHiRes = true;
+    std::memset(info_->pCombinedBitmapInfo->pBitmapData, 77, pixelBytes(240, 300));
+    CombineThread(*info_).runUntilIdle();
+    EXPECT_TRUE(info_->bShowLowRes);
+    EXPECT_EQ(view_.enabled_, 0);
+    for (const std::uint8_t byte : fullBytes(*info_))
+        ASSERT_EQ(byte, 77);
+}
+
+TEST_F(CombineThreadTest, WhileTheMouseIsHeldThePreviewIsAMixOfTheLayers) {
+    CombineThread(*info_).runUntilIdle();
+    for (const int mode : {1, 0}) {
+        view_.mouse = true;
+        view_.mouseMode = mode;
+        info_->pForegroundBitmapInfo->bScaleChange = true;
+        info_->StartUpdate();
+        CombineThread loop(*info_);
+        EXPECT_EQ(loop.iterate(), CombineThread::Turn::dragging);
+        EXPECT_EQ(loop.iterate(), CombineThread::Turn::dragging);
+        EXPECT_FALSE(info_->pCombinedBitmapInfo->bHaveBaseGreen);
+        const double share = mode == 1 ? 0.75 : 0.25;
+        const std::uint8_t* f = info_->pForegroundBitmapInfo->pBitmapDataLowRes;
+        const std::uint8_t* b = info_->pBackgroundBitmapInfo->pBitmapDataLowRes;
+        const std::uint8_t* c = info_->pCombinedBitmapInfo->pBitmapDataLowRes;
+        for (int i = 0; i < 4000; ++i) {
+            if (i % 4 == 3) continue;
+            ASSERT_EQ(c[i], static_cast<int>(share * f[i] + (1 - share) * b[i])) << i;
+        }
+        view_.mouse = false;
+        loop.runUntilIdle();
+    }
+}
+
+TEST_F(CombineThreadTest, PresetHairWinsOverWhatWasDetected) {
+    info_->bAdvancedHairDetectionON = true;
+    info_->iMacroHairColor = 2;
+    CombineThread(*info_).runUntilIdle();
+    EXPECT_TRUE(info_->bFoundHair);
+    EXPECT_EQ(info_->iHairColorBinRed[0], 30);
+    EXPECT_EQ(info_->iHairColorBinGreen[0], 30);
+    EXPECT_EQ(info_->iHairColorBinBlue[0], 30);
+    EXPECT_EQ(info_->iHairColorCount, 1);
+}
+
+TEST_F(CombineThreadTest, ANewSizeReloadsBothSourcesAndMeasuresTheScreenAgain) {
+    CombineThread(*info_).runUntilIdle();
+    selectOwnSize(*info_, "other", 100 / 92.0, 200 / 92.0, 92);
+    info_->bChangeImageSize = true;
+    info_->pForegroundBitmapInfo->orgImage = QImage();
+    info_->pBackgroundBitmapInfo->orgImage = QImage();
+    info_->baseGreen = 1.0;
+    runOnce();
+    EXPECT_EQ(info_->iOutputPixelWidth, 100);
+    EXPECT_FALSE(info_->pForegroundBitmapInfo->orgImage.isNull());
+    EXPECT_FALSE(info_->pBackgroundBitmapInfo->orgImage.isNull());
+    EXPECT_NEAR(info_->baseGreen, 160.0, 2.0);
+}
+
+TEST_F(CombineThreadTest, AFrozenBackgroundStaysAndTheSubjectIsGone) {
+    CombineThread(*info_).runUntilIdle();
+    const std::vector<std::uint8_t> before = fullBytes(*info_);
+    FreezeToBackground(*info_);
+    info_->pBackgroundBitmapInfo->bScaleChange = true;
+    runOnce();
+    runOnce();
+    EXPECT_TRUE(info_->pBackgroundBitmapInfo->bScaleChange);
+    EXPECT_EQ(fullBytes(*info_), before);
+}
+
+TEST_F(CombineThreadTest, AMissingSourceIsToldAndTheOldPictureStays) {
+    CombineThread(*info_).runUntilIdle();
+    const std::vector<std::uint8_t> before = fullBytes(*info_);
+    info_->pForegroundBitmapInfo->sSourceImageFullPath = folder_.file("gone.jpg");
+    info_->pForegroundBitmapInfo->bOrgFileChange = true;
+    runOnce();
+    EXPECT_EQ(view_.lastAlert, "Cound not load file: gone.jpg, check your file permissions");
+    EXPECT_EQ(fullBytes(*info_), before);
+}
+
+// For the thread sanitizer above all: settings change from another thread while passes run.
+TEST_F(CombineThreadTest, SettingsMayChangeWhilePassesRun) {
+    std::atomic<int> idleTurns = 0;
+    {
+        CombineThread loop(*info_);
+        loop.addIdleWork([&] { ++idleTurns; });
+        loop.StartMainThread();
+        for (int i = 0; i < 60; ++i) {
+            info_->pForegroundBitmapInfo->iBrightness = i - 30;
+            info_->pCombinedBitmapInfo->sliderWhiteAdjust = i;
+            info_->sSilhouetteFileName = i % 2 ? "" : "x";
+            if (i % 7 == 0) info_->pForegroundBitmapInfo->bScaleChange = true;
+            if (i % 11 == 0) info_->pBackgroundBitmapInfo->bOrgFileChange = true;
+            info_->StartUpdate();
+            std::this_thread::sleep_for(std::chrono::milliseconds(i % 5));
+        }
+        info_->sSilhouetteFileName = "";
+        info_->StartUpdate();
+        const int before = idleTurns;
+        for (int wait = 0; wait < 3000 && idleTurns == before; ++wait) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        EXPECT_GT(idleTurns, before);
+    }
+    EXPECT_GE(view_.passes(), 1);
+}
+
+}  // namespace
+}  // namespace tavrin
