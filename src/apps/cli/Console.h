@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+
+#include "core/state/Interface.h"
+
+namespace tavrin::cli {
+
+/// Exit codes of tavrin-cli.
+inline constexpr int kDone = 0, kFailed = 1, kUsage = 2;
+
+/// Prints one line to the standard error stream, after the program's name.
+void complain(const std::string& line);
+
+/// The engine's window on the command line: alerts are lines, progress is one line that is written over and over
+/// when the standard error stream is a terminal.
+class Console : public Interface {
+  public:
+    Console();
+    ~Console() override;
+
+    bool wantsPixels() const override { return false; }
+    void repaint(const PublishedRows& rows) override;
+    void showAlert(const std::string& message, const std::string& reason) override;
+
+    /// Something was shown that the work could not go on without.
+    bool hadAlert() const { return hadAlert_; }
+    /// Takes the progress line away.
+    void clearProgress();
+
+  private:
+    const bool isTerminal_;
+    bool lineShown_ = false;
+    bool hadAlert_ = false;
+};
+
+}  // namespace tavrin::cli

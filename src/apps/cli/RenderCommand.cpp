@@ -1,0 +1,181 @@
+#include "apps/cli/RenderCommand.h"
+
+#include <charconv>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "apps/cli/Console.h"
+#include "core/state/SettingNames.h"
+#include "core/state/SystemInfo.h"
+#include "pipeline/CombineThread.h"
+#include "pipeline/OutputSize.h"
+#include "pipeline/SaveImage.h"
+#include "pipeline/WholePicture.h"
+
+namespace fs = std::filesystem;
+
+namespace tavrin::cli {
+
+namespace {
+
+struct RenderOptions {
+    std::string foreground, background, out, alpha;
+    std::string sizeName, inches;
+    int dpi = 0;
+    std::vector<std::string> set;
+    bool blue = false, preview = false, fast = false, json = false;
+};
+
+/// Why the command cannot be carried out as it was given; `code` is the exit code.
+struct Refusal {
+    int code = kDone;
+    std::string line;
+};
+
+bool parseNumber(std::string_view text, double& value) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && end == text.data() + text.size();
+}
+
+Refusal applySize(SystemInfo& info, const RenderOptions& options) {
+    if (options.inches.empty()) {
+        const std::string name = options.sizeName.empty() ? info.sImageSizeName.load() : options.sizeName;
+        if (selectSizeByName(info, name)) return {};
+        return {kUsage, "There is no output size \"" + name + "\"."};
+    }
+    const std::size_t cross = options.inches.find_first_of("xX");
+    double width = 0.0, height = 0.0;
+    if (cross == std::string::npos || !parseNumber(std::string_view(options.inches).substr(0, cross), width) ||
+        !parseNumber(std::string_view(options.inches).substr(cross + 1), height)) {
+        return {kUsage, "--inches takes width x height, for example 8x10, not \"" + options.inches + "\"."};
+    }
+    const std::string name = options.inches + " at " + std::to_string(options.dpi) + " dpi";
+    if (!selectOwnSize(info, name, width, height, options.dpi)) return {kFailed, "The list of sizes is full."};
+    return {};
+}
+
+Refusal applySettings(SystemInfo& info, const RenderOptions& options) {
+    if (options.blue) info.bUseBlueLogic = true;
+    for (const std::string& assignment : options.set) {
+        const std::size_t equals = assignment.find('=');
+        if (equals == std::string::npos) {
+            return {kUsage, "--set takes field=value, not \"" + assignment + "\"."};
+        }
+        const std::string error = setField(info, assignment.substr(0, equals), assignment.substr(equals + 1));
+        if (!error.empty()) return {kUsage, error};
+    }
+    return {};
+}
+
+Refusal checkTarget(const std::string& path) {
+    const fs::path folder = fs::absolute(path).parent_path();
+    std::error_code ignored;
+    if (!fs::is_directory(folder, ignored)) return {kFailed, path + ": there is no folder " + folder.string() + "."};
+    if (fs::is_directory(path, ignored)) return {kFailed, path + ": that is a folder."};
+    return {};
+}
+
+Refusal checkFiles(const RenderOptions& options) {
+    if (fileTypeForPath(options.out) == 0) {
+        return {kUsage, options.out + ": the picture's name must end in .jpg, .jpeg, .png, .tif or .tiff."};
+    }
+    if (Refusal refusal = checkTarget(options.out); refusal.code != kDone) return refusal;
+    return options.alpha.empty() ? Refusal() : checkTarget(options.alpha);
+}
+
+Refusal prepare(SystemInfo& info, const RenderOptions& options) {
+    if (Refusal refusal = checkFiles(options); refusal.code != kDone) return refusal;
+    info.pForegroundBitmapInfo->sSourceImageFullPath = options.foreground;
+    info.pBackgroundBitmapInfo->sSourceImageFullPath = options.background;
+    if (Refusal refusal = applySettings(info, options); refusal.code != kDone) return refusal;
+    if (Refusal refusal = applySize(info, options); refusal.code != kDone) return refusal;
+    if (!ChangeImageSize(info)) return {kUsage, "The output size cannot be used."};
+    info.bSkipHiRes = options.preview;
+    return {};
+}
+
+void compute(SystemInfo& info, const RenderOptions& options) {
+    if (options.fast) {
+        loadAndCombineFiles(info);
+    } else {
+        CombineThread(info).runUntilIdle();
+    }
+}
+
+QJsonObject describe(const SystemInfo& info, const RenderOptions& options, double seconds) {
+    const bool full = !options.preview;
+    return {
+        {"out", QString::fromStdString(options.out)},
+        {"width", full ? info.iOutputPixelWidth.load() : info.iOutputPixelLowResWidth.load()},
+        {"height", full ? info.iOutputPixelHeight.load() : info.iOutputPixelLowResHeight.load()},
+        {"dpi", full ? info.iOutputImageDPI.load() : info.iOutputImageLowResDPI.load()},
+        {"baseRed", info.baseRed.load()},
+        {"baseGreen", info.baseGreen.load()},
+        {"baseBlue", info.baseBlue.load()},
+        {"seconds", seconds},
+    };
+}
+
+int render(const RenderOptions& options) {
+    const auto start = std::chrono::steady_clock::now();
+    const auto info = std::make_unique<SystemInfo>();
+    Console console;
+    info->pInterface = &console;
+    if (const Refusal refusal = prepare(*info, options); refusal.code != kDone) {
+        complain(refusal.line);
+        return refusal.code;
+    }
+    compute(*info, options);
+    if (console.hadAlert()) return kFailed;
+
+    const int res = options.preview ? 0 : 1;
+    if (!saveImageToDisk(*info, options.out, fileTypeForPath(options.out), res)) return kFailed;
+    if (!options.alpha.empty() && !saveMatteToDisk(*info, options.alpha, res)) return kFailed;
+    console.clearProgress();
+    if (options.json) {
+        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+        const QByteArray text = QJsonDocument(describe(*info, options, taken.count())).toJson(QJsonDocument::Compact);
+        std::printf("%s\n", text.constData());
+    }
+    return kDone;
+}
+
+constexpr const char* kExamples = R"(
+Examples:
+  tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna-beach.jpg --inches 8x10 --dpi 300
+  tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna.png --alpha anna-matte.png
+      --set bOutputTransparency=1 --set combined.sliderWhiteAdjust=0 --set foreground.iContrast=60
+  tavrin-cli render --foreground toy.jpg --background sky.jpg --out toy.jpg --blue --fast
+
+Settings have the names of their fields; those of a layer have foreground., background. or combined. before them.
+Exit codes: 0 done, 1 the work failed, 2 wrong usage.)";
+
+}  // namespace
+
+void addRenderCommand(CLI::App& app, int& result) {
+    const auto options = std::make_shared<RenderOptions>();
+    CLI::App* command = app.add_subcommand("render", "Key one portrait over a background and save the picture");
+    command->add_option("--foreground", options->foreground, "Portrait in front of the screen")->required();
+    command->add_option("--background", options->background, "Background picture")->required();
+    command->add_option("--out", options->out, "Picture to write: .jpg, .png or .tif")->required();
+    CLI::Option* size = command->add_option("--size", options->sizeName, "Output size by its name in the list");
+    CLI::Option* inches =
+        command->add_option("--inches", options->inches, "Output size, width x height")->excludes(size);
+    CLI::Option* dpi = command->add_option("--dpi", options->dpi, "Dots an inch, with --inches")->needs(inches);
+    inches->needs(dpi);
+    command->add_option("--set", options->set, "A setting as field=value; may be given several times")->take_all();
+    command->add_flag("--blue", options->blue, "The screen is blue (same as --set bUseBlueLogic=1)");
+    command->add_option("--alpha", options->alpha, "Also write the key's alpha as a grey PNG");
+    command->add_flag("--preview", options->preview, "Stop at the preview and save that");
+    command->add_flag("--fast", options->fast, "The short path: key, text and overlays only")->excludes("--preview");
+    command->add_flag("--json", options->json, "Print what was made as one JSON line");
+    command->footer(kExamples);
+    command->callback([options, &result] { result = render(*options); });
+}
+
+}  // namespace tavrin::cli

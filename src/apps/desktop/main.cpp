@@ -1,0 +1,19 @@
+#include <memory>
+
+#include <QApplication>
+
+#include "core/Log.h"
+#include "core/state/SystemInfo.h"
+#include "ui/MainWindow.h"
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Tavrin");
+    QApplication::setApplicationVersion(TAVRIN_VERSION);
+    tavrin::setTraceLog(true);
+
+    const auto info = std::make_unique<tavrin::SystemInfo>();
+    tavrin::MainWindow window(*info);
+    window.show();
+    return QApplication::exec();
+}

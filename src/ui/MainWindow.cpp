@@ -1,0 +1,178 @@
+#include "ui/MainWindow.h"
+
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QScreen>
+#include <QStatusBar>
+
+#include "pipeline/SaveImage.h"
+
+namespace tavrin {
+
+namespace {
+
+QString pictureFilter() {
+    return MainWindow::tr(
+        "Pictures (*.jpg *.jpeg *.png *.tif *.tiff *.gif *.bmp *.psd *.webp *.heic *.heif "
+        "*.nef *.cr2 *.cr3 *.arw *.dng *.raf *.orf *.rw2)");
+}
+
+QStringList localFiles(const QMimeData* data) {
+    QStringList files;
+    for (const QUrl& url : data->urls()) {
+        if (url.isLocalFile()) files.append(url.toLocalFile());
+    }
+    return files;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
+    : QMainWindow(parent), info_(info), loop_(std::make_unique<CombineThread>(info)), view_(new PictureView(this)) {
+    setWindowTitle("Tavrin");
+    setCentralWidget(view_);
+    setAcceptDrops(true);
+    makeMenus();
+    connectBridge();
+    statusBar();
+    info_.pInterface = &bridge_;
+    loop_->StartMainThread();
+}
+
+MainWindow::~MainWindow() {
+    loop_.reset();  // the thread ends before the bridge it talks to
+    info_.pInterface = nullptr;
+}
+
+void MainWindow::makeMenus() {
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("Open &Portrait..."), QKeySequence::Open, this,
+                    [this] { askForLayer(*info_.pForegroundBitmapInfo, tr("Open Portrait")); });
+    file->addAction(tr("Open &Background..."), QKeySequence(Qt::CTRL | Qt::Key_B), this,
+                    [this] { askForLayer(*info_.pBackgroundBitmapInfo, tr("Open Background")); });
+    file->addSeparator();
+    saveAction_ = file->addAction(tr("Save"), QKeySequence::Save, this, &MainWindow::askForSave);
+    saveAction_->setEnabled(false);
+    file->addSeparator();
+    file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+}
+
+void MainWindow::connectBridge() {
+    connect(&bridge_, &WindowBridge::published, this, &MainWindow::takePublished, Qt::QueuedConnection);
+    connect(&bridge_, &WindowBridge::alerted, this, &MainWindow::showAlert, Qt::QueuedConnection);
+    connect(&bridge_, &WindowBridge::outputSized, this, &MainWindow::fitToOutput, Qt::QueuedConnection);
+    connect(
+        &bridge_, &WindowBridge::controlsEnabled, this,
+        [this](bool enabled, bool hostApplication) {
+            saveAction_->setText(hostApplication ? "Return To Lightroom" : "Save");
+            saveAction_->setEnabled(enabled);
+            statusBar()->showMessage(enabled ? tr("Ready") : tr("Working..."));
+        },
+        Qt::QueuedConnection);
+}
+
+void MainWindow::askForLayer(BitmapInfo& record, const QString& title) {
+    const QString folder = QFileInfo(QString::fromStdString(record.sSourceImageFullPath)).path();
+    const QString path = QFileDialog::getOpenFileName(this, title, folder, pictureFilter());
+    if (!path.isEmpty()) openLayer(record, path);
+}
+
+void MainWindow::openLayer(BitmapInfo& record, const QString& path) {
+    record.setSourceImageFullPath(path.toStdString());
+    record.bOrgFileChange = true;
+    saveAction_->setEnabled(false);
+    info_.StartUpdate();
+}
+
+void MainWindow::openForeground(const QString& path) {
+    openLayer(*info_.pForegroundBitmapInfo, path);
+}
+
+void MainWindow::openBackground(const QString& path) {
+    openLayer(*info_.pBackgroundBitmapInfo, path);
+}
+
+bool MainWindow::pictureStands() const {
+    return info_.iCurrentThreadCount > info_.iNewThreadCount && !info_.bShowLowRes &&
+           !info_.pForegroundBitmapInfo->orgImage.isNull();
+}
+
+void MainWindow::askForSave() {
+    const QFileInfo source(QString::fromStdString(info_.pForegroundBitmapInfo->sSourceImageFullPath));
+    const QString suggestion = source.completeBaseName() + "-combined.jpg";
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), suggestion,
+                                                      tr("JPEG (*.jpg *.jpeg);;PNG (*.png);;TIFF (*.tif *.tiff)"));
+    if (!path.isEmpty()) saveTo(path);
+}
+
+bool MainWindow::saveTo(QString path) {
+    // The buffers are the loop's while it works; between passes nobody else touches them.
+    if (!pictureStands()) {
+        statusBar()->showMessage(tr("The picture is not finished yet."), 4000);
+        return false;
+    }
+    if (QFileInfo(path).suffix().isEmpty()) path += ".jpg";
+    const std::string target = path.toStdString();
+    if (!saveImageToDisk(info_, target, fileTypeForPath(target), 1)) return false;
+    statusBar()->showMessage(tr("Saved %1").arg(path), 4000);
+    return true;
+}
+
+void MainWindow::takePublished() {
+    for (const PublishedRows& rows : bridge_.takePublished())
+        view_->show(rows);
+}
+
+void MainWindow::showAlert(const QString& message, const QString& reason) {
+    auto* box = new QMessageBox(QMessageBox::Warning, "Tavrin", message, QMessageBox::Ok, this);
+    box->setInformativeText(reason);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+void MainWindow::fitToOutput(int outputWidth, int outputHeight) {
+    if (outputWidth < 1 || outputHeight < 1 || isMaximized() || isFullScreen()) return;
+    const QRect available = screen()->availableGeometry();
+    const double height = 0.95 * available.height();
+    const double width = height * outputWidth / outputHeight;
+    resize(static_cast<int>(std::min(width, 0.95 * available.width())), static_cast<int>(height));
+    move(available.topLeft());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (localFiles(event->mimeData()).isEmpty()) return;
+    event->acceptProposedAction();
+    view_->setDropZone(view_->zoneAt(view_->mapFrom(this, event->position().toPoint())));
+}
+
+void MainWindow::dragMoveEvent(QDragMoveEvent* event) {
+    event->acceptProposedAction();
+    view_->setDropZone(view_->zoneAt(view_->mapFrom(this, event->position().toPoint())));
+}
+
+void MainWindow::dragLeaveEvent(QDragLeaveEvent*) {
+    view_->setDropZone(PictureView::DropZone::none);
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    view_->setDropZone(PictureView::DropZone::none);
+    const QStringList files = localFiles(event->mimeData());
+    if (files.isEmpty()) return;
+    event->acceptProposedAction();
+    // Two files are a pair: portrait and background.
+    if (files.size() >= 2) {
+        openForeground(files[0]);
+        openBackground(files[1]);
+    } else if (view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) ==
+               PictureView::DropZone::foreground) {
+        openForeground(files[0]);
+    } else {
+        openBackground(files[0]);
+    }
+}
+
+}  // namespace tavrin

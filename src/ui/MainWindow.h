@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+
+#include <QMainWindow>
+
+#include "core/state/SystemInfo.h"
+#include "pipeline/CombineThread.h"
+#include "ui/PictureView.h"
+#include "ui/WindowBridge.h"
+
+namespace tavrin {
+
+/// The main window: the running picture, and the way for pictures in and out of it. It owns the processing thread
+/// of the state it shows, which ends with it.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit MainWindow(SystemInfo& info, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Makes a file the source of a layer and asks for a new picture.
+    void openForeground(const QString& path);
+    void openBackground(const QString& path);
+    /// Saves the full picture; the type follows the name's extension, JPEG where there is none.
+    /// @return false when there is no finished picture, or after an alert
+    bool saveTo(QString path);
+
+    PictureView* view() const { return view_; }
+
+  protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void makeMenus();
+    void connectBridge();
+    void askForLayer(BitmapInfo& record, const QString& title);
+    void openLayer(BitmapInfo& record, const QString& path);
+    void askForSave();
+    void takePublished();
+    void showAlert(const QString& message, const QString& reason);
+    void fitToOutput(int outputWidth, int outputHeight);
+    bool pictureStands() const;
+
+    SystemInfo& info_;
+    WindowBridge bridge_;
+    std::unique_ptr<CombineThread> loop_;
+    PictureView* view_;
+    QAction* saveAction_ = nullptr;
+};
+
+}  // namespace tavrin

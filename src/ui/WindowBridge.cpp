@@ -1,0 +1,58 @@
+#include "ui/WindowBridge.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QMetaObject>
+#include <QThread>
+
+#include "core/Log.h"
+
+namespace tavrin {
+
+WindowBridge::WindowBridge(QObject* parent) : QObject(parent) {}
+
+void WindowBridge::repaint(const PublishedRows& rows) {
+    bool first = false;
+    {
+        std::lock_guard lock(mutex_);
+        first = pending_.empty();
+        // A new preview, or the whole full picture, makes everything before it stale.
+        if (rows.lowRes || rows.rowCount == rows.height) pending_.clear();
+        pending_.push_back(rows);
+    }
+    if (first) emit published();
+}
+
+std::vector<PublishedRows> WindowBridge::takePublished() {
+    std::lock_guard lock(mutex_);
+    return std::exchange(pending_, {});
+}
+
+void WindowBridge::enableControls(bool enabled, bool hostApplication) {
+    emit controlsEnabled(enabled, hostApplication);
+}
+
+void WindowBridge::sizeWindow(int outputWidth, int outputHeight) {
+    emit outputSized(outputWidth, outputHeight);
+}
+
+void WindowBridge::showAlert(const std::string& message, const std::string& reason) {
+    logError(reason);
+    emit alerted(QString::fromStdString(message), QString::fromStdString(reason));
+}
+
+void WindowBridge::performAndWait(const std::function<void()>& job) {
+    if (QThread::currentThread() == thread()) {
+        job();
+    } else {
+        QMetaObject::invokeMethod(this, job, Qt::BlockingQueuedConnection);
+    }
+}
+
+void WindowBridge::setMouse(bool down, int mode) {
+    mouseMode_.store(mode, std::memory_order_relaxed);
+    mouseDown_.store(down, std::memory_order_relaxed);
+}
+
+}  // namespace tavrin

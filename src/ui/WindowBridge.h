@@ -1,0 +1,47 @@
+#pragma once
+
+#include <atomic>
+#include <mutex>
+#include <vector>
+
+#include <QObject>
+
+#include "core/state/Interface.h"
+
+namespace tavrin {
+
+/// Carries what the engine asks of the window over to the main thread. Nothing here makes the processing thread
+/// wait, but for `performAndWait`. Previews that come faster than the window paints replace each other.
+class WindowBridge : public QObject, public Interface {
+    Q_OBJECT
+
+  public:
+    explicit WindowBridge(QObject* parent = nullptr);
+
+    void repaint(const PublishedRows& rows) override;
+    void enableControls(bool enabled, bool hostApplication) override;
+    void sizeWindow(int outputWidth, int outputHeight) override;
+    void showAlert(const std::string& message, const std::string& reason) override;
+    void performAndWait(const std::function<void()>& job) override;
+    bool mouseDown() const override { return mouseDown_.load(std::memory_order_relaxed); }
+    int eventMouseMode() const override { return mouseMode_.load(std::memory_order_relaxed); }
+
+    /// From the view: a layer is held with the mouse, and which (1 is the foreground).
+    void setMouse(bool down, int mode);
+    /// Takes what has been published since the last call; for the slot behind `published`.
+    std::vector<PublishedRows> takePublished();
+
+  signals:
+    void published();
+    void controlsEnabled(bool enabled, bool hostApplication);
+    void outputSized(int width, int height);
+    void alerted(const QString& message, const QString& reason);
+
+  private:
+    std::mutex mutex_;
+    std::vector<PublishedRows> pending_;
+    std::atomic<bool> mouseDown_ = false;
+    std::atomic<int> mouseMode_ = 0;
+};
+
+}  // namespace tavrin
