@@ -1,0 +1,106 @@
+#!/usr/bin/env python3
+"""Checks that no file of src/ includes anything of a higher floor.
+
+A file includes what stands on a lower floor, or its own folder. Two folders of one floor do not know each other.
+Without arguments the tree is checked; --self-test checks the checker.
+"""
+import re
+import sys
+import tempfile
+from pathlib import Path
+
+FLOORS = {
+    "core": 0,
+    "formats": 1,
+    "key": 2,
+    "effects": 3,
+    "pipeline": 4,
+    "delivery": 5,
+    "editor": 5,
+    "batch": 6,
+    "ui": 7,
+    "apps": 8,
+}
+WINDOW_FLOOR = FLOORS["ui"]
+
+INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)')
+# The engine is not linked with these, so the compiler finds most of them too; the form with a folder it does not.
+WINDOW_HEADER = re.compile(r"^(Qt(Widgets|PrintSupport|WebEngine\w*)/|QApplication$|Q\w*(Widget|Dialog)$)")
+
+
+def fault(folder, quoted, system):
+    """The rule that an include in a file of `folder` breaks, or None."""
+    floor = FLOORS[folder]
+    if system:
+        if floor < WINDOW_FLOOR and WINDOW_HEADER.match(system):
+            return f"<{system}> belongs to windows, which only src/ui and src/apps know"
+        return None
+    if quoted.endswith(".moc"):
+        return None
+    target = quoted.split("/")[0]
+    if "/" not in quoted or target not in FLOORS:
+        return f'"{quoted}" does not begin with a folder of src/, as in "core/state/SystemInfo.h"'
+    if target != folder and FLOORS[target] == floor:
+        return f"{folder} and {target} stand on the same floor ({floor}) and do not include each other"
+    if FLOORS[target] > floor:
+        return f"{folder} (floor {floor}) includes {target} (floor {FLOORS[target]}), which stands higher"
+    return None
+
+
+def check(source_root):
+    """All broken rules below `source_root`, one line each."""
+    faults = []
+    for path in sorted(source_root.rglob("*")):
+        if path.suffix not in (".h", ".cpp"):
+            continue
+        folder = path.relative_to(source_root).parts[0]
+        if folder not in FLOORS:
+            faults.append(f"{path}:1: the folder {folder} has no floor; add it to the table in tools/check_floors.py")
+            continue
+        for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+            match = INCLUDE.match(line)
+            reason = match and fault(folder, match.group(1), match.group(2))
+            if reason:
+                faults.append(f"{path}:{number}: {reason}")
+    return faults
+
+
+def self_test():
+    """Builds small trees, good and bad, and sees whether exactly the bad lines are found."""
+    good = ['#include "core/a.h"', '#include "key/b.h"', "#include <QImage>", "#include <vector>"]
+    bad = {
+        "key/up.cpp": '#include "pipeline/loop.h"',
+        "core/spaced.h": ' #  include "formats/x.h"',
+        "editor/side.cpp": '#include "delivery/x.h"',
+        "batch/window.cpp": "#include <QtWidgets/QWidget>",
+        "delivery/dialog.cpp": "#include <QPrintDialog>",
+        "core/state/local.cpp": '#include "local.h"',
+        "elsewhere/x.h": "",
+    }
+    with tempfile.TemporaryDirectory() as folder:
+        root = Path(folder)
+        for name, line in bad.items():
+            (root / name).parent.mkdir(parents=True, exist_ok=True)
+            (root / name).write_text("#pragma once\n" + line + "\n")
+        (root / "key" / "good.cpp").write_text("\n".join(good) + "\n")
+        (root / "ui").mkdir()
+        (root / "ui" / "good.cpp").write_text('#include <QWidget>\n#include "batch/x.h"\n#include "good.moc"\n')
+        found = sorted(str(Path(line.split(":")[0]).relative_to(root)) for line in check(root))
+    if found != sorted(bad):
+        print(f"self-test: expected faults in {sorted(bad)}, found them in {found}", file=sys.stderr)
+        return 1
+    return 0
+
+
+def main():
+    if sys.argv[1:] == ["--self-test"]:
+        return self_test()
+    root = Path(__file__).resolve().parent.parent / "src"
+    faults = check(root)
+    for line in faults:
+        print(line.replace(f"{root.parent}/", ""), file=sys.stderr)
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,72 @@
+# Shared by ./run, ./test and .ci/run, which source it: packages, builds, plain messages. All messages go to the
+# standard error stream, so that what tavrin-cli prints can be piped. A step that takes no time says nothing.
+# shellcheck shell=bash disable=SC2034
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+build_packages=(g++ cmake ninja-build ccache pkg-config python3
+    qt6-base-dev qt6-svg-dev libgl1-mesa-dev libvips-dev libraw-dev libpugixml-dev libtbb-dev libhwy-dev
+    libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev)
+test_packages=(xvfb xauth)
+format_packages=(clang-format-14)
+
+say() { printf '%s\n' "$*" >&2; }
+
+fail() {
+    say "$@"
+    exit 1
+}
+
+# step LABEL LOG COMMAND...: runs the command with its output in LOG, and shows the part that matters on failure.
+step() {
+    local label=$1 log=$2 start=$SECONDS first
+    shift 2
+    mkdir -p "$(dirname "$log")"
+    if ! "$@" >"$log" 2>&1; then
+        say "$label: failed. From $log:"
+        first=$(grep -nm1 -E '^FAILED: |CMake Error' "$log" | cut -d: -f1) || true
+        if [ -n "$first" ]; then tail -n "+$first" "$log" | head -n 40 >&2; else tail -n 40 "$log" >&2; fi
+        exit 1
+    fi
+    if [ "$SECONDS" -gt "$start" ]; then say "$(printf '%-28s %4d s' "$label" $((SECONDS - start)))"; fi
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; elif [ -t 0 ]; then sudo "$@"; else sudo -n "$@"; fi
+}
+
+install_packages() {
+    # Old package lists may still do, so only the installation decides.
+    as_root apt-get -q update || echo "apt-get update failed"
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "$@"
+}
+
+# need PACKAGE...: installs those that are missing; touches neither apt nor the network when none is.
+need() {
+    local package missing=() hint
+    if ! command -v dpkg-query >/dev/null; then
+        say "No dpkg here: Tavrin builds on with what is installed. On Debian 12 the packages are: $*"
+        return
+    fi
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    hint="Missing packages: ${missing[*]}"
+    [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null ||
+        fail "$hint" "To install them root or sudo is needed. As root:" \
+            "  apt-get install --no-install-recommends ${missing[*]}"
+    say "Installing ${missing[*]}"
+    mkdir -p build
+    if ! install_packages "${missing[@]}" >build/packages.log 2>&1; then
+        say "$hint" "They could not be installed (no network, no such package, or no right to). From build/packages.log:"
+        grep -E '^(E|W|Err|sudo)|failed' build/packages.log | tail -n 12 >&2 || tail -n 12 build/packages.log >&2
+        exit 1
+    fi
+}
+
+# build PRESET: configures and builds everything of the preset.
+build() {
+    step "configure $1" "build/$1/configure.log" cmake --preset "$1"
+    step "build $1" "build/$1/build.log" cmake --build --preset "$1"
+}
