@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+class QTemporaryDir;
+
+namespace tavrin {
+
+/// The folders that the program keeps its files in. Every folder ends with a slash. There is one for the whole
+/// process; programs and tests that want other folders set them before anything else starts.
+class Places {
+  public:
+    static Places& current();
+
+    Places();
+    ~Places();
+
+    std::string sharedFolder() const { return shared_; }      ///< what belongs to the installation
+    std::string picturesFolder() const { return pictures_; }  ///< what belongs to the user
+    std::string xmlFolder() const { return shared_ + "QLXXML/"; }
+    std::string tempFilesFolder() const { return tempFiles_.empty() ? shared_ + "TempFiles/" : tempFiles_; }
+
+    std::string settingsFile() const { return xmlFolder() + "QLX12.xml"; }
+    std::string imageSizeFile() const { return xmlFolder() + "ImageSize.xml"; }
+    std::string customImageSizeFile() const { return xmlFolder() + "CustomImageSize.xml"; }
+    std::string printerFile() const { return xmlFolder() + "Printer.xml"; }
+    std::string customPrinterFile() const { return xmlFolder() + "PrinterCustom.xml"; }
+
+    void setSharedFolder(const std::string& folder);
+    void setPicturesFolder(const std::string& folder);
+
+    /// Keeps temporary files in a new folder of this process, which goes away with it, so that a second program never
+    /// clears or reads those of the first.
+    /// @return false when no such folder can be made; the shared one stays in use then
+    bool usePrivateTempFiles();
+
+    /// Makes the folders that are missing.
+    /// @return "" or one line that names the folder that cannot be made
+    std::string createFolders() const;
+
+  private:
+    std::string shared_, pictures_, tempFiles_;
+    std::unique_ptr<QTemporaryDir> privateTempFiles_;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+#include "core/Places.h"
+
+namespace tavrin {
+
+/// Makes a fresh account work: makes the folders of `places` and puts what the program ships into them where it is
+/// missing. What the user has is never written over, and programs that start at once do not disturb each other: a
+/// file appears whole and only where there is none. The shipped files are part of the program itself, so this works
+/// from a build tree as well.
+/// @return "" when done; otherwise one line for each folder or file that could not be made
+[[nodiscard]] std::string installMissingFiles(const Places& places = Places::current());
+
+}  // namespace tavrin

@@ -1,0 +1,244 @@
+#include "formats/SafeFile.h"
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+#include <filesystem>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLockFile>
+
+#include "core/Log.h"
+
+namespace fs = std::filesystem;
+
+namespace tavrin {
+
+namespace {
+
+constexpr QFile::Permissions kOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
+// What the user's own mask leaves of this is what any new file gets.
+constexpr QFile::Permissions kEveryone =
+    kOwnerOnly | QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+constexpr int kTurnMilliseconds = 5000;
+
+fs::path toPath(const std::string& name) {
+    return fs::path(std::u8string(name.begin(), name.end()));
+}
+QString toQt(const std::string& name) {
+    return QString::fromStdString(name);
+}
+std::string temporaryName(const std::string& path) {
+    return path + "tmp";
+}
+std::string setAsideName(const std::string& path) {
+    return path + ".set-aside";
+}
+std::string lockName(const std::string& path) {
+    return path + ".lock";
+}
+
+/// Something has this name, be it a link that leads nowhere.
+bool isThere(const std::string& path) {
+    std::error_code ignored;
+    return fs::exists(fs::symlink_status(toPath(path), ignored));
+}
+
+/// @return what went wrong; converts to false when nothing did
+std::error_code moveFile(const std::string& from, const std::string& to) {
+    std::error_code problem;
+    fs::rename(toPath(from), toPath(to), problem);
+    return problem;
+}
+
+void removeFile(const std::string& path) {
+    std::error_code ignored;
+    fs::remove(toPath(path), ignored);
+}
+
+bool bringToDisk(QFile& file) {
+#ifdef _WIN32
+    return file.flush() && ::_commit(file.handle()) == 0;
+#else
+    return file.flush() && ::fsync(file.handle()) == 0;
+#endif
+}
+
+/// Brings the names of a file's folder to the disk. File systems that have no use for it refuse, which is fine.
+void bringNamesToDisk([[maybe_unused]] const std::string& path) {
+#ifndef _WIN32
+    const std::string folder = fs::path(path).parent_path().string();
+    const int handle = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return;
+    ::fsync(handle);
+    ::close(handle);
+#endif
+}
+
+/// Puts the file back that an unfinished save set aside. Only for whoever has the turn at this file.
+void putBack(const std::string& path) {
+    if (!isThere(path) && isThere(setAsideName(path))) moveFile(setAsideName(path), path);
+}
+
+}  // namespace
+
+SafeSave::SafeSave() = default;
+
+SafeSave::~SafeSave() {
+    giveUp();
+}
+
+bool SafeSave::fail(const std::string& why) {
+    if (problem_.empty()) problem_ = why;
+    giveUp();
+    return false;
+}
+
+bool SafeSave::begin(const std::string& path, Readers readers) {
+    giveUp();
+    problem_.clear();
+    path_ = path;
+    return takeTurn() && openTemporary(readers) && setOldFileAside(readers);
+}
+
+bool SafeSave::takeTurn() {
+    auto turn = std::make_unique<QLockFile>(toQt(lockName(path_)));
+    if (!turn->tryLock(kTurnMilliseconds)) {
+        return fail(turn->error() == QLockFile::LockFailedError
+                        ? path_ + " cannot be saved: another program is saving it."
+                        : path_ + " cannot be saved: its folder is missing or may not be written to.");
+    }
+    turn_ = std::move(turn);
+    // With both files there, an earlier save was stopped after the new file had arrived.
+    if (isThere(path_)) {
+        removeFile(setAsideName(path_));
+    } else {
+        putBack(path_);
+    }
+    return true;
+}
+
+bool SafeSave::openTemporary(Readers readers) {
+    // A leftover might be open to more readers than this file may be, so it is never written to again.
+    removeFile(temporaryName(path_));
+    file_ = std::make_unique<QFile>(toQt(temporaryName(path_)));
+    if (file_->open(QFile::WriteOnly | QFile::NewOnly, readers == Readers::ownerOnly ? kOwnerOnly : kEveryone))
+        return true;
+    return fail(path_ + " cannot be saved: " + file_->errorString().toStdString() + ".");
+}
+
+bool SafeSave::setOldFileAside(Readers readers) {
+    if (!isThere(path_)) return true;
+    if (!fs::is_regular_file(toPath(path_)) && !fs::is_symlink(toPath(path_)))
+        return fail(path_ + " cannot be saved: it is no file.");
+    if (readers == Readers::ownerOnly) {
+        QFile::setPermissions(toQt(path_), kOwnerOnly);
+    } else if (QFile::exists(toQt(path_))) {
+        file_->setPermissions(QFile::permissions(toQt(path_)) | kOwnerOnly);
+    }
+    const std::error_code problem = moveFile(path_, setAsideName(path_));
+    return problem ? fail(path_ + " cannot be replaced: " + problem.message() + ".") : true;
+}
+
+void SafeSave::write(std::string_view bytes) {
+    if (!file_) return;
+    if (file_->write(bytes.data(), static_cast<qint64>(bytes.size())) != static_cast<qint64>(bytes.size()))
+        fail(path_ + " cannot be saved: " + file_->errorString().toStdString() + ".");
+}
+
+bool SafeSave::commit() {
+    if (!file_) return fail("No save is under way.");
+    if (!bringToDisk(*file_)) {
+        return fail(path_ + " cannot be saved: " +
+                    (file_->error() == QFile::NoError ? std::string("the disk refused it")
+                                                      : file_->errorString().toStdString()) +
+                    ".");
+    }
+    file_->close();
+    if (const std::error_code problem = moveFile(temporaryName(path_), path_))
+        return fail(path_ + " cannot be saved: " + problem.message() + ".");
+    file_.reset();
+    bringNamesToDisk(path_);
+    removeFile(setAsideName(path_));
+    turn_.reset();
+    return true;
+}
+
+void SafeSave::giveUp() {
+    if (file_) {
+        file_->close();
+        removeFile(temporaryName(path_));
+        putBack(path_);
+        file_.reset();
+    }
+    turn_.reset();
+}
+
+namespace {
+
+/// Reads a file that exists; false when it does not.
+bool readExisting(const std::string& path, std::size_t limit, FileBytes& result) {
+    std::error_code ignored;
+    const fs::file_status status = fs::status(toPath(path), ignored);
+    if (!fs::exists(status)) return false;
+    if (!fs::is_regular_file(status)) {
+        result.problem = path + " is no file.";
+        return true;
+    }
+    QFile file(toQt(path));
+    if (!file.open(QFile::ReadOnly)) {
+        if (!isThere(path)) return false;
+        result.problem = path + " cannot be opened: " + file.errorString().toStdString() + ".";
+        return true;
+    }
+    const QByteArray bytes = file.read(static_cast<qint64>(limit) + 1);
+    if (file.error() != QFile::NoError) {
+        result.problem = path + " cannot be read: " + file.errorString().toStdString() + ".";
+    } else if (bytes.size() > static_cast<qint64>(limit)) {
+        result.problem = path + " is longer than any file of its kind (" + std::to_string(limit) + " bytes).";
+    } else {
+        result.bytes.assign(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    }
+    return true;
+}
+
+}  // namespace
+
+FileBytes readSafeFile(const std::string& path, std::size_t limit) {
+    FileBytes result;
+    // A save under way may give the name to the new file and remove the old one between the two looks.
+    constexpr int kLooks = 20;
+    for (int look = 0; look < kLooks; ++look) {
+        if (readExisting(path, limit, result)) return result;
+        if (readExisting(setAsideName(path), limit, result)) {
+            logError(path + " is missing; the file that an unfinished save set aside is taken in its place.");
+            QLockFile turn(toQt(lockName(path)));
+            if (turn.tryLock(0)) putBack(path);  // no save is under way
+            return result;
+        }
+    }
+    result.missing = true;
+    result.problem = "There is no file " + path + ".";
+    return result;
+}
+
+bool safeFileExists(const std::string& path) {
+    return isThere(path) || isThere(setAsideName(path));
+}
+
+bool claimName(const std::string& file, const std::string& path) {
+    if (QFile::rename(toQt(file), toQt(path))) return true;  // refuses a name that is taken
+    removeFile(file);
+    return isThere(path);
+}
+
+std::string ownNameBeside(const std::string& path) {
+    return path + ".new" + std::to_string(QCoreApplication::applicationPid());
+}
+
+}  // namespace tavrin
