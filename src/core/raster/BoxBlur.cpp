@@ -118,9 +118,7 @@ void boxBlur(const RunContext& context, typename Layout::Sample* src, typename L
 }
 
 RunContext whileWanted(const SystemInfo* info) {
-    RunContext context;
-    if (info) context.superseded = [info] { return !info->bLightingForceCompute && info->isStale(); };
-    return context;
+    return info ? info->rowsWhileWanted() : RunContext();
 }
 
 }  // namespace
