@@ -52,8 +52,22 @@ struct TextState {
     std::int32_t iFontObjectCount() const { return static_cast<std::int32_t>(oFontObject.size()); }
 };
 
+/// The skin colour of the subject on the 0 to 255 scale, in real channels. Before a measurement, and where none is
+/// wanted, the defaults stand.
+struct SkinColor {
+    static constexpr int kMatrixSide = 100;
+
+    double dFaceRed = 240.0, dFaceGreen = 180.0, dFaceBlue = 160.0;
+    double dFaceInt = 210.0;  ///< level of the largest channel
+    double dFaceSat = 33.33;  ///< saturation, percent
+    double dFaceHue = 63.75;  ///< where green lies between blue and red, percent; not degrees
+    /// Pixels counted by hue and saturation in percent: entry hue * kMatrixSide + saturation; and the largest entry.
+    std::array<double, kMatrixSide * kMatrixSide> dFaceColorMatrix{};
+    double dFaceColorMatrixMaxColor = 0.0;
+};
+
 /// Results of stages that live for a pass, and flags of stages.
-struct StageState {
+struct StageState : SkinColor {
     PixelBuffer hairDetectPixels;
     std::uint8_t* pHairDetectBitmap = nullptr;  ///< fine-detail map, preview size
     std::vector<std::int32_t> oLightingMap;     ///< gain a pixel in thousandths; empty when there is no light

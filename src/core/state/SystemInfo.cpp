@@ -50,6 +50,12 @@ RunContext SystemInfo::rowsWhileCurrent() const {
     return context;
 }
 
+RunContext SystemInfo::rowsWhileWanted() const {
+    RunContext context;
+    context.superseded = [this] { return isSuperseded(); };
+    return context;
+}
+
 void SystemInfo::publishFull(int firstRow, int lastRow) {
     publish(*pCombinedBitmapInfo, false, firstRow, lastRow);
 }

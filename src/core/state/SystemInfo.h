@@ -72,6 +72,10 @@ class SystemInfo : public Settings,
     /// What the rows of a stage listen to: they stop when the state is stale.
     RunContext rowsWhileCurrent() const;
 
+    /// As above for the stages that `bLightingForceCompute` keeps going.
+    RunContext rowsWhileWanted() const;
+    bool isSuperseded() const { return !bLightingForceCompute && isStale(); }
+
     /// Hands rows [first, last) of the combined picture to the interface, if there is one.
     void publishFull(int firstRow, int lastRow);
     /// Hands the whole combined preview to the interface, if there is one.
