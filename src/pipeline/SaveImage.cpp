@@ -42,14 +42,14 @@ int fileTypeForPath(const std::string& path) {
     std::string extension = std::filesystem::path(path).extension().string();
     std::transform(extension.begin(), extension.end(), extension.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    if (extension == ".jpg" || extension == ".jpeg") return kFileTypeJPEG;
-    if (extension == ".png") return kFileTypePNG;
-    if (extension == ".tif" || extension == ".tiff") return kFileTypeTIFF;
+    if (extension == ".jpg" || extension == ".jpeg") return kJpegFile;
+    if (extension == ".png") return kPngFile;
+    if (extension == ".tif" || extension == ".tiff") return kTiffFile;
     return 0;
 }
 
 bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes) {
-    if (theFileType < kFileTypeJPEG || theFileType > kFileTypeTIFF) {
+    if (theFileType < kJpegFile || theFileType > kTiffFile) {
         return refuse(info, path + ": there is no file type " + std::to_string(theFileType) + ".");
     }
     const BitmapInfo& combined = *info.pCombinedBitmapInfo;

@@ -2,12 +2,10 @@
 
 #include <string>
 
+#include "core/image/ImageWriter.h"
 #include "core/state/SystemInfo.h"
 
 namespace tavrin {
-
-/// File types, everywhere.
-inline constexpr int kFileTypeJPEG = 1, kFileTypePNG = 2, kFileTypeTIFF = 3;
 
 /// File type for a path by its extension (jpg, jpeg, png, tif, tiff); 0 for any other.
 int fileTypeForPath(const std::string& path);

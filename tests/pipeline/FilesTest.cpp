@@ -59,7 +59,7 @@ TEST(SaveImage, WritesWhatTheBufferHoldsWithItsResolution) {
         }
     }
     const std::string path = folder.file("out.png");
-    ASSERT_TRUE(saveImageToDisk(*info, path, kFileTypePNG, 1));
+    ASSERT_TRUE(saveImageToDisk(*info, path, kPngFile, 1));
     const QImage back = QImage(QString::fromStdString(path)).convertToFormat(QImage::Format_RGBA8888);
     ASSERT_EQ(back.size(), QSize(100, 140));
     EXPECT_EQ(back.pixel(7, 139), qRgba(7, 139, 30, 128));
@@ -72,8 +72,8 @@ TEST(SaveImage, RefusesUnknownTypesAndMissingFoldersAndWritesNothing) {
     SystemInfo empty;
     for (const int type : {0, 4, -1})
         EXPECT_FALSE(saveImageToDisk(*info, folder.file("a.jpg"), type, 1));
-    EXPECT_FALSE(saveImageToDisk(*info, folder.file("none/a.jpg"), kFileTypeJPEG, 1));
-    EXPECT_FALSE(saveImageToDisk(empty, folder.file("a.jpg"), kFileTypeJPEG, 1));
+    EXPECT_FALSE(saveImageToDisk(*info, folder.file("none/a.jpg"), kJpegFile, 1));
+    EXPECT_FALSE(saveImageToDisk(empty, folder.file("a.jpg"), kJpegFile, 1));
     EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 

@@ -9,12 +9,14 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
-#include "core/state/SettingNames.h"
 #include "core/state/SystemInfo.h"
+#include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
+#include "pipeline/StartUp.h"
 #include "pipeline/WholePicture.h"
 
 namespace fs = std::filesystem;
@@ -25,6 +27,7 @@ namespace {
 
 struct RenderOptions {
     std::string foreground, background, out, alpha;
+    std::string state, saveState;
     std::string sizeName, inches;
     int dpi = 0;
     std::vector<std::string> set;
@@ -46,6 +49,8 @@ Refusal applySize(SystemInfo& info, const RenderOptions& options) {
     if (options.inches.empty()) {
         const std::string name = options.sizeName.empty() ? info.sImageSizeName.load() : options.sizeName;
         if (selectSizeByName(info, name)) return {};
+        // A state file may name a size that is not in the list and carry an index that is.
+        if (options.sizeName.empty() && !options.state.empty()) return {};
         return {kUsage, "There is no output size \"" + name + "\"."};
     }
     const std::size_t cross = options.inches.find_first_of("xX");
@@ -59,17 +64,21 @@ Refusal applySize(SystemInfo& info, const RenderOptions& options) {
     return {};
 }
 
+/// The pictures named on the command line win over those of the state file.
+Refusal applySources(SystemInfo& info, const RenderOptions& options) {
+    const auto use = [](BitmapInfo& record, const std::string& path) {
+        if (!path.empty()) record.sSourceImageFullPath = path;
+        return !record.sSourceImageFullPath.empty();
+    };
+    if (!use(*info.pForegroundBitmapInfo, options.foreground)) return {kUsage, "--foreground is missing."};
+    if (!use(*info.pBackgroundBitmapInfo, options.background)) return {kUsage, "--background is missing."};
+    return {};
+}
+
 Refusal applySettings(SystemInfo& info, const RenderOptions& options) {
     if (options.blue) info.bUseBlueLogic = true;
-    for (const std::string& assignment : options.set) {
-        const std::size_t equals = assignment.find('=');
-        if (equals == std::string::npos) {
-            return {kUsage, "--set takes field=value, not \"" + assignment + "\"."};
-        }
-        const std::string error = setField(info, assignment.substr(0, equals), assignment.substr(equals + 1));
-        if (!error.empty()) return {kUsage, error};
-    }
-    return {};
+    const std::string problem = applyAssignments(info, options.set);
+    return problem.empty() ? Refusal() : Refusal{kUsage, problem};
 }
 
 Refusal checkTarget(const std::string& path) {
@@ -84,14 +93,20 @@ Refusal checkFiles(const RenderOptions& options) {
     if (fileTypeForPath(options.out) == 0) {
         return {kUsage, options.out + ": the picture's name must end in .jpg, .jpeg, .png, .tif or .tiff."};
     }
-    if (Refusal refusal = checkTarget(options.out); refusal.code != kDone) return refusal;
-    return options.alpha.empty() ? Refusal() : checkTarget(options.alpha);
+    for (const std::string& path : {options.out, options.alpha, options.saveState}) {
+        if (path.empty()) continue;
+        if (Refusal refusal = checkTarget(path); refusal.code != kDone) return refusal;
+    }
+    return {};
 }
 
 Refusal prepare(SystemInfo& info, const RenderOptions& options) {
     if (Refusal refusal = checkFiles(options); refusal.code != kDone) return refusal;
-    info.pForegroundBitmapInfo->sSourceImageFullPath = options.foreground;
-    info.pBackgroundBitmapInfo->sSourceImageFullPath = options.background;
+    if (!options.state.empty()) {
+        const std::string problem = LoadImageStateFromXML(info, options.state, kLoadAll);
+        if (!problem.empty()) return {kFailed, problem};
+    }
+    if (Refusal refusal = applySources(info, options); refusal.code != kDone) return refusal;
     if (Refusal refusal = applySettings(info, options); refusal.code != kDone) return refusal;
     if (Refusal refusal = applySize(info, options); refusal.code != kDone) return refusal;
     if (!ChangeImageSize(info)) return {kUsage, "The output size cannot be used."};
@@ -124,6 +139,7 @@ QJsonObject describe(const SystemInfo& info, const RenderOptions& options, doubl
 int render(const RenderOptions& options) {
     const auto start = std::chrono::steady_clock::now();
     const auto info = std::make_unique<SystemInfo>();
+    startCommandLine(*info);
     Console console;
     info->pInterface = &console;
     if (const Refusal refusal = prepare(*info, options); refusal.code != kDone) {
@@ -137,6 +153,13 @@ int render(const RenderOptions& options) {
     if (!saveImageToDisk(*info, options.out, fileTypeForPath(options.out), res)) return kFailed;
     if (!options.alpha.empty() && !saveMatteToDisk(*info, options.alpha, res)) return kFailed;
     console.clearProgress();
+    if (!options.saveState.empty()) {
+        const std::string problem = saveImageStateToXML(*info, options.saveState);
+        if (!problem.empty()) {
+            complain(problem);
+            return kFailed;
+        }
+    }
     if (options.json) {
         const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
         const QByteArray text = QJsonDocument(describe(*info, options, taken.count())).toJson(QJsonDocument::Compact);
@@ -150,6 +173,7 @@ Examples:
   tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna-beach.jpg --inches 8x10 --dpi 300
   tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna.png --alpha anna-matte.png
       --set bOutputTransparency=1 --set combined.sliderWhiteAdjust=0 --set foreground.iContrast=60
+  tavrin-cli render --state school.qlx --foreground anna.jpg --out anna-school.jpg
   tavrin-cli render --foreground toy.jpg --background sky.jpg --out toy.jpg --blue --fast
 
 Settings have the names of their fields; those of a layer have foreground., background. or combined. before them.
@@ -160,9 +184,11 @@ Exit codes: 0 done, 1 the work failed, 2 wrong usage.)";
 void addRenderCommand(CLI::App& app, int& result) {
     const auto options = std::make_shared<RenderOptions>();
     CLI::App* command = app.add_subcommand("render", "Key one portrait over a background and save the picture");
-    command->add_option("--foreground", options->foreground, "Portrait in front of the screen")->required();
-    command->add_option("--background", options->background, "Background picture")->required();
+    command->add_option("--foreground", options->foreground, "Portrait in front of the screen");
+    command->add_option("--background", options->background, "Background picture");
     command->add_option("--out", options->out, "Picture to write: .jpg, .png or .tif")->required();
+    command->add_option("--state", options->state, "Take all settings from a .qlx file first");
+    command->add_option("--save-state", options->saveState, "Also write the settings as a .qlx file");
     CLI::Option* size = command->add_option("--size", options->sizeName, "Output size by its name in the list");
     CLI::Option* inches =
         command->add_option("--inches", options->inches, "Output size, width x height")->excludes(size);

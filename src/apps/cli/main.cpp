@@ -2,7 +2,9 @@
 
 #include "apps/cli/Console.h"
 #include "apps/cli/InfoCommand.h"
+#include "apps/cli/ListCommands.h"
 #include "apps/cli/RenderCommand.h"
+#include "apps/cli/StateCommand.h"
 #include "core/Log.h"
 
 int main(int argc, char** argv) {
@@ -21,6 +23,8 @@ int main(int argc, char** argv) {
     int result = cli::kDone;
     cli::addRenderCommand(app, result);
     cli::addInfoCommand(app, result);
+    cli::addStateCommand(app, result);
+    cli::addListCommands(app, result);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "core/state/SystemInfo.h"
+
+namespace tavrin {
+
+/// Brings a new state up for the desktop program, in the order on which its steps rest: settings file, size and page
+/// lists, working folder, default state file, label 2, start-up pictures, output size. A fresh account gets what is
+/// missing first. What cannot be read is told on the standard error stream, and the defaults stay in its place.
+void startSystem(SystemInfo& info);
+
+/// Brings a new state up for the command line, which leaves the account as it is: temporary files in a folder of the
+/// process, the user's size and page lists where there are any, else the shipped ones. All settings at their
+/// defaults.
+void startCommandLine(SystemInfo& info);
+
+/// Loads a state file as the user's choice: the state is read whole or not at all, and what a pass must redo is
+/// flagged. The caller asks for the new picture.
+/// @return "" when done; otherwise one line, and the state is as it was
+std::string openStateFile(SystemInfo& info, const std::string& path);
+
+}  // namespace tavrin
