@@ -3,17 +3,28 @@
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
+#include <QSettings>
 #include <QStatusBar>
+#include <QToolBar>
 
+#include "formats/ImageState.h"
 #include "pipeline/SaveImage.h"
+#include "pipeline/StartUp.h"
 
 namespace tavrin {
 
 namespace {
+
+constexpr const char* kRecentKey = "recentFiles";
+
+bool isStateFile(const QString& path) {
+    return QFileInfo(path).suffix().compare("qlx", Qt::CaseInsensitive) == 0;
+}
 
 QString pictureFilter() {
     return MainWindow::tr(
@@ -37,6 +48,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     setCentralWidget(view_);
     setAcceptDrops(true);
     makeMenus();
+    makeSizeBox();
     connectBridge();
     statusBar();
     info_.pInterface = &bridge_;
@@ -54,11 +66,104 @@ void MainWindow::makeMenus() {
                     [this] { askForLayer(*info_.pForegroundBitmapInfo, tr("Open Portrait")); });
     file->addAction(tr("Open &Background..."), QKeySequence(Qt::CTRL | Qt::Key_B), this,
                     [this] { askForLayer(*info_.pBackgroundBitmapInfo, tr("Open Background")); });
+    file->addAction(tr("Open S&tate..."), QKeySequence(Qt::CTRL | Qt::Key_T), this, &MainWindow::askForStateToOpen);
+    recentMenu_ = file->addMenu(tr("Open &Recent"));
+    connect(recentMenu_, &QMenu::aboutToShow, this, &MainWindow::refillRecentFiles);
     file->addSeparator();
     saveAction_ = file->addAction(tr("Save"), QKeySequence::Save, this, &MainWindow::askForSave);
     saveAction_->setEnabled(false);
+    file->addAction(tr("Save State &As..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T), this,
+                    &MainWindow::askForStateToSave);
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+}
+
+void MainWindow::makeSizeBox() {
+    QToolBar* bar = addToolBar(tr("Output"));
+    bar->setMovable(false);
+    bar->addWidget(new QLabel(tr("Output size "), bar));
+    sizeBox_ = new QComboBox(bar);
+    sizeBox_->setMaxVisibleItems(24);
+    for (const ImageSize& size : info_.oImageSize)
+        sizeBox_->addItem(QString::fromStdString(size.sName));
+    bar->addWidget(sizeBox_);
+    showSelectedSize();
+    connect(sizeBox_, &QComboBox::activated, this, &MainWindow::chooseSize);
+}
+
+void MainWindow::showSelectedSize() {
+    sizeBox_->setCurrentIndex(info_.iSelecteImageSize);
+}
+
+void MainWindow::chooseSize(int index) {
+    if (index < 0 || index >= info_.iImageSizeCount()) return;
+    info_.iSelecteImageSize = index;
+    info_.sImageSizeName = info_.oImageSize[static_cast<std::size_t>(index)].sName.load();
+    info_.bNewOutputSize = true;
+    info_.bChangeImageSize = true;
+    saveAction_->setEnabled(false);
+    info_.StartUpdate();
+}
+
+void MainWindow::remember(const QString& path) {
+    constexpr int kRecentFiles = 10;
+    QSettings settings;
+    QStringList files = settings.value(kRecentKey).toStringList();
+    files.removeAll(path);
+    files.prepend(path);
+    settings.setValue(kRecentKey, files.mid(0, kRecentFiles));
+}
+
+void MainWindow::refillRecentFiles() {
+    recentMenu_->clear();
+    for (const QString& path : QSettings().value(kRecentKey).toStringList()) {
+        recentMenu_->addAction(QFileInfo(path).fileName(), this, [this, path] { openFile(path); })->setToolTip(path);
+    }
+    if (recentMenu_->isEmpty()) recentMenu_->addAction(tr("Nothing yet"))->setEnabled(false);
+}
+
+void MainWindow::openFile(const QString& path) {
+    if (isStateFile(path)) {
+        openState(path);
+    } else {
+        openForeground(path);
+    }
+}
+
+void MainWindow::askForStateToOpen() {
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open State"), QString(), tr("State files (*.qlx)"));
+    if (!path.isEmpty()) openState(path);
+}
+
+void MainWindow::askForStateToSave() {
+    QString path = QFileDialog::getSaveFileName(this, tr("Save State"), QString(), tr("State files (*.qlx)"));
+    if (path.isEmpty()) return;
+    if (QFileInfo(path).suffix().isEmpty()) path += ".qlx";
+    saveState(path);
+}
+
+bool MainWindow::openState(const QString& path) {
+    const std::string problem = openStateFile(info_, path.toStdString());
+    if (!problem.empty()) {
+        bridge_.showAlert(tr("The state file cannot be opened.").toStdString(), problem);
+        return false;
+    }
+    remember(path);
+    showSelectedSize();
+    saveAction_->setEnabled(false);
+    info_.StartUpdate();
+    return true;
+}
+
+bool MainWindow::saveState(const QString& path) {
+    const std::string problem = saveImageStateToXML(info_, path.toStdString());
+    if (!problem.empty()) {
+        bridge_.showAlert(tr("The state file cannot be saved.").toStdString(), problem);
+        return false;
+    }
+    remember(path);
+    statusBar()->showMessage(tr("Saved %1").arg(path), 4000);
+    return true;
 }
 
 void MainWindow::connectBridge() {
@@ -82,6 +187,7 @@ void MainWindow::askForLayer(BitmapInfo& record, const QString& title) {
 }
 
 void MainWindow::openLayer(BitmapInfo& record, const QString& path) {
+    remember(path);
     record.setSourceImageFullPath(path.toStdString());
     record.bOrgFileChange = true;
     saveAction_->setEnabled(false);
@@ -167,9 +273,9 @@ void MainWindow::dropEvent(QDropEvent* event) {
     if (files.size() >= 2) {
         openForeground(files[0]);
         openBackground(files[1]);
-    } else if (view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) ==
-               PictureView::DropZone::foreground) {
-        openForeground(files[0]);
+    } else if (isStateFile(files[0]) || view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) ==
+                                            PictureView::DropZone::foreground) {
+        openFile(files[0]);
     } else {
         openBackground(files[0]);
     }

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include <QComboBox>
 #include <QMainWindow>
 
 #include "core/state/SystemInfo.h"
@@ -23,11 +24,18 @@ class MainWindow : public QMainWindow {
     /// Makes a file the source of a layer and asks for a new picture.
     void openForeground(const QString& path);
     void openBackground(const QString& path);
+    /// Loads every setting and both pictures from a state file, or saves them into one.
+    /// @return false after an alert; the state, or the old file, is as it was
+    bool openState(const QString& path);
+    bool saveState(const QString& path);
+    /// Opens a file by its kind: a state file, or a picture for the portrait.
+    void openFile(const QString& path);
     /// Saves the full picture; the type follows the name's extension, JPEG where there is none.
     /// @return false when there is no finished picture, or after an alert
     bool saveTo(QString path);
 
     PictureView* view() const { return view_; }
+    QComboBox* sizeBox() const { return sizeBox_; }
 
   protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -37,6 +45,13 @@ class MainWindow : public QMainWindow {
 
   private:
     void makeMenus();
+    void makeSizeBox();
+    void showSelectedSize();
+    void chooseSize(int index);
+    void refillRecentFiles();
+    void remember(const QString& path);
+    void askForStateToOpen();
+    void askForStateToSave();
     void connectBridge();
     void askForLayer(BitmapInfo& record, const QString& title);
     void openLayer(BitmapInfo& record, const QString& path);
@@ -51,6 +66,8 @@ class MainWindow : public QMainWindow {
     std::unique_ptr<CombineThread> loop_;
     PictureView* view_;
     QAction* saveAction_ = nullptr;
+    QMenu* recentMenu_ = nullptr;
+    QComboBox* sizeBox_ = nullptr;
 };
 
 }  // namespace tavrin

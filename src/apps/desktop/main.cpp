@@ -4,15 +4,18 @@
 
 #include "core/Log.h"
 #include "core/state/SystemInfo.h"
+#include "pipeline/StartUp.h"
 #include "ui/MainWindow.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("Tavrin");
+    QApplication::setOrganizationName("Tavrin");
     QApplication::setApplicationVersion(TAVRIN_VERSION);
     tavrin::setTraceLog(true);
 
     const auto info = std::make_unique<tavrin::SystemInfo>();
+    tavrin::startSystem(*info);
     tavrin::MainWindow window(*info);
     window.show();
     return QApplication::exec();

@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QColorSpace>
+#include <QDropEvent>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QTest>
+
+#include "pipeline/OutputSize.h"
+#include "support/Pictures.h"
+#include "support/TestData.h"
+#include "ui/MainWindow.h"
+
+namespace tavrin {
+namespace {
+
+class MainWindowTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        selectOwnSize(*info_, "other", 100 / 92.0, 200 / 92.0, 92);
+        selectSizeByName(*info_, "test");
+        info_->pForegroundBitmapInfo->sSourceImageFullPath = foreground_;
+        info_->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
+        window_ = std::make_unique<MainWindow>(*info_);
+        window_->show();
+    }
+    bool waitForPicture() {
+        return QTest::qWaitFor(
+            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
+    }
+    /// The picture in the view after the next pass.
+    QImage pictureAfter(const std::function<void()>& act) {
+        act();
+        QTest::qWait(50);
+        EXPECT_TRUE(waitForPicture());
+        return window_->view()->fullPicture();
+    }
+    void drop(const QStringList& files, const QPoint& at) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& file : files)
+            urls.append(QUrl::fromLocalFile(file));
+        data.setUrls(urls);
+        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window_.get(), &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window_.get(), &event);
+    }
+
+    test::TempFolder folder_;
+    const std::string foreground_ = test::savePng(test::discOnScreen(240, 300), folder_.file("fg.png"));
+    const std::string background_ = test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
+    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
+    std::unique_ptr<MainWindow> window_;
+};
+
+TEST_F(MainWindowTest, ShowsThePictureAndSavesWhatItShows) {
+    ASSERT_TRUE(waitForPicture());
+    const QImage shown = window_->view()->fullPicture();
+    ASSERT_EQ(shown.size(), QSize(240, 300));
+    ASSERT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("out.png"))));
+    QImage saved(QString::fromStdString(folder_.file("out.png")));
+    saved = saved.convertToFormat(QImage::Format_RGBA8888);
+    saved.setColorSpace(QColorSpace());  // the file names sRGB, the view's copy nothing
+    EXPECT_EQ(saved, shown);
+}
+
+TEST_F(MainWindowTest, DroppedFilesReachTheLayerUnderThem) {
+    ASSERT_TRUE(waitForPicture());
+    QImage plain(240, 300, QImage::Format_RGB888);
+    plain.fill(QColor(10, 20, 200));
+    const QString file = QString::fromStdString(test::savePng(plain, folder_.file("blue.png")));
+    const QPoint right(window_->width() - 20, window_->height() / 2);
+    const QImage picture = pictureAfter([&] { drop({file}, right); });
+    EXPECT_EQ(picture.pixelColor(2, 2), QColor(10, 20, 200));
+    EXPECT_GT(picture.pixelColor(120, 150).red(), 180);
+
+    const QPoint left(20, window_->height() / 2);
+    const QImage covered = pictureAfter([&] { drop({file}, left); });
+    EXPECT_EQ(info_->pForegroundBitmapInfo->sSourceImageFullPath.load(), file.toStdString());
+    EXPECT_LT(covered.pixelColor(120, 150).red(), 60);
+}
+
+TEST_F(MainWindowTest, TheSizeBoxChangesTheOutput) {
+    ASSERT_TRUE(waitForPicture());
+    const int index = window_->sizeBox()->findText("other");
+    ASSERT_GE(index, 0);
+    const QImage picture = pictureAfter([&] {
+        window_->sizeBox()->setCurrentIndex(index);
+        emit window_->sizeBox()->activated(index);
+    });
+    EXPECT_EQ(picture.size(), QSize(100, 200));
+}
+
+TEST_F(MainWindowTest, AStateFileBringsEverySettingBack) {
+    ASSERT_TRUE(waitForPicture());
+    const QString file = QString::fromStdString(folder_.file("a.qlx"));
+    const QImage before = window_->view()->fullPicture();
+    ASSERT_TRUE(window_->saveState(file));
+    const QImage brighter = pictureAfter([&] {
+        info_->pBackgroundBitmapInfo->iBrightness = 60;
+        info_->StartUpdate();
+    });
+    EXPECT_NE(brighter, before);
+    const QImage after = pictureAfter([&] { ASSERT_TRUE(window_->openState(file)); });
+    EXPECT_EQ(after, before);
+}
+
+TEST_F(MainWindowTest, AnUnreadableFileIsToldAndTheOldPictureStays) {
+    ASSERT_TRUE(waitForPicture());
+    const QImage before = window_->view()->fullPicture();
+    const QImage after =
+        pictureAfter([&] { window_->openForeground(QString::fromStdString(folder_.file("missing.jpg"))); });
+    EXPECT_EQ(after, before);
+    const auto boxes = window_->findChildren<QMessageBox*>();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0]->text(), "Cound not load file: missing.jpg, check your file permissions");
+    EXPECT_FALSE(window_->openState(QString::fromStdString(folder_.file("missing.qlx"))));
+}
+
+}  // namespace
+}  // namespace tavrin
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    QApplication::setOrganizationName("TavrinTest");
+    return RUN_ALL_TESTS();
+}
