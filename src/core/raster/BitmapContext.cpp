@@ -80,7 +80,8 @@ int reduced(int size, double scale) {
 }
 
 std::uint8_t nearestByte(double fraction) {
-    return static_cast<std::uint8_t>(std::clamp(fraction, 0.0, 1.0) * 255.0 + 0.5);
+    if (!(fraction > 0)) return 0;
+    return static_cast<std::uint8_t>(std::min(fraction, 1.0) * 255.0 + 0.5);
 }
 
 }  // namespace
