@@ -72,6 +72,44 @@ void remove(ExifData* data, ExifIfd ifd, ExifTag tag) {
     if (ExifEntry* entry = find(data, ifd, tag)) exif_content_remove_entry(data->ifd[ifd], entry);
 }
 
+double numberAt(const unsigned char* from, ExifFormat format, ExifByteOrder order) {
+    switch (format) {
+        case EXIF_FORMAT_BYTE:
+            return *from;
+        case EXIF_FORMAT_SHORT:
+            return exif_get_short(from, order);
+        case EXIF_FORMAT_LONG:
+            return exif_get_long(from, order);
+        case EXIF_FORMAT_SLONG:
+            return exif_get_slong(from, order);
+        case EXIF_FORMAT_RATIONAL: {
+            const ExifRational ratio = exif_get_rational(from, order);
+            return ratio.denominator ? static_cast<double>(ratio.numerator) / ratio.denominator : 0;
+        }
+        case EXIF_FORMAT_SRATIONAL: {
+            const ExifSRational ratio = exif_get_srational(from, order);
+            return ratio.denominator ? static_cast<double>(ratio.numerator) / ratio.denominator : 0;
+        }
+        default:
+            return 0;
+    }
+}
+
+ExifValue valueOf(ExifData* data, ExifIfd ifd, const ExifEntry& entry) {
+    ExifValue value{entry.tag, ifd == EXIF_IFD_EXIF, {}, {}, {}};
+    const std::size_t step = exif_format_get_size(entry.format);
+    if (!entry.data || !step) return value;
+    if (entry.format == EXIF_FORMAT_ASCII) {
+        value.text = text(data, ifd, entry.tag);
+    } else if (entry.format == EXIF_FORMAT_UNDEFINED) {
+        value.bytes.assign(entry.data, entry.data + entry.size);
+    } else {
+        for (std::size_t at = 0; at + step <= entry.size; at += step)
+            value.numbers.push_back(numberAt(entry.data + at, entry.format, exif_data_get_byte_order(data)));
+    }
+    return value;
+}
+
 // A new entry with room for `count` values; the bytes belong to the entry.
 ExifEntry* add(ExifData* data, ExifIfd ifd, ExifTag tag, ExifFormat format, unsigned count) {
     remove(data, ifd, tag);
@@ -127,7 +165,9 @@ void dropStale(ExifData* data) {
         remove(data, EXIF_IFD_0, static_cast<ExifTag>(tag));
     for (const ExifTag tag :
          {EXIF_TAG_MAKER_NOTE, EXIF_TAG_PIXEL_X_DIMENSION, EXIF_TAG_PIXEL_Y_DIMENSION, EXIF_TAG_COLOR_SPACE,
-          EXIF_TAG_COMPRESSED_BITS_PER_PIXEL, EXIF_TAG_COMPONENTS_CONFIGURATION})
+          EXIF_TAG_COMPRESSED_BITS_PER_PIXEL, EXIF_TAG_COMPONENTS_CONFIGURATION, EXIF_TAG_FOCAL_PLANE_X_RESOLUTION,
+          EXIF_TAG_FOCAL_PLANE_Y_RESOLUTION, EXIF_TAG_FOCAL_PLANE_RESOLUTION_UNIT, EXIF_TAG_SUBJECT_AREA,
+          EXIF_TAG_SUBJECT_LOCATION})
         remove(data, EXIF_IFD_EXIF, tag);
     while (data->ifd[EXIF_IFD_INTEROPERABILITY]->count)
         exif_content_remove_entry(data->ifd[EXIF_IFD_INTEROPERABILITY],
@@ -185,6 +225,18 @@ ExifBlock carryOverExif(const ExifBlock& exif, int width, int height, int dpi) {
     addLong(data.get(), EXIF_IFD_EXIF, EXIF_TAG_PIXEL_X_DIMENSION, width);
     addLong(data.get(), EXIF_IFD_EXIF, EXIF_TAG_PIXEL_Y_DIMENSION, height);
     return serialise(data.get());
+}
+
+std::vector<ExifValue> exifValues(const ExifBlock& exif) {
+    std::vector<ExifValue> values;
+    const ExifRef data = parse(exif);
+    if (!data) return values;
+    for (const ExifIfd ifd : {EXIF_IFD_0, EXIF_IFD_EXIF}) {
+        const ExifContent& content = *data->ifd[ifd];
+        for (unsigned i = 0; i < content.count; ++i)
+            values.push_back(valueOf(data.get(), ifd, *content.entries[i]));
+    }
+    return values;
 }
 
 }  // namespace tavrin

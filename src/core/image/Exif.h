@@ -27,4 +27,16 @@ ExifBlock makeExif(const CameraFacts& facts);
 /// @return empty when nothing is left or the block is broken
 ExifBlock carryOverExif(const ExifBlock& exif, int width, int height, int dpi);
 
+/// One entry of a block, for formats that keep their own tables.
+struct ExifValue {
+    int tag = 0;
+    bool aboutShot = false;           ///< it stands with the exposure, not with maker and model
+    std::string text;                 ///< of a text entry
+    std::vector<double> numbers;      ///< of a number entry
+    std::vector<std::uint8_t> bytes;  ///< of an entry of undefined type
+};
+
+/// The entries of a block but those about the place on earth.
+std::vector<ExifValue> exifValues(const ExifBlock& exif);
+
 }  // namespace tavrin

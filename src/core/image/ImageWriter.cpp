@@ -2,6 +2,7 @@
 
 #include "core/AtomicFile.h"
 #include "core/image/Exif.h"
+#include "core/image/PngWriter.h"
 #include "core/image/TiffWriter.h"
 #include "core/image/Vips.h"
 
@@ -11,8 +12,6 @@ namespace {
 
 /// The widest picture that a JPEG file can hold.
 constexpr int kMaxJpegSide = 65500;
-/// Higher levels of the PNG deflater take many times as long for a few percent.
-constexpr int kPngLevel = 1;
 
 using TargetRef = std::unique_ptr<VipsTarget, GlibUnref>;
 
@@ -41,18 +40,18 @@ void setBlob(VipsImage* image, const char* name, const std::vector<std::uint8_t>
 }
 
 // The picture over the caller's bytes, with all that the file says beside them.
-VipsRef describe(const WriteRequest& request, int bands) {
+VipsRef describe(const WriteRequest& request) {
     constexpr double kMillimetresInInch = 25.4;
-    const std::size_t size = std::size_t{4} * static_cast<std::size_t>(request.width) * request.height;
+    const std::size_t size = std::size_t{4} * request.width * request.height;
     const VipsRef raw(
         vips_image_new_from_memory(request.pixels, size, request.width, request.height, 4, VIPS_FORMAT_UCHAR));
-    VipsImage *channels = nullptr, *out = nullptr;
-    if (!raw || vips_extract_band(raw.get(), &channels, 0, "n", bands, nullptr) != 0) return nullptr;
-    const VipsRef held(channels);
+    VipsImage *colours = nullptr, *out = nullptr;
+    if (!raw || vips_extract_band(raw.get(), &colours, 0, "n", 3, nullptr) != 0) return nullptr;
+    const VipsRef held(colours);
     const double resolution = request.dpi / kMillimetresInInch;
-    const int status = vips_copy(channels, &out, "interpretation", VIPS_INTERPRETATION_sRGB, "xres", resolution,
-                                 "yres", resolution, nullptr);
-    VipsRef described = takeVips(status, out);
+    VipsRef described = takeVips(vips_copy(colours, &out, "interpretation", VIPS_INTERPRETATION_sRGB, "xres",
+                                           resolution, "yres", resolution, nullptr),
+                                 out);
     if (!described) return nullptr;
     vips_image_set_string(out, VIPS_META_RESOLUTION_UNIT, "in");
     setBlob(out, VIPS_META_ICC_NAME, srgbProfile());
@@ -60,16 +59,12 @@ VipsRef describe(const WriteRequest& request, int bands) {
     return described;
 }
 
-bool saveJpeg(const WriteRequest& request, VipsTarget* target) {
-    const VipsRef image = describe(request, 3);
-    return image && vips_jpegsave_target(image.get(), target, "Q", 100, "subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF,
-                                         nullptr) == 0;
-}
-
-bool savePng(const WriteRequest& request, VipsTarget* target) {
-    const VipsRef image = describe(request, 4);
-    return image && vips_pngsave_target(image.get(), target, "compression", kPngLevel, "filter",
-                                        VIPS_FOREIGN_PNG_FILTER_SUB, nullptr) == 0;
+std::string writeJpeg(AtomicFile& file, const WriteRequest& request) {
+    const TargetRef target = targetOf(file);
+    const VipsRef image = describe(request);
+    const bool done = image && vips_jpegsave_target(image.get(), target.get(), "Q", 100, "subsample_mode",
+                                                    VIPS_FOREIGN_SUBSAMPLE_OFF, nullptr) == 0;
+    return done ? std::string() : "it cannot be encoded (" + takeVipsError() + ")";
 }
 
 std::string checkRequest(const WriteRequest& request) {
@@ -82,11 +77,8 @@ std::string checkRequest(const WriteRequest& request) {
 
 std::string encode(AtomicFile& file, const WriteRequest& request) {
     if (request.fileType == kTiffFile) return writeTiff(file, request, srgbProfile());
-    const TargetRef target = targetOf(file);
-    const bool done =
-        request.fileType == kJpegFile ? saveJpeg(request, target.get()) : savePng(request, target.get());
-    const std::string reason = takeVipsError();
-    return done ? std::string() : "the picture cannot be encoded (" + reason + ")";
+    if (request.fileType == kPngFile) return writePng(file, request, srgbProfile());
+    return writeJpeg(file, request);
 }
 
 }  // namespace

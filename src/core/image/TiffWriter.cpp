@@ -82,16 +82,77 @@ bool writeStrips(TIFF* tiff, const WriteRequest& request) {
     return true;
 }
 
+// A list as the library wants it: its length first where it asks for one, and the element type of its tables.
+void setList(TIFF* tiff, const TIFFField* field, const ExifValue& value) {
+    const std::uint32_t tag = TIFFFieldTag(field);
+    const int fixed = TIFFFieldWriteCount(field), size = TIFFFieldSetGetSize(field);
+    const bool counted = TIFFFieldPassCount(field);
+    if (!counted && fixed != static_cast<int>(std::max(value.numbers.size(), value.bytes.size()))) return;
+    const auto set = [&](const auto& list) {
+        counted ? TIFFSetField(tiff, tag, static_cast<int>(list.size()), list.data())
+                : TIFFSetField(tiff, tag, list.data());
+    };
+    const bool real = TIFFFieldDataType(field) == TIFF_RATIONAL || TIFFFieldDataType(field) == TIFF_SRATIONAL;
+    if (!value.bytes.empty()) {
+        if (size == 1) set(value.bytes);
+    } else if (real) {
+        size == 8 ? set(value.numbers) : set(std::vector<float>(value.numbers.begin(), value.numbers.end()));
+    } else if (TIFFFieldDataType(field) == TIFF_SHORT) {
+        set(std::vector<std::uint16_t>(value.numbers.begin(), value.numbers.end()));
+    }
+}
+
+// Sets a tag in the library's present directory; one that it does not know is left out.
+void setValue(TIFF* tiff, const ExifValue& value) {
+    const std::uint32_t tag = static_cast<std::uint32_t>(value.tag);
+    const TIFFField* field = TIFFFindField(tiff, tag, TIFF_ANY);
+    if (!field) return;
+    const TIFFDataType type = TIFFFieldDataType(field);
+    if (type == TIFF_ASCII) {
+        if (!value.text.empty()) TIFFSetField(tiff, tag, value.text.c_str());
+    } else if (TIFFFieldPassCount(field) || TIFFFieldWriteCount(field) != 1) {
+        setList(tiff, field, value);
+    } else if (value.numbers.size() == 1) {
+        if (type == TIFF_RATIONAL || type == TIFF_SRATIONAL) {
+            TIFFSetField(tiff, tag, value.numbers[0]);
+        } else if (type == TIFF_SHORT || type == TIFF_LONG || type == TIFF_BYTE) {
+            TIFFSetField(tiff, tag, static_cast<std::uint32_t>(value.numbers[0]));
+        }
+    } else if (value.bytes.size() == 1 && TIFFFieldSetGetSize(field) == 1) {
+        TIFFSetField(tiff, tag, static_cast<int>(value.bytes[0]));
+    }
+}
+
+// Maker, model and the other texts stand beside the layout of the picture, whose tags are this file's own.
+void setCameraTexts(TIFF* tiff, const std::vector<ExifValue>& values) {
+    for (const ExifValue& value : values)
+        if (!value.aboutShot && !value.text.empty()) setValue(tiff, value);
+}
+
+// Exposure, lens and dates have a directory of their own, which must be written before the main one can point to it.
+bool writeShotDirectory(TIFF* tiff, const std::vector<ExifValue>& values) {
+    const auto isShot = [](const ExifValue& value) { return value.aboutShot; };
+    if (std::none_of(values.begin(), values.end(), isShot)) return true;
+    std::uint64_t place = 0;
+    if (!TIFFWriteDirectory(tiff) || TIFFCreateEXIFDirectory(tiff) != 0) return false;
+    for (const ExifValue& value : values)
+        if (isShot(value)) setValue(tiff, value);
+    return TIFFWriteCustomDirectory(tiff, &place) && TIFFSetDirectory(tiff, 0) &&
+           TIFFSetField(tiff, TIFFTAG_EXIFIFD, place) && TIFFRewriteDirectory(tiff);
+}
+
 }  // namespace
 
 std::string writeTiff(AtomicFile& file, const WriteRequest& request, const std::vector<std::uint8_t>& profile) {
     TiffRef tiff = openTiff(file, request);
-    if (!tiff) return "the picture cannot be encoded (" + takeVipsError() + ")";
+    if (!tiff) return "it cannot be encoded (" + takeVipsError() + ")";
     setLayout(tiff.get(), request, profile);
-    bool done = writeStrips(tiff.get(), request);
+    const std::vector<ExifValue> values = exifValues(request.exif);
+    setCameraTexts(tiff.get(), values);
+    bool done = writeStrips(tiff.get(), request) && writeShotDirectory(tiff.get(), values);
     done = done && TIFFFlush(tiff.get());
     tiff.reset();
-    return done ? std::string() : "the picture cannot be encoded (" + takeVipsError() + ")";
+    return done ? std::string() : "it cannot be encoded (" + takeVipsError() + ")";
 }
 
 }  // namespace tavrin

@@ -1,5 +1,7 @@
 #include "core/image/Vips.h"
 
+#include <sstream>
+
 #include "core/Log.h"
 
 namespace tavrin {
@@ -25,11 +27,12 @@ bool startVips() {
 }
 
 std::string takeVipsError() {
-    std::string text = vips_error_buffer();
+    std::istringstream lines(vips_error_buffer());
     vips_error_clear();
-    while (!text.empty() && (text.back() == '\n' || text.back() == ' '))
-        text.pop_back();
-    return text.substr(text.rfind('\n') + 1);
+    std::string cause;
+    for (std::string line; std::getline(lines, line);)
+        if (line.find(": ") != std::string::npos) cause = line;
+    return cause;
 }
 
 }  // namespace tavrin

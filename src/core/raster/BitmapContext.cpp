@@ -1,11 +1,23 @@
 #include "core/raster/BitmapContext.h"
 
+#include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace tavrin {
 
 namespace {
+
+/// Coordinates beyond this are nobody's intention, and the painter below counts in limited numbers.
+constexpr double kFarAway = 4e6;
+
+bool isReasonable(const QRectF& r) {
+    const auto near = [](double value) { return std::abs(value) < kFarAway; };  // false for NaN
+    return near(r.left()) && near(r.top()) && near(r.right()) && near(r.bottom()) && !r.isEmpty();
+}
+
+bool isReasonable(const QTransform& t, const QRectF& r) {
+    return isReasonable(r) && isReasonable(t.mapRect(r));
+}
 
 bool isWhole(double value) {
     return std::abs(value - std::round(value)) < 1e-6;
@@ -16,8 +28,60 @@ double snap(double value) {
     return isWhole(value) ? std::round(value) : value;
 }
 
-QTransform snapped(const QTransform& t) {
-    return QTransform(snap(t.m11()), snap(t.m12()), snap(t.m21()), snap(t.m22()), snap(t.dx()), snap(t.dy()));
+// Picture pixels (x right, y down) to buffer pixels. Corners that should lie on whole pixels do so exactly.
+QTransform pictureToDevice(const QImage& picture, const QRectF& rect, const QTransform& device) {
+    const double w = picture.width(), h = picture.height();
+    const QPointF origin = device.map(rect.bottomLeft());  // the greater y is the top of the picture
+    const QPointF right = device.map(rect.bottomRight()), down = device.map(rect.topLeft());
+    const double x = snap(origin.x()), y = snap(origin.y());
+    return QTransform((snap(right.x()) - x) / w, (snap(right.y()) - y) / w, (snap(down.x()) - x) / h,
+                      (snap(down.y()) - y) / h, x, y);
+}
+
+double scaleX(const QTransform& t) {
+    return std::hypot(t.m11(), t.m12());
+}
+double scaleY(const QTransform& t) {
+    return std::hypot(t.m21(), t.m22());
+}
+
+bool isUpright(const QTransform& t) {
+    return (t.m12() == 0 && t.m21() == 0) || (t.m11() == 0 && t.m22() == 0);
+}
+
+bool liesOnPixels(const QTransform& t, const QImage& picture) {
+    const QRectF r = t.mapRect(QRectF(picture.rect()));
+    return isUpright(t) && isWhole(r.left()) && isWhole(r.top()) && isWhole(r.right()) && isWhole(r.bottom());
+}
+
+bool isExact(const QTransform& t, const QImage& picture) {
+    return liesOnPixels(t, picture) && isWhole(scaleX(t)) && isWhole(scaleY(t)) && std::lround(scaleX(t)) == 1 &&
+           std::lround(scaleY(t)) == 1;
+}
+
+// A part of a picture over the same bytes, which must outlive it.
+QImage partOf(const QImage& picture, const QRect& part) {
+    if (part == picture.rect() || picture.depth() != 32) return picture.copy(part);
+    const uchar* first = picture.constScanLine(part.y()) + qsizetype{4} * part.x();
+    return QImage(first, part.width(), part.height(), picture.bytesPerLine(), picture.format());
+}
+
+// The pixels of a picture that can be seen in a buffer, with a margin for the interpolation at its edges.
+QRect visiblePart(const QImage& picture, const QTransform& mapping, const QRect& buffer) {
+    constexpr int kMargin = 2;
+    bool invertible = false;
+    const QRectF seen = mapping.inverted(&invertible).mapRect(QRectF(buffer));
+    if (!invertible || !isReasonable(seen)) return picture.rect();
+    return seen.toAlignedRect().adjusted(-kMargin, -kMargin, kMargin, kMargin) & picture.rect();
+}
+
+int reduced(int size, double scale) {
+    return scale < 1 ? std::max(1, static_cast<int>(std::lround(size * scale))) : size;
+}
+
+std::uint8_t nearestByte(double fraction) {
+    if (!(fraction > 0)) return 0;
+    return static_cast<std::uint8_t>(std::min(fraction, 1.0) * 255.0 + 0.5);
 }
 
 }  // namespace
@@ -39,42 +103,50 @@ std::unique_ptr<QPainter> BitmapContext::painter() {
 }
 
 void BitmapContext::fillRect(const QRectF& rect, double red, double green, double blue, double alpha) {
-    painter()->fillRect(rect, QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green),
-                                               static_cast<float>(blue), static_cast<float>(alpha)));
-}
-
-// Picture pixels (x right, y down) to buffer pixels.
-static QTransform pictureToDevice(const QImage& picture, const QRectF& rect, const QTransform& device) {
-    QTransform toRect;
-    toRect.translate(rect.x(), rect.y() + rect.height());
-    toRect.scale(rect.width() / picture.width(), -rect.height() / picture.height());
-    return snapped(toRect * device);
+    if (image_.isNull() || !isReasonable(toDevice(), rect)) return;
+    painter()->fillRect(rect, QColor(nearestByte(red), nearestByte(green), nearestByte(blue), nearestByte(alpha)));
 }
 
 void BitmapContext::drawImage(const QImage& picture, const QRectF& rect) {
-    if (picture.isNull() || rect.isEmpty()) return;
-    QImage source = picture;
-    QTransform mapping = pictureToDevice(source, rect, toDevice());
-    const double scaleX = std::hypot(mapping.m11(), mapping.m12());
-    const double scaleY = std::hypot(mapping.m21(), mapping.m22());
-    if (!isWhole(scaleX * source.width()) || !isWhole(scaleY * source.height()) || scaleX != 1.0 || scaleY != 1.0) {
-        // Area average when reducing, so that fine patterns do not alias.
-        const int w = std::max(1, static_cast<int>(std::lround(scaleX * source.width())));
-        const int h = std::max(1, static_cast<int>(std::lround(scaleY * source.height())));
-        if (w != source.width() || h != source.height()) {
-            source = source.scaled(w, h, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-            mapping = pictureToDevice(source, rect, toDevice());
-        }
-    }
-    if (copyUnscaled(source, mapping, rect)) return;
-    QPainter painter(&image_);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.setTransform(mapping);
-    painter.drawImage(0, 0, source);
+    if (image_.isNull() || picture.isNull() || !isReasonable(toDevice(), rect)) return;
+    QTransform mapping = pictureToDevice(picture, rect, toDevice());
+    if (!mapping.mapRect(QRectF(picture.rect())).intersects(QRectF(image_.rect()))) return;
+    if (isExact(mapping, picture)) return drawExact(picture, mapping);
+    // What is enlarged is cut to what can be seen. What is only reduced stays whole: its edges then lie where the
+    // rectangle has them, and the result is no larger than the picture.
+    const bool enlarged = scaleX(mapping) > 1 || scaleY(mapping) > 1;
+    const QRect part = enlarged ? visiblePart(picture, mapping, image_.rect()) : picture.rect();
+    if (part.isEmpty()) return;
+    mapping = QTransform::fromTranslate(part.x(), part.y()) * mapping;
+    const int w = reduced(part.width(), scaleX(mapping)), h = reduced(part.height(), scaleY(mapping));
+    if (w == part.width() && h == part.height()) return drawSmooth(partOf(picture, part), mapping);
+    const QImage small = partOf(picture, part).scaled(w, h, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const double stepX = static_cast<double>(part.width()) / w, stepY = static_cast<double>(part.height()) / h;
+    mapping = QTransform::fromScale(stepX, stepY) * mapping;
+    isExact(mapping, small) ? drawExact(small, mapping) : drawSmooth(small, mapping);
 }
 
-bool BitmapContext::copyUnscaled(const QImage&, const QTransform&, const QRectF&) {
-    return false;
+// Whole pixels to whole pixels: a quarter turn and mirrors, which move pixels and compute nothing.
+void BitmapContext::drawExact(const QImage& picture, const QTransform& mapping) {
+    const QRect target = mapping.mapRect(QRectF(picture.rect())).toRect();
+    const QTransform quarter(0, 1, -1, 0, 0, 0);
+    QImage upright = picture;
+    QTransform rest(std::round(mapping.m11()), std::round(mapping.m12()), std::round(mapping.m21()),
+                    std::round(mapping.m22()), 0, 0);
+    if (rest.m11() == 0) {
+        upright = upright.transformed(quarter);
+        rest = quarter.inverted() * rest;
+    }
+    if (rest.m11() < 0 || rest.m22() < 0) upright = upright.mirrored(rest.m11() < 0, rest.m22() < 0);
+    QPainter(&image_).drawImage(target.topLeft(), upright);
+}
+
+void BitmapContext::drawSmooth(const QImage& picture, const QTransform& mapping) {
+    QPainter painter(&image_);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::Antialiasing, !liesOnPixels(mapping, picture));
+    painter.setTransform(mapping);
+    painter.drawImage(0, 0, picture);
 }
 
 void BitmapContext::scale(double x, double y) {

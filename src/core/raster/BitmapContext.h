@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include <QImage>
 #include <QPainter>
@@ -23,11 +24,15 @@ class BitmapContext {
     int width() const { return image_.width(); }
     int height() const { return image_.height(); }
 
-    /// Fills a rectangle with a colour, channels 0 to 1 and not premultiplied.
+    /// Fills a rectangle with a colour, channels 0 to 1 and not premultiplied; each becomes the nearest byte, so that
+    /// a whole number divided by 255 comes back as it was. A rectangle that is empty or beyond all reason (not
+    /// finite, millions of pixels away) draws nothing, here and below.
     void fillRect(const QRectF& rect, double red, double green, double blue, double alpha);
 
-    /// Draws a picture, scaled to the rectangle, over what is there. A picture that needs no scaling, turning or
-    /// shift between pixels goes through unchanged.
+    /// Draws a picture, scaled to the rectangle, over what is there: averaged over areas where it is reduced,
+    /// interpolated where it is enlarged, turned or lies between pixels. Opaque pixels of a picture that is neither
+    /// scaled nor shifted between pixels, also mirrored or turned by right angles, go through unchanged. A rectangle
+    /// on whole pixels is filled to its edges.
     void drawImage(const QImage& picture, const QRectF& rect);
 
     /// The coordinate system; each call acts on what later calls draw. Angles in radians, anticlockwise.
@@ -46,7 +51,8 @@ class BitmapContext {
 
   private:
     QTransform toDevice() const;
-    bool copyUnscaled(const QImage& picture, const QTransform& mapping, const QRectF& rect);
+    void drawExact(const QImage& picture, const QTransform& mapping);
+    void drawSmooth(const QImage& picture, const QTransform& mapping);
 
     QImage image_;
     QTransform transform_;
