@@ -20,7 +20,9 @@ void finishPixel(const CombineParams& params, const KeyedPixel& pixel, int x, in
     std::uint8_t* background = params.background + index * kPixelBytes;
     std::uint8_t* out = params.combined + index * kPixelBytes;
 
-    const Rgb foreground = finishForeground(finish, pixel.color, x, y);
+    // A layer with no share in the result is not worked out; it would be multiplied by 0.
+    const bool seen = pixel.alpha > 0.0 || finish.transparent;
+    const Rgb foreground = seen ? finishForeground(finish, pixel.color, x, y) : Rgb{0.0, 0.0, 0.0};
     Rgb shown = foreground;
     double alpha = pixel.alpha;
     showGuard(params, shown, alpha, x, y);
@@ -30,7 +32,7 @@ void finishPixel(const CombineParams& params, const KeyedPixel& pixel, int x, in
     if (finish.transparent) {
         writeTransparent(finish, foreground, alpha, out);
     } else {
-        const Rgb behind = finishBackground(finish, background, x, y, gain);
+        const Rgb behind = alpha < 1.0 ? finishBackground(finish, background, x, y, gain) : Rgb{0.0, 0.0, 0.0};
         writeColor(finish.blueLogic, blendPixel(finish, shown, behind, alpha, gain), out);
     }
     background[3] = toByte(alpha * 255.0);
