@@ -196,14 +196,13 @@ bool readExisting(const std::string& path, std::size_t limit, FileBytes& result)
         result.problem = path + " cannot be opened: " + file.errorString().toStdString() + ".";
         return true;
     }
-    const QByteArray bytes = file.read(static_cast<qint64>(limit) + 1);
-    if (file.error() != QFile::NoError) {
-        result.problem = path + " cannot be read: " + file.errorString().toStdString() + ".";
-    } else if (bytes.size() > static_cast<qint64>(limit)) {
+    if (file.size() > static_cast<qint64>(limit)) {
         result.problem = path + " is longer than any file of its kind (" + std::to_string(limit) + " bytes).";
-    } else {
-        result.bytes.assign(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+        return true;
     }
+    result.bytes = file.readAll().toStdString();
+    if (file.error() != QFile::NoError)
+        result.problem = path + " cannot be read: " + file.errorString().toStdString() + ".";
     return true;
 }
 
