@@ -9,9 +9,9 @@
 
 #include <filesystem>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QLockFile>
+#include <QUuid>
 
 #include "core/Log.h"
 
@@ -237,7 +237,7 @@ bool claimName(const std::string& file, const std::string& path) {
 }
 
 std::string ownNameBeside(const std::string& path) {
-    return path + ".new" + std::to_string(QCoreApplication::applicationPid());
+    return path + ".new-" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
 }
 
 }  // namespace tavrin
