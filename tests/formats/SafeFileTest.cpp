@@ -129,6 +129,7 @@ TEST_F(SafeFileTest, RefusesFoldersAndMissingFolders) {
     SafeSave elsewhere;
     EXPECT_FALSE(elsewhere.begin(folder.file("no/such/a.xml"), Readers::everyone));
     EXPECT_NE(elsewhere.problem(), "");
+    EXPECT_FALSE(elsewhere.begin("", Readers::everyone));
     writeFile(folder.file("big"), std::string(101, 'x'));
     EXPECT_NE(readSafeFile(folder.file("big"), 100).problem, "");
 }

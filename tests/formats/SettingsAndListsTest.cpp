@@ -90,6 +90,8 @@ TEST_F(SettingsFileTest, MissingKeysAreEmptyAndBadFilesChangeNothing) {
         EXPECT_THAT(LoadQLXFile(settings), HasSubstr(file));
         EXPECT_EQ(settings.sPrefix.load(), "p");
         EXPECT_EQ(readFile(file), bad);
+        EXPECT_EQ(readFile(file + ".damaged"), bad) << "the next save replaces the file itself";
+        EXPECT_EQ(modeOf(file + ".damaged"), 0600U);
     }
 }
 
