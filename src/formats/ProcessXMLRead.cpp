@@ -5,6 +5,7 @@
 #include <pugixml.hpp>
 #include <string_view>
 
+#include "core/Log.h"
 #include "core/StandardPath.h"
 #include "formats/ProcessXML.h"
 
@@ -75,6 +76,11 @@ bool ProcessXML::OpenXMLFile(const std::string& path) {
     CloseXMLFile();
     error.clear();
     path_ = path;
+    if (path.empty()) {
+        logError("Can't create an URL from file " + path + ".");
+        error = "A file to be read needs a name.";
+        return false;
+    }
     const FileBytes file = readSafeFile(path, kFileLimit);
     missing_ = file.missing;
     error = file.problem;

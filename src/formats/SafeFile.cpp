@@ -9,9 +9,9 @@
 
 #include <filesystem>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QLockFile>
+#include <QUuid>
 
 #include "core/Log.h"
 
@@ -103,6 +103,7 @@ bool SafeSave::begin(const std::string& path, Readers readers) {
     giveUp();
     problem_.clear();
     path_ = path;
+    if (path.empty()) return fail("A file to be saved needs a name.");
     return takeTurn() && openTemporary(readers) && setOldFileAside(readers);
 }
 
@@ -139,7 +140,7 @@ bool SafeSave::setOldFileAside(Readers readers) {
     if (readers == Readers::ownerOnly) {
         QFile::setPermissions(toQt(path_), kOwnerOnly);
     } else if (QFile::exists(toQt(path_))) {
-        file_->setPermissions(QFile::permissions(toQt(path_)) | kOwnerOnly);
+        file_->setPermissions(QFile::permissions(toQt(path_)));
     }
     const std::error_code problem = moveFile(path_, setAsideName(path_));
     return problem ? fail(path_ + " cannot be replaced: " + problem.message() + ".") : true;
@@ -181,7 +182,8 @@ void SafeSave::giveUp() {
 
 namespace {
 
-/// Reads a file that exists; false when it does not.
+/// Reads a file; false when there is none, or when it went away or could not be opened, for which `result` has the
+/// reason.
 bool readExisting(const std::string& path, std::size_t limit, FileBytes& result) {
     std::error_code ignored;
     const fs::file_status status = fs::status(toPath(path), ignored);
@@ -192,18 +194,17 @@ bool readExisting(const std::string& path, std::size_t limit, FileBytes& result)
     }
     QFile file(toQt(path));
     if (!file.open(QFile::ReadOnly)) {
-        if (!isThere(path)) return false;
         result.problem = path + " cannot be opened: " + file.errorString().toStdString() + ".";
+        return false;
+    }
+    result.problem.clear();
+    if (file.size() > static_cast<qint64>(limit)) {
+        result.problem = path + " is longer than any file of its kind (" + std::to_string(limit) + " bytes).";
         return true;
     }
-    const QByteArray bytes = file.read(static_cast<qint64>(limit) + 1);
-    if (file.error() != QFile::NoError) {
+    result.bytes = file.readAll().toStdString();
+    if (file.error() != QFile::NoError)
         result.problem = path + " cannot be read: " + file.errorString().toStdString() + ".";
-    } else if (bytes.size() > static_cast<qint64>(limit)) {
-        result.problem = path + " is longer than any file of its kind (" + std::to_string(limit) + " bytes).";
-    } else {
-        result.bytes.assign(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    }
     return true;
 }
 
@@ -211,7 +212,7 @@ bool readExisting(const std::string& path, std::size_t limit, FileBytes& result)
 
 FileBytes readSafeFile(const std::string& path, std::size_t limit) {
     FileBytes result;
-    // A save under way may give the name to the new file and remove the old one between the two looks.
+    // A save under way may rename and remove the files between one look and the next.
     constexpr int kLooks = 20;
     for (int look = 0; look < kLooks; ++look) {
         if (readExisting(path, limit, result)) return result;
@@ -222,8 +223,10 @@ FileBytes readSafeFile(const std::string& path, std::size_t limit) {
             return result;
         }
     }
-    result.missing = true;
-    result.problem = "There is no file " + path + ".";
+    if (!safeFileExists(path)) {
+        result.missing = true;
+        result.problem = "There is no file " + path + ".";
+    }
     return result;
 }
 
@@ -238,7 +241,7 @@ bool claimName(const std::string& file, const std::string& path) {
 }
 
 std::string ownNameBeside(const std::string& path) {
-    return path + ".new" + std::to_string(QCoreApplication::applicationPid());
+    return path + ".new-" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
 }
 
 }  // namespace tavrin

@@ -16,34 +16,41 @@ std::string writeFirstFile(const std::string& path) {
 }
 
 /// A file that was copied here by other means may have come with wider permissions.
-void closeToOthers(const std::string& path) {
+void closeToOthers(const QString& name) {
     constexpr QFile::Permissions kOwner = QFile::ReadOwner | QFile::WriteOwner;
     constexpr QFile::Permissions kOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
                                            QFile::WriteOther | QFile::ExeOther;
-    const QString name = QString::fromStdString(path);
     if (QFile::permissions(name) & kOthers) QFile::setPermissions(name, kOwner);
+}
+
+/// The next change of any setting writes the file anew, so a damaged one is kept beside it for whoever wants to mend
+/// it.
+std::string keepDamagedFile(const std::string& path, const std::string& problem) {
+    const QString name = QString::fromStdString(path), kept = name + ".damaged";
+    QFile::remove(kept);
+    return QFile::copy(name, kept) ? problem + "; a copy is kept as " + kept.toStdString() : problem;
 }
 
 }  // namespace
 
 std::string LoadQLXFile(QLXInfo& settings, const std::string& path) {
     ProcessXML xml;
-    if (!xml.OpenXMLFile(path)) {
-        if (!xml.isMissing()) return xml.error;
+    const bool open = xml.OpenXMLFile(path);
+    if (xml.isMissing()) {
         settings.ResetQLXInfo();
         return writeFirstFile(path);
     }
-    closeToOthers(path);
+    closeToOthers(QString::fromStdString(path));
     const auto found = xml.FindNodesForPath(".//QLXSettings");
-    if (found.empty()) {
-        xml.fail("not a settings file: the element QLXSettings is missing");
-        return xml.error;
-    }
-    xml.SetActiveElement(found[0]);
+    if (open && found.empty()) xml.fail("not a settings file: the element QLXSettings is missing");
     QLXInfo loaded;
-    loadLeaves(xml, loaded);
-    if (xml.error.empty()) copyLeaves(loaded, settings);
-    return xml.error;
+    if (!found.empty()) {
+        xml.SetActiveElement(found[0]);
+        loadLeaves(xml, loaded);
+    }
+    if (!xml.error.empty()) return keepDamagedFile(path, xml.error);
+    copyLeaves(loaded, settings);
+    return "";
 }
 
 std::string SaveQLXFile(const QLXInfo& settings, const std::string& path) {
