@@ -62,17 +62,19 @@ std::vector<Rgb> usableHair(const SystemInfo& info, int count) {
     return colors;
 }
 
-bool isScreen(const HairParams& params, const HsvColor& pixel) {
-    const int value = static_cast<int>(params.baseHsv.v - pixel.v);
-    const int sat = static_cast<int>(100.0 * params.baseHsv.s - 100.0 * pixel.s);
-    const int hue = hueDistance(static_cast<int>(params.baseHsv.h - pixel.h));
-    return 4 * hue * hue + sat * sat + value * value < 25;
+// Hue is the dearest part of a colour and is looked at last.
+bool isScreen(const HairParams& params, const HairPixel& pixel, double sat, double value) {
+    const int dV = static_cast<int>(params.baseHsv.v - value);
+    const int dS = static_cast<int>(100.0 * params.baseHsv.s - 100.0 * sat);
+    if (std::abs(dV) >= 5 || std::abs(dS) >= 5) return false;
+    const double hue = toHsv(pixel.r, pixel.g, pixel.b).h;
+    const int dH = hueDistance(static_cast<int>(params.baseHsv.h - hue));
+    return 4 * dH * dH + dS * dS + dV * dV < 25;
 }
 
-bool keepsResult(const HairParams& params, const HairPixel& pixel, const HsvColor& hsv) {
-    return (pixel.g > 200 && hsv.s < 0.2) || (pixel.g > params.base.g * 1.05 && hsv.s < 0.3) ||
-           (hsv.s * hsv.v < 20.0 && pixel.alpha > 0.99) || pixel.r >= pixel.g + kKeptRed ||
-           pixel.b >= pixel.g + kKeptRed;
+bool keepsResult(const HairParams& params, const HairPixel& pixel, double sat, double value) {
+    return pixel.r >= pixel.g + kKeptRed || pixel.b >= pixel.g + kKeptRed || (pixel.g > 200 && sat < 0.2) ||
+           (pixel.g > params.base.g * 1.05 && sat < 0.3) || (sat * value < 20.0 && pixel.alpha > 0.99);
 }
 
 int detailAt(const HairParams& params, int x, int y) {
@@ -118,7 +120,8 @@ Rgb strandColor(const Rgb& own, bool blueLogic) {
 
 // The mix that is nearest to the pixel; returns the share of the screen in it, or -1 when none is near. The best
 // distance is kept truncated, so that a later mix must be nearer by whole units.
-double explainHair(const HairParams& params, const HsvColor& hsv, HairPixel& pixel) {
+double explainHair(const HairParams& params, HairPixel& pixel) {
+    const HsvColor hsv = toHsv(pixel.r, pixel.g, pixel.b);
     const bool fromLeast = !(params.base.r > params.base.b) || pixel.color.g < 40.0;
     const HairMixes::Search& search = params.mixes.search(pixel.r - pixel.g, fromLeast);
     const int hue = static_cast<int>(hsv.h), sat = static_cast<int>(100.0 * hsv.s), value = static_cast<int>(hsv.v);
@@ -174,22 +177,23 @@ HairParams::HairParams(const SystemInfo& info, const HairNumbers& numbers) : run
 }
 
 void correctHair(const HairParams& params, HairPixel& pixel) {
-    const HsvColor hsv = toHsv(pixel.r, pixel.g, pixel.b);
-    if (isScreen(params, hsv)) {
+    const int mx = std::max({pixel.r, pixel.g, pixel.b}), mn = std::min({pixel.r, pixel.g, pixel.b});
+    const double value = mx, sat = mx == mn ? 0.0 : (value - mn) / value;
+    if (isScreen(params, pixel, sat, value)) {
         pixel.alpha = 0.0;
         return;
     }
-    if (keepsResult(params, pixel, hsv)) return;
+    if (keepsResult(params, pixel, sat, value)) return;
     if (isShadow(params, pixel)) {
         pixel.alpha = 0.0;
         return;
     }
     double share;
-    if (hsv.s < 0.2) {
+    if (sat < 0.2) {
         share = explainGrey(params, pixel);
     } else {
         if (params.hairColors < 1) return;
-        share = explainHair(params, hsv, pixel);
+        share = explainHair(params, pixel);
         if (share < 0.0) return;
     }
     if (pixel.lift < params.run.darkChroma && pixel.max < params.base.g - params.base.r) {
