@@ -16,14 +16,18 @@ namespace {
 
 constexpr int kBlockColumns = 32;  // neighbouring columns that slide together, so that memory is walked by rows
 
-// How a pixel is laid out: `kPitch` samples, of which the first `kUsed` are blurred.
+// How a pixel is laid out, and a type that holds the sum of a window exactly.
 struct RgbaBytes {
     using Sample = std::uint8_t;
-    static constexpr int kPitch = 4, kUsed = 3;
+    using Sum = std::int32_t;
+    static constexpr int kLanes = 4;
+    static constexpr bool kKeepsLast = true;  // alpha stays
 };
 struct SingleInts {
     using Sample = std::int32_t;
-    static constexpr int kPitch = 1, kUsed = 1;
+    using Sum = double;
+    static constexpr int kLanes = 1;
+    static constexpr bool kKeepsLast = false;
 };
 
 struct Line {
@@ -42,34 +46,38 @@ Line makeLine(int samples, int radius, std::size_t step) {
 template <class Layout, class Count>
 void slide(const typename Layout::Sample* src, typename Layout::Sample* dst, const Line line, Count lines) {
     using Sample = typename Layout::Sample;
-    constexpr int kUsed = Layout::kUsed, kPitch = Layout::kPitch;
-    std::array<double, kBlockColumns * kUsed> sums{};
-    const auto shift = [&](int sample, double sign) {
-        const Sample* from = src + static_cast<std::size_t>(sample) * line.step;
-        for (int i = 0; i < lines; ++i) {
-            for (int c = 0; c < kUsed; ++c)
-                sums[i * kUsed + c] += sign * from[i * kPitch + c];
-        }
+    constexpr int kLanes = Layout::kLanes;
+    std::array<typename Layout::Sum, kBlockColumns * kLanes> sums{};
+    std::array<Sample, kBlockColumns * kLanes> means;
+    const auto sample = [&](int at) { return src + static_cast<std::size_t>(at) * line.step; };
+    const auto add = [&](const Sample* from) {
+        for (int i = 0; i < lines * kLanes; ++i)
+            sums[i] += from[i];
+    };
+    const auto drop = [&](const Sample* from) {
+        for (int i = 0; i < lines * kLanes; ++i)
+            sums[i] -= from[i];
+    };
+    const auto write = [&](Sample* to, auto mean) {
+        for (int i = 0; i < lines * kLanes; ++i)
+            means[i] = static_cast<Sample>(static_cast<std::int32_t>(mean(static_cast<double>(sums[i]))));
+        for (int i = kLanes - 1; Layout::kKeepsLast && i < lines * kLanes; i += kLanes)
+            means[i] = to[i];
+        std::copy_n(means.data(), lines * kLanes, to);
     };
     const int n = line.samples, r = line.radius;
     const double inverse = 1.0 / (2.0 * r + 1.0);
-    for (int sample = 0; sample < r; ++sample)
-        shift(sample, 1.0);
+    for (int at = 0; at < r; ++at)
+        add(sample(at));
     for (int at = 0; at < n; ++at) {
-        if (at < n - r) shift(at + r, 1.0);
-        if (at > r) shift(at - r - 1, -1.0);
+        if (at < n - r) add(sample(at + r));
+        if (at > r) drop(sample(at - r - 1));
         Sample* to = dst + static_cast<std::size_t>(at) * line.step;
-        const auto write = [&](auto mean) {
-            for (int i = 0; i < lines; ++i) {
-                for (int c = 0; c < kUsed; ++c)
-                    to[i * kPitch + c] = static_cast<Sample>(static_cast<std::int32_t>(mean(sums[i * kUsed + c])));
-            }
-        };
         if (at > r && at < n - r) {
-            write([&](double sum) { return sum * inverse; });
+            write(to, [&](double sum) { return sum * inverse; });
         } else {
             const double count = std::min(at, r) + std::min(n - 1 - at, r) + 1;
-            write([&](double sum) { return sum / count; });
+            write(to, [&](double sum) { return sum / count; });
         }
     }
 }
@@ -81,8 +89,8 @@ template <class Layout>
 void blurRows(const RunContext& context, const typename Layout::Sample* src, typename Layout::Sample* dst, int w,
               int h, int r) {
     if (w < 1 || h < 1 || !src || !dst) return;
-    const std::size_t stride = static_cast<std::size_t>(w) * Layout::kPitch;
-    const Line line = makeLine(w, r, Layout::kPitch);
+    const std::size_t stride = static_cast<std::size_t>(w) * Layout::kLanes;
+    const Line line = makeLine(w, r, Layout::kLanes);
     runRows(context, h, 8, [&](int y) {
         slide<Layout>(src + static_cast<std::size_t>(y) * stride, dst + static_cast<std::size_t>(y) * stride, line,
                       One());
@@ -93,12 +101,12 @@ template <class Layout>
 void blurColumns(const RunContext& context, const typename Layout::Sample* src, typename Layout::Sample* dst, int w,
                  int h, int r) {
     if (w < 1 || h < 1 || !src || !dst) return;
-    const Line line = makeLine(h, r, static_cast<std::size_t>(w) * Layout::kPitch);
+    const Line line = makeLine(h, r, static_cast<std::size_t>(w) * Layout::kLanes);
     const int blocks = (w - 1) / kBlockColumns + 1;
     runRows(context, blocks, 1, [&](int block) {
         const std::size_t first = static_cast<std::size_t>(block) * kBlockColumns;
         const int columns = std::min(kBlockColumns, w - block * kBlockColumns);
-        const std::size_t offset = first * Layout::kPitch;
+        const std::size_t offset = first * Layout::kLanes;
         if (columns == kBlockColumns) {
             slide<Layout>(src + offset, dst + offset, line, Block());
         } else {
@@ -111,7 +119,7 @@ template <class Layout>
 void boxBlur(const RunContext& context, typename Layout::Sample* src, typename Layout::Sample* dst, int w, int h,
              int r) {
     if (w < 1 || h < 1 || !src || !dst || context.isSuperseded()) return;
-    const std::size_t elements = static_cast<std::size_t>(w) * static_cast<std::size_t>(h) * Layout::kPitch;
+    const std::size_t elements = static_cast<std::size_t>(w) * static_cast<std::size_t>(h) * Layout::kLanes;
     std::memcpy(dst, src, elements * sizeof(*src));
     blurRows<Layout>(context, dst, src, w, h, r);
     blurColumns<Layout>(context, src, dst, w, h, r);
