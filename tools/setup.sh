@@ -13,7 +13,7 @@ format_packages=(clang-format-14)
 say() { printf '%s\n' "$*" >&2; }
 
 fail() {
-    say "$@"
+    printf '%s\n' "$@" >&2
     exit 1
 }
 
@@ -58,11 +58,22 @@ need() {
             "  apt-get install --no-install-recommends ${missing[*]}"
     say "Installing ${missing[*]}"
     mkdir -p build
-    if ! install_packages "${missing[@]}" >build/packages.log 2>&1; then
-        say "$hint" "They could not be installed (no network, no such package, or no right to). From build/packages.log:"
-        grep -E '^(E|W|Err|sudo)|failed' build/packages.log | tail -n 12 >&2 || tail -n 12 build/packages.log >&2
-        exit 1
+    install_packages "${missing[@]}" >build/packages.log 2>&1 || explain_packages "$hint"
+}
+
+explain_packages() {
+    local log=build/packages.log reason="they could not be installed"
+    if grep -q '^sudo: ' "$log"; then
+        reason="sudo refused to install them"
+    elif grep -qE 'resolv|Could not connect|unreachable|Failed to fetch' "$log"; then
+        reason="they could not be fetched: no network, or no way to the package server"
+    elif grep -q 'Unable to locate' "$log"; then
+        reason="the system does not know them under these names (Tavrin is made for Debian 12)"
     fi
+    say "$1"
+    say "But $reason. From $log:"
+    { grep -E '^(E|W|Err|sudo):' "$log" || cat "$log"; } | tail -n 8 >&2
+    exit 1
 }
 
 # build PRESET: configures and builds everything of the preset.

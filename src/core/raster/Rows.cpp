@@ -9,21 +9,27 @@ namespace tavrin {
 
 namespace {
 
-// One band between two reports of progress. Every piece asks again before it starts.
+// One band between two reports of progress. Every piece asks again before it starts. What the caller wrote is seen
+// by the pieces, and what they wrote by the caller, through the two atomics: the library's own ordering would do,
+// but it is compiled without the thread checker, which could then not tell a race in a stage from a safe hand-over.
 bool runBand(const RunContext& context, int first, int last, int grain, const std::function<void(int, int)>& range) {
     using Range = oneapi::tbb::blocked_range<int>;
-    std::atomic<bool> stopped = false;
+    std::atomic<bool> stopped;
+    std::atomic<int> finished = 0;
+    stopped.store(false, std::memory_order_release);
     oneapi::tbb::parallel_for(Range(first, last, static_cast<std::size_t>(grain)), [&](const Range& piece) {
         for (int y = piece.begin(); y < piece.end(); y += grain) {
-            if (stopped.load(std::memory_order_relaxed)) return;
+            if (stopped.load(std::memory_order_acquire)) break;
             if (context.isSuperseded()) {
                 stopped.store(true, std::memory_order_relaxed);
-                return;
+                break;
             }
             range(y, std::min(y + grain, piece.end()));
         }
+        finished.fetch_add(1, std::memory_order_release);
     });
-    return !stopped.load();
+    finished.load(std::memory_order_acquire);
+    return !stopped.load(std::memory_order_relaxed);
 }
 
 }  // namespace
