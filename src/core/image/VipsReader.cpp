@@ -124,9 +124,11 @@ class RowSink {
             const VipsPel* in = from + o * fromOuter;
             std::uint8_t* out = to + o * toOuter;
             if (fromInner == Bands && toInner == 4) {  // as most pictures are, and faster with constant steps
-                for (int i = 0; i < inner; ++i) copyPixel<Bands>(in + i * Bands, out + i * std::ptrdiff_t{4});
+                for (int i = 0; i < inner; ++i)
+                    copyPixel<Bands>(in + i * Bands, out + i * std::ptrdiff_t{4});
             } else {
-                for (int i = 0; i < inner; ++i, in += fromInner, out += toInner) copyPixel<Bands>(in, out);
+                for (int i = 0; i < inner; ++i, in += fromInner, out += toInner)
+                    copyPixel<Bands>(in, out);
             }
         }
     }
