@@ -336,6 +336,17 @@ TEST(ImageReader, RealFilesAreReadOrRefused) {
         SCOPED_TRACE(name);
         expectForm(readPicture(entry.path().string()), facts.width, facts.height);
     }
+    const TempFolder folder;
+    for (const char* name : {"formats/rgba_8bit.psd", "formats/rgb_16bit.psd", "formats/photo.heic",
+                             "formats/colorchart.dng", "greenscreen/woman_red_hair.bmp"}) {
+        const std::vector<std::uint8_t> bytes = test::readBytes((data / name).string());
+        for (const std::size_t percent : {10, 60, 99}) {
+            const std::string cut = folder.file(fs::path(name).filename().string());
+            test::writeBytes(
+                cut, {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(bytes.size() * percent / 100)});
+            expectRefused(cut);
+        }
+    }
     const PictureFacts phone = readPictureFacts((data / "greenscreen/group_phone_exif6_12mp.jpg").string());
     EXPECT_EQ(phone.width, 3024);
     EXPECT_EQ(phone.orientation, 6);
