@@ -191,11 +191,16 @@ TEST(ImageReader, ColoursAreBroughtToSrgb) {
     // A profile that is sRGB changes nothing, one that is rubbish is ignored.
     ASSERT_TRUE(made.save(folder.file("s.png"), "", profile("srgb")));
     expectNear(readPicture(folder.file("s.png")).pixels, 6, 0, {150, 180, 60, 255}, 0);
-    ASSERT_TRUE(made.save(folder.file("bad.jpg"), "[Q=100]", [](VipsImage* image) {
-        const std::vector<std::uint8_t> rubbish(500, 0x41);
+    const std::vector<std::uint8_t> rubbish(500, 0x41);
+    ASSERT_TRUE(made.save(folder.file("bad.tif"), "", [&](VipsImage* image) {
         vips_image_set_blob_copy(image, VIPS_META_ICC_NAME, rubbish.data(), rubbish.size());
     }));
-    expectNear(readPicture(folder.file("bad.jpg")).pixels, 0, 0, {120, 120, 120, 255}, 3);
+    testing::internal::CaptureStderr();
+    expectNear(readPicture(folder.file("bad.tif")).pixels, 6, 0, {150, 180, 60, 255}, 0);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("colour profile"), std::string::npos);
+    // As is one that is not made for such a picture.
+    ASSERT_TRUE(made.save(folder.file("ink.tif"), "", profile("cmyk")));
+    expectNear(readPicture(folder.file("ink.tif")).pixels, 6, 0, {150, 180, 60, 255}, 0);
 }
 
 TEST(ImageReader, RefusesWhatIsNoPicture) {
@@ -330,6 +335,17 @@ TEST(ImageReader, RealFilesAreReadOrRefused) {
         EXPECT_EQ(facts.error, "") << name;
         SCOPED_TRACE(name);
         expectForm(readPicture(entry.path().string()), facts.width, facts.height);
+    }
+    const TempFolder folder;
+    for (const char* name : {"formats/rgba_8bit.psd", "formats/rgb_16bit.psd", "formats/photo.heic",
+                             "formats/colorchart.dng", "greenscreen/woman_red_hair.bmp"}) {
+        const std::vector<std::uint8_t> bytes = test::readBytes((data / name).string());
+        for (const std::size_t percent : {10, 60, 99}) {
+            const std::string cut = folder.file(fs::path(name).filename().string());
+            test::writeBytes(
+                cut, {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(bytes.size() * percent / 100)});
+            expectRefused(cut);
+        }
     }
     const PictureFacts phone = readPictureFacts((data / "greenscreen/group_phone_exif6_12mp.jpg").string());
     EXPECT_EQ(phone.width, 3024);

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <lcms2.h>
 #include <vector>
 
 #include "core/Log.h"
@@ -66,6 +67,18 @@ std::vector<std::uint8_t> sampleColours(int bands) {
     return colours;
 }
 
+// The image library puts sRGB in the place of a profile that it cannot use, and takes a grey profile for a coloured
+// picture: both are told from good ones here.
+bool fits(const void* profile, std::size_t size, int bands) {
+    const cmsHPROFILE handle = cmsOpenProfileFromMem(profile, static_cast<cmsUInt32Number>(size));
+    if (!handle) return false;
+    const cmsColorSpaceSignature wanted = bands == 1 ? cmsSigGrayData : bands == 4 ? cmsSigCmykData : cmsSigRgbData;
+    const bool fit = cmsGetColorSpace(handle) == wanted &&
+                     cmsIsIntentSupported(handle, INTENT_RELATIVE_COLORIMETRIC, LCMS_USED_AS_INPUT);
+    cmsCloseProfile(handle);
+    return fit;
+}
+
 /// The test colours through the picture's profile; null when the profile cannot be used.
 VipsRef sampleTransform(VipsImage* image, const std::vector<std::uint8_t>& colours, int bands) {
     VipsRef samples(vips_image_new_from_memory(
@@ -77,6 +90,7 @@ VipsRef sampleTransform(VipsImage* image, const std::vector<std::uint8_t>& colou
     const void* profile = nullptr;
     std::size_t size = 0;
     if (!samples || vips_image_get_blob(image, VIPS_META_ICC_NAME, &profile, &size) != 0) return nullptr;
+    if (!fits(profile, size, bands)) return nullptr;
     vips_image_set_blob_copy(samples.get(), VIPS_META_ICC_NAME, profile, size);
     return transform(samples.get(), nullptr);
 }
@@ -91,7 +105,8 @@ Profile judgeProfile(VipsImage* image) {
     std::size_t size = 0;
     auto* bytes = out ? static_cast<std::uint8_t*>(vips_image_write_to_memory(out.get(), &size)) : nullptr;
     if (!bytes) {
-        logError("Ignoring a colour profile that cannot be used: " + takeVipsError());
+        vips_error_clear();
+        logError("The picture's colour profile is broken or not made for it, so it is ignored.");
         return Profile::broken;
     }
     int difference = 0;

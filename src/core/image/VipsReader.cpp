@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/image/PsdCheck.h"
 #include "core/image/SrgbConversion.h"
 
 namespace tavrin {
@@ -25,9 +26,9 @@ bool readWhole(const std::string& path, std::vector<std::uint8_t>& bytes) {
 
 // The general decoder goes by what it sees: it gets the bytes alone, which begin as a PSD or BMP file does, and no
 // name from which it might conclude something else.
-VipsRef loadFromMemory(const std::string& path, std::vector<std::uint8_t>& bytes) {
+VipsRef loadFromMemory(const std::string& path, FileKind kind, std::vector<std::uint8_t>& bytes) {
     VipsImage* image = nullptr;
-    if (!readWhole(path, bytes)) return nullptr;
+    if (!readWhole(path, bytes) || (kind == FileKind::psd && !psdIsWhole(bytes))) return nullptr;
     return takeVips(vips_magickload_buffer(bytes.data(), bytes.size(), &image, "fail_on", kFailOn, nullptr), image);
 }
 
@@ -55,7 +56,7 @@ VipsRef load(const std::string& path, FileKind kind, std::vector<std::uint8_t>& 
             return loadFile(vips_heifload, path);
         case FileKind::bmp:
         case FileKind::psd:
-            return loadFromMemory(path, bytes);
+            return loadFromMemory(path, kind, bytes);
         default:
             return nullptr;
     }
@@ -124,9 +125,11 @@ class RowSink {
             const VipsPel* in = from + o * fromOuter;
             std::uint8_t* out = to + o * toOuter;
             if (fromInner == Bands && toInner == 4) {  // as most pictures are, and faster with constant steps
-                for (int i = 0; i < inner; ++i) copyPixel<Bands>(in + i * Bands, out + i * std::ptrdiff_t{4});
+                for (int i = 0; i < inner; ++i)
+                    copyPixel<Bands>(in + i * Bands, out + i * std::ptrdiff_t{4});
             } else {
-                for (int i = 0; i < inner; ++i, in += fromInner, out += toInner) copyPixel<Bands>(in, out);
+                for (int i = 0; i < inner; ++i, in += fromInner, out += toInner)
+                    copyPixel<Bands>(in, out);
             }
         }
     }
