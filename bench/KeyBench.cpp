@@ -72,8 +72,8 @@ void prepare(SystemInfo& info, int width, int height) {
 }
 
 void reportPixel(benchmark::State& state, double pixels) {
-    state.counters["ns_pixel"] = benchmark::Counter(
-        pixels * 1e-9, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    state.counters["per_pixel"] =
+        benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
 // Arguments: width, height, threads.
