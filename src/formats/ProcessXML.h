@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "formats/SafeFile.h"
@@ -81,7 +83,7 @@ class ProcessXML {
 
   private:
     bool parse(const std::string& bytes);
-    XMLElement lastChild(const std::string& key) const;
+    XMLElement lastChild(const std::string& key);
     std::string place(const std::string& key) const;
     template <class Number>
     Number numberValue(const std::string& key);
@@ -91,6 +93,9 @@ class ProcessXML {
     std::unique_ptr<SafeSave> outFile;
     std::string path_;
     bool missing_ = false;
+    /// The children of the element `sortedFor_` by name, those of one name in the order of the document.
+    std::vector<std::pair<std::string_view, XMLElement>> sortedChildren_;
+    pugi::xml_node_struct* sortedFor_ = nullptr;
 };
 
 /// The text with every byte but ASCII letters, digits, blank, hyphen, full stop and slash written as a number sign

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
@@ -112,6 +113,8 @@ bool ProcessXML::parse(const std::string& bytes) {
 
 void ProcessXML::CloseXMLFile() {
     activeElement = {};
+    sortedFor_ = nullptr;
+    sortedChildren_.clear();
     xmlDoc.reset();
 }
 
@@ -137,11 +140,19 @@ std::vector<XMLElement> ProcessXML::FindNodesForName(const std::string& name) co
     return found;
 }
 
-XMLElement ProcessXML::lastChild(const std::string& key) const {
-    for (pugi::xml_node child = nodeOf(activeElement).last_child(); child; child = child.previous_sibling()) {
-        if (key == child.name()) return {child.internal_object()};
+XMLElement ProcessXML::lastChild(const std::string& key) {
+    const auto isBefore = [](const auto& one, const auto& other) { return one.first < other.first; };
+    if (sortedFor_ != activeElement.node) {
+        sortedFor_ = activeElement.node;
+        sortedChildren_.clear();
+        for (const pugi::xml_node child : nodeOf(activeElement).children())
+            sortedChildren_.emplace_back(child.name(), XMLElement{child.internal_object()});
+        std::stable_sort(sortedChildren_.begin(), sortedChildren_.end(), isBefore);
     }
-    return {};
+    const std::pair<std::string_view, XMLElement> wanted(key, XMLElement());
+    const auto after = std::upper_bound(sortedChildren_.begin(), sortedChildren_.end(), wanted, isBefore);
+    if (after == sortedChildren_.begin() || std::prev(after)->first != key) return {};
+    return std::prev(after)->second;
 }
 
 std::string ProcessXML::place(const std::string& key) const {
