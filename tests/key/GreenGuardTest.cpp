@@ -199,18 +199,6 @@ TEST(GreenGuard, NoGreenClothMeansNoProtection) {
     EXPECT_EQ(std::count(guard.bitmap().begin(), guard.bitmap().end(), kShirt), 0);
 }
 
-TEST(GreenGuard, OverrideAndPicture) {
-    EXPECT_TRUE(guardMakesOpaque(kShirt, 2, true));
-    EXPECT_FALSE(guardMakesOpaque(kSubject, 2, true));
-    EXPECT_TRUE(guardMakesOpaque(kSubject, 1, true));
-    EXPECT_FALSE(guardMakesOpaque(kScreenColor, 1, true));
-    EXPECT_TRUE(guardMakesOpaque(kScreenColor, 1, false));
-    EXPECT_FALSE(guardMakesOpaque(kBand, 1, false));
-    EXPECT_FALSE(guardMakesOpaque(kSubject, 3, false));
-    EXPECT_EQ(guardPicture(kScreenColor, 99, {1, 2, 3}).g, 2.0);
-    EXPECT_EQ(guardPicture(kScreenColor, 100, {1, 2, 3}).g, 125.0);
-}
-
 TEST(GreenGuard, StaleRunStopsOrLeavesTheFillsOut) {
     const Canvas canvas = person(60, 50);
     auto info = guardState(canvas, 1, 0);
