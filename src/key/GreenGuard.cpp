@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 #include "core/Log.h"
 #include "core/raster/Pixels.h"
@@ -38,26 +39,23 @@ bool GreenGuard::build(const SystemInfo& info, const std::uint8_t* foreground, i
     pFloodFillForegroundBitmap = foreground;
     removeInside_ = info.bRemoveInsideBaseGreen;
     context_ = hiRes ? info.rowsWhileCurrent() : RunContext();
-    if (!foreground || !allocate(width, height)) {
-        logError("Memory not allocated!");
-        return false;
-    }
-    if (!classify(info)) return false;
+    if (!foreground || width < 1 || height < 1) return false;
+    iFloodWidth = width;
+    iFloodHeight = height;
+    if (!allocate(pGreenProtectionBitmap) || !classify(info)) return false;
     fillFromBorder(info);
     findEdge();
     return drawBand(info) && (info.iGreenProtectMode != 2 || protectShirt(info));
 }
 
-bool GreenGuard::allocate(int width, int height) {
-    if (width < 1 || height < 1) return false;
-    iFloodWidth = width;
-    iFloodHeight = height;
+bool GreenGuard::allocate(std::vector<std::uint8_t>& bytes) {
     try {
-        pGreenProtectionBitmap.resize(pixelBytes(width, height) / kPixelBytes);
+        bytes.resize(pixelBytes(iFloodWidth, iFloodHeight) / kPixelBytes);
+        return true;
     } catch (const std::bad_alloc&) {
+        logError("Memory not allocated!");
         return false;
     }
-    return true;
 }
 
 bool GreenGuard::classify(const SystemInfo& info) {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "key/GreenGuard.h"
-#include "support/KeyScene.h"
+#include "support/Portrait.h"
 
 namespace tavrin {
 namespace {
@@ -197,18 +197,6 @@ TEST(GreenGuard, NoGreenClothMeansNoProtection) {
     ASSERT_TRUE(guard.build(*info, canvas.bytes.data(), 20, 20, true));
     EXPECT_EQ(guard.shirtColor().g, 0.0);
     EXPECT_EQ(std::count(guard.bitmap().begin(), guard.bitmap().end(), kShirt), 0);
-}
-
-TEST(GreenGuard, OverrideAndPicture) {
-    EXPECT_TRUE(guardMakesOpaque(kShirt, 2, true));
-    EXPECT_FALSE(guardMakesOpaque(kSubject, 2, true));
-    EXPECT_TRUE(guardMakesOpaque(kSubject, 1, true));
-    EXPECT_FALSE(guardMakesOpaque(kScreenColor, 1, true));
-    EXPECT_TRUE(guardMakesOpaque(kScreenColor, 1, false));
-    EXPECT_FALSE(guardMakesOpaque(kBand, 1, false));
-    EXPECT_FALSE(guardMakesOpaque(kSubject, 3, false));
-    EXPECT_EQ(guardPicture(kScreenColor, 99, {1, 2, 3}).g, 2.0);
-    EXPECT_EQ(guardPicture(kScreenColor, 100, {1, 2, 3}).g, 125.0);
 }
 
 TEST(GreenGuard, StaleRunStopsOrLeavesTheFillsOut) {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "key/HairCorrection.h"
-#include "support/KeyScene.h"
+#include "support/Portrait.h"
 
 namespace tavrin {
 namespace {
@@ -151,19 +151,9 @@ TEST(HairCorrection, GreyPixelIsUnmixedToPureGrey) {
     EXPECT_EQ(pixel.alpha, 1.0);
 }
 
-TEST(HairCorrection, IsOffWithoutHairOrKey) {
-    auto info = hairState({kBrownHair});
-    EXPECT_TRUE(HairParams(*info, kNumbers).active);
-    info->bShowOrgImage = true;
-    EXPECT_FALSE(HairParams(*info, kNumbers).active);
-    info->bShowOrgImage = false;
-    info->bFoundHair = false;
-    EXPECT_FALSE(HairParams(*info, kNumbers).active);
-}
-
 TEST(HairCorrection, AnyListOfHairColorsIsSafe) {
     for (int value : kExtremes) {
-        auto info = hairState({{value, INT_MIN, value}, {INT_MAX, value, -value / 2}});
+        auto info = hairState({{value, INT_MIN, value}, {INT_MAX, value, value / 2}});
         for (int count : kExtremes) {
             info->iHairColorCount = count;
             const HairParams params(*info, {1, 1, 1e9, -1e9, 1e9});

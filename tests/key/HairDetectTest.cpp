@@ -2,7 +2,7 @@
 
 #include "key/HairDetail.h"
 #include "key/HairDetect.h"
-#include "support/KeyScene.h"
+#include "support/Portrait.h"
 
 namespace tavrin {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "core/RandomSource.h"
 #include "key/Skin.h"
-#include "support/KeyScene.h"
+#include "support/Portrait.h"
 
 namespace tavrin {
 namespace {

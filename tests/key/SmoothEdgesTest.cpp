@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "key/SmoothEdges.h"
-#include "support/KeyScene.h"
+#include "support/Portrait.h"
 
 namespace tavrin {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "key/GreenGuard.h"
 #include "key/HairDetect.h"
-#include "support/KeyScene.h"
+#include "support/Portrait.h"
 
 namespace tavrin {
 namespace {
