@@ -12,7 +12,7 @@ namespace {
 constexpr int kGrainRows = 4;
 
 // One pixel after the key: the rest of its way to the buffers.
-void finishPixel(const CombineParams& params, const KeyedPixel& pixel, int x, int y) {
+void finishPixel(const CombineParams& params, const KeyJoins& joins, const KeyedPixel& pixel, int x, int y) {
     const FinishConstants& finish = params.finish;
     const std::size_t index =
         static_cast<std::size_t>(y) * static_cast<std::size_t>(params.size.width) + static_cast<std::size_t>(x);
@@ -25,7 +25,7 @@ void finishPixel(const CombineParams& params, const KeyedPixel& pixel, int x, in
     const Rgb foreground = seen ? finishForeground(finish, pixel.color, x, y) : Rgb{0.0, 0.0, 0.0};
     Rgb shown = foreground;
     double alpha = pixel.alpha;
-    showGuard(params, shown, alpha, x, y);
+    if (joins.showsGuard()) joins.showGuard(shown, alpha, x, y);
     if (pixel.inClipMargin) alpha = 0.0;
 
     out[3] = 255;
@@ -38,14 +38,13 @@ void finishPixel(const CombineParams& params, const KeyedPixel& pixel, int x, in
     background[3] = toByte(alpha * 255.0);
 }
 
-void combineRow(const CombineParams& params, int y) {
+void combineRow(const CombineParams& params, const KeyJoins& joins, int y) {
     const GridStep row = gridStep(y, params.size.height);
     const std::uint8_t* foreground = params.foreground + pixelOffset(params.size.width, 0, y);
     for (int x = 0; x < params.size.width; ++x, foreground += kPixelBytes) {
         KeyedPixel pixel = decidePixel(params.key, foreground, x, y, row);
-        correctHair(params, pixel, x, y);
-        overrideByGuard(params, pixel, x, y);
-        finishPixel(params, pixel, x, y);
+        joins.overrule(pixel, x, y);
+        finishPixel(params, joins, pixel, x, y);
     }
 }
 
@@ -85,7 +84,8 @@ void Combine(SystemInfo& info, int /*ignored*/, int hiRes, const CombineInputs& 
     CombineParams params = makeCombineParams(info, hiRes, inputs);
     if (!params.foreground || !params.background || !params.combined) return;
 
-    buildGreenGuard(info, params);
+    const KeyJoins joins(info, params, hiRes != 0);
+    if (joins.isSuperseded()) return;
     QImage silhouette;
     if (!loadSilhouette(info, params, silhouette)) return;
 
@@ -93,7 +93,7 @@ void Combine(SystemInfo& info, int /*ignored*/, int hiRes, const CombineInputs& 
     RunContext quiet = context;
     quiet.progress = nullptr;
     if (!searchBrightGrey(quiet, params)) return;
-    runRows(context, size.height, kGrainRows, [&](int y) { combineRow(params, y); });
+    runRows(context, size.height, kGrainRows, [&](int y) { combineRow(params, joins, y); });
 }
 
 void Combine(SystemInfo& info, int ignored, int hiRes) {

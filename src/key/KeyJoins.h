@@ -1,24 +1,38 @@
 #pragma once
 
 #include "key/CombineParams.h"
+#include "key/GreenGuard.h"
+#include "key/HairCorrection.h"
 
 namespace tavrin {
 
-// Where the hair correction and the green guard join the key, in their order. They are not built yet: until then
-// each leaves the key's result as it is.
+/// What may overrule the key's decision, in this order: the hair correction, then the green guard. Fixed for a run.
+class KeyJoins {
+  public:
+    /// Builds the guard's bitmap when `iGreenProtectMode` is not 0, and the constants of the hair correction.
+    KeyJoins(const SystemInfo& info, const CombineParams& params, bool hiRes);
 
-/// Before the pixel loop: the guard's bitmap of a run, built when `iGreenProtectMode` is not 0.
-inline void buildGreenGuard(const SystemInfo& /*info*/, CombineParams& /*params*/) {}
+    /// The run was overtaken while the guard was being built, and its pixel loop must not start.
+    bool isSuperseded() const { return superseded_; }
 
-/// May explain a pixel as a mix of the screen and a hair colour. Not for hard background, nor when the foreground
-/// is shown as it is.
-inline void correctHair(const CombineParams& /*params*/, KeyedPixel& /*pixel*/, int /*x*/, int /*y*/) {}
+    /// May explain the pixel as a mix of the screen and a hair colour, or make it opaque with the raw colour.
+    void overrule(KeyedPixel& pixel, int x, int y) const;
+    /// Where the guard's bitmap is shown instead of the subject: its colour and alpha 1.
+    void showGuard(Rgb& foreground, double& alpha, int x, int y) const;
+    bool showsGuard() const { return showGuard_; }
 
-/// Makes a protected pixel opaque, with the raw colour of the foreground.
-inline void overrideByGuard(const CombineParams& /*params*/, KeyedPixel& /*pixel*/, int /*x*/, int /*y*/) {}
+  private:
+    std::uint8_t guardByte(int x, int y) const {
+        return guard_
+            .bitmap()[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)];
+    }
 
-/// Shows the guard's bitmap in the subject's place: a finished foreground colour and alpha 1.
-inline void showGuard(const CombineParams& /*params*/, Rgb& /*foreground*/, double& /*alpha*/, int /*x*/, int /*y*/) {
-}
+    int width_;
+    HairParams hair_;
+    GreenGuard guard_;
+    bool guarded_ = false, superseded_ = false, removeInside_ = false, showGuard_ = false;
+    int mode_ = 0;
+    Rgb caption_{0.0, 0.0, 0.0};
+};
 
 }  // namespace tavrin

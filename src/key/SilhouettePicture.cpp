@@ -2,13 +2,15 @@
 
 #include <algorithm>
 
+#include "core/image/ImageReader.h"
+
 namespace tavrin {
 
 bool loadSilhouette(const SystemInfo& info, CombineParams& params, QImage& picture) {
     const std::string path = info.sSilhouetteFileName;
     if (path.empty() || !info.bOutputSilhouette) return true;
 
-    picture = QImage(QString::fromStdString(path)).convertToFormat(QImage::Format_RGBA8888);
+    picture = myCreateImageUsingImageSourceFromFile(path).convertToFormat(QImage::Format_RGBA8888);
     if (picture.isNull()) return false;
 
     // A slider moves the picture by its own size from one end to the other.

@@ -3,6 +3,9 @@
 #include "core/raster/BlurBitmap.h"
 #include "key/BaseGreen.h"
 #include "key/Combine.h"
+#include "key/HairDetect.h"
+#include "key/Skin.h"
+#include "key/SmoothEdges.h"
 
 namespace tavrin {
 
@@ -25,6 +28,7 @@ Target targetOf(const SystemInfo& info, const BitmapInfo& record, int res) {
 
 void findHair(SystemInfo& info, int) {
     info.bFoundHair = false;
+    if (info.bAdvancedHairDetectionON) ComputeHairColor(info);
     applyHairPreset(info);
 }
 
@@ -35,6 +39,16 @@ void measureScreen(SystemInfo& info, int) {
 
 void combine(SystemInfo& info, int res) {
     Combine(info, 1, res);
+}
+
+void blendEdges(SystemInfo& info, int) {
+    SmoothHiResEdges(info);
+}
+
+void smoothSkin(SystemInfo& info, int) {
+    const BitmapInfo& foreground = *info.pForegroundBitmapInfo;
+    SoftenMac(info, 1, foreground.pBitmapData, foreground.pBitmapDataLowRes, info.pCombinedBitmapInfo->pBitmapData,
+              1);
 }
 
 void blurBackground(SystemInfo& info, int res) {
@@ -137,13 +151,13 @@ constexpr Stage kPreview[] = {
 constexpr Stage kFull[] = {
     {"combine", always, combine},
     {"reflection", hasReflection, nullptr},
-    {"edges", blendsEdges, nullptr},
+    {"edges", blendsEdges, blendEdges},
     {"stars", hasStars, nullptr},
     {"text Foreground", always, nullptr},
     {"foreground overlay", hasForegroundOverlay, nullptr},
     {"text Foreground Layer", always, nullptr},
     {"frame overlay picture", hasFrameOverlayPicture, nullptr},
-    {"skin", smoothsSkin, nullptr},
+    {"skin", smoothsSkin, smoothSkin},
     {"smoothing of the result", smoothsResult, nullptr},
     {"texture", hasTexture, nullptr},
     {"sketch", isCartoon, nullptr},

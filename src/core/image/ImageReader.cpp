@@ -46,10 +46,11 @@ int bitsOf(VipsImage* image) {
     return static_cast<int>(vips_format_sizeof(image->BandFmt)) * 8;
 }
 
-// Pixels a millimetre; the library gives 1 where the file names nothing.
+// Pixels a millimetre; the library gives 1 where the file names nothing. Not every loader names the unit.
 double dpiOf(VipsImage* image) {
     constexpr double kMillimetresInInch = 25.4;
-    return vips_image_get_typeof(image, VIPS_META_RESOLUTION_UNIT) ? image->Xres * kMillimetresInInch : 0;
+    const bool named = vips_image_get_typeof(image, VIPS_META_RESOLUTION_UNIT) || image->Xres != 1.0;
+    return named ? image->Xres * kMillimetresInInch : 0;
 }
 
 void fillCamera(const CameraFacts& camera, PictureFacts& facts) {

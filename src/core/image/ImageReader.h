@@ -10,7 +10,8 @@ namespace tavrin {
 
 /// A picture file as pixels.
 struct ReadPicture {
-    QImage pixels;  ///< upright, sRGB, RGBA8888_Premultiplied, rows packed (4 * width); null on failure
+    QImage pixels;  ///< upright, sRGB, rows packed (4 * width): RGBX8888, or RGBA8888_Premultiplied with
+                    ///< alpha; null on failure
     std::vector<std::uint8_t> exif;  ///< the file's camera data as it stands (may be empty), for carrying over
     std::string error;               ///< what is wrong, as one plain line; empty when the picture was read
 };

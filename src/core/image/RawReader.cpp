@@ -75,7 +75,7 @@ QImage takeImage(LibRaw& raw, std::string& error) {
         error = "its colours are of an unknown kind";
         return {};
     }
-    QImage image(width, height, QImage::Format_RGBA8888_Premultiplied);
+    QImage image(width, height, QImage::Format_RGBX8888);
     if (image.isNull()) {
         error = "there is not enough memory for it";
         return {};

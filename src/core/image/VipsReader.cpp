@@ -174,7 +174,7 @@ QImage decodeWithVips(VipsImage* image, std::string& error) {
     const bool turned = orientation >= 5;
     const bool alpha = srgb->Bands % 2 == 0 || srgb->Bands > 4;
     QImage result(turned ? height : width, turned ? width : height,
-                  alpha ? QImage::Format_RGBA8888 : QImage::Format_RGBA8888_Premultiplied);
+                  alpha ? QImage::Format_RGBA8888 : QImage::Format_RGBX8888);
     if (result.isNull()) {
         error = "there is not enough memory for it";
         return {};

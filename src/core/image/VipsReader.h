@@ -21,8 +21,8 @@ struct OpenPicture {
 /// Opens a file of any kind but raw for one pass from top to bottom, with its size checked.
 OpenPicture openWithVips(const std::string& path, FileKind kind);
 
-/// Decodes an open picture: upright, sRGB, RGBA8888_Premultiplied. Beside the result only some rows are in memory,
-/// but for interlaced and progressive files.
+/// Decodes an open picture: upright, sRGB, in the formats of `ReadPicture`. Beside the result only some rows are in
+/// memory, but for interlaced and progressive files.
 /// @return null on failure, with the reason in `error`
 QImage decodeWithVips(VipsImage* image, std::string& error);
 
