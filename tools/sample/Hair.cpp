@@ -99,7 +99,7 @@ Strand sideStrand(double side, double u, double stray, Random& random) {
 }
 
 void paintFlyaways(QPainter& painter, Random& random) {
-    for (int i = 0; i < 380; ++i) {
+    for (int i = 0; i < 300; ++i) {
         const double side = random.unit() < 0.5 ? -1.0 : 1.0;
         Strand strand = sideStrand(side, random.between(0.55, 1.05), 1.3, random);
         const double lift = std::abs(random.normal());
@@ -110,7 +110,7 @@ void paintFlyaways(QPainter& painter, Random& random) {
                         16.0 * random.normal());
         }
         strand.guide[1] += QPointF(side * 9.0 * lift, -13.0 * lift);
-        strand.width = random.between(0.45, 1.25);
+        strand.width = random.between(0.6, 1.9);
         strand.wave *= random.between(0.5, 1.9);
         strand.reach = random.between(0.45, 1.0);
         strand.lightness *= 1.18;
@@ -127,7 +127,7 @@ void paintFlyaways(QPainter& painter, Random& random) {
             const double t = static_cast<double>(k) / 5.0;
             strand.guide[k] = root + out * (length * t) + across * (4.0 * t * t) + QPointF(0.0, 26.0 * t * t);
         }
-        strand.width = random.between(0.4, 0.95);
+        strand.width = random.between(0.5, 1.3);
         strand.lightness = random.between(0.9, 1.6);
         paintStrand(painter, strand, random.normal());
     }
