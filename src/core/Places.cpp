@@ -46,7 +46,8 @@ bool Places::usePrivateTempFiles() {
 }
 
 std::string Places::createFolders() const {
-    for (const std::string& folder : {xmlFolder(), tempFilesFolder(), picturesFolder()}) {
+    for (const std::string& folder :
+         {xmlFolder(), tempFilesFolder(), samplesFolder(), textIconsFolder(), sketchFolder()}) {
         if (!QDir().mkpath(QString::fromStdString(folder))) return "The folder " + folder + " cannot be made.";
     }
     return "";

@@ -21,7 +21,13 @@ class Places {
     std::string xmlFolder() const { return shared_ + "QLXXML/"; }
     std::string tempFilesFolder() const { return tempFiles_.empty() ? shared_ + "TempFiles/" : tempFiles_; }
 
+    std::string samplesFolder() const { return pictures_ + "Samples/"; }
+    std::string textIconsFolder() const { return pictures_ + "EditTextIcons/"; }
+    std::string textureFolder() const { return pictures_ + "Texture/"; }
+    std::string sketchFolder() const { return textureFolder() + "Sketch/"; }
+
     std::string settingsFile() const { return xmlFolder() + "QLX12.xml"; }
+    std::string defaultStateFile() const { return xmlFolder() + "Default.qlx"; }
     std::string imageSizeFile() const { return xmlFolder() + "ImageSize.xml"; }
     std::string customImageSizeFile() const { return xmlFolder() + "CustomImageSize.xml"; }
     std::string printerFile() const { return xmlFolder() + "Printer.xml"; }

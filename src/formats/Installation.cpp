@@ -1,8 +1,12 @@
 #include "formats/Installation.h"
 
+#include <string>
+#include <vector>
+
 #include <QFile>
 
 #include "formats/SafeFile.h"
+#include "formats/SettingsFile.h"
 
 // The resources lie in a static library, where they have to be asked for by name, and outside of any namespace.
 static void openShippedFiles() {
@@ -26,16 +30,61 @@ std::string putShippedFile(const QString& shipped, const std::string& path) {
     return claimName(fresh, path) ? "" : path + " cannot be written.";
 }
 
+struct ShippedFile {
+    const char* name;  // in the program's resources
+    std::string path;
+};
+
+std::vector<ShippedFile> shippedLists(const Places& places) {
+    return {{"ImageSize.xml", places.imageSizeFile()}, {"Printer.xml", places.printerFile()}};
+}
+
+std::vector<ShippedFile> shippedStart(const Places& places) {
+    return {
+        {"Default.qlx", places.defaultStateFile()},
+        {"sample/portrait.jpg", places.samplesFolder() + "portrait.jpg"},
+        {"sample/background.jpg", places.samplesFolder() + "background.jpg"},
+        {"Pictures/EditTextIcons/Edit.png", places.textIconsFolder() + "Edit.png"},
+        {"Pictures/EditTextIcons/Delete.png", places.textIconsFolder() + "Delete.png"},
+        {"Pictures/Texture/Canvas.jpg", places.textureFolder() + "Canvas.jpg"},
+        {"Pictures/Texture/Linen.jpg", places.textureFolder() + "Linen.jpg"},
+        {"Pictures/Texture/Paper.jpg", places.textureFolder() + "Paper.jpg"},
+        {"Pictures/Texture/Sketch/PencilDense.jpg", places.sketchFolder() + "PencilDense.jpg"},
+        {"Pictures/Texture/Sketch/PencilDenseCross.jpg", places.sketchFolder() + "PencilDenseCross.jpg"},
+        {"Pictures/Texture/Sketch/lightParchment.jpg", places.sketchFolder() + "lightParchment.jpg"},
+    };
+}
+
+void addLine(std::string& lines, const std::string& line) {
+    if (!lines.empty() && !line.empty()) lines += '\n';
+    lines += line;
+}
+
+/// A fresh account starts with the shipped state and pictures; one that has settings keeps them.
+std::string putFirstSettings(const Places& places) {
+    if (safeFileExists(places.settingsFile())) return "";
+    QLXInfo settings;
+    settings.sDefaultQLXFilePath = places.defaultStateFile();
+    settings.sStartupFileForegroundPath = places.samplesFolder() + "portrait.jpg";
+    settings.sStartupFileBackgroundPath = places.samplesFolder() + "background.jpg";
+    return SaveQLXFile(settings, places.settingsFile());
+}
+
 }  // namespace
 
 std::string installMissingFiles(const Places& places) {
+    std::string problems = installMissingLists(places);
+    for (const ShippedFile& file : shippedStart(places))
+        addLine(problems, putShippedFile(file.name, file.path));
+    addLine(problems, putFirstSettings(places));
+    return problems;
+}
+
+std::string installMissingLists(const Places& places) {
     openShippedFiles();
     std::string problems = places.createFolders();
-    for (const std::string& line : {putShippedFile("ImageSize.xml", places.imageSizeFile()),
-                                    putShippedFile("Printer.xml", places.printerFile())}) {
-        if (!problems.empty() && !line.empty()) problems += '\n';
-        problems += line;
-    }
+    for (const ShippedFile& file : shippedLists(places))
+        addLine(problems, putShippedFile(file.name, file.path));
     return problems;
 }
 

@@ -13,4 +13,7 @@ namespace tavrin {
 /// @return "" when done; otherwise one line for each folder or file that could not be made
 [[nodiscard]] std::string installMissingFiles(const Places& places = Places::current());
 
+/// The folders and the lists of sizes and pages alone.
+[[nodiscard]] std::string installMissingLists(const Places& places = Places::current());
+
 }  // namespace tavrin

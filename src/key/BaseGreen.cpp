@@ -179,9 +179,10 @@ CellRow sumCellRow(const Source& source, const Rgb& base, int cellRow) {
         for (int x = 0; x < source.width; ++x, p += kPixelBytes) {
             const int r = p[0], g = p[source.green], b = p[source.blue];
             const int mx = std::max({r, g, b}), mn = std::min({r, g, b});
-            if (mx - mn < 10 || !(g > least)) continue;
+            // The saturation (mx - mn) / mx has to be above 0.5.
+            if (mx - mn < 10 || 2 * (mx - mn) <= mx || !(g > least)) continue;
             const HueSat hs = hueSatOf({static_cast<double>(r), static_cast<double>(g), static_cast<double>(b)});
-            if (!(hs.saturation > 0.5) || std::abs(static_cast<int>(hs.hue) - baseHue) >= 20) continue;
+            if (std::abs(static_cast<int>(hs.hue) - baseHue) >= 20) continue;
             Cell& cell = cells[static_cast<std::size_t>(std::int64_t{x} * kCells / source.width)];
             cell.r += r;
             cell.g += g;
@@ -217,20 +218,33 @@ void measureGrid(const Source& source, const Rgb& base, ScreenColor& result) {
     });
 }
 
-}  // namespace
-
-void ComputeBaseGreen(SystemInfo& info, int /*ignored*/, int mode) {
-    Source source = sourceOf(info, mode);
+/// The picture to measure; false when there are pixels to look at but no buffer.
+bool findSource(const SystemInfo& info, int mode, Source& source) {
+    source = sourceOf(info, mode);
     if (source.width < 1 || source.height < 1) source.width = source.height = 0;
-    if (!source.pixels && source.width > 0) return;
+    return source.pixels || source.width == 0;
+}
 
+Rgb measureColour(SystemInfo& info, const Source& source) {
     const double hue = findHuePeak(source);
     const double saturation = findSaturationPeak(source, hue) / 200.0;
     const Rgb base = screenColour(hue, saturation, findGreenLevel(source, hue));
     info.baseRed = base.r;
     info.baseGreen = base.g;
     info.baseBlue = base.b;
-    measureGrid(source, base, info);
+    return base;
+}
+
+}  // namespace
+
+void ComputeBaseGreen(SystemInfo& info, int /*ignored*/, int mode) {
+    Source source;
+    if (findSource(info, mode, source)) measureGrid(source, measureColour(info, source), info);
+}
+
+void ComputeBaseColor(SystemInfo& info, int mode) {
+    Source source;
+    if (findSource(info, mode, source)) measureColour(info, source);
 }
 
 }  // namespace tavrin

@@ -13,4 +13,8 @@ namespace tavrin {
 /// @param mode 0: measure the foreground's preview buffer; otherwise its source, of which the statistics read a part
 void ComputeBaseGreen(SystemInfo& info, int ignored, int mode);
 
+/// The global colour alone, without the grid, which costs a look at every pixel. For a source that was just loaded:
+/// its colour fills what the layer leaves empty, and its grid would be measured again before anything reads it.
+void ComputeBaseColor(SystemInfo& info, int mode);
+
 }  // namespace tavrin

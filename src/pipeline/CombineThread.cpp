@@ -62,7 +62,26 @@ void CombineThread::runUntilIdle() {
     }
 }
 
+void CombineThread::post(std::function<void()> job) {
+    {
+        std::lock_guard lock(postedMutex_);
+        posted_.push_back(std::move(job));
+    }
+    info_.StartUpdate();
+}
+
+void CombineThread::runPosted() {
+    std::vector<std::function<void()>> jobs;
+    {
+        std::lock_guard lock(postedMutex_);
+        jobs.swap(posted_);
+    }
+    for (const auto& job : jobs)
+        job();
+}
+
 CombineThread::Turn CombineThread::iterate() {
+    runPosted();
     if (!info_.isStale() && runPass() == Turn::dragging) return Turn::dragging;
     if (info_.iCurrentThreadCount > info_.iNewThreadCount) {
         for (const auto& work : idleWork_)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <mutex>
 #include <thread>
 #include <vector>
 
@@ -30,6 +31,10 @@ class CombineThread {
     /// picture stands in the buffers. Register before the thread starts.
     void addIdleWork(std::function<void()> work) { idleWork_.push_back(std::move(work)); }
 
+    /// Runs a job on the loop's thread before the next pass, and asks for that pass: for changes that no stage may
+    /// meet half done, such as loading a whole state. Callable from any thread.
+    void post(std::function<void()> job);
+
     void StartMainThread();
     /// The loop itself; returns when the thread was cancelled.
     void combineThread();
@@ -39,6 +44,7 @@ class CombineThread {
     void runUntilIdle();
 
   private:
+    void runPosted();
     Turn runPass();
     bool updateLayers();
     void updateSource(BitmapInfo& record);
@@ -49,6 +55,8 @@ class CombineThread {
 
     SystemInfo& info_;
     std::vector<std::function<void()>> idleWork_;
+    std::mutex postedMutex_;
+    std::vector<std::function<void()>> posted_;
     std::jthread thread_;
     std::stop_token cancelled_;
 };

@@ -144,7 +144,7 @@ bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record) {
     picture.pixels = QImage();
     record.setSource(std::move(source));
     record.sourceExif = std::move(picture.exif);
-    if (record.iBitmapType == BitmapInfo::kForeground) ComputeBaseGreen(info, 0, 2);
+    if (record.iBitmapType == BitmapInfo::kForeground) ComputeBaseColor(info, 2);
     return true;
 }
 

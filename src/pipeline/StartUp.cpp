@@ -3,6 +3,7 @@
 #include "core/Log.h"
 #include "core/Places.h"
 #include "core/StandardPath.h"
+#include "core/image/ImageReader.h"
 #include "formats/ImageState.h"
 #include "formats/Installation.h"
 #include "formats/Lists.h"
@@ -22,6 +23,28 @@ void tell(const std::string& problem) {
 void loadLists(SystemInfo& info) {
     tell(LoadImageSizesFromXML(info));
     tell(LoadPrinterTemplatesFromXML(info));
+}
+
+LoadedPicture loadPicture(const std::string& path) {
+    LoadedPicture picture;
+    picture.Image = myCreateImageUsingImageSourceFromFile(path);
+    if (picture.Image.isNull()) return picture;
+    picture.rawData = picture.Image.constBits();
+    picture.iWidth = picture.Image.width();
+    picture.iHeight = picture.Image.height();
+    picture.stride = picture.iWidth * picture.Image.depth() / 8;
+    return picture;
+}
+
+void loadStartUpPictures(StartUpPictures& pictures) {
+    const Places& places = Places::current();
+    pictures.TextEditIcon = loadPicture(places.textIconsFolder() + "Edit.png");
+    pictures.TextDeleteIcon = loadPicture(places.textIconsFolder() + "Delete.png");
+    pictures.iTextIconWidth = pictures.TextEditIcon.iWidth;
+    pictures.iTextIconHeight = pictures.TextEditIcon.iHeight;
+    pictures.PencilCross2 = loadPicture(places.sketchFolder() + "PencilDenseCross.jpg");
+    pictures.PencilCross = loadPicture(places.sketchFolder() + "PencilDense.jpg");
+    pictures.LightParchment = loadPicture(places.sketchFolder() + "lightParchment.jpg");
 }
 
 void placeNote(FontObject& label) {
@@ -44,6 +67,7 @@ void startSystem(SystemInfo& info) {
     info.pForegroundBitmapInfo->setSourceImageFullPath(standardizePath(info.oQLXInfo->sStartupFileForegroundPath));
     info.pBackgroundBitmapInfo->setSourceImageFullPath(standardizePath(info.oQLXInfo->sStartupFileBackgroundPath));
     ChangeImageSize(info);
+    loadStartUpPictures(info);
     info.bNewOutputSize = true;
     logTrace("System Info Loaded");
 }
@@ -53,18 +77,28 @@ void startCommandLine(SystemInfo& info) {
     places.usePrivateTempFiles();
     if (!safeFileExists(places.imageSizeFile())) {
         places.setSharedFolder(places.tempFilesFolder() + "Tavrin/");
-        tell(installMissingFiles());
+        places.setPicturesFolder(places.tempFilesFolder() + "Pictures/");
+        tell(installMissingLists());
     }
     loadLists(info);
 }
 
 std::string openStateFile(SystemInfo& info, const std::string& path) {
-    const std::string sizeBefore = info.sImageSizeName;
+    // The buffers have the size that they have. The file's pixel sizes allocate nothing, so they must not stand: the
+    // file's size comes into force through its place in the list.
+    const OutputGeometry before = info;
     std::string problem = LoadImageStateFromXML(info, path, kLoadAll);
     if (!problem.empty()) return problem;
-    if (info.sImageSizeName.load() != sizeBefore) {
-        info.bChangeImageSize = true;
-        info.bNewOutputSize = true;
+    const std::string name = info.sImageSizeName;
+    const std::int32_t index = info.iSelecteImageSize;
+    static_cast<OutputGeometry&>(info) = before;
+    if (index >= 0 && index < info.iImageSizeCount()) {
+        const bool changed = name != before.sImageSizeName.load() || index != before.iSelecteImageSize;
+        info.sImageSizeName = name;
+        info.iSelecteImageSize = index;
+        if (changed) info.bChangeImageSize = info.bNewOutputSize = true;
+    } else {
+        logError(path + ": the output size \"" + name + "\" is not in the list; the present one stays.");
     }
     info.pForegroundBitmapInfo->bOrgFileChange = true;
     info.pBackgroundBitmapInfo->bOrgFileChange = true;

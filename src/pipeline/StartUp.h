@@ -15,7 +15,8 @@ void startSystem(SystemInfo& info);
 void startCommandLine(SystemInfo& info);
 
 /// Loads a state file as the user's choice: the state is read whole or not at all, and what a pass must redo is
-/// flagged. The caller asks for the new picture.
+/// flagged. The size of the buffers stays until the next pass takes the file's size from the list. Call it where no
+/// stage runs: before the loop starts, or as a job of the loop's (`CombineThread::post`).
 /// @return "" when done; otherwise one line, and the state is as it was
 std::string openStateFile(SystemInfo& info, const std::string& path);
 

@@ -142,17 +142,16 @@ void MainWindow::askForStateToSave() {
     saveState(path);
 }
 
-bool MainWindow::openState(const QString& path) {
-    const std::string problem = openStateFile(info_, path.toStdString());
-    if (!problem.empty()) {
-        bridge_.showAlert(tr("The state file cannot be opened.").toStdString(), problem);
-        return false;
-    }
-    remember(path);
-    showSelectedSize();
+void MainWindow::openState(const QString& path) {
     saveAction_->setEnabled(false);
-    info_.StartUpdate();
-    return true;
+    loop_->post([this, path] {
+        const std::string problem = openStateFile(info_, path.toStdString());
+        if (problem.empty()) {
+            emit bridge_.stateOpened(path);
+        } else {
+            bridge_.showAlert(tr("The state file cannot be opened.").toStdString(), problem);
+        }
+    });
 }
 
 bool MainWindow::saveState(const QString& path) {
@@ -170,6 +169,13 @@ void MainWindow::connectBridge() {
     connect(&bridge_, &WindowBridge::published, this, &MainWindow::takePublished, Qt::QueuedConnection);
     connect(&bridge_, &WindowBridge::alerted, this, &MainWindow::showAlert, Qt::QueuedConnection);
     connect(&bridge_, &WindowBridge::outputSized, this, &MainWindow::fitToOutput, Qt::QueuedConnection);
+    connect(
+        &bridge_, &WindowBridge::stateOpened, this,
+        [this](const QString& path) {
+            remember(path);
+            showSelectedSize();
+        },
+        Qt::QueuedConnection);
     connect(
         &bridge_, &WindowBridge::controlsEnabled, this,
         [this](bool enabled, bool hostApplication) {

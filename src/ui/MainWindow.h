@@ -24,9 +24,11 @@ class MainWindow : public QMainWindow {
     /// Makes a file the source of a layer and asks for a new picture.
     void openForeground(const QString& path);
     void openBackground(const QString& path);
-    /// Loads every setting and both pictures from a state file, or saves them into one.
-    /// @return false after an alert; the state, or the old file, is as it was
-    bool openState(const QString& path);
+    /// Loads every setting and both pictures from a state file, between two passes of the loop. A file that cannot
+    /// be read shows an alert and changes nothing.
+    void openState(const QString& path);
+    /// Saves every setting into a state file.
+    /// @return false after an alert; the old file is as it was
     bool saveState(const QString& path);
     /// Opens a file by its kind: a state file, or a picture for the portrait.
     void openFile(const QString& path);

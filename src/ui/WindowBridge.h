@@ -35,6 +35,7 @@ class WindowBridge : public QObject, public Interface {
     void published();
     void controlsEnabled(bool enabled, bool hostApplication);
     void outputSized(int width, int height);
+    void stateOpened(const QString& path);
     void alerted(const QString& message, const QString& reason);
 
   private:

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <thread>
 
+#include "formats/ImageState.h"
 #include "formats/Installation.h"
 #include "formats/Lists.h"
 #include "formats/SettingsFile.h"
@@ -210,7 +211,14 @@ TEST_F(InstallationTest, FillsInWhatIsMissingAndNothingElse) {
         program.join();
     EXPECT_TRUE(fs::is_directory(places.tempFilesFolder()));
     EXPECT_TRUE(fs::is_directory(places.picturesFolder()));
-    EXPECT_EQ(std::distance(fs::directory_iterator(places.xmlFolder()), {}), 2);
+    for (const std::string& file : {places.imageSizeFile(), places.printerFile(), places.defaultStateFile(),
+                                    places.settingsFile(), places.samplesFolder() + "portrait.jpg",
+                                    places.textIconsFolder() + "Edit.png", places.sketchFolder() + "PencilDense.jpg"})
+        EXPECT_TRUE(fs::exists(file)) << file;
+    QLXInfo settings;
+    EXPECT_EQ(LoadQLXFile(settings), "");
+    EXPECT_EQ(settings.sStartupFileForegroundPath.load(), places.samplesFolder() + "portrait.jpg");
+    EXPECT_EQ(LoadImageStateFromXML(info, settings.sDefaultQLXFilePath, kLoadAll), "");
 
     writeFile(places.imageSizeFile(), "the user's own");
     fs::rename(places.printerFile(), places.printerFile() + ".set-aside");

@@ -21,7 +21,7 @@ std::string times(int width, int height) {
 int printFacts(const std::string& path) {
     const PictureFacts facts = readPictureFacts(path);
     if (!facts.error.empty()) {
-        complain(facts.error);
+        complain(path + ": " + facts.error + ".");
         return kFailed;
     }
     printLine("format", facts.format);

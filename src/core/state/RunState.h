@@ -77,6 +77,20 @@ struct StageState : SkinColor {
     Field<bool> bBackgroundFrozen = false;  ///< the background holds a frozen picture and is not rebuilt
 };
 
+/// A picture that is loaded once at start-up: RGBA, `stride` bytes a row. Empty where the file could not be read.
+struct LoadedPicture {
+    QImage Image;
+    const std::uint8_t* rawData = nullptr;  ///< bytes of `Image`
+    int stride = 0, iWidth = 0, iHeight = 0;
+};
+
+/// Icons of the text tools, and what the sketch draws with.
+struct StartUpPictures {
+    LoadedPicture TextEditIcon, TextDeleteIcon;
+    LoadedPicture PencilCross2, PencilCross, LightParchment;
+    Field<std::int32_t> iTextIconWidth = 0, iTextIconHeight = 0;  ///< size of the edit icon
+};
+
 /// Generation counters and the switches of the processing loop.
 struct LoopState {
     /// Number of the picture under work, and of the newest wanted one. Equal: a pass is due; current above new:

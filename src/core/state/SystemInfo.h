@@ -53,6 +53,7 @@ class SystemInfo : public Settings,
                    public PageState,
                    public TextState,
                    public StageState,
+                   public StartUpPictures,
                    public LoopState,
                    public ReplayState,
                    public ModeState {
