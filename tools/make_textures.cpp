@@ -19,18 +19,19 @@ namespace {
 struct Job {
     const char* path;
     QImage (*paint)();
-    int quality;  // of a JPEG; a PNG loses nothing at any
 };
 
+constexpr int kQuality = 84;  // of a JPEG; a PNG loses nothing at any
+
 constexpr Job kJobs[] = {
-    {"EditTextIcons/Edit.png", drawEditIcon, 0},
-    {"EditTextIcons/Delete.png", drawDeleteIcon, 0},
-    {"Texture/Sketch/PencilDense.jpg", drawPencilDense, 85},
-    {"Texture/Sketch/PencilDenseCross.jpg", drawPencilDenseCross, 85},
-    {"Texture/Sketch/lightParchment.jpg", paintParchment, 85},
-    {"Texture/Canvas.jpg", weaveCanvas, 85},
-    {"Texture/Linen.jpg", weaveLinen, 85},
-    {"Texture/Paper.jpg", pressPaper, 85},
+    {"EditTextIcons/Edit.png", drawEditIcon},
+    {"EditTextIcons/Delete.png", drawDeleteIcon},
+    {"Texture/Sketch/PencilDense.jpg", drawPencilDense},
+    {"Texture/Sketch/PencilDenseCross.jpg", drawPencilDenseCross},
+    {"Texture/Sketch/lightParchment.jpg", paintParchment},
+    {"Texture/Canvas.jpg", weaveCanvas},
+    {"Texture/Linen.jpg", weaveLinen},
+    {"Texture/Paper.jpg", pressPaper},
 };
 
 bool write(const Job& job, const QDir& folder) {
@@ -40,7 +41,7 @@ bool write(const Job& job, const QDir& folder) {
         return false;
     }
     QImageWriter writer(path);
-    writer.setQuality(job.quality);
+    writer.setQuality(kQuality);
     writer.setOptimizedWrite(true);
     if (writer.write(job.paint())) return true;
     std::fprintf(stderr, "make_textures: %s: %s\n", qPrintable(path), qPrintable(writer.errorString()));

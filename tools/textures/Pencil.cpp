@@ -38,7 +38,7 @@ double pressureAt(const Stroke& stroke, double along, double across) {
     const double ends = smoothStep(1.0, 0.72, std::abs(along));
     const double swing = 0.86 + 0.14 * std::sin(stroke.phase + 3.5 * along);
     const double side = 1.0 - across * across;
-    return stroke.pressure * ends * swing * std::sqrt(std::max(0.0, side));
+    return stroke.pressure * ends * swing * side;
 }
 
 // Graphite stays on the hills of the paper; the harder the lead presses, the further down it reaches.
@@ -59,7 +59,7 @@ void draw(Plane& light, const Plane& tooth, const Stroke& stroke) {
             const int x = (middleX + dx + 2 * kSize) % kSize;
             const double pressure = pressureAt(stroke, along, across);
             const double reached = smoothStep(-2.4, 2.4, tooth.at(x, y) - 0.5 + 1.8 * pressure);
-            light.at(x, y) *= 1.0 - pressure * (0.38 + 0.62 * reached);
+            light.at(x, y) *= 1.0 - pressure * (0.50 + 0.50 * reached);
         }
     }
 }
@@ -99,20 +99,21 @@ void shade(Plane& light, const Plane& tooth, const Layer& layer, Random& random)
 
 Plane paperTooth() {
     Plane tooth = hills(kSize, kSize, kSize / 3, kSize / 3, 11);
-    add(tooth, hills(kSize, kSize, kSize / 7, kSize / 7, 12), 0.5);
+    add(tooth, hills(kSize, kSize, kSize / 8, kSize / 8, 12), 0.5);
     normalise(tooth);
     return tooth;
 }
 
 QImage finish(Plane& light, const Plane& tooth) {
-    constexpr double kPaper = 0.975, kGraphite = 0.24;
+    // A pencil of middle hardness: the sketch deepens these greys, so a softer one would run together into black.
+    constexpr double kPaper = 0.975, kGraphite = 0.40;
     for (std::size_t i = 0; i < light.values.size(); ++i)
         light.values[i] = kGraphite + (kPaper - kGraphite) * light.values[i] + 0.008 * tooth.values[i];
     return toGreyPicture(light);
 }
 
-constexpr Layer kFirst{0.92, 0.36, 7.6, 14, 10};
-constexpr Layer kSecond{2.18, 0.30, 9.0, 13, 9};
+constexpr Layer kFirst{0.92, 0.42, 7.8, 14, 10};
+constexpr Layer kSecond{2.18, 0.28, 9.4, 13, 9};
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 #include <vector>
 
 #include "sample/Random.h"
@@ -81,10 +82,10 @@ Yarn spin(bool upright, const Cloth& cloth) {
     const std::uint64_t seed = cloth.seed + (upright ? 10 : 20);
     if (upright) {
         return {hills(kWidth, kHeight, 48, 12, seed), hills(kWidth, kHeight, cloth.warps, 24, seed + 1),
-                hills(kWidth, kHeight, kWidth / 2, kHeight / 9, seed + 2)};
+                hills(kWidth, kHeight, kWidth / 3, kHeight / 12, seed + 2)};
     }
     return {hills(kWidth, kHeight, 16, 36, seed), hills(kWidth, kHeight, 32, cloth.wefts, seed + 1),
-            hills(kWidth, kHeight, kWidth / 9, kHeight / 2, seed + 2)};
+            hills(kWidth, kHeight, kWidth / 12, kHeight / 3, seed + 2)};
 }
 
 Plane weave(const Cloth& cloth, Plane& shades) {
@@ -146,12 +147,12 @@ QImage weaveCanvas() {
                        .twist = 0.035,
                        .threadShades = 0.12,
                        .seed = 71},
-                      0.135);
+                      0.13);
 }
 
 QImage weaveLinen() {
-    return weaveCloth({.warps = 196,
-                       .wefts = 146,
+    return weaveCloth({.warps = 184,
+                       .wefts = 138,
                        .unevenness = 0.20,
                        .fullness = 0.84,
                        .wander = 1.4,
@@ -159,7 +160,7 @@ QImage weaveLinen() {
                        .twist = 0.05,
                        .threadShades = 0.38,
                        .seed = 171},
-                      0.125);
+                      0.11);
 }
 
 QImage pressPaper() {
