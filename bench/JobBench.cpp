@@ -77,39 +77,38 @@ void jobByShortPath(benchmark::State& state) {
     wholeJob(state, [](SystemInfo& info) { loadAndCombineFiles(info); });
 }
 
-// From `StartUpdate` to the published preview, with both layers in place.
-void previewPass(benchmark::State& state) {
+// A pass after a slider move: both layers are in place.
+void pass(benchmark::State& state, SystemInfo& info) {
     const ThreadLimit limit(static_cast<int>(state.range(0)));
-    const auto info = newJob();
-    info->bSkipHiRes = true;
-    info->bAdvancedHairDetectionON = state.range(1) != 0;
-    info->iMacroHairColor = 6;
-    ChangeImageSize(*info);
-    CombineThread loop(*info);
+    ChangeImageSize(info);
+    CombineThread loop(info);
     loop.runUntilIdle();
     for (auto _ : state) {
-        info->StartUpdate();
+        info.StartUpdate();
         loop.runUntilIdle();
     }
 }
 
-// The full pass behind it: with hair detection, guard mode 1 and edges when asked.
-void fullPass(benchmark::State& state) {
-    const ThreadLimit limit(static_cast<int>(state.range(0)));
+void findHair(SystemInfo& info, bool on) {
+    info.bAdvancedHairDetectionON = on;
+    info.iMacroHairColor = 6;
+}
+
+// From `StartUpdate` to the published preview; the second argument turns hair detection on.
+void previewPass(benchmark::State& state) {
     const auto info = newJob();
-    if (state.range(1) != 0) {
-        info->bAdvancedHairDetectionON = true;
-        info->iMacroHairColor = 6;
-        info->iGreenProtectMode = 1;
-        info->bShowGreenProtection = false;
-    }
-    ChangeImageSize(*info);
-    CombineThread loop(*info);
-    loop.runUntilIdle();
-    for (auto _ : state) {
-        info->StartUpdate();
-        loop.runUntilIdle();
-    }
+    info->bSkipHiRes = true;
+    findHair(*info, state.range(1) != 0);
+    pass(state, *info);
+}
+
+// Preview and full picture, with edges; the second argument adds hair detection and guard mode 1.
+void fullPass(benchmark::State& state) {
+    const auto info = newJob();
+    findHair(*info, state.range(1) != 0);
+    info->iGreenProtectMode = state.range(1) != 0 ? 1 : 0;
+    info->bShowGreenProtection = false;
+    pass(state, *info);
 }
 
 BENCHMARK(decodeScaleEncode)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime()->MeasureProcessCPUTime();

@@ -1,5 +1,7 @@
 #include "pipeline/StartUp.h"
 
+#include <QLockFile>
+
 #include "core/Log.h"
 #include "core/Places.h"
 #include "core/StandardPath.h"
@@ -23,6 +25,13 @@ void tell(const std::string& problem) {
 void loadLists(SystemInfo& info) {
     tell(LoadImageSizesFromXML(info));
     tell(LoadPrinterTemplatesFromXML(info));
+}
+
+/// Empties the working folder, unless another program of this account is running and may be using it.
+void clearOwnTempFiles() {
+    static QLockFile running(QString::fromStdString(Places::current().sharedFolder() + "running.lock"));
+    running.setStaleLockTime(0);  // only the end of its process frees it
+    if (running.isLocked() || running.tryLock()) ClearTempFiles(Places::current().tempFilesFolder());
 }
 
 LoadedPicture loadPicture(const std::string& path) {
@@ -59,7 +68,7 @@ void startSystem(SystemInfo& info) {
     tell(installMissingFiles());
     tell(LoadQLXFile(*info.oQLXInfo));
     loadLists(info);
-    ClearTempFiles(Places::current().tempFilesFolder());
+    clearOwnTempFiles();
 
     const std::string defaultState = info.oQLXInfo->sDefaultQLXFilePath;
     if (!defaultState.empty()) tell(LoadImageStateFromXML(info, defaultState, kLoadAll));
