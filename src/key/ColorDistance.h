@@ -21,10 +21,10 @@ inline HsvColor toHsv(double r, double g, double b) {
 
 /// How much two colours differ to the green guard: hue counts double, value a quarter, all in whole steps.
 inline double colorDistance(const HsvColor& a, const HsvColor& b) {
-    int dH = std::abs(static_cast<int>(a.h - b.h));
+    int dH = std::abs(wholeSteps(a.h - b.h));
     if (dH >= 181) dH = 360 - dH;
-    const int dS = std::abs(static_cast<int>(100.0 * a.s - 100.0 * b.s));
-    const int dV = std::abs(static_cast<int>(a.v - b.v)) >> 2;
+    const int dS = std::abs(wholeSteps(100.0 * a.s - 100.0 * b.s));
+    const int dV = std::abs(wholeSteps(a.v - b.v)) >> 2;
     return std::sqrt(dS * dS + 4 * dH * dH + dV * dV);
 }
 

@@ -64,11 +64,11 @@ std::vector<Rgb> usableHair(const SystemInfo& info, int count) {
 
 // Hue is the dearest part of a colour and is looked at last.
 bool isScreen(const HairParams& params, const HairPixel& pixel, double sat, double value) {
-    const int dV = static_cast<int>(params.baseHsv.v - value);
-    const int dS = static_cast<int>(100.0 * params.baseHsv.s - 100.0 * sat);
+    const int dV = wholeSteps(params.baseHsv.v - value);
+    const int dS = wholeSteps(100.0 * params.baseHsv.s - 100.0 * sat);
     if (std::abs(dV) >= 5 || std::abs(dS) >= 5) return false;
     const double hue = toHsv(pixel.r, pixel.g, pixel.b).h;
-    const int dH = hueDistance(static_cast<int>(params.baseHsv.h - hue));
+    const int dH = hueDistance(wholeSteps(params.baseHsv.h - hue));
     return 4 * dH * dH + dS * dS + dV * dV < 25;
 }
 

@@ -21,6 +21,12 @@ inline double clampTo(double value, double low, double high) {
     return value >= low ? (value > high ? high : value) : low;
 }
 
+/// Truncates a difference of colour measures to a whole number, within 10,000 either way, so that its square fits
+/// an int; what is no number becomes the lower limit.
+inline int wholeSteps(double difference) {
+    return static_cast<int>(clampTo(difference, -10'000.0, 10'000.0));
+}
+
 /// A colour with doubles on the 0 to 255 scale, in real channels or in roles.
 struct Rgb {
     double r, g, b;
