@@ -13,15 +13,16 @@ namespace {
 
 using namespace tavrin;
 
-/// The simple panel as its reset leaves it, and what that panel makes of the key sliders; then what was measured to
-/// be better for portraits in general.
+/// The simple panel as its reset leaves it and what that panel makes of the key sliders, then what measured better.
+/// Hair detection is off, since under poor light it can cut into dark clothes; what it needs is set for when it is
+/// turned on.
 void chooseKey(SystemInfo& info) {
     info.iMacroHairColor = 6;  // automatic
     info.iMacroShadows = 1;
     info.iMacroTransparency = 2;
     UpdateEZCombineSettings(info);
 
-    info.bAdvancedHairDetectionON = true;
+    info.bAdvancedHairDetectionON = false;
     info.bAVPShadowRemoval = true;
     info.pCombinedBitmapInfo->sliderRemoveGreenAreas = 110;  // less veil on a screen that is unevenly lit
     info.iBlendEdges = 20;
