@@ -1,6 +1,7 @@
 #include "core/image/ImageWriter.h"
 
 #include "core/AtomicFile.h"
+#include "core/HandOver.h"
 #include "core/image/Exif.h"
 #include "core/image/PngWriter.h"
 #include "core/image/TiffWriter.h"
@@ -15,13 +16,23 @@ constexpr int kMaxJpegSide = 65500;
 
 using TargetRef = std::unique_ptr<VipsTarget, GlibUnref>;
 
-gint64 writeToFile(VipsTargetCustom*, const void* bytes, gint64 size, gpointer file) {
-    return static_cast<AtomicFile*>(file)->write(bytes, static_cast<std::size_t>(size)) ? size : -1;
+/// The encoder writes from a thread of its own.
+struct EncodedFile {
+    AtomicFile& file;
+    HandOver handOver;
+};
+
+gint64 writeToFile(VipsTargetCustom*, const void* bytes, gint64 size, gpointer user) {
+    auto* encoded = static_cast<EncodedFile*>(user);
+    encoded->handOver.pass();
+    const bool written = encoded->file.write(bytes, static_cast<std::size_t>(size));
+    encoded->handOver.pass();
+    return written ? size : -1;
 }
 
-TargetRef targetOf(AtomicFile& file) {
+TargetRef targetOf(EncodedFile& encoded) {
     VipsTargetCustom* target = vips_target_custom_new();
-    g_signal_connect(target, "write", G_CALLBACK(writeToFile), &file);
+    g_signal_connect(target, "write", G_CALLBACK(writeToFile), &encoded);
     return TargetRef(VIPS_TARGET(target));
 }
 
@@ -60,10 +71,12 @@ VipsRef describe(const WriteRequest& request) {
 }
 
 std::string writeJpeg(AtomicFile& file, const WriteRequest& request) {
-    const TargetRef target = targetOf(file);
+    EncodedFile encoded{file, {}};
+    const TargetRef target = targetOf(encoded);
     const VipsRef image = describe(request);
     const bool done = image && vips_jpegsave_target(image.get(), target.get(), "Q", 100, "subsample_mode",
                                                     VIPS_FOREIGN_SUBSAMPLE_OFF, nullptr) == 0;
+    encoded.handOver.pass();
     return done ? std::string() : "it cannot be encoded (" + takeVipsError() + ")";
 }
 

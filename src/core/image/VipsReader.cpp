@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/HandOver.h"
 #include "core/image/PsdCheck.h"
 #include "core/image/SrgbConversion.h"
 
@@ -67,7 +68,9 @@ std::string decodeError() {
     return "it is damaged or cut short" + (reason.empty() ? reason : " (" + reason + ")");
 }
 
-/// Takes finished rows of the decoder and lays them, upright and as RGBA, into the result.
+/// Takes finished rows of the decoder and lays them, upright and as RGBA, into the result. The decoder calls `write`
+/// on a thread of its own, one call after the other. Each call passes the result on through `turn_`: the library's
+/// own ordering would do, but the thread checker does not see it.
 class RowSink {
   public:
     RowSink(QImage& target, int orientation, int width, int height) {
@@ -79,10 +82,12 @@ class RowSink {
         stepX_ = (turned ? row : pixel) * (mirrorX ? -1 : 1);
         stepY_ = (turned ? pixel : row) * (mirrorY ? -1 : 1);
         first_ = target.bits() + (mirrorX ? -stepX_ * (width - 1) : 0) + (mirrorY ? -stepY_ * (height - 1) : 0);
+        handOver.pass();
     }
 
     static int write(VipsRegion* region, VipsRect* area, void* self) {
-        const auto* sink = static_cast<const RowSink*>(self);
+        auto* sink = static_cast<RowSink*>(self);
+        sink->handOver.pass();
         switch (region->im->Bands) {
             case 1:
                 sink->copy<1>(region, *area);
@@ -97,8 +102,11 @@ class RowSink {
                 sink->copy<4>(region, *area);
                 break;
         }
+        sink->handOver.pass();
         return 0;
     }
+
+    HandOver handOver;
 
   private:
     template <int Bands>
@@ -180,7 +188,9 @@ QImage decodeWithVips(VipsImage* image, std::string& error) {
         return {};
     }
     RowSink sink(result, orientation, width, height);
-    if (vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0) {
+    const bool failed = vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0;
+    sink.handOver.pass();
+    if (failed) {
         error = decodeError();
         return {};
     }

@@ -9,15 +9,19 @@ namespace tavrin {
 
 namespace {
 
+using Range = oneapi::tbb::blocked_range<int>;
+
 // One band between two reports of progress. Every piece asks again before it starts. What the caller wrote is seen
 // by the pieces, and what they wrote by the caller, through the two atomics: the library's own ordering would do,
 // but it is compiled without the thread checker, which could then not tell a race in a stage from a safe hand-over.
-bool runBand(const RunContext& context, int first, int last, int grain, const std::function<void(int, int)>& range) {
-    using Range = oneapi::tbb::blocked_range<int>;
-    std::atomic<bool> stopped;
-    std::atomic<int> finished = 0;
-    stopped.store(false, std::memory_order_release);
-    oneapi::tbb::parallel_for(Range(first, last, static_cast<std::size_t>(grain)), [&](const Range& piece) {
+struct Band {
+    const RunContext& context;
+    const std::function<void(int, int)>& range;
+    int grain;
+    mutable std::atomic<bool> stopped = false;
+    mutable std::atomic<int> finished = 0;
+
+    void operator()(const Range& piece) const {
         for (int y = piece.begin(); y < piece.end(); y += grain) {
             if (stopped.load(std::memory_order_acquire)) break;
             if (context.isSuperseded()) {
@@ -27,10 +31,15 @@ bool runBand(const RunContext& context, int first, int last, int grain, const st
             range(y, std::min(y + grain, piece.end()));
         }
         finished.fetch_add(1, std::memory_order_release);
-    });
-    finished.load(std::memory_order_acquire);
-    return !stopped.load(std::memory_order_relaxed);
-}
+    }
+
+    bool run(int first, int last) {
+        stopped.store(false, std::memory_order_release);
+        oneapi::tbb::parallel_for(Range(first, last, static_cast<std::size_t>(grain)), std::cref(*this));
+        finished.load(std::memory_order_acquire);
+        return !stopped.load(std::memory_order_relaxed);
+    }
+};
 
 }  // namespace
 
@@ -40,7 +49,7 @@ bool runRowRanges(const RunContext& context, int rows, int grain, const std::fun
     const int band = reports ? context.progressRows : std::max(rows, 1);
     for (int first = 0; first < rows; first += std::min(band, rows - first)) {
         const int last = first + std::min(band, rows - first);
-        if (!runBand(context, first, last, grain, range)) return false;
+        if (!Band{context, range, grain}.run(first, last)) return false;
         if (reports) context.progress(first, last);
     }
     return true;
