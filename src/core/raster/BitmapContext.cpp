@@ -61,7 +61,8 @@ bool isExact(const QTransform& t, const QImage& picture) {
 
 // A part of a picture over the same bytes, which must outlive it.
 QImage partOf(const QImage& picture, const QRect& part) {
-    if (part == picture.rect() || picture.depth() != 32) return picture.copy(part);
+    if (part == picture.rect()) return picture;
+    if (picture.depth() != 32) return picture.copy(part);
     const uchar* first = picture.constScanLine(part.y()) + qsizetype{4} * part.x();
     return QImage(first, part.width(), part.height(), picture.bytesPerLine(), picture.format());
 }
@@ -77,6 +78,25 @@ QRect visiblePart(const QImage& picture, const QTransform& mapping, const QRect&
 
 int reduced(int size, double scale) {
     return scale < 1 ? std::max(1, static_cast<int>(std::lround(size * scale))) : size;
+}
+
+// Area average when reducing. Qt scales RGB32 and ARGB32 as they are and converts all other pictures first, which
+// for a large one takes as long as the scaling and as much memory as the picture. Ours differ from those only in the
+// order of the colours, and all channels are scaled alike.
+QImage scaledSmoothly(const QImage& picture, int width, int height) {
+    const QImage::Format own = picture.format();
+    const bool opaque = own == QImage::Format_RGBX8888;
+    const bool alike =
+        QSysInfo::ByteOrder == QSysInfo::LittleEndian && (opaque || own == QImage::Format_RGBA8888_Premultiplied);
+    const auto scaled = [&](const QImage& image) {
+        return image.scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    if (!alike) return scaled(picture);
+    const QImage renamed(picture.constBits(), picture.width(), picture.height(), picture.bytesPerLine(),
+                         opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    QImage result = scaled(renamed);
+    result.reinterpretAsFormat(own);
+    return result;
 }
 
 std::uint8_t nearestByte(double fraction) {
@@ -120,7 +140,7 @@ void BitmapContext::drawImage(const QImage& picture, const QRectF& rect) {
     mapping = QTransform::fromTranslate(part.x(), part.y()) * mapping;
     const int w = reduced(part.width(), scaleX(mapping)), h = reduced(part.height(), scaleY(mapping));
     if (w == part.width() && h == part.height()) return drawSmooth(partOf(picture, part), mapping);
-    const QImage small = partOf(picture, part).scaled(w, h, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage small = scaledSmoothly(partOf(picture, part), w, h);
     const double stepX = static_cast<double>(part.width()) / w, stepY = static_cast<double>(part.height()) / h;
     mapping = QTransform::fromScale(stepX, stepY) * mapping;
     isExact(mapping, small) ? drawExact(small, mapping) : drawSmooth(small, mapping);
