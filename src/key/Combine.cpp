@@ -20,6 +20,13 @@ void finishPixel(const CombineParams& params, const KeyJoins& joins, const Keyed
     std::uint8_t* background = params.background + index * kPixelBytes;
     std::uint8_t* out = params.combined + index * kPixelBytes;
 
+    // Nothing but background, and that as it is: most of a picture.
+    if (!(pixel.alpha > 0.0) && finish.plainBackground && !finish.transparent && !joins.showsGuard()) {
+        std::copy_n(background, 3, out);
+        out[3] = 255;
+        background[3] = 0;
+        return;
+    }
     // A layer with no share in the result is not worked out; it would be multiplied by 0.
     const bool seen = pixel.alpha > 0.0 || finish.transparent;
     const Rgb foreground = seen ? finishForeground(finish, pixel.color, x, y) : Rgb{0.0, 0.0, 0.0};

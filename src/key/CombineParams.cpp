@@ -57,6 +57,7 @@ KeyConstants makeKey(const SystemInfo& info, RunSize size) {
     key.darkLimit = darkAreas * 2.0;
     key.transShift = (number(sliders.sliderTransparentcyAdjustment) - 100.0) / 100.0;
     key.removeGain = removeGain(number(sliders.sliderRemoveGreenAreas));
+    key.colorOfClear = info.bAdvancedHairDetectionON && info.bFoundHair;
     key.search = {tint - 100.0, 200.0 - tint, !key.blueLogic};
     key.clip = makeClip(info, size);
     makeScreen(info, key);
@@ -93,6 +94,10 @@ FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params, 
     finish.light.byAlpha = applyTo == 1;
     // A background that may take the light goes through its chain even when all its settings are neutral.
     finish.backgroundTone.active = finish.backgroundTone.active || finish.light.onBackground;
+    const Rgb& delta = finish.backgroundDelta;
+    const bool coloured = finish.backgroundMode != kModeGrey && finish.backgroundMode != kModeSepia;
+    finish.plainBackground = !finish.backgroundTone.active && !finish.light.values && coloured && delta.r == 0.0 &&
+                             delta.g == 0.0 && delta.b == 0.0;
     finish.transparent = info.bOutputTransparency || finish.foregroundMode == kModeSilhouette;
     finish.showOrgImage = info.bShowOrgImage;
     return finish;

@@ -234,8 +234,9 @@ KeyedPixel decidePixel(const KeyConstants& key, const std::uint8_t* foreground, 
     }
     if (key.showBright && d.mix > kBrightGreyMix && isBrightGrey(d.display)) d.mix = kBrightGreyMix;
 
-    pixel.color = recoverColor(key, d, pixel);
     pixel.alpha = pixel.inClipMargin ? 0.0 : clampTo(edgeAlpha(key, d.alpha), 0.0, 1.0);
+    const bool needed = pixel.alpha > 0.0 || key.colorOfClear;
+    pixel.color = needed ? recoverColor(key, d, pixel) : Rgb{0.0, 0.0, 0.0};
     if (key.showSelectedAreas) {
         pixel.color = pixel.screen;
         pixel.alpha = 1.0;

@@ -41,6 +41,7 @@ struct KeyConstants {
     double transShift = 0.0;  ///< added to the alpha of the edges
     double removeGain = 1.0;  ///< steepness of the alpha that the hair correction finds
     SearchConstants search;
+    bool colorOfClear = true;  ///< recover the colour of clear pixels too; only the hair correction asks for it
     ClipMargins clip;
     ScreenField screen;
     /// First pixel, counted in scan order, that lowers the mix of all pixels after it: see `findBrightGrey`.

@@ -44,8 +44,9 @@ struct FinishConstants {
     Rgb foregroundDelta{0.0, 0.0, 0.0};  ///< in roles: the green delta goes to the green role
     Rgb backgroundDelta{0.0, 0.0, 0.0};  ///< real channels
     LightMap light;
-    bool transparent = false;   ///< write the subject alone, with its alpha
-    bool showOrgImage = false;  ///< the written alpha stays opaque
+    bool plainBackground = false;  ///< the background goes through as it is, byte for byte
+    bool transparent = false;      ///< write the subject alone, with its alpha
+    bool showOrgImage = false;     ///< the written alpha stays opaque
 };
 
 /// The subject's colour (in roles, as keyed) after tone, white adjustment, colour mode or silhouette, and deltas:
