@@ -7,6 +7,7 @@
 #include <unistd.h>
 #endif
 
+#include <chrono>
 #include <filesystem>
 
 #include <QFile>
@@ -26,6 +27,7 @@ constexpr QFile::Permissions kOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions kEveryone =
     kOwnerOnly | QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
 constexpr int kTurnMilliseconds = 5000;
+constexpr int kEmptyLockMilliseconds = 200;
 
 fs::path toPath(const std::string& name) {
     return fs::path(std::u8string(name.begin(), name.end()));
@@ -107,9 +109,25 @@ bool SafeSave::begin(const std::string& path, Readers readers) {
     return takeTurn() && openTemporary(readers) && setOldFileAside(readers);
 }
 
+/// A program that was killed between making its lock and writing its name into it leaves an empty one, of which
+/// nobody can tell whose it is. Writing the name takes no time, so a lock that stays empty is abandoned.
+static void removeAbandonedLock(const std::string& lock) {
+    std::error_code gone;
+    const auto size = fs::file_size(toPath(lock), gone);
+    if (gone || size != 0) return;
+    const auto written = fs::last_write_time(toPath(lock), gone);
+    if (!gone && fs::file_time_type::clock::now() - written > std::chrono::milliseconds(kEmptyLockMilliseconds))
+        removeFile(lock);
+}
+
 bool SafeSave::takeTurn() {
     auto turn = std::make_unique<QLockFile>(toQt(lockName(path_)));
-    if (!turn->tryLock(kTurnMilliseconds)) {
+    bool mine = turn->tryLock(2 * kEmptyLockMilliseconds);
+    if (!mine) {
+        removeAbandonedLock(lockName(path_));
+        mine = turn->tryLock(kTurnMilliseconds);
+    }
+    if (!mine) {
         return fail(turn->error() == QLockFile::LockFailedError
                         ? path_ + " cannot be saved: another program is saving it."
                         : path_ + " cannot be saved: its folder is missing or may not be written to.");

@@ -1,3 +1,4 @@
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -37,6 +38,15 @@ class SafeFileTest : public testing::Test {
     test::TempFolder folder;
     const std::string path = folder.file("a.xml"), temporary = path + "tmp", aside = path + ".set-aside";
 };
+
+// What a program leaves that was killed between making its lock and writing its name into it.
+TEST_F(SafeFileTest, AnEmptyLockHoldsNobodyUpForLong) {
+    writeFile(path + ".lock", "");
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(save("new"));
+    EXPECT_EQ(readFile(path), "new");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4));
+}
 
 TEST_F(SafeFileTest, OldFileIsAsideWhileTheNewOneIsOnItsWay) {
     ASSERT_TRUE(save("old"));
