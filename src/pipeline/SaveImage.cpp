@@ -17,15 +17,6 @@ bool refuse(SystemInfo& info, const std::string& reason) {
     return false;
 }
 
-struct Geometry {
-    int width, height, dpi;
-};
-
-Geometry geometryFor(const SystemInfo& info, int myRes) {
-    if (myRes == 1) return {info.iOutputPixelWidth, info.iOutputPixelHeight, info.iOutputImageDPI};
-    return {info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight, info.iOutputImageLowResDPI};
-}
-
 QImage matteOf(const std::uint8_t* pixels, int width, int height) {
     QImage matte(width, height, QImage::Format_Grayscale8);
     for (int y = 0; y < matte.height(); ++y) {
@@ -53,7 +44,7 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
         return refuse(info, path + ": there is no file type " + std::to_string(theFileType) + ".");
     }
     const BitmapInfo& combined = *info.pCombinedBitmapInfo;
-    const Geometry size = geometryFor(info, myRes);
+    const PassGeometry size = info.geometry(myRes);
     const std::uint8_t* pixels = myRes == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes;
     if (!pixels) return refuse(info, path + ": there is no picture to save yet.");
 
@@ -64,7 +55,7 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
 
 bool saveMatteToDisk(SystemInfo& info, const std::string& path, int myRes) {
     const BitmapInfo& background = *info.pBackgroundBitmapInfo;
-    const Geometry size = geometryFor(info, myRes);
+    const PassGeometry size = info.geometry(myRes);
     const std::uint8_t* pixels = myRes == 1 ? background.pBitmapData : background.pBitmapDataLowRes;
     if (!pixels) return refuse(info, path + ": there is no matte to save yet.");
 

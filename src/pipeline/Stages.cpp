@@ -13,17 +13,8 @@ namespace {
 
 constexpr int kEveryPixel = 10'000;  // blur threshold that lets every pixel pass
 
-struct Target {
-    std::uint8_t* pixels;
-    int width, height, dpi;
-};
-
-Target targetOf(const SystemInfo& info, const BitmapInfo& record, int res) {
-    if (res == kFullRes) {
-        return {record.pBitmapData, info.iOutputPixelWidth, info.iOutputPixelHeight, info.iOutputImageDPI};
-    }
-    return {record.pBitmapDataLowRes, info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight,
-            info.iOutputImageLowResDPI};
+std::uint8_t* pixelsOf(const BitmapInfo& record, int res) {
+    return res == kFullRes ? record.pBitmapData : record.pBitmapDataLowRes;
 }
 
 void findHair(SystemInfo& info, int) {
@@ -52,13 +43,15 @@ void smoothSkin(SystemInfo& info, int) {
 }
 
 void blurBackground(SystemInfo& info, int res) {
-    const Target t = targetOf(info, *info.pBackgroundBitmapInfo, res);
-    BlurBitmap(info, t.pixels, t.width, t.height, t.dpi, kEveryPixel, info.dSliderBlur);
+    const PassGeometry g = info.geometry(res);
+    BlurBitmap(info, pixelsOf(*info.pBackgroundBitmapInfo, res), g.width, g.height, g.dpi, kEveryPixel,
+               info.dSliderBlur);
 }
 
 void blurResult(SystemInfo& info, int res) {
-    const Target t = targetOf(info, *info.pCombinedBitmapInfo, res);
-    BlurBitmap(info, t.pixels, t.width, t.height, t.dpi, info.iSliderForegroundThreshold, info.dSliderForegroundBlur);
+    const PassGeometry g = info.geometry(res);
+    BlurBitmap(info, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi,
+               info.iSliderForegroundThreshold, info.dSliderForegroundBlur);
 }
 
 bool always(const SystemInfo&) {

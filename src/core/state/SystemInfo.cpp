@@ -29,6 +29,11 @@ SystemInfo::SystemInfo()
     note.dFontFillRed = note.dFontFillGreen = note.dFontFillBlue = 0.0;
 }
 
+PassGeometry SystemInfo::geometry(int res) const {
+    if (res == 1) return {iOutputPixelWidth, iOutputPixelHeight, iOutputImageDPI};
+    return {iOutputPixelLowResWidth, iOutputPixelLowResHeight, iOutputImageLowResDPI};
+}
+
 void SystemInfo::StartUpdate() {
     {
         std::lock_guard lock(wakeMutex_);

@@ -16,6 +16,11 @@
 
 namespace tavrin {
 
+/// Size and resolution of the buffers of one half of a pass.
+struct PassGeometry {
+    int width = 0, height = 0, dpi = 0;
+};
+
 /// Every setting that a state file or a command line can name.
 class Settings : public GuardSettings,
                  public GlobalSmoothingSettings,
@@ -62,6 +67,9 @@ class SystemInfo : public Settings,
     SystemInfo();
     SystemInfo(const SystemInfo&) = delete;
     SystemInfo& operator=(const SystemInfo&) = delete;
+
+    /// Geometry of the full picture (res 1) or of the preview (any other value).
+    PassGeometry geometry(int res) const;
 
     /// Asks for a new picture. Callable from any thread, never waits.
     void StartUpdate();
