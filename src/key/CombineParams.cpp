@@ -20,10 +20,10 @@ ClipMargins makeClip(const SystemInfo& info, RunSize size) {
             margin(info.iSliderClipTop, size.height), margin(info.iSliderClipBottom, size.height)};
 }
 
-void makeScreen(const SystemInfo& info, KeyConstants& key) {
+void makeScreen(const SystemInfo& info, bool local, KeyConstants& key) {
     ScreenField& screen = key.screen;
     screen.scale = number(info.pCombinedBitmapInfo->sliderAdjustBaseGreen) / 100.0;
-    screen.local = info.bUseAdaptiveBackgroundGreen;
+    screen.local = local;
     screen.global = {info.baseRed, info.baseGreen, info.baseBlue};
     for (std::size_t i = 0; i < screen.cells.size(); ++i) {
         screen.cells[i] = {info.iBaseRedArray[i], info.iBaseGreenArray[i], info.iBaseBlueArray[i]};
@@ -31,7 +31,46 @@ void makeScreen(const SystemInfo& info, KeyConstants& key) {
     layOutColumns(screen, key.width);
 }
 
-KeyConstants makeKey(const SystemInfo& info, RunSize size) {
+FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) {
+    const BitmapInfo &foreground = *info.pForegroundBitmapInfo, &background = *info.pBackgroundBitmapInfo;
+    const auto [width, height] = params.size;
+    const std::int32_t lightingMode = info.iLightingMode, applyTo = info.iLightingApplyTo;
+
+    FinishConstants finish;
+    finish.blueLogic = info.bUseBlueLogic;
+    finish.foregroundTone = makeTone(foreground, ToneLayer::kForeground, params.foreground, width, height);
+    finish.backgroundTone = makeTone(background, ToneLayer::kBackground, params.background, width, height);
+    finish.white = makeWhiteAdjust(info);
+    finish.foregroundMode = info.iForegroundOutputMode;
+    finish.backgroundMode = info.iBackgroundOutputMode;
+    finish.silhouette.on = info.bOutputSilhouette || finish.foregroundMode == kModeSilhouette;
+    finish.silhouette.color = {number(info.iSilhouetteRed), number(info.iSilhouetteGreen),
+                               number(info.iSilhouetteBlue)};
+    finish.foregroundDelta = {number(foreground.iRedDelta), number(foreground.iGreenDelta),
+                              number(foreground.iBlueDelta)};
+    finish.backgroundDelta = {number(background.iRedDelta), number(background.iGreenDelta),
+                              number(background.iBlueDelta)};
+    finish.light.onBackground = lightingMode == 4 || applyTo == 2;
+    finish.light.byAlpha = applyTo == 1;
+    // A background that may take the light goes through its chain even when all its settings are neutral.
+    finish.backgroundTone.active = finish.backgroundTone.active || finish.light.onBackground;
+    const Rgb& delta = finish.backgroundDelta;
+    const bool coloured = finish.backgroundMode != kModeGrey && finish.backgroundMode != kModeSepia;
+    finish.plainBackground = !finish.backgroundTone.active && lightingMode == 0 && coloured && delta.r == 0.0 &&
+                             delta.g == 0.0 && delta.b == 0.0;
+    finish.transparent = info.bOutputTransparency || finish.foregroundMode == kModeSilhouette;
+    finish.showOrgImage = info.bShowOrgImage;
+    return finish;
+}
+
+}  // namespace
+
+RunSize runSize(const SystemInfo& info, int hiRes) {
+    if (hiRes == 0) return {info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight};
+    return {info.iOutputPixelWidth, info.iOutputPixelHeight};
+}
+
+KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen) {
     const BitmapInfo& sliders = *info.pCombinedBitmapInfo;
     const double tint = number(sliders.sliderGreenTintAreas);
     const double balance = number(sliders.sliderWhiteBalance) - 100.0;
@@ -54,57 +93,17 @@ KeyConstants makeKey(const SystemInfo& info, RunSize size) {
     key.colorOfClear = info.bAdvancedHairDetectionON && info.bFoundHair;
     key.search = {tint - 100.0, 200.0 - tint, !key.blueLogic};
     key.clip = makeClip(info, size);
-    makeScreen(info, key);
+    makeScreen(info, localScreen, key);
     return key;
 }
 
-WhiteAdjust makeWhite(const SystemInfo& info) {
+WhiteAdjust makeWhiteAdjust(const SystemInfo& info) {
     const double wide = number(info.pCombinedBitmapInfo->sliderWhiteAdjust) * 10.0;
     return {!info.bShowOrgImage, number(info.pCombinedBitmapInfo->sliderWhiteAdjust), wide, wide / 2000.0,
             2000.0 - wide};
 }
 
-FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params, const CombineInputs& inputs) {
-    const BitmapInfo &foreground = *info.pForegroundBitmapInfo, &background = *info.pBackgroundBitmapInfo;
-    const auto [width, height] = params.size;
-    const std::int32_t lightingMode = info.iLightingMode, applyTo = info.iLightingApplyTo;
-
-    FinishConstants finish;
-    finish.blueLogic = info.bUseBlueLogic;
-    finish.foregroundTone = makeTone(foreground, ToneLayer::kForeground, params.foreground, width, height);
-    finish.backgroundTone = makeTone(background, ToneLayer::kBackground, params.background, width, height);
-    finish.white = makeWhite(info);
-    finish.foregroundMode = info.iForegroundOutputMode;
-    finish.backgroundMode = info.iBackgroundOutputMode;
-    finish.silhouette.on = info.bOutputSilhouette || finish.foregroundMode == kModeSilhouette;
-    finish.silhouette.color = {number(info.iSilhouetteRed), number(info.iSilhouetteGreen),
-                               number(info.iSilhouetteBlue)};
-    finish.foregroundDelta = {number(foreground.iRedDelta), number(foreground.iGreenDelta),
-                              number(foreground.iBlueDelta)};
-    finish.backgroundDelta = {number(background.iRedDelta), number(background.iGreenDelta),
-                              number(background.iBlueDelta)};
-    finish.light.values = lightingMode != 0 ? inputs.lightingMap : nullptr;
-    finish.light.onBackground = lightingMode == 4 || applyTo == 2;
-    finish.light.byAlpha = applyTo == 1;
-    // A background that may take the light goes through its chain even when all its settings are neutral.
-    finish.backgroundTone.active = finish.backgroundTone.active || finish.light.onBackground;
-    const Rgb& delta = finish.backgroundDelta;
-    const bool coloured = finish.backgroundMode != kModeGrey && finish.backgroundMode != kModeSepia;
-    finish.plainBackground = !finish.backgroundTone.active && !finish.light.values && coloured && delta.r == 0.0 &&
-                             delta.g == 0.0 && delta.b == 0.0;
-    finish.transparent = info.bOutputTransparency || finish.foregroundMode == kModeSilhouette;
-    finish.showOrgImage = info.bShowOrgImage;
-    return finish;
-}
-
-}  // namespace
-
-RunSize runSize(const SystemInfo& info, int hiRes) {
-    if (hiRes == 0) return {info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight};
-    return {info.iOutputPixelWidth, info.iOutputPixelHeight};
-}
-
-CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const CombineInputs& inputs) {
+CombineParams makeCombineParams(const SystemInfo& info, int hiRes) {
     const auto buffer = [hiRes](const BitmapInfo& record) {
         return hiRes == 0 ? record.pBitmapDataLowRes : record.pBitmapData;
     };
@@ -113,8 +112,8 @@ CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const Combine
     params.foreground = buffer(*info.pForegroundBitmapInfo);
     params.background = buffer(*info.pBackgroundBitmapInfo);
     params.combined = buffer(*info.pCombinedBitmapInfo);
-    params.key = makeKey(info, params.size);
-    params.finish = makeFinish(info, params, inputs);
+    params.key = makeKeyConstants(info, params.size, info.bUseAdaptiveBackgroundGreen);
+    params.finish = makeFinish(info, params);
     return params;
 }
 

@@ -8,13 +8,6 @@
 
 namespace tavrin {
 
-/// What a caller hands to a run beside the state.
-struct CombineInputs {
-    /// Light over the picture: one value for each pixel of the run's size, gain in thousandths. Used when
-    /// `iLightingMode` is not 0; null is no light.
-    const std::int32_t* lightingMap = nullptr;
-};
-
 /// The size of a run's buffers.
 struct RunSize {
     int width = 0, height = 0;
@@ -33,7 +26,14 @@ struct CombineParams {
 /// Size of the preview (hiRes 0) or of the full output.
 RunSize runSize(const SystemInfo& info, int hiRes);
 
-/// Reads the state once. The silhouette's picture is not loaded and `firstBrightGrey` not searched here.
-CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const CombineInputs& inputs);
+/// The settings of the key. `localScreen`: measured against the grid of local screen colours, not the global one.
+KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen);
+
+/// The settings of the white adjustment, which is off while the foreground is shown as it is.
+WhiteAdjust makeWhiteAdjust(const SystemInfo& info);
+
+/// Reads the state once. The silhouette's picture and the map of the light are not loaded and `firstBrightGrey` not
+/// searched here.
+CombineParams makeCombineParams(const SystemInfo& info, int hiRes);
 
 }  // namespace tavrin

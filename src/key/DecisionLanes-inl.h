@@ -21,6 +21,7 @@ class KeyLanes {
     using M = Choice<D>;
     using Colors = RgbLanes<D>;
 
+  public:
     // The working state of a decision.
     struct Decision {
         V alpha, mix;    // share of the subject, in the result and for recovering its colour
@@ -30,7 +31,6 @@ class KeyLanes {
         M hardBackground;
     };
 
-  public:
     KeyLanes(D d, const KeyConstants& key) : d_(d), key_(key), none_(hn::Lt(hn::Zero(d), hn::Zero(d))) {}
 
     // Decides on the pixels of a run that begins in a cell of the grid and does not leave it.
@@ -73,7 +73,12 @@ class KeyLanes {
     // The foreground's colour as the key sees it: each channel 1 to 255.
     HWY_INLINE Colors keyColor(const Colors& raw) const {
         const V one = hn::Set(d_, 1.0);
-        const Colors c = whiteBalance({raw.r, hn::IfThenElse(hn::Eq(raw.g, hn::Zero(d_)), one, raw.g), raw.b});
+        return balance({raw.r, hn::IfThenElse(hn::Eq(raw.g, hn::Zero(d_)), one, raw.g), raw.b}, key_.whiteBalanceU);
+    }
+
+    // White balance of a foreground colour, each channel 1 to 255.
+    HWY_INLINE Colors balance(const Colors& raw, double shiftU) const {
+        const Colors c = whiteBalance(raw, shiftU);
         return {clampLanes(d_, c.r, 1.0, 255.0), clampLanes(d_, c.g, 1.0, 255.0), clampLanes(d_, c.b, 1.0, 255.0)};
     }
 
@@ -93,11 +98,13 @@ class KeyLanes {
         const V scale = hn::Set(d_, key_.screen.scale), top = hn::Set(d_, 255.0);
         const Colors c =
             whiteBalance({minLanes(hn::Mul(measured.r, scale), top), minLanes(hn::Mul(measured.g, scale), top),
-                          minLanes(hn::Mul(measured.b, scale), top)});
+                          minLanes(hn::Mul(measured.b, scale), top)},
+                         key_.whiteBalanceU);
         return {atLeastLanes(d_, c.r, 1.0), atLeastLanes(d_, c.g, 1.0), atLeastLanes(d_, c.b, 1.0)};
     }
 
-  private:
+    // The steps, in the order of their use.
+
     HWY_INLINE void decideVector(KeyedRun& run, int i, const Colors& screen) const {
         const auto pixels = hn::Load(WordTag<D>(), run.foreground + i);
         const Colors raw = rawColor(pixels), f = keyColor(raw);
@@ -125,13 +132,13 @@ class KeyLanes {
     }
 
     // Shifts the two colour differences and turns the result back to channels, unlimited.
-    HWY_INLINE Colors whiteBalance(const Colors& c) const {
+    HWY_INLINE Colors whiteBalance(const Colors& c, double shiftU) const {
         const auto mix = [&](double r, double g, double b) HWY_ATTR {
             return hn::Add(hn::Add(hn::Mul(hn::Set(d_, r), c.r), hn::Mul(hn::Set(d_, g), c.g)),
                            hn::Mul(hn::Set(d_, b), c.b));
         };
         const V y = mix(0.299, 0.587, 0.114);
-        const V u = hn::Add(mix(-0.147, -0.289, 0.437), hn::Set(d_, key_.whiteBalanceU));
+        const V u = hn::Add(mix(-0.147, -0.289, 0.437), hn::Set(d_, shiftU));
         const V v = hn::Add(mix(0.615, -0.515, -0.1), hn::Set(d_, key_.whiteBalanceV));
         return {hn::Add(y, hn::Mul(hn::Set(d_, 1.14), v)),
                 hn::Sub(hn::Sub(y, hn::Mul(hn::Set(d_, 0.394), u)), hn::Mul(hn::Set(d_, 0.581), v)),
@@ -263,8 +270,8 @@ class KeyLanes {
         if (key_.showOrgImage) return alpha;
         const V half = hn::Set(d_, 0.5);
         const M edge = hn::And(hn::Lt(alpha, hn::Set(d_, 1.0)), hn::Gt(alpha, hn::Set(d_, 0.01)));
-        const V steeper =
-            hn::Add(hn::Add(hn::Mul(hn::Sub(alpha, half), hn::Set(d_, 1.4)), half), hn::Set(d_, key_.transShift));
+        const V steeper = hn::Add(hn::Add(hn::Mul(hn::Sub(alpha, half), hn::Set(d_, kEdgeGain)), half),
+                                  hn::Set(d_, key_.transShift));
         return hn::IfThenElse(edge, steeper, alpha);
     }
 
@@ -308,6 +315,7 @@ class KeyLanes {
         c = chooseLanes(d_, hn::Lt(scale, hn::Set(d_, 1.0)), scaledLanes(d_, c, scale), c);
     }
 
+  private:
     D d_;
     const KeyConstants& key_;
     M none_;

@@ -36,7 +36,7 @@ class FinishLanes {
             // A silhouette's picture has been put in the colour's place already.
             if (!finish_.silhouette.pixels) c = swapRoles(setLanes(d_, finish_.silhouette.color));
         } else {
-            if (finish_.white.on) adjustWhite(c);
+            if (finish_.white.on) adjustWhite(finish_.white, c, isGreenLevel(c));
             c = swapRoles(applyMode(finish_.foregroundMode, swapRoles(c)));
         }
         return shift(c, finish_.foregroundDelta);
@@ -84,7 +84,6 @@ class FinishLanes {
         return hn::Or(words, hn::ShiftLeft<24>(toBytes(d_, opacity)));
     }
 
-  private:
     // Real channels to roles and back.
     HWY_INLINE Colors swapRoles(const Colors& c) const { return finish_.blueLogic ? Colors{c.r, c.b, c.g} : c; }
 
@@ -98,23 +97,24 @@ class FinishLanes {
                 clampLanes(d_, hn::Add(c.b, hn::Set(d_, delta.b)), 0.0, 255.0)};
     }
 
+    HWY_INLINE M isGreenLevel(const Colors& c) const {
+        const V five = hn::Set(d_, 5.0);
+        return hn::And(hn::Gt(c.g, hn::Sub(c.b, five)), hn::Gt(c.g, hn::Sub(c.r, five)));
+    }
+
     // Two rules on one measure: a wide, gentle one for colours whose green is level with the others, and a near one
     // that takes an almost neutral colour all the way to grey.
-    HWY_INLINE void adjustWhite(Colors& c) const {
-        const WhiteAdjust& white = finish_.white;
+    HWY_INLINE void adjustWhite(const WhiteAdjust& white, Colors& c, M greenIsLevel) const {
         const V rb = hn::Sub(c.r, c.b), gb = hn::Sub(c.g, c.b), gr = hn::Sub(c.g, c.r);
         const V squares = hn::Add(hn::Add(hn::Mul(rb, rb), hn::Mul(gb, gb)), hn::Mul(gr, gr));
         const V distance = hn::Div(hn::Mul(hn::Sqrt(squares), hn::Set(d_, 255.0)), c.g);
-        const V five = hn::Set(d_, 5.0);
-        const M wide = hn::And(hn::Lt(distance, hn::Set(d_, white.wide)),
-                               hn::And(hn::Gt(c.g, hn::Sub(c.b, five)), hn::Gt(c.g, hn::Sub(c.r, five))));
-        if (!hn::AllFalse(d_, wide)) c = chooseLanes(d_, wide, whitenedWide(c, distance), c);
+        const M wide = hn::And(hn::Lt(distance, hn::Set(d_, white.wide)), greenIsLevel);
+        if (!hn::AllFalse(d_, wide)) c = chooseLanes(d_, wide, whitenedWide(white, c, distance), c);
         const M near = hn::Lt(distance, hn::Set(d_, white.near));
-        if (!hn::AllFalse(d_, near)) c = chooseLanes(d_, near, whitenedNear(c, distance), c);
+        if (!hn::AllFalse(d_, near)) c = chooseLanes(d_, near, whitenedNear(white, c, distance), c);
     }
 
-    HWY_INLINE Colors whitenedWide(const Colors& c, V distance) const {
-        const WhiteAdjust& white = finish_.white;
+    HWY_INLINE Colors whitenedWide(const WhiteAdjust& white, const Colors& c, V distance) const {
         const V whole = hn::Set(d_, 2000.0);
         const V level = maxLanes(c.b, c.g), off = hn::Sub(hn::Set(d_, white.wide), distance);
         const V toLevel = hn::Mul(level, hn::Div(off, whole)), keep = hn::Sub(whole, off);
@@ -126,8 +126,8 @@ class FinishLanes {
         return {blendFixed(red), blendFixed(blend(c.g)), blendFixed(blend(c.b))};
     }
 
-    HWY_INLINE Colors whitenedNear(const Colors& c, V distance) const {
-        const V near = hn::Set(d_, finish_.white.near);
+    HWY_INLINE Colors whitenedNear(const WhiteAdjust& white, const Colors& c, V distance) const {
+        const V near = hn::Set(d_, white.near);
         const V grey = hn::Div(hn::Mul(hn::Sub(near, distance), largestLanes<D>(c)), near);
         const auto blend = [&](V v) HWY_ATTR { return hn::Add(hn::Div(hn::Mul(distance, v), near), grey); };
         return {blend(c.r), blend(c.g), blend(c.b)};
@@ -174,6 +174,7 @@ class FinishLanes {
         return limitBlend({hn::Add(c.r, lift), hn::Add(c.g, lift), hn::Add(c.b, lift)});
     }
 
+  private:
     D d_;
     const FinishConstants& finish_;
 };

@@ -13,6 +13,9 @@ namespace tavrin {
 /// When the foreground is shown as it is, and a bright grey is to be unmixed a little: the subject's share then.
 inline constexpr double kBrightGreyMix = 0.97;
 
+/// How much the edges of the key are steepened.
+inline constexpr double kEdgeGain = 1.4;
+
 /// Where a pixel's row or column lies between two cells of the grid of local screen colours.
 struct GridStep {
     int low = 0, high = 0;  ///< the two cells, 0 to 19

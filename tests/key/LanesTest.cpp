@@ -17,7 +17,7 @@ std::vector<Pixel> written(const KeyScene& original, RowForm form) {
     KeyScene scene(original.width, original.height);
     scene.foreground = original.foreground;
     scene.background = original.background;
-    CombineParams params = makeCombineParams(original.info, 1, {});
+    CombineParams params = makeCombineParams(original.info, 1);
     params.foreground = scene.foreground.front().data();
     params.background = scene.background.front().data();
     params.combined = scene.combined.front().data();
