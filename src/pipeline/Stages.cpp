@@ -1,6 +1,7 @@
 #include "pipeline/Stages.h"
 
 #include "core/raster/BlurBitmap.h"
+#include "effects/Texture.h"
 #include "key/BaseGreen.h"
 #include "key/Combine.h"
 #include "key/HairDetect.h"
@@ -52,6 +53,10 @@ void blurResult(SystemInfo& info, int res) {
     const PassGeometry g = info.geometry(res);
     BlurBitmap(info, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi,
                info.iSliderForegroundThreshold, info.dSliderForegroundBlur);
+}
+
+void addTexture(SystemInfo& info, int res) {
+    AddTexture(info, pixelsOf(*info.pCombinedBitmapInfo, res), res);
 }
 
 bool always(const SystemInfo&) {
@@ -129,7 +134,7 @@ constexpr Stage kPreview[] = {
     {"combine", always, combine},
     {"stars", hasStars, nullptr},
     {"reflection", hasReflection, nullptr},
-    {"texture", hasTexture, nullptr},
+    {"texture", hasTexture, addTexture},
     {"final blur", blursResult, blurResult},
     {"text Foreground", always, nullptr},
     {"foreground overlay", hasForegroundOverlay, nullptr},
@@ -152,7 +157,7 @@ constexpr Stage kFull[] = {
     {"frame overlay picture", hasFrameOverlayPicture, nullptr},
     {"skin", smoothsSkin, smoothSkin},
     {"smoothing of the result", smoothsResult, nullptr},
-    {"texture", hasTexture, nullptr},
+    {"texture", hasTexture, addTexture},
     {"sketch", isCartoon, nullptr},
     {"final blur", blursResult, blurResult},
     {"text Frame Layer", always, nullptr},
