@@ -5,6 +5,8 @@
 #include <memory>
 
 #include "core/raster/ColorMath.h"
+#include "effects/Shadow.h"
+#include "effects/ShadowPresets.h"
 #include "effects/Texture.h"
 #include "key/Combine.h"
 
@@ -30,7 +32,7 @@ void paint(std::uint8_t* foreground, std::uint8_t* background, int w, int h) {
 
 // Arguments: width, height, threads.
 void sizes(benchmark::internal::Benchmark* bench) {
-    for (const int threads : {1, 2}) {
+    for (const int threads : {2, 1}) {  // the most first: the library's workers are counted at the first run
         bench->Args({460, 575, threads});
         bench->Args({2400, 3000, threads});
     }
@@ -75,6 +77,17 @@ void texture(benchmark::State& state) {
         AddTexture(*run.info, run.combined, 1);
 }
 BENCHMARK(texture)->Apply(sizes);
+
+template <void (*preset)(SystemInfo&)>
+void shadow(benchmark::State& state) {
+    Run run(state);
+    preset(*run.info);
+    for (auto _ : state)
+        AddShadow(*run.info, 1, 1);
+}
+BENCHMARK(shadow<setWallShadow>)->Name("shadow/wall")->Apply(sizes);
+BENCHMARK(shadow<setFloorShadow>)->Name("shadow/floor")->Apply(sizes);
+BENCHMARK(shadow<setFloorAndWallShadow>)->Name("shadow/floorAndWall")->Apply(sizes);
 
 }  // namespace
 }  // namespace tavrin

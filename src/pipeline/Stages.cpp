@@ -1,6 +1,7 @@
 #include "pipeline/Stages.h"
 
 #include "core/raster/BlurBitmap.h"
+#include "effects/Shadow.h"
 #include "effects/Texture.h"
 #include "key/BaseGreen.h"
 #include "key/Combine.h"
@@ -53,6 +54,10 @@ void blurResult(SystemInfo& info, int res) {
     const PassGeometry g = info.geometry(res);
     BlurBitmap(info, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi,
                info.iSliderForegroundThreshold, info.dSliderForegroundBlur);
+}
+
+void addShadow(SystemInfo& info, int res) {
+    AddShadow(info, 1, res);
 }
 
 void addTexture(SystemInfo& info, int res) {
@@ -119,7 +124,7 @@ constexpr Stage kForeground[] = {
 };
 
 constexpr Stage kBackground[] = {
-    {"shadow", hasShadow, nullptr},
+    {"shadow", hasShadow, addShadow},  // before the blur and whatever is drawn on top
     {"background blur", blursBackground, blurBackground},
     {"text Background", always, nullptr},
     {"background overlay", hasBackgroundOverlay, nullptr},
