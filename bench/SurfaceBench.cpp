@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "core/raster/ColorMath.h"
+#include "effects/Frame.h"
 #include "effects/Shadow.h"
-#include "effects/ShadowPresets.h"
 #include "effects/Texture.h"
 #include "key/Combine.h"
 
@@ -78,16 +78,57 @@ void texture(benchmark::State& state) {
 }
 BENCHMARK(texture)->Apply(sizes);
 
-template <void (*preset)(SystemInfo&)>
-void shadow(benchmark::State& state) {
+// Sliders that throw a shadow on the wall, on the floor, or on both.
+void setShadow(SystemInfo& info, int floorHeight, int scale, bool behind) {
+    info.iSliderShadowRightLeft = 550;
+    info.iSliderShadowUpDown = 500;
+    info.iSliderShadowScale = scale;
+    info.iSliderShadowTransparency = 500;
+    info.iSliderShadowBlur = 250;
+    info.iSliderShadowBlack = 20;
+    info.iSliderFloorSkew = 525;
+    info.iSliderFloorBaseAngle = 500;
+    info.iSliderShadowBase = 520;
+    info.iSliderVRoomLeft = info.iSliderVRoomRight = floorHeight;
+    info.iCheckShadowBehind = behind;
+}
+
+void shadow(benchmark::State& state, int floorHeight, int scale) {
     Run run(state);
-    preset(*run.info);
+    setShadow(*run.info, floorHeight, scale, true);
     for (auto _ : state)
         AddShadow(*run.info, 1, 1);
 }
-BENCHMARK(shadow<setWallShadow>)->Name("shadow/wall")->Apply(sizes);
-BENCHMARK(shadow<setFloorShadow>)->Name("shadow/floor")->Apply(sizes);
-BENCHMARK(shadow<setFloorAndWallShadow>)->Name("shadow/floorAndWall")->Apply(sizes);
+BENCHMARK_CAPTURE(shadow, wall, 0, 520)->Apply(sizes);
+BENCHMARK_CAPTURE(shadow, floor, 1000, 300)->Apply(sizes);
+BENCHMARK_CAPTURE(shadow, floorAndWall, 300, 500)->Apply(sizes);
+
+// Arguments after the size and the threads: shape and filling.
+void frame(benchmark::State& state) {
+    Run run(state);
+    ImageFrame& settings = *run.info->oFrame;
+    settings.iFrameType = static_cast<int>(state.range(3));
+    settings.iFrameMode = static_cast<int>(state.range(4));
+    settings.sFrameImagePath = TAVRIN_SOURCE_DIR "/data/sample/background.jpg";
+    for (auto _ : state)
+        AddFrame(*run.info, settings, run.combined, 1);
+}
+
+void frames(benchmark::internal::Benchmark* bench) {
+    for (const int threads : {2, 1}) {
+        for (const auto& [w, h] : {std::pair{460, 575}, std::pair{2400, 3000}}) {
+            for (int shape = 1; shape <= 4; ++shape)
+                bench->Args({w, h, threads, shape, 1});
+            for (int filling = 2; filling <= 4; ++filling)
+                bench->Args({w, h, threads, 1, filling});
+        }
+    }
+    bench->ArgNames({"w", "h", "threads", "shape", "filling"})
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime()
+        ->MeasureProcessCPUTime();
+}
+BENCHMARK(frame)->Apply(frames);
 
 }  // namespace
 }  // namespace tavrin

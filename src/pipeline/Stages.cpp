@@ -1,6 +1,7 @@
 #include "pipeline/Stages.h"
 
 #include "core/raster/BlurBitmap.h"
+#include "effects/Frame.h"
 #include "effects/Shadow.h"
 #include "effects/Texture.h"
 #include "key/BaseGreen.h"
@@ -62,6 +63,14 @@ void addShadow(SystemInfo& info, int res) {
 
 void addTexture(SystemInfo& info, int res) {
     AddTexture(info, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void addFrame(SystemInfo& info, int res) {
+    AddFrame(info, *info.oFrame, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void addSecondFrame(SystemInfo& info, int res) {
+    AddFrame(info, *info.oFrameOverlay, pixelsOf(*info.pCombinedBitmapInfo, res), res);
 }
 
 bool always(const SystemInfo&) {
@@ -146,8 +155,8 @@ constexpr Stage kPreview[] = {
     {"text Foreground Layer", always, nullptr},
     {"frame overlay picture", hasFrameOverlayPicture, nullptr},
     {"text Frame Layer", always, nullptr},
-    {"frame", hasFrame, nullptr},
-    {"second frame", hasSecondFrame, nullptr},
+    {"frame", hasFrame, addFrame},
+    {"second frame", hasSecondFrame, addSecondFrame},
     {"smoothing of the result", smoothsResult, nullptr},
 };
 
@@ -166,8 +175,8 @@ constexpr Stage kFull[] = {
     {"sketch", isCartoon, nullptr},
     {"final blur", blursResult, blurResult},
     {"text Frame Layer", always, nullptr},
-    {"frame", hasFrame, nullptr},
-    {"second frame", hasSecondFrame, nullptr},
+    {"frame", hasFrame, addFrame},
+    {"second frame", hasSecondFrame, addSecondFrame},
 };
 
 // A plain keyed picture with text and overlays; everything else is left out for speed.

@@ -2,7 +2,6 @@
 
 #include "core/raster/Pixels.h"
 #include "effects/Shadow.h"
-#include "effects/ShadowPresets.h"
 #include "support/Portrait.h"
 
 namespace tavrin {
@@ -173,7 +172,11 @@ TEST_F(ShadowTest, ThreadsAndOddSizesGiveTheSameBytes) {
         Bytes results[2];
         withOneAndManyThreads([&](int run) {
             use(person(w, h));
-            setFloorAndWallShadow(*info_);
+            info_->iSliderVRoomLeft = 300;
+            info_->iSliderVRoomRight = 400;
+            info_->iSliderShadowBase = 600;
+            info_->iSliderFloorSkew = 540;
+            info_->iSliderFloorBaseAngle = 560;
             info_->iSliderShadowBlur = 1500;
             info_->iCheckShadowBehind = 1;
             AddShadow(*info_, 1, kFull);
