@@ -2,13 +2,17 @@
 
 #include "core/raster/BlurBitmap.h"
 #include "effects/Frame.h"
+#include "effects/GlobalSmoothing.h"
 #include "effects/Shadow.h"
+#include "effects/Sketch.h"
+#include "effects/StarFilter.h"
 #include "effects/Texture.h"
 #include "key/BaseGreen.h"
 #include "key/Combine.h"
 #include "key/HairDetect.h"
 #include "key/Skin.h"
 #include "key/SmoothEdges.h"
+#include "pipeline/StartUp.h"
 
 namespace tavrin {
 
@@ -73,6 +77,26 @@ void addSecondFrame(SystemInfo& info, int res) {
     AddFrame(info, *info.oFrameOverlay, pixelsOf(*info.pCombinedBitmapInfo, res), res);
 }
 
+void drawStars(SystemInfo& info, int res) {
+    StarFilter(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void smoothResult(SystemInfo& info, int res) {
+    FastGlobalImageSmoothing(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void smoothForeground(SystemInfo& info, int res) {
+    // While a layer is dragged its full buffer holds the fill colour alone, which smoothing would not change.
+    if (res == kFullRes && info.pInterface && info.pInterface->mouseDown()) return;
+    FastGlobalImageSmoothing(info, 0, pixelsOf(*info.pForegroundBitmapInfo, res), res);
+}
+
+void drawSketch(SystemInfo& info, int res) {
+    if (info.iCartoonEffectType >= 3) loadSketchPictures(info);
+    const PassGeometry g = info.geometry(res);
+    Sketch(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi);
+}
+
 bool always(const SystemInfo&) {
     return true;
 }
@@ -129,7 +153,7 @@ bool isCartoon(const SystemInfo& i) {
 }
 
 constexpr Stage kForeground[] = {
-    {"smoothing of the foreground", smoothsForeground, nullptr},
+    {"smoothing of the foreground", smoothsForeground, smoothForeground},
 };
 
 constexpr Stage kBackground[] = {
@@ -146,7 +170,7 @@ constexpr Stage kPreview[] = {
     {"hair", always, findHair},
     {"screen colour", needsScreenColour, measureScreen},
     {"combine", always, combine},
-    {"stars", hasStars, nullptr},
+    {"stars", hasStars, drawStars},
     {"reflection", hasReflection, nullptr},
     {"texture", hasTexture, addTexture},
     {"final blur", blursResult, blurResult},
@@ -157,22 +181,22 @@ constexpr Stage kPreview[] = {
     {"text Frame Layer", always, nullptr},
     {"frame", hasFrame, addFrame},
     {"second frame", hasSecondFrame, addSecondFrame},
-    {"smoothing of the result", smoothsResult, nullptr},
+    {"smoothing of the result", smoothsResult, smoothResult},
 };
 
 constexpr Stage kFull[] = {
     {"combine", always, combine},
     {"reflection", hasReflection, nullptr},
     {"edges", blendsEdges, blendEdges},
-    {"stars", hasStars, nullptr},
+    {"stars", hasStars, drawStars},
     {"text Foreground", always, nullptr},
     {"foreground overlay", hasForegroundOverlay, nullptr},
     {"text Foreground Layer", always, nullptr},
     {"frame overlay picture", hasFrameOverlayPicture, nullptr},
     {"skin", smoothsSkin, smoothSkin},
-    {"smoothing of the result", smoothsResult, nullptr},
+    {"smoothing of the result", smoothsResult, smoothResult},
     {"texture", hasTexture, addTexture},
-    {"sketch", isCartoon, nullptr},
+    {"sketch", isCartoon, drawSketch},
     {"final blur", blursResult, blurResult},
     {"text Frame Layer", always, nullptr},
     {"frame", hasFrame, addFrame},
