@@ -12,6 +12,8 @@
 #include "core/raster/BlurBitmap.h"
 #include "core/raster/ColorMath.h"
 #include "core/raster/Pixels.h"
+#include "core/raster/QuadraticWindow.h"
+#include "core/raster/WindowBlur.h"
 #include "effects/FrameShapes.h"
 #include "effects/Texture.h"
 
@@ -25,8 +27,9 @@ constexpr int kEveryPixel = 1000;  // blur threshold that lets every pixel pass
 // What a row of the frame reads, fixed for a run.
 struct FrameParams {
     int width = 0, height = 0;
-    std::array<double, 256> weight{};  // of the frame, by the mask's third byte
-    int filling = 0;                   // one of the modes above; 0: the pixels stay
+    const std::uint8_t* cover = nullptr;  // the mask's third byte, one a pixel
+    std::array<double, 256> weight{};     // of the frame, by its cover
+    int filling = 0;                      // one of the modes above; 0: the pixels stay
     Rgb color{};
     const std::uint8_t* blurred = nullptr;
     const std::uint8_t* picture = nullptr;
@@ -55,13 +58,12 @@ void blend(std::uint8_t* pixel, const Rgb& over, const Rgb& under, double weight
     pixel[2] = toByte(over.b * weight + under.b * (1.0 - weight));
 }
 
-void frameRow(const FrameParams& params, const std::uint8_t* mask, std::uint8_t* buffer, int y, RandomSource random) {
-    const std::size_t row = pixelOffset(params.width, 0, y);
-    for (int x = 0; x < params.width; ++x) {
-        const std::size_t at = row + pixelOffset(0, x, 0);
-        const double weight = params.weight[mask[at + 2]];
+void frameRow(const FrameParams& params, std::uint8_t* buffer, int y, RandomSource random) {
+    std::uint8_t* pixel = buffer + pixelOffset(params.width, 0, y);
+    const std::uint8_t* cover = params.cover + pixelOffset(params.width, 0, y) / kPixelBytes;
+    for (int x = 0; x < params.width; ++x, pixel += kPixelBytes) {
+        const double weight = params.weight[cover[x]];
         if (weight == 0.0) continue;
-        std::uint8_t* pixel = buffer + at;
         if (params.filling != 0) blend(pixel, fillingAt(params, x, y), colorOf(pixel), weight);
         if (!params.texture) continue;
         // The weight counts twice, so that the texture fades with the frame.
@@ -78,6 +80,26 @@ PixelBuffer blurredCopy(SystemInfo& info, const PassGeometry& size, const std::u
     std::memcpy(copy.data(), buffer, pixelBytes(size.width, size.height));
     if (radius > 0.0005) BlurBitmap(info, copy.data(), size.width, size.height, size.dpi, kEveryPixel, radius);
     return copy;
+}
+
+// What the mask covers, softened; empty when memory is refused. Only the third byte counts, and a blur that every
+// pixel passes leaves it independent of the others.
+std::vector<std::uint8_t> coverOf(const std::uint8_t* mask, const PassGeometry& size, int feather) {
+    std::vector<std::uint8_t> cover;
+    try {
+        cover.resize(pixelBytes(size.width, size.height) / kPixelBytes);
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+    runRows({}, size.height, 32, [&](int y) {
+        const std::size_t first = pixelOffset(size.width, 0, y) / kPixelBytes;
+        for (std::size_t i = first; i < first + static_cast<std::size_t>(size.width); ++i)
+            cover[i] = mask[i * kPixelBytes + 2];
+    });
+    if (feather >= 2) {
+        blurWithWindow({}, {cover.data(), size.width, size.height}, windowReach(size.dpi, feather / 500.0));
+    }
+    return cover;
 }
 
 void setPicture(FrameParams& params, const QImage& picture) {
@@ -119,7 +141,7 @@ void drawShape(SystemInfo& info, const ImageFrame& frame, std::uint8_t* mask, co
 
 }  // namespace
 
-void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& picture, std::uint8_t* mask,
+void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& picture, const std::uint8_t* mask,
                   std::uint8_t* buffer, int res) {
     const PassGeometry size = info.geometry(res);
     FrameParams params = makeParams(frame, size);
@@ -132,9 +154,10 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
         params.filling = kFramePicture;
         setPicture(params, picture);
     }
-    if (frame.iFrameFeather >= 2) {
-        BlurBitmap(info, mask, size.width, size.height, size.dpi, kEveryPixel, frame.iFrameFeather / 500.0);
-    }
+    if (frame.iFrameFeather >= 2 && info.isStale()) return;  // a stale blur leaves nothing of the mask
+    const std::vector<std::uint8_t> cover = coverOf(mask, size, frame.iFrameFeather);
+    if (cover.empty()) return logError("Memory not allocated!");
+    params.cover = cover.data();
     std::optional<LoadedTexture> texture;
     if (frame.oTexture.bHaveTexture) {
         texture = loadTexture(frame.oTexture, size.width, size.height);
@@ -146,7 +169,7 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
     const int grain = params.texture && params.texture->displaces ? size.height : 16;
     const std::uint64_t seed = params.texture ? nextRandomSeed() : 0;
     runRows(info.rowsWhileWanted(), size.height, grain,
-            [&](int y) { frameRow(params, mask, buffer, y, RandomSource(seed, static_cast<std::uint64_t>(y))); });
+            [&](int y) { frameRow(params, buffer, y, RandomSource(seed, static_cast<std::uint64_t>(y))); });
 }
 
 void AddFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* buffer, int res) {

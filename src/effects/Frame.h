@@ -17,7 +17,7 @@ void AddFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* buffer, i
 /// Blends the frame's filling into `buffer` through a mask as the shapes paint it (FrameShapes.h), which is softened
 /// in place first.
 /// @param picture the frame picture of mode 4; null leaves the pixels, so that only a texture shows
-void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& picture, std::uint8_t* mask,
+void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& picture, const std::uint8_t* mask,
                   std::uint8_t* buffer, int res);
 
 }  // namespace tavrin
