@@ -16,6 +16,7 @@
 #include "core/raster/WindowBlur.h"
 #include "effects/FrameShapes.h"
 #include "effects/Texture.h"
+#include "key/SpillKey.h"
 
 namespace tavrin {
 
@@ -32,6 +33,7 @@ struct FrameParams {
     int filling = 0;                      // one of the modes above; 0: the pixels stay
     Rgb color{};
     const std::uint8_t* blurred = nullptr;
+    const SpillKey* background = nullptr;
     const std::uint8_t* picture = nullptr;
     std::size_t pictureRowBytes = 0;
     int pictureWidth = 0, pictureHeight = 0;
@@ -46,6 +48,10 @@ Rgb colorOf(const std::uint8_t* pixel) {
 Rgb fillingAt(const FrameParams& params, int x, int y) {
     if (params.filling == kColor) return params.color;
     if (params.filling == kBlurredPicture) return colorOf(params.blurred + pixelOffset(params.width, x, y));
+    if (params.filling == kAdjustedBackground) {
+        const QLXPixel pixel = params.background->adjustedBackground(x, y);
+        return {static_cast<double>(pixel.red), static_cast<double>(pixel.green), static_cast<double>(pixel.blue)};
+    }
     const int fromX = std::min(static_cast<int>(x * params.toPicture), params.pictureWidth - 1);
     const int fromY = std::min(static_cast<int>(y * params.toPicture), params.pictureHeight - 1);
     return colorOf(params.picture + static_cast<std::size_t>(fromY) * params.pictureRowBytes +
@@ -103,6 +109,7 @@ std::vector<std::uint8_t> coverOf(const std::uint8_t* mask, const PassGeometry& 
 }
 
 void setPicture(FrameParams& params, const QImage& picture) {
+    params.filling = kFramePicture;
     params.picture = picture.constBits();
     params.pictureRowBytes = static_cast<std::size_t>(picture.bytesPerLine());
     params.pictureWidth = picture.width();
@@ -117,8 +124,6 @@ FrameParams makeParams(const ImageFrame& frame, const PassGeometry& size) {
     params.height = size.height;
     for (std::size_t i = 0; i < params.weight.size(); ++i)
         params.weight[i] = (1.0 - frame.iFrameTransparency / 100.0) * static_cast<double>(i) / 255.0;
-    const int mode = frame.iFrameMode;
-    if (mode == kColor || mode == kBlurredPicture) params.filling = mode;
     params.color = {static_cast<double>(frame.iFrameColorRed), static_cast<double>(frame.iFrameColorGreen),
                     static_cast<double>(frame.iFrameColorBlue)};
     return params;
@@ -146,13 +151,28 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
     const PassGeometry size = info.geometry(res);
     FrameParams params = makeParams(frame, size);
     PixelBuffer blurred;
-    if (params.filling == kBlurredPicture) {
-        blurred = blurredCopy(info, size, buffer, frame.iFrameBlur / 500.0);
-        if (!blurred.data()) return logError("Memory not allocated!");
-        params.blurred = blurred.data();
-    } else if (frame.iFrameMode == kFramePicture && !picture.isNull()) {
-        params.filling = kFramePicture;
-        setPicture(params, picture);
+    std::optional<SpillKey> background;
+    switch (frame.iFrameMode) {
+        case kColor:
+            params.filling = kColor;
+            break;
+        case kBlurredPicture:
+            blurred = blurredCopy(info, size, buffer, frame.iFrameBlur / 500.0);
+            if (!blurred.data()) return logError("Memory not allocated!");
+            params.filling = kBlurredPicture;
+            params.blurred = blurred.data();
+            break;
+        case kAdjustedBackground:
+            background.emplace(info, SpillLayers::of(info, res == 1 ? 1 : 0));
+            if (!background->isReady()) return;
+            params.filling = kAdjustedBackground;
+            params.background = &*background;
+            break;
+        case kFramePicture:
+            if (!picture.isNull()) setPicture(params, picture);
+            break;
+        default:
+            break;
     }
     if (frame.iFrameFeather >= 2 && info.isStale()) return;  // a stale blur leaves nothing of the mask
     const std::vector<std::uint8_t> cover = coverOf(mask, size, frame.iFrameFeather);
