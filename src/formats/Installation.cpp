@@ -1,10 +1,12 @@
 #include "formats/Installation.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include <QFile>
 
+#include "core/Log.h"
 #include "formats/SafeFile.h"
 #include "formats/SettingsFile.h"
 
@@ -46,6 +48,10 @@ std::vector<ShippedFile> shippedStart(const Places& places) {
         {"sample/background.jpg", places.samplesFolder() + "background.jpg"},
         {"Pictures/EditTextIcons/Edit.png", places.textIconsFolder() + "Edit.png"},
         {"Pictures/EditTextIcons/Delete.png", places.textIconsFolder() + "Delete.png"},
+        {"Pictures/Frame/BrushedGold.jpg", places.frameFolder() + "BrushedGold.jpg"},
+        {"Pictures/Frame/Marble.jpg", places.frameFolder() + "Marble.jpg"},
+        {"Pictures/Frame/Velvet.jpg", places.frameFolder() + "Velvet.jpg"},
+        {"Pictures/Frame/Walnut.jpg", places.frameFolder() + "Walnut.jpg"},
         {"Pictures/Texture/Canvas.jpg", places.textureFolder() + "Canvas.jpg"},
         {"Pictures/Texture/Linen.jpg", places.textureFolder() + "Linen.jpg"},
         {"Pictures/Texture/Paper.jpg", places.textureFolder() + "Paper.jpg"},
@@ -78,6 +84,16 @@ std::string installMissingFiles(const Places& places) {
         addLine(problems, putShippedFile(file.name, file.path));
     addLine(problems, putFirstSettings(places));
     return problems;
+}
+
+std::string shippedPicture(const std::string& name, const Places& places) {
+    openShippedFiles();
+    const std::string path = places.picturesFolder() + name;
+    std::error_code ignored;
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
+    const std::string problem = putShippedFile("Pictures/" + QString::fromStdString(name), path);
+    if (!problem.empty()) logError(problem);
+    return path;
 }
 
 std::string installMissingLists(const Places& places) {
