@@ -1,10 +1,12 @@
 #include "formats/Installation.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include <QFile>
 
+#include "core/Log.h"
 #include "formats/SafeFile.h"
 #include "formats/SettingsFile.h"
 
@@ -78,6 +80,16 @@ std::string installMissingFiles(const Places& places) {
         addLine(problems, putShippedFile(file.name, file.path));
     addLine(problems, putFirstSettings(places));
     return problems;
+}
+
+std::string shippedPicture(const std::string& name, const Places& places) {
+    openShippedFiles();
+    const std::string path = places.picturesFolder() + name;
+    std::error_code ignored;
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
+    const std::string problem = putShippedFile("Pictures/" + QString::fromStdString(name), path);
+    if (!problem.empty()) logError(problem);
+    return path;
 }
 
 std::string installMissingLists(const Places& places) {

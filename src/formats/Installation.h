@@ -16,4 +16,8 @@ namespace tavrin {
 /// The folders and the lists of sizes and pages alone.
 [[nodiscard]] std::string installMissingLists(const Places& places = Places::current());
 
+/// Path of a picture that the program ships, by its name below the pictures folder ("Texture/Canvas.jpg"). Where the
+/// user's copy is missing it is put back; when that fails one line goes to the error stream.
+std::string shippedPicture(const std::string& name, const Places& places = Places::current());
+
 }  // namespace tavrin

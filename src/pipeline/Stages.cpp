@@ -1,11 +1,18 @@
 #include "pipeline/Stages.h"
 
 #include "core/raster/BlurBitmap.h"
+#include "effects/Frame.h"
+#include "effects/GlobalSmoothing.h"
+#include "effects/Shadow.h"
+#include "effects/Sketch.h"
+#include "effects/StarFilter.h"
+#include "effects/Texture.h"
 #include "key/BaseGreen.h"
 #include "key/Combine.h"
 #include "key/HairDetect.h"
 #include "key/Skin.h"
 #include "key/SmoothEdges.h"
+#include "pipeline/StartUp.h"
 
 namespace tavrin {
 
@@ -52,6 +59,42 @@ void blurResult(SystemInfo& info, int res) {
     const PassGeometry g = info.geometry(res);
     BlurBitmap(info, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi,
                info.iSliderForegroundThreshold, info.dSliderForegroundBlur);
+}
+
+void addShadow(SystemInfo& info, int res) {
+    AddShadow(info, 1, res);
+}
+
+void addTexture(SystemInfo& info, int res) {
+    AddTexture(info, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void addFrame(SystemInfo& info, int res) {
+    AddFrame(info, *info.oFrame, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void addSecondFrame(SystemInfo& info, int res) {
+    AddFrame(info, *info.oFrameOverlay, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void drawStars(SystemInfo& info, int res) {
+    StarFilter(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void smoothResult(SystemInfo& info, int res) {
+    FastGlobalImageSmoothing(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void smoothForeground(SystemInfo& info, int res) {
+    // While a layer is dragged its full buffer holds the fill colour alone, which smoothing would not change.
+    if (res == kFullRes && info.pInterface && info.pInterface->mouseDown()) return;
+    FastGlobalImageSmoothing(info, 0, pixelsOf(*info.pForegroundBitmapInfo, res), res);
+}
+
+void drawSketch(SystemInfo& info, int res) {
+    if (info.iCartoonEffectType >= 3) loadSketchPictures(info);
+    const PassGeometry g = info.geometry(res);
+    Sketch(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi);
 }
 
 bool always(const SystemInfo&) {
@@ -110,11 +153,11 @@ bool isCartoon(const SystemInfo& i) {
 }
 
 constexpr Stage kForeground[] = {
-    {"smoothing of the foreground", smoothsForeground, nullptr},
+    {"smoothing of the foreground", smoothsForeground, smoothForeground},
 };
 
 constexpr Stage kBackground[] = {
-    {"shadow", hasShadow, nullptr},
+    {"shadow", hasShadow, addShadow},  // before the blur and whatever is drawn on top
     {"background blur", blursBackground, blurBackground},
     {"text Background", always, nullptr},
     {"background overlay", hasBackgroundOverlay, nullptr},
@@ -127,37 +170,37 @@ constexpr Stage kPreview[] = {
     {"hair", always, findHair},
     {"screen colour", needsScreenColour, measureScreen},
     {"combine", always, combine},
-    {"stars", hasStars, nullptr},
+    {"stars", hasStars, drawStars},
     {"reflection", hasReflection, nullptr},
-    {"texture", hasTexture, nullptr},
+    {"texture", hasTexture, addTexture},
     {"final blur", blursResult, blurResult},
     {"text Foreground", always, nullptr},
     {"foreground overlay", hasForegroundOverlay, nullptr},
     {"text Foreground Layer", always, nullptr},
     {"frame overlay picture", hasFrameOverlayPicture, nullptr},
     {"text Frame Layer", always, nullptr},
-    {"frame", hasFrame, nullptr},
-    {"second frame", hasSecondFrame, nullptr},
-    {"smoothing of the result", smoothsResult, nullptr},
+    {"frame", hasFrame, addFrame},
+    {"second frame", hasSecondFrame, addSecondFrame},
+    {"smoothing of the result", smoothsResult, smoothResult},
 };
 
 constexpr Stage kFull[] = {
     {"combine", always, combine},
     {"reflection", hasReflection, nullptr},
     {"edges", blendsEdges, blendEdges},
-    {"stars", hasStars, nullptr},
+    {"stars", hasStars, drawStars},
     {"text Foreground", always, nullptr},
     {"foreground overlay", hasForegroundOverlay, nullptr},
     {"text Foreground Layer", always, nullptr},
     {"frame overlay picture", hasFrameOverlayPicture, nullptr},
     {"skin", smoothsSkin, smoothSkin},
-    {"smoothing of the result", smoothsResult, nullptr},
-    {"texture", hasTexture, nullptr},
-    {"sketch", isCartoon, nullptr},
+    {"smoothing of the result", smoothsResult, smoothResult},
+    {"texture", hasTexture, addTexture},
+    {"sketch", isCartoon, drawSketch},
     {"final blur", blursResult, blurResult},
     {"text Frame Layer", always, nullptr},
-    {"frame", hasFrame, nullptr},
-    {"second frame", hasSecondFrame, nullptr},
+    {"frame", hasFrame, addFrame},
+    {"second frame", hasSecondFrame, addSecondFrame},
 };
 
 // A plain keyed picture with text and overlays; everything else is left out for speed.

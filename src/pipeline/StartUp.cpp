@@ -51,9 +51,6 @@ void loadStartUpPictures(StartUpPictures& pictures) {
     pictures.TextDeleteIcon = loadPicture(places.textIconsFolder() + "Delete.png");
     pictures.iTextIconWidth = pictures.TextEditIcon.iWidth;
     pictures.iTextIconHeight = pictures.TextEditIcon.iHeight;
-    pictures.PencilCross2 = loadPicture(places.sketchFolder() + "PencilDenseCross.jpg");
-    pictures.PencilCross = loadPicture(places.sketchFolder() + "PencilDense.jpg");
-    pictures.LightParchment = loadPicture(places.sketchFolder() + "lightParchment.jpg");
 }
 
 void placeNote(FontObject& label) {
@@ -77,6 +74,7 @@ void startSystem(SystemInfo& info) {
     info.pBackgroundBitmapInfo->setSourceImageFullPath(standardizePath(info.oQLXInfo->sStartupFileBackgroundPath));
     ChangeImageSize(info);
     loadStartUpPictures(info);
+    loadSketchPictures(info);
     info.bNewOutputSize = true;
     logTrace("System Info Loaded");
 }
@@ -90,6 +88,17 @@ void startCommandLine(SystemInfo& info) {
         tell(installMissingLists());
     }
     loadLists(info);
+}
+
+void loadSketchPictures(StartUpPictures& pictures) {
+    const std::pair<LoadedPicture*, const char*> wanted[] = {
+        {&pictures.PencilCross2, "PencilDenseCross.jpg"},
+        {&pictures.PencilCross, "PencilDense.jpg"},
+        {&pictures.LightParchment, "lightParchment.jpg"},
+    };
+    for (const auto& [picture, file] : wanted) {
+        if (!picture->rawData) *picture = loadPicture(shippedPicture("Texture/Sketch/" + std::string(file)));
+    }
 }
 
 std::string openStateFile(SystemInfo& info, const std::string& path) {

@@ -14,6 +14,10 @@ void startSystem(SystemInfo& info);
 /// defaults.
 void startCommandLine(SystemInfo& info);
 
+/// Loads the pencils and the paper of the sketch that are not loaded yet. The desktop program has them from its
+/// start, the command line gets them before its first sketch. On the processing thread, or before it starts.
+void loadSketchPictures(StartUpPictures& pictures);
+
 /// Loads a state file as the user's choice: the state is read whole or not at all, and what a pass must redo is
 /// flagged. The size of the buffers stays until the next pass takes the file's size from the list. Call it where no
 /// stage runs: before the loop starts, or as a job of the loop's (`CombineThread::post`).
