@@ -1,5 +1,5 @@
 // Makes the pictures that an installation ships: the icons of a selected text, the pencil and parchment of the
-// sketch, and the surfaces for the texture effect. The same pictures every time.
+// sketch, the surfaces for the texture effect, and the materials of frames. The same pictures every time.
 
 #include <cstdio>
 
@@ -8,6 +8,7 @@
 #include <QImageWriter>
 
 #include "textures/Icons.h"
+#include "textures/Materials.h"
 #include "textures/Parchment.h"
 #include "textures/Pencil.h"
 #include "textures/Relief.h"
@@ -32,6 +33,10 @@ constexpr Job kJobs[] = {
     {"Texture/Canvas.jpg", weaveCanvas},
     {"Texture/Linen.jpg", weaveLinen},
     {"Texture/Paper.jpg", pressPaper},
+    {"Frame/Walnut.jpg", planeWalnut},
+    {"Frame/BrushedGold.jpg", brushGold},
+    {"Frame/Marble.jpg", polishMarble},
+    {"Frame/Velvet.jpg", drapeVelvet},
 };
 
 bool write(const Job& job, const QDir& folder) {
@@ -55,7 +60,8 @@ bool write(const Job& job, const QDir& folder) {
 int main(int argc, char** argv) {
     using namespace tavrin::textures;
     if (argc != 2) {
-        std::fprintf(stderr, "usage: make_textures FOLDER\nwrites the folders EditTextIcons and Texture there\n");
+        std::fprintf(stderr,
+                     "usage: make_textures FOLDER\nwrites the folders EditTextIcons, Frame and Texture there\n");
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));

@@ -21,10 +21,10 @@ ClipMargins makeClip(const SystemInfo& info, RunSize size) {
 }
 
 // Needs the white balance, which the global screen colour goes through.
-void makeScreen(const SystemInfo& info, KeyConstants& key) {
+void makeScreen(const SystemInfo& info, bool local, KeyConstants& key) {
     ScreenField& screen = key.screen;
     screen.scale = number(info.pCombinedBitmapInfo->sliderAdjustBaseGreen) / 100.0;
-    screen.local = info.bUseAdaptiveBackgroundGreen;
+    screen.local = local;
     if (!screen.local) {
         screen.global = balanceScreen(key, {info.baseRed, info.baseGreen, info.baseBlue});
         return;
@@ -37,39 +37,6 @@ void makeScreen(const SystemInfo& info, KeyConstants& key) {
         screen.columns[static_cast<std::size_t>(x)] = gridStep(x, key.width);
 }
 
-KeyConstants makeKey(const SystemInfo& info, RunSize size) {
-    const BitmapInfo& sliders = *info.pCombinedBitmapInfo;
-    const double tint = number(sliders.sliderGreenTintAreas);
-    const double balance = number(sliders.sliderWhiteBalance) - 100.0;
-    const double darkAreas = number(sliders.sliderRestoredDarkAreas);
-
-    KeyConstants key;
-    key.width = size.width;
-    key.height = size.height;
-    key.blueLogic = info.bUseBlueLogic;
-    key.showOrgImage = info.bShowOrgImage;
-    key.showBright = info.bShowBright;
-    key.showSelectedAreas = sliders.bShowSelectedAreas;
-    key.whiteBalanceU = balance * -0.5;
-    key.whiteBalanceV = balance;
-    key.k = 2.0 - info.baseGreen / 255.0;
-    key.darkChroma = darkAreas * 0.15;
-    key.darkLimit = darkAreas * 2.0;
-    key.transShift = (number(sliders.sliderTransparentcyAdjustment) - 100.0) / 100.0;
-    key.removeGain = removeGain(number(sliders.sliderRemoveGreenAreas));
-    key.colorOfClear = info.bAdvancedHairDetectionON && info.bFoundHair;
-    key.search = {tint - 100.0, 200.0 - tint, !key.blueLogic};
-    key.clip = makeClip(info, size);
-    makeScreen(info, key);
-    return key;
-}
-
-WhiteAdjust makeWhite(const SystemInfo& info) {
-    const double wide = number(info.pCombinedBitmapInfo->sliderWhiteAdjust) * 10.0;
-    return {!info.bShowOrgImage, number(info.pCombinedBitmapInfo->sliderWhiteAdjust), wide, wide / 2000.0,
-            2000.0 - wide};
-}
-
 FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params, const CombineInputs& inputs) {
     const BitmapInfo &foreground = *info.pForegroundBitmapInfo, &background = *info.pBackgroundBitmapInfo;
     const auto [width, height] = params.size;
@@ -79,7 +46,7 @@ FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params, 
     finish.blueLogic = info.bUseBlueLogic;
     finish.foregroundTone = makeTone(foreground, ToneLayer::kForeground, params.foreground, width, height);
     finish.backgroundTone = makeTone(background, ToneLayer::kBackground, params.background, width, height);
-    finish.white = makeWhite(info);
+    finish.white = makeWhiteAdjust(info);
     finish.foregroundMode = info.iForegroundOutputMode;
     finish.backgroundMode = info.iBackgroundOutputMode;
     finish.silhouette.on = info.bOutputSilhouette || finish.foregroundMode == kModeSilhouette;
@@ -110,6 +77,39 @@ RunSize runSize(const SystemInfo& info, int hiRes) {
     return {info.iOutputPixelWidth, info.iOutputPixelHeight};
 }
 
+KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen) {
+    const BitmapInfo& sliders = *info.pCombinedBitmapInfo;
+    const double tint = number(sliders.sliderGreenTintAreas);
+    const double balance = number(sliders.sliderWhiteBalance) - 100.0;
+    const double darkAreas = number(sliders.sliderRestoredDarkAreas);
+
+    KeyConstants key;
+    key.width = size.width;
+    key.height = size.height;
+    key.blueLogic = info.bUseBlueLogic;
+    key.showOrgImage = info.bShowOrgImage;
+    key.showBright = info.bShowBright;
+    key.showSelectedAreas = sliders.bShowSelectedAreas;
+    key.whiteBalanceU = balance * -0.5;
+    key.whiteBalanceV = balance;
+    key.k = 2.0 - info.baseGreen / 255.0;
+    key.darkChroma = darkAreas * 0.15;
+    key.darkLimit = darkAreas * 2.0;
+    key.transShift = (number(sliders.sliderTransparentcyAdjustment) - 100.0) / 100.0;
+    key.removeGain = removeGain(number(sliders.sliderRemoveGreenAreas));
+    key.colorOfClear = info.bAdvancedHairDetectionON && info.bFoundHair;
+    key.search = {tint - 100.0, 200.0 - tint, !key.blueLogic};
+    key.clip = makeClip(info, size);
+    makeScreen(info, localScreen, key);
+    return key;
+}
+
+WhiteAdjust makeWhiteAdjust(const SystemInfo& info) {
+    const double wide = number(info.pCombinedBitmapInfo->sliderWhiteAdjust) * 10.0;
+    return {!info.bShowOrgImage, number(info.pCombinedBitmapInfo->sliderWhiteAdjust), wide, wide / 2000.0,
+            2000.0 - wide};
+}
+
 CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const CombineInputs& inputs) {
     const auto buffer = [hiRes](const BitmapInfo& record) {
         return hiRes == 0 ? record.pBitmapDataLowRes : record.pBitmapData;
@@ -119,7 +119,7 @@ CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const Combine
     params.foreground = buffer(*info.pForegroundBitmapInfo);
     params.background = buffer(*info.pBackgroundBitmapInfo);
     params.combined = buffer(*info.pCombinedBitmapInfo);
-    params.key = makeKey(info, params.size);
+    params.key = makeKeyConstants(info, params.size, info.bUseAdaptiveBackgroundGreen);
     params.finish = makeFinish(info, params, inputs);
     return params;
 }

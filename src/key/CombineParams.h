@@ -33,6 +33,12 @@ struct CombineParams {
 /// Size of the preview (hiRes 0) or of the full output.
 RunSize runSize(const SystemInfo& info, int hiRes);
 
+/// The settings of the key. `localScreen`: measured against the grid of local screen colours, not the global one.
+KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen);
+
+/// The settings of the white adjustment, which is off while the foreground is shown as it is.
+WhiteAdjust makeWhiteAdjust(const SystemInfo& info);
+
 /// Reads the state once. The silhouette's picture is not loaded and `firstBrightGrey` not searched here.
 CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const CombineInputs& inputs);
 

@@ -10,6 +10,12 @@
 
 namespace tavrin {
 
+/// The grid of local screen colours has this many cells along each side of the picture.
+inline constexpr int kGridSide = 20;
+
+/// How much the edges of the key are steepened.
+inline constexpr double kEdgeGain = 1.4;
+
 /// Where a pixel's row or column lies between two cells of the grid of local screen colours.
 struct GridStep {
     int low = 0, high = 0;  ///< the two cells, 0 to 19

@@ -23,27 +23,6 @@ double blendWhite(double c, double to, double part, double keep) {
     return to * part + c * keep / 2000.0;
 }
 
-// Two rules on one measure: a wide, gentle one for colours whose green is level with the others, and a near one
-// that takes an almost neutral colour all the way to grey.
-void adjustWhite(const WhiteAdjust& white, Rgb& c) {
-    const double rb = c.r - c.b, gb = c.g - c.b, gr = c.g - c.r;
-    const double distance = std::sqrt(rb * rb + gb * gb + gr * gr) * 255.0 / c.g;
-    if (distance < white.wide && c.g > c.b - 5.0 && c.g > c.r - 5.0) {
-        const double level = std::max(c.b, c.g);
-        const double part = (white.wide - distance) / 2000.0, keep = 2000.0 - (white.wide - distance);
-        if (c.r > level) c.r = blendWhite(c.r, level, part, keep);
-        c.g = blendWhite(c.g, level, part, keep);
-        c.b = blendWhite(c.b, level, part, keep);
-        c = {level * white.mix + white.keep * c.r / 2000.0, level * white.mix + white.keep * c.g / 2000.0,
-             level * white.mix + white.keep * c.b / 2000.0};
-    }
-    if (distance < white.near) {
-        const double grey = (white.near - distance) * std::max({c.r, c.g, c.b}) / white.near;
-        c = {distance * c.r / white.near + grey, distance * c.g / white.near + grey,
-             distance * c.b / white.near + grey};
-    }
-}
-
 // Grey and sepia of a colour in real channels.
 Rgb applyMode(int mode, const Rgb& c) {
     if (mode != kModeGrey && mode != kModeSepia) return c;
@@ -58,14 +37,6 @@ Rgb silhouetteAt(const SilhouetteFill& fill, int x, int y) {
     if (row < 0 || row >= fill.height || column < 0 || column >= fill.width) return {0.0, 0.0, 0.0};
     const std::uint8_t* p = fill.pixels + pixelOffset(fill.width, static_cast<int>(column), static_cast<int>(row));
     return {static_cast<double>(p[0]), static_cast<double>(p[1]), static_cast<double>(p[2])};
-}
-
-// The hue-keeping limiter in its second order, green first.
-void limitBlend(Rgb& c) {
-    limitChannel(c.g, c.r, c.b);
-    limitChannel(c.r, c.g, c.b);
-    limitChannel(c.b, c.r, c.g);
-    limitBelow(c);
 }
 
 double lightFactor(const LightMap& light, double alpha, std::int32_t gain) {
@@ -92,12 +63,38 @@ void liftEdge(const FinishConstants& finish, Rgb& c, const Rgb& background, doub
 
 }  // namespace
 
+void limitBlend(Rgb& c) {
+    limitChannel(c.g, c.r, c.b);
+    limitChannel(c.r, c.g, c.b);
+    limitChannel(c.b, c.r, c.g);
+    limitBelow(c);
+}
+
+void adjustWhite(const WhiteAdjust& white, Rgb& c, bool greenIsLevel) {
+    const double rb = c.r - c.b, gb = c.g - c.b, gr = c.g - c.r;
+    const double distance = std::sqrt(rb * rb + gb * gb + gr * gr) * 255.0 / c.g;
+    if (distance < white.wide && greenIsLevel) {
+        const double level = std::max(c.b, c.g);
+        const double part = (white.wide - distance) / 2000.0, keep = 2000.0 - (white.wide - distance);
+        if (c.r > level) c.r = blendWhite(c.r, level, part, keep);
+        c.g = blendWhite(c.g, level, part, keep);
+        c.b = blendWhite(c.b, level, part, keep);
+        c = {level * white.mix + white.keep * c.r / 2000.0, level * white.mix + white.keep * c.g / 2000.0,
+             level * white.mix + white.keep * c.b / 2000.0};
+    }
+    if (distance < white.near) {
+        const double grey = (white.near - distance) * std::max({c.r, c.g, c.b}) / white.near;
+        c = {distance * c.r / white.near + grey, distance * c.g / white.near + grey,
+             distance * c.b / white.near + grey};
+    }
+}
+
 Rgb finishForeground(const FinishConstants& finish, const Rgb& keyed, int x, int y) {
     Rgb c = keyed;
     if (finish.foregroundTone.active) adjustTone(finish.foregroundTone, c, x, y, 1.0);
     limitTone(c);
     limitBelow(c);
-    if (finish.white.on) adjustWhite(finish.white, c);
+    if (finish.white.on) adjustWhite(finish.white, c, c.g > c.b - 5.0 && c.g > c.r - 5.0);
     const Rgb real = finish.silhouette.on ? silhouetteAt(finish.silhouette, x, y)
                                           : applyMode(finish.foregroundMode, swapRoles(finish.blueLogic, c));
     c = swapRoles(finish.blueLogic, real);

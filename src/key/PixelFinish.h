@@ -49,6 +49,13 @@ struct FinishConstants {
     bool showOrgImage = false;     ///< the written alpha stays opaque
 };
 
+/// Pulls a near-white colour to neutral by two rules on one measure: a wide, gentle one for pixels whose green is
+/// level with the others, and a near one that takes an almost neutral colour all the way to grey.
+void adjustWhite(const WhiteAdjust& white, Rgb& color, bool greenIsLevel);
+
+/// Holds the hue of a colour that is too bright, in the order green, red, blue, and each channel at 0 from below.
+void limitBlend(Rgb& color);
+
 /// The subject's colour (in roles, as keyed) after tone, white adjustment, colour mode or silhouette, and deltas:
 /// each channel 0 to 255, in roles.
 Rgb finishForeground(const FinishConstants& finish, const Rgb& keyed, int x, int y);

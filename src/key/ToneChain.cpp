@@ -11,10 +11,6 @@ namespace tavrin {
 
 namespace {
 
-double sumOfEnds(const Rgb& c) {
-    return std::max({c.r, c.g, c.b}) + std::min({c.r, c.g, c.b});
-}
-
 // Scales a channel; black over black is no number and stays black.
 void brighten(double& channel, double scale) {
     channel *= scale;
@@ -39,10 +35,7 @@ void cool(const ToneConstants& tone, Rgb& c, double ends) {
 void warm(const ToneConstants& tone, Rgb& c, double ends) {
     c = {std::min(throughFilter(c.r, tone.warming, 255.0), 255.0), throughFilter(c.g, tone.warming, 181.0),
          throughFilter(c.b, tone.warming, 0.0)};
-    const double scale = ends / sumOfEnds(c);
-    brighten(c.r, scale);
-    brighten(c.g, scale);
-    brighten(c.b, scale);
+    restoreEnds(c, ends);
 }
 
 // Mean of the 5 x 5 block around (x, y) without its centre, as far as it lies in the picture, byte by byte as
@@ -68,15 +61,6 @@ bool isGreenLed(const Rgb& c) {
     return c.g > c.r && c.g > c.b;
 }
 
-// Very dark results and green that would stop being green are left alone.
-void sharpen(const ToneConstants& tone, Rgb& c, int x, int y) {
-    const Rgb mean = surroundings(tone, x, y);
-    const Rgb sharp{clampTo(c.r + (c.r - mean.r) * tone.sharpen / 50.0, 0.0, 255.0),
-                    clampTo(c.g + (c.g - mean.g) * tone.sharpen / 50.0, 0.0, 255.0),
-                    clampTo(c.b + (c.b - mean.b) * tone.sharpen / 50.0, 0.0, 255.0)};
-    if (sharp.r + sharp.g + sharp.b > 80.0 && !(isGreenLed(c) && !isGreenLed(sharp))) c = sharp;
-}
-
 // The level to which the largest channel `m` moves, 0 to 300.
 double toneCurve(const ToneConstants& tone, double m) {
     const double lifted = m < 128.0 ? (1.0 - std::exp(tone.shadowRate * m)) * 128.0 / tone.shadowNorm : m;
@@ -97,6 +81,42 @@ void applyLevel(const ToneConstants& tone, Rgb& c, double m, double level) {
 
 }  // namespace
 
+double sumOfEnds(const Rgb& c) {
+    return std::max({c.r, c.g, c.b}) + std::min({c.r, c.g, c.b});
+}
+
+void restoreEnds(Rgb& c, double ends) {
+    const double scale = ends / sumOfEnds(c);
+    brighten(c.r, scale);
+    brighten(c.g, scale);
+    brighten(c.b, scale);
+}
+
+void sharpenTone(const ToneConstants& tone, Rgb& c, int x, int y) {
+    if (tone.sharpen < 1.0) return;
+    const Rgb mean = surroundings(tone, x, y);
+    const Rgb sharp{clampTo(c.r + (c.r - mean.r) * tone.sharpen / 50.0, 0.0, 255.0),
+                    clampTo(c.g + (c.g - mean.g) * tone.sharpen / 50.0, 0.0, 255.0),
+                    clampTo(c.b + (c.b - mean.b) * tone.sharpen / 50.0, 0.0, 255.0)};
+    if (sharp.r + sharp.g + sharp.b > 80.0 && !(isGreenLed(c) && !isGreenLed(sharp))) c = sharp;
+}
+
+bool curveTone(const ToneConstants& tone, Rgb& c) {
+    const double m = std::max({c.r, c.g, c.b});
+    const double level = toneCurve(tone, m);
+    if (m > 0.0) {
+        applyLevel(tone, c, m, level);
+        return true;
+    }
+    c = {level, level, level};
+    return false;
+}
+
+void setGain(ToneConstants& tone, double gain, double saturation) {
+    tone.gain = gain;
+    tone.floor = (tone.brightness - 128.0) * gain / 50.0 + 128.0 - saturation;
+}
+
 ToneConstants makeTone(const BitmapInfo& record, ToneLayer layer, const std::uint8_t* pixels, int width, int height) {
     const std::int64_t shadows = record.iEnhanseShadows, contrast = record.iContrast;
     const std::int64_t brightness = record.iBrightness, saturation = record.iBrightnessSat;
@@ -115,9 +135,8 @@ ToneConstants makeTone(const BitmapInfo& record, ToneLayer layer, const std::uin
     tone.sharpen = static_cast<double>(sharpening);
     tone.shadowRate = static_cast<double>(shadows + 1) / -2000.0;
     tone.shadowNorm = 1.0 - std::exp(tone.shadowRate * 128.0);
-    tone.gain = static_cast<double>(brightness) * 0.25 + static_cast<double>(contrast);
     tone.brightness = static_cast<double>(brightness);
-    tone.floor = static_cast<double>(brightness - 128) * tone.gain / 50.0 + 128.0 - static_cast<double>(saturation);
+    setGain(tone, tone.brightness * 0.25 + static_cast<double>(contrast), static_cast<double>(saturation));
     tone.highlights = 1.0 - static_cast<double>(highlights) / 100.0;
     tone.active =
         shadows + std::abs(contrast - 50) + std::abs(brightness) + std::abs(saturation) + highlights + sharpening !=
@@ -130,15 +149,9 @@ void adjustTone(const ToneConstants& tone, Rgb& color, int x, int y, double ligh
     const double ends = sumOfEnds(color);
     if (tone.cools) cool(tone, color, ends);
     if (tone.warms) warm(tone, color, ends);
-    if (tone.sharpen >= 1.0) sharpen(tone, color, x, y);
-    const double m = std::max({color.r, color.g, color.b});
-    const double level = toneCurve(tone, m);
-    if (m > 0.0) {
-        applyLevel(tone, color, m, level);
-        if (tone.layer == ToneLayer::kBackground) color = {color.r * light, color.g * light, color.b * light};
-    } else {
-        color = {level, level, level};
-    }
+    sharpenTone(tone, color, x, y);
+    const bool lit = curveTone(tone, color);
+    if (lit && tone.layer == ToneLayer::kBackground) color = {color.r * light, color.g * light, color.b * light};
     if (tone.layer == ToneLayer::kBackground) limitTone(color);
 }
 

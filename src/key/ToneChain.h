@@ -40,6 +40,20 @@ ToneConstants makeTone(const BitmapInfo& record, ToneLayer layer, const std::uin
 /// come out negative.
 void adjustTone(const ToneConstants& tone, Rgb& color, int x, int y, double light);
 
+// The steps of the chain, for the key at one pixel, whose filters differ.
+
+/// Largest and smallest channel added up, which the photo filters keep.
+double sumOfEnds(const Rgb& color);
+/// Scales a colour so that its ends add up to `ends`; black stays.
+void restoreEnds(Rgb& color, double ends);
+/// Sharpens, where the setting is on. Very dark results, and green that would stop being green, are left alone.
+void sharpenTone(const ToneConstants& tone, Rgb& color, int x, int y);
+/// Shadow lift, contrast, highlights, and the floor of the dark parts.
+/// @return false for black, which takes the curve's level in all channels
+bool curveTone(const ToneConstants& tone, Rgb& color);
+/// Sets the contrast, and the level of black that goes with it and with `iBrightnessSat`.
+void setGain(ToneConstants& tone, double gain, double saturation);
+
 /// Holds the hue of a colour that is too bright, in the order red, green, blue.
 void limitTone(Rgb& color);
 

@@ -1,9 +1,12 @@
 #include "pipeline/Stages.h"
 
 #include "core/raster/BlurBitmap.h"
+#include "effects/Frame.h"
 #include "effects/GlobalSmoothing.h"
+#include "effects/Shadow.h"
 #include "effects/Sketch.h"
 #include "effects/StarFilter.h"
+#include "effects/Texture.h"
 #include "key/BaseGreen.h"
 #include "key/Combine.h"
 #include "key/HairDetect.h"
@@ -56,6 +59,22 @@ void blurResult(SystemInfo& info, int res) {
     const PassGeometry g = info.geometry(res);
     BlurBitmap(info, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi,
                info.iSliderForegroundThreshold, info.dSliderForegroundBlur);
+}
+
+void addShadow(SystemInfo& info, int res) {
+    AddShadow(info, 1, res);
+}
+
+void addTexture(SystemInfo& info, int res) {
+    AddTexture(info, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void addFrame(SystemInfo& info, int res) {
+    AddFrame(info, *info.oFrame, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+}
+
+void addSecondFrame(SystemInfo& info, int res) {
+    AddFrame(info, *info.oFrameOverlay, pixelsOf(*info.pCombinedBitmapInfo, res), res);
 }
 
 void drawStars(SystemInfo& info, int res) {
@@ -138,7 +157,7 @@ constexpr Stage kForeground[] = {
 };
 
 constexpr Stage kBackground[] = {
-    {"shadow", hasShadow, nullptr},
+    {"shadow", hasShadow, addShadow},  // before the blur and whatever is drawn on top
     {"background blur", blursBackground, blurBackground},
     {"text Background", always, nullptr},
     {"background overlay", hasBackgroundOverlay, nullptr},
@@ -153,15 +172,15 @@ constexpr Stage kPreview[] = {
     {"combine", always, combine},
     {"stars", hasStars, drawStars},
     {"reflection", hasReflection, nullptr},
-    {"texture", hasTexture, nullptr},
+    {"texture", hasTexture, addTexture},
     {"final blur", blursResult, blurResult},
     {"text Foreground", always, nullptr},
     {"foreground overlay", hasForegroundOverlay, nullptr},
     {"text Foreground Layer", always, nullptr},
     {"frame overlay picture", hasFrameOverlayPicture, nullptr},
     {"text Frame Layer", always, nullptr},
-    {"frame", hasFrame, nullptr},
-    {"second frame", hasSecondFrame, nullptr},
+    {"frame", hasFrame, addFrame},
+    {"second frame", hasSecondFrame, addSecondFrame},
     {"smoothing of the result", smoothsResult, smoothResult},
 };
 
@@ -176,12 +195,12 @@ constexpr Stage kFull[] = {
     {"frame overlay picture", hasFrameOverlayPicture, nullptr},
     {"skin", smoothsSkin, smoothSkin},
     {"smoothing of the result", smoothsResult, smoothResult},
-    {"texture", hasTexture, nullptr},
+    {"texture", hasTexture, addTexture},
     {"sketch", isCartoon, drawSketch},
     {"final blur", blursResult, blurResult},
     {"text Frame Layer", always, nullptr},
-    {"frame", hasFrame, nullptr},
-    {"second frame", hasSecondFrame, nullptr},
+    {"frame", hasFrame, addFrame},
+    {"second frame", hasSecondFrame, addSecondFrame},
 };
 
 // A plain keyed picture with text and overlays; everything else is left out for speed.

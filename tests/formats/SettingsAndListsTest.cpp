@@ -211,9 +211,10 @@ TEST_F(InstallationTest, FillsInWhatIsMissingAndNothingElse) {
         program.join();
     EXPECT_TRUE(fs::is_directory(places.tempFilesFolder()));
     EXPECT_TRUE(fs::is_directory(places.picturesFolder()));
-    for (const std::string& file : {places.imageSizeFile(), places.printerFile(), places.defaultStateFile(),
-                                    places.settingsFile(), places.samplesFolder() + "portrait.jpg",
-                                    places.textIconsFolder() + "Edit.png", places.sketchFolder() + "PencilDense.jpg"})
+    for (const std::string& file :
+         {places.imageSizeFile(), places.printerFile(), places.defaultStateFile(), places.settingsFile(),
+          places.samplesFolder() + "portrait.jpg", places.textIconsFolder() + "Edit.png",
+          places.sketchFolder() + "PencilDense.jpg", places.frameFolder() + "Walnut.jpg"})
         EXPECT_TRUE(fs::exists(file)) << file;
     QLXInfo settings;
     EXPECT_EQ(LoadQLXFile(settings), "");

@@ -1,0 +1,203 @@
+#include "key/SpillKey.h"
+
+#include <algorithm>
+
+#include "core/image/PictureCache.h"
+#include "core/raster/Pixels.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr double kRemoveGreenAreas = 40.0;  // fixed, where the key of whole pictures has a slider
+constexpr double kDarkAreasOfHair = 120.0;  // what a dark, busy place is keyed with
+constexpr double kDarkGreen = 127.0;        // from here on a pixel is not dark
+constexpr double kShownAsIs = 255.0;        // amount of a pixel that is not keyed
+constexpr int kTextureRadius = 2;           // hair shows in a square of 5 x 5 pixels
+constexpr int kTexturePixels = 25;
+
+Rgb colorOf(const std::uint8_t* p) {
+    return {static_cast<double>(p[0]), static_cast<double>(p[1]), static_cast<double>(p[2])};
+}
+
+QLXPixel toPixel(const Rgb& c) {
+    return {toByte(c.r), toByte(c.g), toByte(c.b), 255, 0};
+}
+
+Rgb shifted(const Rgb& c, const Rgb& by) {
+    return {clampTo(c.r + by.r, 0.0, 255.0), clampTo(c.g + by.g, 0.0, 255.0), clampTo(c.b + by.b, 0.0, 255.0)};
+}
+
+Rgb deltaOf(const BitmapInfo& record) {
+    return {static_cast<double>(record.iRedDelta), static_cast<double>(record.iGreenDelta),
+            static_cast<double>(record.iBlueDelta)};
+}
+
+// With the key's selection shown, a view of the test that has decided.
+Rgb markOther(const Rgb& f, const Rgb& screen) {
+    const bool greener = screen.g + f.g > screen.r + f.r;
+    if (f.r >= f.b) return {f.r > f.g ? 255.0 : 100.0, 0.0, greener ? 255.0 : 0.0};
+    return {100.0, greener ? 255.0 : 0.0, f.b > f.g ? 255.0 : 0.0};
+}
+
+// The same for a warm pixel that the search has decided on; its blue stays.
+Rgb markSearched(const Rgb& f, double amount) {
+    const double level = amount > 0.98 ? 255.0 : 200.0 * amount;
+    return {level, level, f.b};
+}
+
+}  // namespace
+
+SpillLayers SpillLayers::of(const SystemInfo& info, int hiRes) {
+    const RunSize size = runSize(info, hiRes);
+    const BitmapInfo &front = *info.pForegroundBitmapInfo, &back = *info.pBackgroundBitmapInfo;
+    if (hiRes == 0) return {front.pBitmapDataLowRes, back.pBitmapDataLowRes, size.width, size.height};
+    return {front.pBitmapData, back.pBitmapData, size.width, size.height};
+}
+
+SpillKey::SpillKey(const SystemInfo& info, const SpillLayers& layers)
+    : pFOrg(layers.foreground),
+      pBOrg(layers.background),
+      iWidth(std::max(layers.width, 0)),
+      iHeight(std::max(layers.height, 0)),
+      key_(makeKeyConstants(info, {iWidth, iHeight}, true)),
+      sliderRestoredDarkAreasSlider_(info.pCombinedBitmapInfo->sliderRestoredDarkAreas),
+      sliderProtectHair_(info.pCombinedBitmapInfo->sliderRemoveGreenAreas),
+      dVMult_(key_.whiteBalanceV),
+      bShowColors_(info.pCombinedBitmapInfo->bShowSelectedAreas),
+      foreground_(makeColorAdjust(info, ToneLayer::kForeground, pFOrg, iWidth, iHeight)),
+      background_(makeColorAdjust(info, ToneLayer::kBackground, pFOrg, iWidth, iHeight)),
+      keyedTone_(makeTone(*info.pForegroundBitmapInfo, ToneLayer::kForeground, pFOrg, iWidth, iHeight)),
+      white_(makeWhiteAdjust(info)),
+      backgroundDelta_(deltaOf(*info.pBackgroundBitmapInfo)),
+      foregroundDelta_(deltaOf(*info.pForegroundBitmapInfo)),
+      iForegroundOutputMode_(info.iForegroundOutputMode),
+      iBackgroundOutputMode_(info.iBackgroundOutputMode),
+      silhouette_(info.bOutputSilhouette || iForegroundOutputMode_ == kModeSilhouette),
+      silhouetteColor_{static_cast<double>(info.iSilhouetteRed), static_cast<double>(info.iSilhouetteGreen),
+                       static_cast<double>(info.iSilhouetteBlue)} {
+    if (!pFOrg || !pBOrg || iWidth < 1 || iHeight < 1) return;
+    rows_.reserve(static_cast<std::size_t>(iHeight));
+    for (int y = 0; y < iHeight; ++y)
+        rows_.push_back(gridStep(y, iHeight));
+    ready_ = loadSilhouette(info);
+}
+
+bool SpillKey::loadSilhouette(const SystemInfo& info) {
+    const std::string path = info.sSilhouetteFileName;
+    if (path.empty() || !info.bOutputSilhouette) return true;
+    texture_ = readKeptPicture(path).convertToFormat(QImage::Format_RGBA8888);
+    if (texture_.isNull()) return false;
+    const auto shift = [](double slider, double length) { return (slider - 50.0) * length / 100.0; };
+    dLightingScale_ =
+        std::max(static_cast<double>(texture_.height()) / iHeight, static_cast<double>(texture_.width()) / iWidth);
+    textureX_ = shift(info.iSliderlSilhouetteX, texture_.width());
+    textureY_ = shift(info.iSliderlSilhouetteY, texture_.height());
+    return true;
+}
+
+QLXPixel SpillKey::adjustedForeground(int x, int y) const {
+    return toPixel(adjustLayerColor(foreground_, colorOf(pFOrg + pixelOffset(iWidth, x, y)), x, y));
+}
+
+QLXPixel SpillKey::adjustedBackground(int x, int y) const {
+    const Rgb c = shifted(colorOf(pBOrg + pixelOffset(iWidth, x, y)), backgroundDelta_);
+    return toPixel(colorMode(iBackgroundOutputMode_, key_.blueLogic, adjustLayerColor(background_, c, x, y)));
+}
+
+SpilledPixel SpillKey::Spill(int x, int y, double r, double g, double b) {
+    const SpillCall call = dUMult_ == key_.whiteBalanceU ? SpillCall::kLater : SpillCall::kFirst;
+    dUMult_ = key_.whiteBalanceU;
+    return spillAt(x, y, {r, g, b}, call);
+}
+
+// The colour is finished before the amount: here the green cast is taken out after the adjustments.
+SpilledPixel SpillKey::spillAt(int x, int y, const Rgb& color, SpillCall call) const {
+    const Rgb screen = screenColor(x, y);
+    const Decision d = decide(x, y, color, screen, call);
+    Rgb c = recoverColor(d, screen, color, key_.showBright);
+    if (keyedTone_.active) {
+        adjustKeyedColor(keyedTone_, c, x, y);
+        limitBlend(c);
+    }
+    if (white_.on) adjustWhite(white_, c, d.source.r - 5.0 < d.source.g && d.source.b - 5.0 < d.source.g);
+    if (d.alpha < 0.8 && !key_.showOrgImage) removeGreenCast(c);
+    return {outputColor(x, y, c), finalAmount(x, y, d.alpha)};
+}
+
+double SpillKey::amountAt(int x, int y, const Rgb& color, SpillCall call) const {
+    return finalAmount(x, y, decide(x, y, color, screenColor(x, y), call).alpha);
+}
+
+// As the key of whole pictures, but for the limits, for the tests of bright background (chroma alone) and of other
+// colours (on a blue screen too), and for one amount that serves as alpha and as mix.
+Decision SpillKey::decide(int x, int y, const Rgb& color, const Rgb& screen, SpillCall call) const {
+    const Rgb f = balanceForeground(color, call == SpillCall::kFirst ? 0.0 : key_.whiteBalanceU, dVMult_);
+    const auto solid = [&](double amount, const Rgb& c) { return Decision{amount, amount, c, f}; };
+    if (key_.showOrgImage) return solid(inMargin(key_, x, y) ? 0.0 : kShownAsIs, f);
+
+    const double chroma = chromaOf(f);
+    const double sliderRestoredDarkAreas = darkAreas(x, y, color.g, chroma);
+    if (chroma < sliderRestoredDarkAreas * 0.15 && largestOf(f) < screen.g - screen.r) {
+        return solid(1.0, {f.r, std::min(f.g, std::max(f.r, f.b)), f.b});
+    }
+    if (chroma > sliderRestoredDarkAreas * 2.0 && offScreenLine(f, screen) < kRemoveGreenAreas * 2.0) {
+        return solid(0.0, {255.0, 255.0, 255.0});
+    }
+    if (inMargin(key_, x, y) || distance(f, screen) < 8.0) return solid(0.0, f);
+    if (isPlainlyOther(f)) {
+        const Rgb shown = bShowColors_ ? markOther(f, screen) : f;
+        return {1.0, 1.0, shown, shown};
+    }
+    const double amount = mixedAlpha(key_, f, screen);
+    const Rgb shown = bShowColors_ && f.r >= f.b ? markSearched(f, amount) : f;
+    return {amount, amount, shown, liftedSource(shown, screen, amount)};
+}
+
+// The surroundings are only looked at where they would change the outcome of a test.
+double SpillKey::darkAreas(int x, int y, double green, double chroma) const {
+    const double slider = sliderRestoredDarkAreasSlider_;
+    if (!(green < kDarkGreen && sliderProtectHair_ > 5.0)) return slider;
+    const bool matters = (chroma < slider * 0.15) != (chroma < kDarkAreasOfHair * 0.15) ||
+                         (chroma > slider * 2.0) != (chroma > kDarkAreasOfHair * 2.0);
+    return matters && isBusy(x, y) ? kDarkAreasOfHair : slider;
+}
+
+// Whether the brightness varies here as it does in hair, by the sample variance. It is exact in whole numbers.
+bool SpillKey::isBusy(int x, int y) const {
+    std::int64_t sum = 0, squares = 0;
+    for (int dy = -kTextureRadius; dy <= kTextureRadius; ++dy) {
+        const std::uint8_t* row = pFOrg + pixelOffset(iWidth, 0, std::clamp(y + dy, 0, iHeight - 1));
+        for (int dx = -kTextureRadius; dx <= kTextureRadius; ++dx) {
+            const std::uint8_t* p = row + pixelOffset(iWidth, std::clamp(x + dx, 0, iWidth - 1), 0);
+            const int level = p[0] + p[1] + p[2];
+            sum += level;
+            squares += level * level;
+        }
+    }
+    const auto scatter = static_cast<double>(kTexturePixels * squares - sum * sum);
+    return scatter / (kTexturePixels * (kTexturePixels - 1)) > 4000.0 - 20.0 * sliderProtectHair_;
+}
+
+double SpillKey::finalAmount(int x, int y, double amount) const {
+    if (inMargin(key_, x, y)) return 0.0;
+    return key_.showOrgImage ? amount : clampTo(edgeAlpha(key_, amount), 0.0, 1.0);
+}
+
+// Grey and sepia are taken again after the deltas, from a silhouette too.
+Rgb SpillKey::outputColor(int x, int y, const Rgb& color) const {
+    const Rgb c = silhouette_ ? silhouetteAt(x, y) : colorMode(iForegroundOutputMode_, key_.blueLogic, color);
+    return colorMode(iForegroundOutputMode_, key_.blueLogic, shifted(c, foregroundDelta_));
+}
+
+// The whole picture fits into the output, black around it, where `Combine` lets it cover the output.
+Rgb SpillKey::silhouetteAt(int x, int y) const {
+    if (texture_.isNull()) return silhouetteColor_;
+    const double column = x * dLightingScale_ + textureX_, row = y * dLightingScale_ + textureY_;
+    const bool inside = column > -1.0 && column < texture_.width() && row > -1.0 && row < texture_.height();
+    if (!inside) return {0.0, 0.0, 0.0};
+    return colorOf(texture_.constBits() +
+                   pixelOffset(texture_.width(), static_cast<int>(column), static_cast<int>(row)));
+}
+
+}  // namespace tavrin
