@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "key/KeyJoins.h"
+#include "key/Lighting.h"
 #include "key/SilhouettePicture.h"
 
 namespace tavrin {
@@ -85,32 +86,24 @@ RunContext fullRun(SystemInfo& info, int height) {
 
 }  // namespace
 
-void Combine(SystemInfo& info, int /*ignored*/, int hiRes, const CombineInputs& inputs) {
+void Combine(SystemInfo& info, int /*ignored*/, int hiRes) {
     const RunSize size = runSize(info, hiRes);
     if (size.width < 1 || size.height < 1) return;
-    CombineParams params = makeCombineParams(info, hiRes, inputs);
+    CombineParams params = makeCombineParams(info, hiRes);
     if (!params.foreground || !params.background || !params.combined) return;
 
     const KeyJoins joins(info, params, hiRes != 0);
     if (joins.isSuperseded()) return;
     QImage silhouette;
     if (!loadSilhouette(info, params, silhouette)) return;
+    const LightingRun light(info, size.width, size.height, hiRes);
+    params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
 
     const RunContext context = hiRes == 0 ? RunContext{} : fullRun(info, size.height);
     RunContext quiet = context;
     quiet.progress = nullptr;
     if (!searchBrightGrey(quiet, params)) return;
     runRows(context, size.height, kGrainRows, [&](int y) { combineRow(params, joins, y); });
-}
-
-void Combine(SystemInfo& info, int ignored, int hiRes) {
-    const RunSize size = runSize(info, hiRes);
-    CombineInputs inputs;
-    if (size.width > 0 && size.height > 0 &&
-        info.oLightingMap.size() == static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height)) {
-        inputs.lightingMap = info.oLightingMap.data();
-    }
-    Combine(info, ignored, hiRes, inputs);
 }
 
 }  // namespace tavrin

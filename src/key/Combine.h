@@ -7,14 +7,12 @@ namespace tavrin {
 /// Separates the subject from the screen and lays it over the background, pixel by pixel: foreground and background
 /// buffers of the run's size in, combined buffer out. The alpha bytes of the background's buffer receive the key's
 /// alpha of every pixel; the combined buffer's alpha is 255 except in transparent output. Without buffers, or with
-/// a size below 1, nothing is done; so too when the silhouette's picture can't be read.
+/// a size below 1, nothing is done; so too when the silhouette's picture can't be read. With a lighting mode the
+/// light is worked out at the start of the run, and `info.oLightingMap` is empty again after it.
 ///
 /// A full-resolution run publishes each tenth of its rows, clearing `bShowLowRes`, and stops at the next row when
 /// the state is stale. A preview run always ends.
 /// @param hiRes 0: the preview buffers; otherwise the full ones
-void Combine(SystemInfo& info, int ignored, int hiRes, const CombineInputs& inputs);
-
-/// As above with the light of `info.oLightingMap`, where that has the run's size.
 void Combine(SystemInfo& info, int ignored, int hiRes);
 
 }  // namespace tavrin

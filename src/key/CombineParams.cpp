@@ -37,7 +37,7 @@ void makeScreen(const SystemInfo& info, bool local, KeyConstants& key) {
         screen.columns[static_cast<std::size_t>(x)] = gridStep(x, key.width);
 }
 
-FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params, const CombineInputs& inputs) {
+FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) {
     const BitmapInfo &foreground = *info.pForegroundBitmapInfo, &background = *info.pBackgroundBitmapInfo;
     const auto [width, height] = params.size;
     const std::int32_t lightingMode = info.iLightingMode, applyTo = info.iLightingApplyTo;
@@ -56,14 +56,13 @@ FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params, 
                               number(foreground.iBlueDelta)};
     finish.backgroundDelta = {number(background.iRedDelta), number(background.iGreenDelta),
                               number(background.iBlueDelta)};
-    finish.light.values = lightingMode != 0 ? inputs.lightingMap : nullptr;
     finish.light.onBackground = lightingMode == 4 || applyTo == 2;
     finish.light.byAlpha = applyTo == 1;
     // A background that may take the light goes through its chain even when all its settings are neutral.
     finish.backgroundTone.active = finish.backgroundTone.active || finish.light.onBackground;
     const Rgb& delta = finish.backgroundDelta;
     const bool coloured = finish.backgroundMode != kModeGrey && finish.backgroundMode != kModeSepia;
-    finish.plainBackground = !finish.backgroundTone.active && !finish.light.values && coloured && delta.r == 0.0 &&
+    finish.plainBackground = !finish.backgroundTone.active && lightingMode == 0 && coloured && delta.r == 0.0 &&
                              delta.g == 0.0 && delta.b == 0.0;
     finish.transparent = info.bOutputTransparency || finish.foregroundMode == kModeSilhouette;
     finish.showOrgImage = info.bShowOrgImage;
@@ -110,7 +109,7 @@ WhiteAdjust makeWhiteAdjust(const SystemInfo& info) {
             2000.0 - wide};
 }
 
-CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const CombineInputs& inputs) {
+CombineParams makeCombineParams(const SystemInfo& info, int hiRes) {
     const auto buffer = [hiRes](const BitmapInfo& record) {
         return hiRes == 0 ? record.pBitmapDataLowRes : record.pBitmapData;
     };
@@ -120,7 +119,7 @@ CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const Combine
     params.background = buffer(*info.pBackgroundBitmapInfo);
     params.combined = buffer(*info.pCombinedBitmapInfo);
     params.key = makeKeyConstants(info, params.size, info.bUseAdaptiveBackgroundGreen);
-    params.finish = makeFinish(info, params, inputs);
+    params.finish = makeFinish(info, params);
     return params;
 }
 

@@ -8,13 +8,6 @@
 
 namespace tavrin {
 
-/// What a caller hands to a run beside the state.
-struct CombineInputs {
-    /// Light over the picture: one value for each pixel of the run's size, gain in thousandths. Used when
-    /// `iLightingMode` is not 0; null is no light.
-    const std::int32_t* lightingMap = nullptr;
-};
-
 /// The size of a run's buffers.
 struct RunSize {
     int width = 0, height = 0;
@@ -39,7 +32,8 @@ KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localSc
 /// The settings of the white adjustment, which is off while the foreground is shown as it is.
 WhiteAdjust makeWhiteAdjust(const SystemInfo& info);
 
-/// Reads the state once. The silhouette's picture is not loaded and `firstBrightGrey` not searched here.
-CombineParams makeCombineParams(const SystemInfo& info, int hiRes, const CombineInputs& inputs);
+/// Reads the state once. The silhouette's picture and the map of the light are not loaded and `firstBrightGrey` not
+/// searched here.
+CombineParams makeCombineParams(const SystemInfo& info, int hiRes);
 
 }  // namespace tavrin

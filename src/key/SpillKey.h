@@ -54,6 +54,9 @@ class SpillKey {
     /// False where there are no pictures, or the silhouette's file cannot be read: nothing else may be called then.
     bool isReady() const { return ready_; }
 
+    /// The colours that come out are those of a silhouette, in real channels whatever went in.
+    bool showsSilhouette() const { return silhouette_; }
+
     /// The adjusted colours at (x, y), which must lie inside the picture.
     AdjustedColors computeColorAdj(int x, int y) const {
         return {adjustedForeground(x, y), adjustedBackground(x, y)};

@@ -3,6 +3,7 @@
 #include "core/raster/BlurBitmap.h"
 #include "effects/Frame.h"
 #include "effects/GlobalSmoothing.h"
+#include "effects/Reflection.h"
 #include "effects/Shadow.h"
 #include "effects/Sketch.h"
 #include "effects/StarFilter.h"
@@ -97,6 +98,11 @@ void drawSketch(SystemInfo& info, int res) {
     Sketch(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi);
 }
 
+void reflect(SystemInfo& info, int res) {
+    AddReflection(info, res, *info.pCombinedBitmapInfo, pixelsOf(*info.pForegroundBitmapInfo, res),
+                  pixelsOf(*info.pBackgroundBitmapInfo, res), pixelsOf(*info.pCombinedBitmapInfo, res));
+}
+
 bool always(const SystemInfo&) {
     return true;
 }
@@ -171,7 +177,7 @@ constexpr Stage kPreview[] = {
     {"screen colour", needsScreenColour, measureScreen},
     {"combine", always, combine},
     {"stars", hasStars, drawStars},
-    {"reflection", hasReflection, nullptr},
+    {"reflection", hasReflection, reflect},
     {"texture", hasTexture, addTexture},
     {"final blur", blursResult, blurResult},
     {"text Foreground", always, nullptr},
@@ -186,7 +192,7 @@ constexpr Stage kPreview[] = {
 
 constexpr Stage kFull[] = {
     {"combine", always, combine},
-    {"reflection", hasReflection, nullptr},
+    {"reflection", hasReflection, reflect},
     {"edges", blendsEdges, blendEdges},
     {"stars", hasStars, drawStars},
     {"text Foreground", always, nullptr},

@@ -86,24 +86,27 @@ TEST(Combine, SilhouetteByColourByPictureAndWhenItCannotBeRead) {
 TEST(Combine, LightFallsTwiceAndWhereItIsMeantTo) {
     KeyScene scene(2, 1, {40, 200, 60, 255}, {100, 100, 100, 255});
     scene.at(scene.foreground, 1, 0) = {150, 60, 50, 255};
+    scene.info.iLightingSliderStartLight = scene.info.iLightingSliderEndLight = 54;  // a sheet of 120 all over
     const auto run = [&](int mode, int applyTo) {
         scene.info.iLightingMode = mode;
         scene.info.iLightingApplyTo = applyTo;
+        scene.info.oLightingMap = {9, 9, 9};  // an old map is not read
         Combine(scene.info, 1, 1);
+        EXPECT_TRUE(scene.info.oLightingMap.empty());
+        EXPECT_FALSE(scene.info.bLightingForceCompute);
         return std::pair<int, int>{scene.at(scene.combined, 0, 0)[0], scene.at(scene.combined, 1, 0)[0]};
     };
-    scene.info.oLightingMap = {100, 100};
-    const int lit = static_cast<int>(150 * 1.21);
-    EXPECT_EQ(run(1, 3).first, 121);
+    const int lit = static_cast<int>(150 * 1.12 * 1.12);
+    EXPECT_EQ(run(1, 3).first, 125);
     EXPECT_NEAR(run(1, 3).second, lit, 2);
     EXPECT_EQ(run(1, 1).first, 100);
     EXPECT_NEAR(run(1, 1).second, lit, 2);
-    EXPECT_NEAR(run(1, 2).first, 110, 3);  // once, after a tone curve that is not quite straight
+    EXPECT_NEAR(run(1, 2).first, 112, 3);  // once, after a tone curve that is not quite straight
     EXPECT_NEAR(run(1, 2).second, 150, 1);
-    EXPECT_NEAR(run(4, 3).first, 110, 3);
     EXPECT_EQ(run(0, 3).first, 100);
-    scene.info.oLightingMap = {100, 100, 100};  // of another size
-    EXPECT_EQ(run(1, 3).first, 100);
+    scene.info.iLightingSliderStartLight = scene.info.iLightingSliderEndLight = 50;
+    EXPECT_EQ(run(1, 3), run(0, 3));
+    EXPECT_EQ(run(2, 1), run(0, 1));
 }
 
 struct Recorder : Interface {
@@ -163,7 +166,6 @@ TEST(Combine, ThreadsDoNotChangeAByte) {
                 // The copies above may not move the buffers that the records know.
                 ASSERT_EQ(scene->info.pForegroundBitmapInfo->pBitmapData, scene->foreground.front().data());
                 busySettings(scene->info);
-                scene->info.oLightingMap.assign(scene->foreground.size(), 300);
                 scene->info.bUseBlueLogic = option == 1;
                 scene->info.bShowOrgImage = option == 2;
                 scene->info.bOutputTransparency = option == 3;
@@ -203,7 +205,6 @@ TEST(Combine, AnyValueOfAnyFieldIsSurvived) {
                       &*scene.info.pCombinedBitmapInfo}) {
                     setAll<LayerSettings>(*record, number, real, option & 2);
                 }
-                scene.info.oLightingMap.assign(35, number);
                 scene.info.bUseAdaptiveBackgroundGreen = option & 4;
                 scene.info.baseRed = scene.info.baseGreen = scene.info.baseBlue = real;
                 scene.info.iBaseGreenArray.fill(real);

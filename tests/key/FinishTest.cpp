@@ -22,12 +22,12 @@ FinishConstants plainFinish() {
 
 TEST(Finish, WhiteIsPulledToGreyByBothRules) {
     KeyScene scene(1, 1);
-    FinishConstants finish = makeCombineParams(scene.info, 1, {}).finish;
+    FinishConstants finish = makeCombineParams(scene.info, 1).finish;
     expectNear(finishForeground(finish, {200.0, 205.0, 198.0}, 0, 0), 203.9, 205.0, 203.8);
     // Green must be level for the wide rule; this colour is too far for the near one.
     expectNear(finishForeground(finish, {200.0, 170.0, 180.0}, 0, 0), 200.0, 170.0, 180.0);
     scene.sliders().sliderWhiteAdjust = 0;
-    finish = makeCombineParams(scene.info, 1, {}).finish;
+    finish = makeCombineParams(scene.info, 1).finish;
     expectNear(finishForeground(finish, {200.0, 205.0, 198.0}, 0, 0), 200.0, 205.0, 198.0, 0.0);
     expectNear(finishForeground(finish, {0.0, 0.0, 0.0}, 0, 0), 0.0, 0.0, 0.0, 0.0);
 }

@@ -40,7 +40,7 @@ struct KeyScene {
 
     /// The key's answer for pixel (x, y).
     KeyedPixel keyed(int x = 0, int y = 0) {
-        const CombineParams params = makeCombineParams(info, 1, {});
+        const CombineParams params = makeCombineParams(info, 1);
         return decidePixel(params.key, at(foreground, x, y).data(), x, y, gridStep(y, height));
     }
 

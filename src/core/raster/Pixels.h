@@ -25,6 +25,8 @@ class PixelBuffer {
   public:
     PixelBuffer() = default;
     PixelBuffer(int width, int height);
+    /// A buffer of zeros; memory that is never written costs nothing.
+    static PixelBuffer cleared(int width, int height);
 
     std::uint8_t* data() const { return bytes_.get(); }
 
