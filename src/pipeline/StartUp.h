@@ -11,7 +11,7 @@ void startSystem(SystemInfo& info);
 
 /// Brings a new state up for the command line, which leaves the account as it is: temporary files in a folder of the
 /// process, the user's size and page lists where there are any, else the shipped ones. All settings at their
-/// defaults.
+/// defaults. Shipped pictures that an effect needs later are taken from the account, or put there where it has lists.
 void startCommandLine(SystemInfo& info);
 
 /// Loads the pencils and the paper of the sketch that are not loaded yet. The desktop program has them from its

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -98,6 +99,11 @@ TEST_F(CliTest, WrongCallsAreToldInOneLineAndWriteNothing) {
         {renderTo(file("o.png"), {"--inches", "wide", "--dpi", "48"}), 2, "wide"},
         {renderTo(file("o.png"), {"--size", "no such size"}), 2, "no such size"},
         {renderTo(file("o.bmp")), 2, "o.bmp"},
+        {renderTo(file("o.png"), {"--frame", "round"}), 2, "jagged"},
+        {renderTo(file("o.png"), {"--texture", file("gone.jpg")}), 2, "gone.jpg"},
+        {renderTo(file("o.png"), {"--fast", "--shadow", "wall", "--frame", "oval"}), 2, "--frame"},
+        {renderTo(file("o.png"), {"--preview", "--cartoon", "grey"}), 2, "--cartoon"},
+        {renderTo(file("o.png"), {"--seed", "x"}), 2, "--seed"},
         {renderTo(file("none/o.png")), 1, "none"},
         {{"render", "--foreground", file("gone.jpg"), "--background", background_, "--out", file("o.png")},
          1,
@@ -133,6 +139,30 @@ TEST_F(CliTest, StatesAreSavedChangedComparedAndUsed) {
     EXPECT_EQ(QImage(file("again.png")), QImage(file("a.png")));
     EXPECT_EQ(run({"state", "set", file("a.qlx"), file("c.qlx"), "nonsense=1"}).code, 2);
     EXPECT_FALSE(fs::exists(folder_.file("c.qlx")));
+}
+
+TEST_F(CliTest, ShortOptionsSetEffectsAndSetRefinesThem) {
+    const QStringList effects = {"--cartoon", "parchment", "--star", "--set", "iSliderCartoonEffectWidth=30"};
+    const Outcome done =
+        run(renderTo(file("drawn.png"), size() + effects + QStringList{"--save-state", file("drawn.qlx")}));
+    ASSERT_EQ(done.code, 0) << done.err.toStdString();
+    EXPECT_EQ(done.err, "");  // pencils and paper are there on a fresh account too
+    const QString state = run({"state", "show", file("drawn.qlx")}).out;
+    for (const char* line :
+         {"\niCartoonEffectType=4\n", "\niSliderCartoonEffectWidth=30\n", "\nbStarFilerTurnOn=1\n"})
+        EXPECT_TRUE(state.contains(line)) << line;
+    ASSERT_EQ(run(renderTo(file("plain.png"), size())).code, 0);
+    EXPECT_NE(QImage(file("drawn.png")), QImage(file("plain.png")));
+    ASSERT_EQ(run(QStringList{"render", "--state", file("drawn.qlx"), "--out", file("again.png")} + size()).code, 0);
+    EXPECT_EQ(QImage(file("again.png")), QImage(file("drawn.png")));
+}
+
+TEST_F(CliTest, EffectsAreListed) {
+    EXPECT_TRUE(run({"effects"}).out.contains("--shadow"));
+    const QJsonArray groups = QJsonDocument::fromJson(run({"effects", "--json"}).out.toUtf8()).array();
+    ASSERT_GT(groups.size(), 5);
+    EXPECT_EQ(groups[0]["option"].toString(), "--shadow");
+    EXPECT_EQ(groups[0]["presets"][2]["name"].toString(), "floor");
 }
 
 TEST_F(CliTest, ListsAreThereOnAFreshAccount) {

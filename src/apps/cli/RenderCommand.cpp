@@ -5,12 +5,16 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
+#include "apps/cli/EffectOptions.h"
+#include "core/Places.h"
+#include "core/RandomSource.h"
 #include "core/state/SystemInfo.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
@@ -30,6 +34,8 @@ struct RenderOptions {
     std::string state, saveState;
     std::string sizeName, inches;
     int dpi = 0;
+    EffectOptions effects;
+    std::optional<std::uint64_t> seed;
     std::vector<std::string> set;
     bool blue = false, preview = false, fast = false, json = false;
 };
@@ -77,7 +83,9 @@ Refusal applySources(SystemInfo& info, const RenderOptions& options) {
 
 Refusal applySettings(SystemInfo& info, const RenderOptions& options) {
     if (options.blue) info.bUseBlueLogic = true;
-    const std::string problem = applyAssignments(info, options.set);
+    std::string problem = options.effects.leftOut(options.fast, options.preview);
+    if (problem.empty()) problem = options.effects.apply(info);
+    if (problem.empty()) problem = applyAssignments(info, options.set);
     return problem.empty() ? Refusal() : Refusal{kUsage, problem};
 }
 
@@ -139,7 +147,11 @@ QJsonObject describe(const SystemInfo& info, const RenderOptions& options, doubl
 int render(const RenderOptions& options) {
     const auto start = std::chrono::steady_clock::now();
     const auto info = std::make_unique<SystemInfo>();
+    const std::string pictures = Places::current().picturesFolder();
     startCommandLine(*info);
+    // A saved state names the pictures that it uses, so they have to lie where they stay.
+    if (!options.saveState.empty()) Places::current().setPicturesFolder(pictures);
+    if (options.seed) seedRandom(*options.seed);
     Console console;
     info->pInterface = &console;
     if (const Refusal refusal = prepare(*info, options); refusal.code != kDone) {
@@ -175,7 +187,10 @@ Examples:
       --set bOutputTransparency=1 --set combined.sliderWhiteAdjust=0 --set foreground.iContrast=60
   tavrin-cli render --state school.qlx --foreground anna.jpg --out anna-school.jpg
   tavrin-cli render --foreground toy.jpg --background sky.jpg --out toy.jpg --blue --fast
+  tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna.jpg --shadow floor --frame oval
+      --texture canvas --set frame.iFrameThickness=15
 
+The short options of the effects come first, so that --set refines them; "tavrin-cli effects" tells about each.
 Settings have the names of their fields; those of a layer have foreground., background. or combined. before them.
 Exit codes: 0 done, 1 the work failed, 2 wrong usage.)";
 
@@ -194,6 +209,8 @@ void addRenderCommand(CLI::App& app, int& result) {
         command->add_option("--inches", options->inches, "Output size, width x height")->excludes(size);
     CLI::Option* dpi = command->add_option("--dpi", options->dpi, "Dots an inch, with --inches")->needs(inches);
     inches->needs(dpi);
+    options->effects.addTo(*command);
+    command->add_option("--seed", options->seed, "Where the random numbers of texture and skin noise start");
     command->add_option("--set", options->set, "A setting as field=value; may be given several times")->take_all();
     command->add_flag("--blue", options->blue, "The screen is blue (same as --set bUseBlueLogic=1)");
     command->add_option("--alpha", options->alpha, "Also write the key's alpha as a grey PNG");

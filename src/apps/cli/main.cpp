@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 
 #include "apps/cli/Console.h"
+#include "apps/cli/EffectOptions.h"
 #include "apps/cli/InfoCommand.h"
 #include "apps/cli/ListCommands.h"
 #include "apps/cli/RenderCommand.h"
@@ -25,6 +26,7 @@ int main(int argc, char** argv) {
     cli::addInfoCommand(app, result);
     cli::addStateCommand(app, result);
     cli::addListCommands(app, result);
+    cli::addEffectsCommand(app, result);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -1,0 +1,229 @@
+#include "effects/Presets.h"
+
+#include <filesystem>
+
+#include "formats/Installation.h"
+
+namespace tavrin {
+
+namespace {
+
+// The shadow lies in the background's buffers.
+void setShadow(SystemInfo& info, int kind) {
+    info.iHaveShadow = kind;
+    info.pBackgroundBitmapInfo->bScaleChange = true;
+}
+
+void placeShadow(SystemInfo& info, int rightLeft, int upDown, int scale, int blur) {
+    info.iSliderShadowRightLeft = rightLeft;
+    info.iSliderShadowUpDown = upDown;
+    info.iSliderShadowScale = scale;
+    info.iSliderShadowBlur = blur;
+    info.iSliderShadowTransparency = 500;
+    info.iSliderShadowBlack = 20;
+}
+
+void placeFloor(SystemInfo& info, int base, int skew, int room, int roomTransparency) {
+    info.iSliderShadowBase = base;
+    info.iSliderFloorBaseAngle = 500;
+    info.iSliderFloorSkew = skew;
+    info.iSliderVRoomRight = room;
+    info.iSliderVRoomLeft = room;
+    info.iSliderVRoomTransparency = roomTransparency;
+}
+
+constexpr Preset kShadows[] = {
+    {"none", "no shadow", [](SystemInfo& info) { setShadow(info, 1); }},
+    {"wall", "on a wall behind the subject, a little to the side",
+     [](SystemInfo& info) {
+         setShadow(info, 5);
+         placeShadow(info, 550, 480, 520, 300);
+         info.iSliderVRoomRight = info.iSliderVRoomLeft = info.iSliderVRoomTransparency = 0;
+         info.iCheckShadowBehind = 1;
+     }},
+    {"floor", "on the floor, from the feet",
+     [](SystemInfo& info) {
+         setShadow(info, 2);
+         placeShadow(info, 500, 500, 300, 250);
+         placeFloor(info, 520, 525, 1000, 0);
+     }},
+    {"floor-wall", "over the floor and up a wall",
+     [](SystemInfo& info) {
+         setShadow(info, 3);
+         placeShadow(info, 500, 500, 500, 250);
+         placeFloor(info, 600, 700, 300, 800);
+         info.bCheckShowBaseline = 1;
+     }},
+};
+
+constexpr Preset kReflections[] = {
+    {"none", "no reflection", [](SystemInfo& info) { info.bHaveReflection = false; }},
+    {"on", "as on calm water",
+     [](SystemInfo& info) {
+         info.bHaveReflection = true;
+         info.iSliderReflectionScale = 75;
+         info.iSliderReflectionSkew = 50;
+         info.iSliderReflectionSkewBase = 25;
+         info.iSliderReflectionRippleHeight = 20;
+         info.iSliderReflectionTransparency = 60;
+     }},
+};
+
+struct Light {
+    int mode, x, y, angle, size, start, end, applyTo;
+};
+
+void setLight(SystemInfo& info, const Light& light) {
+    info.iLightingMode = light.mode;
+    info.iLightingSliderXLoc = light.x;
+    info.iLightingSliderYLoc = light.y;
+    info.iLightingSliderAngle = light.angle;
+    info.iLightingSliderSize = light.size;
+    info.iLightingSliderStartLight = light.start;
+    info.iLightingSliderEndLight = light.end;
+    info.iLightingApplyTo = light.applyTo;
+}
+
+constexpr int kForegroundOnly = 1, kBackgroundOnly = 2, kBoth = 3;
+
+constexpr Preset kLights[] = {
+    {"none", "no light", [](SystemInfo& info) { info.iLightingMode = 0; }},
+    {"sheet", "brighter at one side, darker at the other",
+     [](SystemInfo& info) {
+         setLight(info, {1, 100, 100, 30, 100, 58, 38, kBoth});
+     }},
+    {"circle", "a spot of light behind the head",
+     [](SystemInfo& info) {
+         setLight(info, {2, 200, 130, 0, 120, 62, 50, kBackgroundOnly});
+     }},
+    {"cone", "a beam from the side",
+     [](SystemInfo& info) {
+         setLight(info, {3, 50, 50, 45, 100, 62, 50, kBoth});
+     }},
+    {"glow", "a halo around the subject",
+     [](SystemInfo& info) {
+         setLight(info, {4, 100, 100, 0, 60, 50, 66, kBoth});
+     }},
+};
+
+constexpr Preset kStars[] = {
+    {"none", "no stars", [](SystemInfo& info) { info.bStarFilerTurnOn = false; }},
+    {"on", "six slender arms on each light",
+     [](SystemInfo& info) {
+         info.bStarFilerTurnOn = true;
+         info.bStarFilterShowSelected = false;
+         info.iStarFilterBrightLightThreshold = 225;
+         info.iStarFilterMaxArea = 3;
+         info.iStarFilterWidth = 35;
+         info.iStarFilterSize = 60;
+         info.iStarFilterNumberOfPoints = 6;
+         info.iStarFilterStartingAngle = 15;
+     }},
+};
+
+void setSmoothing(SystemInfo& info, int mode) {
+    info.iGlobalSmoothingMode = mode;
+    if (mode != 0) info.iGlobalSmoothingLambda = 60;
+    info.pForegroundBitmapInfo->bScaleChange = true;
+}
+
+constexpr Preset kSmoothings[] = {
+    {"none", "no smoothing", [](SystemInfo& info) { setSmoothing(info, 0); }},
+    {"foreground", "the subject, before the key", [](SystemInfo& info) { setSmoothing(info, 1); }},
+    {"result", "the finished picture", [](SystemInfo& info) { setSmoothing(info, 2); }},
+};
+
+void useTexture(SystemInfo& info, const std::string& path) {
+    info.oImageTexture->sTextureFileName = path;
+    info.oImageTexture->bHaveTexture = true;
+}
+
+constexpr Preset kTextures[] = {
+    {"none", "no texture",
+     [](SystemInfo& info) {
+         info.oImageTexture->bHaveTexture = false;
+         info.oImageTexture->sTextureFileName = "";
+     }},
+    {"canvas", "a painter's canvas",
+     [](SystemInfo& info) { useTexture(info, shippedPicture("Texture/Canvas.jpg")); }},
+    {"linen", "finely woven linen", [](SystemInfo& info) { useTexture(info, shippedPicture("Texture/Linen.jpg")); }},
+    {"paper", "rough drawing paper", [](SystemInfo& info) { useTexture(info, shippedPicture("Texture/Paper.jpg")); }},
+};
+
+void setCartoon(SystemInfo& info, int type, int width, int smoothing) {
+    info.iCartoonEffectType = type;
+    info.iSliderCartoonEffectWidth = width;
+    info.iSliderCartoonEffectSmoothing = smoothing;
+}
+
+constexpr Preset kCartoons[] = {
+    {"none", "no drawing", [](SystemInfo& info) { info.iCartoonEffectType = 0; }},
+    {"cartoon", "black lines and strong colours", [](SystemInfo& info) { setCartoon(info, 1, 15, 95); }},
+    {"grey", "a soft pencil sketch", [](SystemInfo& info) { setCartoon(info, 2, 40, 20); }},
+    {"pencil", "hatched with a pencil", [](SystemInfo& info) { setCartoon(info, 3, 40, 20); }},
+    {"parchment", "hatched on old parchment", [](SystemInfo& info) { setCartoon(info, 4, 40, 20); }},
+};
+
+constexpr Preset kFrames[] = {
+    {"none", "no frame", [](SystemInfo& info) { info.oFrame->iFrameType = 0; }},
+    {"square", "along the four sides", [](SystemInfo& info) { info.oFrame->iFrameType = 1; }},
+    {"oval", "around an oval", [](SystemInfo& info) { info.oFrame->iFrameType = 2; }},
+    {"heart", "around a heart", [](SystemInfo& info) { info.oFrame->iFrameType = 3; }},
+    {"jagged", "with teeth like torn paper", [](SystemInfo& info) { info.oFrame->iFrameType = 4; }},
+};
+
+constexpr Preset kFrameFills[] = {
+    {"colour", "one colour, black unless it is set", [](SystemInfo& info) { info.oFrame->iFrameMode = 1; }},
+    {"blur", "the picture itself, blurred", [](SystemInfo& info) { info.oFrame->iFrameMode = 2; }},
+    {"background", "the background without the subject", [](SystemInfo& info) { info.oFrame->iFrameMode = 3; }},
+};
+
+void useFramePicture(SystemInfo& info, const std::string& path) {
+    info.oFrame->iFrameMode = 4;
+    info.oFrame->sFrameImagePath = path;
+}
+
+constexpr PresetGroup kGroups[] = {
+    {"shadow", "The subject's shadow on the background", kShadows, nullptr, true, true},
+    {"reflection", "The subject mirrored below a line", kReflections},
+    {"lighting", "Light laid over the picture", kLights, nullptr, true, true},
+    {"star", "Stars on small bright lights", kStars},
+    {"smooth", "Smoothing that keeps the edges", kSmoothings},
+    {"texture", "The surface that the picture seems to be on", kTextures, useTexture},
+    {"cartoon", "The picture as a drawing", kCartoons, nullptr, false},
+    {"frame", "A border around the picture", kFrames},
+    {"frame-fill", "What the frame is filled with", kFrameFills, useFramePicture},
+};
+
+}  // namespace
+
+std::span<const PresetGroup> presetGroups() {
+    return kGroups;
+}
+
+const PresetGroup* findPresetGroup(const std::string& name) {
+    for (const PresetGroup& group : kGroups) {
+        if (name == group.name) return &group;
+    }
+    return nullptr;
+}
+
+std::string applyPreset(SystemInfo& info, const PresetGroup& group, const std::string& name) {
+    for (const Preset& preset : group.presets) {
+        if (name != preset.name) continue;
+        preset.apply(info);
+        return "";
+    }
+    std::error_code ignored;
+    if (group.applyFile && std::filesystem::is_regular_file(name, ignored)) {
+        group.applyFile(info, name);
+        return "";
+    }
+    std::string problem = "There is no " + std::string(group.name) + " \"" + name + "\"; there are ";
+    for (const Preset& preset : group.presets)
+        problem += std::string(preset.name) + ", ";
+    problem.resize(problem.size() - 2);
+    return problem + (group.applyFile ? ", and any picture file." : ".");
+}
+
+}  // namespace tavrin

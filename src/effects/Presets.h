@@ -1,0 +1,40 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "core/state/SystemInfo.h"
+
+namespace tavrin {
+
+/// A look of an effect: it writes the fields that make it and raises the flags of the layers that must be made anew.
+/// The caller asks for the picture (`StartUpdate`).
+struct Preset {
+    const char* name;  ///< one lower-case word, as typed on the command line
+    const char* description;
+    void (*apply)(SystemInfo& info);
+};
+
+/// The looks of one effect. The first one is "none", which takes the effect away, unless the group only says how
+/// another one looks.
+struct PresetGroup {
+    const char* name;
+    const char* description;
+    std::span<const Preset> presets;
+    /// For groups that also take a picture file of the user's own; null for the others.
+    void (*applyFile)(SystemInfo& info, const std::string& path) = nullptr;
+    bool inPreview = true;     ///< the preview shows it, not the full picture alone
+    bool inShortPath = false;  ///< `loadAndCombineFiles` draws it
+};
+
+/// Every group, in the order in which people read about them.
+std::span<const PresetGroup> presetGroups();
+
+/// The group of that name; null when there is none.
+const PresetGroup* findPresetGroup(const std::string& name);
+
+/// Applies the look of that name, or the picture file where the group takes one.
+/// @return "" when done; otherwise one plain line that names what there is, and nothing is changed
+std::string applyPreset(SystemInfo& info, const PresetGroup& group, const std::string& name);
+
+}  // namespace tavrin

@@ -1,0 +1,88 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <set>
+
+#include "core/Places.h"
+#include "core/state/SettingNames.h"
+#include "effects/Presets.h"
+#include "support/Files.h"
+#include "support/TestData.h"
+
+namespace tavrin {
+namespace {
+
+class PresetsTest : public testing::Test {
+  protected:
+    PresetsTest() { Places::current().setPicturesFolder(folder_.path().string()); }
+    ~PresetsTest() override { Places::current().setPicturesFolder(pictures_); }
+
+    static std::string apply(SystemInfo& info, const std::string& group, const std::string& name) {
+        return applyPreset(info, *findPresetGroup(group), name);
+    }
+
+    test::TempFolder folder_;
+    const std::string pictures_ = Places::current().picturesFolder();
+};
+
+TEST_F(PresetsTest, EveryLookDiffersFromTheOthersAndNoneTakesItAway) {
+    std::set<std::string> groups;
+    for (const PresetGroup& group : presetGroups()) {
+        EXPECT_TRUE(groups.insert(group.name).second) << group.name;
+        std::set<std::vector<std::pair<std::string, std::string>>> looks;
+        for (const Preset& preset : group.presets) {
+            SystemInfo info;
+            preset.apply(info);
+            EXPECT_TRUE(looks.insert(listFields(info)).second) << group.name << " " << preset.name;
+        }
+    }
+    SystemInfo info;
+    for (const PresetGroup& group : presetGroups()) {
+        EXPECT_EQ(applyPreset(info, group, group.presets.back().name), "");
+        applyPreset(info, group, "none");
+    }
+    EXPECT_EQ(info.iHaveShadow, 1);
+    EXPECT_FALSE(info.bHaveReflection || info.bStarFilerTurnOn || info.oImageTexture->bHaveTexture);
+    EXPECT_EQ(info.iLightingMode + info.iGlobalSmoothingMode + info.iCartoonEffectType + info.oFrame->iFrameType, 0);
+}
+
+TEST_F(PresetsTest, TheLayerThatHoldsAnEffectIsMadeAnew) {
+    SystemInfo info;
+    EXPECT_EQ(apply(info, "shadow", "floor-wall"), "");
+    EXPECT_EQ(info.iHaveShadow, 3);
+    EXPECT_EQ(info.iSliderFloorSkew, 700);
+    EXPECT_EQ(info.bCheckShowBaseline, 1);
+    EXPECT_TRUE(info.pBackgroundBitmapInfo->bScaleChange.exchange(false));
+    EXPECT_EQ(apply(info, "shadow", "none"), "");
+    EXPECT_TRUE(info.pBackgroundBitmapInfo->bScaleChange);
+    EXPECT_FALSE(info.pForegroundBitmapInfo->bScaleChange);
+    EXPECT_EQ(apply(info, "smooth", "foreground"), "");
+    EXPECT_TRUE(info.pForegroundBitmapInfo->bScaleChange);
+}
+
+TEST_F(PresetsTest, ShippedTexturesLieInTheUsersFolderAndOwnFilesAreTaken) {
+    SystemInfo info;
+    EXPECT_EQ(apply(info, "texture", "linen"), "");
+    EXPECT_EQ(info.oImageTexture->sTextureFileName.load(), folder_.file("Texture/Linen.jpg"));
+    EXPECT_GT(std::filesystem::file_size(folder_.file("Texture/Linen.jpg")), 1000U);
+    // A user's own file of that name stays.
+    test::writeFile(folder_.file("Texture/Canvas.jpg"), "mine");
+    EXPECT_EQ(apply(info, "texture", "canvas"), "");
+    EXPECT_EQ(test::readFile(folder_.file("Texture/Canvas.jpg")), "mine");
+
+    EXPECT_EQ(apply(info, "frame-fill", folder_.file("Texture/Linen.jpg")), "");
+    EXPECT_EQ(info.oFrame->iFrameMode, 4);
+    EXPECT_EQ(info.oFrame->sFrameImagePath.load(), folder_.file("Texture/Linen.jpg"));
+}
+
+TEST_F(PresetsTest, AnUnknownNameChangesNothingAndTellsWhatThereIs) {
+    SystemInfo info;
+    const auto before = listFields(info);
+    EXPECT_EQ(apply(info, "shadow", "flor"), "There is no shadow \"flor\"; there are none, wall, floor, floor-wall.");
+    EXPECT_NE(apply(info, "texture", folder_.file("gone.jpg")).find("any picture file"), std::string::npos);
+    EXPECT_NE(apply(info, "frame", folder_.path().string()), "");
+    EXPECT_EQ(listFields(info), before);
+    EXPECT_EQ(findPresetGroup("shadows"), nullptr);
+}
+
+}  // namespace
+}  // namespace tavrin
