@@ -1,6 +1,7 @@
 #include "pipeline/Stages.h"
 
 #include "core/raster/BlurBitmap.h"
+#include "core/text/TextLayers.h"
 #include "key/BaseGreen.h"
 #include "key/Combine.h"
 #include "key/HairDetect.h"
@@ -52,6 +53,42 @@ void blurResult(SystemInfo& info, int res) {
     const PassGeometry g = info.geometry(res);
     BlurBitmap(info, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi,
                info.iSliderForegroundThreshold, info.dSliderForegroundBlur);
+}
+
+BitmapContext* contextOf(const BitmapInfo& record, int res) {
+    return res == kFullRes ? record.oBitmapRep.get() : record.oBitmapRepLowRes.get();
+}
+
+void textBackground(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pBackgroundBitmapInfo, res), "Background", res);
+}
+
+void overlayBackground(SystemInfo& info, int res) {
+    DrawOverlayImage(info, contextOf(*info.pBackgroundBitmapInfo, res), info.sBackgroundOverlay, res);
+}
+
+void textBackgroundLayer(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pBackgroundBitmapInfo, res), "Background Layer", res);
+}
+
+void textForeground(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground", res);
+}
+
+void overlayForeground(SystemInfo& info, int res) {
+    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sForegroundOverlay, res);
+}
+
+void textForegroundLayer(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground Layer", res);
+}
+
+void overlayFrame(SystemInfo& info, int res) {
+    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sFrameOverlay, res);
+}
+
+void textFrameLayer(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Frame Layer", res);
 }
 
 bool always(const SystemInfo&) {
@@ -116,9 +153,9 @@ constexpr Stage kForeground[] = {
 constexpr Stage kBackground[] = {
     {"shadow", hasShadow, nullptr},
     {"background blur", blursBackground, blurBackground},
-    {"text Background", always, nullptr},
-    {"background overlay", hasBackgroundOverlay, nullptr},
-    {"text Background Layer", always, nullptr},
+    {"text Background", always, textBackground},
+    {"background overlay", hasBackgroundOverlay, overlayBackground},
+    {"text Background Layer", always, textBackgroundLayer},
 };
 
 // The two orders. What the preview leaves out (edges, skin, sketch) shows at full size only; texture, final blur and
@@ -131,11 +168,11 @@ constexpr Stage kPreview[] = {
     {"reflection", hasReflection, nullptr},
     {"texture", hasTexture, nullptr},
     {"final blur", blursResult, blurResult},
-    {"text Foreground", always, nullptr},
-    {"foreground overlay", hasForegroundOverlay, nullptr},
-    {"text Foreground Layer", always, nullptr},
-    {"frame overlay picture", hasFrameOverlayPicture, nullptr},
-    {"text Frame Layer", always, nullptr},
+    {"text Foreground", always, textForeground},
+    {"foreground overlay", hasForegroundOverlay, overlayForeground},
+    {"text Foreground Layer", always, textForegroundLayer},
+    {"frame overlay picture", hasFrameOverlayPicture, overlayFrame},
+    {"text Frame Layer", always, textFrameLayer},
     {"frame", hasFrame, nullptr},
     {"second frame", hasSecondFrame, nullptr},
     {"smoothing of the result", smoothsResult, nullptr},
@@ -146,16 +183,16 @@ constexpr Stage kFull[] = {
     {"reflection", hasReflection, nullptr},
     {"edges", blendsEdges, blendEdges},
     {"stars", hasStars, nullptr},
-    {"text Foreground", always, nullptr},
-    {"foreground overlay", hasForegroundOverlay, nullptr},
-    {"text Foreground Layer", always, nullptr},
-    {"frame overlay picture", hasFrameOverlayPicture, nullptr},
+    {"text Foreground", always, textForeground},
+    {"foreground overlay", hasForegroundOverlay, overlayForeground},
+    {"text Foreground Layer", always, textForegroundLayer},
+    {"frame overlay picture", hasFrameOverlayPicture, overlayFrame},
     {"skin", smoothsSkin, smoothSkin},
     {"smoothing of the result", smoothsResult, nullptr},
     {"texture", hasTexture, nullptr},
     {"sketch", isCartoon, nullptr},
     {"final blur", blursResult, blurResult},
-    {"text Frame Layer", always, nullptr},
+    {"text Frame Layer", always, textFrameLayer},
     {"frame", hasFrame, nullptr},
     {"second frame", hasSecondFrame, nullptr},
 };
@@ -163,12 +200,12 @@ constexpr Stage kFull[] = {
 // A plain keyed picture with text and overlays; everything else is left out for speed.
 constexpr Stage kFast[] = {
     {"combine", always, combine},
-    {"text Foreground", always, nullptr},
-    {"foreground overlay", hasForegroundOverlay, nullptr},
-    {"text Foreground Layer", always, nullptr},
-    {"frame overlay picture", hasFrameOverlayPicture, nullptr},
+    {"text Foreground", always, textForeground},
+    {"foreground overlay", hasForegroundOverlay, overlayForeground},
+    {"text Foreground Layer", always, textForegroundLayer},
+    {"frame overlay picture", hasFrameOverlayPicture, overlayFrame},
     {"final blur", blursResult, blurResult},
-    {"text Frame Layer", always, nullptr},
+    {"text Frame Layer", always, textFrameLayer},
 };
 
 struct HairPreset {
