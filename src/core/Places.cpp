@@ -47,7 +47,7 @@ bool Places::usePrivateTempFiles() {
 
 std::string Places::createFolders() const {
     for (const std::string& folder :
-         {xmlFolder(), tempFilesFolder(), samplesFolder(), textIconsFolder(), sketchFolder()}) {
+         {xmlFolder(), tempFilesFolder(), samplesFolder(), textIconsFolder(), overlaysFolder(), sketchFolder()}) {
         if (!QDir().mkpath(QString::fromStdString(folder))) return "The folder " + folder + " cannot be made.";
     }
     return "";
