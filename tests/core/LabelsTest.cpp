@@ -30,11 +30,11 @@ TEST_F(LabelsTest, StandAtTheirPlaces) {
         const char* location;
         double left, right, top, bottom;  // of the picture's size; below 0: not told by the place
     } places[] = {
-        {"Top Left", 0.03125, -1, 0.0417, -1},      {"Top Center", -1, -1, 0.0417, -1},
-        {"Top Right", -1, 0.96875, 0.0417, -1},     {"Center Left", 0.03125, -1, -1, 0.5},
-        {"Center Center", -1, -1, -1, 0.5},         {"Center Right", -1, 0.96875, -1, 0.5},
-        {"Bottom Left", 0.03125, -1, -1, 0.9583},   {"Bottom Center", -1, -1, -1, 0.9583},
-        {"Bottom Right", -1, 0.96875, -1, 0.9583},  {"ABSOLUTE", 0.25, -1, -1, 0.5},
+        {"Top Left", 0.03125, -1, 0.0417, -1},     {"Top Center", -1, -1, 0.0417, -1},
+        {"Top Right", -1, 0.96875, 0.0417, -1},    {"Center Left", 0.03125, -1, -1, 0.5},
+        {"Center Center", -1, -1, -1, 0.5},        {"Center Right", -1, 0.96875, -1, 0.5},
+        {"Bottom Left", 0.03125, -1, -1, 0.9583},  {"Bottom Center", -1, -1, -1, 0.9583},
+        {"Bottom Right", -1, 0.96875, -1, 0.9583}, {"ABSOLUTE", 0.25, -1, -1, 0.5},
     };
     for (const int res : {0, 1}) {
         const PassGeometry size = page_.info->geometry(res);
@@ -119,8 +119,8 @@ TEST_F(LabelsTest, AWideTextIsCutAtTheLeft) {
 
 TEST_F(LabelsTest, TakeSizeAndColourFromTheirNames) {
     SystemInfo& info = *page_.info;
-    const std::pair<const char*, int> sizes[] = {{"X-Large", 60}, {"Large", 40}, {"Medium", 25}, {"Small", 12},
-                                                 {"Huge", 33}};
+    const std::pair<const char*, int> sizes[] = {
+        {"X-Large", 60}, {"Large", 40}, {"Medium", 25}, {"Small", 12}, {"Huge", 33}};
     for (const auto& [name, points] : sizes) {
         info.oFontLabelObject[0].sLabelSize = name;
         info.oFontLabelObject[0].iFontSize = 33;

@@ -100,9 +100,9 @@ TEST_F(OverlaysTest, TransparentOutputKeepsTheColourOfSoftEdges) {
         p[2] = static_cast<std::uint8_t>(b);
         p[3] = static_cast<std::uint8_t>(a);
     };
-    set(combined.pBitmapData, 155, 155, 155, 0);        // empty
-    set(combined.pBitmapData + 4, 0, 200, 0, 255);      // the subject
-    set(combined.pBitmapData + 8, 0, 200, 0, 100);      // its edge
+    set(combined.pBitmapData, 155, 155, 155, 0);    // empty
+    set(combined.pBitmapData + 4, 0, 200, 0, 255);  // the subject
+    set(combined.pBitmapData + 8, 0, 200, 0, 100);  // its edge
     DrawOverlayImage(info, page_.context(1), save("half.png", 8, 6, QColor(255, 0, 0, 128), Qt::transparent), 1);
     const auto near = [&](int x, int r, int g, int b, int a) {
         const std::uint8_t* p = page_.pixel(1, x, 0);

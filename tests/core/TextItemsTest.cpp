@@ -179,17 +179,21 @@ TEST_F(TextItemsTest, DrawingLeavesAnOpaquePictureOpaqueOnAnyThread) {
 }
 
 TEST_F(TextItemsTest, ExtremeValuesOfAFieldHurtNobody) {
-    const double kWild[] = {-1e300, -1.0, 0.0, 1e-9, 1e9, 1e300};
+    const auto draw = [&](const auto& set) {
+        page_.info->oFontObject.clear();
+        FontObject& item = page_.add("Ag 😀", 20);
+        item.iFontOutlineThickness = -3;
+        item.iFontDropShadowRadius = 5;
+        set(item);
+        DrawTextAtLevel(*page_.info, page_.context(0), "Frame Layer", 0);
+    };
     for (const auto& leaf : FontObject::leaves()) {
-        for (std::size_t i = 0; i < std::size(kWild); ++i) {
-            page_.info->oFontObject.clear();
-            FontObject& item = page_.add("Ag 😀");
-            item.iFontOutlineThickness = -3;
-            item.iFontDropShadowRadius = 5;
-            if (const auto* number = std::get_if<Field<double> FontObject::*>(&leaf.member)) item.*(*number) = kWild[i];
-            if (const auto* whole = std::get_if<Field<std::int32_t> FontObject::*>(&leaf.member))
-                item.*(*whole) = test::kExtremes[i];
-            page_.draw(i % 2);
+        if (const auto* member = std::get_if<Field<double> FontObject::*>(&leaf.member)) {
+            for (const double value : {-1e300, 0.0, 1e-9, 1e6, 1e300})
+                draw([&](FontObject& item) { item.*(*member) = value; });
+        } else if (const auto* whole = std::get_if<Field<std::int32_t> FontObject::*>(&leaf.member)) {
+            for (const int value : test::kExtremes)
+                draw([&](FontObject& item) { item.*(*whole) = value; });
         }
     }
 }

@@ -29,10 +29,10 @@ TEST(Emoji, SpansCoverWholeSequencesAndLoseTheirSelectors) {
     } cases[] = {
         {"plain 1 © ★", "plain 1 © ★", {}},
         {"a😀b", "a😀b", {{1, 2}}},
-        {"❤️", "❤", {{0, 1}}},             // a symbol made a picture
-        {"😀︎", "😀︎", {}},                   // a picture made a symbol: nothing to do, nothing taken
-        {"1️⃣!", "1⃣!", {{0, 2}}},          // a keycap
-        {"🇩🇪🇫🇷", "🇩🇪🇫🇷", {{0, 8}}},           // flags are pairs of letters
+        {"❤️", "❤", {{0, 1}}},     // a symbol made a picture
+        {"😀︎", "😀︎", {}},    // a picture made a symbol: nothing to do, nothing taken
+        {"1️⃣!", "1⃣!", {{0, 2}}},  // a keycap
+        {"🇩🇪🇫🇷", "🇩🇪🇫🇷", {{0, 8}}},    // flags are pairs of letters
         {"👍🏽 👩‍⚕️", "👍🏽 👩‍⚕", {{0, 4}, {5, 4}}},  // skin, and a joined profession
     };
     for (const auto& c : cases) {

@@ -39,8 +39,8 @@ void drawEdge(QPainter& painter) {
 void drawRibbon(QPainter& painter) {
     const auto band = [&](double from, double to, const QBrush& brush) {
         painter.setBrush(brush);
-        painter.drawPolygon(QPolygonF({{0.0, kHeight - to}, {to, 1.0 * kHeight}, {from, 1.0 * kHeight},
-                                       {0.0, kHeight - from}}));
+        painter.drawPolygon(
+            QPolygonF({{0.0, kHeight - to}, {to, 1.0 * kHeight}, {from, 1.0 * kHeight}, {0.0, kHeight - from}}));
     };
     const QLinearGradient shine = gold({0.0, kHeight - 520.0}, {520.0, 1.0 * kHeight});
     QLinearGradient cloth(0.0, kHeight - 250.0, 250.0, 1.0 * kHeight);

@@ -22,9 +22,7 @@ QColor anyColor(Random& random) {
 void drawPennants(QPainter& painter, const QPointF& from, const QPointF& to, std::size_t firstColor) {
     constexpr int kCount = 7;
     constexpr double kSag = 90.0;
-    const auto cord = [&](double t) {
-        return from + (to - from) * t + QPointF(0.0, kSag * 4.0 * t * (1.0 - t));
-    };
+    const auto cord = [&](double t) { return from + (to - from) * t + QPointF(0.0, kSag * 4.0 * t * (1.0 - t)); };
     QPainterPath line(from);
     line.quadTo((from + to) * 0.5 + QPointF(0.0, 2.0 * kSag), to);
     painter.setBrush(Qt::NoBrush);
@@ -86,7 +84,8 @@ QImage drawPartyLights() {
     Random random(98);
     for (int i = 0; i < 40; ++i) {
         const QPointF at(random.between(0.0, kWidth), random.between(-0.05, 0.85) * kHeight);
-        drawLight(painter, at, random.between(36.0, 120.0), anyColor(random).lighter(120), random.between(0.18, 0.45));
+        drawLight(painter, at, random.between(36.0, 120.0), anyColor(random).lighter(120),
+                  random.between(0.18, 0.45));
     }
     painter.end();
     return picture;

@@ -48,8 +48,11 @@ QImage drawWinterFrame() {
     Random random(2412);
     drawFrostEdge(painter);
     drawEdgeCrystals(painter, random);
-    for (const auto& [x, y, size] : {std::tuple{150.0, 160.0, 150.0}, {330.0, 90.0, 64.0}, {90.0, 350.0, 56.0},
-                                     {kWidth - 160.0, kHeight - 170.0, 160.0}, {kWidth - 350.0, kHeight - 90.0, 70.0},
+    for (const auto& [x, y, size] : {std::tuple{150.0, 160.0, 150.0},
+                                     {330.0, 90.0, 64.0},
+                                     {90.0, 350.0, 56.0},
+                                     {kWidth - 160.0, kHeight - 170.0, 160.0},
+                                     {kWidth - 350.0, kHeight - 90.0, 70.0},
                                      {kWidth - 90.0, kHeight - 370.0, 60.0}}) {
         drawCrystal(painter, random, {x, y}, size, QColor(255, 255, 255, 240));
     }

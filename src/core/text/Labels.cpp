@@ -19,10 +19,10 @@ struct LabelPlace {
 };
 
 constexpr LabelPlace kPlaces[] = {
-    {"Top Left", Side::low, Side::high},         {"Top Center", Side::middle, Side::high},
-    {"Top Right", Side::high, Side::high},       {"Center Left", Side::low, Side::middle},
+    {"Top Left", Side::low, Side::high},           {"Top Center", Side::middle, Side::high},
+    {"Top Right", Side::high, Side::high},         {"Center Left", Side::low, Side::middle},
     {"Center Center", Side::middle, Side::middle}, {"Center Right", Side::high, Side::middle},
-    {"Bottom Left", Side::low, Side::low},       {"Bottom Center", Side::middle, Side::low},
+    {"Bottom Left", Side::low, Side::low},         {"Bottom Center", Side::middle, Side::low},
     {"Bottom Right", Side::high, Side::low},
 };
 
@@ -38,8 +38,8 @@ QPointF startOf(const FontObject& label, const PassGeometry& size, double textWi
     const double w = size.width, h = size.height, margin = size.dpi * 0.25;
     const std::string location = label.sLocation;
     if (location == "ABSOLUTE") return {label.xPos * w, label.yPos * h};
-    const auto* place = std::find_if(std::begin(kPlaces), std::end(kPlaces),
-                                     [&](const LabelPlace& p) { return location == p.name; });
+    const auto* place =
+        std::find_if(std::begin(kPlaces), std::end(kPlaces), [&](const LabelPlace& p) { return location == p.name; });
     // Both from the width: saved pictures depend on it.
     if (place == std::end(kPlaces)) return {w * 0.1, w * 0.9};
     const double x = place->x == Side::low      ? margin

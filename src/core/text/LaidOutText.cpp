@@ -46,7 +46,8 @@ QStringList paragraphsOf(const std::string& text, bool singleLine) {
 
 // Asking such a font for outlines upsets its metrics, so it has to be known before.
 bool isInColour(const QRawFont& font) {
-    return !font.fontTable("CBLC").isEmpty() || !font.fontTable("COLR").isEmpty() || !font.fontTable("sbix").isEmpty();
+    return !font.fontTable("CBLC").isEmpty() || !font.fontTable("COLR").isEmpty() ||
+           !font.fontTable("sbix").isEmpty();
 }
 
 class Setter {
@@ -61,8 +62,10 @@ class Setter {
         const double lean = setting_.justify == 0 ? 0.0 : setting_.justify == 1 ? 0.5 : 1.0;
         for (Line& line : lines_)
             place(line, lean * (block - line.width));
-        text_.outlines.setFillRule(Qt::WindingFill);
-        text_.bounds |= text_.outlines.controlPointRect();
+        for (QPainterPath& piece : text_.outlines) {
+            piece.setFillRule(Qt::WindingFill);
+            text_.bounds |= piece.controlPointRect();
+        }
         text_.capHeight = QFontMetricsF(font_).capHeight();
         return std::move(text_);
     }
@@ -124,10 +127,23 @@ class Setter {
                     text_.pictures.push_back({font, glyphs[i], position});
                     text_.bounds |= font.boundingRect(glyphs[i]).translated(position);
                 } else {
-                    text_.outlines.addPath(font.pathForGlyph(glyphs[i]).translated(position));
+                    addOutline(font.pathForGlyph(glyphs[i]).translated(position));
                 }
             }
         }
+    }
+
+    // To the piece that it touches; a mark may stand a glyph away from its letter.
+    void addOutline(const QPainterPath& outline) {
+        if (outline.isEmpty()) return;
+        constexpr std::size_t kBack = 3;
+        std::vector<QPainterPath>& pieces = text_.outlines;
+        const std::size_t oldest = pieces.size() > kBack ? pieces.size() - kBack : 0;
+        for (std::size_t i = pieces.size(); i-- > oldest;) {
+            if (pieces[i].controlPointRect().intersects(outline.controlPointRect()))
+                return pieces[i].addPath(outline);
+        }
+        pieces.push_back(outline);
     }
 
     // A box is as wide as its longest line, which must fit in it again in spite of roundings.

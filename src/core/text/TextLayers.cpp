@@ -64,8 +64,7 @@ bool hasShadow(const FontObject& item) {
 // Offsets and radius are in points at the item's scale, upward and to the right.
 TextShadow shadowOf(const FontObject& item, double scaleX, double scaleY) {
     TextShadow shadow;
-    shadow.color =
-        colorOf(item.dFontDropshadowGlowRed, item.dFontDropshadowGlowGreen, item.dFontDropshadowGlowBlue);
+    shadow.color = colorOf(item.dFontDropshadowGlowRed, item.dFontDropshadowGlowGreen, item.dFontDropshadowGlowBlue);
     shadow.offset = QPointF(item.iFontDropShadowHorz * scaleX, -item.iFontDropShadowVert * scaleY);
     const double radius = atLeast(item.iFontDropShadowRadius, 0.0);
     shadow.sigma = radius / 2.0 * (std::abs(scaleX) + std::abs(scaleY)) / 2.0;

@@ -54,7 +54,8 @@ void tint(QImage& picture, const QColor& color) {
 }
 
 void paintPicture(QPainter& painter, const ColourGlyph& glyph, const QTransform& toDevice, const QColor& as) {
-    const double scale = std::max(std::hypot(toDevice.m11(), toDevice.m12()), std::hypot(toDevice.m21(), toDevice.m22()));
+    const double scale =
+        std::max(std::hypot(toDevice.m11(), toDevice.m12()), std::hypot(toDevice.m21(), toDevice.m22()));
     const double size = clampTo(std::ceil(scale * LaidOutText::kSize), 1.0, kLargestPicture);
     const double toUnits = LaidOutText::kSize / size;
     const QRectF box = glyph.font.boundingRect(glyph.index).translated(glyph.position);
@@ -80,7 +81,8 @@ std::vector<std::int32_t> coverageOf(const LaidOutText& text, QTransform toDevic
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     paintText(painter, text, toDevice * QTransform::fromTranslate(-area.x(), -area.y()), style);
     painter.end();
-    std::vector<std::int32_t> coverage(static_cast<std::size_t>(area.width()) * static_cast<std::size_t>(area.height()));
+    std::vector<std::int32_t> coverage(static_cast<std::size_t>(area.width()) *
+                                       static_cast<std::size_t>(area.height()));
     auto out = coverage.begin();
     for (int y = 0; y < mask.height(); ++y) {
         const std::uint8_t* row = mask.constScanLine(y);
@@ -142,12 +144,16 @@ void paintText(QPainter& painter, const LaidOutText& text, const QTransform& toD
     if (!reachOf(text, toDevice, style).intersects(QRectF(deviceRect(painter)))) return;
     painter.save();
     painter.setTransform(toDevice);
-    if (style.fill.isValid()) painter.fillPath(text.outlines, style.fill);
+    if (style.fill.isValid()) {
+        for (const QPainterPath& piece : text.outlines)
+            painter.fillPath(piece, style.fill);
+    }
     if (style.outline.isValid() && style.outlineWidth > 0.0) {
         QPen pen(style.outline, style.outlineWidth * LaidOutText::kSize);
         pen.setJoinStyle(Qt::SvgMiterJoin);
         pen.setMiterLimit(4.0);
-        painter.strokePath(text.outlines.simplified(), pen);  // joined letters have one outline
+        for (const QPainterPath& piece : text.outlines)
+            painter.strokePath(piece.simplified(), pen);  // joined letters have one outline
     }
     for (const ColourGlyph& glyph : text.pictures)
         paintPicture(painter, glyph, toDevice, style.picturesAs);
