@@ -101,7 +101,7 @@ std::string shippedPicture(const std::string& name, const Places& places) {
     const std::string path = places.picturesFolder() + name;
     std::error_code ignored;
     std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
-    const std::string problem = putShippedFile("Pictures/" + QString::fromStdString(name), path);
+    const std::string problem = putShippedFile("Pictures/" + name, path);
     if (!problem.empty()) logError(problem);
     return path;
 }
