@@ -25,7 +25,7 @@ using namespace tavrin;
 
 constexpr double kWidthInches = 4.0, kHeightInches = 5.0;
 constexpr int kDpi = 150;
-constexpr int kCellWidth = 216, kCellHeight = 270, kCaption = 20, kGap = 8, kColumns = 6;
+constexpr int kCellWidth = 208, kCellHeight = 260, kCaption = 20, kGap = 8, kColumns = 8;
 
 /// One picture of the sheet. A choice is group=preset or field=value, as on the command line; a value that begins
 /// with an @ is one of the pictures of `Sources` or, by its name, a shipped one.
@@ -45,9 +45,8 @@ const std::vector<Shot>& moreShots() {
         {"the lights found", {"star=on", "bStarFilterShowSelected=1", "background.sSourceImageFullPath=@lights"}},
         {"light on the subject only", {"lighting=sheet", "iLightingApplyTo=1"}},
         {"reflection on linen",
-         {"reflection=on", "reflectionTexture.bHaveTexture=1",
+         {"reflection=on", "foreground.fScale=0.6", "foreground.iOrgYoff=-20", "reflectionTexture.bHaveTexture=1",
           "reflectionTexture.sTextureFileName=@Texture/Linen.jpg"}},
-        {"frame of a picture", {"frame=square", "frame-fill=@background"}},
         {"frame with a texture",
          {"frame=square", "frame.iFrameColorRed=150", "frame.iFrameColorGreen=100", "frame.iFrameColorBlue=60",
           "frame.texture.bHaveTexture=1", "frame.texture.sTextureFileName=@Texture/Canvas.jpg"}},
@@ -59,6 +58,15 @@ const std::vector<Shot>& moreShots() {
     return shots;
 }
 
+// What makes the looks of a group visible on this portrait.
+std::vector<std::string> neededBy(const std::string& group) {
+    if (group == "shadow") return {"foreground.fScale=0.7", "foreground.iOrgYoff=-100"};
+    if (group == "reflection") return {"foreground.fScale=0.6", "foreground.iOrgYoff=-20"};
+    if (group == "star") return {"background.sSourceImageFullPath=@lights"};
+    if (group == "frame-fill") return {"frame=oval"};
+    return {};
+}
+
 std::vector<Shot> allShots() {
     std::vector<Shot> shots = {{"no effect", {}}};
     for (const PresetGroup& group : presetGroups()) {
@@ -67,8 +75,8 @@ std::vector<Shot> allShots() {
             if (preset.name == std::string("none")) continue;
             const bool isSwitch = preset.name == std::string("on");
             Shot shot = {"--" + name + (isSwitch ? "" : " " + std::string(preset.name)), {name + "=" + preset.name}};
-            if (name == "star") shot.choices.push_back("background.sSourceImageFullPath=@lights");
-            if (name == "frame-fill") shot.choices.push_back("frame=oval");
+            const std::vector<std::string> needed = neededBy(name);
+            shot.choices.insert(shot.choices.end(), needed.begin(), needed.end());
             shots.push_back(shot);
         }
     }
