@@ -13,6 +13,7 @@
 
 #include "core/RandomSource.h"
 #include "core/state/SettingNames.h"
+#include "core/text/TextLayers.h"
 #include "effects/Presets.h"
 #include "formats/Installation.h"
 #include "pipeline/CombineThread.h"
@@ -51,9 +52,22 @@ const std::vector<Shot>& moreShots() {
          {"frame=square", "frame.iFrameColorRed=150", "frame.iFrameColorGreen=100", "frame.iFrameColorBlue=60",
           "frame.texture.bHaveTexture=1", "frame.texture.sTextureFileName=@Texture/Canvas.jpg"}},
         {"arched oval", {"frame=oval", "frame.bFrameArch=1"}},
+        {"title and note",
+         {"label0.sText=Anna", "label0.sLabelSize=X-Large", "label1.sText=Summer 2026", "label1.sFontColor=White"}},
+        {"text with outline and shadow",
+         {"text0.sText=Anna", "text0.iFontSize=60", "text0.isBold=1", "text0.rectSizeWidth=220", "text0.xPos=0.2",
+          "text0.yPos=0.05", "text0.dFontFillBlue=0.3", "text0.iFontOutlineThickness=-3",
+          "text0.iFontDropShadowRadius=6", "text0.iFontDropShadowHorz=4", "text0.iFontDropShadowVert=-4"}},
         {"two frames",
          {"frame=oval", "frame.iFrameColorRed=240", "frame.iFrameColorGreen=235", "frame.iFrameColorBlue=225",
           "frameOverlay.iFrameType=1", "frameOverlay.iFrameThickness=4", "frameOverlay.iFrameFeather=0"}},
+        {"background blurred", {"dSliderBlur=0.06"}},
+        {"soft where nothing changes", {"dSliderForegroundBlur=0.04", "iSliderForegroundThreshold=20"}},
+        {"subject in black and white", {"iForegroundOutputMode=1"}},
+        {"background in sepia", {"iBackgroundOutputMode=2"}},
+        {"silhouette", {"bOutputSilhouette=1", "iSilhouetteRed=20", "iSilhouetteBlue=40"}},
+        {"skin smoothed, make-up",
+         {"iSmoothMode=1", "iRedRequired=60", "iColorDelta=30", "iNumberOfSamples=80", "iMakeup=30"}},
     };
     return shots;
 }
@@ -112,6 +126,7 @@ QImage take(const Shot& shot, const Sources& sources) {
         std::fprintf(stderr, "contact_sheet: %s: %s\n", shot.caption.c_str(), problem.c_str());
         return {};
     }
+    updateLabelSettings(*info);
     selectOwnSize(*info, "sheet", kWidthInches, kHeightInches, kDpi);
     ChangeImageSize(*info);
     CombineThread(*info).runUntilIdle();

@@ -46,8 +46,8 @@ bool Places::usePrivateTempFiles() {
 }
 
 std::string Places::createFolders() const {
-    for (const std::string& folder :
-         {xmlFolder(), tempFilesFolder(), samplesFolder(), textIconsFolder(), frameFolder(), sketchFolder()}) {
+    for (const std::string& folder : {xmlFolder(), tempFilesFolder(), samplesFolder(), textIconsFolder(),
+                                      frameFolder(), overlaysFolder(), sketchFolder()}) {
         if (!QDir().mkpath(QString::fromStdString(folder))) return "The folder " + folder + " cannot be made.";
     }
     return "";

@@ -24,6 +24,7 @@ class Places {
     std::string samplesFolder() const { return pictures_ + "Samples/"; }
     std::string textIconsFolder() const { return pictures_ + "EditTextIcons/"; }
     std::string frameFolder() const { return pictures_ + "FrameAndSilhouetteBackgrounds/"; }
+    std::string overlaysFolder() const { return pictures_ + "Overlays/"; }
     std::string textureFolder() const { return pictures_ + "Texture/"; }
     std::string sketchFolder() const { return textureFolder() + "Sketch/"; }
 

@@ -181,6 +181,31 @@ constexpr Preset kFrameFills[] = {
     {"velvet", "red velvet", [](SystemInfo& info) { useMaterial(info, "Velvet.jpg"); }},
 };
 
+/// Lays the pictures of a set over the layers; a set without a picture for a layer leaves that layer bare.
+void setOverlays(SystemInfo& info, const std::string& frame, const std::string& foreground,
+                 const std::string& background) {
+    const auto lay = [](Field<bool>& have, Field<std::string>& overlay, const std::string& name) {
+        have = !name.empty();
+        overlay = name.empty() ? "" : shippedPicture("Overlays/" + name);
+    };
+    lay(info.bHaveFrameOverlay, info.sFrameOverlay, frame);
+    lay(info.bHaveForegroundOverlay, info.sForegroundOverlay, foreground);
+    lay(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, background);
+    info.pBackgroundBitmapInfo->bScaleChange = true;
+}
+
+void setOverlaySet(SystemInfo& info, const std::string& name) {
+    setOverlays(info, "FR_" + name + ".png", "FG_" + name + ".png", "BG_" + name + ".png");
+}
+
+constexpr Preset kOverlays[] = {
+    {"none", "no overlays", [](SystemInfo& info) { setOverlays(info, "", "", ""); }},
+    {"gold", "a thin golden frame", [](SystemInfo& info) { setOverlays(info, "FR_Gold.png", "", ""); }},
+    {"graduation", "a set for graduations", [](SystemInfo& info) { setOverlaySet(info, "Graduation"); }},
+    {"winter", "a set for winter", [](SystemInfo& info) { setOverlaySet(info, "Winter"); }},
+    {"party", "a set for parties", [](SystemInfo& info) { setOverlaySet(info, "Party"); }},
+};
+
 constexpr PresetGroup kGroups[] = {
     {"shadow", "The subject's shadow on the background", kShadows, nullptr, true, true},
     {"reflection", "The subject mirrored below a line", kReflections},
@@ -191,6 +216,7 @@ constexpr PresetGroup kGroups[] = {
     {"cartoon", "The picture as a drawing", kCartoons, nullptr, false},
     {"frame", "A border around the picture", kFrames},
     {"frame-fill", "What the frame is filled with", kFrameFills, useFramePicture},
+    {"overlays", "Pictures laid over the background, the subject and the whole", kOverlays, nullptr, true, true},
 };
 
 }  // namespace

@@ -20,10 +20,10 @@ namespace tavrin {
 namespace {
 
 /// Puts a shipped file where there is none.
-std::string putShippedFile(const QString& shipped, const std::string& path) {
+std::string putShippedFile(const std::string& shipped, const std::string& path) {
     if (safeFileExists(path)) return "";
-    QFile source(":/shipped/" + shipped);
-    if (!source.open(QFile::ReadOnly)) return "The program was built without its file " + shipped.toStdString() + ".";
+    QFile source(QString::fromStdString(":/shipped/" + shipped));
+    if (!source.open(QFile::ReadOnly)) return "The program was built without its file " + shipped + ".";
     const std::string fresh = ownNameBeside(path);
     SafeSave save;
     save.begin(fresh, Readers::everyone);
@@ -33,7 +33,7 @@ std::string putShippedFile(const QString& shipped, const std::string& path) {
 }
 
 struct ShippedFile {
-    const char* name;  // in the program's resources
+    std::string name;  // in the program's resources
     std::string path;
 };
 
@@ -41,8 +41,14 @@ std::vector<ShippedFile> shippedLists(const Places& places) {
     return {{"ImageSize.xml", places.imageSizeFile()}, {"Printer.xml", places.printerFile()}};
 }
 
+// Overlays of one name belong together: "FR_" lies over all, "FG_" over the subject, "BG_" over the background.
+constexpr const char* kOverlays[] = {
+    "FR_Gold.png",   "FR_Graduation.png", "FG_Graduation.png", "BG_Graduation.png", "FR_Winter.png",
+    "FG_Winter.png", "BG_Winter.png",     "FR_Party.png",      "FG_Party.png",      "BG_Party.png",
+};
+
 std::vector<ShippedFile> shippedStart(const Places& places) {
-    return {
+    std::vector<ShippedFile> files = {
         {"Default.qlx", places.defaultStateFile()},
         {"sample/portrait.jpg", places.samplesFolder() + "portrait.jpg"},
         {"sample/background.jpg", places.samplesFolder() + "background.jpg"},
@@ -59,6 +65,9 @@ std::vector<ShippedFile> shippedStart(const Places& places) {
         {"Pictures/Texture/Sketch/PencilDenseCross.jpg", places.sketchFolder() + "PencilDenseCross.jpg"},
         {"Pictures/Texture/Sketch/lightParchment.jpg", places.sketchFolder() + "lightParchment.jpg"},
     };
+    for (const std::string name : kOverlays)
+        files.push_back({"Pictures/Overlays/" + name, places.overlaysFolder() + name});
+    return files;
 }
 
 void addLine(std::string& lines, const std::string& line) {
@@ -73,6 +82,7 @@ std::string putFirstSettings(const Places& places) {
     settings.sDefaultQLXFilePath = places.defaultStateFile();
     settings.sStartupFileForegroundPath = places.samplesFolder() + "portrait.jpg";
     settings.sStartupFileBackgroundPath = places.samplesFolder() + "background.jpg";
+    settings.sOverlayDir = places.overlaysFolder();
     return SaveQLXFile(settings, places.settingsFile());
 }
 

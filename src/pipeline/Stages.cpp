@@ -1,6 +1,7 @@
 #include "pipeline/Stages.h"
 
 #include "core/raster/BlurBitmap.h"
+#include "core/text/TextLayers.h"
 #include "effects/Frame.h"
 #include "effects/GlobalSmoothing.h"
 #include "effects/Reflection.h"
@@ -103,6 +104,42 @@ void reflect(SystemInfo& info, int res) {
                   pixelsOf(*info.pBackgroundBitmapInfo, res), pixelsOf(*info.pCombinedBitmapInfo, res));
 }
 
+BitmapContext* contextOf(const BitmapInfo& record, int res) {
+    return res == kFullRes ? record.oBitmapRep.get() : record.oBitmapRepLowRes.get();
+}
+
+void textBackground(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pBackgroundBitmapInfo, res), "Background", res);
+}
+
+void overlayBackground(SystemInfo& info, int res) {
+    DrawOverlayImage(info, contextOf(*info.pBackgroundBitmapInfo, res), info.sBackgroundOverlay, res);
+}
+
+void textBackgroundLayer(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pBackgroundBitmapInfo, res), "Background Layer", res);
+}
+
+void textForeground(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground", res);
+}
+
+void overlayForeground(SystemInfo& info, int res) {
+    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sForegroundOverlay, res);
+}
+
+void textForegroundLayer(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground Layer", res);
+}
+
+void overlayFrame(SystemInfo& info, int res) {
+    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sFrameOverlay, res);
+}
+
+void textFrameLayer(SystemInfo& info, int res) {
+    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Frame Layer", res);
+}
+
 bool always(const SystemInfo&) {
     return true;
 }
@@ -165,9 +202,9 @@ constexpr Stage kForeground[] = {
 constexpr Stage kBackground[] = {
     {"shadow", hasShadow, addShadow},  // before the blur and whatever is drawn on top
     {"background blur", blursBackground, blurBackground},
-    {"text Background", always, nullptr},
-    {"background overlay", hasBackgroundOverlay, nullptr},
-    {"text Background Layer", always, nullptr},
+    {"text Background", always, textBackground},
+    {"background overlay", hasBackgroundOverlay, overlayBackground},
+    {"text Background Layer", always, textBackgroundLayer},
 };
 
 // The two orders. What the preview leaves out (edges, skin, sketch) shows at full size only; texture, final blur and
@@ -180,11 +217,11 @@ constexpr Stage kPreview[] = {
     {"reflection", hasReflection, reflect},
     {"texture", hasTexture, addTexture},
     {"final blur", blursResult, blurResult},
-    {"text Foreground", always, nullptr},
-    {"foreground overlay", hasForegroundOverlay, nullptr},
-    {"text Foreground Layer", always, nullptr},
-    {"frame overlay picture", hasFrameOverlayPicture, nullptr},
-    {"text Frame Layer", always, nullptr},
+    {"text Foreground", always, textForeground},
+    {"foreground overlay", hasForegroundOverlay, overlayForeground},
+    {"text Foreground Layer", always, textForegroundLayer},
+    {"frame overlay picture", hasFrameOverlayPicture, overlayFrame},
+    {"text Frame Layer", always, textFrameLayer},
     {"frame", hasFrame, addFrame},
     {"second frame", hasSecondFrame, addSecondFrame},
     {"smoothing of the result", smoothsResult, smoothResult},
@@ -195,16 +232,16 @@ constexpr Stage kFull[] = {
     {"reflection", hasReflection, reflect},
     {"edges", blendsEdges, blendEdges},
     {"stars", hasStars, drawStars},
-    {"text Foreground", always, nullptr},
-    {"foreground overlay", hasForegroundOverlay, nullptr},
-    {"text Foreground Layer", always, nullptr},
-    {"frame overlay picture", hasFrameOverlayPicture, nullptr},
+    {"text Foreground", always, textForeground},
+    {"foreground overlay", hasForegroundOverlay, overlayForeground},
+    {"text Foreground Layer", always, textForegroundLayer},
+    {"frame overlay picture", hasFrameOverlayPicture, overlayFrame},
     {"skin", smoothsSkin, smoothSkin},
     {"smoothing of the result", smoothsResult, smoothResult},
     {"texture", hasTexture, addTexture},
     {"sketch", isCartoon, drawSketch},
     {"final blur", blursResult, blurResult},
-    {"text Frame Layer", always, nullptr},
+    {"text Frame Layer", always, textFrameLayer},
     {"frame", hasFrame, addFrame},
     {"second frame", hasSecondFrame, addSecondFrame},
 };
@@ -212,12 +249,12 @@ constexpr Stage kFull[] = {
 // A plain keyed picture with text and overlays; everything else is left out for speed.
 constexpr Stage kFast[] = {
     {"combine", always, combine},
-    {"text Foreground", always, nullptr},
-    {"foreground overlay", hasForegroundOverlay, nullptr},
-    {"text Foreground Layer", always, nullptr},
-    {"frame overlay picture", hasFrameOverlayPicture, nullptr},
+    {"text Foreground", always, textForeground},
+    {"foreground overlay", hasForegroundOverlay, overlayForeground},
+    {"text Foreground Layer", always, textForegroundLayer},
+    {"frame overlay picture", hasFrameOverlayPicture, overlayFrame},
     {"final blur", blursResult, blurResult},
-    {"text Frame Layer", always, nullptr},
+    {"text Frame Layer", always, textFrameLayer},
 };
 
 struct HairPreset {

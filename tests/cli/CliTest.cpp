@@ -86,6 +86,39 @@ TEST_F(CliTest, SettingsReachTheirFields) {
     EXPECT_NE(changed.pixel(120, 72), plain.pixel(120, 72));
 }
 
+TEST_F(CliTest, WritesTitlesAndItemsAndLaysOverlaysOn) {
+    QImage picture(4, 4, QImage::Format_ARGB32);
+    picture.fill(QColor(250, 0, 250));
+    const QString overlay = QString::fromStdString(test::savePng(picture, folder_.file("overlay.png")));
+    const auto render = [&](const char* name, const QStringList& more) {
+        const Outcome done = run(renderTo(file(name), size() + more));
+        EXPECT_EQ(done.code, 0) << done.err.toStdString();
+        EXPECT_EQ(done.err, "");
+        return QImage(file(name));
+    };
+    const QImage plain = render("a.png", {});
+    const QImage titled = render("b.png", {"--title", "Anna", "--note", "2031"});
+    EXPECT_NE(titled, plain);
+    EXPECT_NE(render("c.png", {"--title", "Anna", "--note", "2031", "--set", "label0.sLabelSize=Large"}), titled);
+    EXPECT_EQ(render("d.png", {"--set", "label0.sText=Anna", "--note", "2031", "--set", "label0.iFontSize=25",
+                               "--set", "label0.sLabelSize=Large"}),
+              titled)
+        << "a size in points wins over a name";
+    EXPECT_NE(render("e.png", {"--set", "text0.sText=Anna", "--set", "text0.xPos=1"}), plain);
+    const QImage framed = render("f.png", {"--overlay-background", overlay});
+    EXPECT_EQ(framed.pixelColor(5, 5), QColor(250, 0, 250));
+    EXPECT_EQ(framed.pixelColor(120, 72), plain.pixelColor(120, 72));
+    EXPECT_EQ(render("g.png", {"--overlay-frame", overlay}).pixelColor(120, 72), QColor(250, 0, 250));
+}
+
+TEST_F(CliTest, AMissingOverlayIsToldOnceAndThePictureIsStillMade) {
+    const Outcome outcome =
+        run(renderTo(file("o.png"), size() + QStringList{"--overlay-foreground", file("gone.png")}));
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.err.count("Cound not load file: gone.png, check your file permissions"), 1);
+    EXPECT_EQ(QImage(file("o.png")).size(), QSize(240, 144));
+}
+
 TEST_F(CliTest, WrongCallsAreToldInOneLineAndWriteNothing) {
     const struct {
         QStringList arguments;

@@ -57,8 +57,23 @@ TEST(SettingNames, WrongNameSuggestsTheNearest) {
     EXPECT_THAT(setField(info, "ishadowMode", "1"), HasSubstr("did you mean iShadowMode?"));
     EXPECT_THAT(setField(info, "iContrast", "1"), HasSubstr("did you mean foreground.iContrast?"));
     EXPECT_THAT(setField(info, "background.Brightness", "1"), HasSubstr("did you mean background.iBrightness?"));
-    EXPECT_THAT(setField(info, "text0.sText", "x"), HasSubstr("There is no field text0.sText"));
+    EXPECT_THAT(setField(info, "text1.sText", "x"), HasSubstr("There is no field text1.sText"));
     EXPECT_NE(setField(info, std::string(100'000, 'x'), "1"), "");
+}
+
+TEST(SettingNames, TheNextItemOfTheListIsAddedByNamingIt) {
+    SystemInfo info;
+    EXPECT_NE(setField(info, "text0.noSuch", "1"), "");
+    EXPECT_NE(setField(info, "text0.iFontSize", "big"), "");
+    EXPECT_EQ(info.iFontObjectCount(), 0) << "what cannot be set adds nothing";
+    EXPECT_EQ(setField(info, "text0.sText", "one"), "");
+    EXPECT_EQ(setField(info, "text0.iFontSize", "12"), "");
+    EXPECT_EQ(setField(info, "text1.sText", "two"), "");
+    EXPECT_NE(setField(info, "text3.sText", "four"), "") << "there is no third";
+    ASSERT_EQ(info.iFontObjectCount(), 2);
+    EXPECT_EQ(info.oFontObject[0].iFontSize, 12);
+    info.oFontObject.resize(TextState::kMaxFontObjects);
+    EXPECT_NE(setField(info, "text200.sText", "one too many"), "");
 }
 
 TEST(SettingNames, ListHoldsEveryNameOnceAndItsValuesCanBeSetAgain) {

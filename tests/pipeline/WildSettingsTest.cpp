@@ -33,12 +33,21 @@ class WildSettingsTest : public testing::Test {
         info->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
         info->bAdvancedHairDetectionON = true;
         info->iMacroHairColor = 6;
+        info->oFontLabelObject[0].sText = "Title";
+        info->oFontObject.resize(2);
+        info->oFontObject[0].sText = "Text <<date>>";
+        info->oFontObject[1].sText = background_;
+        info->oFontObject[1].isImage = true;
+        info->oFontObject[1].imageSizeWidth = info->oFontObject[1].imageSizeHeight = 20.0;
+        info->sFrameOverlay = overlay_;
+        info->bHaveFrameOverlay = true;
         return info;
     }
 
     test::TempFolder folder_;
     const std::string foreground_ = test::savePng(test::discOnScreen(50, 70), folder_.file("fg.png"));
     const std::string background_ = test::savePng(test::noisePicture(61, 43, 9), folder_.file("bg.png"));
+    const std::string overlay_ = test::savePng(QImage(7, 5, QImage::Format_ARGB32), folder_.file("overlay.png"));
 };
 
 TEST_F(WildSettingsTest, AWholePassBearsExtremeValuesOfManyFieldsAtOnce) {

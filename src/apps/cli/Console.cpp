@@ -40,7 +40,9 @@ void Console::showAlert(const std::string& message, const std::string& reason) {
     for (char& c : line) {
         if (c == '\n') c = ' ';
     }
-    complain(line + " (" + reason + ")");
+    line += " (" + reason + ")";
+    if (line != lastAlert_) complain(line);  // the preview and the full picture say the same
+    lastAlert_ = line;
 }
 
 void Console::clearProgress() {

@@ -23,7 +23,7 @@ class Console : public Interface {
     void repaint(const PublishedRows& rows) override;
     void showAlert(const std::string& message, const std::string& reason) override;
 
-    /// Something was shown that the work could not go on without.
+    /// Something was shown that is wrong with the picture.
     bool hadAlert() const { return hadAlert_; }
     /// Takes the progress line away.
     void clearProgress();
@@ -32,6 +32,7 @@ class Console : public Interface {
     const bool isTerminal_;
     bool lineShown_ = false;
     bool hadAlert_ = false;
+    std::string lastAlert_;
 };
 
 }  // namespace tavrin::cli

@@ -1,5 +1,6 @@
 #include "apps/cli/RenderCommand.h"
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cstdio>
@@ -16,6 +17,7 @@
 #include "core/Places.h"
 #include "core/RandomSource.h"
 #include "core/state/SystemInfo.h"
+#include "core/text/TextLayers.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
@@ -34,6 +36,8 @@ struct RenderOptions {
     std::string state, saveState;
     std::string sizeName, inches;
     int dpi = 0;
+    std::string title, note;
+    std::string backgroundOverlay, foregroundOverlay, frameOverlay;
     EffectOptions effects;
     std::optional<std::uint64_t> seed;
     std::vector<std::string> set;
@@ -81,11 +85,38 @@ Refusal applySources(SystemInfo& info, const RenderOptions& options) {
     return {};
 }
 
+void applyOverlays(SystemInfo& info, const RenderOptions& options) {
+    const auto use = [](Field<bool>& have, Field<std::string>& overlay, const std::string& path) {
+        if (path.empty()) return;
+        have = true;
+        overlay = path;
+    };
+    use(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, options.backgroundOverlay);
+    use(info.bHaveForegroundOverlay, info.sForegroundOverlay, options.foregroundOverlay);
+    use(info.bHaveFrameOverlay, info.sFrameOverlay, options.frameOverlay);
+}
+
+/// Whether the command line says anything about a label.
+bool changesLabels(const RenderOptions& options) {
+    return !options.title.empty() || !options.note.empty() ||
+           std::any_of(options.set.begin(), options.set.end(),
+                       [](const std::string& assignment) { return assignment.starts_with("label"); });
+}
+
 Refusal applySettings(SystemInfo& info, const RenderOptions& options) {
     if (options.blue) info.bUseBlueLogic = true;
     std::string problem = options.effects.leftOut(options.fast, options.preview);
     if (problem.empty()) problem = options.effects.apply(info);
-    if (problem.empty()) problem = applyAssignments(info, options.set);
+    if (!problem.empty()) return {kUsage, problem};
+    if (!options.title.empty()) info.oFontLabelObject[0].sText = options.title;
+    if (!options.note.empty()) info.oFontLabelObject[1].sText = options.note;
+    applyOverlays(info, options);
+    problem = applyAssignments(info, options.set);
+    if (problem.empty() && changesLabels(options)) {
+        // Sizes and colours by name come first; a number that was given beside them wins.
+        updateLabelSettings(info);
+        problem = applyAssignments(info, options.set);
+    }
     return problem.empty() ? Refusal() : Refusal{kUsage, problem};
 }
 
@@ -144,6 +175,10 @@ QJsonObject describe(const SystemInfo& info, const RenderOptions& options, doubl
     };
 }
 
+bool hasSources(const SystemInfo& info) {
+    return !info.pForegroundBitmapInfo->orgImage.isNull() && !info.pBackgroundBitmapInfo->orgImage.isNull();
+}
+
 int render(const RenderOptions& options) {
     const auto start = std::chrono::steady_clock::now();
     const auto info = std::make_unique<SystemInfo>();
@@ -159,7 +194,7 @@ int render(const RenderOptions& options) {
         return refusal.code;
     }
     compute(*info, options);
-    if (console.hadAlert()) return kFailed;
+    if (!hasSources(*info)) return kFailed;
 
     const int res = options.preview ? 0 : 1;
     if (!saveImageToDisk(*info, options.out, fileTypeForPath(options.out), res)) return kFailed;
@@ -177,7 +212,7 @@ int render(const RenderOptions& options) {
         const QByteArray text = QJsonDocument(describe(*info, options, taken.count())).toJson(QJsonDocument::Compact);
         std::printf("%s\n", text.constData());
     }
-    return kDone;
+    return console.hadAlert() ? kFailed : kDone;  // the picture is saved, but something in it is missing
 }
 
 constexpr const char* kExamples = R"(
@@ -192,7 +227,7 @@ Examples:
 
 The short options of the effects come first, so that --set refines them; "tavrin-cli effects" tells about each.
 Settings have the names of their fields; those of a layer have foreground., background. or combined. before them.
-Exit codes: 0 done, 1 the work failed, 2 wrong usage.)";
+Exit codes: 0 done, 1 the work failed or an overlay could not be read, 2 wrong usage.)";
 
 }  // namespace
 
@@ -209,6 +244,11 @@ void addRenderCommand(CLI::App& app, int& result) {
         command->add_option("--inches", options->inches, "Output size, width x height")->excludes(size);
     CLI::Option* dpi = command->add_option("--dpi", options->dpi, "Dots an inch, with --inches")->needs(inches);
     inches->needs(dpi);
+    command->add_option("--title", options->title, "Text of the title (label 0)");
+    command->add_option("--note", options->note, "Text of the note (label 1)");
+    command->add_option("--overlay-background", options->backgroundOverlay, "Picture over the background");
+    command->add_option("--overlay-foreground", options->foregroundOverlay, "Picture over the subject");
+    command->add_option("--overlay-frame", options->frameOverlay, "Picture over everything but text and frames");
     options->effects.addTo(*command);
     command->add_option("--seed", options->seed, "Where the random numbers of texture and skin noise start");
     command->add_option("--set", options->set, "A setting as field=value; may be given several times")->take_all();

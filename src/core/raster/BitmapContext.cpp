@@ -127,11 +127,11 @@ void BitmapContext::fillRect(const QRectF& rect, double red, double green, doubl
     painter()->fillRect(rect, QColor(nearestByte(red), nearestByte(green), nearestByte(blue), nearestByte(alpha)));
 }
 
-void BitmapContext::drawImage(const QImage& picture, const QRectF& rect) {
+void BitmapContext::drawImage(const QImage& picture, const QRectF& rect, double opacity) {
     if (image_.isNull() || picture.isNull() || !isReasonable(toDevice(), rect)) return;
     QTransform mapping = pictureToDevice(picture, rect, toDevice());
     if (!mapping.mapRect(QRectF(picture.rect())).intersects(QRectF(image_.rect()))) return;
-    if (isExact(mapping, picture)) return drawExact(picture, mapping);
+    if (isExact(mapping, picture)) return drawExact(picture, mapping, opacity);
     // What is enlarged is cut to what can be seen. What is only reduced stays whole: its edges then lie where the
     // rectangle has them, and the result is no larger than the picture.
     const bool enlarged = scaleX(mapping) > 1 || scaleY(mapping) > 1;
@@ -139,15 +139,15 @@ void BitmapContext::drawImage(const QImage& picture, const QRectF& rect) {
     if (part.isEmpty()) return;
     mapping = QTransform::fromTranslate(part.x(), part.y()) * mapping;
     const int w = reduced(part.width(), scaleX(mapping)), h = reduced(part.height(), scaleY(mapping));
-    if (w == part.width() && h == part.height()) return drawSmooth(partOf(picture, part), mapping);
+    if (w == part.width() && h == part.height()) return drawSmooth(partOf(picture, part), mapping, opacity);
     const QImage small = scaledSmoothly(partOf(picture, part), w, h);
     const double stepX = static_cast<double>(part.width()) / w, stepY = static_cast<double>(part.height()) / h;
     mapping = QTransform::fromScale(stepX, stepY) * mapping;
-    isExact(mapping, small) ? drawExact(small, mapping) : drawSmooth(small, mapping);
+    isExact(mapping, small) ? drawExact(small, mapping, opacity) : drawSmooth(small, mapping, opacity);
 }
 
 // Whole pixels to whole pixels: a quarter turn and mirrors, which move pixels and compute nothing.
-void BitmapContext::drawExact(const QImage& picture, const QTransform& mapping) {
+void BitmapContext::drawExact(const QImage& picture, const QTransform& mapping, double opacity) {
     const QRect target = mapping.mapRect(QRectF(picture.rect())).toRect();
     const QTransform quarter(0, 1, -1, 0, 0, 0);
     QImage upright = picture;
@@ -158,14 +158,17 @@ void BitmapContext::drawExact(const QImage& picture, const QTransform& mapping) 
         rest = quarter.inverted() * rest;
     }
     if (rest.m11() < 0 || rest.m22() < 0) upright = upright.mirrored(rest.m11() < 0, rest.m22() < 0);
-    QPainter(&image_).drawImage(target.topLeft(), upright);
+    QPainter painter(&image_);
+    painter.setOpacity(opacity);
+    painter.drawImage(target.topLeft(), upright);
 }
 
-void BitmapContext::drawSmooth(const QImage& picture, const QTransform& mapping) {
+void BitmapContext::drawSmooth(const QImage& picture, const QTransform& mapping, double opacity) {
     QPainter painter(&image_);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setRenderHint(QPainter::Antialiasing, !liesOnPixels(mapping, picture));
     painter.setTransform(mapping);
+    painter.setOpacity(opacity);
     painter.drawImage(0, 0, picture);
 }
 

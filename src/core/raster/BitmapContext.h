@@ -32,8 +32,8 @@ class BitmapContext {
     /// Draws a picture, scaled to the rectangle, over what is there: averaged over areas where it is reduced,
     /// interpolated where it is enlarged, turned or lies between pixels. Opaque pixels of a picture that is neither
     /// scaled nor shifted between pixels, also mirrored or turned by right angles, go through unchanged. A rectangle
-    /// on whole pixels is filled to its edges.
-    void drawImage(const QImage& picture, const QRectF& rect);
+    /// on whole pixels is filled to its edges. `opacity` is that of the whole picture, 0 to 1.
+    void drawImage(const QImage& picture, const QRectF& rect, double opacity = 1.0);
 
     /// The coordinate system; each call acts on what later calls draw. Angles in radians, anticlockwise.
     void scale(double x, double y);
@@ -51,8 +51,8 @@ class BitmapContext {
 
   private:
     QTransform toDevice() const;
-    void drawExact(const QImage& picture, const QTransform& mapping);
-    void drawSmooth(const QImage& picture, const QTransform& mapping);
+    void drawExact(const QImage& picture, const QTransform& mapping, double opacity);
+    void drawSmooth(const QImage& picture, const QTransform& mapping, double opacity);
 
     QImage image_;
     QTransform transform_;

@@ -133,6 +133,9 @@ std::string nearestName(const SystemInfo& info, const std::string& wrong) {
 }  // namespace
 
 std::string setField(SystemInfo& info, const std::string& name, const std::string& value) {
+    const std::size_t items = info.oFontObject.size();
+    const bool isNew = items < TextState::kMaxFontObjects && name.starts_with("text" + std::to_string(items) + ".");
+    if (isNew) info.oFontObject.emplace_back();
     bool found = false;
     std::string problem;
     visitObjects(info, [&](const std::string& prefix, auto& object, auto leaves) {
@@ -142,6 +145,7 @@ std::string setField(SystemInfo& info, const std::string& name, const std::strin
         found = true;
         std::visit([&](auto member) { problem = assign(object.*member, name, value); }, leaf->member);
     });
+    if (isNew && (!found || !problem.empty())) info.oFontObject.pop_back();
     if (!found) return "There is no field " + name + "; did you mean " + nearestName(info, name) + "?";
     return problem;
 }

@@ -12,7 +12,8 @@ class SystemInfo;
 // object's name and a full stop before it:
 //   foreground. background. combined.      the three records
 //   label0. label1. label2.                the built-in labels
-//   text0. text1. ...                      the items of the text and picture list, as many as there are
+//   text0. text1. ...                      the items of the text and picture list; the first that isn't there yet
+//                                          is added by setting one of its fields
 //   texture. reflectionTexture.            texture of the picture and of the reflection
 //   frame. frameOverlay.                   the frames, and frame.texture. frameOverlay.texture. inside them
 
