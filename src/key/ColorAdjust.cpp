@@ -1,6 +1,7 @@
 #include "key/ColorAdjust.h"
 
-#include "key/PixelFinish.h"
+#include "key/FinishConstants.h"
+#include "key/OnePixel.h"
 
 namespace tavrin {
 
@@ -31,7 +32,7 @@ void applyLight(const ColorAdjust& adjust, Rgb& c, std::size_t index) {
     const double k = adjust.lit ? adjust.light[index] / 1000.0 + 1.0 : 1.0;
     c = {(c.r + kLightShift) * k - kLightShift, (c.g + kLightShift) * k - kLightShift,
          (c.b + kLightShift) * k - kLightShift};
-    limitBlend(c);
+    c = limitBlend(c);
 }
 
 }  // namespace

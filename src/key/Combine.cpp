@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "key/KeyJoins.h"
+#include "key/CombineRow.h"
 #include "key/Lighting.h"
+#include "key/OnePixel.h"
 #include "key/SilhouettePicture.h"
 
 namespace tavrin {
@@ -11,50 +12,6 @@ namespace tavrin {
 namespace {
 
 constexpr int kGrainRows = 4;
-
-// One pixel after the key: the rest of its way to the buffers.
-void finishPixel(const CombineParams& params, const KeyJoins& joins, const KeyedPixel& pixel, int x, int y) {
-    const FinishConstants& finish = params.finish;
-    const std::size_t index =
-        static_cast<std::size_t>(y) * static_cast<std::size_t>(params.size.width) + static_cast<std::size_t>(x);
-    const std::int32_t gain = finish.light.values ? finish.light.values[index] : 0;
-    std::uint8_t* background = params.background + index * kPixelBytes;
-    std::uint8_t* out = params.combined + index * kPixelBytes;
-
-    // Nothing but background, and that as it is: most of a picture.
-    if (!(pixel.alpha > 0.0) && finish.plainBackground && !finish.transparent && !joins.showsGuard()) {
-        std::copy_n(background, 3, out);
-        out[3] = 255;
-        background[3] = 0;
-        return;
-    }
-    // A layer with no share in the result is not worked out; it would be multiplied by 0.
-    const bool seen = pixel.alpha > 0.0 || finish.transparent;
-    const Rgb foreground = seen ? finishForeground(finish, pixel.color, x, y) : Rgb{0.0, 0.0, 0.0};
-    Rgb shown = foreground;
-    double alpha = pixel.alpha;
-    if (joins.showsGuard()) joins.showGuard(shown, alpha, x, y);
-    if (pixel.inClipMargin) alpha = 0.0;
-
-    out[3] = 255;
-    if (finish.transparent) {
-        writeTransparent(finish, foreground, alpha, out);
-    } else {
-        const Rgb behind = alpha < 1.0 ? finishBackground(finish, background, x, y, gain) : Rgb{0.0, 0.0, 0.0};
-        writeColor(finish.blueLogic, blendPixel(finish, shown, behind, alpha, gain), out);
-    }
-    background[3] = toByte(alpha * 255.0);
-}
-
-void combineRow(const CombineParams& params, const KeyJoins& joins, int y) {
-    const GridStep row = gridStep(y, params.size.height);
-    const std::uint8_t* foreground = params.foreground + pixelOffset(params.size.width, 0, y);
-    for (int x = 0; x < params.size.width; ++x, foreground += kPixelBytes) {
-        KeyedPixel pixel = decidePixel(params.key, foreground, x, y, row);
-        joins.overrule(pixel, x, y);
-        finishPixel(params, joins, pixel, x, y);
-    }
-}
 
 // The one thing that pixels hand on to those after them, found beforehand so that rows can run in any order.
 bool searchBrightGrey(const RunContext& context, CombineParams& params) {

@@ -20,21 +20,15 @@ ClipMargins makeClip(const SystemInfo& info, RunSize size) {
             margin(info.iSliderClipTop, size.height), margin(info.iSliderClipBottom, size.height)};
 }
 
-// Needs the white balance, which the global screen colour goes through.
 void makeScreen(const SystemInfo& info, bool local, KeyConstants& key) {
     ScreenField& screen = key.screen;
     screen.scale = number(info.pCombinedBitmapInfo->sliderAdjustBaseGreen) / 100.0;
     screen.local = local;
-    if (!screen.local) {
-        screen.global = balanceScreen(key, {info.baseRed, info.baseGreen, info.baseBlue});
-        return;
-    }
+    screen.global = {info.baseRed, info.baseGreen, info.baseBlue};
     for (std::size_t i = 0; i < screen.cells.size(); ++i) {
         screen.cells[i] = {info.iBaseRedArray[i], info.iBaseGreenArray[i], info.iBaseBlueArray[i]};
     }
-    screen.columns.resize(static_cast<std::size_t>(key.width));
-    for (int x = 0; x < key.width; ++x)
-        screen.columns[static_cast<std::size_t>(x)] = gridStep(x, key.width);
+    layOutColumns(screen, key.width);
 }
 
 FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) {

@@ -3,8 +3,8 @@
 #include <cstdint>
 
 #include "core/state/SystemInfo.h"
+#include "key/FinishConstants.h"
 #include "key/KeyDecision.h"
-#include "key/PixelFinish.h"
 
 namespace tavrin {
 

@@ -6,12 +6,12 @@
 #include <vector>
 
 #include "core/raster/ColorMath.h"
-#include "key/AlphaSearch.h"
+#include "key/SearchConstants.h"
 
 namespace tavrin {
 
-/// The grid of local screen colours has this many cells along each side of the picture.
-inline constexpr int kGridSide = 20;
+/// When the foreground is shown as it is, and a bright grey is to be unmixed a little: the subject's share then.
+inline constexpr double kBrightGreyMix = 0.97;
 
 /// How much the edges of the key are steepened.
 inline constexpr double kEdgeGain = 1.4;
@@ -22,13 +22,25 @@ struct GridStep {
     double part = 0.0;      ///< share of the higher one
 };
 
-/// The screen colour over the picture, in roles.
+/// Pixels side by side that lie between the same two columns of the grid; as many as fit a `KeyedRun`.
+struct ColumnRun {
+    int x = 0, count = 0;
+};
+
+/// The screen colour over the picture, in roles, as measured.
 struct ScreenField {
-    bool local = false;             ///< measured against the grid, not the global colour
-    Rgb global{1.0, 1.0, 1.0};      ///< scaled and white balanced, ready for use
-    std::array<Rgb, 400> cells{};   ///< as measured; row * 20 + column
-    std::vector<GridStep> columns;  ///< one for each column of the picture when `local`
-    double scale = 1.0;             ///< the slider that scales the screen colour
+    bool local = false;               ///< measured against the grid, not the global colour
+    Rgb global{1.0, 1.0, 1.0};        ///< the colour of the whole screen
+    std::array<Rgb, 400> cells{};     ///< row * 20 + column
+    std::vector<double> columnParts;  ///< `GridStep::part` of each column of the picture, and a vector of padding
+    std::vector<ColumnRun> runs;      ///< the columns of the picture from left to right
+    double scale = 1.0;               ///< the slider that scales the screen colour
+};
+
+/// The four cells around a run of pixels.
+struct ScreenCells {
+    Rgb topLeft{}, topRight{}, bottomLeft{}, bottomRight{};
+    double rowPart = 0.0;  ///< share of the lower two
 };
 
 /// The part of the picture that is cut away, in pixels from each side.
@@ -50,34 +62,18 @@ struct KeyConstants {
     bool colorOfClear = true;  ///< recover the colour of clear pixels too; only the hair correction asks for it
     ClipMargins clip;
     ScreenField screen;
-    /// First pixel, counted in scan order, that lowers the mix of all pixels after it: see `findBrightGrey`.
+    /// First pixel, counted in scan order, that lowers the mix of all pixels after it: see `findBrightGrey` of
+    /// OnePixel.h.
     std::int64_t firstBrightGrey = std::numeric_limits<std::int64_t>::max();
-};
-
-/// A pixel after the key has decided on it. Colours in roles.
-struct KeyedPixel {
-    Rgb raw;                      ///< the foreground's bytes
-    Rgb screen;                   ///< screen colour here, scaled and white balanced
-    Rgb color;                    ///< recovered colour of the subject; may exceed 255
-    double alpha = 0.0;           ///< 0 to 1
-    double largest = 0.0;         ///< largest channel of the white balanced pixel
-    double lift = 0.0;            ///< how far a pixel is from dark and grey
-    bool hardBackground = false;  ///< so near the screen colour that nothing may bring it back
-    bool inClipMargin = false;
 };
 
 /// The grid step of position `position` (0 to size - 1).
 GridStep gridStep(int position, int size);
 
-/// Scales a screen colour and sends it through the white balance.
-Rgb balanceScreen(const KeyConstants& key, const Rgb& measured);
+/// Fills `runs` and `columnParts` for a picture of `width` pixels.
+void layOutColumns(ScreenField& screen, int width);
 
-/// Decides on pixel (x, y) with the bytes `foreground` (red, green, blue, alpha); `row` is the grid step of y.
-KeyedPixel decidePixel(const KeyConstants& key, const std::uint8_t* foreground, int x, int y, const GridStep& row);
-
-/// When the foreground is shown as it is, the first bright grey pixel turns the unmixing on for itself and all
-/// pixels after it in scan order. Finds it in a row of pixels.
-/// @return its column, or the width when there is none
-int findBrightGrey(const KeyConstants& key, const std::uint8_t* row);
+/// The cells around the run that begins at (x, y) in a picture of width x height; zeros where there is no grid.
+ScreenCells screenCells(const ScreenField& screen, int x, int y, int width, int height);
 
 }  // namespace tavrin

@@ -1,5 +1,7 @@
 #include "key/KeyJoins.h"
 
+#include "key/ChannelRoles.h"
+
 namespace tavrin {
 
 namespace {
@@ -25,7 +27,10 @@ HairNumbers hairNumbers(const CombineParams& params) {
 }  // namespace
 
 KeyJoins::KeyJoins(const SystemInfo& info, const CombineParams& params, bool hiRes)
-    : width_(params.size.width), hair_(info, hairNumbers(params)), mode_(info.iGreenProtectMode) {
+    : width_(params.size.width),
+      blueLogic_(params.key.blueLogic),
+      hair_(info, hairNumbers(params)),
+      mode_(info.iGreenProtectMode) {
     if (mode_ == 0) return;
     guarded_ = guard_.build(info, params.foreground, params.size.width, params.size.height, hiRes);
     superseded_ = !guarded_ && hiRes && info.isStale();
@@ -34,30 +39,51 @@ KeyJoins::KeyJoins(const SystemInfo& info, const CombineParams& params, bool hiR
     caption_ = mode_ == 2 ? guard_.shirtColor() : meanHairColor(info);
 }
 
-void KeyJoins::overrule(KeyedPixel& pixel, int x, int y) const {
-    if (hair_.active && !pixel.hardBackground) {
-        HairPixel hair{x,
-                       y,
-                       static_cast<int>(pixel.raw.r),
-                       static_cast<int>(pixel.raw.g),
-                       static_cast<int>(pixel.raw.b),
-                       pixel.largest,
-                       pixel.lift,
-                       pixel.color,
-                       pixel.alpha};
-        correctHair(hair_, hair);
-        pixel.color = hair.color;
-        pixel.alpha = hair.alpha;
+void KeyJoins::overrule(KeyedRun& run) const {
+    if (hair_.active) {
+        for (int i = 0; i < run.count; ++i) {
+            if (run.hardBackground[i] == 0.0) correctHairAt(run, i);
+        }
     }
-    if (guarded_ && guardMakesOpaque(guardByte(x, y), mode_, removeInside_)) {
-        pixel.color = pixel.raw;
-        pixel.alpha = 1.0;
+    if (guarded_) {
+        for (int i = 0; i < run.count; ++i) {
+            if (guardMakesOpaque(guardByte(run.x + i, run.y), mode_, removeInside_)) takeRaw(run, i);
+        }
     }
 }
 
-void KeyJoins::showGuard(Rgb& foreground, double& alpha, int x, int y) const {
-    foreground = guardPicture(guardByte(x, y), y, caption_);
-    alpha = 1.0;
+void KeyJoins::correctHairAt(KeyedRun& run, int i) const {
+    const std::uint8_t* raw = run.foregroundBytes(i);
+    const ChannelRoles roles(blueLogic_);
+    HairPixel hair{run.x + i,       run.y,          raw[0],      raw[roles.green],
+                   raw[roles.blue], run.largest[i], run.lift[i], {run.r[i], run.g[i], run.b[i]},
+                   run.alpha[i]};
+    correctHair(hair_, hair);
+    run.r[i] = hair.color.r;
+    run.g[i] = hair.color.g;
+    run.b[i] = hair.color.b;
+    run.alpha[i] = hair.alpha;
+}
+
+void KeyJoins::takeRaw(KeyedRun& run, int i) const {
+    const std::uint8_t* raw = run.foregroundBytes(i);
+    const ChannelRoles roles(blueLogic_);
+    run.r[i] = raw[0];
+    run.g[i] = raw[roles.green];
+    run.b[i] = raw[roles.blue];
+    run.alpha[i] = 1.0;
+}
+
+void KeyJoins::showGuard(KeyedRun& run, bool alphaOnly) const {
+    if (!showGuard_) return;
+    for (int i = 0; i < run.count; ++i) {
+        run.alpha[i] = 1.0;
+        if (alphaOnly) continue;
+        const Rgb c = guardPicture(guardByte(run.x + i, run.y), run.y, caption_);
+        run.r[i] = c.r;
+        run.g[i] = c.g;
+        run.b[i] = c.b;
+    }
 }
 
 }  // namespace tavrin

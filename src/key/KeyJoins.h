@@ -3,6 +3,7 @@
 #include "key/CombineParams.h"
 #include "key/GreenGuard.h"
 #include "key/HairCorrection.h"
+#include "key/KeyedRun.h"
 
 namespace tavrin {
 
@@ -15,19 +16,22 @@ class KeyJoins {
     /// The run was overtaken while the guard was being built, and its pixel loop must not start.
     bool isSuperseded() const { return superseded_; }
 
-    /// May explain the pixel as a mix of the screen and a hair colour, or make it opaque with the raw colour.
-    void overrule(KeyedPixel& pixel, int x, int y) const;
-    /// Where the guard's bitmap is shown instead of the subject: its colour and alpha 1.
-    void showGuard(Rgb& foreground, double& alpha, int x, int y) const;
+    /// May explain pixels as a mix of the screen and a hair colour, or make them opaque with the raw colour.
+    void overrule(KeyedRun& run) const;
+    /// Where the guard's bitmap is shown instead of the subject: its colours, unless `alphaOnly`, and alpha 1.
+    void showGuard(KeyedRun& run, bool alphaOnly) const;
     bool showsGuard() const { return showGuard_; }
 
   private:
+    void correctHairAt(KeyedRun& run, int i) const;
+    void takeRaw(KeyedRun& run, int i) const;
     std::uint8_t guardByte(int x, int y) const {
         return guard_
             .bitmap()[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)];
     }
 
     int width_;
+    bool blueLogic_;
     HairParams hair_;
     GreenGuard guard_;
     bool guarded_ = false, superseded_ = false, removeInside_ = false, showGuard_ = false;

@@ -12,6 +12,8 @@ namespace tavrin {
 namespace {
 
 constexpr int kBlockColumns = 64;
+constexpr int kLevel = 200;  // alpha that parts subject from screen
+constexpr int kReach = 2;    // pixels to each side that the search for an edge looks at
 
 // A row or a column of the picture. Steps are in bytes.
 struct Line {
@@ -42,6 +44,26 @@ Step stepInColumn(const std::uint8_t* a, std::ptrdiff_t step) {
     found.falling = a[-step] >= 201 && (a[step] < 200 || a[2 * step] < 200);
     found.rising = a[step] > 200 && (a[-step] < 200 || a[-2 * step] < 200);
     return found;
+}
+
+// On which sides of the level alphas lie. Where all are on one side, as nearly everywhere, there is no edge.
+struct Sides {
+    bool below = false, above = false;
+
+    bool mixed() const { return below && above; }
+    void add(const Sides& other) {
+        below |= other.below;
+        above |= other.above;
+    }
+};
+
+Sides sidesOf(const std::uint8_t* alpha, int count) {
+    Sides sides;
+    for (int i = 0; i < count; ++i) {
+        sides.below |= alpha[i * kPixelBytes] < kLevel;
+        sides.above |= alpha[i * kPixelBytes] > kLevel;
+    }
+    return sides;
 }
 
 // The side that should be solid must be solid all along.
@@ -104,23 +126,46 @@ struct Picture {
 // Ramps of one row may overlap; the last one stands.
 void smoothRow(const Picture& picture, int y) {
     const std::size_t first = pixelOffset(picture.width, 0, y);
-    std::memcpy(picture.scratch + first, picture.pixels + first, pixelBytes(picture.width, 1));
     const Line line = picture.line(0, y, kPixelBytes, picture.width);
-    for (int x = 2; x < picture.width - 2; ++x) {
-        const Step edge = stepInRow(line.alpha + x * line.step, line.step);
-        if (edge.any() && !isVetoed(line, edge, x, 2 * picture.half)) drawRamp(line, x, picture.half);
+    const int end = picture.width - kReach;
+    bool copied = false;
+    for (int block = kReach; block < end; block += kBlockColumns) {
+        const int last = std::min(block + kBlockColumns, end);
+        const int from = block - kReach;
+        if (!sidesOf(line.alpha + from * line.step, last + kReach - from).mixed()) continue;
+        if (!copied) std::memcpy(picture.scratch + first, picture.pixels + first, pixelBytes(picture.width, 1));
+        copied = true;
+        for (int x = block; x < last; ++x) {
+            const Step edge = stepInRow(line.alpha + x * line.step, line.step);
+            if (edge.any() && !isVetoed(line, edge, x, 2 * picture.half)) drawRamp(line, x, picture.half);
+        }
     }
 }
 
-// A column's ramps lie within the column, so columns are independent; neighbouring ones go down together.
-void smoothColumns(const Picture& picture, int first, int columns) {
+void copyColumns(const Picture& picture, int first, int columns) {
     const std::size_t bytes = static_cast<std::size_t>(columns) * kPixelBytes;
     for (int y = 0; y < picture.height; ++y) {
         const std::size_t at = pixelOffset(picture.width, first, y);
         std::memcpy(picture.scratch + at, picture.pixels + at, bytes);
     }
+}
+
+// A column's ramps lie within the column, so columns are independent; neighbouring ones go down together.
+void smoothColumns(const Picture& picture, int first, int columns) {
     const std::ptrdiff_t step = static_cast<std::ptrdiff_t>(pixelBytes(picture.width, 1));
-    for (int y = 2; y < picture.height - 2; ++y) {
+    const std::uint8_t* alpha = picture.key + pixelOffset(picture.width, first, 0) + 3;
+    std::array<Sides, 2 * kReach + 1> rows;  // those around the row under work, in turn
+    for (int y = 0; y < 2 * kReach; ++y)
+        rows[static_cast<std::size_t>(y)] = sidesOf(alpha + y * step, columns);
+    bool copied = false;
+    for (int y = kReach; y < picture.height - kReach; ++y) {
+        rows[static_cast<std::size_t>(y + kReach) % rows.size()] = sidesOf(alpha + (y + kReach) * step, columns);
+        Sides around;
+        for (const Sides& row : rows)
+            around.add(row);
+        if (!around.mixed()) continue;
+        if (!copied) copyColumns(picture, first, columns);
+        copied = true;
         for (int x = first; x < first + columns; ++x) {
             const Line line = picture.line(x, 0, step, picture.height);
             const Step edge = stepInColumn(line.alpha + y * step, step);

@@ -1,6 +1,7 @@
 #include "key/SpillKey.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/image/PictureCache.h"
 #include "core/raster/Pixels.h"
@@ -15,6 +16,11 @@ constexpr double kDarkGreen = 127.0;        // from here on a pixel is not dark
 constexpr double kShownAsIs = 255.0;        // amount of a pixel that is not keyed
 constexpr int kTextureRadius = 2;           // hair shows in a square of 5 x 5 pixels
 constexpr int kTexturePixels = 25;
+
+// How far a colour is from grey, seen from green.
+double chromaOf(const Rgb& f) {
+    return std::sqrt((f.r - f.g) * (f.r - f.g) + (f.g - f.b) * (f.g - f.b));
+}
 
 Rgb colorOf(const std::uint8_t* p) {
     return {static_cast<double>(p[0]), static_cast<double>(p[1]), static_cast<double>(p[2])};
@@ -63,7 +69,6 @@ SpillKey::SpillKey(const SystemInfo& info, const SpillLayers& layers)
       key_(makeKeyConstants(info, {iWidth, iHeight}, true)),
       sliderRestoredDarkAreasSlider_(info.pCombinedBitmapInfo->sliderRestoredDarkAreas),
       sliderProtectHair_(info.pCombinedBitmapInfo->sliderRemoveGreenAreas),
-      dVMult_(key_.whiteBalanceV),
       bShowColors_(info.pCombinedBitmapInfo->bShowSelectedAreas),
       foreground_(makeColorAdjust(info, ToneLayer::kForeground, pFOrg, iWidth, iHeight)),
       background_(makeColorAdjust(info, ToneLayer::kBackground, pFOrg, iWidth, iHeight)),
@@ -77,9 +82,6 @@ SpillKey::SpillKey(const SystemInfo& info, const SpillLayers& layers)
       silhouetteColor_{static_cast<double>(info.iSilhouetteRed), static_cast<double>(info.iSilhouetteGreen),
                        static_cast<double>(info.iSilhouetteBlue)} {
     if (!pFOrg || !pBOrg || iWidth < 1 || iHeight < 1) return;
-    rows_.reserve(static_cast<std::size_t>(iHeight));
-    for (int y = 0; y < iHeight; ++y)
-        rows_.push_back(gridStep(y, iHeight));
     ready_ = loadSilhouette(info);
 }
 
@@ -113,26 +115,26 @@ SpilledPixel SpillKey::Spill(int x, int y, double r, double g, double b) {
 
 // The colour is finished before the amount: here the green cast is taken out after the adjustments.
 SpilledPixel SpillKey::spillAt(int x, int y, const Rgb& color, SpillCall call) const {
-    const Rgb screen = screenColor(x, y);
+    const Rgb screen = screenAt(key_, x, y);
     const Decision d = decide(x, y, color, screen, call);
-    Rgb c = recoverColor(d, screen, color, key_.showBright);
+    Rgb c = recoverColor(key_, d, screen, color);
     if (keyedTone_.active) {
         adjustKeyedColor(keyedTone_, c, x, y);
-        limitBlend(c);
+        c = limitBlend(c);
     }
-    if (white_.on) adjustWhite(white_, c, d.source.r - 5.0 < d.source.g && d.source.b - 5.0 < d.source.g);
-    if (d.alpha < 0.8 && !key_.showOrgImage) removeGreenCast(c);
+    if (white_.on) c = adjustWhite(white_, c, d.source.r - 5.0 < d.source.g && d.source.b - 5.0 < d.source.g);
+    if (d.alpha < 0.8 && !key_.showOrgImage) c = removeGreenCast(key_, c);
     return {outputColor(x, y, c), finalAmount(x, y, d.alpha)};
 }
 
 double SpillKey::amountAt(int x, int y, const Rgb& color, SpillCall call) const {
-    return finalAmount(x, y, decide(x, y, color, screenColor(x, y), call).alpha);
+    return finalAmount(x, y, decide(x, y, color, screenAt(key_, x, y), call).alpha);
 }
 
 // As the key of whole pictures, but for the limits, for the tests of bright background (chroma alone) and of other
 // colours (on a blue screen too), and for one amount that serves as alpha and as mix.
 Decision SpillKey::decide(int x, int y, const Rgb& color, const Rgb& screen, SpillCall call) const {
-    const Rgb f = balanceForeground(color, call == SpillCall::kFirst ? 0.0 : key_.whiteBalanceU, dVMult_);
+    const Rgb f = balanceForeground(key_, color, call == SpillCall::kFirst ? 0.0 : key_.whiteBalanceU);
     const auto solid = [&](double amount, const Rgb& c) { return Decision{amount, amount, c, f}; };
     if (key_.showOrgImage) return solid(inMargin(key_, x, y) ? 0.0 : kShownAsIs, f);
 
@@ -141,17 +143,17 @@ Decision SpillKey::decide(int x, int y, const Rgb& color, const Rgb& screen, Spi
     if (chroma < sliderRestoredDarkAreas * 0.15 && largestOf(f) < screen.g - screen.r) {
         return solid(1.0, {f.r, std::min(f.g, std::max(f.r, f.b)), f.b});
     }
-    if (chroma > sliderRestoredDarkAreas * 2.0 && offScreenLine(f, screen) < kRemoveGreenAreas * 2.0) {
+    if (chroma > sliderRestoredDarkAreas * 2.0 && offScreenLine(key_, f, screen) < kRemoveGreenAreas * 2.0) {
         return solid(0.0, {255.0, 255.0, 255.0});
     }
     if (inMargin(key_, x, y) || distance(f, screen) < 8.0) return solid(0.0, f);
-    if (isPlainlyOther(f)) {
+    if (isPlainlyOther(key_, f)) {
         const Rgb shown = bShowColors_ ? markOther(f, screen) : f;
         return {1.0, 1.0, shown, shown};
     }
     const double amount = mixedAlpha(key_, f, screen);
     const Rgb shown = bShowColors_ && f.r >= f.b ? markSearched(f, amount) : f;
-    return {amount, amount, shown, liftedSource(shown, screen, amount)};
+    return {amount, amount, shown, liftedSource(key_, shown, screen, amount)};
 }
 
 // The surroundings are only looked at where they would change the outcome of a test.

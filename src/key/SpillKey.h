@@ -7,7 +7,7 @@
 
 #include "key/ColorAdjust.h"
 #include "key/CombineParams.h"
-#include "key/KeyMaths.h"
+#include "key/OnePixel.h"
 
 namespace tavrin {
 
@@ -82,16 +82,14 @@ class SpillKey {
     Decision decide(int x, int y, const Rgb& color, const Rgb& screen, SpillCall call) const;
     double darkAreas(int x, int y, double green, double chroma) const;
     bool isBusy(int x, int y) const;
-    Rgb screenColor(int x, int y) const { return screenAt(key_, x, rows_[static_cast<std::size_t>(y)]); }
     double finalAmount(int x, int y, double amount) const;
     Rgb outputColor(int x, int y, const Rgb& color) const;
     Rgb silhouetteAt(int x, int y) const;
     bool loadSilhouette(const SystemInfo& info);
 
-    KeyConstants key_;            // the sliders of the key; white balance as of the second call
-    std::vector<GridStep> rows_;  // where each row lies in the grid
+    KeyConstants key_;  // the sliders of the key; white balance as of the second call
     double sliderRestoredDarkAreasSlider_, sliderProtectHair_;
-    double dVMult_, dUMult_ = 0.0;
+    double dUMult_ = 0.0;
     bool bShowColors_;
     ColorAdjust foreground_, background_;
     ToneConstants keyedTone_;

@@ -179,9 +179,12 @@ void CombineThread::makePreview() {
 void CombineThread::makeFullPicture() {
     BitmapInfo& combined = *info_.pCombinedBitmapInfo;
     if (!combined.oBitmapRep || !combined.oBitmapRepLowRes) return;
-    // Until the full picture is done the enlarged preview stands in for it.
-    BitmapContext& full = *combined.oBitmapRep;
-    full.drawImage(combined.oBitmapRepLowRes->snapshot(), QRectF(0, 0, full.width(), full.height()));
+    // Until the full picture is done the enlarged preview stands in for it. With nobody to look it is left out, but
+    // not where the key may give up and leave what it finds (a silhouette whose picture cannot be read).
+    if (info_.pInterface || info_.bOutputSilhouette) {
+        BitmapContext& full = *combined.oBitmapRep;
+        full.drawImage(combined.oBitmapRepLowRes->snapshot(), QRectF(0, 0, full.width(), full.height()));
+    }
     if (info_.pBackgroundBitmapInfo->bHiResScaleChange.exchange(false)) {
         runStages(backgroundStages(), info_, kFullRes);
         // Not raised again: a background interrupted here stays as far as it got until it is scaled anew.

@@ -61,7 +61,8 @@ QImage turnedSource(const BitmapInfo& record, const QImage& pixels) {
         static_cast<double>(box.width) * static_cast<double>(box.height) > kMaxPixels) {
         return QImage();
     }
-    QImage turned(static_cast<int>(box.width), static_cast<int>(box.height), QImage::Format_RGBA8888_Premultiplied);
+    QImage turned =
+        newPicture(static_cast<int>(box.width), static_cast<int>(box.height), QImage::Format_RGBA8888_Premultiplied);
     if (turned.isNull()) return turned;
     turned.fill(QColor(10, 130, 60));
     BitmapContext context(turned.bits(), turned.width(), turned.height());

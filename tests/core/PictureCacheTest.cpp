@@ -1,3 +1,4 @@
+#include <chrono>
 #include <filesystem>
 #include <gtest/gtest.h>
 

@@ -160,22 +160,23 @@ TEST_F(TextItemsTest, MacrosAreReplacedWhenTheTextIsLaidOut) {
     EXPECT_EQ(page_.bytes(1), expected);
 }
 
-TEST_F(TextItemsTest, DrawingLeavesAnOpaquePictureOpaqueOnAnyThread) {
-    FontObject& item = page_.add("Ünïcode 你 مرحبا 😀", 40);
-    item.iFontDropShadowRadius = 6;
-    item.iFontOutlineThickness = -3;
-    test::Bytes one, other;
-    {
-        ThreadLimit limit(1);
-        page_.draw();
-        one = page_.bytes(1);
+TEST_F(TextItemsTest, ThreadsDrawAtOnceAndLeaveAnOpaquePictureOpaque) {
+    test::TextPage pages[2];
+    for (test::TextPage& page : pages) {
+        FontObject& item = page.add("Ünïcode 你 مرحبا 😀", 40);
+        item.iFontDropShadowRadius = 6;
+        item.iFontOutlineThickness = -3;
     }
-    page_.clear();
-    std::thread([&] { page_.draw(); }).join();
-    other = page_.bytes(1);
-    EXPECT_EQ(one, other);
-    for (std::size_t i = 3; i < one.size(); i += 4)
-        ASSERT_EQ(one[i], 255);
+    std::thread other([&] { pages[1].draw(); });
+    {
+        const ThreadLimit limit(1);
+        pages[0].draw();
+    }
+    other.join();
+    const test::Bytes bytes = pages[0].bytes(1);
+    EXPECT_EQ(bytes, pages[1].bytes(1));
+    for (std::size_t i = 3; i < bytes.size(); i += 4)
+        ASSERT_EQ(bytes[i], 255);
 }
 
 TEST_F(TextItemsTest, ExtremeValuesOfAFieldHurtNobody) {

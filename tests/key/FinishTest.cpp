@@ -23,13 +23,13 @@ FinishConstants plainFinish() {
 TEST(Finish, WhiteIsPulledToGreyByBothRules) {
     KeyScene scene(1, 1);
     FinishConstants finish = makeCombineParams(scene.info, 1).finish;
-    expectNear(finishForeground(finish, {200.0, 205.0, 198.0}, 0, 0), 203.9, 205.0, 203.8);
+    expectNear(finishForeground(finish, {200.0, 205.0, 198.0}), 203.9, 205.0, 203.8);
     // Green must be level for the wide rule; this colour is too far for the near one.
-    expectNear(finishForeground(finish, {200.0, 170.0, 180.0}, 0, 0), 200.0, 170.0, 180.0);
+    expectNear(finishForeground(finish, {200.0, 170.0, 180.0}), 200.0, 170.0, 180.0);
     scene.sliders().sliderWhiteAdjust = 0;
     finish = makeCombineParams(scene.info, 1).finish;
-    expectNear(finishForeground(finish, {200.0, 205.0, 198.0}, 0, 0), 200.0, 205.0, 198.0, 0.0);
-    expectNear(finishForeground(finish, {0.0, 0.0, 0.0}, 0, 0), 0.0, 0.0, 0.0, 0.0);
+    expectNear(finishForeground(finish, {200.0, 205.0, 198.0}), 200.0, 205.0, 198.0, 0.0);
+    expectNear(finishForeground(finish, {0.0, 0.0, 0.0}), 0.0, 0.0, 0.0, 0.0);
 }
 
 TEST(Finish, ColourModesAndDeltasKnowTheRoles) {
@@ -37,17 +37,17 @@ TEST(Finish, ColourModesAndDeltasKnowTheRoles) {
     finish.foregroundMode = finish.backgroundMode = kModeSepia;
     finish.foregroundDelta = {0.0, 10.0, -300.0};
     const double v = 0.6 * 100.0 + 0.3 * 80.0 + 0.1 * 60.0;
-    expectNear(finishForeground(finish, {100.0, 80.0, 60.0}, 0, 0), v, v * 0.82 + 10.0, 0.0);
+    expectNear(finishForeground(finish, {100.0, 80.0, 60.0}), v, v * 0.82 + 10.0, 0.0);
     finish.blueLogic = true;  // the same colour in roles
-    expectNear(finishForeground(finish, {100.0, 60.0, 80.0}, 0, 0), v, v * 0.64 + 10.0, 0.0);
+    expectNear(finishForeground(finish, {100.0, 60.0, 80.0}), v, v * 0.64 + 10.0, 0.0);
     const std::uint8_t bytes[] = {100, 80, 60, 0};
-    expectNear(finishBackground(finish, bytes, 0, 0, 0), v, v * 0.64, v * 0.82);
+    expectNear(finishBackground(finish, bytes), v, v * 0.64, v * 0.82);
     finish.backgroundMode = 3;
-    expectNear(finishBackground(finish, bytes, 0, 0, 0), 100.0, 60.0, 80.0, 0.0);
+    expectNear(finishBackground(finish, bytes), 100.0, 60.0, 80.0, 0.0);
 }
 
 TEST(Finish, TooBrightColoursKeepTheirHue) {
-    expectNear(finishForeground(plainFinish(), {510.0, 100.0, 40.0}, 0, 0), 255.0, 50.0, 20.0);
+    expectNear(finishForeground(plainFinish(), {510.0, 100.0, 40.0}), 255.0, 50.0, 20.0);
 }
 
 TEST(Finish, EdgesAreLiftedOverBrightBackgroundsOnly) {

@@ -182,7 +182,7 @@ TEST(KeyDecision, TheForegroundAsItIsKeepsItsAlpha) {
     ASSERT_EQ(findBrightGrey(params.key, scene.foreground.front().data()), 1);
     params.key.firstBrightGrey = 1;
     const auto red = [&](int x) {
-        return decidePixel(params.key, scene.at(scene.foreground, x, 0).data(), x, 0, gridStep(0, 1)).color.r;
+        return decidePixel(params.key, scene.at(scene.foreground, x, 0).data(), x, 0).color.r;
     };
     EXPECT_NEAR(red(0), 40.0, 0.5);
     EXPECT_NEAR(red(1), (200.0 - 0.03 * 40.0) / 0.97, 0.5);

@@ -6,6 +6,7 @@
 
 #include "key/BaseGreen.h"
 #include "key/Combine.h"
+#include "key/OnePixel.h"
 
 namespace tavrin::test {
 
@@ -41,7 +42,7 @@ struct KeyScene {
     /// The key's answer for pixel (x, y).
     KeyedPixel keyed(int x = 0, int y = 0) {
         const CombineParams params = makeCombineParams(info, 1);
-        return decidePixel(params.key, at(foreground, x, y).data(), x, y, gridStep(y, height));
+        return decidePixel(params.key, at(foreground, x, y).data(), x, y);
     }
 
     SystemInfo info;

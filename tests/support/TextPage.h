@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <memory>
 
-#include <QFontDatabase>
 #include <QRect>
 
 #include "core/state/SystemInfo.h"
+#include "core/text/LaidOutText.h"
 #include "core/text/TextLayers.h"
 #include "support/Portrait.h"
 
@@ -104,4 +104,4 @@ class TextPage {
 
 /// Skips the test on a system without any font.
 #define TAVRIN_NEED_FONTS() \
-    if (QFontDatabase::families().isEmpty()) GTEST_SKIP() << "no fonts here"
+    if (!tavrin::haveFonts()) GTEST_SKIP() << "no fonts here"

@@ -36,10 +36,10 @@ struct RenderOptions {
     std::string state, saveState;
     std::string sizeName, inches;
     int dpi = 0;
-    std::string title, note;
-    std::string backgroundOverlay, foregroundOverlay, frameOverlay;
     EffectOptions effects;
     std::optional<std::uint64_t> seed;
+    std::string title, note;
+    std::string backgroundOverlay, foregroundOverlay, frameOverlay;
     std::vector<std::string> set;
     bool blue = false, preview = false, fast = false, json = false;
 };
@@ -107,7 +107,7 @@ Refusal applySettings(SystemInfo& info, const RenderOptions& options) {
     if (options.blue) info.bUseBlueLogic = true;
     std::string problem = options.effects.leftOut(options.fast, options.preview);
     if (problem.empty()) problem = options.effects.apply(info);
-    if (!problem.empty()) return {kUsage, problem};
+    if (!problem.empty()) return Refusal{kUsage, problem};
     if (!options.title.empty()) info.oFontLabelObject[0].sText = options.title;
     if (!options.note.empty()) info.oFontLabelObject[1].sText = options.note;
     applyOverlays(info, options);
@@ -244,13 +244,13 @@ void addRenderCommand(CLI::App& app, int& result) {
         command->add_option("--inches", options->inches, "Output size, width x height")->excludes(size);
     CLI::Option* dpi = command->add_option("--dpi", options->dpi, "Dots an inch, with --inches")->needs(inches);
     inches->needs(dpi);
+    options->effects.addTo(*command);
+    command->add_option("--seed", options->seed, "Where the random numbers of texture and skin noise start");
     command->add_option("--title", options->title, "Text of the title (label 0)");
     command->add_option("--note", options->note, "Text of the note (label 1)");
     command->add_option("--overlay-background", options->backgroundOverlay, "Picture over the background");
     command->add_option("--overlay-foreground", options->foregroundOverlay, "Picture over the subject");
     command->add_option("--overlay-frame", options->frameOverlay, "Picture over everything but text and frames");
-    options->effects.addTo(*command);
-    command->add_option("--seed", options->seed, "Where the random numbers of texture and skin noise start");
     command->add_option("--set", options->set, "A setting as field=value; may be given several times")->take_all();
     command->add_flag("--blue", options->blue, "The screen is blue (same as --set bUseBlueLogic=1)");
     command->add_option("--alpha", options->alpha, "Also write the key's alpha as a grey PNG");

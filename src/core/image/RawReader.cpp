@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "core/image/FileKind.h"
+#include "core/raster/Pixels.h"
 
 namespace tavrin {
 
@@ -75,7 +76,7 @@ QImage takeImage(LibRaw& raw, std::string& error) {
         error = "its colours are of an unknown kind";
         return {};
     }
-    QImage image(width, height, QImage::Format_RGBX8888);
+    QImage image = newPicture(width, height, QImage::Format_RGBX8888);
     if (image.isNull()) {
         error = "there is not enough memory for it";
         return {};

@@ -7,6 +7,7 @@
 #include "core/HandOver.h"
 #include "core/image/PsdCheck.h"
 #include "core/image/SrgbConversion.h"
+#include "core/raster/Pixels.h"
 
 namespace tavrin {
 
@@ -181,8 +182,8 @@ QImage decodeWithVips(VipsImage* image, std::string& error) {
     }
     const bool turned = orientation >= 5;
     const bool alpha = srgb->Bands % 2 == 0 || srgb->Bands > 4;
-    QImage result(turned ? height : width, turned ? width : height,
-                  alpha ? QImage::Format_RGBA8888 : QImage::Format_RGBX8888);
+    QImage result = newPicture(turned ? height : width, turned ? width : height,
+                               alpha ? QImage::Format_RGBA8888 : QImage::Format_RGBX8888);
     if (result.isNull()) {
         error = "there is not enough memory for it";
         return {};

@@ -62,7 +62,6 @@ bool isExact(const QTransform& t, const QImage& picture) {
 // A part of a picture over the same bytes, which must outlive it.
 QImage partOf(const QImage& picture, const QRect& part) {
     if (part == picture.rect()) return picture;
-    if (picture.depth() != 32) return picture.copy(part);
     const uchar* first = picture.constScanLine(part.y()) + qsizetype{4} * part.x();
     return QImage(first, part.width(), part.height(), picture.bytesPerLine(), picture.format());
 }
@@ -80,22 +79,30 @@ int reduced(int size, double scale) {
     return scale < 1 ? std::max(1, static_cast<int>(std::lround(size * scale))) : size;
 }
 
-// Area average when reducing. Qt scales RGB32 and ARGB32 as they are and converts all other pictures first, which
-// for a large one takes as long as the scaling and as much memory as the picture. Ours differ from those only in the
-// order of the colours, and all channels are scaled alike.
-QImage scaledSmoothly(const QImage& picture, int width, int height) {
+// Qt scales and draws RGB32 and ARGB32 as they are; all other pictures it converts first, or draws many times slower.
+// Ours differ from those only in the order of the colours, which are all treated alike, so they are passed off as
+// those: a view of the same bytes, which must outlive it.
+QImage renamed(const QImage& picture) {
     const QImage::Format own = picture.format();
     const bool opaque = own == QImage::Format_RGBX8888;
-    const bool alike =
-        QSysInfo::ByteOrder == QSysInfo::LittleEndian && (opaque || own == QImage::Format_RGBA8888_Premultiplied);
-    const auto scaled = [&](const QImage& image) {
-        return image.scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    };
-    if (!alike) return scaled(picture);
-    const QImage renamed(picture.constBits(), picture.width(), picture.height(), picture.bytesPerLine(),
-                         opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
-    QImage result = scaled(renamed);
-    result.reinterpretAsFormat(own);
+    if (QSysInfo::ByteOrder != QSysInfo::LittleEndian || (!opaque && own != QImage::Format_RGBA8888_Premultiplied)) {
+        return picture;
+    }
+    return QImage(picture.constBits(), picture.width(), picture.height(), picture.bytesPerLine(),
+                  opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+}
+
+QImage inOurFormat(const QImage& picture) {
+    const QImage::Format own = picture.format();
+    if (own == QImage::Format_RGBX8888 || own == QImage::Format_RGBA8888_Premultiplied) return picture;
+    return picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_RGBA8888_Premultiplied
+                                                             : QImage::Format_RGBX8888);
+}
+
+// Area average when reducing.
+QImage scaledSmoothly(const QImage& picture, int width, int height) {
+    QImage result = renamed(picture).scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    result.reinterpretAsFormat(picture.format());
     return result;
 }
 
@@ -127,8 +134,9 @@ void BitmapContext::fillRect(const QRectF& rect, double red, double green, doubl
     painter()->fillRect(rect, QColor(nearestByte(red), nearestByte(green), nearestByte(blue), nearestByte(alpha)));
 }
 
-void BitmapContext::drawImage(const QImage& picture, const QRectF& rect, double opacity) {
-    if (image_.isNull() || picture.isNull() || !isReasonable(toDevice(), rect)) return;
+void BitmapContext::drawImage(const QImage& any, const QRectF& rect, double opacity) {
+    if (image_.isNull() || any.isNull() || !isReasonable(toDevice(), rect)) return;
+    const QImage picture = inOurFormat(any);
     QTransform mapping = pictureToDevice(picture, rect, toDevice());
     if (!mapping.mapRect(QRectF(picture.rect())).intersects(QRectF(image_.rect()))) return;
     if (isExact(mapping, picture)) return drawExact(picture, mapping, opacity);
@@ -158,18 +166,24 @@ void BitmapContext::drawExact(const QImage& picture, const QTransform& mapping, 
         rest = quarter.inverted() * rest;
     }
     if (rest.m11() < 0 || rest.m22() < 0) upright = upright.mirrored(rest.m11() < 0, rest.m22() < 0);
-    QPainter painter(&image_);
+    QImage buffer = drawingView();
+    QPainter painter(&buffer);
     painter.setOpacity(opacity);
-    painter.drawImage(target.topLeft(), upright);
+    painter.drawImage(target.topLeft(), renamed(upright));
 }
 
 void BitmapContext::drawSmooth(const QImage& picture, const QTransform& mapping, double opacity) {
-    QPainter painter(&image_);
+    QImage buffer = drawingView();
+    QPainter painter(&buffer);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setRenderHint(QPainter::Antialiasing, !liesOnPixels(mapping, picture));
     painter.setTransform(mapping);
     painter.setOpacity(opacity);
-    painter.drawImage(0, 0, picture);
+    painter.drawImage(0, 0, renamed(picture));
+}
+
+QImage BitmapContext::drawingView() {
+    return QImage(image_.bits(), image_.width(), image_.height(), image_.bytesPerLine(), renamed(image_).format());
 }
 
 void BitmapContext::scale(double x, double y) {

@@ -51,6 +51,7 @@ class BitmapContext {
 
   private:
     QTransform toDevice() const;
+    QImage drawingView();
     void drawExact(const QImage& picture, const QTransform& mapping, double opacity);
     void drawSmooth(const QImage& picture, const QTransform& mapping, double opacity);
 

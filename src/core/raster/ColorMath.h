@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 
 namespace tavrin {
@@ -31,6 +32,16 @@ inline int wholeSteps(double difference) {
 struct Rgb {
     double r, g, b;
 };
+
+inline double largestOf(const Rgb& c) {
+    return std::max({c.r, c.g, c.b});
+}
+
+/// How far two colours lie apart.
+inline double distance(const Rgb& a, const Rgb& b) {
+    const double r = a.r - b.r, g = a.g - b.g, bl = a.b - b.b;
+    return std::sqrt(r * r + g * g + bl * bl);
+}
 
 /// The engine's colour conversion: hue in degrees (0 to below 360), saturation 0 to 1, value on the scale of the
 /// input; `delta` is the difference between the largest and the smallest channel. Grey has hue and saturation 0.

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <memory>
 
+#include <QImage>
+
 namespace tavrin {
 
 /// Bytes of a pixel: red, green, blue, alpha, 8 bits each.
@@ -36,5 +38,9 @@ class PixelBuffer {
     };
     std::unique_ptr<std::uint8_t, Free> bytes_;
 };
+
+/// A picture of four bytes a pixel in such a buffer, with undefined contents, rows packed; null where memory was
+/// refused or the size is 0. Quicker to touch first than one that QImage makes itself.
+QImage newPicture(int width, int height, QImage::Format format);
 
 }  // namespace tavrin

@@ -22,7 +22,7 @@ struct ViewState {
     Field<bool> bShowAlpha = false;
     Field<bool> bTextPanelOpen = false;
     Field<std::int32_t> iEventMouseMode = 0;
-    Field<bool> bWaitForTextupdate = false;
+    Field<bool> bWaitForTextupdate = false;  ///< nobody waits: text is laid out where it is drawn
 };
 
 /// Print template page and the lists of sizes and pages.

@@ -162,10 +162,16 @@ LaidOutText layOutText(const std::string& text, const TextSetting& setting) {
 }
 
 bool haveFonts() {
-    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return true;
-    static std::atomic<bool> told = false;
-    if (!told.exchange(true)) logError("Text is left out of the picture: this program was started without fonts.");
-    return false;
+    static std::atomic<bool> found = false, told = false;
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        if (!told.exchange(true))
+            logError("Text is left out of the picture: this program was started without fonts.");
+        return false;
+    }
+    // Without any font there is still one that draws boxes; it comes from no file.
+    if (!found) found = !QRawFont::fromFont(QFont()).fontTable("head").isEmpty();
+    if (!found && !told.exchange(true)) logError("Text is left out of the picture: no font is installed.");
+    return found;
 }
 
 }  // namespace tavrin

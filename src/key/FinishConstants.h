@@ -49,29 +49,4 @@ struct FinishConstants {
     bool showOrgImage = false;     ///< the written alpha stays opaque
 };
 
-/// Pulls a near-white colour to neutral by two rules on one measure: a wide, gentle one for pixels whose green is
-/// level with the others, and a near one that takes an almost neutral colour all the way to grey.
-void adjustWhite(const WhiteAdjust& white, Rgb& color, bool greenIsLevel);
-
-/// Holds the hue of a colour that is too bright, in the order green, red, blue, and each channel at 0 from below.
-void limitBlend(Rgb& color);
-
-/// The subject's colour (in roles, as keyed) after tone, white adjustment, colour mode or silhouette, and deltas:
-/// each channel 0 to 255, in roles.
-Rgb finishForeground(const FinishConstants& finish, const Rgb& keyed, int x, int y);
-
-/// The background's colour at (x, y), from its bytes, after deltas, tone and colour mode, in roles. Channels may be
-/// below 0. `gain` is the light map's value, 0 without a map.
-Rgb finishBackground(const FinishConstants& finish, const std::uint8_t* bytes, int x, int y, std::int32_t gain);
-
-/// Lays the subject over the background and applies light and edge lift. All in roles.
-Rgb blendPixel(const FinishConstants& finish, const Rgb& foreground, const Rgb& background, double alpha,
-               std::int32_t gain);
-
-/// Writes red, green and blue of a colour in roles, truncated, and leaves the alpha byte.
-void writeColor(bool blueLogic, const Rgb& color, std::uint8_t* out);
-
-/// Writes the four bytes of a pixel of transparent output.
-void writeTransparent(const FinishConstants& finish, const Rgb& foreground, double alpha, std::uint8_t* out);
-
 }  // namespace tavrin
