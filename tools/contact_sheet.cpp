@@ -13,6 +13,7 @@
 
 #include "core/RandomSource.h"
 #include "core/state/SettingNames.h"
+#include "core/text/TextLayers.h"
 #include "effects/Presets.h"
 #include "formats/Installation.h"
 #include "pipeline/CombineThread.h"
@@ -25,7 +26,7 @@ using namespace tavrin;
 
 constexpr double kWidthInches = 4.0, kHeightInches = 5.0;
 constexpr int kDpi = 150;
-constexpr int kCellWidth = 216, kCellHeight = 270, kCaption = 20, kGap = 8, kColumns = 6;
+constexpr int kCellWidth = 208, kCellHeight = 260, kCaption = 20, kGap = 8, kColumns = 8;
 
 /// One picture of the sheet. A choice is group=preset or field=value, as on the command line; a value that begins
 /// with an @ is one of the pictures of `Sources` or, by its name, a shipped one.
@@ -45,18 +46,39 @@ const std::vector<Shot>& moreShots() {
         {"the lights found", {"star=on", "bStarFilterShowSelected=1", "background.sSourceImageFullPath=@lights"}},
         {"light on the subject only", {"lighting=sheet", "iLightingApplyTo=1"}},
         {"reflection on linen",
-         {"reflection=on", "reflectionTexture.bHaveTexture=1",
+         {"reflection=on", "foreground.fScale=0.6", "foreground.iOrgYoff=-20", "reflectionTexture.bHaveTexture=1",
           "reflectionTexture.sTextureFileName=@Texture/Linen.jpg"}},
-        {"frame of a picture", {"frame=square", "frame-fill=@background"}},
         {"frame with a texture",
          {"frame=square", "frame.iFrameColorRed=150", "frame.iFrameColorGreen=100", "frame.iFrameColorBlue=60",
           "frame.texture.bHaveTexture=1", "frame.texture.sTextureFileName=@Texture/Canvas.jpg"}},
         {"arched oval", {"frame=oval", "frame.bFrameArch=1"}},
+        {"title and note",
+         {"label0.sText=Anna", "label0.sLabelSize=X-Large", "label1.sText=Summer 2026", "label1.sFontColor=White"}},
+        {"text with outline and shadow",
+         {"text0.sText=Anna", "text0.iFontSize=60", "text0.isBold=1", "text0.rectSizeWidth=220", "text0.xPos=0.2",
+          "text0.yPos=0.05", "text0.dFontFillBlue=0.3", "text0.iFontOutlineThickness=-3",
+          "text0.iFontDropShadowRadius=6", "text0.iFontDropShadowHorz=4", "text0.iFontDropShadowVert=-4"}},
         {"two frames",
          {"frame=oval", "frame.iFrameColorRed=240", "frame.iFrameColorGreen=235", "frame.iFrameColorBlue=225",
           "frameOverlay.iFrameType=1", "frameOverlay.iFrameThickness=4", "frameOverlay.iFrameFeather=0"}},
+        {"background blurred", {"dSliderBlur=0.06"}},
+        {"soft where nothing changes", {"dSliderForegroundBlur=0.04", "iSliderForegroundThreshold=20"}},
+        {"subject in black and white", {"iForegroundOutputMode=1"}},
+        {"background in sepia", {"iBackgroundOutputMode=2"}},
+        {"silhouette", {"bOutputSilhouette=1", "iSilhouetteRed=20", "iSilhouetteBlue=40"}},
+        {"skin smoothed, make-up",
+         {"iSmoothMode=1", "iRedRequired=60", "iColorDelta=30", "iNumberOfSamples=80", "iMakeup=30"}},
     };
     return shots;
+}
+
+// What makes the looks of a group visible on this portrait.
+std::vector<std::string> neededBy(const std::string& group) {
+    if (group == "shadow") return {"foreground.fScale=0.7", "foreground.iOrgYoff=-100"};
+    if (group == "reflection") return {"foreground.fScale=0.6", "foreground.iOrgYoff=-20"};
+    if (group == "star") return {"background.sSourceImageFullPath=@lights"};
+    if (group == "frame-fill") return {"frame=oval"};
+    return {};
 }
 
 std::vector<Shot> allShots() {
@@ -67,8 +89,8 @@ std::vector<Shot> allShots() {
             if (preset.name == std::string("none")) continue;
             const bool isSwitch = preset.name == std::string("on");
             Shot shot = {"--" + name + (isSwitch ? "" : " " + std::string(preset.name)), {name + "=" + preset.name}};
-            if (name == "star") shot.choices.push_back("background.sSourceImageFullPath=@lights");
-            if (name == "frame-fill") shot.choices.push_back("frame=oval");
+            const std::vector<std::string> needed = neededBy(name);
+            shot.choices.insert(shot.choices.end(), needed.begin(), needed.end());
             shots.push_back(shot);
         }
     }
@@ -104,6 +126,7 @@ QImage take(const Shot& shot, const Sources& sources) {
         std::fprintf(stderr, "contact_sheet: %s: %s\n", shot.caption.c_str(), problem.c_str());
         return {};
     }
+    updateLabelSettings(*info);
     selectOwnSize(*info, "sheet", kWidthInches, kHeightInches, kDpi);
     ChangeImageSize(*info);
     CombineThread(*info).runUntilIdle();

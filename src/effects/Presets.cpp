@@ -23,36 +23,32 @@ void placeShadow(SystemInfo& info, int rightLeft, int upDown, int scale, int blu
     info.iSliderShadowBlack = 20;
 }
 
-void placeFloor(SystemInfo& info, int base, int skew, int room, int roomTransparency) {
+void setRoom(SystemInfo& info, int wallFoot, int transparency) {
+    info.iSliderVRoomRight = wallFoot;
+    info.iSliderVRoomLeft = wallFoot;
+    info.iSliderVRoomTransparency = transparency;
+}
+
+void placeFloor(SystemInfo& info, int base, int skew) {
     info.iSliderShadowBase = base;
     info.iSliderFloorBaseAngle = 500;
     info.iSliderFloorSkew = skew;
-    info.iSliderVRoomRight = room;
-    info.iSliderVRoomLeft = room;
-    info.iSliderVRoomTransparency = roomTransparency;
 }
 
+// The buttons leave it to the panel on which side a floor shadow falls; in front of the subject most of it would lie
+// outside the picture.
 constexpr Preset kShadows[] = {
-    {"none", "no shadow", [](SystemInfo& info) { setShadow(info, 1); }},
-    {"wall", "on a wall behind the subject, a little to the side",
+    {"none", "no shadow", removeShadow},
+    {"wall", "on a wall behind the subject, a little to the side", buttonWall},
+    {"floor", "on the floor, from the feet away from the viewer",
      [](SystemInfo& info) {
-         setShadow(info, 5);
-         placeShadow(info, 550, 480, 520, 300);
-         info.iSliderVRoomRight = info.iSliderVRoomLeft = info.iSliderVRoomTransparency = 0;
+         buttonFloor(info);
          info.iCheckShadowBehind = 1;
-     }},
-    {"floor", "on the floor, from the feet",
-     [](SystemInfo& info) {
-         setShadow(info, 2);
-         placeShadow(info, 500, 500, 300, 250);
-         placeFloor(info, 520, 525, 1000, 0);
      }},
     {"floor-wall", "over the floor and up a wall",
      [](SystemInfo& info) {
-         setShadow(info, 3);
-         placeShadow(info, 500, 500, 500, 250);
-         placeFloor(info, 600, 700, 300, 800);
-         info.bCheckShowBaseline = 1;
+         buttonFloorAndWall(info);
+         info.iCheckShadowBehind = 1;
      }},
 };
 
@@ -90,15 +86,15 @@ constexpr Preset kLights[] = {
     {"none", "no light", [](SystemInfo& info) { info.iLightingMode = 0; }},
     {"sheet", "brighter at one side, darker at the other",
      [](SystemInfo& info) {
-         setLight(info, {1, 100, 100, 30, 100, 58, 38, kBoth});
+         setLight(info, {1, 100, 100, 30, 100, 57, 42, kBoth});
      }},
     {"circle", "a spot of light behind the head",
      [](SystemInfo& info) {
          setLight(info, {2, 200, 130, 0, 120, 62, 50, kBackgroundOnly});
      }},
-    {"cone", "a beam from the side",
+    {"cone", "a beam from above",
      [](SystemInfo& info) {
-         setLight(info, {3, 50, 50, 45, 100, 62, 50, kBoth});
+         setLight(info, {3, 50, 0, 90, 180, 60, 50, kBoth});
      }},
     {"glow", "a halo around the subject",
      [](SystemInfo& info) {
@@ -150,18 +146,12 @@ constexpr Preset kTextures[] = {
     {"paper", "rough drawing paper", [](SystemInfo& info) { useTexture(info, shippedPicture("Texture/Paper.jpg")); }},
 };
 
-void setCartoon(SystemInfo& info, int type, int width, int smoothing) {
-    info.iCartoonEffectType = type;
-    info.iSliderCartoonEffectWidth = width;
-    info.iSliderCartoonEffectSmoothing = smoothing;
-}
-
 constexpr Preset kCartoons[] = {
-    {"none", "no drawing", [](SystemInfo& info) { info.iCartoonEffectType = 0; }},
-    {"cartoon", "black lines and strong colours", [](SystemInfo& info) { setCartoon(info, 1, 15, 95); }},
-    {"grey", "a soft pencil sketch", [](SystemInfo& info) { setCartoon(info, 2, 40, 20); }},
-    {"pencil", "hatched with a pencil", [](SystemInfo& info) { setCartoon(info, 3, 40, 20); }},
-    {"parchment", "hatched on old parchment", [](SystemInfo& info) { setCartoon(info, 4, 40, 20); }},
+    {"none", "no drawing", [](SystemInfo& info) { chooseCartoon(info, 0); }},
+    {"cartoon", "black lines and strong colours", [](SystemInfo& info) { chooseCartoon(info, 1); }},
+    {"grey", "a soft pencil sketch", [](SystemInfo& info) { chooseCartoon(info, 2); }},
+    {"pencil", "hatched with a pencil", [](SystemInfo& info) { chooseCartoon(info, 3); }},
+    {"parchment", "hatched on old parchment", [](SystemInfo& info) { chooseCartoon(info, 4); }},
 };
 
 constexpr Preset kFrames[] = {
@@ -172,16 +162,49 @@ constexpr Preset kFrames[] = {
     {"jagged", "with teeth like torn paper", [](SystemInfo& info) { info.oFrame->iFrameType = 4; }},
 };
 
-constexpr Preset kFrameFills[] = {
-    {"colour", "one colour, black unless it is set", [](SystemInfo& info) { info.oFrame->iFrameMode = 1; }},
-    {"blur", "the picture itself, blurred", [](SystemInfo& info) { info.oFrame->iFrameMode = 2; }},
-    {"background", "the background without the subject", [](SystemInfo& info) { info.oFrame->iFrameMode = 3; }},
-};
-
 void useFramePicture(SystemInfo& info, const std::string& path) {
     info.oFrame->iFrameMode = 4;
     info.oFrame->sFrameImagePath = path;
 }
+
+void useMaterial(SystemInfo& info, const std::string& file) {
+    useFramePicture(info, shippedPicture("FrameAndSilhouetteBackgrounds/" + file));
+}
+
+constexpr Preset kFrameFills[] = {
+    {"colour", "one colour, black unless it is set", [](SystemInfo& info) { info.oFrame->iFrameMode = 1; }},
+    {"blur", "the picture itself, blurred", [](SystemInfo& info) { info.oFrame->iFrameMode = 2; }},
+    {"background", "the background without the subject", [](SystemInfo& info) { info.oFrame->iFrameMode = 3; }},
+    {"walnut", "dark wood", [](SystemInfo& info) { useMaterial(info, "Walnut.jpg"); }},
+    {"gold", "brushed gold", [](SystemInfo& info) { useMaterial(info, "BrushedGold.jpg"); }},
+    {"marble", "pale marble", [](SystemInfo& info) { useMaterial(info, "Marble.jpg"); }},
+    {"velvet", "red velvet", [](SystemInfo& info) { useMaterial(info, "Velvet.jpg"); }},
+};
+
+/// Lays the pictures of a set over the layers; a set without a picture for a layer leaves that layer bare.
+void setOverlays(SystemInfo& info, const std::string& frame, const std::string& foreground,
+                 const std::string& background) {
+    const auto lay = [](Field<bool>& have, Field<std::string>& overlay, const std::string& name) {
+        have = !name.empty();
+        overlay = name.empty() ? "" : shippedPicture("Overlays/" + name);
+    };
+    lay(info.bHaveFrameOverlay, info.sFrameOverlay, frame);
+    lay(info.bHaveForegroundOverlay, info.sForegroundOverlay, foreground);
+    lay(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, background);
+    info.pBackgroundBitmapInfo->bScaleChange = true;
+}
+
+void setOverlaySet(SystemInfo& info, const std::string& name) {
+    setOverlays(info, "FR_" + name + ".png", "FG_" + name + ".png", "BG_" + name + ".png");
+}
+
+constexpr Preset kOverlays[] = {
+    {"none", "no overlays", [](SystemInfo& info) { setOverlays(info, "", "", ""); }},
+    {"gold", "a thin golden frame", [](SystemInfo& info) { setOverlays(info, "FR_Gold.png", "", ""); }},
+    {"graduation", "a set for graduations", [](SystemInfo& info) { setOverlaySet(info, "Graduation"); }},
+    {"winter", "a set for winter", [](SystemInfo& info) { setOverlaySet(info, "Winter"); }},
+    {"party", "a set for parties", [](SystemInfo& info) { setOverlaySet(info, "Party"); }},
+};
 
 constexpr PresetGroup kGroups[] = {
     {"shadow", "The subject's shadow on the background", kShadows, nullptr, true, true},
@@ -193,9 +216,43 @@ constexpr PresetGroup kGroups[] = {
     {"cartoon", "The picture as a drawing", kCartoons, nullptr, false},
     {"frame", "A border around the picture", kFrames},
     {"frame-fill", "What the frame is filled with", kFrameFills, useFramePicture},
+    {"overlays", "Pictures laid over the background, the subject and the whole", kOverlays, nullptr, true, true},
 };
 
 }  // namespace
+
+void buttonWall(SystemInfo& info) {
+    setShadow(info, 5);
+    placeShadow(info, 550, 480, 520, 300);
+    setRoom(info, 0, 0);
+    info.iCheckShadowBehind = 1;
+}
+
+void buttonFloor(SystemInfo& info) {
+    setShadow(info, 2);
+    placeShadow(info, 500, 500, 300, 250);
+    placeFloor(info, 520, 525);
+    setRoom(info, 1000, 0);
+}
+
+void buttonFloorAndWall(SystemInfo& info) {
+    setShadow(info, 3);
+    placeShadow(info, 500, 500, 500, 250);
+    placeFloor(info, 600, 700);
+    setRoom(info, 300, 800);
+    info.bCheckShowBaseline = 1;
+}
+
+void removeShadow(SystemInfo& info) {
+    setShadow(info, 1);
+}
+
+void chooseCartoon(SystemInfo& info, int type) {
+    info.iCartoonEffectType = type;
+    if (type < 1 || type > 4) return;
+    info.iSliderCartoonEffectWidth = type == 1 ? 15 : 40;
+    info.iSliderCartoonEffectSmoothing = type == 1 ? 95 : 20;
+}
 
 std::span<const PresetGroup> presetGroups() {
     return kGroups;

@@ -27,6 +27,15 @@ struct PresetGroup {
     bool inShortPath = false;  ///< `loadAndCombineFiles` draws it
 };
 
+// What the buttons of the shadow panel and the types of the cartoon panel write; the presets rest on them.
+
+void buttonWall(SystemInfo& info);
+void buttonFloor(SystemInfo& info);
+void buttonFloorAndWall(SystemInfo& info);
+void removeShadow(SystemInfo& info);
+/// 0 none, 1 cartoon, 2 grey, 3 pencil, 4 pencil on parchment.
+void chooseCartoon(SystemInfo& info, int type);
+
 /// Every group, in the order in which people read about them.
 std::span<const PresetGroup> presetGroups();
 

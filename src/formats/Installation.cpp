@@ -99,10 +99,13 @@ std::string installMissingFiles(const Places& places) {
 std::string shippedPicture(const std::string& name, const Places& places) {
     openShippedFiles();
     const std::string path = places.picturesFolder() + name;
-    std::error_code ignored;
-    std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
-    const std::string problem = putShippedFile("Pictures/" + name, path);
-    if (!problem.empty()) logError(problem);
+    for (const ShippedFile& file : shippedStart(places)) {
+        if (file.path != path) continue;
+        std::error_code ignored;
+        std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
+        const std::string problem = putShippedFile(file.name, path);
+        if (!problem.empty()) logError(problem);
+    }
     return path;
 }
 

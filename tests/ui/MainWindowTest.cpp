@@ -26,8 +26,10 @@ class MainWindowTest : public testing::Test {
         window_->show();
     }
     bool waitForPicture() {
-        return QTest::qWaitFor(
+        const bool idle = QTest::qWaitFor(
             [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
+        QCoreApplication::processEvents();  // the last rows were sent before the loop fell idle, and may still wait
+        return idle && window_->view()->isFull();
     }
     /// The picture in the view after the next pass.
     QImage pictureAfter(const std::function<void()>& act) {
