@@ -50,8 +50,8 @@ std::vector<std::string> namesInFolder(const std::string& folder, const std::vec
     return names;
 }
 
-// A comparison by the rules of a language is slow; one key a name makes the many comparisons of a sort cheap. The plain
-// "C" language has no notion of case, so the names are folded first.
+// A comparison by the rules of a language is slow; one key a name makes the many comparisons of a sort cheap. The
+// plain "C" language has no notion of case, so the names are folded first.
 void sortAsPeopleDo(std::vector<std::string>& names) {
     const QCollator collator;
     std::vector<std::pair<QCollatorSortKey, std::string>> keyed;
@@ -130,7 +130,8 @@ void NextFileInFolder::FindXMLFilesInFolder() {
 void NextFileInFolder::FindPhotosInFolderAndSubfolders() {
     std::vector<std::string> names = namesInFolder(sFolderToCheck, photoExtensions());
     std::error_code failed;
-    for (fs::directory_iterator entry(sFolderToCheck, failed), end; !failed && entry != end; entry.increment(failed)) {
+    for (fs::directory_iterator entry(sFolderToCheck, failed), end; !failed && entry != end;
+         entry.increment(failed)) {
         std::error_code ignored;
         if (!entry->is_directory(ignored)) continue;
         const std::string folder = entry->path().filename().string();

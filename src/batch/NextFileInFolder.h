@@ -29,8 +29,8 @@ class NextFileInFolder {
     /// Name of the first photo that is not in the history.
     std::optional<std::string> NextFileToProcess();
 
-    /// Photos of the folder itself (JPG, JPEG, TIF, TIFF, PNG in any case), sorted as people sort names. A folder with
-    /// such a name counts too; what lies inside any folder does not.
+    /// Photos of the folder itself (JPG, JPEG, TIF, TIFF, PNG in any case), sorted as people sort names. A folder
+    /// with such a name counts too; what lies inside any folder does not.
     void FindPhotosInFolder();
     /// State files, in the order that the platform gives.
     void FindQLXInFolder();

@@ -29,8 +29,8 @@ class NextFileInFolderTest : public testing::Test {
 };
 
 TEST_F(NextFileInFolderTest, FindsPhotosOfTheFolderItselfInTheOrderOfPeople) {
-    for (const char* name : {"b.JPG", "A.jpeg", "c.Tif", "D.TIFF", "e.png", "f.gif", "g.jpg.txt", ".jpg", "jpg", "s.qlx",
-                             "l.XML"})
+    for (const char* name :
+         {"b.JPG", "A.jpeg", "c.Tif", "D.TIFF", "e.png", "f.gif", "g.jpg.txt", ".jpg", "jpg", "s.qlx", "l.XML"})
         put(name);
     fs::create_directories(folder_.path() / "folder.jpg");  // a folder counts by its name ...
     put("folder.jpg/inside.jpg");                           // ... and what is in it does not
