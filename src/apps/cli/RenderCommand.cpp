@@ -1,6 +1,5 @@
 #include "apps/cli/RenderCommand.h"
 
-#include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -9,8 +8,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
+#include "apps/cli/PictureOptions.h"
 #include "core/state/SystemInfo.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
@@ -28,41 +27,9 @@ namespace {
 struct RenderOptions {
     std::string foreground, background, out, alpha;
     std::string state, saveState;
-    std::string sizeName, inches;
-    int dpi = 0;
-    std::vector<std::string> set;
-    bool blue = false, preview = false, fast = false, json = false;
+    PictureOptions picture;
+    bool preview = false, fast = false, json = false;
 };
-
-/// Why the command cannot be carried out as it was given; `code` is the exit code.
-struct Refusal {
-    int code = kDone;
-    std::string line;
-};
-
-bool parseNumber(std::string_view text, double& value) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return error == std::errc() && end == text.data() + text.size();
-}
-
-Refusal applySize(SystemInfo& info, const RenderOptions& options) {
-    if (options.inches.empty()) {
-        const std::string name = options.sizeName.empty() ? info.sImageSizeName.load() : options.sizeName;
-        if (selectSizeByName(info, name)) return {};
-        // A state file may name a size that is not in the list and carry an index that is.
-        if (options.sizeName.empty() && !options.state.empty()) return {};
-        return {kUsage, "There is no output size \"" + name + "\"."};
-    }
-    const std::size_t cross = options.inches.find_first_of("xX");
-    double width = 0.0, height = 0.0;
-    if (cross == std::string::npos || !parseNumber(std::string_view(options.inches).substr(0, cross), width) ||
-        !parseNumber(std::string_view(options.inches).substr(cross + 1), height)) {
-        return {kUsage, "--inches takes width x height, for example 8x10, not \"" + options.inches + "\"."};
-    }
-    const std::string name = options.inches + " at " + std::to_string(options.dpi) + " dpi";
-    if (!selectOwnSize(info, name, width, height, options.dpi)) return {kFailed, "The list of sizes is full."};
-    return {};
-}
 
 /// The pictures named on the command line win over those of the state file.
 Refusal applySources(SystemInfo& info, const RenderOptions& options) {
@@ -73,12 +40,6 @@ Refusal applySources(SystemInfo& info, const RenderOptions& options) {
     if (!use(*info.pForegroundBitmapInfo, options.foreground)) return {kUsage, "--foreground is missing."};
     if (!use(*info.pBackgroundBitmapInfo, options.background)) return {kUsage, "--background is missing."};
     return {};
-}
-
-Refusal applySettings(SystemInfo& info, const RenderOptions& options) {
-    if (options.blue) info.bUseBlueLogic = true;
-    const std::string problem = applyAssignments(info, options.set);
-    return problem.empty() ? Refusal() : Refusal{kUsage, problem};
 }
 
 Refusal checkTarget(const std::string& path) {
@@ -107,8 +68,8 @@ Refusal prepare(SystemInfo& info, const RenderOptions& options) {
         if (!problem.empty()) return {kFailed, problem};
     }
     if (Refusal refusal = applySources(info, options); refusal.code != kDone) return refusal;
-    if (Refusal refusal = applySettings(info, options); refusal.code != kDone) return refusal;
-    if (Refusal refusal = applySize(info, options); refusal.code != kDone) return refusal;
+    if (Refusal refusal = applyPictureOptions(info, options.picture, !options.state.empty()); refusal.code != kDone)
+        return refusal;
     if (!ChangeImageSize(info)) return {kUsage, "The output size cannot be used."};
     info.bSkipHiRes = options.preview;
     return {};
@@ -189,13 +150,7 @@ void addRenderCommand(CLI::App& app, int& result) {
     command->add_option("--out", options->out, "Picture to write: .jpg, .png or .tif")->required();
     command->add_option("--state", options->state, "Take all settings from a .qlx file first");
     command->add_option("--save-state", options->saveState, "Also write the settings as a .qlx file");
-    CLI::Option* size = command->add_option("--size", options->sizeName, "Output size by its name in the list");
-    CLI::Option* inches =
-        command->add_option("--inches", options->inches, "Output size, width x height")->excludes(size);
-    CLI::Option* dpi = command->add_option("--dpi", options->dpi, "Dots an inch, with --inches")->needs(inches);
-    inches->needs(dpi);
-    command->add_option("--set", options->set, "A setting as field=value; may be given several times")->take_all();
-    command->add_flag("--blue", options->blue, "The screen is blue (same as --set bUseBlueLogic=1)");
+    addPictureOptions(*command, options->picture);
     command->add_option("--alpha", options->alpha, "Also write the key's alpha as a grey PNG");
     command->add_flag("--preview", options->preview, "Stop at the preview and save that");
     command->add_flag("--fast", options->fast, "The short path: key, text and overlays only")->excludes("--preview");

@@ -1,5 +1,6 @@
 #include <QCoreApplication>
 
+#include "apps/cli/BatchCommand.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/InfoCommand.h"
 #include "apps/cli/ListCommands.h"
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
     using namespace tavrin;
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName("tavrin-cli");
+    QCoreApplication::setApplicationVersion(TAVRIN_VERSION);
 
     CLI::App app("Green-screen pictures without a window: keys a portrait over a background, from file to file.",
                  "tavrin-cli");
@@ -22,6 +24,8 @@ int main(int argc, char** argv) {
 
     int result = cli::kDone;
     cli::addRenderCommand(app, result);
+    cli::addBatchCommand(app, result);
+    cli::addReportCommand(app, result);
     cli::addInfoCommand(app, result);
     cli::addStateCommand(app, result);
     cli::addListCommands(app, result);
