@@ -19,6 +19,7 @@
 #include <QImage>
 #include <QPainter>
 
+#include "core/RandomSource.h"
 #include "core/image/ImageReader.h"
 #include "core/image/ImageWriter.h"
 #include "core/raster/Rows.h"
@@ -39,11 +40,25 @@ double load() {
     return getloadavg(average, 1) == 1 ? average[0] : -1.0;
 }
 
+/// The noise of a camera's chip, without which a portrait is decoded too quickly.
+QImage noise() {
+    QImage tile(kPortraitWidth, 256, QImage::Format_RGB32);
+    tavrin::RandomSource random(7);
+    for (int y = 0; y < tile.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(tile.scanLine(y));
+        for (int x = 0; x < tile.width(); ++x)
+            row[x] = qRgb(static_cast<int>(random.below(18)), static_cast<int>(random.below(18)),
+                          static_cast<int>(random.below(18)));
+    }
+    return tile;
+}
+
 /// Makes those that are missing.
 std::vector<std::string> portraits(const fs::path& folder, int count) {
     fs::create_directories(folder);
     std::vector<std::string> paths;
     QImage large;
+    const QImage chip = noise();
     for (int i = 0; i < count; ++i) {
         paths.push_back((folder / ("portrait" + std::to_string(10000 + i) + ".jpg")).string());
         if (fs::exists(paths.back())) continue;
@@ -53,16 +68,39 @@ std::vector<std::string> portraits(const fs::path& folder, int count) {
                         .convertToFormat(QImage::Format_RGB32);
         }
         QImage lit = large;
-        QPainter(&lit).fillRect(lit.rect(), QColor(255, 250, 240, i % 40));
+        QPainter painter(&lit);
+        painter.fillRect(lit.rect(), QColor(255, 250, 240, i % 40));
+        painter.setCompositionMode(QPainter::CompositionMode_Plus);
+        for (int y = 0; y < lit.height(); y += chip.height())
+            painter.drawImage(0, y, chip);
+        painter.end();
         lit.save(QString::fromStdString(paths.back() + ".new"), "JPEG", 92);
         fs::rename(paths.back() + ".new", paths.back());
     }
     return paths;
 }
 
-/// Seconds for decoding all portraits and encoding as many pictures.
-double floorOf(const std::vector<std::string>& paths, const QImage& picture, const fs::path& out, int threads) {
+struct Cost {
+    double seconds = 0.0, cpuSeconds = 0.0, megabytes = 0.0;
+};
+
+double cpuOf(const rusage& used) {
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    };
+    return seconds(used.ru_utime) + seconds(used.ru_stime);
+}
+
+double ownCpu() {
+    rusage used{};
+    getrusage(RUSAGE_SELF, &used);
+    return cpuOf(used);
+}
+
+/// What decoding all portraits and encoding as many pictures takes.
+Cost floorOf(const std::vector<std::string>& paths, const QImage& picture, const fs::path& out, int threads) {
     const tavrin::ThreadLimit limit(threads);
+    const double cpu = ownCpu();
     const Clock::time_point start = Clock::now();
     tavrin::runRows({}, static_cast<int>(paths.size()), 1, [&](int i) {
         if (!tavrin::readPicture(paths[static_cast<std::size_t>(i)]).error.empty()) std::abort();
@@ -71,15 +109,12 @@ double floorOf(const std::vector<std::string>& paths, const QImage& picture, con
             tavrin::writePicture(path, {picture.constBits(), kOutWidth, kOutHeight, tavrin::kJpegFile, 300, {}});
         if (!problem.empty()) std::abort();
     });
-    return secondsSince(start);
+    return {secondsSince(start), ownCpu() - cpu, 0.0};
 }
 
-struct Batch {
-    double seconds = 0.0, cpuSeconds = 0.0, megabytes = 0.0;
-};
-
 /// A whole process of the command line.
-Batch runBatch(const fs::path& folder, const fs::path& out, int inHand) {
+Cost runBatch(const fs::path& folder, const fs::path& out, int inHand) {
+    std::fflush(stdout);
     const Clock::time_point start = Clock::now();
     const pid_t child = fork();
     if (child == 0) {
@@ -94,24 +129,20 @@ Batch runBatch(const fs::path& folder, const fs::path& out, int inHand) {
     rusage used{};
     wait4(child, &status, 0, &used);
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) std::fprintf(stderr, "The batch failed.\n");
-    const auto seconds = [](const timeval& time) {
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-    };
-    return {secondsSince(start), seconds(used.ru_utime) + seconds(used.ru_stime),
-            static_cast<double>(used.ru_maxrss) / 1024.0};
+    return {secondsSince(start), cpuOf(used), static_cast<double>(used.ru_maxrss) / 1024.0};
 }
 
-void tell(const char* what, double seconds, std::size_t pictures, const std::string& more) {
-    std::printf("%-44s %8.1f s %8.1f a minute  %s\n", what, seconds, 60.0 * static_cast<double>(pictures) / seconds,
-                more.c_str());
+void tell(const char* what, const Cost& cost, std::size_t pictures, const Cost& serial, const Cost& parallel) {
+    const double count = static_cast<double>(pictures);
+    std::printf("%-46s %7.1f s %7.1f a minute, CPU %.3f s a picture", what, cost.seconds, 60.0 * count / cost.seconds,
+                cost.cpuSeconds / count);
+    if (cost.megabytes > 0.0) {
+        std::printf(", %.0f MB; floors times %.2f and %.2f, in CPU %.2f", cost.megabytes,
+                    cost.seconds / serial.seconds, cost.seconds / parallel.seconds,
+                    cost.cpuSeconds / serial.cpuSeconds);
+    }
+    std::printf("\n");
     std::fflush(stdout);
-}
-
-std::string ratios(double seconds, double serial, double parallel) {
-    char text[120];
-    std::snprintf(text, sizeof text, "%.2f x one after the other, %.2f x on all cores", seconds / serial,
-                  seconds / parallel);
-    return text;
 }
 
 }  // namespace
@@ -130,7 +161,7 @@ int main(int count, char** arguments) {
     // The batch first: one of its pictures is what the floor encodes.
     std::printf("%d portraits of %d x %d to %d x %d, %d cores, load %.1f at the start\n", pictures, kPortraitWidth,
                 kPortraitHeight, kOutWidth, kOutHeight, cores, load());
-    std::vector<Batch> batches;
+    std::vector<Cost> batches;
     for (const int inHand : {1, 3}) {
         fs::remove_all(out);
         batches.push_back(runBatch(folder / ("portraits" + std::to_string(pictures)), out, inHand));
@@ -139,16 +170,12 @@ int main(int count, char** arguments) {
     if (picture.width() != kOutWidth || picture.height() != kOutHeight) return 1;
     fs::remove_all(out);
     fs::create_directories(out);
-    const double serial = floorOf(paths, picture, out, 1), parallel = floorOf(paths, picture, out, cores);
+    const Cost serial = floorOf(paths, picture, out, 1), parallel = floorOf(paths, picture, out, cores);
     fs::remove_all(out);
-    tell("floor: decode and encode, one after the other", serial, paths.size(), "");
-    tell("floor: decode and encode, on all cores", parallel, paths.size(), "");
-    const char* names[] = {"batch, one picture in hand", "batch, three in hand"};
-    for (std::size_t i = 0; i < batches.size(); ++i) {
-        tell(names[i], batches[i].seconds, paths.size(), ratios(batches[i].seconds, serial, parallel));
-        std::printf("    CPU %.2f s a picture, peak memory %.0f MB\n",
-                    batches[i].cpuSeconds / static_cast<double>(paths.size()), batches[i].megabytes);
-    }
+    tell("floor: decode and encode, one after the other", serial, paths.size(), serial, parallel);
+    tell("floor: decode and encode, on all cores", parallel, paths.size(), serial, parallel);
+    tell("batch, one picture in hand", batches[0], paths.size(), serial, parallel);
+    tell("batch, three in hand", batches[1], paths.size(), serial, parallel);
     std::printf("load %.1f at the end\n", load());
     return 0;
 }

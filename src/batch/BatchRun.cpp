@@ -63,6 +63,7 @@ std::string BatchRun::run() {
     }
     JobList list = plan();
     if (!list.problem.empty()) return list.problem;
+    if (list.jobs.empty()) observer_.note("There is nothing to make: no JPEG, TIFF or PNG was found for it.");
     const Shard& shard = options_.shard;
     report_.begin(std::to_string(shard.index) + "/" + std::to_string(shard.count), static_cast<int>(list.jobs.size()),
                   digestOfList(list.jobs));
