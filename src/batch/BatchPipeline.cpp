@@ -70,7 +70,6 @@ class Stages {
         if (!job) return nullptr;
         auto hand = std::make_shared<InHand>();
         hand->result.job = std::move(*job);
-        if (!hand->result.job.problem.empty()) hand->fail(hand->result.job.problem, false);
         return hand;
     }
 

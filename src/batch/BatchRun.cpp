@@ -137,30 +137,46 @@ void BatchRun::make(const std::vector<BatchJob>& jobs) {
 
 /// Whether the job goes into the pipeline; otherwise it has come to its end here.
 bool BatchRun::isBegun(const BatchJob& job) {
+    using Status = JobResult::Status;
     JobResult result;
-    bool failedBefore = false;
-    {
-        std::lock_guard lock(mutex_);
-        if (job.problem.empty()) result.reason = whyNot(job, failedBefore);
-        if (result.reason.empty()) {
-            // A number belongs to its job from here on, whatever happens to this process.
-            if (options_.sources.style != kNumberFiles || !options_.shard.isWhole() || !job.problem.empty())
-                return true;
-            const JobRecord* known = journal_.find(job.name);
-            const std::string out = relativeTo(options_.sources.out, job.out);
-            if (known && known->out == out) return true;
-            JobRecord claim;
-            claim.name = job.name;
-            claim.out = out;
-            result.reason = journal_.add(claim);
-            if (result.reason.empty()) return true;
-            failedBefore = true;
+    if (job.problem.empty()) {
+        bool failedBefore = false;
+        {
+            std::lock_guard lock(mutex_);
+            result.reason = whyNot(job, failedBefore);
         }
+        result.status = failedBefore ? Status::failed : Status::skipped;
+        if (result.reason.empty()) {
+            result.reason = claimNumber(job);
+            if (result.reason.empty()) return true;
+            result.status = Status::failed;
+            result.diskFull = result.reason == kDiskFull;
+        }
+    } else {
+        result.reason = job.problem;
     }
     result.job = job;
-    result.status = failedBefore ? JobResult::Status::failed : JobResult::Status::skipped;
     end(std::move(result));
     return false;
+}
+
+/// A number belongs to its job from here on, whatever happens to this process.
+std::string BatchRun::claimNumber(const BatchJob& job) {
+    if (options_.sources.style != kNumberFiles || !options_.shard.isWhole()) return "";
+    JobRecord claim;
+    claim.name = job.name;
+    claim.out = relativeTo(options_.sources.out, job.out);
+    {
+        std::lock_guard lock(mutex_);
+        const JobRecord* known = journal_.find(job.name);
+        if (known && known->out == claim.out) return "";
+    }
+    std::string problem;
+    do {
+        std::lock_guard lock(mutex_);
+        problem = journal_.add(claim);
+    } while (problem == kDiskFull && options_.watch && waitForRoom());
+    return problem;
 }
 
 bool BatchRun::isSameInput(const std::string& path, const InputFile& input) const {
@@ -218,8 +234,9 @@ void BatchRun::record(const JobResult& result) {
     record.recipe = result.recipe;
     record.inputs = result.inputs;
     record.reason = result.reason;
-    const std::string problem = journal_.add(std::move(record));
-    if (!problem.empty()) observer_.note(problem + " A later run will make this picture again.");
+    const std::string problem = journal_.add(record);
+    if (!problem.empty())
+        observer_.note(record.out + " is not in the journal, so a later run makes it again: " + problem + ".");
 }
 
 bool BatchRun::waitForRoom() {

@@ -64,13 +64,14 @@ class BatchRun {
     void tellPlan(std::vector<BatchJob> jobs);
     void make(const std::vector<BatchJob>& jobs);
     void watchFolders();
-    void waitForNews(FolderWatch& watch);
+    void waitForNews(FolderWatch& watch, std::chrono::steady_clock::duration pause);
     std::vector<std::string> watchedFolders() const;
     bool isHandled(const BatchJob& job);
     bool settleInWatch(const JobResult& result);
 
     bool mayGoOn() const;
     bool isBegun(const BatchJob& job);
+    std::string claimNumber(const BatchJob& job);
     std::string whyNot(const BatchJob& job, bool& failedBefore);
     bool isSameInput(const std::string& path, const InputFile& input) const;
     void end(JobResult result);

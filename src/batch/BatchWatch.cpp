@@ -11,8 +11,10 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// How often a run looks for itself: news from other machines do not get through.
+/// How often a run looks for itself, since news from other machines do not get through; less often where the look takes
+/// long.
 constexpr std::chrono::milliseconds kPoll{2000};
+constexpr int kPauseForLook = 20;
 /// How soon it notices that it should stop.
 constexpr std::chrono::milliseconds kSlice{200};
 
@@ -45,21 +47,23 @@ void BatchRun::watchFolders() {
     const auto watch = options_.pollOnly ? makePollingWatch() : makeFolderWatch();
     report_.begin("1/1", 0, "");
     while (mayGoOn()) {
+        const Clock::time_point look = Clock::now();
         watch->watch(watchedFolders());
         for (const std::string& path : watch->wait(std::chrono::milliseconds(0)).closed)
             arrivals_.closed(path);
         JobList list = plan([this](const std::string& path) { return arrivals_.isComplete(path); });
         std::erase_if(list.jobs, [this](const BatchJob& job) { return isHandled(job); });
+        const Clock::duration pause = std::max<Clock::duration>(kPoll, (Clock::now() - look) * kPauseForLook);
         counts_.jobs = counts_.done + counts_.failed + static_cast<int>(list.jobs.size());
         if (!list.jobs.empty()) make(list.jobs);
         if (!mayGoOn()) break;
-        waitForNews(*watch);
+        waitForNews(*watch, pause);
     }
 }
 
-void BatchRun::waitForNews(FolderWatch& watch) {
+void BatchRun::waitForNews(FolderWatch& watch, Clock::duration pause) {
     observer_.idle(counts_);
-    const Clock::time_point until = arrivals_.nextMoment(Clock::now() + kPoll);
+    const Clock::time_point until = arrivals_.nextMoment(Clock::now() + pause);
     while (mayGoOn() && Clock::now() < until) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(until - Clock::now());
         const FolderNews news = watch.wait(std::min(left, kSlice));

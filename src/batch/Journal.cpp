@@ -168,9 +168,9 @@ std::string Journal::add(JobRecord record) {
         torn_ = false;
         return "";
     }
-    const std::string reason = std::strerror(errno);
+    const int reason = errno;
     torn_ = file_ >= 0;
-    return path_ + " cannot be written: " + reason + ".";
+    return reason == ENOSPC || reason == EDQUOT ? kDiskFull : std::strerror(reason);
 }
 
 GivenNames Journal::givenNames() const {

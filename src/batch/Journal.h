@@ -52,7 +52,8 @@ class Journal {
     /// The latest record of a job; null when there is none. Valid until the next `add`.
     const JobRecord* find(const std::string& name) const;
     /// Adds a record, with the time of now, for this run and later ones.
-    /// @return "" when done; otherwise why it is not on the disk. It counts for this run in any case.
+    /// @return "" when done; otherwise why it is not on the disk (`kDiskFull` or other words). It counts for this run
+    ///         in any case.
     std::string add(JobRecord record);
 
     GivenNames givenNames() const;

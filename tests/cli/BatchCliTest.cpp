@@ -83,7 +83,8 @@ TEST_F(BatchCliTest, WrongCallsAreToldAndWriteNothing) {
         const char* named;
     } calls[] = {
         {{"batch", "--out", file("out")}, "--foregrounds"},
-        {{"batch", "--foregrounds", file("none"), "--out", file("out")}, "none"},
+        {{"batch", "--foregrounds", file("none"), "--backgrounds", file("sea.png"), "--out", file("out")}, "none"},
+        {{"batch", "--foregrounds", file("fg"), "--out", file("out")}, "--backgrounds"},
         {batch({"--style", "pretty"}), "--style"},
         {batch({"--type", "gif"}), "--type"},
         {batch({"--set", "nonsense=1"}), "nonsense"},

@@ -17,7 +17,7 @@ from pathlib import Path
 from support import skip, wait_for, write_portrait
 
 PICTURES = 8
-SIZE = ["--inches", "8x10", "--dpi", "72", "--type", "png"]
+SIZE = ["--inches", "8x10", "--dpi", "72", "--type", "png", "--style", "number"]
 
 
 def in_own_mount_space():

@@ -60,6 +60,8 @@ Refusal complete(CommandOptions& options) {
         return {kUsage, "--foregrounds or --list is missing."};
     if (!sources.listFile.empty() && !sources.foregrounds.empty())
         return {kUsage, "--list names its foregrounds itself; --foregrounds does not go with it."};
+    if (sources.listFile.empty() && sources.backgrounds.empty() && sources.states.empty())
+        return {kUsage, "--backgrounds is missing, or --states that name their backgrounds."};
     if (sources.subfolders && sources.backgrounds.empty())
         return {kUsage, "--subfolders needs --backgrounds: a subfolder is named like one of them."};
     if (options.shard.empty()) return {};
@@ -134,9 +136,11 @@ void addSources(CLI::App& command, JobSources& sources) {
     command.add_option("--states", sources.states, "Folder of .qlx files, or one");
     command.add_option("--out", sources.out, "Folder for the pictures")->required();
     command.add_option("--style", sources.style, "Names: combine, number, or split into folders (default combine)")
-        ->transform(CLI::CheckedTransformer(styles).description(""));
+        ->transform(CLI::CheckedTransformer(styles).description(""))
+        ->type_name("NAME");
     command.add_option("--type", sources.fileType, "jpeg, png or tiff (default jpeg)")
-        ->transform(CLI::CheckedTransformer(types).description(""));
+        ->transform(CLI::CheckedTransformer(types).description(""))
+        ->type_name("NAME");
     CLI::Option* list = command.add_option("--list", sources.listFile, "A batch list: its jobs instead of folders");
     command.add_flag("--subfolders", sources.subfolders, "Portraits lie in subfolders named like their background")
         ->excludes(list);
