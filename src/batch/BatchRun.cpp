@@ -218,6 +218,8 @@ void BatchRun::end(JobResult result) {
     } else {
         ++counts_.failed;
     }
+    // A watch has no list, so its pictures are numbered as they come.
+    if (options_.watch) result.job.number = counts_.done + counts_.skipped + counts_.failed;
     report_.add(result, options_.sources.out);
     observer_.finished(result, counts_);
     if (result.diskFull && !options_.watch && !outOfRoom_.exchange(true))

@@ -11,8 +11,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// How often a run looks for itself, since news from other machines do not get through; less often where the look takes
-/// long.
+/// How often a run looks for itself, since news from other machines do not get through; less often where the look
+/// takes long.
 constexpr std::chrono::milliseconds kPoll{2000};
 constexpr int kPauseForLook = 20;
 /// How soon it notices that it should stop.
@@ -45,7 +45,6 @@ std::vector<std::string> BatchRun::watchedFolders() const {
 
 void BatchRun::watchFolders() {
     const auto watch = options_.pollOnly ? makePollingWatch() : makeFolderWatch();
-    report_.begin("1/1", 0, "");
     while (mayGoOn()) {
         const Clock::time_point look = Clock::now();
         watch->watch(watchedFolders());
@@ -54,11 +53,12 @@ void BatchRun::watchFolders() {
         JobList list = plan([this](const std::string& path) { return arrivals_.isComplete(path); });
         std::erase_if(list.jobs, [this](const BatchJob& job) { return isHandled(job); });
         const Clock::duration pause = std::max<Clock::duration>(kPoll, (Clock::now() - look) * kPauseForLook);
-        counts_.jobs = counts_.done + counts_.failed + static_cast<int>(list.jobs.size());
+        counts_.jobs = counts_.done + counts_.skipped + counts_.failed + static_cast<int>(list.jobs.size());
         if (!list.jobs.empty()) make(list.jobs);
         if (!mayGoOn()) break;
         waitForNews(*watch, pause);
     }
+    report_.begin("1/1", counts_.done + counts_.skipped + counts_.failed, "");
 }
 
 void BatchRun::waitForNews(FolderWatch& watch, Clock::duration pause) {

@@ -312,6 +312,7 @@ TEST_F(BatchRunTest, AHotFolderTakesWhatArrivesOnceItIsComplete) {
     portrait("whole.png", QColor(9, 9, 200));
     const std::string bytes = test::readFile(folder_.file("whole.png"));
     options_.watch = true;
+    options_.report = folder_.file("report");
     const auto has = [this](const char* name) { return fs::exists(folder_.path() / "out" / name); };
     std::thread user([&] {
         const auto await = [&](const char* name) {
@@ -344,6 +345,7 @@ TEST_F(BatchRunTest, AHotFolderTakesWhatArrivesOnceItIsComplete) {
     EXPECT_EQ(counts.failed, 0);
     EXPECT_EQ(test::readFile(folder_.file("out/slowx.png")), alone("whole.png", "bg/x.png"));
     EXPECT_EQ(test::readFile(folder_.file("out/movedx.png")), alone("fg/moved.png", "bg/x.png"));
+    EXPECT_EQ(mergeReports({options_.report}, folder_.file("all")).counts.done, 5);
     // A new watch remembers, although one of the pictures is gone.
     listener_.onIdle = [this](const BatchCounts&) { stop_ = true; };
     stop_ = false;
