@@ -79,13 +79,12 @@ void BatchEngine::endWaits() {
 }
 
 void BatchEngine::ShowBatchStatus() {
-    std::lock_guard lock(scanners_);
     if (settings_.bUseBackgroundSubfolders) {
-        showStatusSubfolders();
+        ShowBatchStatusSubfolders();
     } else if (settings_.bUseBatchXMLFile) {
-        showStatusXML();
+        ShowBatchStatusXML();
     } else {
-        showStatusOrg();
+        ShowBatchStatusOrg();
     }
 }
 
@@ -93,7 +92,8 @@ void BatchEngine::showCounts(std::int32_t processed) {
     view_.showBatchCounts(std::to_string(iTotalInBatch), std::to_string(processed));
 }
 
-void BatchEngine::showStatusOrg() {
+void BatchEngine::ShowBatchStatusOrg() {
+    std::lock_guard lock(scanners_);
     nextBatchForegroundFile.FindPhotosInFolder();
     nextBatchBackgroundFile.FindPhotosInFolder();
     nextBatchForegroundFile.ReadHistoryFile();
@@ -105,7 +105,8 @@ void BatchEngine::showStatusOrg() {
     showCounts(nextBatchForegroundFile.iProcessedCount);
 }
 
-void BatchEngine::showStatusSubfolders() {
+void BatchEngine::ShowBatchStatusSubfolders() {
+    std::lock_guard lock(scanners_);
     nextBatchForegroundFile.FindPhotosInFolderAndSubfolders();
     nextBatchBackgroundFile.FindPhotosInFolder();
     nextBatchForegroundFile.ReadHistoryFile();
@@ -113,18 +114,15 @@ void BatchEngine::showStatusSubfolders() {
     showCounts(nextBatchForegroundFile.iProcessedCount);
 }
 
-void BatchEngine::showStatusXML() {
-    iTotalInBatch = loadListFile();
+void BatchEngine::ShowBatchStatusXML() {
+    std::lock_guard lock(scanners_);
+    iTotalInBatch = ComputeNumberOfFilesInBatchUsingXMLFile();
     showCounts(iNextXMLBatchElement);
 }
 
+// A list that gave jobs blocks all later lists until the program starts again, also after its jobs have run.
 std::int32_t BatchEngine::ComputeNumberOfFilesInBatchUsingXMLFile() {
     std::lock_guard lock(scanners_);
-    return loadListFile();
-}
-
-// A list that gave jobs blocks all later lists until the program starts again, also after its jobs have run.
-std::int32_t BatchEngine::loadListFile() {
     if (iXMLBatchElements != 0) return iXMLBatchElements;
     const std::string folder = settings_.sLastBatchForeground;
     if (folder.empty()) return 0;

@@ -39,8 +39,12 @@ class BatchEngine {
     /// Ends a wait for a file that is still growing, for good; for a program that closes.
     void endWaits();
 
-    /// Counts what there is to do and what was done: by subfolders, by a list file, or by all combinations.
+    /// Counts what there is to do and what was done, in the way that the settings choose: by all combinations, by
+    /// subfolders, or by a list file.
     void ShowBatchStatus();
+    void ShowBatchStatusOrg();
+    void ShowBatchStatusSubfolders();
+    void ShowBatchStatusXML();
     /// Loads a list file from the foreground folder and moves it away, unless one that held jobs was loaded before.
     /// @return its jobs
     std::int32_t ComputeNumberOfFilesInBatchUsingXMLFile();
@@ -78,11 +82,7 @@ class BatchEngine {
   private:
     struct Job;
 
-    void showStatusOrg();
-    void showStatusSubfolders();
-    void showStatusXML();
     void showCounts(std::int32_t processed);
-    std::int32_t loadListFile();
     void moveListFileAway(const std::string& folder, const std::string& name);
 
     void saveFinishedJob();
@@ -108,7 +108,7 @@ class BatchEngine {
     SystemInfo& info_;
     QLXInfo& settings_;
     BatchView& view_;
-    std::mutex scanners_;
+    std::recursive_mutex scanners_;  ///< the panel and a run both look into the folders
     std::mutex waitMutex_;
     std::condition_variable waitEnded_;
     bool leaving_ = false;

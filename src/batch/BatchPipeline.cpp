@@ -59,18 +59,19 @@ struct InHand {
         result.lasting = lasting;
     }
 };
-using InHandRef = std::shared_ptr<InHand>;
 
 class Stages {
   public:
     Stages(PictureMaker& maker, const PipelineTasks& tasks) : maker_(maker), tasks_(tasks) {}
 
-    InHandRef take() {
+    /// The next job; null at the end. `finish` takes it back.
+    InHand* take() {
         std::optional<BatchJob> job = tasks_.next();
         if (!job) return nullptr;
-        auto hand = std::make_shared<InHand>();
-        hand->result.job = std::move(*job);
-        return hand;
+        std::lock_guard lock(mutex_);
+        InHand& hand = hands_.emplace_back();
+        hand.result.job = std::move(*job);
+        return &hand;
     }
 
     void decode(InHand& hand) {
@@ -103,7 +104,7 @@ class Stages {
                                    {made.pixels.data(), made.width, made.height, job.fileType, made.dpi, made.exif});
         } while (problem == kDiskFull && tasks_.waitForRoom && tasks_.waitForRoom());
         hand.result.diskFull = problem == kDiskFull;
-        if (!problem.empty()) return hand.fail(job.out + ": " + problem, false);
+        if (!problem.empty()) return hand.fail(problem, false);
         hand.result.width = made.width;
         hand.result.height = made.height;
     }
@@ -113,8 +114,9 @@ class Stages {
         if (!hand.failed()) result.status = JobResult::Status::done;
         result.seconds = std::chrono::duration<double>(Clock::now() - hand.start).count();
         hand.made = MadePicture();
-        std::lock_guard lock(finished_);
+        std::lock_guard lock(mutex_);
         tasks_.finished(std::move(result));
+        hands_.remove_if([&hand](const InHand& other) { return &other == &hand; });
     }
 
   private:
@@ -130,20 +132,23 @@ class Stages {
     PictureMaker& maker_;
     const PipelineTasks& tasks_;
     Backgrounds backgrounds_;
-    std::mutex finished_;
+    std::mutex mutex_;
+    std::list<InHand> hands_;
 };
 
-/// One stage for one job; a job that failed passes through.
-void work(Stages& stages, void (Stages::*stage)(InHand&), const InHandRef& hand) {
-    hand->handOver.pass();
-    if (!hand->failed()) {
+/// One stage for one job; a job that failed passes through. Whatever happens to one job, the others go on.
+void work(Stages& stages, void (Stages::*stage)(InHand&), InHand& hand) {
+    hand.handOver.pass();
+    if (!hand.failed()) {
         try {
-            (stages.*stage)(*hand);
+            (stages.*stage)(hand);
         } catch (const std::bad_alloc&) {
-            hand->fail("there is not enough memory for it", false);
+            hand.fail("there is not enough memory for it", false);
+        } catch (const std::exception& error) {
+            hand.fail(std::string("it cannot be made (") + error.what() + ")", false);
         }
     }
-    hand->handOver.pass();
+    hand.handOver.pass();
 }
 
 }  // namespace
@@ -152,23 +157,22 @@ void runPipeline(PictureMaker& maker, const PipelineTasks& tasks) {
     using oneapi::tbb::filter_mode;
     using oneapi::tbb::make_filter;
     Stages stages(maker, tasks);
-    const auto take =
-        make_filter<void, InHandRef>(filter_mode::serial_in_order, [&](oneapi::tbb::flow_control& flow) {
-            InHandRef hand = stages.take();
-            if (!hand) flow.stop();
-            return hand;
-        });
-    const auto decode = make_filter<InHandRef, InHandRef>(filter_mode::parallel, [&](InHandRef hand) {
-        work(stages, &Stages::decode, hand);
+    const auto take = make_filter<void, InHand*>(filter_mode::serial_in_order, [&](oneapi::tbb::flow_control& flow) {
+        InHand* hand = stages.take();
+        if (!hand) flow.stop();
+        return hand;
+    });
+    const auto decode = make_filter<InHand*, InHand*>(filter_mode::parallel, [&](InHand* hand) {
+        work(stages, &Stages::decode, *hand);
         return hand;
     });
     // One at a time: keying alone keeps all cores busy, and the random numbers of a picture follow one another.
-    const auto key = make_filter<InHandRef, InHandRef>(filter_mode::serial_in_order, [&](InHandRef hand) {
-        work(stages, &Stages::key, hand);
+    const auto key = make_filter<InHand*, InHand*>(filter_mode::serial_in_order, [&](InHand* hand) {
+        work(stages, &Stages::key, *hand);
         return hand;
     });
-    const auto encode = make_filter<InHandRef, void>(filter_mode::parallel, [&](const InHandRef& hand) {
-        work(stages, &Stages::encode, hand);
+    const auto encode = make_filter<InHand*, void>(filter_mode::parallel, [&](InHand* hand) {
+        work(stages, &Stages::encode, *hand);
         hand->handOver.pass();
         stages.finish(*hand);
     });
