@@ -1,4 +1,5 @@
 // What a batch run is made of: shards, the job list, the journal, arrivals, the folder watch.
+#include <atomic>
 #include <chrono>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include "batch/Shard.h"
 #include "core/AtomicFile.h"
 #include "support/Files.h"
+#include "support/Pictures.h"
 #include "support/TestData.h"
 
 namespace fs = std::filesystem;
@@ -216,6 +218,37 @@ TEST(FolderWatch, TellsOfClosedAndMovedFilesOnly) {
     EXPECT_TRUE(watch->wait(milliseconds(1)).closed.empty());
 }
 #endif
+
+// Whoever replaces a file while it is read gets a picture of one state of it, or none.
+TEST(ReadSettledFile, NeverMixesTwoStatesOfAFile) {
+    test::TempFolder folder;
+    const std::string path = folder.file("a.png");
+    const QImage pictures[] = {test::noisePicture(200, 150, 1), test::noisePicture(200, 150, 2)};
+    std::string bytes[2];
+    for (int i : {0, 1})
+        bytes[i] = test::readFile(test::savePng(pictures[i], folder.file(std::to_string(i) + ".png")));
+    std::atomic<bool> ended = false;
+    std::thread writer([&] {
+        for (int i = 0; !ended; ++i) {
+            test::writeFile(path, bytes[i % 2].substr(0, bytes[i % 2].size() / (1 + i % 3)));
+            std::this_thread::sleep_for(milliseconds(i % 7));
+        }
+    });
+    for (int i = 0; i < 60; ++i) {
+        const ReadFile file = readSettledFile(path);
+        if (!file.picture.error.empty()) continue;
+        const QImage read = file.picture.pixels.convertToFormat(QImage::Format_RGB888);
+        EXPECT_TRUE(read == pictures[0] || read == pictures[1]);
+    }
+    ended = true;
+    writer.join();
+    test::writeFile(path, bytes[1]);
+    const ReadFile last = readSettledFile(path);
+    EXPECT_EQ(last.picture.error, "");
+    EXPECT_EQ(last.digest, digestOfFile(folder.file("1.png")));
+    fs::remove(path);
+    EXPECT_TRUE(readSettledFile(path).missing);
+}
 
 TEST(AtomicFileParts, OfKilledProgramsGoAfterAWhile) {
     test::TempFolder folder;
