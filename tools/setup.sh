@@ -9,6 +9,7 @@ build_packages=(g++ cmake ninja-build ccache pkg-config python3 qt6-base-dev qt6
     libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev)
 test_packages=(xvfb xauth)
 format_packages=(clang-format-14)
+farm_packages=(slurmctld slurmd slurm-client munge)
 
 say() { printf '%s\n' "$*" >&2; }
 

@@ -2,10 +2,13 @@
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <cstdint>
+#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -15,10 +18,16 @@ namespace tavrin {
 
 namespace {
 
-// Unique among the processes and calls of this machine.
+// Unique among all machines that share the folder: in containers even the numbers of processes are alike.
 std::string hiddenName() {
+    static const std::uint64_t process = [] {
+        std::random_device device;
+        return (static_cast<std::uint64_t>(device()) << 32) | device();
+    }();
     static std::atomic<std::uint32_t> counter = 0;
-    return ".tavrin-" + std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".part";
+    char name[64];
+    std::snprintf(name, sizeof name, ".tavrin-%016llx-%u.part", static_cast<unsigned long long>(process), counter++);
+    return name;
 }
 
 std::string plainReason(int code, const std::string& folder) {
@@ -34,7 +43,7 @@ std::string plainReason(int code, const std::string& folder) {
             return "the folder " + folder + " can only be read";
         case ENOSPC:
         case EDQUOT:
-            return "the disk is full";
+            return kDiskFull;
         case EFBIG:
             return "the file would be larger than this disk allows";
         case EISDIR:
@@ -53,7 +62,26 @@ fs::path followLink(const fs::path& path) {
     return error || !fs::is_symlink(path, error) ? path : target;
 }
 
+bool isHiddenName(const std::string& name) {
+    return name.starts_with(".tavrin-") && name.ends_with(".part");
+}
+
 }  // namespace
+
+void AtomicFile::removeAbandonedParts(const std::string& folder) {
+    constexpr auto kAge = std::chrono::minutes(5);
+    // The folder's own clock, which may be that of another machine.
+    AtomicFile probe(folder + "/clock");
+    std::error_code failed;
+    const auto now = fs::last_write_time(probe.hidden_, failed);
+    if (failed) return;
+    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
+        std::error_code gone;
+        if (!isHiddenName(entry->path().filename().string())) continue;
+        const auto written = entry->last_write_time(gone);
+        if (!gone && now - written > kAge) fs::remove(entry->path(), gone);
+    }
+}
 
 AtomicFile::AtomicFile(const std::string& target) {
     const fs::path path = followLink(target);

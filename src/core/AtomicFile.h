@@ -5,6 +5,9 @@
 
 namespace tavrin {
 
+/// The `error` when there is no room: the one that may go away by itself.
+inline constexpr const char* kDiskFull = "the disk is full";
+
 /// A file that appears under its name only when it is complete. It is written under a hidden name of its own in the
 /// same folder, brought to the disk, and moved over the target by `commit`; without that the hidden file goes away
 /// with the object. Neither a full disk nor a kill leaves half a file under the name or harms the old one.
@@ -29,6 +32,9 @@ class AtomicFile {
 
     /// What went wrong first, as one plain line; empty while all is well.
     const std::string& error() const { return error_; }
+
+    /// Removes hidden files that killed programs left in a folder: those that nobody has written to for minutes.
+    static void removeAbandonedParts(const std::string& folder);
 
   private:
     bool fail(int code);

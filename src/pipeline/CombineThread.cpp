@@ -181,7 +181,7 @@ void CombineThread::makeFullPicture() {
     if (!combined.oBitmapRep || !combined.oBitmapRepLowRes) return;
     // Until the full picture is done the enlarged preview stands in for it. With nobody to look it is left out, but
     // not where the key may give up and leave what it finds (a silhouette whose picture cannot be read).
-    if (info_.pInterface || info_.bOutputSilhouette) {
+    if ((info_.pInterface && info_.pInterface->wantsPixels()) || info_.bOutputSilhouette) {
         BitmapContext& full = *combined.oBitmapRep;
         full.drawImage(combined.oBitmapRepLowRes->snapshot(), QRectF(0, 0, full.width(), full.height()));
     }

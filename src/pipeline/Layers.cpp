@@ -131,7 +131,7 @@ void drawSource(const BitmapInfo& record, BitmapContext& context, const Fit& fit
 bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record) {
     logTrace("**** Loading Org Image");
     const std::string path = record.sSourceImageFullPath;
-    ReadPicture picture = readPicture(path);
+    ReadPicture picture = info.readSource ? info.readSource(path) : readPicture(path);
     if (!picture.error.empty()) {
         const std::string name = std::filesystem::path(path).filename().string();
         info.alert("Cound not load file: " + name + ", check your file permissions", picture.error);

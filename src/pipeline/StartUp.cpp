@@ -101,6 +101,13 @@ void loadSketchPictures(StartUpPictures& pictures) {
     }
 }
 
+void startLike(SystemInfo& info, const SystemInfo& other) {
+    info.oImageSize = other.oImageSize;
+    info.iSelecteImageSize = other.iSelecteImageSize;
+    info.oPrinterPages = other.oPrinterPages;
+    static_cast<StartUpPictures&>(info) = other;
+}
+
 std::string openStateFile(SystemInfo& info, const std::string& path) {
     // The buffers have the size that they have. The file's pixel sizes allocate nothing, so they must not stand: the
     // file's size comes into force through its place in the list.

@@ -18,6 +18,10 @@ void startCommandLine(SystemInfo& info);
 /// start, the command line gets them before its first sketch. On the processing thread, or before it starts.
 void loadSketchPictures(StartUpPictures& pictures);
 
+/// Brings a new state up like `other`, which `startCommandLine` brought up, without a look at the disk: for a process
+/// that makes many pictures, each from a state of its own.
+void startLike(SystemInfo& info, const SystemInfo& other);
+
 /// Loads a state file as the user's choice: the state is read whole or not at all, and what a pass must redo is
 /// flagged. The size of the buffers stays until the next pass takes the file's size from the list. Call it where no
 /// stage runs: before the loop starts, or as a job of the loop's (`CombineThread::post`).

@@ -5,8 +5,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 
+#include "support/Cli.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
 #include "support/TextPage.h"
@@ -16,20 +16,10 @@ namespace fs = std::filesystem;
 namespace tavrin {
 namespace {
 
-struct Outcome {
-    int code = -1;
-    QString out, err;
-};
+using Outcome = test::CliOutcome;
 
 Outcome run(const QStringList& arguments) {
-    QProcess process;
-    process.start(TAVRIN_CLI, arguments);
-    Outcome outcome;
-    if (!process.waitForFinished(60000)) return outcome;
-    outcome.code = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
-    outcome.out = QString::fromUtf8(process.readAllStandardOutput());
-    outcome.err = QString::fromUtf8(process.readAllStandardError());
-    return outcome;
+    return test::runCli(arguments);
 }
 
 class CliTest : public testing::Test {

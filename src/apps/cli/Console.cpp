@@ -16,7 +16,11 @@ void complain(const std::string& line) {
     std::fprintf(stderr, "tavrin-cli: %s\n", line.c_str());
 }
 
-Console::Console() : isTerminal_(isatty(fileno(stderr)) != 0) {}
+bool Console::isTerminal(std::FILE* stream) {
+    return isatty(fileno(stream)) != 0;
+}
+
+Console::Console() : isTerminal_(isTerminal()) {}
 
 Console::~Console() {
     clearProgress();

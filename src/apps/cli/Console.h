@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <string>
 
 #include "core/state/Interface.h"
@@ -18,6 +19,9 @@ class Console : public Interface {
   public:
     Console();
     ~Console() override;
+
+    /// Whether somebody looks at this stream.
+    static bool isTerminal(std::FILE* stream = stderr);
 
     bool wantsPixels() const override { return false; }
     void repaint(const PublishedRows& rows) override;

@@ -1,7 +1,5 @@
 #include "apps/cli/RenderCommand.h"
 
-#include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -11,13 +9,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
-#include "apps/cli/EffectOptions.h"
+#include "apps/cli/PictureOptions.h"
 #include "core/Places.h"
 #include "core/RandomSource.h"
 #include "core/state/SystemInfo.h"
-#include "core/text/TextLayers.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
@@ -34,45 +30,10 @@ namespace {
 struct RenderOptions {
     std::string foreground, background, out, alpha;
     std::string state, saveState;
-    std::string sizeName, inches;
-    int dpi = 0;
-    EffectOptions effects;
+    PictureOptions picture;
     std::optional<std::uint64_t> seed;
-    std::string title, note;
-    std::string backgroundOverlay, foregroundOverlay, frameOverlay;
-    std::vector<std::string> set;
-    bool blue = false, preview = false, fast = false, json = false;
+    bool preview = false, fast = false, json = false;
 };
-
-/// Why the command cannot be carried out as it was given; `code` is the exit code.
-struct Refusal {
-    int code = kDone;
-    std::string line;
-};
-
-bool parseNumber(std::string_view text, double& value) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return error == std::errc() && end == text.data() + text.size();
-}
-
-Refusal applySize(SystemInfo& info, const RenderOptions& options) {
-    if (options.inches.empty()) {
-        const std::string name = options.sizeName.empty() ? info.sImageSizeName.load() : options.sizeName;
-        if (selectSizeByName(info, name)) return {};
-        // A state file may name a size that is not in the list and carry an index that is.
-        if (options.sizeName.empty() && !options.state.empty()) return {};
-        return {kUsage, "There is no output size \"" + name + "\"."};
-    }
-    const std::size_t cross = options.inches.find_first_of("xX");
-    double width = 0.0, height = 0.0;
-    if (cross == std::string::npos || !parseNumber(std::string_view(options.inches).substr(0, cross), width) ||
-        !parseNumber(std::string_view(options.inches).substr(cross + 1), height)) {
-        return {kUsage, "--inches takes width x height, for example 8x10, not \"" + options.inches + "\"."};
-    }
-    const std::string name = options.inches + " at " + std::to_string(options.dpi) + " dpi";
-    if (!selectOwnSize(info, name, width, height, options.dpi)) return {kFailed, "The list of sizes is full."};
-    return {};
-}
 
 /// The pictures named on the command line win over those of the state file.
 Refusal applySources(SystemInfo& info, const RenderOptions& options) {
@@ -83,41 +44,6 @@ Refusal applySources(SystemInfo& info, const RenderOptions& options) {
     if (!use(*info.pForegroundBitmapInfo, options.foreground)) return {kUsage, "--foreground is missing."};
     if (!use(*info.pBackgroundBitmapInfo, options.background)) return {kUsage, "--background is missing."};
     return {};
-}
-
-void applyOverlays(SystemInfo& info, const RenderOptions& options) {
-    const auto use = [](Field<bool>& have, Field<std::string>& overlay, const std::string& path) {
-        if (path.empty()) return;
-        have = true;
-        overlay = path;
-    };
-    use(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, options.backgroundOverlay);
-    use(info.bHaveForegroundOverlay, info.sForegroundOverlay, options.foregroundOverlay);
-    use(info.bHaveFrameOverlay, info.sFrameOverlay, options.frameOverlay);
-}
-
-/// Whether the command line says anything about a label.
-bool changesLabels(const RenderOptions& options) {
-    return !options.title.empty() || !options.note.empty() ||
-           std::any_of(options.set.begin(), options.set.end(),
-                       [](const std::string& assignment) { return assignment.starts_with("label"); });
-}
-
-Refusal applySettings(SystemInfo& info, const RenderOptions& options) {
-    if (options.blue) info.bUseBlueLogic = true;
-    std::string problem = options.effects.leftOut(options.fast, options.preview);
-    if (problem.empty()) problem = options.effects.apply(info);
-    if (!problem.empty()) return Refusal{kUsage, problem};
-    if (!options.title.empty()) info.oFontLabelObject[0].sText = options.title;
-    if (!options.note.empty()) info.oFontLabelObject[1].sText = options.note;
-    applyOverlays(info, options);
-    problem = applyAssignments(info, options.set);
-    if (problem.empty() && changesLabels(options)) {
-        // Sizes and colours by name come first; a number that was given beside them wins.
-        updateLabelSettings(info);
-        problem = applyAssignments(info, options.set);
-    }
-    return problem.empty() ? Refusal() : Refusal{kUsage, problem};
 }
 
 Refusal checkTarget(const std::string& path) {
@@ -146,8 +72,10 @@ Refusal prepare(SystemInfo& info, const RenderOptions& options) {
         if (!problem.empty()) return {kFailed, problem};
     }
     if (Refusal refusal = applySources(info, options); refusal.code != kDone) return refusal;
-    if (Refusal refusal = applySettings(info, options); refusal.code != kDone) return refusal;
-    if (Refusal refusal = applySize(info, options); refusal.code != kDone) return refusal;
+    const std::string left = options.picture.effects.leftOut(options.fast, options.preview);
+    if (!left.empty()) return {kUsage, left};
+    if (Refusal refusal = applyPictureOptions(info, options.picture, !options.state.empty()); refusal.code != kDone)
+        return refusal;
     if (!ChangeImageSize(info)) return {kUsage, "The output size cannot be used."};
     info.bSkipHiRes = options.preview;
     return {};
@@ -239,20 +167,8 @@ void addRenderCommand(CLI::App& app, int& result) {
     command->add_option("--out", options->out, "Picture to write: .jpg, .png or .tif")->required();
     command->add_option("--state", options->state, "Take all settings from a .qlx file first");
     command->add_option("--save-state", options->saveState, "Also write the settings as a .qlx file");
-    CLI::Option* size = command->add_option("--size", options->sizeName, "Output size by its name in the list");
-    CLI::Option* inches =
-        command->add_option("--inches", options->inches, "Output size, width x height")->excludes(size);
-    CLI::Option* dpi = command->add_option("--dpi", options->dpi, "Dots an inch, with --inches")->needs(inches);
-    inches->needs(dpi);
-    options->effects.addTo(*command);
+    addPictureOptions(*command, options->picture);
     command->add_option("--seed", options->seed, "Where the random numbers of texture and skin noise start");
-    command->add_option("--title", options->title, "Text of the title (label 0)");
-    command->add_option("--note", options->note, "Text of the note (label 1)");
-    command->add_option("--overlay-background", options->backgroundOverlay, "Picture over the background");
-    command->add_option("--overlay-foreground", options->foregroundOverlay, "Picture over the subject");
-    command->add_option("--overlay-frame", options->frameOverlay, "Picture over everything but text and frames");
-    command->add_option("--set", options->set, "A setting as field=value; may be given several times")->take_all();
-    command->add_flag("--blue", options->blue, "The screen is blue (same as --set bUseBlueLogic=1)");
     command->add_option("--alpha", options->alpha, "Also write the key's alpha as a grey PNG");
     command->add_flag("--preview", options->preview, "Stop at the preview and save that");
     command->add_flag("--fast", options->fast, "The short path: key, text and overlays only")->excludes("--preview");

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include "apps/cli/BatchCommand.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/EffectOptions.h"
 #include "apps/cli/InfoCommand.h"
@@ -31,6 +32,7 @@ std::unique_ptr<QCoreApplication> startLibraries(bool withFonts) {
 int main(int argc, char** argv) {
     using namespace tavrin;
     QCoreApplication::setApplicationName("tavrin-cli");
+    QCoreApplication::setApplicationVersion(TAVRIN_VERSION);
 
     CLI::App app("Green-screen pictures without a window: keys a portrait over a background, from file to file.",
                  "tavrin-cli");
@@ -42,12 +44,15 @@ int main(int argc, char** argv) {
 
     int result = cli::kDone;
     cli::addRenderCommand(app, result);
+    cli::addBatchCommand(app, result);
+    cli::addReportCommand(app, result);
     cli::addInfoCommand(app, result);
     cli::addStateCommand(app, result);
     cli::addListCommands(app, result);
     cli::addEffectsCommand(app, result);
     std::unique_ptr<QCoreApplication> application;
-    app.parse_complete_callback([&] { application = startLibraries(app.got_subcommand("render")); });
+    app.parse_complete_callback(
+        [&] { application = startLibraries(app.got_subcommand("render") || app.got_subcommand("batch")); });
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

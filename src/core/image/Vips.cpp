@@ -27,8 +27,10 @@ bool startVips() {
 }
 
 std::string takeVipsError() {
-    std::istringstream lines(vips_error_buffer());
-    vips_error_clear();
+    // In one step: other threads may be adding theirs.
+    char* text = vips_error_buffer_copy();
+    std::istringstream lines(text);
+    g_free(text);
     std::string cause;
     for (std::string line; std::getline(lines, line);)
         if (line.find(": ") != std::string::npos) cause = line;

@@ -43,6 +43,12 @@ bool BitmapInfo::allocateBuffers(int fullWidth, int fullHeight, int lowWidth, in
     return true;
 }
 
+PixelBuffer BitmapInfo::takeFullPixels() {
+    oBitmapRep.reset();
+    pBitmapData = nullptr;
+    return std::exchange(fullPixels_, PixelBuffer());
+}
+
 void BitmapInfo::setSource(QImage source) {
     orgImage = std::move(source);
     orgBitmapData = orgImage.constBits();

@@ -30,6 +30,8 @@ class BitmapInfo : public LayerSettings {
     /// Gives both buffers new sizes, with undefined contents and contexts of their own.
     /// @return false when memory was refused; the record then has no buffers
     bool allocateBuffers(int fullWidth, int fullHeight, int lowWidth, int lowHeight);
+    /// Hands the memory of the full picture over to the caller; the record has none then, until `allocateBuffers`.
+    PixelBuffer takeFullPixels();
     /// Takes a source picture (RGBA, premultiplied, rows packed) as `orgImage` and `orgBitmapData`.
     void setSource(QImage source);
 

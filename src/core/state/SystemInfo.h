@@ -2,9 +2,11 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <functional>
 #include <memory>
 #include <mutex>
 
+#include "core/image/ImageReader.h"
 #include "core/raster/Rows.h"
 #include "core/state/BitmapInfo.h"
 #include "core/state/EffectSettings.h"
@@ -95,6 +97,8 @@ class SystemInfo : public Settings,
 
     SystemInfo* const pMySystemInfo = this;
     Interface* pInterface = nullptr;  ///< the window, not owned; null is fine
+    /// How the files of the layers are read. A batch puts in pictures that were decoded ahead; empty: `readPicture`.
+    std::function<ReadPicture(const std::string&)> readSource;
 
     const std::unique_ptr<BitmapInfo> pForegroundBitmapInfo, pBackgroundBitmapInfo, pCombinedBitmapInfo;
     const std::unique_ptr<QLXInfo> oQLXInfo;

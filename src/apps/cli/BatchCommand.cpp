@@ -1,0 +1,208 @@
+#include "apps/cli/BatchCommand.h"
+
+#include <atomic>
+#include <climits>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <memory>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+#include "apps/cli/BatchConsole.h"
+#include "apps/cli/Console.h"
+#include "apps/cli/PictureOptions.h"
+#include "batch/BatchNames.h"
+#include "pipeline/StartUp.h"
+
+namespace tavrin::cli {
+
+namespace {
+
+struct CommandOptions {
+    BatchOptions batch;
+    PictureOptions picture;
+    std::string shard;
+    bool json = false;
+};
+
+std::atomic<int> stopsAsked = 0;
+static_assert(std::atomic<int>::is_always_lock_free);
+
+void askToStop(int signal) {
+    if (stopsAsked.fetch_add(1) > 0) std::_Exit(128 + signal);
+}
+
+// The turn of one picture allocates what the last one freed. Giving every large block back to the system and having
+// it filled with zeros again costs a fifth of the time.
+void keepFreedMemory() {
+#ifdef __GLIBC__
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, INT_MAX);
+    mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
+void withoutLastSlash(std::string& path) {
+    while (path.size() > 1 && path.ends_with('/'))
+        path.pop_back();
+}
+
+Refusal complete(CommandOptions& options) {
+    BatchOptions& batch = options.batch;
+    JobSources& sources = batch.sources;
+    for (std::string* path : {&sources.foregrounds, &sources.backgrounds, &sources.states, &sources.out})
+        withoutLastSlash(*path);
+    if (sources.foregrounds.empty() && sources.listFile.empty())
+        return {kUsage, "--foregrounds or --list is missing."};
+    if (!sources.listFile.empty() && !sources.foregrounds.empty())
+        return {kUsage, "--list names its foregrounds itself; --foregrounds does not go with it."};
+    if (sources.listFile.empty() && sources.backgrounds.empty() && sources.states.empty())
+        return {kUsage, "--backgrounds is missing, or --states that name their backgrounds."};
+    if (sources.subfolders && sources.backgrounds.empty())
+        return {kUsage, "--subfolders needs --backgrounds: a subfolder is named like one of them."};
+    if (options.shard.empty()) return {};
+    ShardChoice choice = chooseShard(options.shard);
+    batch.shard = choice.shard;
+    return {choice.problem.empty() ? kDone : kUsage, choice.problem};
+}
+
+/// What is wrong with the settings shows before any picture is looked at. With states each of them has its own say.
+Refusal trySettings(const CommandOptions& options, const SystemInfo& base) {
+    SystemInfo info;
+    startLike(info, base);
+    return applyPictureOptions(info, options.picture, !options.batch.sources.states.empty());
+}
+
+int runBatch(CommandOptions options) {
+    if (const Refusal refusal = complete(options); refusal.code != kDone) {
+        complain(refusal.line);
+        return refusal.code;
+    }
+    keepFreedMemory();
+    const auto base = std::make_unique<SystemInfo>();
+    startCommandLine(*base);
+    if (const Refusal refusal = trySettings(options, *base); refusal.code != kDone) {
+        complain(refusal.line);
+        return refusal.code;
+    }
+    PictureMaker maker(*base, [&options](SystemInfo& info, bool fromStateFile) {
+        return applyPictureOptions(info, options.picture, fromStateFile).line;
+    });
+    const BatchOptions& batch = options.batch;
+    const bool json = options.json || (!batch.dryRun && !Console::isTerminal(stdout));
+    BatchConsole console(json, batch.dryRun, batch.sources.out);
+    std::atomic<bool> told = false;
+    BatchRun run(batch, maker, console, [&] {
+        if (stopsAsked > 0 && !told.exchange(true)) console.stopping();
+        return stopsAsked > 0;
+    });
+    if (const std::string problem = run.check(); !problem.empty()) {
+        complain(problem);
+        return kUsage;
+    }
+    std::signal(SIGINT, askToStop);
+    std::signal(SIGTERM, askToStop);
+    if (const std::string problem = run.run(); !problem.empty()) {
+        complain(problem);
+        return kFailed;
+    }
+    const BatchCounts& counts = run.counts();
+    console.summarize(counts, batch.watch);
+    const bool all = counts.failed == 0 && (batch.watch || batch.dryRun || counts.left() == 0);
+    return all ? kDone : kFailed;
+}
+
+constexpr const char* kExamples = R"(
+Examples:
+  tavrin-cli batch --foregrounds portraits --backgrounds beach.jpg --out done --inches 8x10 --dpi 300
+  tavrin-cli batch --foregrounds portraits --backgrounds scenes --states looks --out done --style split --type png
+  tavrin-cli batch --foregrounds incoming --backgrounds beach.jpg --out done --watch
+  tavrin-cli batch --foregrounds portraits --backgrounds scenes --out done --shard auto --report done/part-1.jsonl
+
+Every portrait is laid over every background with every state. The same command run again makes what is missing and
+what has changed. Ctrl-C finishes the pictures in hand, a second one stops at once.
+Exit codes: 0 all done, 1 some failed or are left, 2 wrong usage.)";
+
+void addSources(CLI::App& command, JobSources& sources) {
+    static const std::map<std::string, int> styles = {
+        {"combine", kCombineNames}, {"number", kNumberFiles}, {"split", kSplitIntoFolders}};
+    static const std::map<std::string, int> types = {{"jpeg", 1}, {"png", 2}, {"tiff", 3}};
+    command.add_option("--foregrounds", sources.foregrounds, "Folder of portraits, or one portrait");
+    command.add_option("--backgrounds", sources.backgrounds, "Folder of backgrounds, or one background");
+    command.add_option("--states", sources.states, "Folder of .qlx files, or one");
+    command.add_option("--out", sources.out, "Folder for the pictures")->required();
+    command.add_option("--style", sources.style, "Names: combine, number, or split into folders (default combine)")
+        ->transform(CLI::CheckedTransformer(styles).description(""))
+        ->type_name("NAME");
+    command.add_option("--type", sources.fileType, "jpeg, png or tiff (default jpeg)")
+        ->transform(CLI::CheckedTransformer(types).description(""))
+        ->type_name("NAME");
+    CLI::Option* list = command.add_option("--list", sources.listFile, "A batch list: its jobs instead of folders");
+    command.add_flag("--subfolders", sources.subfolders, "Portraits lie in subfolders named like their background")
+        ->excludes(list);
+}
+
+}  // namespace
+
+void addBatchCommand(CLI::App& app, int& result) {
+    const auto options = std::make_shared<CommandOptions>();
+    BatchOptions& batch = options->batch;
+    CLI::App* command = app.add_subcommand("batch", "Key folders of portraits over folders of backgrounds");
+    addSources(*command, batch.sources);
+    addPictureOptions(*command, options->picture);
+    CLI::Option* watch = command->add_flag("--watch", batch.watch, "Do not end; take pictures as they arrive");
+    command->add_flag("--poll", batch.pollOnly, "Look for them every two seconds, without the system's help")
+        ->needs(watch);
+    command->add_option("--stop-file", batch.stopFile, "Stop as soon as this file is there");
+    command->add_option("--jobs", batch.inHand, "Pictures in the works at the same time (default 3)")
+        ->check(CLI::Range(1, 64));
+    command->add_option("--shard", options->shard, "Make part K of N: K/N, auto or auto/N (from the scheduler)")
+        ->excludes(watch);
+    command->add_flag("--retry-failed", batch.retryFailed, "Take pictures again that could not be read");
+    command->add_flag("--again", batch.again, "Make every picture again");
+    command->add_flag("--dry-run", batch.dryRun, "Tell what would be made, and write nothing")->excludes(watch);
+    command->add_flag("--json", options->json, "One JSON line a picture, also on a terminal");
+    command->add_option("--report", batch.report, "Write a report, as lines of JSON");
+    command->get_option("--list")->excludes(watch);
+    command->footer(kExamples);
+    command->callback([options, &result] { result = runBatch(*options); });
+}
+
+namespace {
+
+int mergeCommand(const std::string& out, const std::vector<std::string>& reports) {
+    const MergedReport merged = mergeReports(reports, out);
+    if (!merged.problem.empty()) {
+        complain(merged.problem);
+        return kFailed;
+    }
+    for (const std::string& failure : merged.failures)
+        complain(failure);
+    if (!merged.warning.empty()) complain(merged.warning);
+    const BatchCounts& counts = merged.counts;
+    std::printf("%d of %d pictures are there, %d failed, %d are left\n", counts.done + counts.skipped, counts.jobs,
+                counts.failed, counts.left());
+    return counts.failed == 0 && counts.left() == 0 && merged.warning.empty() ? kDone : kFailed;
+}
+
+}  // namespace
+
+void addReportCommand(CLI::App& app, int& result) {
+    CLI::App* report = app.add_subcommand("report", "Work with the reports of batches");
+    report->require_subcommand(1);
+    const auto out = std::make_shared<std::string>();
+    const auto reports = std::make_shared<std::vector<std::string>>();
+    CLI::App* merge = report->add_subcommand("merge", "Join the reports of shards into one");
+    merge->add_option("--out", *out, "Report to write")->required();
+    merge->add_option("reports", *reports, "Reports of the shards")->required();
+    merge->footer(
+        "\nExample:\n  tavrin-cli report merge --out all.jsonl part-*.jsonl\n\n"
+        "Exit codes: 0 every picture is there, 1 some failed or are left, 2 wrong usage.");
+    merge->callback([=, &result] { result = mergeCommand(*out, *reports); });
+}
+
+}  // namespace tavrin::cli

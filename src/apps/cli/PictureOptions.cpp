@@ -1,0 +1,96 @@
+#include "apps/cli/PictureOptions.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "apps/cli/Assignments.h"
+#include "apps/cli/Console.h"
+#include "core/text/TextLayers.h"
+#include "pipeline/OutputSize.h"
+
+namespace tavrin::cli {
+
+namespace {
+
+bool parseNumber(std::string_view text, double& value) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && end == text.data() + text.size();
+}
+
+Refusal applySize(SystemInfo& info, const PictureOptions& options, bool fromStateFile) {
+    if (options.inches.empty()) {
+        const std::string name = options.sizeName.empty() ? info.sImageSizeName.load() : options.sizeName;
+        if (selectSizeByName(info, name)) return {};
+        // A state file may name a size that is not in the list and carry an index that is.
+        if (options.sizeName.empty() && fromStateFile) return {};
+        return {kUsage, "There is no output size \"" + name + "\"."};
+    }
+    const std::size_t cross = options.inches.find_first_of("xX");
+    double width = 0.0, height = 0.0;
+    if (cross == std::string::npos || !parseNumber(std::string_view(options.inches).substr(0, cross), width) ||
+        !parseNumber(std::string_view(options.inches).substr(cross + 1), height)) {
+        return {kUsage, "--inches takes width x height, for example 8x10, not \"" + options.inches + "\"."};
+    }
+    const std::string name = options.inches + " at " + std::to_string(options.dpi) + " dpi";
+    if (!selectOwnSize(info, name, width, height, options.dpi)) return {kFailed, "The list of sizes is full."};
+    return {};
+}
+
+void applyOverlays(SystemInfo& info, const PictureOptions& options) {
+    const auto use = [](Field<bool>& have, Field<std::string>& overlay, const std::string& path) {
+        if (path.empty()) return;
+        have = true;
+        overlay = path;
+    };
+    use(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, options.backgroundOverlay);
+    use(info.bHaveForegroundOverlay, info.sForegroundOverlay, options.foregroundOverlay);
+    use(info.bHaveFrameOverlay, info.sFrameOverlay, options.frameOverlay);
+}
+
+/// Whether the command line says anything about a label.
+bool changesLabels(const PictureOptions& options) {
+    return !options.title.empty() || !options.note.empty() ||
+           std::any_of(options.set.begin(), options.set.end(),
+                       [](const std::string& assignment) { return assignment.starts_with("label"); });
+}
+
+std::string applySettings(SystemInfo& info, const PictureOptions& options) {
+    if (options.blue) info.bUseBlueLogic = true;
+    std::string problem = options.effects.apply(info);
+    if (!problem.empty()) return problem;
+    if (!options.title.empty()) info.oFontLabelObject[0].sText = options.title;
+    if (!options.note.empty()) info.oFontLabelObject[1].sText = options.note;
+    applyOverlays(info, options);
+    problem = applyAssignments(info, options.set);
+    if (problem.empty() && changesLabels(options)) {
+        // Sizes and colours by name come first; a number that was given beside them wins.
+        updateLabelSettings(info);
+        problem = applyAssignments(info, options.set);
+    }
+    return problem;
+}
+
+}  // namespace
+
+Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, bool fromStateFile) {
+    const std::string problem = applySettings(info, options);
+    return problem.empty() ? applySize(info, options, fromStateFile) : Refusal{kUsage, problem};
+}
+
+void addPictureOptions(CLI::App& command, PictureOptions& options) {
+    CLI::Option* size = command.add_option("--size", options.sizeName, "Output size by its name in the list");
+    CLI::Option* inches =
+        command.add_option("--inches", options.inches, "Output size, width x height")->excludes(size);
+    CLI::Option* dpi = command.add_option("--dpi", options.dpi, "Dots an inch, with --inches")->needs(inches);
+    inches->needs(dpi);
+    options.effects.addTo(command);
+    command.add_option("--title", options.title, "Text of the title (label 0)");
+    command.add_option("--note", options.note, "Text of the note (label 1)");
+    command.add_option("--overlay-background", options.backgroundOverlay, "Picture over the background");
+    command.add_option("--overlay-foreground", options.foregroundOverlay, "Picture over the subject");
+    command.add_option("--overlay-frame", options.frameOverlay, "Picture over everything but text and frames");
+    command.add_option("--set", options.set, "A setting as field=value; may be given several times")->take_all();
+    command.add_flag("--blue", options.blue, "The screen is blue (same as --set bUseBlueLogic=1)");
+}
+
+}  // namespace tavrin::cli

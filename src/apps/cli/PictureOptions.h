@@ -1,0 +1,36 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <vector>
+
+#include "apps/cli/EffectOptions.h"
+#include "core/state/SystemInfo.h"
+
+namespace tavrin::cli {
+
+/// What the commands that make pictures have in common: the size of the output, effects, text, overlays, and settings
+/// by name.
+struct PictureOptions {
+    std::string sizeName, inches;
+    int dpi = 0;
+    EffectOptions effects;
+    std::string title, note;
+    std::string backgroundOverlay, foregroundOverlay, frameOverlay;
+    std::vector<std::string> set;
+    bool blue = false;
+};
+
+/// Why a command cannot be carried out as it was given; `code` is the exit code.
+struct Refusal {
+    int code = 0;
+    std::string line;
+};
+
+void addPictureOptions(CLI::App& command, PictureOptions& options);
+
+/// Puts the effects, the texts, then the settings into a state, and selects the output size.
+/// @param fromStateFile the state came from a file, which may name a size that is not in the list
+Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, bool fromStateFile);
+
+}  // namespace tavrin::cli

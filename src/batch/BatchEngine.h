@@ -1,0 +1,118 @@
+#pragma once
+
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "batch/BatchElement.h"
+#include "batch/BatchView.h"
+#include "batch/NextFileInFolder.h"
+#include "core/state/SystemInfo.h"
+
+namespace tavrin {
+
+/// The batch of the desktop program: combinations of foregrounds, backgrounds and states go through the processing
+/// thread that serves the screen, one picture at a time. `nextBatchImageToProcess` does one step: it saves what has
+/// just been finished, chooses the next job, loads it and asks for its picture. Registered as idle work of the loop,
+/// it is called again when that picture stands. With watch on a run never ends and takes files as they arrive.
+///
+/// Buttons, choosers and boxes belong to the main thread, the step to the processing thread; `ShowBatchStatus` may be
+/// called on both. Settings are those of `QLXInfo`.
+class BatchEngine {
+  public:
+    /// Jobs of a list file that are run at most.
+    static constexpr std::size_t kBatchElements = 500;
+
+    /// @param view of the panel, not owned; null is fine
+    explicit BatchEngine(SystemInfo& info, BatchView* view = nullptr);
+
+    void clickedButtonStartBatch();
+    void clickedButtonStopBatch();
+    void clickedButtonClearBatchHistory();
+
+    /// One step. Processing thread only.
+    void nextBatchImageToProcess();
+    /// Ends a wait for a file that is still growing, for good; for a program that closes.
+    void endWaits();
+
+    /// Counts what there is to do and what was done, in the way that the settings choose: by all combinations, by
+    /// subfolders, or by a list file.
+    void ShowBatchStatus();
+    void ShowBatchStatusOrg();
+    void ShowBatchStatusSubfolders();
+    void ShowBatchStatusXML();
+    /// Loads a list file from the foreground folder and moves it away, unless one that held jobs was loaded before.
+    /// @return its jobs
+    std::int32_t ComputeNumberOfFilesInBatchUsingXMLFile();
+
+    void updateBatchUI();
+    void chooseBatchForegroundFolder();
+    void chooseBatchBackgroundFolder();
+    void chooseBatchQLXFolder();
+    void chooseBatchOutputFolder();
+    void clearBatchForegroundFolder();
+    void clearBatchBackgroundFolder();
+    void clearBatchQLXFolder();
+    void clearBatchOutputFolder();
+    /// The key equivalent of the chosen cell: "1", "2" or "3"; anything else changes nothing.
+    void changeBatchOutputType(const std::string& keyEquivalent);
+    void changeBatchOutputStyle(const std::string& keyEquivalent);
+    void changeBatchCheckbox(bool watch, bool lowResolution);
+    void checkboxNamedSubfolderClicked(bool on);
+    void checkboxUseXMLClicked(bool on);
+
+    Field<bool> bBatchProcessingStopped = true;                                 ///< the run is idle
+    Field<bool> bStopBatchProcessing = false;                                   ///< save what is pending, then stop
+    Field<bool> bSaveNextImage = false;                                         ///< the picture under work is a job's
+    Field<std::string> sLastForegroundFile, sLastBackgroundFile, sLastQLXFile;  ///< not loaded again under this name
+    Field<std::string> sSaveFileName;  ///< of the job under work, without extension until it is saved
+    Field<std::int32_t> iTotalInBatch = 0, iNextFileNumber = 1;
+    Field<std::int32_t> iXMLBatchElements = 0, iNextXMLBatchElement = 0;
+    /// Guarded by a lock of the engine's: only for whoever knows that no run is on.
+    NextFileInFolder nextBatchForegroundFile, nextBatchBackgroundFile, nextBatchQLXFile;
+    std::vector<BatchElement> myBatchElements = std::vector<BatchElement>(kBatchElements);
+
+    /// Waits a second between two looks at a growing file; tests put their own in its place.
+    std::function<void()> pause;
+
+  private:
+    struct Job;
+
+    void showCounts(std::int32_t processed);
+    void moveListFileAway(const std::string& folder, const std::string& name);
+
+    void saveFinishedJob();
+    void drawMask();
+    void stopRun();
+    std::optional<Job> chooseJob();
+    std::optional<Job> choosePlain();
+    std::optional<Job> chooseInSubfolders();
+    std::optional<Job> chooseFromList();
+    void refuseOnce(const std::string& problem);
+    void loadState(const Job& job);
+    void useSize(std::int32_t index);
+    void loadBackground(const Job& job);
+    void loadForeground(const Job& job);
+    void waitUntilStable(const std::string& path);
+    void nameOutput(const Job& job);
+
+    void chooseFolder(Field<std::string>& setting, NextFileInFolder* scanner);
+    void storeFolder(Field<std::string>& setting, NextFileInFolder* scanner, const std::string& folder);
+    void placeHistory(const std::string& folder);
+    void saveSettings();
+
+    SystemInfo& info_;
+    QLXInfo& settings_;
+    BatchView& view_;
+    std::recursive_mutex scanners_;  ///< the panel and a run both look into the folders
+    std::mutex waitMutex_;
+    std::condition_variable waitEnded_;
+    bool leaving_ = false;
+    bool refused_ = false;  ///< a message about an entry that has no place was shown in this run
+};
+
+}  // namespace tavrin

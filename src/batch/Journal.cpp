@@ -1,0 +1,183 @@
+#include "batch/Journal.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUuid>
+
+#include "core/AtomicFile.h"
+
+namespace fs = std::filesystem;
+
+namespace tavrin {
+
+namespace {
+
+constexpr const char* kFolder = ".tavrin-batch";
+constexpr const char* kEnding = ".jsonl";
+/// Runs that may leave their files before one that is alone joins them.
+constexpr std::size_t kMostFiles = 16;
+
+constexpr const char* kStatusNames[] = {"begun", "done", "failed"};
+
+std::int64_t now() {
+    const auto since = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(since).count();
+}
+
+QString toQt(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+/// File times have more digits than a JSON number holds, so they are written as text.
+QJsonObject describe(const InputFile& input) {
+    return {{"size", QString::number(input.facts.size)},
+            {"time", QString::number(input.facts.time)},
+            {"digest", toQt(input.digest)}};
+}
+
+InputFile inputOf(const QJsonObject& object) {
+    return {{object["size"].toString().toULongLong(), object["time"].toString().toLongLong()},
+            object["digest"].toString().toStdString()};
+}
+
+std::string lineOf(const JobRecord& record) {
+    QJsonArray inputs;
+    for (const InputFile& input : record.inputs)
+        inputs.append(describe(input));
+    QJsonObject object{{"name", toQt(record.name)},
+                       {"out", toQt(record.out)},
+                       {"status", kStatusNames[static_cast<int>(record.status)]},
+                       {"at", QString::number(record.time)},
+                       {"recipe", toQt(record.recipe)},
+                       {"inputs", inputs}};
+    if (!record.reason.empty()) object["reason"] = toQt(record.reason);
+    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + "\n";
+}
+
+/// Nothing when the line was cut short.
+std::optional<JobRecord> recordOf(const std::string& line) {
+    const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
+    const QString status = object["status"].toString();
+    const auto* known = std::find_if(std::begin(kStatusNames), std::end(kStatusNames),
+                                     [&status](const char* name) { return status == QLatin1String(name); });
+    if (known == std::end(kStatusNames) || !object.contains("name")) return std::nullopt;
+    JobRecord record;
+    record.name = object["name"].toString().toStdString();
+    record.out = object["out"].toString().toStdString();
+    record.status = static_cast<JobRecord::Status>(known - std::begin(kStatusNames));
+    record.time = object["at"].toString().toLongLong();
+    record.recipe = object["recipe"].toString().toStdString();
+    record.reason = object["reason"].toString().toStdString();
+    for (const auto& input : object["inputs"].toArray())
+        record.inputs.push_back(inputOf(input.toObject()));
+    return record;
+}
+
+bool writeAll(int file, const std::string& text) {
+    std::size_t done = 0;
+    while (done < text.size()) {
+        const ssize_t count = ::write(file, text.data() + done, text.size() - done);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) return false;
+        done += static_cast<std::size_t>(count);
+    }
+    return true;
+}
+
+}  // namespace
+
+Journal::Journal() = default;
+
+Journal::~Journal() {
+    for (const int handle : {file_, turn_}) {
+        if (handle >= 0) ::close(handle);
+    }
+}
+
+// The system gives the turn back when the process ends, however that comes about.
+bool Journal::takeTurn(Use use) {
+    turn_ = ::open((folder_ + "/turn").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (turn_ < 0) return true;  // the journal's own file tells why
+    return ::flock(turn_, (use == Use::alone ? LOCK_EX : LOCK_SH) | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+std::string Journal::open(const std::string& outFolder, Use use) {
+    folder_ = (fs::path(outFolder) / kFolder).string();
+    std::error_code failed;
+    if (use != Use::look) {
+        fs::create_directories(folder_, failed);
+        if (failed) return "The folder " + outFolder + " cannot be written to: " + failed.message() + ".";
+        if (!takeTurn(use)) return "Another batch is writing into " + outFolder + ".";
+    }
+    std::vector<std::string> files;
+    for (fs::directory_iterator entry(folder_, failed), end; !failed && entry != end; entry.increment(failed)) {
+        if (entry->path().extension() == kEnding) files.push_back(entry->path().string());
+    }
+    for (const std::string& file : files)
+        readFile(file);
+    path_ = folder_ + "/" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + kEnding;
+    if (use == Use::alone && files.size() > kMostFiles) tidy(files);
+    return "";
+}
+
+void Journal::readFile(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    for (std::string line; std::getline(file, line);) {
+        const std::optional<JobRecord> record = recordOf(line);
+        if (!record) continue;
+        JobRecord& known = records_[record->name];
+        if (known.name.empty() || record->time >= known.time) known = *record;
+    }
+}
+
+// The old files go when their records stand in the new one.
+void Journal::tidy(const std::vector<std::string>& files) {
+    AtomicFile joined(folder_ + "/" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + kEnding);
+    for (const auto& [name, record] : records_) {
+        const std::string line = lineOf(record);
+        joined.write(line.data(), line.size());
+    }
+    if (!joined.commit()) return;
+    for (const std::string& file : files)
+        ::unlink(file.c_str());
+}
+
+const JobRecord* Journal::find(const std::string& name) const {
+    const auto known = records_.find(name);
+    return known == records_.end() ? nullptr : &known->second;
+}
+
+std::string Journal::add(JobRecord record) {
+    record.time = now();
+    // A line that a full disk cut short ends here, so that it spoils no other.
+    const std::string line = (torn_ ? "\n" : "") + lineOf(record);
+    records_[record.name] = std::move(record);
+    if (file_ < 0) file_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+    if (file_ >= 0 && writeAll(file_, line)) {
+        torn_ = false;
+        return "";
+    }
+    const int reason = errno;
+    torn_ = file_ >= 0;
+    return reason == ENOSPC || reason == EDQUOT ? kDiskFull : std::strerror(reason);
+}
+
+GivenNames Journal::givenNames() const {
+    GivenNames names;
+    for (const auto& [name, record] : records_)
+        names[name] = record.out;
+    return names;
+}
+
+}  // namespace tavrin

@@ -1,0 +1,375 @@
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <thread>
+
+#include "batch/BatchEngine.h"
+#include "batch/BatchNames.h"
+#include "batch/HistoryFile.h"
+#include "core/Places.h"
+#include "formats/ImageState.h"
+#include "formats/SettingsFile.h"
+#include "pipeline/CombineThread.h"
+#include "support/Files.h"
+#include "support/Pictures.h"
+#include "support/TestData.h"
+
+namespace fs = std::filesystem;
+
+namespace tavrin {
+namespace {
+
+using Names = std::vector<std::string>;
+
+struct Panel : BatchView {
+    void showBatchCounts(const std::string& files, const std::string& processed) override {
+        counts = files + "/" + processed;
+    }
+    void enableBatchStart(bool on) override { start = on; }
+    void enableBatchStop(bool on) override { stop = on; }
+    std::optional<std::string> FindFolder() override { return chosen; }
+
+    std::string counts;
+    bool start = true, stop = false;
+    std::optional<std::string> chosen;
+};
+
+struct Alerts : Interface {
+    void showAlert(const std::string& message, const std::string& reason) override {
+        all.push_back(message + "|" + reason);
+    }
+    Names all;
+};
+
+class BatchEngineTest : public testing::Test {
+  protected:
+    BatchEngineTest() {
+        for (const char* name : {"fg", "bg", "qlx", "out"})
+            fs::create_directory(folder_.path() / name);
+        places_.setSharedFolder(folder_.file("home"));
+        fs::create_directories(places_.xmlFolder());
+        info_->pInterface = &alerts_;
+        settings_.sLastBatchForeground = folder_.file("fg");
+        settings_.sLastBatchBackground = folder_.file("bg");
+        settings_.sLastBatchQLX = folder_.file("qlx");
+        settings_.sLastBatchOutput = folder_.file("out");
+        settings_.bLastBatchCheckForNewFiles = false;
+        settings_.iLastBatchLastOutputFileType = 2;
+        settings_.iLastBatchLastOutputStyle = kCombineNames;
+        settings_.bAutoQLXSave = false;
+    }
+    ~BatchEngineTest() override { places_.setSharedFolder(home_); }
+
+    void portrait(const std::string& name, QColor color = QColor(200, 60, 50)) {
+        test::savePng(test::discOnScreen(60, 40, QColor(40, 160, 60), color), folder_.file(name));
+    }
+    void background(const std::string& name, QColor color) {
+        QImage image(60, 40, QImage::Format_RGB888);
+        image.fill(color);
+        test::savePng(image, folder_.file(name));
+    }
+    /// Makes the engine and serves it as the program does, until the run stops or `steps` turns of the loop are over.
+    BatchEngine& engine() {
+        if (!engine_) {
+            loop_.runUntilIdle();  // the pass of the start, with whatever it has to say
+            alerts_.all.clear();
+            engine_ = std::make_unique<BatchEngine>(*info_, &panel_);
+            engine_->pause = [this] { ++pauses_; };
+            loop_.addIdleWork([this] { engine_->nextBatchImageToProcess(); });
+        }
+        return *engine_;
+    }
+    void turn(int steps = 200) {
+        while (steps-- > 0 && !engine().bBatchProcessingStopped)
+            loop_.iterate();
+    }
+    void run() {
+        engine().clickedButtonStartBatch();
+        turn();
+        EXPECT_TRUE(engine().bBatchProcessingStopped);
+    }
+    Names made(const std::string& sub = "out") const {
+        Names names;
+        for (const auto& entry : fs::directory_iterator(folder_.path() / sub)) {
+            if (entry.is_regular_file() && entry.path().filename() != "ForegroundHistory.dat")
+                names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+    QColor corner(const std::string& name) const {
+        return QImage(QString::fromStdString(folder_.file(name))).pixelColor(1, 1);
+    }
+    QColor middle(const std::string& name) const {
+        return QImage(QString::fromStdString(folder_.file(name))).pixelColor(30, 20);
+    }
+
+    test::TempFolder folder_;
+    Places& places_ = Places::current();
+    const std::string home_ = places_.sharedFolder();
+    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(60, 40, 40);
+    QLXInfo& settings_ = *info_->oQLXInfo;
+    Panel panel_;
+    Alerts alerts_;
+    CombineThread loop_{*info_};
+    std::unique_ptr<BatchEngine> engine_;
+    int pauses_ = 0;
+};
+
+TEST_F(BatchEngineTest, EveryCombinationIsMadeOnceWithItsMaskAndItsNames) {
+    portrait("fg/anna.png");
+    portrait("fg/ben.png", QColor(150, 40, 160));
+    background("bg/sea.png", QColor(20, 60, 200));
+    background("bg/wood.png", QColor(120, 90, 40));
+    settings_.bAutoQLXSave = true;
+    run();
+    EXPECT_EQ(made(), (Names{"annasea.png", "annasea.qlx", "annawood.png", "annawood.qlx", "bensea.png", "bensea.qlx",
+                             "benwood.png", "benwood.qlx"}));
+    EXPECT_EQ(corner("out/bensea.png"), QColor(20, 60, 200));
+    EXPECT_EQ(corner("out/annawood.png"), QColor(120, 90, 40));
+    EXPECT_GT(middle("out/bensea.png").blue(), middle("out/annasea.png").blue() + 60);
+    EXPECT_EQ(made("out/Thumbs"),
+              (Names{"TQTQannasea.png", "TQTQannawood.png", "TQTQbensea.png", "TQTQbenwood.png"}));
+    const QImage mask(QString::fromStdString(folder_.file("out/Thumbs/TQTQannasea.png")));
+    EXPECT_EQ(mask.size(), QSize(info_->iOutputPixelLowResWidth, info_->iOutputPixelLowResHeight));
+    EXPECT_EQ(mask.pixelColor(0, 0), QColor(255, 255, 255));
+    EXPECT_EQ(mask.pixelColor(mask.width() / 2, mask.height() / 2), QColor(0, 0, 0));
+    EXPECT_EQ(readHistory(folder_.file("out/ForegroundHistory.dat")),
+              (Names{"anna.pngsea.pngUseCurrent", "ben.pngsea.pngUseCurrent", "anna.pngwood.pngUseCurrent",
+                     "ben.pngwood.pngUseCurrent"}));
+    EXPECT_EQ(panel_.counts, "4/4");
+    EXPECT_TRUE(panel_.start && !panel_.stop);
+    EXPECT_EQ(pauses_, 4);  // a second for each new foreground
+
+    fs::remove(folder_.path() / "out" / "bensea.png");
+    run();  // all of it is in the history
+    EXPECT_EQ(made().size(), 7u);
+    engine().clickedButtonClearBatchHistory();
+    EXPECT_EQ(panel_.counts, "4/0");
+    run();
+    EXPECT_EQ(made().size(), 8u);
+}
+
+TEST_F(BatchEngineTest, EmptySlotsKeepWhatTheProgramHoldsAndOneCombinationIsNone) {
+    portrait("current.png");
+    info_->pForegroundBitmapInfo->sSourceImageFullPath = folder_.file("current.png");
+    background("bg/sea.png", QColor(20, 60, 200));
+    run();
+    EXPECT_TRUE(made().empty());
+    EXPECT_EQ(panel_.counts, "0/0");
+    background("bg/wood.png", QColor(120, 90, 40));
+    run();
+    EXPECT_EQ(made(), (Names{"sea.png", "wood.png"}));
+    EXPECT_EQ(corner("out/wood.png"), QColor(120, 90, 40));
+    EXPECT_GT(middle("out/sea.png").red(), 150);
+}
+
+TEST_F(BatchEngineTest, StylesNameTheOutput) {
+    portrait("fg/anna.png");
+    portrait("fg/ben.png");
+    background("bg/sea.png", QColor(20, 60, 200));
+    ASSERT_EQ(saveImageStateToXML(*info_, folder_.file("qlx/soft.qlx")), "");
+    settings_.iLastBatchLastOutputStyle = kSplitIntoFolders;
+    settings_.iLastBatchLastOutputFileType = 1;
+    run();
+    EXPECT_EQ(made("out/sea/soft"), (Names{"anna.jpg", "ben.jpg"}));
+    engine().clickedButtonClearBatchHistory();
+    settings_.iLastBatchLastOutputStyle = kNumberFiles;
+    run();
+    EXPECT_EQ(made(), (Names{"BatchFile1.jpg", "BatchFile2.jpg"}));
+    engine().clickedButtonClearBatchHistory();
+    settings_.iLastBatchLastOutputStyle = kCombineNames;
+    settings_.iLastBatchLastOutputFileType = 3;
+    run();
+    EXPECT_EQ(made(), (Names{"BatchFile1.jpg", "BatchFile2.jpg", "annaseasoft.tif", "benseasoft.tif"}));
+}
+
+TEST_F(BatchEngineTest, AStateBringsItsSettingsAndSizeButNotItsForeground) {
+    portrait("fg/anna.png");
+    portrait("fg/ben.png");
+    background("inState.png", QColor(9, 8, 7));
+    info_->oImageSize.resize(2);
+    info_->oImageSize[1] = info_->oImageSize[0];
+    info_->oImageSize[1].sName = "small";
+    info_->oImageSize[1].dWidth = 0.75;
+    const auto other = test::stateForOutput(60, 40, 40);
+    other->oImageSize = info_->oImageSize;
+    other->iSelecteImageSize = 1;
+    other->sImageSizeName = "small";
+    other->pForegroundBitmapInfo->sSourceImageFullPath = "/elsewhere.png";
+    other->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file("inState.png");
+    ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/small.qlx")), "");
+    test::writeFile(folder_.file("qlx/broken.qlx"), "<ImageState>");
+    run();
+    EXPECT_EQ(made().size(), 4u);  // the broken state runs with the settings in force
+    EXPECT_EQ(QImage(QString::fromStdString(folder_.file("out/annasmall.png"))).size(), QSize(30, 40));
+    EXPECT_EQ(corner("out/annasmall.png"), QColor(9, 8, 7));
+    EXPECT_EQ(info_->sImageSizeName.load(), "small");
+    EXPECT_TRUE(std::none_of(alerts_.all.begin(), alerts_.all.end(),
+                             [](const std::string& alert) { return alert.find("elsewhere") != std::string::npos; }));
+}
+
+TEST_F(BatchEngineTest, AnUnreadableForegroundIsToldAndTheRunGoesOn) {
+    test::writeFile(folder_.file("fg/a.png"), "no picture");
+    portrait("fg/b.png");
+    background("bg/sea.png", QColor(20, 60, 200));
+    run();
+    EXPECT_EQ(made(), (Names{"asea.png", "bsea.png"}));
+    ASSERT_EQ(alerts_.all.size(), 1u);
+    EXPECT_TRUE(alerts_.all[0].starts_with("Cound not load file: a.png, check your file permissions"));
+}
+
+TEST_F(BatchEngineTest, WatchTakesWhatArrivesAndAStopSavesWhatIsPending) {
+    settings_.bLastBatchCheckForNewFiles = true;
+    background("bg/sea.png", QColor(20, 60, 200));
+    background("bg/wood.png", QColor(120, 90, 40));
+    portrait("fg/anna.png");
+    engine().clickedButtonStartBatch();
+    turn(50);
+    EXPECT_EQ(made().size(), 2u);
+    EXPECT_FALSE(engine().bBatchProcessingStopped);
+    EXPECT_TRUE(!panel_.start && panel_.stop);
+    portrait("fg/ben.png");
+    for (int i = 0; i < 50 && !engine().bSaveNextImage; ++i)
+        loop_.iterate();
+    engine().clickedButtonStopBatch();  // while the first picture of the two is under work
+    turn();
+    EXPECT_TRUE(engine().bBatchProcessingStopped);
+    EXPECT_EQ(made().size(), 3u);
+    EXPECT_EQ(readHistory(folder_.file("out/ForegroundHistory.dat"))->size(), 3u);
+}
+
+TEST_F(BatchEngineTest, AGrowingFileIsWaitedForUntilItRests) {
+    test::writeFile(folder_.file("fg/a.png"), "1");
+    portrait("fg/b.png");
+    portrait("fg/c.png");
+    background("bg/sea.png", QColor(20, 60, 200));
+    engine().pause = [this] {
+        if (++pauses_ <= 3) test::writeFile(folder_.file("fg/a.png"), std::string(10 * pauses_, 'x'));
+        if (pauses_ == 4) portrait("fg/a.png");
+        if (pauses_ == 5) fs::remove(folder_.path() / "fg" / "a.png");  // gone: keeps its last size
+    };
+    engine().clickedButtonStartBatch();
+    for (int i = 0; i < 20 && !engine().bSaveNextImage; ++i)
+        loop_.iterate();
+    EXPECT_EQ(pauses_, 5);
+    engine().endWaits();
+    engine().pause = [] {};
+    turn();
+    EXPECT_EQ(made(), (Names{"asea.png", "bsea.png", "csea.png"}));
+}
+
+TEST_F(BatchEngineTest, SubfoldersAreNamedLikeTheirBackgroundAndStrayPicturesAreRefusedOnce) {
+    settings_.bUseBackgroundSubfolders = true;
+    for (const char* name : {"sea", "wood", "nowhere"})
+        fs::create_directory(folder_.path() / "fg" / name);
+    portrait("fg/sea/anna.png");
+    portrait("fg/wood/anna.png", QColor(150, 40, 160));
+    portrait("fg/nowhere/cora.png");
+    portrait("fg/stray.png");
+    portrait("fg/stray2.png");
+    background("bg/sea.png", QColor(1, 2, 3));
+    background("bg/sea.wide.png", QColor(20, 60, 200));  // both are called sea: the last one wins
+    background("bg/wood.png", QColor(120, 90, 40));
+    run();
+    EXPECT_EQ(made(), (Names{"annasea.wide.png", "annawood.png"}));
+    EXPECT_EQ(corner("out/annasea.wide.png"), QColor(20, 60, 200));
+    EXPECT_GT(middle("out/annawood.png").blue(), middle("out/annasea.wide.png").blue() + 60);
+    ASSERT_EQ(alerts_.all.size(), 1u);
+    EXPECT_NE(alerts_.all[0].find("stray.png"), std::string::npos);
+    EXPECT_EQ(panel_.counts, "5/2");
+}
+
+TEST_F(BatchEngineTest, TheStatusOfALargeFolderIsQuickAndRight) {
+    for (int i = 0; i < 3000; ++i)
+        test::writeFile(folder_.file("fg/" + std::to_string(i) + ".jpg"), "");
+    Names keys;
+    for (int i = 0; i < 1500; ++i)
+        keys.push_back(std::to_string(i) + ".jpgUseCurrentUseCurrent");
+    ASSERT_EQ(writeHistory(folder_.file("out/ForegroundHistory.dat"), keys), "");
+    engine().ShowBatchStatus();
+    EXPECT_EQ(panel_.counts, "3000/1500");
+}
+
+TEST_F(BatchEngineTest, FoldersAndChoicesAreKeptAndTheHistoryMovesWithTheForegrounds) {
+    portrait("fg/anna.png");
+    panel_.chosen = folder_.file("bg");
+    engine().chooseBatchForegroundFolder();
+    EXPECT_EQ(*engine().nextBatchForegroundFile.sHistoryFileName, folder_.file("bg/ForegroundHistory.dat"));
+    panel_.chosen = folder_.file("qlx");
+    engine().chooseBatchOutputFolder();
+    EXPECT_EQ(*engine().nextBatchForegroundFile.sHistoryFileName, folder_.file("bg/ForegroundHistory.dat"));
+    panel_.chosen = std::nullopt;
+    engine().chooseBatchBackgroundFolder();
+    engine().clearBatchQLXFolder();
+    engine().changeBatchOutputType("3");
+    engine().changeBatchOutputType("7");
+    engine().changeBatchOutputStyle("2");
+    engine().changeBatchCheckbox(true, true);
+    QLXInfo saved;
+    ASSERT_EQ(LoadQLXFile(saved), "");
+    EXPECT_EQ(saved.sLastBatchForeground.load(), folder_.file("bg"));
+    EXPECT_EQ(saved.sLastBatchBackground.load(), folder_.file("bg"));
+    EXPECT_EQ(saved.sLastBatchOutput.load(), folder_.file("qlx"));
+    EXPECT_TRUE(saved.sLastBatchQLX.empty());
+    EXPECT_EQ(saved.iLastBatchLastOutputFileType, 3);
+    EXPECT_EQ(saved.iLastBatchLastOutputStyle, 2);
+    EXPECT_TRUE(saved.bLastBatchCheckForNewFiles && saved.bLastBatchOutputLowResolution);
+}
+
+TEST_F(BatchEngineTest, StatusMayBeAskedForWhileARunIsOn) {
+    for (const char* name : {"fg/a.png", "fg/b.png", "fg/c.png"})
+        portrait(name);
+    background("bg/sea.png", QColor(20, 60, 200));
+    engine().clickedButtonStartBatch();
+    std::thread main([this] {
+        while (!engine_->bBatchProcessingStopped)
+            engine_->ShowBatchStatus();
+    });
+    turn();
+    main.join();
+    EXPECT_EQ(made().size(), 3u);
+}
+
+TEST_F(BatchEngineTest, AListFileIsRunJobByJobAndMovedAway) {
+    settings_.bUseBatchXMLFile = true;
+    portrait("fg/anna.png");
+    background("bg/sea.png", QColor(20, 60, 200));
+    const std::string fg = folder_.file("fg/anna.png"), bg = folder_.file("bg/sea.png");
+    test::writeFile(
+        folder_.file("fg/jobs.XML"),
+        "<images>\n<image>\n <foreground>" + fg + "</foreground>\n<background>" + bg +
+            "</background>\r\n<outputfiletype>outputpng</outputfiletype>\n</image>\n<image>\n<outputfolder>" +
+            folder_.file("deep/er/named.x") +
+            "</outputfolder>\n<outputnamestyle>outputfolderhasname</outputnamestyle>\n"
+            "<outputtransparency>YES</outputtransparency>\n</image>\n");
+    run();
+    EXPECT_EQ(made(), Names{"annasea.png"});
+    EXPECT_EQ(made("deep/er"), Names{"named.png"});
+    EXPECT_TRUE(info_->bOutputTransparency);
+    EXPECT_FALSE(fs::exists(folder_.path() / "fg" / "jobs.XML"));
+    EXPECT_TRUE(fs::exists(folder_.path() / "fg" / "SavedXML" / "jobs.XML"));
+    EXPECT_EQ(panel_.counts, "2/2");
+    EXPECT_FALSE(fs::exists(folder_.path() / "out" / "ForegroundHistory.dat"));
+    // A later list waits until the program starts again.
+    test::writeFile(folder_.file("fg/later.xml"), "<image>\n</image>\n");
+    run();
+    EXPECT_TRUE(fs::exists(folder_.path() / "fg" / "later.xml"));
+}
+
+TEST_F(BatchEngineTest, JobsBeyondTheRoomOfTheListAreRefusedWithOneMessage) {
+    settings_.bUseBatchXMLFile = true;
+    std::string text;
+    for (int i = 0; i < 503; ++i)
+        text += "<image>\n<outputnamestyle>numberfiles</outputnamestyle>\n</image>\n";
+    test::writeFile(folder_.file("fg/jobs.xml"), text);
+    EXPECT_EQ(engine().ComputeNumberOfFilesInBatchUsingXMLFile(), 500);
+    EXPECT_EQ(engine().myBatchElements[499].sOutputFile, folder_.file("out/BatchFile500"));
+    EXPECT_EQ(engine().iNextFileNumber, 501);
+    ASSERT_EQ(alerts_.all.size(), 1u);
+    EXPECT_NE(alerts_.all[0].find("the other 3 are not"), std::string::npos);
+    EXPECT_TRUE(engine().bBatchProcessingStopped);
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,110 @@
+#!/usr/bin/env python3
+"""A watching batch whose disk is full: disk_full_test.py TAVRIN_CLI
+
+Mounts a small memory disk (in a mount space of its own, which needs root or a user space) as the folder of the
+pictures, watches until it is full, looks that nothing half-made stands there, gives it room, and wants all pictures,
+equal to those made on a disk with room. Then the same for a batch that ends: it stops, and the next run goes on. Ends
+with 77 (skipped) where such a disk cannot be mounted.
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+from support import skip, wait_for, write_portrait
+
+PICTURES = 8
+SIZE = ["--inches", "8x10", "--dpi", "72", "--type", "png", "--style", "number"]
+
+
+def in_own_mount_space():
+    """Starts this program again where it may mount."""
+    if os.environ.get("TAVRIN_OWN_MOUNTS"):
+        return
+    for flags in (["-m"], ["-r", "-m"]):
+        if shutil.which("unshare") and subprocess.run(["unshare", *flags, "true"], capture_output=True).returncode == 0:
+            os.environ["TAVRIN_OWN_MOUNTS"] = "1"
+            os.execvp("unshare", ["unshare", *flags, sys.executable, *sys.argv])
+    skip("nothing can be mounted here.")
+
+
+def mount(folder, options):
+    done = subprocess.run(["mount", "-t", "tmpfs", "-o", options, "tmpfs", str(folder)], capture_output=True, text=True)
+    if done.returncode != 0:
+        skip(f"no memory disk can be mounted ({done.stderr.strip()}).")
+
+
+def pictures(folder):
+    return {path.name: path.read_bytes() for path in folder.glob("*.png")}
+
+
+class Test:
+    def __init__(self, cli, work):
+        self.work, self.expected = work, work / "expected"
+        self.command = [cli, "batch", "--foregrounds", str(work / "portraits"), "--backgrounds",
+                        str(work / "sea-.png"), *SIZE, "--out"]
+        (work / "portraits").mkdir()
+        for number in range(PICTURES):
+            write_portrait(work / "portraits" / f"portrait-{number}-.png", number)
+        write_portrait(work / "sea-.png", 60)
+        subprocess.run([*self.command, str(self.expected)], check=True, capture_output=True)
+        self.whole = pictures(self.expected)
+        # Room for half of them.
+        self.room = sum(map(len, self.whole.values())) // 2
+
+    def small_disk(self, name):
+        folder = self.work / name
+        folder.mkdir()
+        mount(folder, f"size={self.room}")
+        return folder
+
+    def is_sound(self, folder):
+        return all(self.whole.get(name) == content for name, content in pictures(folder).items())
+
+    def watch(self):
+        folder = self.small_disk("watched")
+        errors = open(self.work / "watch.log", "w+")
+        batch = subprocess.Popen([*self.command, str(folder), "--watch"], stdout=subprocess.DEVNULL, stderr=errors)
+        try:
+            told = wait_for("the line about the full disk", 60,
+                            lambda: "the disk is full" in (self.work / "watch.log").read_text())
+            time.sleep(1)
+            some = len(pictures(folder))
+            sound = self.is_sound(folder) and 0 < some < PICTURES and batch.poll() is None
+            mount(folder, f"remount,size={4 * self.room}")
+            all_made = wait_for("all pictures", 60, lambda: pictures(folder) == self.whole)
+        finally:
+            batch.terminate()
+            code = batch.wait(60)
+        print(f"Watching: {some} of {PICTURES} pictures fitted; with room again {len(pictures(folder))}, exit code {code}")
+        return told and sound and all_made and code == 0
+
+    def end_and_resume(self):
+        folder = self.small_disk("ended")
+        first = subprocess.run([*self.command, str(folder)], capture_output=True, text=True)
+        some = len(pictures(folder))
+        sound = self.is_sound(folder) and 0 < some < PICTURES
+        told = first.returncode == 1 and "Run the same command again" in first.stderr
+        mount(folder, f"remount,size={4 * self.room}")
+        second = subprocess.run([*self.command, str(folder)], capture_output=True, text=True)
+        print(f"Ending: {some} of {PICTURES} pictures fitted, then {second.stderr.strip()}")
+        return told and sound and second.returncode == 0 and pictures(folder) == self.whole
+
+
+def main():
+    in_own_mount_space()
+    with tempfile.TemporaryDirectory(prefix="tavrin-full-") as folder:
+        test = Test(os.path.abspath(sys.argv[1]), Path(folder))
+        try:
+            good = test.watch() & test.end_and_resume()
+        finally:
+            for name in ("watched", "ended"):
+                subprocess.run(["umount", "-l", str(Path(folder) / name)], capture_output=True)
+        return 0 if good else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QProcess>
+
+namespace tavrin::test {
+
+struct CliOutcome {
+    int code = -1;  ///< exit code; -2 when a signal ended it
+    QString out, err;
+};
+
+/// What a process that has ended or will soon has printed.
+inline CliOutcome outcomeOf(QProcess& process) {
+    CliOutcome outcome;
+    if (!process.waitForFinished(60000)) return outcome;
+    outcome.code = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
+    outcome.out = QString::fromUtf8(process.readAllStandardOutput());
+    outcome.err = QString::fromUtf8(process.readAllStandardError());
+    return outcome;
+}
+
+/// Calls tavrin-cli as a user does.
+inline CliOutcome runCli(const QStringList& arguments) {
+    QProcess process;
+    process.start(TAVRIN_CLI, arguments);
+    return outcomeOf(process);
+}
+
+}  // namespace tavrin::test
