@@ -51,25 +51,6 @@ class FrameShapesTest : public testing::Test {
     Bytes mask_;
 };
 
-TEST_F(FrameShapesTest, LinesHaveNoGapsAndStayInside) {
-    for (const auto& [x1, y1] : {std::pair{19, 5}, std::pair{5, 19}, std::pair{0, 0}, std::pair{19, 0}}) {
-        start(20, 20);
-        DrawRedLine(0, 0, x1, y1, mask_.data(), 20, 20);
-        const double slope = y1 / std::max(double(x1), 0.001);
-        for (int x = 0; x <= x1; ++x)
-            EXPECT_TRUE(red(x, static_cast<int>(x * slope)));
-        for (int y = 0; y <= y1; ++y)
-            EXPECT_TRUE(red(static_cast<int>(y / std::max(slope, 0.001)), y));
-        EXPECT_LE(reds(), x1 + y1 + 1);
-    }
-    start(20, 20);
-    DrawRedLine(INT_MIN, INT_MIN, INT_MAX, INT_MAX, mask_.data(), 20, 20);
-    EXPECT_TRUE(red(7, 7));
-    DrawRedLine(-9, 3, -1, 30, mask_.data(), 20, 20);
-    DrawRedLine(25, -40, 25, 40, mask_.data(), 20, 20);
-    EXPECT_LE(reds(), 40);
-}
-
 TEST_F(FrameShapesTest, SquareIsMeasuredOnTheShorterSide) {
     frame_.iFrameThickness = 25;
     for (const bool arch : {false, true}) {

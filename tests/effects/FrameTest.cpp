@@ -178,17 +178,5 @@ TEST_F(FrameTest, ThreadsGiveTheSameAndSupersededRunsLeaveThePicture) {
     }
 }
 
-TEST_F(FrameTest, ExtremeSettingsAreBorne) {
-    frame_.sFrameImagePath = savePng(noisePicture(9, 5, 1), folder_.file("small.png"));
-    for (const int value : kExtremes) {
-        for (int mode = 0; mode <= 5; ++mode) {
-            frame_.iFrameMode = mode;
-            frame_.iFrameColorRed = frame_.iFrameTransparency = value;
-            frame_.iFrameBlur = frame_.iFrameFeather = value;
-            EXPECT_EQ(framed()[3], 9);
-        }
-    }
-}
-
 }  // namespace
 }  // namespace tavrin
