@@ -91,7 +91,12 @@ void EffectsLightingGlow(SystemInfo& info, std::int32_t* map, int width, int hei
 LightingRun::LightingRun(SystemInfo& info, int width, int height, int hiRes) : info_(info) {
     info.oLightingMap = {};
     if (info.iLightingMode == 0 || width < 1 || height < 1) return;
-    info.oLightingMap.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
+    try {
+        info.oLightingMap.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
+    } catch (const std::bad_alloc&) {
+        logError("Memory not allocated!");
+        return;
+    }
     info.bLightingForceCompute = true;
     EffectsLighting(info, info.oLightingMap.data(), width, height, hiRes);
     info.bLightingForceCompute = false;

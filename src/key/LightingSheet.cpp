@@ -28,8 +28,7 @@ struct Band {
     }
 };
 
-// The whole numbers from the least to the largest of the cells between `a` and `b`, as far as they lie in [first,
-// last).
+// The cells between `a` and `b`, both included, of those from `first` to `last` - 1.
 struct Span {
     int begin, end;
 

@@ -1,7 +1,8 @@
-// The light of each shape: its map alone, and the key with it beside the plain key.
+// The light of each shape, its map alone and the key with it beside the plain key, and the reflection.
 #include <benchmark/benchmark.h>
 
 #include "BenchPortrait.h"
+#include "effects/Reflection.h"
 #include "key/Combine.h"
 #include "key/Lighting.h"
 
@@ -64,6 +65,22 @@ BENCHMARK(combineWithLight<1>)->Apply(sizes);
 BENCHMARK(combineWithLight<2>)->Apply(sizes);
 BENCHMARK(combineWithLight<3>)->Apply(sizes);
 BENCHMARK(combineWithLight<4>)->Apply(sizes);
+
+// With the defaults the mirror takes the lower 30 percent of the picture.
+void reflection(benchmark::State& state, const char* texture, int base) {
+    Run run(state);
+    Combine(*run.info, 1, 1);
+    run.info->iSliderReflectionSkewBase = base;
+    run.info->oReflectionTexture->bHaveTexture = *texture != 0;
+    run.info->oReflectionTexture->sTextureFileName = std::string(TAVRIN_SOURCE_DIR) + texture;
+    const auto pixels = [](const auto& record) { return record->pBitmapData; };
+    for (auto _ : state)
+        AddReflection(*run.info, 1, *run.info->pCombinedBitmapInfo, pixels(run.info->pForegroundBitmapInfo),
+                      pixels(run.info->pBackgroundBitmapInfo), pixels(run.info->pCombinedBitmapInfo));
+}
+BENCHMARK_CAPTURE(reflection, defaults, "", 30)->Apply(sizes);
+BENCHMARK_CAPTURE(reflection, half_the_picture, "", 50)->Apply(sizes);
+BENCHMARK_CAPTURE(reflection, textured, "/data/Pictures/Texture/Canvas.jpg", 30)->Apply(sizes);
 
 }  // namespace
 }  // namespace tavrin
