@@ -121,6 +121,8 @@ TEST_F(BatchCliTest, ADryRunTellsThePlan) {
     EXPECT_FALSE(fs::exists(folder_.file("out")));
     ASSERT_EQ(test::runCli(batch({"--shard", "2/3"})).code, 0);
     EXPECT_TRUE(test::runCli(batch({"--dry-run"})).out.contains("skip   bensea.jpg: it was made before\n"));
+    const auto last = test::runCli(batch({"--dry-run", "--shard", "auto", "--shard", "3/3"}));
+    EXPECT_EQ(last.out, "make   corasea.jpg from cora.png over sea.png\n") << last.err.toStdString();
 }
 
 TEST_F(BatchCliTest, ShardsAndTheirReports) {

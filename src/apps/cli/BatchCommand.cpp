@@ -161,6 +161,7 @@ void addBatchCommand(CLI::App& app, int& result) {
     command->add_option("--jobs", batch.inHand, "Pictures in the works at the same time (default 3)")
         ->check(CLI::Range(1, 64));
     command->add_option("--shard", options->shard, "Make part K of N: K/N, auto or auto/N (from the scheduler)")
+        ->take_last()  // so that a line behind a script's own can say it better
         ->excludes(watch);
     command->add_flag("--retry-failed", batch.retryFailed, "Take pictures again that could not be read");
     command->add_flag("--again", batch.again, "Make every picture again");
