@@ -79,18 +79,7 @@ int reduced(int size, double scale) {
     return scale < 1 ? std::max(1, static_cast<int>(std::lround(size * scale))) : size;
 }
 
-// Qt scales and draws RGB32 and ARGB32 as they are; all other pictures it converts first, or draws many times slower.
-// Ours differ from those only in the order of the colours, which are all treated alike, so they are passed off as
-// those: a view of the same bytes, which must outlive it.
-QImage renamed(const QImage& picture) {
-    const QImage::Format own = picture.format();
-    const bool opaque = own == QImage::Format_RGBX8888;
-    if (QSysInfo::ByteOrder != QSysInfo::LittleEndian || (!opaque && own != QImage::Format_RGBA8888_Premultiplied)) {
-        return picture;
-    }
-    return QImage(picture.constBits(), picture.width(), picture.height(), picture.bytesPerLine(),
-                  opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
-}
+constexpr bool kExchanges = QSysInfo::ByteOrder == QSysInfo::LittleEndian;
 
 QImage inOurFormat(const QImage& picture) {
     const QImage::Format own = picture.format();
@@ -101,7 +90,8 @@ QImage inOurFormat(const QImage& picture) {
 
 // Area average when reducing.
 QImage scaledSmoothly(const QImage& picture, int width, int height) {
-    QImage result = renamed(picture).scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage result =
+        BitmapContext::forPainter(picture).scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     result.reinterpretAsFormat(picture.format());
     return result;
 }
@@ -114,12 +104,24 @@ std::uint8_t nearestByte(double fraction) {
 }  // namespace
 
 BitmapContext::BitmapContext(std::uint8_t* bytes, int width, int height)
-    : image_(bytes, width, height, qsizetype{4} * width, QImage::Format_RGBA8888_Premultiplied) {}
+    : image_(bytes, width, height, qsizetype{4} * width,
+             kExchanges ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGBA8888_Premultiplied) {}
 
 BitmapContext::~BitmapContext() = default;
 
 QTransform BitmapContext::toDevice() const {
     return transform_ * QTransform(1, 0, 0, -1, 0, image_.height());
+}
+
+QColor BitmapContext::forPainter(const QColor& color) {
+    return kExchanges ? QColor(color.blue(), color.green(), color.red(), color.alpha()) : color;
+}
+
+QImage BitmapContext::forPainter(const QImage& picture) {
+    const bool opaque = picture.format() == QImage::Format_RGBX8888;
+    if (!kExchanges || (!opaque && picture.format() != QImage::Format_RGBA8888_Premultiplied)) return picture;
+    return QImage(picture.constBits(), picture.width(), picture.height(), picture.bytesPerLine(),
+                  opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
 }
 
 std::unique_ptr<QPainter> BitmapContext::painter() {
@@ -131,7 +133,8 @@ std::unique_ptr<QPainter> BitmapContext::painter() {
 
 void BitmapContext::fillRect(const QRectF& rect, double red, double green, double blue, double alpha) {
     if (image_.isNull() || !isReasonable(toDevice(), rect)) return;
-    painter()->fillRect(rect, QColor(nearestByte(red), nearestByte(green), nearestByte(blue), nearestByte(alpha)));
+    const QColor color(nearestByte(red), nearestByte(green), nearestByte(blue), nearestByte(alpha));
+    painter()->fillRect(rect, forPainter(color));
 }
 
 void BitmapContext::drawImage(const QImage& any, const QRectF& rect, double opacity) {
@@ -166,24 +169,18 @@ void BitmapContext::drawExact(const QImage& picture, const QTransform& mapping, 
         rest = quarter.inverted() * rest;
     }
     if (rest.m11() < 0 || rest.m22() < 0) upright = upright.mirrored(rest.m11() < 0, rest.m22() < 0);
-    QImage buffer = drawingView();
-    QPainter painter(&buffer);
+    QPainter painter(&image_);
     painter.setOpacity(opacity);
-    painter.drawImage(target.topLeft(), renamed(upright));
+    painter.drawImage(target.topLeft(), forPainter(upright));
 }
 
 void BitmapContext::drawSmooth(const QImage& picture, const QTransform& mapping, double opacity) {
-    QImage buffer = drawingView();
-    QPainter painter(&buffer);
+    QPainter painter(&image_);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setRenderHint(QPainter::Antialiasing, !liesOnPixels(mapping, picture));
     painter.setTransform(mapping);
     painter.setOpacity(opacity);
-    painter.drawImage(0, 0, renamed(picture));
-}
-
-QImage BitmapContext::drawingView() {
-    return QImage(image_.bits(), image_.width(), image_.height(), image_.bytesPerLine(), renamed(image_).format());
+    painter.drawImage(0, 0, forPainter(picture));
 }
 
 void BitmapContext::scale(double x, double y) {
@@ -205,7 +202,9 @@ void BitmapContext::restoreState() {
 }
 
 QImage BitmapContext::snapshot() const {
-    return image_.copy();
+    QImage copy = image_.copy();
+    copy.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
+    return copy;
 }
 
 }  // namespace tavrin

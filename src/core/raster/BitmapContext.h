@@ -46,16 +46,21 @@ class BitmapContext {
     QImage snapshot() const;
 
     /// For text and shapes: a painter with this context's coordinate system, y upward. It must be gone before
-    /// the next call of another operation.
+    /// the next call of another operation. Its colours and pictures have to come out of `forPainter`.
     std::unique_ptr<QPainter> painter();
+
+    /// A colour, or an RGBA picture (premultiplied or opaque; its bytes must outlive the result), as `painter` wants
+    /// it: with red and blue exchanged. The painter's library draws pixels in that order alone at full speed, and it
+    /// treats all colours alike.
+    static QColor forPainter(const QColor& color);
+    static QImage forPainter(const QImage& picture);
 
   private:
     QTransform toDevice() const;
-    QImage drawingView();
     void drawExact(const QImage& picture, const QTransform& mapping, double opacity);
     void drawSmooth(const QImage& picture, const QTransform& mapping, double opacity);
 
-    QImage image_;
+    QImage image_;  // the buffer, as the painter wants it
     QTransform transform_;
     std::vector<QTransform> saved_;
 };

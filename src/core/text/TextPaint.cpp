@@ -7,6 +7,7 @@
 #include <QGlyphRun>
 #include <QPen>
 
+#include "core/raster/BitmapContext.h"
 #include "core/raster/BoxBlur.h"
 #include "core/raster/ColorMath.h"
 
@@ -66,7 +67,7 @@ void paintPicture(QPainter& painter, const ColourGlyph& glyph, const QTransform&
     if (as.isValid()) tint(picture, as);
     painter.setTransform(QTransform::fromScale(toUnits, toUnits) *
                          QTransform::fromTranslate(glyph.position.x(), glyph.position.y()) * toDevice);
-    painter.drawImage(-origin, picture);
+    painter.drawImage(-origin, BitmapContext::forPainter(picture));
 }
 
 // A picture of how much of each pixel of `area` a text covers, in 128ths of a 255th.
@@ -146,10 +147,10 @@ void paintText(QPainter& painter, const LaidOutText& text, const QTransform& toD
     painter.setTransform(toDevice);
     if (style.fill.isValid()) {
         for (const QPainterPath& piece : text.outlines)
-            painter.fillPath(piece, style.fill);
+            painter.fillPath(piece, BitmapContext::forPainter(style.fill));
     }
     if (style.outline.isValid() && style.outlineWidth > 0.0) {
-        QPen pen(style.outline, style.outlineWidth * LaidOutText::kSize);
+        QPen pen(BitmapContext::forPainter(style.outline), style.outlineWidth * LaidOutText::kSize);
         pen.setJoinStyle(Qt::SvgMiterJoin);
         pen.setMiterLimit(4.0);
         for (const QPainterPath& piece : text.outlines)
@@ -175,7 +176,8 @@ void paintTextShadow(QPainter& painter, const LaidOutText& text, const QTransfor
     blur(coverage, boxes, area);
     painter.save();
     painter.resetTransform();
-    painter.drawImage(area.topLeft(), inColor(coverage, shadow.color, area));
+    const QImage image = inColor(coverage, shadow.color, area);
+    painter.drawImage(area.topLeft(), BitmapContext::forPainter(image));
     painter.restore();
 }
 

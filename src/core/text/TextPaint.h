@@ -25,8 +25,8 @@ struct TextShadow {
 /// A colour of channels from 0 to 1, to the nearest byte.
 QColor colorOf(double red, double green, double blue);
 
-/// Paints a text. `toDevice` brings its units to buffer pixels, y downward. A text that `toDevice` takes beyond all
-/// reason (not finite, millions of pixels away) paints nothing.
+/// Paints a text with the painter of a context, or into a mask. `toDevice` brings its units to buffer pixels, y
+/// downward. A text that `toDevice` takes beyond all reason (not finite, millions of pixels away) paints nothing.
 void paintText(QPainter& painter, const LaidOutText& text, const QTransform& toDevice, const TextStyle& style);
 
 /// Paints the shadow that the text would throw when painted in this style.
