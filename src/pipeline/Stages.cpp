@@ -143,7 +143,7 @@ std::span<const Stage> fastStages() {
 
 void runStages(std::span<const Stage> stages, SystemInfo& info, int res) {
     for (const Stage& stage : stages) {
-        if (stage.run && stage.when(info)) stage.run(info, res);
+        if (stage.when(info)) stage.run(info, res);
     }
 }
 

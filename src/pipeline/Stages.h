@@ -9,7 +9,7 @@ namespace tavrin {
 /// Resolution argument of the stages.
 inline constexpr int kLowRes = 0, kFullRes = 1;
 
-/// One step of a pass. A stage without `run` is not there yet: its place in the order is kept.
+/// One step of a pass.
 struct Stage {
     const char* name;
     bool (*when)(const SystemInfo&);
