@@ -116,7 +116,6 @@ std::string choose(SystemInfo& info, const std::string& choice, const Sources& s
 /// The finished picture at the size of a cell; null, after a line, when a choice is wrong.
 QImage take(const Shot& shot, const Sources& sources) {
     const auto info = std::make_unique<SystemInfo>();
-    startCommandLine(*info);
     seedRandom(1);
     info->pForegroundBitmapInfo->sSourceImageFullPath = sources.portrait;
     info->pBackgroundBitmapInfo->sSourceImageFullPath = sources.background;
@@ -202,6 +201,9 @@ int main(int argc, char** argv) {
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
+    // Once for all: it puts files into a folder of this process and waits for the disk.
+    const auto first = std::make_unique<SystemInfo>();
+    startCommandLine(*first);
     const QTemporaryDir folder;
     const Sources sources = {argv[1], argv[2], paintLights(argv[2], folder.path())};
     const QImage sheet = layOut(allShots(), sources);
