@@ -65,7 +65,7 @@ bool hasShadow(const FontObject& item) {
 TextShadow shadowOf(const FontObject& item, double scaleX, double scaleY) {
     TextShadow shadow;
     shadow.color = colorOf(item.dFontDropshadowGlowRed, item.dFontDropshadowGlowGreen, item.dFontDropshadowGlowBlue);
-    shadow.offset = QPointF(item.iFontDropShadowHorz * scaleX, -item.iFontDropShadowVert * scaleY);
+    shadow.offset = QPointF(item.iFontDropShadowHorz * scaleX, item.iFontDropShadowVert * -scaleY);
     const double radius = atLeast(item.iFontDropShadowRadius, 0.0);
     shadow.sigma = radius / 2.0 * (std::abs(scaleX) + std::abs(scaleY)) / 2.0;
     return shadow;
