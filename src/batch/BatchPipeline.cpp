@@ -50,7 +50,6 @@ struct InHand {
     ReadFile foreground;
     std::shared_ptr<const ReadFile> background;
     MadePicture made;
-    HandOver handOver;  ///< between the threads of the stages
 
     bool failed() const { return !result.reason.empty(); }
     void fail(const std::string& reason, bool lasting) {
@@ -66,7 +65,9 @@ class Stages {
 
     /// The next job; null at the end. `finish` takes it back.
     InHand* take() {
+        handOver.pass();
         std::optional<BatchJob> job = tasks_.next();
+        handOver.pass();
         if (!job) return nullptr;
         std::lock_guard lock(mutex_);
         InHand& hand = hands_.emplace_back();
@@ -119,6 +120,8 @@ class Stages {
         hands_.remove_if([&hand](const InHand& other) { return &other == &hand; });
     }
 
+    HandOver handOver;  ///< between all that work for the pipeline
+
   private:
     static void use(InHand& hand, const ReadFile& file, const std::string& path) {
         hand.result.inputs.push_back({file.facts, file.digest});
@@ -138,7 +141,7 @@ class Stages {
 
 /// One stage for one job; a job that failed passes through. Whatever happens to one job, the others go on.
 void work(Stages& stages, void (Stages::*stage)(InHand&), InHand& hand) {
-    hand.handOver.pass();
+    stages.handOver.pass();
     if (!hand.failed()) {
         try {
             (stages.*stage)(hand);
@@ -148,7 +151,7 @@ void work(Stages& stages, void (Stages::*stage)(InHand&), InHand& hand) {
             hand.fail(std::string("it cannot be made (") + error.what() + ")", false);
         }
     }
-    hand.handOver.pass();
+    stages.handOver.pass();
 }
 
 }  // namespace
@@ -173,10 +176,12 @@ void runPipeline(PictureMaker& maker, const PipelineTasks& tasks) {
     });
     const auto encode = make_filter<InHand*, void>(filter_mode::parallel, [&](InHand* hand) {
         work(stages, &Stages::encode, *hand);
-        hand->handOver.pass();
         stages.finish(*hand);
+        stages.handOver.pass();
     });
+    stages.handOver.pass();
     oneapi::tbb::parallel_pipeline(static_cast<std::size_t>(std::max(tasks.inHand, 1)), take & decode & key & encode);
+    stages.handOver.pass();
 }
 
 }  // namespace tavrin

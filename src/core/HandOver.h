@@ -11,13 +11,10 @@ namespace tavrin {
 class HandOver {
   public:
     HandOver() { pass(); }
-    void pass() {
-        const int turn = turn_.load(std::memory_order_acquire);
-        turn_.store(turn + 1, std::memory_order_release);
-    }
+    void pass() { turn_.fetch_add(1, std::memory_order_acq_rel); }
 
   private:
-    std::atomic<int> turn_ = 0;
+    std::atomic<unsigned> turn_ = 0;
 };
 
 }  // namespace tavrin

@@ -48,7 +48,7 @@ class RowWorker {
             loadBackground();
             write();
         }
-        std::memcpy(params_.background + offset_, run_.background, bytes_);
+        keepAlpha();
         std::memcpy(params_.combined + offset_, combined_, bytes_);
     }
 
@@ -60,6 +60,13 @@ class RowWorker {
         const int past = (run_.count + 7) / 8 * 8;
         std::fill(to + run_.count, to + past, 0);
         std::memcpy(to, pixels + offset_, bytes_);
+    }
+
+    // Only the alpha: the colours may be read meanwhile, by rows that sharpen.
+    void keepAlpha() const {
+        std::uint8_t* alpha = params_.background + offset_ + 3;
+        for (int i = 0; i < run_.count; ++i, alpha += kPixelBytes)
+            *alpha = static_cast<std::uint8_t>(static_cast<std::uint32_t>(run_.background[i]) >> 24);
     }
 
     bool anySubject() const {
