@@ -11,7 +11,10 @@ namespace tavrin {
 class HandOver {
   public:
     HandOver() { pass(); }
-    void pass() { turn_.fetch_add(1, std::memory_order_acq_rel); }
+    void pass() {
+        turn_.load(std::memory_order_acquire);  // so that the checker sees the object made before it is changed
+        turn_.fetch_add(1, std::memory_order_acq_rel);
+    }
 
   private:
     std::atomic<unsigned> turn_ = 0;
