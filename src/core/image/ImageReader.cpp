@@ -7,7 +7,9 @@
 #include "core/Log.h"
 #include "core/image/Exif.h"
 #include "core/image/FileKind.h"
+#include "core/image/JpegReader.h"
 #include "core/image/RawReader.h"
+#include "core/image/SrgbConversion.h"
 #include "core/image/VipsReader.h"
 
 namespace tavrin {
@@ -91,6 +93,14 @@ void fillFromRaw(const std::string& path, PictureFacts& facts) {
     fillCamera(raw.camera, facts);
 }
 
+QImage decode(const std::string& path, FileKind kind, VipsImage* image, std::string& error) {
+    if (kind == FileKind::jpeg && isSrgb(image)) {
+        QImage pixels = decodeOrdinaryJpeg(path, vips_image_get_orientation(image), image->Xsize, image->Ysize);
+        if (!pixels.isNull()) return pixels;
+    }
+    return decodeWithVips(image, error);
+}
+
 }  // namespace
 
 ReadPicture readPicture(const std::string& path) {
@@ -108,7 +118,7 @@ ReadPicture readPicture(const std::string& path) {
     const OpenPicture open = openWithVips(path, probe.kind);
     picture.error = open.error;
     if (!picture.error.empty()) return picture;
-    picture.pixels = decodeWithVips(open.image.get(), picture.error);
+    picture.pixels = decode(path, probe.kind, open.image.get(), picture.error);
     if (picture.error.empty()) picture.exif = vipsBlob(open.image.get(), VIPS_META_EXIF_NAME);
     return picture;
 }

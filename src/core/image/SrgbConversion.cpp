@@ -170,4 +170,9 @@ VipsRef toSrgb(VipsImage* image) {
     return out ? castTo(out.get(), VIPS_FORMAT_UCHAR, false) : nullptr;
 }
 
+bool isSrgb(VipsImage* image) {
+    return image->Bands == 3 && image->BandFmt == VIPS_FORMAT_UCHAR && image->Type == VIPS_INTERPRETATION_sRGB &&
+           judgeProfile(image) != Profile::other;
+}
+
 }  // namespace tavrin

@@ -10,4 +10,7 @@ namespace tavrin {
 /// @return null on failure, the reason is the image library's last error
 VipsRef toSrgb(VipsImage* image);
 
+/// Whether the three channels of a picture of 8 bits are sRGB as they stand, so that `toSrgb` would change nothing.
+bool isSrgb(VipsImage* image);
+
 }  // namespace tavrin

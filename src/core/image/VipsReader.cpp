@@ -7,6 +7,7 @@
 #include "core/HandOver.h"
 #include "core/image/PsdCheck.h"
 #include "core/image/SrgbConversion.h"
+#include "core/image/UprightPixels.h"
 #include "core/raster/Pixels.h"
 
 namespace tavrin {
@@ -70,81 +71,40 @@ std::string decodeError() {
 }
 
 /// Takes finished rows of the decoder and lays them, upright and as RGBA, into the result. The decoder calls `write`
-/// on a thread of its own, one call after the other. Each call passes the result on through `turn_`: the library's
-/// own ordering would do, but the thread checker does not see it.
-class RowSink {
-  public:
-    RowSink(QImage& target, int orientation, int width, int height) {
-        const std::ptrdiff_t pixel = 4, row = target.bytesPerLine();
-        const bool turned = orientation >= 5;
-        // Which way the stored columns and rows run in the upright picture.
-        const bool mirrorX = orientation == 2 || orientation == 3 || orientation == 7 || orientation == 8;
-        const bool mirrorY = orientation == 3 || orientation == 4 || orientation == 6 || orientation == 7;
-        stepX_ = (turned ? row : pixel) * (mirrorX ? -1 : 1);
-        stepY_ = (turned ? pixel : row) * (mirrorY ? -1 : 1);
-        first_ = target.bits() + (mirrorX ? -stepX_ * (width - 1) : 0) + (mirrorY ? -stepY_ * (height - 1) : 0);
-        handOver.pass();
-    }
+/// on a thread of its own, one call after the other. Each call passes the result on: the library's own ordering would
+/// do, but the thread checker does not see it.
+struct RowSink {
+    UprightPixels pixels;
+    HandOver handOver;
 
     static int write(VipsRegion* region, VipsRect* area, void* self) {
         auto* sink = static_cast<RowSink*>(self);
         sink->handOver.pass();
         switch (region->im->Bands) {
             case 1:
-                sink->copy<1>(region, *area);
+                sink->place<1>(region, *area);
                 break;
             case 2:
-                sink->copy<2>(region, *area);
+                sink->place<2>(region, *area);
                 break;
             case 3:
-                sink->copy<3>(region, *area);
+                sink->place<3>(region, *area);
                 break;
             default:
-                sink->copy<4>(region, *area);
+                sink->place<4>(region, *area);
                 break;
         }
         sink->handOver.pass();
         return 0;
     }
 
-    HandOver handOver;
-
-  private:
     template <int Bands>
-    static void copyPixel(const VipsPel* from, std::uint8_t* to) {
-        to[0] = from[0];
-        to[1] = from[Bands > 2 ? 1 : 0];
-        to[2] = from[Bands > 2 ? 2 : 0];
-        to[3] = Bands % 2 ? 255 : from[Bands - 1];
+    void place(VipsRegion* region, const VipsRect& area) const {
+        pixels.place<Bands>(VIPS_REGION_ADDR(region, area.left, area.top),
+                            static_cast<std::ptrdiff_t>(VIPS_IMAGE_SIZEOF_PEL(region->im)),
+                            static_cast<std::ptrdiff_t>(VIPS_REGION_LSKIP(region)), area.left, area.top, area.width,
+                            area.height);
     }
-
-    template <int Bands>
-    void copy(VipsRegion* region, const VipsRect& area) const {
-        const std::ptrdiff_t pel = static_cast<std::ptrdiff_t>(VIPS_IMAGE_SIZEOF_PEL(region->im));
-        const std::ptrdiff_t line = static_cast<std::ptrdiff_t>(VIPS_REGION_LSKIP(region));
-        const VipsPel* from = VIPS_REGION_ADDR(region, area.left, area.top);
-        std::uint8_t* to = first_ + area.left * stepX_ + area.top * stepY_;
-        // The inner loop runs along the rows of the result, so that a turned picture is not written byte by byte
-        // all over its memory.
-        const bool turned = stepY_ == 4 || stepY_ == -4;
-        const int outer = turned ? area.width : area.height, inner = turned ? area.height : area.width;
-        const std::ptrdiff_t fromOuter = turned ? pel : line, fromInner = turned ? line : pel;
-        const std::ptrdiff_t toOuter = turned ? stepX_ : stepY_, toInner = turned ? stepY_ : stepX_;
-        for (int o = 0; o < outer; ++o) {
-            const VipsPel* in = from + o * fromOuter;
-            std::uint8_t* out = to + o * toOuter;
-            if (fromInner == Bands && toInner == 4) {  // as most pictures are, and faster with constant steps
-                for (int i = 0; i < inner; ++i)
-                    copyPixel<Bands>(in + i * Bands, out + i * std::ptrdiff_t{4});
-            } else {
-                for (int i = 0; i < inner; ++i, in += fromInner, out += toInner)
-                    copyPixel<Bands>(in, out);
-            }
-        }
-    }
-
-    std::uint8_t* first_;  ///< where the stored picture's first pixel lies
-    std::ptrdiff_t stepX_, stepY_;
 };
 
 }  // namespace
@@ -188,7 +148,8 @@ QImage decodeWithVips(VipsImage* image, std::string& error) {
         error = "there is not enough memory for it";
         return {};
     }
-    RowSink sink(result, orientation, width, height);
+    RowSink sink{UprightPixels(result, orientation, width, height), {}};
+    sink.handOver.pass();
     const bool failed = vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0;
     sink.handOver.pass();
     if (failed) {

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include <QImage>
+
+namespace tavrin {
+
+/// Decodes an ordinary JPEG file straight into a picture (RGBX, upright), without the copies that the image library
+/// makes on the way. Ordinary is what cameras write: three channels, one scan, nothing to complain about.
+/// @param width,height of the stored picture, as its header was read
+/// @return null for any other file, which the image library then decodes or refuses with its reason
+QImage decodeOrdinaryJpeg(const std::string& path, int orientation, int width, int height);
+
+}  // namespace tavrin
