@@ -125,13 +125,7 @@ bool CombineThread::updateLayers() {
         foreground.bHaveBitmap = false;
         info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
     }
-    if (foreground.bOrgFileChange.exchange(false)) updateSource(foreground);
-    if (info_.isStale()) return false;
-    if (info_.bNewOutputSize.exchange(false) && info_.pInterface) {
-        info_.pInterface->sizeWindow(info_.iOutputPixelWidth, info_.iOutputPixelHeight);
-    }
-    if (background.bOrgFileChange.exchange(false)) updateSource(background);
-    if (info_.isStale()) return false;
+    if (!updateSources()) return false;
     if (foreground.bScaleChange.exchange(false)) updateForegroundScale();
     if (info_.isStale()) return false;
     if (!info_.bBackgroundFrozen && background.bScaleChange.exchange(false)) {
@@ -144,11 +138,29 @@ bool CombineThread::updateLayers() {
     return true;
 }
 
-void CombineThread::updateSource(BitmapInfo& record) {
+bool CombineThread::updateSources() {
+    BitmapInfo& foreground = *info_.pForegroundBitmapInfo;
+    BitmapInfo& background = *info_.pBackgroundBitmapInfo;
+    const bool newForeground = foreground.bOrgFileChange.exchange(false);
+    const bool newBackground = background.bOrgFileChange.exchange(false);
+    ReadSources read = readSources(info_, newForeground, newBackground);
+    if (newForeground) updateSource(foreground, std::move(read.foreground));
+    if (info_.isStale()) {
+        if (newBackground) background.bOrgFileChange = true;
+        return false;
+    }
+    if (info_.bNewOutputSize.exchange(false) && info_.pInterface) {
+        info_.pInterface->sizeWindow(info_.iOutputPixelWidth, info_.iOutputPixelHeight);
+    }
+    if (newBackground) updateSource(background, std::move(read.background));
+    return !info_.isStale();
+}
+
+void CombineThread::updateSource(BitmapInfo& record, ReadPicture picture) {
     record.bScaleChange = true;
     cascade(record);
     info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
-    ChangeOrgBitmap(info_, record);
+    ChangeOrgBitmap(info_, record, std::move(picture));
 }
 
 void CombineThread::updateForegroundScale() {

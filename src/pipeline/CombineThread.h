@@ -5,6 +5,7 @@
 #include <thread>
 #include <vector>
 
+#include "core/image/ImageReader.h"
 #include "core/state/SystemInfo.h"
 
 namespace tavrin {
@@ -47,7 +48,8 @@ class CombineThread {
     void runPosted();
     Turn runPass();
     bool updateLayers();
-    void updateSource(BitmapInfo& record);
+    bool updateSources();
+    void updateSource(BitmapInfo& record, ReadPicture picture);
     void updateForegroundScale();
     void updateBackground();
     void makePreview();

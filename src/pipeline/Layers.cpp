@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "core/Log.h"
-#include "core/image/ImageReader.h"
+#include "core/raster/Rows.h"
 #include "key/BaseGreen.h"
 
 namespace tavrin {
@@ -126,13 +126,31 @@ void drawSource(const BitmapInfo& record, BitmapContext& context, const Fit& fit
     context.drawImage(record.orgImage, placedRect(record, fit, context.width(), context.height()));
 }
 
+ReadPicture readSourceOf(const SystemInfo& info, const BitmapInfo& record) {
+    const std::string path = record.sSourceImageFullPath;
+    return info.readSource ? info.readSource(path) : readPicture(path);
+}
+
 }  // namespace
 
+ReadSources readSources(const SystemInfo& info, bool foreground, bool background) {
+    ReadSources sources;
+    if (!foreground && !background) return sources;
+    runRows({}, 2, 1, [&](int layer) {
+        if (layer == 0 && foreground) sources.foreground = readSourceOf(info, *info.pForegroundBitmapInfo);
+        if (layer == 1 && background) sources.background = readSourceOf(info, *info.pBackgroundBitmapInfo);
+    });
+    return sources;
+}
+
 bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record) {
+    return ChangeOrgBitmap(info, record, readSourceOf(info, record));
+}
+
+bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record, ReadPicture picture) {
     logTrace("**** Loading Org Image");
-    const std::string path = record.sSourceImageFullPath;
-    ReadPicture picture = info.readSource ? info.readSource(path) : readPicture(path);
     if (!picture.error.empty()) {
+        const std::string path = record.sSourceImageFullPath;
         const std::string name = std::filesystem::path(path).filename().string();
         info.alert("Cound not load file: " + name + ", check your file permissions", picture.error);
         return false;

@@ -1,14 +1,25 @@
 #pragma once
 
+#include "core/image/ImageReader.h"
 #include "core/state/SystemInfo.h"
 
 namespace tavrin {
+
+/// The files of the two layers, read but not yet taken over.
+struct ReadSources {
+    ReadPicture foreground, background;
+};
+
+/// Reads the files of the layers that are wanted, both at once where there are cores for it.
+ReadSources readSources(const SystemInfo& info, bool foreground, bool background);
 
 /// Loads the source of a layer and turns it: flip, rotation, tilt. A foreground also gets its screen colour
 /// estimated from the source. Corners that a turn leaves empty get a fixed screen-like green, to be keyed away.
 /// A file that cannot be read shows an alert and leaves the old picture in place.
 /// @return false when the old picture stayed
 bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record);
+/// The same with the file already read.
+bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record, ReadPicture picture);
 
 /// Draws the source of a layer into both its buffers: fitted to the output, scaled and shifted by the user's
 /// settings, over the colour of the screen. While the mouse is held in the view only the preview is drawn.

@@ -31,9 +31,10 @@ bool loadAndCombineFiles(SystemInfo& info) {
     info.iCurrentThreadCount = 1;
     info.iNewThreadCount = 1;
 
-    bool loaded = ChangeOrgBitmap(info, foreground);
+    ReadSources read = readSources(info, true, true);
+    bool loaded = ChangeOrgBitmap(info, foreground, std::move(read.foreground));
     ChangeBitmapScale(info, foreground);
-    loaded = ChangeOrgBitmap(info, background) && loaded;
+    loaded = ChangeOrgBitmap(info, background, std::move(read.background)) && loaded;
     ChangeBitmapScale(info, background);
     runStages(backgroundStages(), info, kLowRes);
     ComputeBaseGreen(info, 1, 0);
