@@ -80,6 +80,24 @@ TEST(ImageWriter, JpegDropsAlphaAndKeepsColours) {
     EXPECT_EQ(readPictureFacts(folder.file("a.jpg")).channels, 3);
 }
 
+// Pictures of several strips, the last one short; the widest has strips of fewer rows.
+TEST(ImageWriter, StripsOfAJpegMakeOnePicture) {
+    const TempFolder folder;
+    const std::string strips = folder.file("strips.jpg"), whole = folder.file("whole.jpg");
+    for (const auto& [width, height] : {std::pair{61, 517}, std::pair{40'003, 150}, std::pair{3, 128}}) {
+        const test::MadePicture made{.width = width, .height = height};
+        ASSERT_TRUE(made.save(whole, "[Q=100,subsample_mode=off]"));
+        std::vector<std::uint8_t> bytes;
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                for (int b = 0; b < 4; ++b)
+                    bytes.push_back(static_cast<std::uint8_t>(b < 3 ? made.value(x, y, b) : 99));
+        ASSERT_EQ(writePicture(strips, {bytes.data(), width, height, kJpegFile, 240, {}}), "");
+        EXPECT_EQ(storedBytes(strips), storedBytes(whole)) << width << " x " << height;
+        EXPECT_EQ(readPicture(strips).pixels, readPicture(whole).pixels);
+    }
+}
+
 TEST(ImageWriter, FilesNameResolutionProfileAndCamera) {
     const TempFolder folder;
     const Sample sample;

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/raster/AreaMean.h"
+#include "core/raster/Pixels.h"
+
 namespace tavrin {
 
 namespace {
@@ -49,12 +52,12 @@ bool isUpright(const QTransform& t) {
     return (t.m12() == 0 && t.m21() == 0) || (t.m11() == 0 && t.m22() == 0);
 }
 
-bool liesOnPixels(const QTransform& t, const QImage& picture) {
-    const QRectF r = t.mapRect(QRectF(picture.rect()));
+bool liesOnPixels(const QTransform& t, const QRect& picture) {
+    const QRectF r = t.mapRect(QRectF(picture));
     return isUpright(t) && isWhole(r.left()) && isWhole(r.top()) && isWhole(r.right()) && isWhole(r.bottom());
 }
 
-bool isExact(const QTransform& t, const QImage& picture) {
+bool isExact(const QTransform& t, const QRect& picture) {
     return liesOnPixels(t, picture) && isWhole(scaleX(t)) && isWhole(scaleY(t)) && std::lround(scaleX(t)) == 1 &&
            std::lround(scaleY(t)) == 1;
 }
@@ -88,11 +91,13 @@ QImage inOurFormat(const QImage& picture) {
                                                              : QImage::Format_RGBX8888);
 }
 
-// Area average when reducing.
-QImage scaledSmoothly(const QImage& picture, int width, int height) {
-    QImage result =
-        BitmapContext::forPainter(picture).scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    result.reinterpretAsFormat(picture.format());
+bool isUpsideUp(const QTransform& t) {
+    return t.m11() > 0 && t.m22() > 0;
+}
+
+QImage reducedByArea(const QImage& picture, int width, int height) {
+    QImage result = newPicture(width, height, picture.format());
+    if (!result.isNull()) reduceByArea(picture, width, height, result.rect(), result.bits(), result.bytesPerLine());
     return result;
 }
 
@@ -142,7 +147,7 @@ void BitmapContext::drawImage(const QImage& any, const QRectF& rect, double opac
     const QImage picture = inOurFormat(any);
     QTransform mapping = pictureToDevice(picture, rect, toDevice());
     if (!mapping.mapRect(QRectF(picture.rect())).intersects(QRectF(image_.rect()))) return;
-    if (isExact(mapping, picture)) return drawExact(picture, mapping, opacity);
+    if (isExact(mapping, picture.rect())) return drawExact(picture, mapping, opacity);
     // What is enlarged is cut to what can be seen. What is only reduced stays whole: its edges then lie where the
     // rectangle has them, and the result is no larger than the picture.
     const bool enlarged = scaleX(mapping) > 1 || scaleY(mapping) > 1;
@@ -151,10 +156,21 @@ void BitmapContext::drawImage(const QImage& any, const QRectF& rect, double opac
     mapping = QTransform::fromTranslate(part.x(), part.y()) * mapping;
     const int w = reduced(part.width(), scaleX(mapping)), h = reduced(part.height(), scaleY(mapping));
     if (w == part.width() && h == part.height()) return drawSmooth(partOf(picture, part), mapping, opacity);
-    const QImage small = scaledSmoothly(partOf(picture, part), w, h);
     const double stepX = static_cast<double>(part.width()) / w, stepY = static_cast<double>(part.height()) / h;
     mapping = QTransform::fromScale(stepX, stepY) * mapping;
-    isExact(mapping, small) ? drawExact(small, mapping, opacity) : drawSmooth(small, mapping, opacity);
+    const bool exact = isExact(mapping, QRect(0, 0, w, h));
+    if (exact && isUpsideUp(mapping) && opacity == 1.0 && !picture.hasAlphaChannel())
+        return drawReduced(partOf(picture, part), mapping.mapRect(QRectF(0, 0, w, h)).toRect());
+    const QImage small = reducedByArea(partOf(picture, part), w, h);
+    exact ? drawExact(small, mapping, opacity) : drawSmooth(small, mapping, opacity);
+}
+
+// An opaque picture reduced to whole pixels goes straight to its place.
+void BitmapContext::drawReduced(const QImage& picture, const QRect& target) {
+    const QRect seen = target & image_.rect();
+    std::uint8_t* out = image_.scanLine(seen.top()) + std::ptrdiff_t{kPixelBytes} * seen.left();
+    reduceByArea(picture, target.width(), target.height(), seen.translated(-target.topLeft()), out,
+                 image_.bytesPerLine());
 }
 
 // Whole pixels to whole pixels: a quarter turn and mirrors, which move pixels and compute nothing.
@@ -177,7 +193,7 @@ void BitmapContext::drawExact(const QImage& picture, const QTransform& mapping, 
 void BitmapContext::drawSmooth(const QImage& picture, const QTransform& mapping, double opacity) {
     QPainter painter(&image_);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.setRenderHint(QPainter::Antialiasing, !liesOnPixels(mapping, picture));
+    painter.setRenderHint(QPainter::Antialiasing, !liesOnPixels(mapping, picture.rect()));
     painter.setTransform(mapping);
     painter.setOpacity(opacity);
     painter.drawImage(0, 0, forPainter(picture));

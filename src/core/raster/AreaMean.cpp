@@ -1,0 +1,120 @@
+#include "core/raster/AreaMean.h"
+
+#include "core/raster/LineShares.h"
+#include "core/raster/Pixels.h"
+#include "core/raster/Rows.h"
+
+// This file is compiled once for each vector target.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "core/raster/AreaMean.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace tavrin {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+template <class D>
+using Words = hn::Rebind<std::int32_t, D>;
+template <class D>
+using Bytes = hn::Rebind<std::uint8_t, D>;
+
+/// Calls `step(tag, i)` for vectors of floats from 0 to `count`, the rest one by one.
+template <class Step>
+void forVectors(std::size_t count, Step step) {
+    const HWY_CAPPED(float, 16) wide;
+    const HWY_CAPPED(float, 1) one;
+    std::size_t i = 0;
+    for (; i + hn::Lanes(wide) <= count; i += hn::Lanes(wide))
+        step(wide, i);
+    for (; i < count; ++i)
+        step(one, i);
+}
+
+/// Of a picture reduced to between one half and its size, as most are.
+constexpr int kUsualTaps = 3;
+
+/// Weighted sums of rows, byte by byte.
+void sumRows(const std::uint8_t* first, std::ptrdiff_t stride, const float* weights, int taps, std::size_t count,
+             float* sums) {
+    forVectors(count, [&](auto d, std::size_t i) HWY_ATTR {
+        const auto term = [&](int row) HWY_ATTR {
+            const auto bytes = hn::LoadU(Bytes<decltype(d)>(), first + row * stride + i);
+            return hn::Mul(hn::ConvertTo(d, hn::PromoteTo(Words<decltype(d)>(), bytes)), hn::Set(d, weights[row]));
+        };
+        auto sum = term(0);
+        for (int row = 1; row < taps; ++row)
+            sum = hn::Add(sum, term(row));
+        hn::StoreU(sum, d, sums + i);
+    });
+}
+
+/// Weighted sums of neighbouring pixels, of which `sums` has those from column `left` on. `kTaps` is the number of
+/// taps where it is known beforehand, else 0.
+template <int kTaps>
+void sumColumns(const float* sums, int left, const LineShares& shares, float* out) {
+    const int taps = kTaps > 0 ? kTaps : shares.taps;
+    const HWY_CAPPED(float, kPixelBytes) d;  // a pixel at a time, where the machine has that many lanes
+    const float* weights = shares.weights.data();
+    for (const int first : shares.first) {
+        const float* pixel = sums + std::ptrdiff_t{kPixelBytes} * (first - left);
+        for (std::size_t channel = 0; channel < kPixelBytes; channel += hn::Lanes(d)) {
+            const auto term = [&](int tap) HWY_ATTR {
+                return hn::Mul(hn::LoadU(d, pixel + kPixelBytes * tap + channel), hn::Set(d, weights[tap]));
+            };
+            auto sum = term(0);
+            for (int tap = 1; tap < taps; ++tap)
+                sum = hn::Add(sum, term(tap));
+            hn::StoreU(sum, d, out + channel);
+        }
+        weights += taps;
+        out += kPixelBytes;
+    }
+}
+
+void roundToBytes(const float* values, std::size_t count, std::uint8_t* out) {
+    forVectors(count, [&](auto d, std::size_t i) HWY_ATTR {
+        const auto nearest = hn::NearestInt(hn::LoadU(d, values + i));
+        hn::StoreU(hn::DemoteTo(Bytes<decltype(d)>(), nearest), Bytes<decltype(d)>(), out + i);
+    });
+}
+
+/// The rows [first, last) of a part whose rows and columns take in what `rows` and `columns` say.
+void reduceRows(const QImage& picture, const LineShares& rows, const LineShares& columns, int first, int last,
+                std::uint8_t* out, std::ptrdiff_t outStride) {
+    const int left = columns.first.front(), right = columns.first.back() + columns.taps;
+    const std::size_t taken = static_cast<std::size_t>(right - left) * kPixelBytes;
+    const std::size_t made = columns.first.size() * kPixelBytes;
+    std::vector<float> sums(taken), line(made);
+    for (int y = first; y < last; ++y) {
+        const auto row = static_cast<std::size_t>(y);
+        const std::uint8_t* top = picture.constScanLine(rows.first[row]) + std::ptrdiff_t{kPixelBytes} * left;
+        sumRows(top, picture.bytesPerLine(), rows.weightsOf(row), rows.taps, taken, sums.data());
+        columns.taps == kUsualTaps ? sumColumns<kUsualTaps>(sums.data(), left, columns, line.data())
+                                   : sumColumns<0>(sums.data(), left, columns, line.data());
+        roundToBytes(line.data(), made, out + y * outStride);
+    }
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace tavrin
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace tavrin {
+
+HWY_EXPORT(reduceRows);
+
+void reduceByArea(const QImage& picture, int width, int height, const QRect& part, std::uint8_t* out,
+                  std::ptrdiff_t outStride) {
+    constexpr int kGrainRows = 16;
+    const LineShares rows = shareLine(picture.height(), height, part.top(), part.top() + part.height());
+    const LineShares columns = shareLine(picture.width(), width, part.left(), part.left() + part.width());
+    runRowRanges({}, part.height(), kGrainRows, [&](int first, int last) {
+        HWY_DYNAMIC_DISPATCH(reduceRows)(picture, rows, columns, first, last, out, outStride);
+    });
+}
+
+}  // namespace tavrin
+#endif
