@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <hwy/targets.h>
 
+#include "key/AlphaSides.h"
 #include "key/CombineRow.h"
 #include "key/KeyScene.h"
 
@@ -36,15 +37,21 @@ std::vector<std::int64_t> targets() {
     return found;
 }
 
-void expectOneResult(const KeyScene& scene, const char* what) {
-    const std::vector<Pixel> plain = written(scene, combineRowPlain);
+template <class Run>
+void onEveryTarget(Run run) {
     for (const std::int64_t target : targets()) {
         hwy::SetSupportedTargetsForTest(target);
         hwy::GetChosenTarget().Update(target);
-        EXPECT_TRUE(written(scene, combineRow) == plain) << what << ", target " << hwy::TargetName(target);
+        SCOPED_TRACE(hwy::TargetName(target));
+        run();
     }
     hwy::SetSupportedTargetsForTest(0);
     hwy::GetChosenTarget().Update(hwy::SupportedTargets());
+}
+
+void expectOneResult(const KeyScene& scene, const char* what) {
+    const std::vector<Pixel> plain = written(scene, combineRowPlain);
+    onEveryTarget([&] { EXPECT_TRUE(written(scene, combineRow) == plain) << what; });
 }
 
 struct Variant {
@@ -123,6 +130,26 @@ TEST(Lanes, EveryTargetAgreesOnEveryGreenishColour) {
             }
         }
         expectOneResult(scene, "colours");
+    }
+}
+
+TEST(Lanes, EveryTargetFindsTheSidesOfALevel) {
+    std::vector<Pixel> row(300);
+    test::fillWithNoise(row, 7);
+    for (std::size_t x = 0; x < row.size(); x += 3)
+        row[x][3] = static_cast<std::uint8_t>(199 + x % 4);
+    const std::size_t step = 2;
+    for (const int width : {1, 63, 64, 65, 300}) {
+        onEveryTarget([&] {
+            std::vector<AlphaSides> sides(static_cast<std::size_t>((width + 63) / 64) * step);
+            findAlphaSides(row.front().data(), width, 200, sides.data(), step);
+            for (int x = 0; x < static_cast<int>(sides.size() / step) * 64; ++x) {
+                const AlphaSides& found = sides[static_cast<std::size_t>(x) / 64 * step];
+                const int alpha = x < width ? row[static_cast<std::size_t>(x)][3] : 200;
+                EXPECT_EQ(found.below >> x % 64 & 1, alpha < 200 ? 1u : 0u) << x << " of " << width;
+                EXPECT_EQ(found.above >> x % 64 & 1, alpha > 200 ? 1u : 0u) << x << " of " << width;
+            }
+        });
     }
 }
 
