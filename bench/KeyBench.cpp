@@ -48,7 +48,7 @@ BENCHMARK_CAPTURE(
     ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
 
-void baseGreen(benchmark::State& state) {
+void measureSource(benchmark::State& state, const std::function<void(SystemInfo&)>& measure) {
     const int width = static_cast<int>(state.range(0)), height = static_cast<int>(state.range(1));
     SystemInfo info;
     bench::prepare(info, width, height);
@@ -58,10 +58,24 @@ void baseGreen(benchmark::State& state) {
     front.orgBitmapData = front.pBitmapData;
     const ThreadLimit limit(static_cast<int>(state.range(2)));
     for (auto _ : state)
-        ComputeBaseGreen(info, 1, 2);
+        measure(info);
     reportPixel(state, static_cast<double>(width) * height);
 }
+
+void baseGreen(benchmark::State& state) {
+    measureSource(state, [](SystemInfo& info) { ComputeBaseGreen(info, 1, 2); });
+}
+// The colour alone, of the source of a portrait of 12 megapixels.
+void baseColor(benchmark::State& state) {
+    measureSource(state, [](SystemInfo& info) { ComputeBaseColor(info, 2); });
+}
 BENCHMARK(baseGreen)->Apply(sizes);
+BENCHMARK(baseColor)
+    ->Args({3024, 4032, 1})
+    ->Args({3024, 4032, 2})
+    ->UseRealTime()
+    ->MeasureProcessCPUTime()
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tavrin

@@ -1,25 +1,31 @@
 #include "key/BaseGreen.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <mutex>
 
 #include "core/raster/ColorMath.h"
+#include "key/ScreenFilter.h"
+#include "key/ScreenHue.h"
 
 namespace tavrin {
 
 namespace {
 
-constexpr int kCells = 20;  // cells a side of the grid
-constexpr double kFallbackHue = 107.0, kFallbackSaturationBin = 127.0, kFallbackGreen = 100.0;
+constexpr int kCells = 20;                     // cells a side of the grid
+constexpr int kLeastGreen = 30;                // pixels up to this level are too dark to have a hue
+constexpr int kFirstHue = 60, kLastHue = 180;  // all that green leads
+constexpr int kFallbackHue = 107, kFallbackSaturationBin = 127;
+constexpr double kFallbackGreen = 100.0;
 
 // The picture to measure and where a pixel's bytes play their roles.
 struct Source {
     const std::uint8_t* pixels = nullptr;
     int width = 0, height = 0;
     int step = 1;  // rows from one row of the statistics to the next
-    int green = 1, blue = 2;
+    bool blueLogic = false;
 
     std::int64_t steps() const { return height < 1 ? 0 : (std::int64_t{height} + step - 1) / step; }
 };
@@ -37,118 +43,92 @@ Source sourceOf(const SystemInfo& info, int mode) {
         source.height = record.iOrgHeight;
         source.step = std::max(1, std::min(source.height / 500, source.width / 500));
     }
-    if (info.bUseBlueLogic) std::swap(source.green, source.blue);
+    source.blueLogic = info.bUseBlueLogic;
     return source;
 }
 
-// A pixel in roles. A channel of 0 counts as 1 so that every colour has a hue and a saturation below 1.
-Rgb screenPixel(const Source& source, const std::uint8_t* p) {
-    const auto channel = [](std::uint8_t byte) { return byte == 0 ? 1.0 : static_cast<double>(byte); };
-    return {channel(p[0]), channel(p[source.green]), channel(p[source.blue])};
-}
-
-struct HueSat {
-    double hue, saturation;
-};
-
-HueSat hueSatOf(const Rgb& c) {
-    double h, s, v, delta;
-    rgb_to_hsv(h, s, v, delta, c.r, c.g, c.b);
-    return {h, s};
-}
-
-// Hues are compared as whole degrees. Above 180 the half circle is taken off, which is not the shorter way round;
-// the screen's neighbourhood is chosen by exactly this rule.
-bool nearHue(double hue, double peak) {
-    int distance = std::abs(static_cast<int>(hue) - static_cast<int>(peak));
-    if (distance >= 181) distance -= 180;
-    return distance < 5;
-}
-
-// Green must lead both others by 10 levels on the scale on which the pixel is at full brightness.
-// On success the pixel is brought to that scale.
-bool normaliseGreenLed(Rgb& c) {
-    if (c.g <= c.r || c.g <= c.b) return false;
-    const double m = c.g;
-    const Rgb full{c.r * 255.0 / m, c.g * 255.0 / m, c.b * 255.0 / m};
-    const double lead = 2550.0 / m;
-    if (!(full.g > full.b + lead && full.g > full.r + lead)) return false;
-    c = full;
-    return true;
-}
-
-// Reads pixels one after the other from the head of the buffer, a fifth of a row's length for each row of the
-// statistics: the top of the picture, where the screen is free of the subject.
-double findHuePeak(const Source& source) {
-    const std::int64_t count = source.steps() * ((std::int64_t{source.width} + 4) / 5);
-    std::array<std::int64_t, 360> bins{};
-    for (std::int64_t i = 0; i < count; ++i) {
-        Rgb c = screenPixel(source, source.pixels + i * kPixelBytes);
-        if (!(c.g > 30.0) || !normaliseGreenLed(c)) continue;
-        const HueSat hs = hueSatOf(c);
-        if (hs.saturation > 0.2) ++bins[static_cast<std::size_t>(hs.hue)];
-    }
-    const auto peak = std::max_element(bins.begin(), bins.end());
-    return *peak == 0 ? kFallbackHue : static_cast<double>(peak - bins.begin());
-}
-
-// Calls `pixel(total, pointer)` for `steps` rows of pixels from the head of the buffer, and adds up the totals,
-// which hold whole numbers, so that their order does not count.
+// Calls `pixel(total, p)` for those of so many pixels from the head of the buffer that green leads with a saturation
+// above 0.2 and a hue from `firstHue` to `lastHue`. Adds up the totals, which hold whole numbers, so that their order
+// does not count.
 template <class Total, class Pixel>
-Total gather(const Source& source, Pixel pixel) {
+Total gather(const Source& source, std::int64_t pixels, int firstHue, int lastHue, Pixel pixel) {
+    constexpr std::int64_t kAtATime = 1 << 16;
+    const ScreenFilter filter{source.blueLogic, 1, 0, 1, 5, firstHue, lastHue, true};
     Total sum;
     std::mutex mutex;
-    runRowRanges({}, static_cast<int>(source.steps()), 64, [&](int first, int last) {
+    runRows({}, static_cast<int>((pixels + kAtATime - 1) / kAtATime), 1, [&](int piece) {
         Total part;
-        const std::uint8_t* end = source.pixels + pixelOffset(source.width, 0, last);
-        for (const std::uint8_t* p = source.pixels + pixelOffset(source.width, 0, first); p != end;
-             p += kPixelBytes) {
-            pixel(part, p);
-        }
+        const std::int64_t first = piece * kAtATime, count = std::min(kAtATime, pixels - first);
+        forScreenLike(filter, source.pixels + first * kPixelBytes, static_cast<std::size_t>(count),
+                      [&](int r, int g, int b) {
+                          const ScreenPixel p{r, g, b};
+                          if (p.greenLeads()) pixel(part, p);
+                      });
         std::lock_guard lock(mutex);
         sum += part;
     });
     return sum;
 }
 
-struct SaturationBins {
-    std::array<std::int64_t, 200> count{};
-    void operator+=(const SaturationBins& other) {
-        for (std::size_t i = 0; i < count.size(); ++i)
+template <std::size_t kCount>
+struct Bins {
+    std::array<std::int64_t, kCount> count{};
+
+    void operator+=(const Bins& other) {
+        for (std::size_t i = 0; i < kCount; ++i)
             count[i] += other.count[i];
     }
-};
 
-double findSaturationPeak(const Source& source, double huePeak) {
-    const auto bins = gather<SaturationBins>(source, [&](SaturationBins& part, const std::uint8_t* p) {
-        Rgb c = screenPixel(source, p);
-        if (!normaliseGreenLed(c)) return;
-        const HueSat hs = hueSatOf(c);
-        if (nearHue(hs.hue, huePeak) && hs.saturation > 0.2)
-            ++part.count[static_cast<std::size_t>(hs.saturation * 200.0)];
-    });
-    const auto peak = std::max_element(bins.count.begin() + 15, bins.count.end());
-    return *peak == 0 ? kFallbackSaturationBin : static_cast<double>(peak - bins.count.begin());
-}
-
-struct GreenSum {
-    std::int64_t sum = 0, count = 0;
-    void operator+=(const GreenSum& other) {
-        sum += other.sum;
-        count += other.count;
+    // The lowest bin, from `first` on, of those with the largest count; `fallback` where all are empty.
+    int peak(int first, int fallback) const {
+        const auto found = std::max_element(count.begin() + first, count.end());
+        return *found == 0 ? fallback : static_cast<int>(found - count.begin());
     }
 };
 
-double findGreenLevel(const Source& source, double huePeak) {
-    const auto total = gather<GreenSum>(source, [&](GreenSum& part, const std::uint8_t* p) {
-        const Rgb c = screenPixel(source, p);
-        if (!(c.g > 30.0 && c.g > c.b && c.g > c.r)) return;
-        const HueSat hs = hueSatOf(c);
-        if (!nearHue(hs.hue, huePeak) || !(hs.saturation > 0.2)) return;
-        part.sum += static_cast<std::int64_t>(c.g);
-        ++part.count;
-    });
-    return total.count == 0 ? kFallbackGreen : static_cast<double>(total.sum) / static_cast<double>(total.count);
+// Reads pixels one after the other from the head of the buffer, a fifth of a row's length for each row of the
+// statistics: the top of the picture, where the screen is free of the subject.
+int findHuePeak(const Source& source) {
+    const FullBrightness& full = FullBrightness::tables();
+    const std::int64_t pixels = source.steps() * ((std::int64_t{source.width} + 4) / 5);
+    const auto hues =
+        gather<Bins<360>>(source, pixels, kFirstHue, kLastHue, [&](Bins<360>& part, const ScreenPixel& p) {
+            if (p.g > kLeastGreen && full.greenLeads(p))
+                ++part.count[static_cast<std::size_t>(FullBrightness::wholeHue(p))];
+        });
+    return hues.peak(0, kFallbackHue);
+}
+
+// Of the pixels near the peak of the hue: their saturations at full brightness, and the greens of those that are not
+// dark.
+struct NearPeak {
+    Bins<200> saturations;
+    std::int64_t greens = 0, count = 0;
+
+    void operator+=(const NearPeak& other) {
+        saturations += other.saturations;
+        greens += other.greens;
+        count += other.count;
+    }
+
+    double saturation() const { return saturations.peak(15, kFallbackSaturationBin) / 200.0; }
+    double green() const {
+        return count == 0 ? kFallbackGreen : static_cast<double>(greens) / static_cast<double>(count);
+    }
+};
+
+NearPeak lookNearPeak(const Source& source, int huePeak) {
+    const FullBrightness& full = FullBrightness::tables();
+    const HueWindow window(huePeak);
+    return gather<NearPeak>(source, source.steps() * source.width, window.first, window.end,
+                            [&](NearPeak& part, const ScreenPixel& p) {
+                                if (full.greenLeads(p) && window.holdsFull(p))
+                                    ++part.saturations.count[static_cast<std::size_t>(full.saturationBin(p))];
+                                if (p.g > kLeastGreen && window.holds(p)) {
+                                    part.greens += p.g;
+                                    ++part.count;
+                                }
+                            });
 }
 
 // The colour of that hue, saturation and green level.
@@ -163,31 +143,41 @@ Rgb screenColour(double hue, double saturation, double green) {
 struct Cell {
     std::int64_t r = 0, g = 0, b = 0;
     std::int32_t count = 0;
+
+    void operator+=(const Cell& other) {
+        r += other.r;
+        g += other.g;
+        b += other.b;
+        count += other.count;
+    }
 };
 using CellRow = std::array<Cell, kCells>;
 
+// The pixels that count in the grid: they have a hue less than 20 degrees from that of the base colour, as whole
+// degrees, a saturation above 0.5 and some brightness.
+ScreenFilter cellFilter(const Source& source, const Rgb& base) {
+    double h, s, v, delta;
+    rgb_to_hsv(h, s, v, delta, base.r, base.g, base.b);
+    const int hue = static_cast<int>(h), leastGreen = static_cast<int>(base.g * 0.2);
+    return {source.blueLogic, 0, leastGreen, 10, 2, hue - 19, hue + 20, false};
+}
+
 // Adds up the screen-coloured pixels of the rows that fall into one row of cells.
-CellRow sumCellRow(const Source& source, const Rgb& base, int cellRow) {
-    const int baseHue = static_cast<int>(hueSatOf(base).hue);
-    const double least = base.g * 0.2;
-    const auto firstRowOf = [&](std::int64_t row) {
-        return static_cast<int>((row * source.height + kCells - 1) / kCells);
+CellRow sumCellRow(const Source& source, const ScreenFilter& filter, int cellRow) {
+    const auto firstOf = [](std::int64_t cell, int length) {
+        return static_cast<int>((cell * length + kCells - 1) / kCells);
     };
     CellRow cells{};
-    for (int y = firstRowOf(cellRow); y < firstRowOf(cellRow + 1); ++y) {
-        const std::uint8_t* p = source.pixels + pixelOffset(source.width, 0, y);
-        for (int x = 0; x < source.width; ++x, p += kPixelBytes) {
-            const int r = p[0], g = p[source.green], b = p[source.blue];
-            const int mx = std::max({r, g, b}), mn = std::min({r, g, b});
-            // The saturation (mx - mn) / mx has to be above 0.5.
-            if (mx - mn < 10 || 2 * (mx - mn) <= mx || !(g > least)) continue;
-            const HueSat hs = hueSatOf({static_cast<double>(r), static_cast<double>(g), static_cast<double>(b)});
-            if (std::abs(static_cast<int>(hs.hue) - baseHue) >= 20) continue;
-            Cell& cell = cells[static_cast<std::size_t>(std::int64_t{x} * kCells / source.width)];
-            cell.r += r;
-            cell.g += g;
-            cell.b += b;
-            ++cell.count;
+    for (int y = firstOf(cellRow, source.height); y < firstOf(cellRow + 1, source.height); ++y) {
+        const std::uint8_t* row = source.pixels + pixelOffset(source.width, 0, y);
+        for (int column = 0; column < kCells; ++column) {
+            Cell cell;
+            const int first = firstOf(column, source.width), end = firstOf(column + 1, source.width);
+            forScreenLike(filter, row + pixelBytes(first, 1), static_cast<std::size_t>(end - first),
+                          [&](int r, int g, int b) {
+                              cell += {r, g, b, 1};
+                          });
+            cells[static_cast<std::size_t>(column)] += cell;
         }
     }
     return cells;
@@ -205,8 +195,9 @@ double cellChannel(std::int64_t sum, std::int32_t count, double area, double bas
 
 void measureGrid(const Source& source, const Rgb& base, ScreenColor& result) {
     const double area = static_cast<double>(std::int64_t{source.width} * source.height / (kCells * kCells));
+    const ScreenFilter filter = cellFilter(source, base);
     runRows({}, kCells, 1, [&](int row) {
-        const CellRow cells = sumCellRow(source, base, row);
+        const CellRow cells = sumCellRow(source, filter, row);
         for (std::size_t column = 0; column < kCells; ++column) {
             const Cell& cell = cells[column];
             const std::size_t index = static_cast<std::size_t>(row) * kCells + column;
@@ -226,9 +217,9 @@ bool findSource(const SystemInfo& info, int mode, Source& source) {
 }
 
 Rgb measureColour(SystemInfo& info, const Source& source) {
-    const double hue = findHuePeak(source);
-    const double saturation = findSaturationPeak(source, hue) / 200.0;
-    const Rgb base = screenColour(hue, saturation, findGreenLevel(source, hue));
+    const int hue = findHuePeak(source);
+    const NearPeak near = lookNearPeak(source, hue);
+    const Rgb base = screenColour(hue, near.saturation(), near.green());
     info.baseRed = base.r;
     info.baseGreen = base.g;
     info.baseBlue = base.b;

@@ -2,6 +2,7 @@
 
 #include "key/EasySettings.h"
 #include "key/KeyScene.h"
+#include "key/ScreenHue.h"
 
 namespace tavrin {
 namespace {
@@ -136,6 +137,36 @@ TEST(BaseGreen, SmallAndThreadedPicturesGiveFiniteEqualResults) {
         for (const double value : many.info.iBaseGreenArray)
             EXPECT_TRUE(value >= 1.0 && value < 300.0);
     }
+}
+
+// Against the formulas on all colours that green leads, thousands of which the scaling to full brightness moves over
+// the edge of a degree.
+TEST(BaseGreen, HueAndSaturationOfEveryColourAreThoseOfTheFormulas) {
+    const FullBrightness& full = FullBrightness::tables();
+    const auto near = [](int hue, int peak) { return std::abs(hue - peak) < 5; };
+    int wrong = 0, moved = 0;
+    for (int g = 1; g < 256; ++g) {
+        for (int r = 1; r < g; ++r) {
+            for (int b = 1; b < g; ++b) {
+                const ScreenPixel p{r, g, b};
+                const double m = g, r2 = r * 255.0 / m, b2 = b * 255.0 / m, lead = 2550.0 / m;
+                double h, s, hueFull, sFull, v, delta;
+                rgb_to_hsv(h, s, v, delta, r, g, b);
+                rgb_to_hsv(hueFull, sFull, v, delta, r2, 255.0, b2);
+                const int hue = static_cast<int>(h), peak = hue + (r + b) % 13 - 6;
+                const HueWindow window(peak);
+                wrong += (s > 0.2) != (sFull > 0.2);
+                wrong += full.greenLeads(p) != (255.0 > r2 + lead && 255.0 > b2 + lead);
+                wrong += full.saturationBin(p) != (sFull > 0.2 ? static_cast<int>(sFull * 200.0) : 0);
+                wrong += FullBrightness::wholeHue(p) != static_cast<int>(hueFull);
+                wrong += window.holds(p) != near(hue, peak);
+                wrong += window.holdsFull(p) != near(static_cast<int>(hueFull), peak);
+                moved += hue != static_cast<int>(hueFull);
+            }
+        }
+    }
+    EXPECT_EQ(wrong, 0);
+    EXPECT_GT(moved, 5000);
 }
 
 struct EasyCase {

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "key/AlphaSides.h"
 #include "key/CombineRow.h"
 #include "key/KeyScene.h"
+#include "key/ScreenFilter.h"
 #include "support/VectorTargets.h"
 
 namespace tavrin {
@@ -109,6 +111,68 @@ TEST(Lanes, EveryTargetAgreesOnEveryGreenishColour) {
             }
         }
         expectOneResult(scene, "colours");
+    }
+}
+
+TEST(Lanes, EveryTargetFindsTheSidesOfALevel) {
+    std::vector<Pixel> row(300);
+    test::fillWithNoise(row, 7);
+    for (std::size_t x = 0; x < row.size(); x += 3)
+        row[x][3] = static_cast<std::uint8_t>(199 + x % 4);
+    const std::size_t step = 2;
+    for (const int width : {1, 63, 64, 65, 300}) {
+        test::onEveryTarget([&] {
+            std::vector<AlphaSides> sides(static_cast<std::size_t>((width + 63) / 64) * step);
+            findAlphaSides(row.front().data(), width, 200, sides.data(), step);
+            for (int x = 0; x < static_cast<int>(sides.size() / step) * 64; ++x) {
+                const AlphaSides& found = sides[static_cast<std::size_t>(x) / 64 * step];
+                const int alpha = x < width ? row[static_cast<std::size_t>(x)][3] : 200;
+                EXPECT_EQ(found.below >> x % 64 & 1, alpha < 200 ? 1u : 0u) << x << " of " << width;
+                EXPECT_EQ(found.above >> x % 64 & 1, alpha > 200 ? 1u : 0u) << x << " of " << width;
+            }
+        });
+    }
+}
+
+bool isScreenLike(const ScreenFilter& filter, const Pixel& c) {
+    const int mx = std::max({c[0], c[1], c[2]}), span = mx - std::min({c[0], c[1], c[2]});
+    double h, s, v, delta;
+    rgb_to_hsv(h, s, v, delta, c[0], c[1], c[2]);
+    const bool hue = (h >= filter.firstHue && h < filter.endHue) || (filter.endToo && h == filter.endHue);
+    return hue && span >= filter.leastSpan && s > 1.0 / filter.ratio && c[1] > filter.leastGreen;
+}
+
+TEST(Lanes, EveryTargetKeepsTheColoursThatTheHueFormulaKeeps) {
+    const ScreenFilter filters[] = {{false, 1, 0, 1, 5, 60, 180, true},
+                                    {true, 1, 0, 1, 5, 103, 112, true},
+                                    {false, 0, 31, 10, 2, 40, 79, false},
+                                    {true, 0, 17, 10, 2, 114, 153, false},
+                                    {false, 0, 0, 10, 2, 161, 200, false}};
+    for (const ScreenFilter& filter : filters) {
+        std::vector<Pixel> row, expected;
+        for (int blue = 0; blue < 256; blue += 15) {
+            for (int i = 0; i < 0x10000; ++i) {
+                const Pixel p{static_cast<std::uint8_t>(i), static_cast<std::uint8_t>(i >> 8),
+                              static_cast<std::uint8_t>(blue), static_cast<std::uint8_t>(i * 7)};
+                row.push_back(p);
+                Pixel roles{p[0], p[filter.blue ? 2 : 1], p[filter.blue ? 1 : 2], 0};
+                for (std::size_t c = 0; c < 3; ++c)
+                    roles[c] = std::max(roles[c], static_cast<std::uint8_t>(filter.floor));
+                if (isScreenLike(filter, roles)) expected.push_back(roles);
+            }
+        }
+        ASSERT_GT(expected.size(), 1000u);
+        test::onEveryTarget([&] {
+            std::vector<Pixel> kept;
+            const std::size_t odd = 5;  // so that the last vector is not full
+            const auto keep = [&](int r, int g, int b) {
+                kept.push_back(
+                    {static_cast<std::uint8_t>(r), static_cast<std::uint8_t>(g), static_cast<std::uint8_t>(b), 0});
+            };
+            forScreenLike(filter, row.front().data(), row.size() - odd, keep);
+            forScreenLike(filter, row[row.size() - odd].data(), odd, keep);
+            EXPECT_TRUE(kept == expected);
+        });
     }
 }
 
