@@ -10,7 +10,7 @@
 
 #include "key/DecisionLanes-inl.h"
 #include "key/FinishLanes-inl.h"
-#include "key/LayerTone.h"
+#include "key/LayerTone-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace tavrin {
@@ -89,7 +89,7 @@ class RowWorker {
 
     // Colours of the subject where it has a share in the result; elsewhere black.
     void finishForeground() {
-        adjustForeground(params_.finish, run_);
+        adjustForeground(d_, params_.finish, run_);
         for (int i = 0; i < run_.count; i += lanes()) {
             const auto seen = hn::Gt(hn::Load(d_, run_.alpha + i), hn::Zero(d_));
             Colors c{hn::Zero(d_), hn::Zero(d_), hn::Zero(d_)};
@@ -125,7 +125,7 @@ class RowWorker {
             hn::Store(c.g, d_, behind_.g + i);
             hn::Store(c.b, d_, behind_.b + i);
         }
-        adjustBackground(params_.finish, run_, gain_, behind_);
+        adjustBackground(d_, params_.finish, run_, gain_, behind_);
     }
 
     Colors backgroundAt(int i, hn::Vec<WordTag<D>> pixels) const {

@@ -54,7 +54,4 @@ bool curveTone(const ToneConstants& tone, Rgb& color);
 /// Sets the contrast, and the level of black that goes with it and with `iBrightnessSat`.
 void setGain(ToneConstants& tone, double gain, double saturation);
 
-/// Holds the hue of a colour that is too bright, in the order red, green, blue.
-void limitTone(Rgb& color);
-
 }  // namespace tavrin

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "key/KeyScene.h"
+#include "key/Surroundings.h"
 
 namespace tavrin {
 namespace {
@@ -142,6 +143,34 @@ TEST(Tone, SharpenComparesWithTheSurroundingsInThePicture) {
     Rgb green{190.0, 195.0, 150.0};  // would turn red-led: 210, 212.5 against 190 + 20
     adjustTone(t, green, 0, 0, 1.0);
     EXPECT_GT(green.g, green.r);
+}
+
+TEST(Tone, SurroundingsAreSumsOverTheBlockWithoutItsCentre) {
+    for (const auto& [width, height] : {std::pair{1, 1}, {2, 7}, {5, 3}, {150, 6}}) {
+        std::vector<Pixel> pixels(static_cast<std::size_t>(width * height));
+        test::fillWithNoise(pixels, 4);
+        const auto at = [&](int x, int y) { return pixels[static_cast<std::size_t>(y * width + x)]; };
+        const int x = width / 3, count = std::min(width - x, 100);
+        for (int y = 0; y < height; ++y) {
+            Surroundings around;
+            sumSurroundings(pixels.front().data(), width, height, x, y, count, around);
+            for (int i = 0; i < count; ++i) {
+                int sums[4] = {};
+                for (int row = std::max(y - 2, 0); row <= std::min(y + 2, height - 1); ++row) {
+                    for (int column = std::max(x + i - 2, 0); column <= std::min(x + i + 2, width - 1); ++column) {
+                        if (row == y && column == x + i) continue;
+                        for (std::size_t c = 0; c < 3; ++c)
+                            sums[c] += at(column, row)[c];
+                        ++sums[3];
+                    }
+                }
+                EXPECT_EQ(around.r[i], sums[0]);
+                EXPECT_EQ(around.g[i], sums[1]);
+                EXPECT_EQ(around.b[i], sums[2]);
+                EXPECT_EQ(around.pixels[i], sums[3]);
+            }
+        }
+    }
 }
 
 }  // namespace

@@ -77,6 +77,27 @@ constexpr Variant kVariants[] = {
          i.pBackgroundBitmapInfo->iBrightness = -30;
          i.iBackgroundOutputMode = 1;
      }},
+    {"filters, sharpening, shadows and highlights",
+     [](SystemInfo& i) {
+         for (BitmapInfo* record : {i.pForegroundBitmapInfo.get(), i.pBackgroundBitmapInfo.get()}) {
+             record->iEnhanseShadows = 60;
+             record->iReduceHighlights = 30;
+             record->iBrightnessSat = 25;
+             record->iBrightnessSharpen = 40;
+             record->iCooling = 90;
+             record->iWarming = 20;
+         }
+     }},
+    {"light on a sharpened background",
+     [](SystemInfo& i) {
+         i.pBackgroundBitmapInfo->iBrightnessSharpen = 70;
+         i.iLightingMode = 1;
+         i.iLightingApplyTo = 2;
+         i.oLightingMap.resize(static_cast<std::size_t>(i.iOutputPixelWidth) *
+                               static_cast<std::size_t>(i.iOutputPixelHeight));
+         for (std::size_t k = 0; k < i.oLightingMap.size(); ++k)
+             i.oLightingMap[k] = static_cast<std::int32_t>(k % 1700) - 700;
+     }},
     {"hair",
      [](SystemInfo& i) {
          i.bAdvancedHairDetectionON = i.bFoundHair = true;
