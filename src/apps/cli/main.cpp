@@ -1,5 +1,6 @@
 #include <memory>
 
+#include <QFont>
 #include <QGuiApplication>
 
 #include "apps/cli/BatchCommand.h"
@@ -24,7 +25,10 @@ std::unique_ptr<QCoreApplication> startLibraries(bool withFonts) {
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
         if (type == QtCriticalMsg || type == QtFatalMsg) tavrin::cli::complain(text.toStdString());
     });
-    return std::make_unique<QGuiApplication>(count, words);
+    auto application = std::make_unique<QGuiApplication>(count, words);
+    // Asked for the usual font, the library would read in all fonts of the system, also where nobody writes.
+    QGuiApplication::setFont(QFont(QStringLiteral("Sans Serif")));
+    return application;
 }
 
 }  // namespace
