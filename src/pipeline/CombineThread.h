@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/state/SystemInfo.h"
+#include "pipeline/KeyedPicture.h"
 
 namespace tavrin {
 
@@ -52,8 +53,10 @@ class CombineThread {
     void updateBackground();
     void makePreview();
     void makeFullPicture();
+    void forgetKeyed();
 
     SystemInfo& info_;
+    KeyedPicture keyedPreview_{kLowRes}, keyedFull_{kFullRes};
     std::vector<std::function<void()>> idleWork_;
     std::mutex postedMutex_;
     std::vector<std::function<void()>> posted_;
