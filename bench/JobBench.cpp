@@ -1,48 +1,18 @@
 // The whole job, from file to file: a 12 megapixel portrait and the sample background become an 8 x 10 inch JPEG at
 // 300 dpi. Beside it what no program can leave out: decoding both, scaling both, encoding one.
 #include <benchmark/benchmark.h>
-#include <filesystem>
-#include <memory>
-#include <string>
 
+#include "BenchJob.h"
 #include "core/image/ImageReader.h"
 #include "core/image/ImageWriter.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
 #include "pipeline/WholePicture.h"
 
 namespace tavrin {
 namespace {
 
-constexpr int kWidth = 2400, kHeight = 3000;
-
-std::string tempFile(const char* name) {
-    return (std::filesystem::temp_directory_path() / (std::string("tavrin-bench-") + name)).string();
-}
-
-// The sample portrait at 3100 x 3875.
-const std::string& foregroundPath() {
-    static const std::string path = [] {
-        const QImage sample(TAVRIN_SOURCE_DIR "/data/sample/portrait.jpg");
-        const std::string file = tempFile("portrait.jpg");
-        sample.scaled(3100, 3875, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).save(file.c_str(), "JPEG", 92);
-        return file;
-    }();
-    return path;
-}
-
-std::string backgroundPath() {
-    return TAVRIN_SOURCE_DIR "/data/sample/background.jpg";
-}
-
-std::unique_ptr<SystemInfo> newJob() {
-    auto info = std::make_unique<SystemInfo>();
-    info->pForegroundBitmapInfo->sSourceImageFullPath = foregroundPath();
-    info->pBackgroundBitmapInfo->sSourceImageFullPath = backgroundPath();
-    selectOwnSize(*info, "8x10", 8.0, 10.0, 300);
-    return info;
-}
+using namespace bench;
 
 void decodeScaleEncode(benchmark::State& state) {
     const ThreadLimit limit(static_cast<int>(state.range(0)));
@@ -77,16 +47,23 @@ void jobByShortPath(benchmark::State& state) {
     wholeJob(state, [](SystemInfo& info) { loadAndCombineFiles(info); });
 }
 
-// A pass after a slider move: both layers are in place.
-void pass(benchmark::State& state, SystemInfo& info) {
+// A pass after a change: both layers are in place.
+template <class Change>
+void passAfter(benchmark::State& state, SystemInfo& info, Change change) {
     const ThreadLimit limit(static_cast<int>(state.range(0)));
     ChangeImageSize(info);
     CombineThread loop(info);
     loop.runUntilIdle();
     for (auto _ : state) {
+        change();
         info.StartUpdate();
         loop.runUntilIdle();
     }
+}
+
+// After a slider move, with nobody to look.
+void pass(benchmark::State& state, SystemInfo& info) {
+    passAfter(state, info, [] {});
 }
 
 void findHair(SystemInfo& info, bool on) {
@@ -111,6 +88,31 @@ void fullPass(benchmark::State& state) {
     pass(state, *info);
 }
 
+// With a view that takes the pictures; the second argument adds the full picture.
+template <class Change>
+void passInView(benchmark::State& state, Change change) {
+    Interface view;
+    const auto info = newJob();
+    info->pInterface = &view;
+    info->bSkipHiRes = state.range(1) == 0;
+    info->oFontLabelObject[0].sText = "Title";
+    int count = 0;
+    passAfter(state, *info, [&] { change(*info, ++count); });
+}
+
+// A slider of the key moves.
+void keySliderInView(benchmark::State& state) {
+    passInView(state,
+               [](SystemInfo& info, int count) { info.pCombinedBitmapInfo->sliderWhiteAdjust = 40 + count % 2; });
+}
+
+// A letter is typed: nothing is keyed.
+void textEditInView(benchmark::State& state) {
+    passInView(state, [](SystemInfo& info, int count) {
+        info.oFontLabelObject[0].sText = count % 2 == 0 ? "Title" : "Titles";
+    });
+}
+
 BENCHMARK(decodeScaleEncode)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime()->MeasureProcessCPUTime();
 BENCHMARK(jobByShortPath)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime()->MeasureProcessCPUTime();
 BENCHMARK(jobByLoop)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime()->MeasureProcessCPUTime();
@@ -120,6 +122,16 @@ BENCHMARK(previewPass)
     ->UseRealTime()
     ->MeasureProcessCPUTime();
 BENCHMARK(fullPass)
+    ->ArgsProduct({{1, 2}, {0, 1}})
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->MeasureProcessCPUTime();
+BENCHMARK(keySliderInView)
+    ->ArgsProduct({{1, 2}, {0, 1}})
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->MeasureProcessCPUTime();
+BENCHMARK(textEditInView)
     ->ArgsProduct({{1, 2}, {0, 1}})
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime()

@@ -43,4 +43,8 @@ void seedRandom(std::uint64_t seed) {
     sequence.store(seed, std::memory_order_relaxed);
 }
 
+std::uint64_t upcomingRandomSeed() {
+    return sequence.load(std::memory_order_relaxed);
+}
+
 }  // namespace tavrin

@@ -25,5 +25,7 @@ class RandomSource {
 /// `seedRandom` has set where the sequence starts.
 std::uint64_t nextRandomSeed();
 void seedRandom(std::uint64_t seed);
+/// What the next call of `nextRandomSeed` will give; unchanged as long as nobody has asked for one.
+std::uint64_t upcomingRandomSeed();
 
 }  // namespace tavrin

@@ -76,6 +76,7 @@ void CombineThread::runPosted() {
         std::lock_guard lock(postedMutex_);
         jobs.swap(posted_);
     }
+    if (!jobs.empty()) forgetKeyed();  // a job may do anything
     for (const auto& job : jobs)
         job();
 }
@@ -95,7 +96,10 @@ CombineThread::Turn CombineThread::iterate() {
 CombineThread::Turn CombineThread::runPass() {
     Interface* view = info_.pInterface;
     if (view) {
-        if (view->editorIsOpen()) view->exitEditorMode();
+        if (view->editorIsOpen()) {
+            forgetKeyed();  // the editor paints into the buffers
+            view->exitEditorMode();
+        }
         view->enableControls(false, info_.bLightroomActive);
     }
     if (!updateLayers()) return Turn::worked;
@@ -119,6 +123,8 @@ bool CombineThread::updateLayers() {
     BitmapInfo& foreground = *info_.pForegroundBitmapInfo;
     BitmapInfo& background = *info_.pBackgroundBitmapInfo;
     if (info_.bChangeImageSize.exchange(false)) {
+        keyedPreview_.release();
+        keyedFull_.release();
         ChangeImageSize(info_);
         foreground.bOrgFileChange = true;
         background.bOrgFileChange = true;
@@ -165,6 +171,7 @@ void CombineThread::updateSource(BitmapInfo& record, ReadPicture picture) {
 
 void CombineThread::updateForegroundScale() {
     BitmapInfo& foreground = *info_.pForegroundBitmapInfo;
+    forgetKeyed();
     cascade(foreground);
     info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
     // The shadow lives in the background's buffers.
@@ -176,14 +183,24 @@ void CombineThread::updateForegroundScale() {
 
 void CombineThread::updateBackground() {
     BitmapInfo& background = *info_.pBackgroundBitmapInfo;
+    forgetKeyed();
     background.bHiResScaleChange = true;
     cascade(background);
     ChangeBitmapScale(info_, background);
     runStages(backgroundStages(), info_, kLowRes);
 }
 
+void CombineThread::forgetKeyed() {
+    keyedPreview_.forget();
+    keyedFull_.forget();
+}
+
 void CombineThread::makePreview() {
-    runStages(previewStages(), info_, kLowRes);
+    if (!keyedPreview_.restore(info_)) {
+        keyedFull_.forget();  // the full picture's key uses what is found here
+        keyedPreview_.make(previewStages().key, info_);
+    }
+    runStages(previewStages().finish, info_, kLowRes);
     info_.bShowLowRes = true;
     info_.publishLowRes();
 }
@@ -191,18 +208,22 @@ void CombineThread::makePreview() {
 void CombineThread::makeFullPicture() {
     BitmapInfo& combined = *info_.pCombinedBitmapInfo;
     if (!combined.oBitmapRep || !combined.oBitmapRepLowRes) return;
+    const bool newBackground = info_.pBackgroundBitmapInfo->bHiResScaleChange.exchange(false);
+    if (newBackground) keyedFull_.forget();
+    const bool isKeyed = keyedFull_.restore(info_);
     // Until the full picture is done the enlarged preview stands in for it. With nobody to look it is left out, but
     // not where the key may give up and leave what it finds (a silhouette whose picture cannot be read).
-    if ((info_.pInterface && info_.pInterface->wantsPixels()) || info_.bOutputSilhouette) {
+    if (!isKeyed && ((info_.pInterface && info_.pInterface->wantsPixels()) || info_.bOutputSilhouette)) {
         BitmapContext& full = *combined.oBitmapRep;
         full.drawImage(combined.oBitmapRepLowRes->snapshot(), QRectF(0, 0, full.width(), full.height()));
     }
-    if (info_.pBackgroundBitmapInfo->bHiResScaleChange.exchange(false)) {
+    if (newBackground) {
         runStages(backgroundStages(), info_, kFullRes);
         // Not raised again: a background interrupted here stays as far as it got until it is scaled anew.
         if (info_.isStale()) return;
     }
-    runStages(fullStages(), info_, kFullRes);
+    if (!isKeyed) keyedFull_.make(fullStages().key, info_);
+    runStagesWhileCurrent(fullStages().finish, info_, kFullRes);
     if (info_.isStale()) return;
     info_.bShowLowRes = false;
     if (info_.pInterface) info_.pInterface->enableControls(true, info_.bLightroomActive);

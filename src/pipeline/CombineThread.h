@@ -7,6 +7,7 @@
 
 #include "core/image/ImageReader.h"
 #include "core/state/SystemInfo.h"
+#include "pipeline/KeyedPicture.h"
 
 namespace tavrin {
 
@@ -54,8 +55,10 @@ class CombineThread {
     void updateBackground();
     void makePreview();
     void makeFullPicture();
+    void forgetKeyed();
 
     SystemInfo& info_;
+    KeyedPicture keyedPreview_{kLowRes}, keyedFull_{kFullRes};
     std::vector<std::function<void()>> idleWork_;
     std::mutex postedMutex_;
     std::vector<std::function<void()>> posted_;

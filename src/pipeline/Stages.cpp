@@ -75,12 +75,14 @@ constexpr Stage kBackground[] = {
 
 // The two orders. What the preview leaves out (edges, skin, sketch) shows at full size only; texture, final blur and
 // smoothing of the result stand at different places, and moving them changes every picture that was ever saved.
-constexpr Stage kPreview[] = {
+constexpr Stage kPreviewKey[] = {
     {"hair", always, findHair},
     {"screen colour", needsScreenColour, measureScreen},
     {"combine", always, combine},
     {"stars", hasStars, drawStars},
     {"reflection", hasReflection, reflect},
+};
+constexpr Stage kPreviewFinish[] = {
     {"texture", hasTexture, addTexture},
     {"final blur", blursResult, blurResult},
     {"text Foreground", always, textForeground},
@@ -93,11 +95,13 @@ constexpr Stage kPreview[] = {
     {"smoothing of the result", smoothsResult, smoothResult},
 };
 
-constexpr Stage kFull[] = {
+constexpr Stage kFullKey[] = {
     {"combine", always, combine},
     {"reflection", hasReflection, reflect},
     {"edges", blendsEdges, blendEdges},
     {"stars", hasStars, drawStars},
+};
+constexpr Stage kFullFinish[] = {
     {"text Foreground", always, textForeground},
     {"foreground overlay", hasForegroundOverlay, overlayForeground},
     {"text Foreground Layer", always, textForegroundLayer},
@@ -131,11 +135,11 @@ std::span<const Stage> foregroundStages() {
 std::span<const Stage> backgroundStages() {
     return kBackground;
 }
-std::span<const Stage> previewStages() {
-    return kPreview;
+StageOrder previewStages() {
+    return {kPreviewKey, kPreviewFinish};
 }
-std::span<const Stage> fullStages() {
-    return kFull;
+StageOrder fullStages() {
+    return {kFullKey, kFullFinish};
 }
 std::span<const Stage> fastStages() {
     return kFast;
@@ -143,6 +147,13 @@ std::span<const Stage> fastStages() {
 
 void runStages(std::span<const Stage> stages, SystemInfo& info, int res) {
     for (const Stage& stage : stages) {
+        if (stage.when(info)) stage.run(info, res);
+    }
+}
+
+void runStagesWhileCurrent(std::span<const Stage> stages, SystemInfo& info, int res) {
+    for (const Stage& stage : stages) {
+        if (info.isStale()) return;
         if (stage.when(info)) stage.run(info, res);
     }
 }

@@ -16,18 +16,27 @@ struct Stage {
     void (*run)(SystemInfo&, int res);
 };
 
+/// The stages of the combined picture, in two parts. The picture after the first is kept from one pass to the next
+/// (KeyedPicture.h), so a setting that no stage of `key` reads redoes only `finish`.
+struct StageOrder {
+    std::span<const Stage> key;     ///< the key, and what belongs to the subject
+    std::span<const Stage> finish;  ///< what is laid over it, and what changes the whole
+};
+
 /// What changes the foreground after it was scaled; run at both resolutions in turn.
 std::span<const Stage> foregroundStages();
 /// What is laid on the background before the key, the same at both resolutions.
 std::span<const Stage> backgroundStages();
 /// The key and all that follows, for the preview and for the full picture. The orders differ on purpose.
-std::span<const Stage> previewStages();
-std::span<const Stage> fullStages();
+StageOrder previewStages();
+StageOrder fullStages();
 /// The shorter list of the synchronous path, full resolution.
 std::span<const Stage> fastStages();
 
 /// Runs the stages that are due, in order.
 void runStages(std::span<const Stage> stages, SystemInfo& info, int res);
+/// As above, but no further stage is begun when the state is stale: for pictures that the next pass makes anew.
+void runStagesWhileCurrent(std::span<const Stage> stages, SystemInfo& info, int res);
 
 /// The preset hair colours of the simple key panel win over what was detected.
 void applyHairPreset(SystemInfo& info);

@@ -116,6 +116,7 @@ TEST_F(CombineThreadTest, ANewerRequestStopsTheFullPicture) {
         asked = true;
         info_->StartUpdate();
     };
+    info_->pCombinedBitmapInfo->sliderWhiteAdjust = 45;
     info_->StartUpdate();
     EXPECT_EQ(loop.iterate(), CombineThread::Turn::worked);
     EXPECT_EQ(view_.fulls_, fulls);

@@ -7,30 +7,11 @@
 #include <limits>
 #include <string_view>
 
-#include "core/state/SystemInfo.h"
+#include "core/state/SettingObjects.h"
 
 namespace tavrin {
 
 namespace {
-
-/// Calls visit(prefix, object) for everything that has settings, in the order of the state file.
-template <class Info, class Visit>
-void visitObjects(Info& info, Visit&& visit) {
-    visit("", info, Settings::leaves());
-    visit("foreground.", *info.pForegroundBitmapInfo, LayerSettings::leaves());
-    visit("background.", *info.pBackgroundBitmapInfo, LayerSettings::leaves());
-    visit("combined.", *info.pCombinedBitmapInfo, LayerSettings::leaves());
-    for (std::size_t i = 0; i < info.oFontLabelObject.size(); ++i)
-        visit("label" + std::to_string(i) + ".", info.oFontLabelObject[i], FontObject::leaves());
-    for (std::size_t i = 0; i < info.oFontObject.size(); ++i)
-        visit("text" + std::to_string(i) + ".", info.oFontObject[i], FontObject::leaves());
-    visit("texture.", *info.oImageTexture, ImageTexture::leaves());
-    visit("frame.", *info.oFrame, ImageFrame::leaves());
-    visit("frame.texture.", info.oFrame->oTexture, ImageTexture::leaves());
-    visit("frameOverlay.", *info.oFrameOverlay, ImageFrame::leaves());
-    visit("frameOverlay.texture.", info.oFrameOverlay->oTexture, ImageTexture::leaves());
-    visit("reflectionTexture.", *info.oReflectionTexture, ImageTexture::leaves());
-}
 
 std::string lowerCase(std::string_view text) {
     std::string lower(text);

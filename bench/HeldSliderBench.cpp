@@ -1,0 +1,126 @@
+// A slider held and moved for ten seconds while the loop runs on its own thread: the longest time from a move to the
+// preview that shows it.
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include "BenchJob.h"
+#include "pipeline/CombineThread.h"
+
+namespace tavrin {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Milliseconds = std::chrono::duration<double, std::milli>;
+
+/// Times the road from each request to the first preview that includes it.
+class WaitingView : public Interface {
+  public:
+    explicit WaitingView(const SystemInfo& info) : info_(info) {}
+
+    /// Call just before `StartUpdate`; the request's number is the next one.
+    void asked(std::int32_t number) {
+        std::lock_guard lock(mutex_);
+        waiting_.push_back({number, Clock::now()});
+    }
+    void enableControls(bool enabled, bool) override {
+        if (!enabled) passBegan_ = Clock::now();
+    }
+    void repaint(const PublishedRows& rows) override {
+        if (!rows.lowRes) return;
+        const auto now = Clock::now();
+        ++previews;
+        longestPass = std::max(longestPass, Milliseconds(now - passBegan_));
+        std::lock_guard lock(mutex_);
+        const auto isShown = [&](const Request& r) { return r.number <= info_.iCurrentThreadCount; };
+        for (const Request& request : waiting_) {
+            if (!isShown(request)) continue;
+            longestWait = std::max(longestWait, Milliseconds(now - request.time));
+            longestStart = std::max(longestStart, Milliseconds(passBegan_ - request.time));
+        }
+        std::erase_if(waiting_, isShown);
+    }
+    bool isServed() {
+        std::lock_guard lock(mutex_);
+        return waiting_.empty();
+    }
+
+    int previews = 0;
+    Milliseconds longestWait{0}, longestStart{0}, longestPass{0};
+
+  private:
+    struct Request {
+        std::int32_t number;
+        Clock::time_point time;
+    };
+
+    const SystemInfo& info_;
+    Clock::time_point passBegan_ = Clock::now();  // of the loop's thread
+    std::mutex mutex_;
+    std::vector<Request> waiting_;
+};
+
+void waitUntilServed(WaitingView& view) {
+    while (!view.isServed())
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
+
+enum Slider { kKey, kKeyWithHair, kText, kScale };
+
+void move(SystemInfo& info, int slider, int step) {
+    if (slider == kText) {
+        info.oFontLabelObject[0].dFontFillRed = step % 100 / 100.0;
+    } else if (slider == kScale) {
+        info.pForegroundBitmapInfo->fScale = 1.0 + step % 100 / 500.0;
+        info.pForegroundBitmapInfo->bScaleChange = true;
+    } else {
+        info.pCombinedBitmapInfo->sliderWhiteAdjust = step % 100;
+    }
+}
+
+// The arguments are the threads and the slider; with one thread a core stays free for the hand. Moves come every 10
+// ms, but now and then the hand rests long enough for the full picture to begin.
+void heldSlider(benchmark::State& state) {
+    const ThreadLimit limit(static_cast<int>(state.range(0)));
+    const auto info = bench::newJob();
+    WaitingView view(*info);
+    info->pInterface = &view;
+    const int slider = static_cast<int>(state.range(1));
+    info->bAdvancedHairDetectionON = slider == kKeyWithHair;
+    info->iMacroHairColor = 6;
+    info->oFontLabelObject[0].sText = "Title";
+    ChangeImageSize(*info);
+    CombineThread loop(*info);
+    loop.runUntilIdle();
+    loop.StartMainThread();
+    for (auto _ : state) {
+        view.previews = 0;
+        view.longestWait = view.longestStart = view.longestPass = Milliseconds(0);
+        int step = 0;
+        const auto end = Clock::now() + std::chrono::seconds(10);
+        for (; Clock::now() < end; ++step) {
+            move(*info, slider, step);
+            view.asked(info->iNewThreadCount + 1);
+            info->StartUpdate();
+            std::this_thread::sleep_for(std::chrono::milliseconds(step % 50 == 0 ? 30 + step % 7 * 5 : 10));
+        }
+        waitUntilServed(view);
+        state.counters["moves"] = step;
+        state.counters["previews"] = view.previews;
+        state.counters["longestWaitMs"] = view.longestWait.count();
+        state.counters["longestUntilPassMs"] = view.longestStart.count();
+        state.counters["longestPassMs"] = view.longestPass.count();
+    }
+}
+
+BENCHMARK(heldSlider)
+    ->ArgsProduct({{1, 2}, {kKey, kKeyWithHair, kText, kScale}})
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+
+}  // namespace
+}  // namespace tavrin

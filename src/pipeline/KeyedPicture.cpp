@@ -1,0 +1,102 @@
+#include "pipeline/KeyedPicture.h"
+
+#include <cstring>
+
+#include "core/RandomSource.h"
+#include "pipeline/KeyInputs.h"
+
+namespace tavrin {
+
+namespace {
+
+bool isWanted(const SystemInfo& info) {
+    return info.pInterface && info.pInterface->wantsPixels();
+}
+
+// A file may change without any setting knowing.
+bool readsFile(const SystemInfo& info) {
+    return (info.bOutputSilhouette && !info.sSilhouetteFileName.empty()) ||
+           (info.bHaveReflection && info.oReflectionTexture->bHaveTexture);
+}
+
+std::uint8_t* combinedPixels(const SystemInfo& info, int res) {
+    const BitmapInfo& combined = *info.pCombinedBitmapInfo;
+    return res == kFullRes ? combined.pBitmapData : combined.pBitmapDataLowRes;
+}
+
+// A preview always ends; a full picture is given up for a newer request.
+RunContext contextOf(const SystemInfo& info, int res) {
+    return res == kFullRes ? info.rowsWhileCurrent() : RunContext();
+}
+void runAll(std::span<const Stage> stages, SystemInfo& info, int res) {
+    res == kFullRes ? runStagesWhileCurrent(stages, info, res) : runStages(stages, info, res);
+}
+
+}  // namespace
+
+bool KeyedPicture::restore(SystemInfo& info) {
+    std::uint8_t* combined = combinedPixels(info, res_);
+    if (!kept_ || !combined || !isWanted(info) || !info.pCombinedBitmapInfo->bHaveBaseGreen) return false;
+    if (keyInputs(info) != inputs_ || keyFindings(info) != findings_) return false;
+    runCopy(contextOf(info, res_), pixels_.data(), combined);
+    // Skin smoothing has since measured the skin in a way of its own.
+    if (res_ == kLowRes && info.bAdvancedHairDetectionON) static_cast<SkinColor&>(info) = skin_;
+    return true;
+}
+
+void KeyedPicture::make(std::span<const Stage> stages, SystemInfo& info) {
+    if (!isWanted(info)) {
+        release();
+        return runAll(stages, info, res_);
+    }
+    kept_ = false;
+    const std::string before = inputs_, found = keyFindings(info);
+    inputs_ = keyInputs(info);
+    const std::uint64_t seed = upcomingRandomSeed();
+    runAll(stages, info, res_);
+    // A setting that changed meanwhile is in a part of the rows only, even if it has changed back.
+    if (info.isStale() || keyInputs(info) != inputs_) return forget();
+    findings_ = keyFindings(info);
+
+    // Another run has to give the same picture again. Each has random numbers of its own; the search for hair starts
+    // from the screen's colour that it finds; and the reflection's red line stays on the background of the preview.
+    const bool repeats = upcomingRandomSeed() == seed && !readsFile(info) &&
+                         (!info.bAdvancedHairDetectionON || findings_ == found) &&
+                         (res_ == kFullRes || !info.bHaveReflection || inputs_ == before);
+    kept_ = repeats && keep(info);
+}
+
+bool KeyedPicture::keep(SystemInfo& info) {
+    const PassGeometry size = info.geometry(res_);
+    const std::uint8_t* combined = combinedPixels(info, res_);
+    if (!combined || size.width < 1 || size.height < 1) return false;
+    if (!pixels_.data() || size.width != width_ || size.height != height_) {
+        pixels_ = PixelBuffer();
+        pixels_ = PixelBuffer(size.width, size.height);
+        width_ = size.width;
+        height_ = size.height;
+    }
+    if (!pixels_.data()) return false;  // no memory: each pass keys
+    skin_ = info;
+    runCopy(contextOf(info, res_), combined, pixels_.data());
+    return !info.isStale();
+}
+
+void KeyedPicture::runCopy(const RunContext& context, const std::uint8_t* from, std::uint8_t* to) const {
+    runRows(context, height_, 32, [&](int y) {
+        const std::size_t row = pixelOffset(width_, 0, y);
+        std::memcpy(to + row, from + row, pixelBytes(width_, 1));
+    });
+}
+
+void KeyedPicture::forget() {
+    kept_ = false;
+    inputs_.clear();
+}
+
+void KeyedPicture::release() {
+    forget();
+    pixels_ = PixelBuffer();
+}
+
+}  // namespace tavrin
