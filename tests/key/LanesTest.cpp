@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
-#include <hwy/targets.h>
 
 #include "key/CombineRow.h"
 #include "key/KeyScene.h"
+#include "support/VectorTargets.h"
 
 namespace tavrin {
 namespace {
@@ -28,23 +28,9 @@ std::vector<Pixel> written(const KeyScene& original, RowForm form) {
     return scene.combined;
 }
 
-std::vector<std::int64_t> targets() {
-    hwy::SetSupportedTargetsForTest(0);
-    std::vector<std::int64_t> found;
-    for (std::int64_t left = hwy::SupportedTargets(); left != 0; left &= left - 1)
-        found.push_back(left & -left);
-    return found;
-}
-
 void expectOneResult(const KeyScene& scene, const char* what) {
     const std::vector<Pixel> plain = written(scene, combineRowPlain);
-    for (const std::int64_t target : targets()) {
-        hwy::SetSupportedTargetsForTest(target);
-        hwy::GetChosenTarget().Update(target);
-        EXPECT_TRUE(written(scene, combineRow) == plain) << what << ", target " << hwy::TargetName(target);
-    }
-    hwy::SetSupportedTargetsForTest(0);
-    hwy::GetChosenTarget().Update(hwy::SupportedTargets());
+    test::onEveryTarget([&] { EXPECT_TRUE(written(scene, combineRow) == plain) << what; });
 }
 
 struct Variant {
