@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
-#include <utility>
 
 // This file is compiled once for each vector target.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "effects/SmoothingTiles.cpp"
 #include <hwy/foreach_target.h>
 
+#include "core/raster/TurnLanes-inl.h"
 #include "key/Lanes-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -133,58 +133,18 @@ class LineSolver {
 };
 
 // Makes a tile's rows its columns.
-#if HWY_TARGET == HWY_SCALAR
-void turnTile(float* tile) {
-    for (int y = 0; y < kSide; ++y) {
-        for (int x = 0; x < y; ++x) {
-            for (int c = 0; c < kChannels; ++c)
-                std::swap(tile[y * kLine + c * kSide + x], tile[x * kLine + c * kSide + y]);
-        }
-    }
-}
-#else
-using Quad = hn::Simd<float, 4, 0>;
-
-// Four lines of four numbers, turned over.
-struct Block {
-    hn::Vec<Quad> a, b, c, d;
-
-    HWY_INLINE static Block load(const float* from) {
-        const Quad quad;
-        return {hn::LoadU(quad, from), hn::LoadU(quad, from + kLine), hn::LoadU(quad, from + 2 * kLine),
-                hn::LoadU(quad, from + 3 * kLine)};
-    }
-    HWY_INLINE Block turned() const {
-        const Quad quad;
-        const hn::RepartitionToWide<Quad> pairs;
-        const auto pair = [&](auto v) HWY_ATTR { return hn::BitCast(pairs, v); };
-        const auto ab = hn::InterleaveLower(quad, a, b), cd = hn::InterleaveLower(quad, c, d);
-        const auto abUpper = hn::InterleaveUpper(quad, a, b), cdUpper = hn::InterleaveUpper(quad, c, d);
-        return {hn::BitCast(quad, hn::InterleaveLower(pairs, pair(ab), pair(cd))),
-                hn::BitCast(quad, hn::InterleaveUpper(pairs, pair(ab), pair(cd))),
-                hn::BitCast(quad, hn::InterleaveLower(pairs, pair(abUpper), pair(cdUpper))),
-                hn::BitCast(quad, hn::InterleaveUpper(pairs, pair(abUpper), pair(cdUpper)))};
-    }
-    HWY_INLINE void store(float* to) const {
-        const Quad quad;
-        hn::StoreU(a, quad, to);
-        hn::StoreU(b, quad, to + kLine);
-        hn::StoreU(c, quad, to + 2 * kLine);
-        hn::StoreU(d, quad, to + 3 * kLine);
-    }
-};
-
 HWY_INLINE void turnTile(float* tile) {
+    constexpr int kHalf = kSide / 2;
+    static_assert(kHalf == 4);
     for (int c = 0; c < kChannels; ++c, tile += kSide) {
-        float *right = tile + kSide / 2, *below = tile + kLine * (kSide / 2);
-        const Block upperRight = Block::load(right).turned(), lowerLeft = Block::load(below).turned();
-        Block::load(tile).turned().store(tile);
-        Block::load(below + kSide / 2).turned().store(below + kSide / 2);
-        lowerLeft.store(right);
-        upperRight.store(below);
+        float *right = tile + kHalf, *below = tile + kLine * kHalf, *across = below + kHalf;
+        const WordBlock upperRight = WordBlock::load(right, kLine), lowerLeft = WordBlock::load(below, kLine);
+        WordBlock::load(tile, kLine).turned().store(tile, kLine);
+        WordBlock::load(across, kLine).turned().store(across, kLine);
+        lowerLeft.turned().store(right, kLine);
+        upperRight.turned().store(below, kLine);
     }
 }
-#endif
 
 void turnTileRow(const SmoothingTiles& tiles, int tileRow) {
     for (int column = 0; column < tiles.tileColumns(); ++column)
