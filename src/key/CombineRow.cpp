@@ -119,13 +119,25 @@ class RowWorker {
             std::memcpy(gain_, light.values + offset_ / kPixelBytes, bytes_);
         }
         if (!params_.finish.backgroundTone.active) return;
+        const bool curved = !params_.finish.backgroundLevels.empty();
         for (int i = 0; i < run_.count; i += lanes()) {
-            const Colors c = finish_.shiftedBackground(hn::Load(WordTag<D>(), run_.background + i));
+            if (curved && hn::AllTrue(d_, hn::Ge(hn::Load(d_, run_.alpha + i), hn::Set(d_, 1.0)))) continue;
+            Colors c = finish_.shiftedBackground(hn::Load(WordTag<D>(), run_.background + i));
+            if (curved) c = finish_.curvedBackground(c, backgroundLight(i));
             hn::Store(c.r, d_, behind_.r + i);
             hn::Store(c.g, d_, behind_.g + i);
             hn::Store(c.b, d_, behind_.b + i);
         }
-        adjustBackground(params_.finish, run_, gain_, behind_);
+        if (!curved) adjustBackground(params_.finish, run_, gain_, behind_);
+    }
+
+    // The factor of the light that falls on the background.
+    V backgroundLight(int i) const {
+        const LightMap& light = params_.finish.light;
+        const V one = hn::Set(d_, 1.0);
+        if (!light.values || !light.onBackground) return one;
+        const V gain = hn::PromoteTo(d_, hn::Load(WordTag<D>(), gain_ + i));
+        return hn::Add(one, hn::Div(gain, hn::Set(d_, 1000.0)));
     }
 
     Colors backgroundAt(int i, hn::Vec<WordTag<D>> pixels) const {

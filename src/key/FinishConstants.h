@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "core/raster/ColorMath.h"
 #include "key/ToneChain.h"
@@ -38,6 +39,9 @@ struct LightMap {
 struct FinishConstants {
     bool blueLogic = false;
     ToneConstants foregroundTone, backgroundTone;
+    /// What the background's curve makes of each whole level, if that is all that its chain does to colours of whole
+    /// channels; else empty.
+    std::vector<double> backgroundLevels;
     WhiteAdjust white;
     int foregroundMode = 0, backgroundMode = 0;
     SilhouetteFill silhouette;

@@ -48,6 +48,27 @@ class FinishLanes {
                      finish_.backgroundDelta);
     }
 
+    // A shifted background colour after the curve of its tone and its light, as `adjustTone` has it.
+    HWY_INLINE Colors curvedBackground(const Colors& c, V light) const {
+        const V m = largestLanes<D>(c), zero = hn::Zero(d_);
+        const auto whole = hn::PromoteTo(hn::RebindToSigned<D>(), hn::DemoteTo(WordTag<D>(), m));
+        const V level = hn::GatherIndex(d_, finish_.backgroundLevels.data(), whole);
+        const V toned = hn::Set(d_, finish_.backgroundTone.floor);
+        const V lifted = hn::Add(toned, hn::Mul(hn::Sub(level, m), hn::Set(d_, 0.6)));
+        V floor = hn::IfThenElse(hn::Gt(level, m), lifted, toned);
+        floor = hn::IfThenElse(hn::Lt(hn::Sub(level, floor), zero), level, floor);
+        const V range = hn::Sub(level, floor);
+        const auto moved = [&](V channel) HWY_ATTR {
+            return hn::Mul(hn::Add(floor, hn::Div(hn::Mul(channel, range), m)), light);
+        };
+        // Black takes the level, and no light.
+        Colors out = chooseLanes(d_, hn::Gt(m, zero), {moved(c.r), moved(c.g), moved(c.b)}, {level, level, level});
+        limitChannelLanes(d_, out.r, out.g, out.b);
+        limitChannelLanes(d_, out.g, out.r, out.b);
+        limitChannelLanes(d_, out.b, out.r, out.g);
+        return out;
+    }
+
     // The background's colour after its tone: colour mode, then roles.
     HWY_INLINE Colors background(const Colors& c) const { return swapRoles(applyMode(finish_.backgroundMode, c)); }
 

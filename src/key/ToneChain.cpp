@@ -61,15 +61,6 @@ bool isGreenLed(const Rgb& c) {
     return c.g > c.r && c.g > c.b;
 }
 
-// The level to which the largest channel `m` moves, 0 to 300.
-double toneCurve(const ToneConstants& tone, double m) {
-    const double lifted = m < 128.0 ? (1.0 - std::exp(tone.shadowRate * m)) * 128.0 / tone.shadowNorm : m;
-    double level = tone.gain * (lifted + tone.brightness - 128.0) / 50.0 + 128.0;
-    if (level > 160.0) level = (level - 160.0) * tone.highlights + 160.0;
-    if (level > 192.0) level = (level - 192.0) * tone.highlights + 192.0;
-    return clampTo(level, 0.0, 300.0);
-}
-
 // Moves the colour so that its largest channel `m` lies at `level`.
 void applyLevel(const ToneConstants& tone, Rgb& c, double m, double level) {
     double floor = tone.floor;
@@ -99,6 +90,14 @@ void sharpenTone(const ToneConstants& tone, Rgb& c, int x, int y) {
                     clampTo(c.g + (c.g - mean.g) * tone.sharpen / 50.0, 0.0, 255.0),
                     clampTo(c.b + (c.b - mean.b) * tone.sharpen / 50.0, 0.0, 255.0)};
     if (sharp.r + sharp.g + sharp.b > 80.0 && !(isGreenLed(c) && !isGreenLed(sharp))) c = sharp;
+}
+
+double toneCurve(const ToneConstants& tone, double m) {
+    const double lifted = m < 128.0 ? (1.0 - std::exp(tone.shadowRate * m)) * 128.0 / tone.shadowNorm : m;
+    double level = tone.gain * (lifted + tone.brightness - 128.0) / 50.0 + 128.0;
+    if (level > 160.0) level = (level - 160.0) * tone.highlights + 160.0;
+    if (level > 192.0) level = (level - 192.0) * tone.highlights + 192.0;
+    return clampTo(level, 0.0, 300.0);
 }
 
 bool curveTone(const ToneConstants& tone, Rgb& c) {
