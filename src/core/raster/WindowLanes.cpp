@@ -30,14 +30,15 @@ class SlidingLanes {
           moments_(static_cast<std::size_t>(lines.lanes) * kMoments, 0.0) {}
 
     void run() {
-        for (int x = 1; x <= std::min(reach_, lines_.count - 1); ++x)
-            overLanes([&](auto d, int lane) HWY_ATTR { meet(d, lane, x); });
-        for (int x = 0; x < lines_.count; ++x) {
+        const int count = lines_.count;
+        for (int x = 1; x <= std::min(reach_, count - 1); ++x)
+            meet(x);
+        for (int x = 0; x < count; ++x) {
             // Most of a line has samples all around.
-            if (x >= reach_ && x + 1 + reach_ < lines_.count) {
-                overLanes([&](auto d, int lane) HWY_ATTR { step<true>(d, lane, x); });
+            if (x >= reach_ && x + 1 + reach_ < count) {
+                step<true>(x);
             } else {
-                overLanes([&](auto d, int lane) HWY_ATTR { step<false>(d, lane, x); });
+                step<false>(x);
             }
         }
     }
@@ -45,88 +46,100 @@ class SlidingLanes {
   private:
     // The lanes that fill no vector go one by one.
     template <class Work>
-    HWY_INLINE void overLanes(const Work& work) const {
+    HWY_INLINE static void overLanes(int lanes, const Work& work) {
         const HWY_CAPPED(double, 8) wide;
         const HWY_CAPPED(double, 1) one;
         const int width = static_cast<int>(hn::Lanes(wide));
         int lane = 0;
-        for (; lane + width <= lines_.lanes; lane += width)
+        for (; lane + width <= lanes; lane += width)
             work(wide, lane);
-        for (; lane < lines_.lanes; ++lane)
+        for (; lane < lanes; ++lane)
             work(one, lane);
     }
 
-    template <class D>
-    HWY_INLINE hn::Vec<D> sample(D d, int x, int lane) const {
-        const hn::Rebind<Sample, D> samples;
-        const hn::Rebind<std::int32_t, D> words;
-        return hn::PromoteTo(d, hn::PromoteTo(words, hn::LoadU(samples, lines_.first + x * lines_.step + lane)));
+    // Null beyond the ends of the lines.
+    const Sample* samplesAt(std::int64_t x) const {
+        return x >= 0 && x < lines_.count ? lines_.first + x * lines_.step : nullptr;
     }
 
     template <class D>
-    HWY_INLINE void write(D, int x, int lane, hn::Vec<D> mean) const {
-        const hn::Rebind<Sample, D> samples;
-        const hn::Rebind<std::int32_t, D> words;
-        const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(x) * lines_.lanes + lane;
-        hn::StoreU(hn::DemoteTo(samples, hn::DemoteTo(words, mean)), samples, means_ + at);
+    HWY_INLINE static hn::Vec<D> load(D d, const Sample* from) {
+        return hn::PromoteTo(d,
+                             hn::PromoteTo(hn::Rebind<std::int32_t, D>(), hn::LoadU(hn::Rebind<Sample, D>(), from)));
     }
 
-    double* moment(int which, int lane) { return moments_.data() + which * lines_.lanes + lane; }
+    template <class D>
+    HWY_INLINE static void write(D, hn::Vec<D> mean, Sample* to) {
+        const hn::Rebind<Sample, D> samples;
+        hn::StoreU(hn::DemoteTo(samples, hn::DemoteTo(hn::Rebind<std::int32_t, D>(), mean)), samples, to);
+    }
 
     // A sample that lies on the right from the start.
-    template <class D>
-    HWY_INLINE void meet(D d, int lane, int x) {
-        const auto v = sample(d, x, lane), k = hn::Set(d, static_cast<double>(reach_ - x));
-        double *m0 = moment(3, lane), *m1 = moment(4, lane), *m2 = moment(5, lane);
-        hn::StoreU(hn::Add(hn::LoadU(d, m0), v), d, m0);
-        hn::StoreU(hn::Add(hn::LoadU(d, m1), hn::Mul(k, v)), d, m1);
-        hn::StoreU(hn::Add(hn::LoadU(d, m2), hn::Mul(hn::Mul(k, k), v)), d, m2);
+    void meet(int x) {
+        const Sample* const samples = samplesAt(x);
+        const int lanes = lines_.lanes;
+        const double distance = reach_ - x;
+        double* const right = moments_.data() + 3 * lanes;
+        overLanes(lanes, [=](auto d, int lane) HWY_ATTR {
+            const auto v = load(d, samples + lane), k = hn::Set(d, distance);
+            double *m0 = right + lane, *m1 = m0 + lanes, *m2 = m1 + lanes;
+            hn::StoreU(hn::Add(hn::LoadU(d, m0), v), d, m0);
+            hn::StoreU(hn::Add(hn::LoadU(d, m1), hn::Mul(k, v)), d, m1);
+            hn::StoreU(hn::Add(hn::LoadU(d, m2), hn::Mul(hn::Mul(k, k), v)), d, m2);
+        });
     }
 
     // The mean at x, and the step of both sides to x + 1.
-    template <bool kInside, class D>
-    HWY_INLINE void step(D d, int lane, int x) {
-        const auto nearest = hn::Set(d, reach_ - 1.0), nearestSquare = hn::Set(d, (reach_ - 1.0) * (reach_ - 1.0));
-        const auto v = sample(d, x, lane);
-        auto left0 = hn::LoadU(d, moment(0, lane)), left1 = hn::LoadU(d, moment(1, lane)),
-             left2 = hn::LoadU(d, moment(2, lane)), right0 = hn::LoadU(d, moment(3, lane)),
-             right1 = hn::LoadU(d, moment(4, lane)), right2 = hn::LoadU(d, moment(5, lane));
+    template <bool kInside>
+    void step(int x) {
+        const int lanes = lines_.lanes;
+        const Sample *const own = samplesAt(x), *const leaving = samplesAt(x - reach_),
+                            *const next = samplesAt(x + 1), *const entering = samplesAt(std::int64_t{x} + 1 + reach_);
+        double* const moments = moments_.data();
+        Sample* const means = means_ + static_cast<std::ptrdiff_t>(x) * lanes;
+        const double reach = reach_, weight = static_cast<double>(weights_[static_cast<std::size_t>(x)]);
+        overLanes(lanes, [=](auto d, int lane) HWY_ATTR {
+            const auto nearest = hn::Set(d, reach - 1.0), nearestSquare = hn::Set(d, (reach - 1.0) * (reach - 1.0));
+            double *const m0 = moments + lane, *const m1 = m0 + lanes, *const m2 = m1 + lanes;
+            double *const n0 = m2 + lanes, *const n1 = n0 + lanes, *const n2 = n1 + lanes;
+            auto left0 = hn::LoadU(d, m0), left1 = hn::LoadU(d, m1), left2 = hn::LoadU(d, m2);
+            auto right0 = hn::LoadU(d, n0), right1 = hn::LoadU(d, n1), right2 = hn::LoadU(d, n2);
 
-        const auto centre = hn::Mul(hn::Set(d, static_cast<double>(reach_) * reach_), v);
-        const auto sum = hn::Add(hn::Add(hn::Add(left0, left2), hn::Add(right0, right2)), centre);
-        write(d, x, lane, hn::Div(sum, hn::Set(d, static_cast<double>(weights_[static_cast<std::size_t>(x)]))));
+            const auto v = load(d, own + lane), centre = hn::Mul(hn::Set(d, reach * reach), v);
+            const auto sum = hn::Add(hn::Add(hn::Add(left0, left2), hn::Add(right0, right2)), centre);
+            write(d, hn::Div(sum, hn::Set(d, weight)), means + lane);
 
-        // The farthest on the left has come to k = 0 and leaves, the others move away, and the centre follows them.
-        if (kInside || x >= reach_) left0 = hn::Sub(left0, sample(d, x - reach_, lane));
-        left2 = hn::Add(hn::Sub(left2, hn::Add(left1, left1)), left0);
-        left1 = hn::Add(hn::Sub(left1, left0), hn::Mul(nearest, v));
-        left2 = hn::Add(left2, hn::Mul(nearestSquare, v));
-        left0 = hn::Add(left0, v);
-        // On the right the nearest becomes the centre, the others move nearer, and one enters at k = 0.
-        if (kInside || x + 1 < lines_.count) {
-            const auto next = sample(d, x + 1, lane);
-            right0 = hn::Sub(right0, next);
-            right1 = hn::Sub(right1, hn::Mul(nearest, next));
-            right2 = hn::Sub(right2, hn::Mul(nearestSquare, next));
-        }
-        right2 = hn::Add(right2, hn::Add(hn::Add(right1, right1), right0));
-        right1 = hn::Add(right1, right0);
-        if (kInside || std::int64_t{x} + 1 + reach_ < lines_.count)
-            right0 = hn::Add(right0, sample(d, x + 1 + reach_, lane));
+            // The farthest on the left has come to k = 0 and leaves, the others move away, and the centre follows.
+            if (kInside || leaving) left0 = hn::Sub(left0, load(d, leaving + lane));
+            left2 = hn::Add(hn::Sub(left2, hn::Add(left1, left1)), left0);
+            left1 = hn::Add(hn::Sub(left1, left0), hn::Mul(nearest, v));
+            left2 = hn::Add(left2, hn::Mul(nearestSquare, v));
+            left0 = hn::Add(left0, v);
+            // On the right the nearest becomes the centre, the others move nearer, and one enters at k = 0.
+            if (kInside || next) {
+                const auto gone = load(d, next + lane);
+                right0 = hn::Sub(right0, gone);
+                right1 = hn::Sub(right1, hn::Mul(nearest, gone));
+                right2 = hn::Sub(right2, hn::Mul(nearestSquare, gone));
+            }
+            right2 = hn::Add(right2, hn::Add(hn::Add(right1, right1), right0));
+            right1 = hn::Add(right1, right0);
+            if (kInside || entering) right0 = hn::Add(right0, load(d, entering + lane));
 
-        hn::StoreU(left0, d, moment(0, lane));
-        hn::StoreU(left1, d, moment(1, lane));
-        hn::StoreU(left2, d, moment(2, lane));
-        hn::StoreU(right0, d, moment(3, lane));
-        hn::StoreU(right1, d, moment(4, lane));
-        hn::StoreU(right2, d, moment(5, lane));
+            hn::StoreU(left0, d, m0);
+            hn::StoreU(left1, d, m1);
+            hn::StoreU(left2, d, m2);
+            hn::StoreU(right0, d, n0);
+            hn::StoreU(right1, d, n1);
+            hn::StoreU(right2, d, n2);
+        });
     }
 
     const SampleLines<Sample>& lines_;
     int reach_;
     const std::vector<std::uint64_t>& weights_;
     Sample* means_;
-    std::vector<double> moments_;
+    std::vector<double> moments_;  // of the left and of the right side, each for all lanes
 };
 
 void slideBytes(const SampleLines<std::uint8_t>& lines, int reach, const std::vector<std::uint64_t>& weights,
