@@ -13,7 +13,7 @@ namespace tavrin {
 /// `rgba` has the geometry of the resolution (`hiRes` 0 preview, otherwise full) and is changed in place; alpha
 /// stays. `iGlobalSmoothingLambda` is the strength: it sets how much of a step still counts as texture, and with the
 /// DPI how far the smoothing reaches, so that both resolutions look alike. 0 changes nothing. A superseded run ends
-/// within a line of each core and writes what it has got.
+/// within eight lines of each core and writes what it has got.
 void FastGlobalImageSmoothing(SystemInfo& info, int ignored, std::uint8_t* rgba, int hiRes);
 
 /// The smoother on a picture from `memAllocFloat3(height, width, 3)`, channels on the 0 to 255 scale, in place.

@@ -31,6 +31,14 @@ void makeScreen(const SystemInfo& info, bool local, KeyConstants& key) {
     layOutColumns(screen, key.width);
 }
 
+std::vector<double> curveOfLevels(const ToneConstants& tone) {
+    std::vector<double> levels;
+    if (!tone.active) return levels;
+    for (int level = 0; level < 256; ++level)
+        levels.push_back(toneCurve(tone, level));
+    return levels;
+}
+
 FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) {
     const BitmapInfo &foreground = *info.pForegroundBitmapInfo, &background = *info.pBackgroundBitmapInfo;
     const auto [width, height] = params.size;
@@ -54,6 +62,7 @@ FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) 
     finish.light.byAlpha = applyTo == 1;
     // A background that may take the light goes through its chain even when all its settings are neutral.
     finish.backgroundTone.active = finish.backgroundTone.active || finish.light.onBackground;
+    finish.backgroundLevels = curveOfLevels(finish.backgroundTone);
     const Rgb& delta = finish.backgroundDelta;
     const bool coloured = finish.backgroundMode != kModeGrey && finish.backgroundMode != kModeSepia;
     finish.plainBackground = !finish.backgroundTone.active && lightingMode == 0 && coloured && delta.r == 0.0 &&

@@ -230,8 +230,9 @@ class KeyLanes {
                               hn::Sub(hn::Set(d_, 1.0), ratio));
     }
 
-    HWY_INLINE V mixedAlpha(M mixed, const Colors& f, const Colors& screen) const {
-        const V found = AlphaSearch<D>(d_, f, screen, key_.search).find(mixed);
+    // For `floor` see `AlphaSearch::find`.
+    HWY_INLINE V mixedAlpha(M mixed, const Colors& f, const Colors& screen, double floor = 0.0) const {
+        const V found = AlphaSearch<D>(d_, f, screen, key_.search).find(mixed, floor);
         // No bound moves a whole subject.
         if (hn::AllTrue(d_, hn::Eq(found, hn::Set(d_, 1.0)))) return found;
         const V red = alphaBound(f.r, screen.r, key_.k), green = alphaBound(f.g, screen.g, 1.0);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "core/raster/ColorMath.h"
 #include "key/ToneChain.h"
@@ -38,6 +39,8 @@ struct LightMap {
 struct FinishConstants {
     bool blueLogic = false;
     ToneConstants foregroundTone, backgroundTone;
+    /// What the background's curve makes of each level from 0 to 255; empty where that tone is off.
+    std::vector<double> backgroundLevels;
     WhiteAdjust white;
     int foregroundMode = 0, backgroundMode = 0;
     SilhouetteFill silhouette;

@@ -63,7 +63,7 @@ void adjustBackground(D d, const FinishConstants& finish, const KeyedRun& run, c
                       LayerColors& colors) {
     const bool lit = finish.light.values && finish.light.onBackground;
     const auto one = hn::Set(d, 1.0);
-    RunTone<D> tone(d, finish.backgroundTone, {run.x, run.y, run.count});
+    RunTone<D> tone(d, finish.backgroundTone, {run.x, run.y, run.count}, finish.backgroundLevels.data());
     for (int i = 0; i < run.count; i += static_cast<int>(hn::Lanes(d))) {
         if (hn::AllFalse(d, hn::Lt(hn::Load(d, run.alpha + i), one))) continue;
         auto light = one;

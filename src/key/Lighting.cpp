@@ -1,13 +1,13 @@
 #include "key/Lighting.h"
 
 #include <algorithm>
-#include <memory>
 #include <new>
 
 #include "core/Log.h"
 #include "core/raster/BoxBlur.h"
 #include "core/raster/Pixels.h"
 #include "key/ChannelRoles.h"
+#include "key/GlowRow.h"
 #include "key/LightingShapes.h"
 #include "key/SpillKey.h"
 
@@ -15,43 +15,28 @@ namespace tavrin {
 
 namespace {
 
-constexpr double kScreenDistance = 4.0;  // nearer than this to the screen colour, a pixel is screen
-constexpr double kSolid = 0.9;           // above this amount, a pixel is the subject
+// The foreground in roles.
+Rgb rawColor(const GlowParams& params, int x, int y) {
+    const std::uint8_t* p = params.hair.pixels + pixelOffset(params.hair.width, x, y);
+    const ChannelRoles roles(params.key.blueLogic);
+    return {static_cast<double>(p[0]), static_cast<double>(p[roles.green]), static_cast<double>(p[roles.blue])};
+}
 
-// The foreground in roles, as the glow's key looks at it.
-struct GlowSource {
-    const SpillKey& key;
-    Rgb screen;
-    ChannelRoles roles;
-
-    Rgb colorAt(int x, int y) const {
-        const std::uint8_t* p = key.pFOrg + pixelOffset(key.iWidth, x, y);
-        return {static_cast<double>(p[0]), static_cast<double>(p[roles.green]), static_cast<double>(p[roles.blue])};
-    }
-    bool isScreen(const Rgb& c) const { return distance(c, screen) < kScreenDistance; }
-
-    // The pixel of the key's first call, counted in scan order.
-    std::int64_t firstKeyed() const {
-        for (int y = 0; y < key.iHeight; ++y) {
-            for (int x = 0; x < key.iWidth; ++x) {
-                if (!isScreen(colorAt(x, y))) return std::int64_t{y} * key.iWidth + x;
-            }
+// The pixel of the key's first call, counted in scan order; -1 where all is screen.
+std::int64_t firstKeyed(const GlowParams& params, const SpillKey& key) {
+    for (int y = 0; y < key.iHeight; ++y) {
+        for (int x = 0; x < key.iWidth; ++x) {
+            if (!(distance(rawColor(params, x, y), params.screen) < GlowParams::kScreenDistance))
+                return std::int64_t{y} * key.iWidth + x;
         }
-        return -1;
     }
-};
+    return -1;
+}
 
-void glowRow(const GlowSource& source, std::int64_t firstKeyed, std::int32_t gain, std::int32_t* row, int y) {
-    const std::int64_t before = std::int64_t{y} * source.key.iWidth;
-    for (int x = 0; x < source.key.iWidth; ++x) {
-        const Rgb c = source.colorAt(x, y);
-        if (source.isScreen(c)) {
-            row[x] = 0;
-            continue;
-        }
-        const SpillCall call = before + x == firstKeyed ? SpillCall::kFirst : SpillCall::kLater;
-        if (source.key.amountAt(x, y, c, call) > kSolid) row[x] = gain;
-    }
+// The cell of that pixel, which held `before`.
+std::int32_t glowOfFirst(const SpillKey& key, const GlowParams& params, int x, int y, std::int32_t before) {
+    const double amount = key.amountAt(x, y, rawColor(params, x, y), SpillCall::kFirst);
+    return amount > GlowParams::kSolid ? params.gain : before;
 }
 
 }  // namespace
@@ -77,13 +62,20 @@ void EffectsLightingGlow(SystemInfo& info, std::int32_t* map, int width, int hei
     if (!map || layers.width != width || layers.height != height) return;
     const SpillKey key(info, layers);
     if (!key.isReady()) return;
-    const GlowSource source{key, {info.baseRed, info.baseGreen, info.baseBlue}, ChannelRoles(info.bUseBlueLogic)};
-    const std::int32_t gain = toGain(info.iLightingSliderEndLight * 50.0 - 2500.0);
+    const GlowParams params{key.constants(),
+                            key.hair(),
+                            {info.baseRed, info.baseGreen, info.baseBlue},
+                            toGain(info.iLightingSliderEndLight * 50.0 - 2500.0)};
     const std::int64_t radius = std::int64_t{info.iLightingSliderSize} * height / 800;
 
-    const std::int64_t firstKeyed = source.firstKeyed();
+    const std::int64_t first = firstKeyed(params, key);
     const bool finished = runRows(info.rowsWhileWanted(), height, 8, [&](int y) {
-        glowRow(source, firstKeyed, gain, map + static_cast<std::size_t>(y) * static_cast<std::size_t>(width), y);
+        std::int32_t* row = map + static_cast<std::ptrdiff_t>(y) * width;
+        const std::int64_t x = first - std::int64_t{y} * width;
+        const bool hasFirst = x >= 0 && x < width;
+        const std::int32_t before = hasFirst ? row[x] : 0;
+        glowRow(params, y, row);
+        if (hasFirst) row[x] = glowOfFirst(key, params, static_cast<int>(x), y, before);
     });
     if (finished) blurMap(nullptr, map, width, height, static_cast<int>(std::min(radius, kFarAway)));
 }
@@ -115,11 +107,14 @@ double sliderGain(const Field<std::int32_t>& slider) {
 }
 
 void blurMap(const SystemInfo* info, std::int32_t* map, int width, int height, int radius) {
-    const std::size_t cells = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    std::unique_ptr<std::int32_t[]> soft(new (std::nothrow) std::int32_t[cells]);
-    if (!soft) return logError("Memory not allocated!");
-    gaussBlur_Int(info, map, soft.get(), width, height, radius);
-    std::copy_n(soft.get(), cells, map);
+    const PixelBuffer buffer(width, height);
+    if (!buffer.data()) return logError("Memory not allocated!");
+    auto* const soft = reinterpret_cast<std::int32_t*>(buffer.data());
+    gaussBlur_Int(info, map, soft, width, height, radius);
+    runRows({}, height, 16, [&](int y) {
+        const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(y) * width;
+        std::copy_n(soft + row, width, map + row);
+    });
 }
 
 void softenShape(const SystemInfo& info, std::int32_t* map, int width, int height, int hiRes) {

@@ -11,11 +11,7 @@ namespace tavrin {
 namespace {
 
 constexpr double kRemoveGreenAreas = 40.0;  // fixed, where the key of whole pictures has a slider
-constexpr double kDarkAreasOfHair = 120.0;  // what a dark, busy place is keyed with
-constexpr double kDarkGreen = 127.0;        // from here on a pixel is not dark
 constexpr double kShownAsIs = 255.0;        // amount of a pixel that is not keyed
-constexpr int kTextureRadius = 2;           // hair shows in a square of 5 x 5 pixels
-constexpr int kTexturePixels = 25;
 
 // How far a colour is from grey, seen from green.
 double chromaOf(const Rgb& f) {
@@ -67,8 +63,8 @@ SpillKey::SpillKey(const SystemInfo& info, const SpillLayers& layers)
       iWidth(std::max(layers.width, 0)),
       iHeight(std::max(layers.height, 0)),
       key_(makeKeyConstants(info, {iWidth, iHeight}, true)),
-      sliderRestoredDarkAreasSlider_(info.pCombinedBitmapInfo->sliderRestoredDarkAreas),
-      sliderProtectHair_(info.pCombinedBitmapInfo->sliderRemoveGreenAreas),
+      hair_{pFOrg, iWidth, iHeight, static_cast<double>(info.pCombinedBitmapInfo->sliderRestoredDarkAreas),
+            static_cast<double>(info.pCombinedBitmapInfo->sliderRemoveGreenAreas)},
       bShowColors_(info.pCombinedBitmapInfo->bShowSelectedAreas),
       foreground_(makeColorAdjust(info, ToneLayer::kForeground, pFOrg, iWidth, iHeight)),
       background_(makeColorAdjust(info, ToneLayer::kBackground, pFOrg, iWidth, iHeight)),
@@ -139,7 +135,7 @@ Decision SpillKey::decide(int x, int y, const Rgb& color, const Rgb& screen, Spi
     if (key_.showOrgImage) return solid(inMargin(key_, x, y) ? 0.0 : kShownAsIs, f);
 
     const double chroma = chromaOf(f);
-    const double sliderRestoredDarkAreas = darkAreas(x, y, color.g, chroma);
+    const double sliderRestoredDarkAreas = hair_.darkAreas(x, y, color.g, chroma);
     if (chroma < sliderRestoredDarkAreas * 0.15 && largestOf(f) < screen.g - screen.r) {
         return solid(1.0, {f.r, std::min(f.g, std::max(f.r, f.b)), f.b});
     }
@@ -154,31 +150,6 @@ Decision SpillKey::decide(int x, int y, const Rgb& color, const Rgb& screen, Spi
     const double amount = mixedAlpha(key_, f, screen);
     const Rgb shown = bShowColors_ && f.r >= f.b ? markSearched(f, amount) : f;
     return {amount, amount, shown, liftedSource(key_, shown, screen, amount)};
-}
-
-// The surroundings are only looked at where they would change the outcome of a test.
-double SpillKey::darkAreas(int x, int y, double green, double chroma) const {
-    const double slider = sliderRestoredDarkAreasSlider_;
-    if (!(green < kDarkGreen && sliderProtectHair_ > 5.0)) return slider;
-    const bool matters = (chroma < slider * 0.15) != (chroma < kDarkAreasOfHair * 0.15) ||
-                         (chroma > slider * 2.0) != (chroma > kDarkAreasOfHair * 2.0);
-    return matters && isBusy(x, y) ? kDarkAreasOfHair : slider;
-}
-
-// Whether the brightness varies here as it does in hair, by the sample variance. It is exact in whole numbers.
-bool SpillKey::isBusy(int x, int y) const {
-    std::int64_t sum = 0, squares = 0;
-    for (int dy = -kTextureRadius; dy <= kTextureRadius; ++dy) {
-        const std::uint8_t* row = pFOrg + pixelOffset(iWidth, 0, std::clamp(y + dy, 0, iHeight - 1));
-        for (int dx = -kTextureRadius; dx <= kTextureRadius; ++dx) {
-            const std::uint8_t* p = row + pixelOffset(iWidth, std::clamp(x + dx, 0, iWidth - 1), 0);
-            const int level = p[0] + p[1] + p[2];
-            sum += level;
-            squares += level * level;
-        }
-    }
-    const auto scatter = static_cast<double>(kTexturePixels * squares - sum * sum);
-    return scatter / (kTexturePixels * (kTexturePixels - 1)) > 4000.0 - 20.0 * sliderProtectHair_;
 }
 
 double SpillKey::finalAmount(int x, int y, double amount) const {

@@ -7,6 +7,7 @@
 
 #include "key/ColorAdjust.h"
 #include "key/CombineParams.h"
+#include "key/DarkHair.h"
 #include "key/OnePixel.h"
 
 namespace tavrin {
@@ -74,21 +75,23 @@ class SpillKey {
     /// The amount alone.
     double amountAt(int x, int y, const Rgb& color, SpillCall call = SpillCall::kLater) const;
 
+    /// What the decision rests on.
+    const KeyConstants& constants() const { return key_; }
+    const DarkHair& hair() const { return hair_; }
+
     const std::uint8_t* const pFOrg;
     const std::uint8_t* const pBOrg;
     const int iWidth, iHeight;
 
   private:
     Decision decide(int x, int y, const Rgb& color, const Rgb& screen, SpillCall call) const;
-    double darkAreas(int x, int y, double green, double chroma) const;
-    bool isBusy(int x, int y) const;
     double finalAmount(int x, int y, double amount) const;
     Rgb outputColor(int x, int y, const Rgb& color) const;
     Rgb silhouetteAt(int x, int y) const;
     bool loadSilhouette(const SystemInfo& info);
 
     KeyConstants key_;  // the sliders of the key; white balance as of the second call
-    double sliderRestoredDarkAreasSlider_, sliderProtectHair_;
+    DarkHair hair_;
     double dUMult_ = 0.0;
     bool bShowColors_;
     ColorAdjust foreground_, background_;

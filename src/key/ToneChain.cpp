@@ -45,6 +45,10 @@ void sharpenTone(const ToneConstants& tone, Rgb& c, int x, int y) {
     c = gather(Tone(One(), tone).sharpened(spread(c), around, 0));
 }
 
+double toneCurve(const ToneConstants& tone, double largest) {
+    return hn::GetLane(Tone(One(), tone).toneCurve(hn::Set(One(), largest)));
+}
+
 bool curveTone(const ToneConstants& tone, Rgb& c) {
     lanes::Choice<One> black;
     c = gather(Tone(One(), tone).curved(spread(c), black));

@@ -48,6 +48,8 @@ double sumOfEnds(const Rgb& color);
 void restoreEnds(Rgb& color, double ends);
 /// Sharpens, where the setting is on. Very dark results, and green that would stop being green, are left alone.
 void sharpenTone(const ToneConstants& tone, Rgb& color, int x, int y);
+/// The level to which the curve moves a largest channel, 0 to 300.
+double toneCurve(const ToneConstants& tone, double largest);
 /// Shadow lift, contrast, highlights, and the floor of the dark parts.
 /// @return false for black, which takes the curve's level in all channels
 bool curveTone(const ToneConstants& tone, Rgb& color);

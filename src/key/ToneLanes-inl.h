@@ -24,7 +24,8 @@ class ToneLanes {
     using Colors = RgbLanes<D>;
 
   public:
-    ToneLanes(D d, const ToneConstants& tone) : d_(d), tone_(tone) {}
+    // `levels` has what the curve makes of each whole level, or is null.
+    ToneLanes(D d, const ToneConstants& tone, const double* levels = nullptr) : d_(d), tone_(tone), levels_(levels) {}
 
     // The photo filters.
     HWY_INLINE Colors filtered(Colors c) const {
@@ -50,7 +51,7 @@ class ToneLanes {
     // Shadow lift, contrast, highlights, and the floor of the dark parts. Black takes the curve's level in all
     // channels; `black` tells where.
     HWY_INLINE Colors curved(const Colors& c, M& black) const {
-        const V m = largestLanes<D>(c), level = toneCurve(m);
+        const V m = largestLanes<D>(c), level = levelOf(m);
         const M coloured = hn::Gt(m, hn::Zero(d_));
         black = hn::Not(coloured);
         return chooseLanes(d_, coloured, withLevel(c, m, level), {level, level, level});
@@ -74,7 +75,28 @@ class ToneLanes {
         return {brightened(c.r, scale), brightened(c.g, scale), brightened(c.b, scale)};
     }
 
+    // The level to which the largest channel `m` moves, 0 to 300.
+    HWY_INLINE V toneCurve(V m) const {
+        const V middle = hn::Set(d_, 128.0);
+        const M dark = hn::Lt(m, middle);
+        const V rise = hn::Sub(hn::Set(d_, 1.0), exponential(hn::Mul(hn::Set(d_, tone_.shadowRate), m), dark));
+        const V lifted = hn::IfThenElse(dark, hn::Div(hn::Mul(rise, middle), hn::Set(d_, tone_.shadowNorm)), m);
+        const V around = hn::Sub(hn::Add(lifted, hn::Set(d_, tone_.brightness)), middle);
+        V level = hn::Add(hn::Div(hn::Mul(hn::Set(d_, tone_.gain), around), hn::Set(d_, 50.0)), middle);
+        level = bent(level, 160.0);
+        level = bent(level, 192.0);
+        return clampLanes(d_, level, 0.0, 300.0);
+    }
+
   private:
+    // The same, looked up where all levels are whole, as an untouched background's are.
+    HWY_INLINE V levelOf(V m) const {
+        if (!levels_) return toneCurve(m);
+        const auto whole = hn::DemoteTo(WordTag<D>(), clampLanes(d_, m, 0.0, 255.0));
+        if (!hn::AllTrue(d_, hn::Eq(hn::PromoteTo(d_, whole), m))) return toneCurve(m);
+        return hn::GatherIndex(d_, levels_, hn::PromoteTo(hn::RebindToSigned<D>(), whole));
+    }
+
     HWY_INLINE V loadInts(const std::int32_t* from) const { return hn::PromoteTo(d_, hn::Load(WordTag<D>(), from)); }
 
     // Scales a channel; black over black is no number and stays black.
@@ -121,19 +143,6 @@ class ToneLanes {
         return hn::Load(d_, values);
     }
 
-    // The level to which the largest channel `m` moves, 0 to 300.
-    HWY_INLINE V toneCurve(V m) const {
-        const V middle = hn::Set(d_, 128.0);
-        const M dark = hn::Lt(m, middle);
-        const V rise = hn::Sub(hn::Set(d_, 1.0), exponential(hn::Mul(hn::Set(d_, tone_.shadowRate), m), dark));
-        const V lifted = hn::IfThenElse(dark, hn::Div(hn::Mul(rise, middle), hn::Set(d_, tone_.shadowNorm)), m);
-        const V around = hn::Sub(hn::Add(lifted, hn::Set(d_, tone_.brightness)), middle);
-        V level = hn::Add(hn::Div(hn::Mul(hn::Set(d_, tone_.gain), around), hn::Set(d_, 50.0)), middle);
-        level = bent(level, 160.0);
-        level = bent(level, 192.0);
-        return clampLanes(d_, level, 0.0, 300.0);
-    }
-
     HWY_INLINE V bent(V level, double knee) const {
         const V from = hn::Set(d_, knee);
         const V above = hn::Add(hn::Mul(hn::Sub(level, from), hn::Set(d_, tone_.highlights)), from);
@@ -153,6 +162,7 @@ class ToneLanes {
 
     D d_;
     const ToneConstants& tone_;
+    const double* levels_;
 };
 
 // Pixels side by side in a row.
@@ -167,7 +177,8 @@ class RunTone {
     using Colors = RgbLanes<D>;
 
   public:
-    RunTone(D d, const ToneConstants& tone, const PixelRun& run) : d_(d), tone_(tone), run_(run), lanes_(d, tone) {}
+    RunTone(D d, const ToneConstants& tone, const PixelRun& run, const double* levels = nullptr)
+        : d_(d), tone_(tone), run_(run), lanes_(d, tone, levels) {}
 
     // The colours of the pixels from the i-th on. `light` falls on a background only, and not on black.
     HWY_INLINE Colors adjusted(Colors c, int i, V light) {

@@ -4,6 +4,7 @@
 
 #include "core/raster/BoxBlur.h"
 #include "core/state/SystemInfo.h"
+#include "support/VectorTargets.h"
 
 namespace tavrin {
 namespace {
@@ -48,11 +49,50 @@ TEST(BoxBlur, RowAndColumnFollowTheEdgeRules) {
     EXPECT_EQ(slowLine(line, 1), (Ints{15, 20, 102, 95, 87, 32, 48}));
 }
 
+// One direction of a picture by definition.
+Ints slowLines(const Ints& in, int w, int h, int r, bool rows) {
+    const int lines = rows ? h : w, count = rows ? w : h;
+    Ints out = in;
+    for (int l = 0; l < lines; ++l) {
+        const auto at = [&](int i) { return static_cast<std::size_t>(rows ? l * w + i : i * w + l); };
+        Ints line;
+        for (int i = 0; i < count; ++i)
+            line.push_back(in[at(i)]);
+        line = slowLine(line, r);
+        for (int i = 0; i < count; ++i)
+            out[at(i)] = line[static_cast<std::size_t>(i)];
+    }
+    return out;
+}
+
+TEST(BoxBlur, EveryTargetBlursLineByLine) {
+    std::mt19937 random(3);
+    for (const auto& [w, h] : {std::pair{1, 1}, {3, 18}, {21, 2}, {150, 37}, {16, 33}}) {
+        for (const int r : {0, 1, 4, 20}) {
+            Ints in(static_cast<std::size_t>(w * h));
+            for (auto& sample : in)
+                sample = static_cast<std::int32_t>(random());
+            const Ints rows = slowLines(in, w, h, r, true), both = slowLines(rows, w, h, r, false);
+            test::onEveryTarget([&] {
+                Ints src = in, dst(in.size());
+                boxBlur_Int(nullptr, src.data(), dst.data(), w, h, r);
+                EXPECT_EQ(src, rows) << w << " x " << h << ", " << r;
+                EXPECT_EQ(dst, both) << w << " x " << h << ", " << r;
+            });
+        }
+    }
+}
+
 TEST(BoxBlur, BytesBlurLikeThreeSeparatePlanesAndAlphaIsCarried) {
     const int w = 67, h = 41, r = 5;
     const Bytes original = noise(w, h);
     Bytes src = original, dst(original.size(), 0);
     gaussBlur_4(nullptr, src.data(), dst.data(), w, h, r);
+    test::onEveryTarget([&] {
+        Bytes again = original, blurred(original.size(), 0);
+        gaussBlur_4(nullptr, again.data(), blurred.data(), w, h, r);
+        EXPECT_EQ(blurred, dst);
+    });
     for (int c = 0; c < 3; ++c) {
         Ints plane, blurred(original.size() / 4);
         for (std::size_t i = static_cast<std::size_t>(c); i < original.size(); i += 4)

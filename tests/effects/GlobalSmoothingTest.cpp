@@ -1,9 +1,12 @@
+#include <array>
+#include <cmath>
 #include <gtest/gtest.h>
 
 #include "core/raster/FloatArray3.h"
 #include "effects/GlobalSmoothing.h"
 #include "support/EffectPictures.h"
 #include "support/Superseded.h"
+#include "support/VectorTargets.h"
 
 namespace tavrin {
 namespace {
@@ -56,6 +59,58 @@ TEST(GlobalSmoothing, NoiseGoesAndEdgesStay) {
     for (int y = 0; y < h; ++y) {
         for (int x = 5; x < w - 5; ++x)
             EXPECT_NEAR(red(x, y), x < w / 2 ? 64 : 184, 3) << x << ", " << y;
+    }
+}
+
+// Solves one line on its own, `step` floats from pixel to pixel.
+void solvePlainly(float* line, int count, std::ptrdiff_t step, double sigma, double strength) {
+    const auto size = static_cast<std::size_t>(count);
+    std::vector<double> on(size + 1, 0.0), share(size + 1, 0.0);  // `on[i]` is the weight between pixels i - 1 and i
+    std::vector<std::array<double, 3>> own(size + 1, {0.0, 0.0, 0.0});
+    for (std::size_t i = 0; i < size; ++i) {
+        const float *here = line + static_cast<std::ptrdiff_t>(i) * step, *next = here + step;
+        if (i + 1 < size) {
+            double squares = 0.0;
+            for (int c = 0; c < 3; ++c)
+                squares += (static_cast<double>(here[c]) - next[c]) * (static_cast<double>(here[c]) - next[c]);
+            on[i + 1] = std::exp(-std::sqrt(static_cast<int>(std::min(squares, 195075.0))) / sigma) * -strength;
+        }
+        const double pivot = 1.0 - on[i] - on[i + 1] - on[i] * share[i];
+        share[i + 1] = on[i + 1] / pivot;
+        for (std::size_t c = 0; c < 3; ++c)
+            own[i + 1][c] = (here[c] - on[i] * own[i][c]) / pivot;
+    }
+    for (std::size_t i = size; i > 0; --i) {
+        for (std::size_t c = 0; c < 3; ++c) {
+            if (i < size) own[i][c] -= share[i] * own[i + 1][c];
+            line[static_cast<std::ptrdiff_t>(i - 1) * step + static_cast<std::ptrdiff_t>(c)] =
+                static_cast<float>(own[i][c]);
+        }
+    }
+}
+
+TEST(GlobalSmoothing, EveryTargetSolvesLineByLine) {
+    for (const auto& [w, h] : {std::pair{1, 1}, {1, 21}, {33, 2}, {8, 8}, {43, 37}}) {
+        const auto info = bareState(w, h);
+        const Bytes noise = waves(w, h);
+        const std::size_t floats = static_cast<std::size_t>(w) * static_cast<std::size_t>(h) * 3;
+        const std::vector<float> start(noise.begin(), noise.begin() + static_cast<std::ptrdiff_t>(floats));
+        std::vector<float> direct = start;
+        const std::ptrdiff_t row = std::ptrdiff_t{3} * w;
+        double strength = 40.0 * 1.5 * 4.0 / 15.0;
+        for (int iteration = 0; iteration < 2; ++iteration, strength /= 4.0) {
+            for (int y = 0; y < h; ++y)
+                solvePlainly(&direct[static_cast<std::size_t>(y * row)], w, 3, 12.0, strength);
+            for (int x = 0; x < w; ++x)
+                solvePlainly(&direct[static_cast<std::size_t>(3 * x)], h, row, 12.0, strength);
+        }
+        onEveryTarget([&] {
+            float*** image = memAllocFloat3(h, w, 3);
+            std::copy(start.begin(), start.end(), image[0][0]);
+            FGS(*info, image, w, h, 2, 12.0, 40.0, 4.0);
+            EXPECT_TRUE(std::equal(direct.begin(), direct.end(), image[0][0])) << w << " x " << h;
+            memFreeFloat3(image);
+        });
     }
 }
 

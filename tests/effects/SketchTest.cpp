@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
+#include <numeric>
 
 #include "effects/Sketch.h"
 #include "effects/SketchTools.h"
 #include "support/EffectPictures.h"
 #include "support/Superseded.h"
+#include "support/VectorTargets.h"
 
 namespace tavrin {
 namespace {
@@ -87,13 +89,17 @@ TEST(SketchTools, TheBlurIsTheWindowOfItsDefinition) {
         EXPECT_EQ(spike[static_cast<std::size_t>(4 * x)], expected[x]);
 
     std::mt19937 random(6);
-    for (const auto& [w, h, radius] : {std::tuple{31, 23, 1}, {31, 23, 9}, {17, 40, 60}, {1, 9, 3}, {90, 2, 700}}) {
+    for (const auto& [w, h, radius] :
+         {std::tuple{31, 23, 1}, {31, 23, 9}, {17, 40, 60}, {1, 9, 3}, {90, 2, 700}, {300, 1, 40'000}}) {
         std::vector<std::uint16_t> noise(static_cast<std::size_t>(4 * w * h));
         for (auto& sample : noise)
             sample = static_cast<std::uint16_t>(random() % 3 ? random() : 65535);
         const auto direct = blurredPlainly(noise, w, h, radius);
-        GaussianBlurBitmap(*info, noise.data(), w, h, radius);
-        EXPECT_EQ(noise, direct) << w << " x " << h << ", " << radius;
+        onEveryTarget([&] {
+            auto blurred = noise;
+            GaussianBlurBitmap(*info, blurred.data(), w, h, radius);
+            EXPECT_EQ(blurred, direct) << w << " x " << h << ", " << radius;
+        });
     }
     std::vector<std::uint16_t> white(64, 65535);
     GaussianBlurBitmap(*info, white.data(), 4, 4, INT_MAX);
@@ -120,6 +126,10 @@ TEST_F(SketchTest, PencilsTakeMiddleTonesAndDarksAndTheParchmentLies) {
     const int w = 41, h = 37;
     const Bytes input = waves(w, h), raw = sketched(*state(w, h, 9), input);
     const Bytes pencil = sketched(*state(w, h, 3), input), paper = sketched(*state(w, h, 4), input);
+    onEveryTarget([&] {
+        EXPECT_EQ(sketched(*state(w, h, 3), input), pencil);
+        EXPECT_EQ(sketched(*state(w, h, 4), input), paper);
+    });
     int seen[3] = {};
     for (int y = 0; y < h; ++y) {
         for (int x = 0; x < w; ++x) {
@@ -140,6 +150,84 @@ TEST_F(SketchTest, PencilsTakeMiddleTonesAndDarksAndTheParchmentLies) {
     }
     for (const int count : seen)
         EXPECT_GT(count, 20);
+}
+
+// Step by step, one pixel at a time.
+class PlainSketch {
+  public:
+    PlainSketch(const Bytes& in, int w, int h, int type) : in_(in), w_(w), h_(h), type_(type) {
+        for (std::size_t i = 0; i < in.size(); i += 4)
+            grey_.push_back(sketchGrey(&in[i], type));
+    }
+
+    Bytes drawn(int nearness, int reach) const {
+        Bytes flat = grey_;
+        std::vector<std::uint16_t> negative(in_.size());
+        for (int y = 0; y < h_; ++y) {
+            for (int x = 0; x < w_; ++x) {
+                const std::size_t i = static_cast<std::size_t>(y * w_ + x);
+                const int counted = flatten(x, y, nearness, flat[i]);
+                std::fill_n(&negative[i * 4], 3, static_cast<std::uint16_t>((255 - counted) * 255));
+            }
+        }
+        negative = blurredPlainly(negative, w_, h_, reach);
+        Bytes out = in_;
+        for (std::size_t i = 0; i < grey_.size(); ++i)
+            finish(dodged(grey_[i], flat[i], negative[i * 4]), grey_[i], &out[i * 4]);
+        return out;
+    }
+
+  private:
+    // Sets the flattened grey and returns the one that counts for the negative.
+    int flatten(int x, int y, int nearness, std::uint8_t& flat) const {
+        std::vector<int> block;
+        for (int py = std::max(y - 3, 0); py <= std::min(y + 3, h_ - 1); ++py) {
+            for (int px = std::max(x - 3, 0); px <= std::min(x + 3, w_ - 1); ++px)
+                block.push_back(grey_[static_cast<std::size_t>(py * w_ + px)]);
+        }
+        const int size = static_cast<int>(block.size()), mean = std::accumulate(block.begin(), block.end(), 0) / size;
+        int count = 0, sum = 0;
+        for (const int grey : block) {
+            if (std::abs(grey - mean) > nearness) continue;
+            ++count;
+            sum += grey;
+        }
+        if (!(static_cast<double>(count) / size > 0.6)) return std::clamp(2 * flat - mean, 0, 255);
+        flat = static_cast<std::uint8_t>(sum / count);
+        return flat;
+    }
+    static int dodged(int grey, int flat, int negative) {
+        if (grey < 30) return 51;
+        const double n = negative / 65025.0, p = flat / 255.0;
+        if (n == 1.0) return 255;
+        return static_cast<int>(std::min(std::clamp(p + p - (1.0 - n), 0.0, 1.0) / (1.0 - n), 1.0) * 255.0);
+    }
+    void finish(int value, int grey, std::uint8_t* pixel) const {
+        if (type_ == 1) value = grey < 50 ? grey : value > 240 ? 255 : 0;
+        const int strongest = std::max({pixel[0], pixel[1], pixel[2]});
+        for (int c = 0; c < 3; ++c)
+            pixel[c] = static_cast<std::uint8_t>(type_ == 1 && strongest > 0 ? value * pixel[c] / strongest : value);
+    }
+
+    const Bytes& in_;
+    int w_, h_, type_;
+    Bytes grey_;
+};
+
+TEST_F(SketchTest, EveryTargetDrawsWhatTheStepsSay) {
+    for (const auto& [w, h] : {std::pair{1, 1}, {5, 9}, {16, 3}, {83, 61}}) {
+        for (const int type : {1, 9}) {
+            for (const int nearness : {0, 3, 30}) {
+                const auto info = state(w, h, type);
+                info->iSliderCartoonEffectSmoothing = nearness * 16;
+                Bytes input = waves(w, h);
+                for (std::size_t i = 0; i < input.size() / 3; ++i)
+                    input[i] /= 6;                                                        // some darks
+                const Bytes direct = PlainSketch(input, w, h, type).drawn(nearness, 15);  // 10 * 300 / 200
+                onEveryTarget([&] { EXPECT_EQ(sketched(*info, input), direct) << w << " x " << h << ", " << type; });
+            }
+        }
+    }
 }
 
 TEST_F(SketchTest, WithoutItsTexturesItIsDrawnInGrey) {

@@ -1,3 +1,4 @@
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "key/AlphaSides.h"
@@ -193,6 +194,35 @@ TEST(Lanes, EveryTargetKeepsTheColoursThatTheHueFormulaKeeps) {
             forScreenLike(filter, row.front().data(), row.size() - odd, keep);
             forScreenLike(filter, row[row.size() - odd].data(), odd, keep);
             EXPECT_TRUE(kept == expected);
+        });
+    }
+}
+
+// The curve of a background that nothing covers, against the chain for one colour.
+TEST(Lanes, TheBackgroundsCurveIsThatOfItsChain) {
+    const std::function<void(BitmapInfo&)> variants[] = {
+        [](BitmapInfo& b) { b.iContrast = 80; },
+        [](BitmapInfo& b) { b.iBrightness = 60, b.iReduceHighlights = 40; },
+        [](BitmapInfo& b) { b.iEnhanseShadows = 90, b.iBrightnessSat = 30, b.iRedDelta = -90; },
+        [](BitmapInfo& b) { b.iContrast = 10, b.iBrightness = -80, b.iGreenDelta = 400; },
+    };
+    for (const auto& set : variants) {
+        KeyScene scene(64, 64);
+        test::fillWithNoise(scene.background, 11);
+        scene.background[0] = {0, 0, 0, 255};
+        BitmapInfo& back = *scene.info.pBackgroundBitmapInfo;
+        set(back);
+        const ToneConstants tone = makeTone(back, ToneLayer::kBackground, back.pBitmapData, 64, 64);
+        std::vector<Pixel> plain;
+        for (const Pixel& p : scene.background) {
+            Rgb c{clampTo(p[0] + back.iRedDelta, 0.0, 255.0), clampTo(p[1] + back.iGreenDelta, 0.0, 255.0),
+                  clampTo(p[2] + back.iBlueDelta, 0.0, 255.0)};
+            adjustTone(tone, c, 0, 0, 1.0);
+            plain.push_back({toByte(c.r), toByte(c.g), toByte(c.b), 255});
+        }
+        test::onEveryTarget([&] {
+            Combine(scene.info, 1, 1);
+            EXPECT_TRUE(scene.combined == plain);
         });
     }
 }

@@ -6,6 +6,7 @@
 #include "key/KeyScene.h"
 #include "key/Lighting.h"
 #include "key/SpillKey.h"
+#include "support/VectorTargets.h"
 
 namespace tavrin {
 namespace {
@@ -166,6 +167,53 @@ TEST(Lighting, TheGlowIsTheSubjectBlurred) {
     EXPECT_GT(soft[41], 0);
     EXPECT_EQ(soft[0], 0);
     EXPECT_EQ(scene.info.iLightingMode, 4);
+}
+
+TEST(Lighting, EveryTargetsGlowIsWhatTheKeyAtOnePixelFinds) {
+    const std::function<void(SystemInfo&)> variants[] = {
+        [](SystemInfo&) {},
+        [](SystemInfo& i) { i.bUseBlueLogic = true; },
+        [](SystemInfo& i) { i.iSliderClipLeft = i.iSliderClipBottom = 20; },
+        [](SystemInfo& i) { i.bShowOrgImage = true; },
+        [](SystemInfo& i) {  // dark, busy texture counts
+            i.pCombinedBitmapInfo->sliderRemoveGreenAreas = 150;
+            i.pCombinedBitmapInfo->sliderRestoredDarkAreas = 20;
+        },
+        [](SystemInfo& i) { i.pCombinedBitmapInfo->sliderTransparentcyAdjustment = 130; },
+        [](SystemInfo& i) { i.pCombinedBitmapInfo->sliderTransparentcyAdjustment = 40; },
+    };
+    int calm = 0, busy = 0;
+    for (const int width : {1, 7, 13, 140}) {
+        for (const auto& set : variants) {
+            LightScene scene(width, 31);
+            test::fillWithNoise(scene.foreground, static_cast<unsigned>(width));
+            for (std::size_t i = 0; i < scene.foreground.size(); i += 1 + i % 3) {
+                for (std::size_t c = 0; c < 3; ++c)
+                    scene.foreground[i][c] /= 3;
+            }
+            scene.foreground[0] = {40, 200, 60, 255};      // screen
+            for (int i = 20 * width; i < 31 * width; ++i)  // calm
+                scene.foreground[static_cast<std::size_t>(i)] = {static_cast<std::uint8_t>(20 + i % 5), 38, 30, 255};
+            set(scene.info);
+            scene.setLight(0, 60);  // 500
+            scene.place(0, 0, 0);   // no blur
+            const SpillKey key(scene.info, SpillLayers::of(scene.info, 1));
+            Map plain;
+            for (int y = 0; y < scene.height; ++y) {
+                for (int x = 0; x < width; ++x) {
+                    const test::Pixel p = scene.at(scene.foreground, x, y);
+                    const bool blue = scene.info.bUseBlueLogic;
+                    const Rgb c{double(p[0]), double(p[blue ? 2 : 1]), double(p[blue ? 1 : 2])};
+                    const bool screen = distance(c, {40.0, 200.0, 60.0}) < 4.0;
+                    plain.push_back(!screen && key.amountAt(x, y, c) > 0.9 ? 500 : 0);
+                    ++(key.hair().isBusy(x, y) ? busy : calm);
+                }
+            }
+            test::onEveryTarget([&] { EXPECT_EQ(scene.run(4), plain) << width; });
+        }
+    }
+    EXPECT_GT(busy, 100);
+    EXPECT_GT(calm, 100);
 }
 
 TEST(Lighting, TheGlowsFirstPixelIsTheFirstInScanOrder) {

@@ -17,14 +17,14 @@ class SystemInfo;
 /// RGBA bytes. The result is in `dst`, `src` is overwritten. Alpha is carried along. `info` is not read: these
 /// always finish.
 void gaussBlur_4(const SystemInfo* info, std::uint8_t* src, std::uint8_t* dst, int w, int h, int r);
-/// One box blur: copies `src` to `dst`, blurs the rows from `dst` to `src` and the columns from `src` to `dst`.
+/// One box blur: blurs the rows of `src` in place, and the columns from `src` to `dst`.
 void boxBlur_4(const SystemInfo* info, std::uint8_t* src, std::uint8_t* dst, int w, int h, int r);
 /// One direction, rows (H) or columns (T); bytes 0 to 2 are written, the alpha of `dst` stays.
 void boxBlurH_4(const SystemInfo* info, const std::uint8_t* src, std::uint8_t* dst, int w, int h, int r);
 void boxBlurT_4(const SystemInfo* info, const std::uint8_t* src, std::uint8_t* dst, int w, int h, int r);
 
 /// 32-bit integers, the masks of the skin stages; same shape. With `info` given, and unless its
-/// `bLightingForceCompute` is set, a stale state stops them within a line and the buffers hold a partial result.
+/// `bLightingForceCompute` is set, a stale state stops them within a few lines and the buffers hold a partial result.
 /// Every row's run keeps inside its row.
 void gaussBlur_Int(const SystemInfo* info, std::int32_t* src, std::int32_t* dst, int w, int h, int r);
 void boxBlur_Int(const SystemInfo* info, std::int32_t* src, std::int32_t* dst, int w, int h, int r);
