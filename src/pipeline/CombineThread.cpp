@@ -1,9 +1,9 @@
 #include "pipeline/CombineThread.h"
 
 #include <chrono>
+#include <utility>
 
 #include "core/raster/ColorMath.h"
-#include "pipeline/Layers.h"
 #include "pipeline/OutputSize.h"
 #include "pipeline/Stages.h"
 
@@ -76,7 +76,10 @@ void CombineThread::runPosted() {
         std::lock_guard lock(postedMutex_);
         jobs.swap(posted_);
     }
-    if (!jobs.empty()) forgetKeyed();  // a job may do anything
+    if (!jobs.empty()) {  // a job may do anything
+        drawDueLayers();
+        forgetKeyed();
+    }
     for (const auto& job : jobs)
         job();
 }
@@ -85,6 +88,7 @@ CombineThread::Turn CombineThread::iterate() {
     runPosted();
     if (!info_.isStale() && runPass() == Turn::dragging) return Turn::dragging;
     if (info_.iCurrentThreadCount > info_.iNewThreadCount) {
+        drawDueLayers();
         for (const auto& work : idleWork_)
             work();
         return Turn::idle;
@@ -176,9 +180,8 @@ void CombineThread::updateForegroundScale() {
     info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
     // The shadow lives in the background's buffers.
     if (info_.iHaveShadow != 1) info_.pBackgroundBitmapInfo->bScaleChange = true;
-    ChangeBitmapScale(info_, foreground);
+    foregroundDue_ = scaleLayer(foreground);
     runStages(foregroundStages(), info_, kLowRes);
-    runStages(foregroundStages(), info_, kFullRes);
 }
 
 void CombineThread::updateBackground() {
@@ -186,8 +189,28 @@ void CombineThread::updateBackground() {
     forgetKeyed();
     background.bHiResScaleChange = true;
     cascade(background);
-    ChangeBitmapScale(info_, background);
+    backgroundDue_ = scaleLayer(background);
     runStages(backgroundStages(), info_, kLowRes);
+}
+
+/// Draws the preview of a layer. Its full buffer waits until the preview is shown, which so follows the hand that
+/// scales a layer.
+/// @return set when `drawDueLayers` has to draw the full buffer
+std::optional<LayerFill> CombineThread::scaleLayer(BitmapInfo& record) {
+    const LayerFill fill = drawPreviewLayer(info_, record);
+    if (!info_.pInterface || !info_.pInterface->mouseDown()) return fill;
+    emptyFullLayer(record, fill);
+    return std::nullopt;
+}
+
+/// Draws the full buffers that still wait, before anybody looks at them.
+void CombineThread::drawDueLayers() {
+    if (const auto fill = std::exchange(foregroundDue_, {})) {
+        drawFullLayer(info_, *info_.pForegroundBitmapInfo, *fill);
+        runStages(foregroundStages(), info_, kFullRes);
+    }
+    if (const auto fill = std::exchange(backgroundDue_, {}))
+        drawFullLayer(info_, *info_.pBackgroundBitmapInfo, *fill);
 }
 
 void CombineThread::forgetKeyed() {
@@ -208,6 +231,8 @@ void CombineThread::makePreview() {
 void CombineThread::makeFullPicture() {
     BitmapInfo& combined = *info_.pCombinedBitmapInfo;
     if (!combined.oBitmapRep || !combined.oBitmapRepLowRes) return;
+    drawDueLayers();
+    if (info_.isStale()) return;
     const bool newBackground = info_.pBackgroundBitmapInfo->bHiResScaleChange.exchange(false);
     if (newBackground) keyedFull_.forget();
     const bool isKeyed = keyedFull_.restore(info_);

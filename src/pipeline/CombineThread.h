@@ -2,12 +2,13 @@
 
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
-#include "core/image/ImageReader.h"
 #include "core/state/SystemInfo.h"
 #include "pipeline/KeyedPicture.h"
+#include "pipeline/Layers.h"
 
 namespace tavrin {
 
@@ -55,9 +56,12 @@ class CombineThread {
     void updateBackground();
     void makePreview();
     void makeFullPicture();
+    std::optional<LayerFill> scaleLayer(BitmapInfo& record);
+    void drawDueLayers();
     void forgetKeyed();
 
     SystemInfo& info_;
+    std::optional<LayerFill> foregroundDue_, backgroundDue_;  // set while a full buffer waits
     KeyedPicture keyedPreview_{kLowRes}, keyedFull_{kFullRes};
     std::vector<std::function<void()>> idleWork_;
     std::mutex postedMutex_;

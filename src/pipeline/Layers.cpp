@@ -115,11 +115,23 @@ QRectF placedRect(const BitmapInfo& record, const Fit& fit, int width, int heigh
 
 /// What a layer leaves empty has the colour of the screen, so that on the foreground it is keyed away. The base
 /// colour is held in roles: on a blue screen its green level is that of the third channel.
-void fillWithScreen(const SystemInfo& info, BitmapContext& context) {
+LayerFill screenFill(const SystemInfo& info) {
     const bool blue = info.bUseBlueLogic;
-    const double green = (blue ? info.baseBlue : info.baseGreen) / 255.0;
-    const double third = (blue ? info.baseGreen : info.baseBlue) / 255.0;
-    context.fillRect(QRectF(0, 0, context.width(), context.height()), info.baseRed / 255.0, green, third, 1.0);
+    return {info.baseRed, blue ? info.baseBlue : info.baseGreen, blue ? info.baseGreen : info.baseBlue};
+}
+
+void drawFill(BitmapContext& context, const LayerFill& fill) {
+    context.fillRect(QRectF(0, 0, context.width(), context.height()), fill.red / 255.0, fill.green / 255.0,
+                     fill.blue / 255.0, 1.0);
+}
+
+bool isDrawable(const BitmapInfo& record) {
+    return !record.orgImage.isNull() && record.iOrgWidth > 0 && record.iOrgHeight > 0;
+}
+
+Fit fitFor(const SystemInfo& info, const BitmapInfo& record, const BitmapContext& context) {
+    const bool portrait = info.iOutputPixelLowResHeight > info.iOutputPixelLowResWidth;
+    return fitSource(record, context.width(), context.height(), portrait);
 }
 
 void drawSource(const BitmapInfo& record, BitmapContext& context, const Fit& fit) {
@@ -167,27 +179,33 @@ bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record, ReadPicture picture) 
     return true;
 }
 
-void ChangeBitmapScale(SystemInfo& info, BitmapInfo& record) {
-    if (!record.oBitmapRep || !record.oBitmapRepLowRes) return;
-    const bool drawable = !record.orgImage.isNull() && record.iOrgWidth > 0 && record.iOrgHeight > 0;
-    const bool portrait = info.iOutputPixelLowResHeight > info.iOutputPixelLowResWidth;
-
+LayerFill drawPreviewLayer(SystemInfo& info, BitmapInfo& record) {
+    const LayerFill fill = screenFill(info);
+    if (!record.oBitmapRep || !record.oBitmapRepLowRes) return fill;
     BitmapContext& low = *record.oBitmapRepLowRes;
-    fillWithScreen(info, low);
-    if (drawable) drawSource(record, low, fitSource(record, low.width(), low.height(), portrait));
+    drawFill(low, fill);
+    if (isDrawable(record)) {
+        drawSource(record, low, fitFor(info, record, low));
+        record.fOrgScale = fitFor(info, record, *record.oBitmapRep).scale;
+    }
+    if (info.pInterface) info.pInterface->updateScaleUI();
+    return fill;
+}
 
-    BitmapContext& full = *record.oBitmapRep;
-    fillWithScreen(info, full);
-    Fit fit;
-    if (drawable) {
-        fit = fitSource(record, full.width(), full.height(), portrait);
-        record.fOrgScale = fit.scale;
-    }
-    if (info.pInterface) {
-        info.pInterface->updateScaleUI();
-        if (info.pInterface->mouseDown()) return;
-    }
-    if (drawable) drawSource(record, full, fit);
+void drawFullLayer(const SystemInfo& info, BitmapInfo& record, const LayerFill& fill) {
+    emptyFullLayer(record, fill);
+    if (!record.oBitmapRep || !isDrawable(record)) return;
+    drawSource(record, *record.oBitmapRep, fitFor(info, record, *record.oBitmapRep));
+}
+
+void emptyFullLayer(BitmapInfo& record, const LayerFill& fill) {
+    if (record.oBitmapRep) drawFill(*record.oBitmapRep, fill);
+}
+
+void ChangeBitmapScale(SystemInfo& info, BitmapInfo& record) {
+    const LayerFill fill = drawPreviewLayer(info, record);
+    const bool dragged = info.pInterface && info.pInterface->mouseDown();
+    dragged ? emptyFullLayer(record, fill) : drawFullLayer(info, record, fill);
 }
 
 }  // namespace tavrin

@@ -25,4 +25,16 @@ bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record, ReadPicture picture);
 /// settings, over the colour of the screen. While the mouse is held in the view only the preview is drawn.
 void ChangeBitmapScale(SystemInfo& info, BitmapInfo& record);
 
+/// What a layer leaves empty, as bytes of the buffer.
+struct LayerFill {
+    double red = 0.0, green = 0.0, blue = 0.0;
+};
+
+/// The parts of the above, for the loop, which shows the preview in between. The full buffer takes the fill that the
+/// preview has, since the screen may have been measured anew.
+LayerFill drawPreviewLayer(SystemInfo& info, BitmapInfo& record);
+void drawFullLayer(const SystemInfo& info, BitmapInfo& record, const LayerFill& fill);
+/// In place of the latter while the mouse is held: the fill alone.
+void emptyFullLayer(BitmapInfo& record, const LayerFill& fill);
+
 }  // namespace tavrin

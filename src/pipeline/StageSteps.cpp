@@ -103,8 +103,6 @@ void smoothResult(SystemInfo& info, int res) {
 }
 
 void smoothForeground(SystemInfo& info, int res) {
-    // While a layer is dragged its full buffer holds the fill colour alone, which smoothing would not change.
-    if (res == kFullRes && info.pInterface && info.pInterface->mouseDown()) return;
     FastGlobalImageSmoothing(info, 0, pixelsOf(*info.pForegroundBitmapInfo, res), res);
 }
 

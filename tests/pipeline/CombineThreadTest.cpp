@@ -183,6 +183,67 @@ TEST_F(CombineThreadTest, ANewSizeReloadsBothSourcesAndMeasuresTheScreenAgain) {
     EXPECT_NEAR(info_->baseGreen, 160.0, 2.0);
 }
 
+// A layer that is scaled shows in the preview first. Whoever comes between the preview and the full picture, a newer
+// request or a job, must not find the layer's full buffer as it was.
+TEST_F(CombineThreadTest, AScaledLayerIsWholeBeforeAnybodyElseLooks) {
+    const auto bytesOf = [](const BitmapInfo& record) {
+        return std::vector<std::uint8_t>(record.pBitmapData, record.pBitmapData + pixelBytes(240, 300));
+    };
+    const auto place = [](SystemInfo& info) {
+        info.pForegroundBitmapInfo->fScale = 0.6;
+        info.pBackgroundBitmapInfo->iOrgXoff = 120;
+        info.pForegroundBitmapInfo->bScaleChange = info.pBackgroundBitmapInfo->bScaleChange = true;
+        info.StartUpdate();
+    };
+    const auto whole = test::stateForOutput(240, 300);
+    useSources(*whole);
+    CombineThread(*whole).runUntilIdle();
+    place(*whole);
+    CombineThread(*whole).runUntilIdle();
+
+    CombineThread loop(*info_);
+    loop.runUntilIdle();
+    const std::vector<std::uint8_t> before = bytesOf(*info_->pForegroundBitmapInfo);
+    std::vector<std::uint8_t> atPreview, inJob;
+    view_.onRepaint = [&](const PublishedRows&) {
+        if (!atPreview.empty()) return;
+        atPreview = bytesOf(*info_->pForegroundBitmapInfo);
+        loop.post([&] { inJob = bytesOf(*info_->pForegroundBitmapInfo); });
+    };
+    place(*info_);
+    loop.runUntilIdle();
+    EXPECT_EQ(atPreview, before);
+    EXPECT_EQ(inJob, bytesOf(*whole->pForegroundBitmapInfo));
+
+    atPreview.clear();
+    view_.onRepaint = [&](const PublishedRows&) {
+        if (atPreview.empty()) info_->StartUpdate();
+        atPreview.assign(1, 1);
+    };
+    info_->pForegroundBitmapInfo->fScale = 1.0;
+    info_->pForegroundBitmapInfo->bScaleChange = true;
+    info_->StartUpdate();
+    loop.runUntilIdle();
+    place(*info_);
+    loop.runUntilIdle();
+    EXPECT_EQ(bytesOf(*info_->pForegroundBitmapInfo), bytesOf(*whole->pForegroundBitmapInfo));
+    EXPECT_EQ(fullBytes(*info_), fullBytes(*whole));
+}
+
+TEST_F(CombineThreadTest, WhileALayerIsDraggedItsFullBufferHoldsTheScreenAlone) {
+    CombineThread loop(*info_);
+    loop.runUntilIdle();
+    view_.mouse = true;
+    info_->pForegroundBitmapInfo->bScaleChange = true;
+    info_->StartUpdate();
+    EXPECT_EQ(loop.iterate(), CombineThread::Turn::dragging);
+    const std::uint8_t* full = info_->pForegroundBitmapInfo->pBitmapData;
+    EXPECT_EQ(std::memcmp(full + pixelOffset(240, 120, 150), full, 3), 0);
+    view_.mouse = false;
+    loop.runUntilIdle();
+    EXPECT_EQ(std::memcmp(full + pixelOffset(240, 120, 150), full, 3), 0) << "letting go scales nothing by itself";
+}
+
 TEST_F(CombineThreadTest, AFrozenBackgroundStaysAndTheSubjectIsGone) {
     CombineThread(*info_).runUntilIdle();
     const std::vector<std::uint8_t> before = fullBytes(*info_);
