@@ -10,6 +10,8 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#include "core/raster/OverLanes-inl.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace tavrin {
 namespace HWY_NAMESPACE {
@@ -20,25 +22,13 @@ using Words = hn::Rebind<std::int32_t, D>;
 template <class D>
 using Bytes = hn::Rebind<std::uint8_t, D>;
 
-/// Calls `step(tag, i)` for vectors of floats from 0 to `count`, the rest one by one.
-template <class Step>
-void forVectors(std::size_t count, Step step) {
-    const HWY_CAPPED(float, 16) wide;
-    const HWY_CAPPED(float, 1) one;
-    std::size_t i = 0;
-    for (; i + hn::Lanes(wide) <= count; i += hn::Lanes(wide))
-        step(wide, i);
-    for (; i < count; ++i)
-        step(one, i);
-}
-
 /// Of a picture reduced to between one half and its size, as most are.
 constexpr int kUsualTaps = 3;
 
 /// Weighted sums of rows, byte by byte.
 void sumRows(const std::uint8_t* first, std::ptrdiff_t stride, const float* weights, int taps, std::size_t count,
              float* sums) {
-    forVectors(count, [&](auto d, std::size_t i) HWY_ATTR {
+    overLanes<float, 16>(count, [&](auto d, std::size_t i) HWY_ATTR {
         const auto term = [&](int row) HWY_ATTR {
             const auto bytes = hn::LoadU(Bytes<decltype(d)>(), first + row * stride + i);
             return hn::Mul(hn::ConvertTo(d, hn::PromoteTo(Words<decltype(d)>(), bytes)), hn::Set(d, weights[row]));
@@ -74,7 +64,7 @@ void sumColumns(const float* sums, int left, const LineShares& shares, float* ou
 }
 
 void roundToBytes(const float* values, std::size_t count, std::uint8_t* out) {
-    forVectors(count, [&](auto d, std::size_t i) HWY_ATTR {
+    overLanes<float, 16>(count, [&](auto d, std::size_t i) HWY_ATTR {
         const auto nearest = hn::NearestInt(hn::LoadU(d, values + i));
         hn::StoreU(hn::DemoteTo(Bytes<decltype(d)>(), nearest), Bytes<decltype(d)>(), out + i);
     });

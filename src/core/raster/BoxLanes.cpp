@@ -9,6 +9,7 @@
 #define HWY_TARGET_INCLUDE "core/raster/BoxLanes.cpp"
 #include <hwy/foreach_target.h>
 
+#include "core/raster/OverLanes-inl.h"
 #include "core/raster/TurnLanes-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -43,19 +44,6 @@ class SlidingBox {
     }
 
   private:
-    // The lanes that fill no vector go one by one.
-    template <class Work>
-    HWY_INLINE static void overLanes(int lanes, const Work& work) {
-        const HWY_CAPPED(double, 8) wide;
-        const HWY_CAPPED(double, 1) one;
-        const int width = static_cast<int>(hn::Lanes(wide));
-        int lane = 0;
-        for (; lane + width <= lanes; lane += width)
-            work(wide, lane);
-        for (; lane < lanes; ++lane)
-            work(one, lane);
-    }
-
     const Sample* samplesAt(int at) const { return lines_.from + at * lines_.step; }
 
     template <class D>
@@ -70,14 +58,14 @@ class SlidingBox {
 
     void enter(const Sample* samples) {
         double* const sums = sums_.data();
-        overLanes(lines_.lanes, [=](auto d, int lane) HWY_ATTR {
+        overLanes<double, 8>(lines_.lanes, [=](auto d, int lane) HWY_ATTR {
             hn::StoreU(hn::Add(hn::LoadU(d, sums + lane), load(d, samples + lane)), d, sums + lane);
         });
     }
 
     void leave(const Sample* samples) {
         double* const sums = sums_.data();
-        overLanes(lines_.lanes, [=](auto d, int lane) HWY_ATTR {
+        overLanes<double, 8>(lines_.lanes, [=](auto d, int lane) HWY_ATTR {
             hn::StoreU(hn::Sub(hn::LoadU(d, sums + lane), load(d, samples + lane)), d, sums + lane);
         });
     }
@@ -85,7 +73,7 @@ class SlidingBox {
     void divide(int at, double count) {
         const double* const sums = sums_.data();
         const Target target(lines_, at);
-        overLanes(lines_.lanes, [=](auto d, int lane) HWY_ATTR {
+        overLanes<double, 8>(lines_.lanes, [=](auto d, int lane) HWY_ATTR {
             target.write(d, lane, hn::Div(hn::LoadU(d, sums + lane), hn::Set(d, count)));
         });
     }
@@ -95,7 +83,7 @@ class SlidingBox {
         double* const sums = sums_.data();
         const Sample *const entering = samplesAt(at + radius_), *const leaving = samplesAt(at - radius_ - 1);
         const Target target(lines_, at);
-        overLanes(lines_.lanes, [=](auto d, int lane) HWY_ATTR {
+        overLanes<double, 8>(lines_.lanes, [=](auto d, int lane) HWY_ATTR {
             const auto change = hn::Sub(load(d, entering + lane), load(d, leaving + lane));
             const auto sum = hn::Add(hn::LoadU(d, sums + lane), change);
             hn::StoreU(sum, d, sums + lane);

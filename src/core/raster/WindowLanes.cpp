@@ -9,6 +9,8 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#include "core/raster/OverLanes-inl.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace tavrin {
 namespace HWY_NAMESPACE {
@@ -44,19 +46,6 @@ class SlidingLanes {
     }
 
   private:
-    // The lanes that fill no vector go one by one.
-    template <class Work>
-    HWY_INLINE static void overLanes(int lanes, const Work& work) {
-        const HWY_CAPPED(double, 8) wide;
-        const HWY_CAPPED(double, 1) one;
-        const int width = static_cast<int>(hn::Lanes(wide));
-        int lane = 0;
-        for (; lane + width <= lanes; lane += width)
-            work(wide, lane);
-        for (; lane < lanes; ++lane)
-            work(one, lane);
-    }
-
     // Null beyond the ends of the lines.
     const Sample* samplesAt(std::int64_t x) const {
         return x >= 0 && x < lines_.count ? lines_.first + x * lines_.step : nullptr;
@@ -80,7 +69,7 @@ class SlidingLanes {
         const int lanes = lines_.lanes;
         const double distance = reach_ - x;
         double* const right = moments_.data() + 3 * lanes;
-        overLanes(lanes, [=](auto d, int lane) HWY_ATTR {
+        overLanes<double, 8>(lanes, [=](auto d, int lane) HWY_ATTR {
             const auto v = load(d, samples + lane), k = hn::Set(d, distance);
             double *m0 = right + lane, *m1 = m0 + lanes, *m2 = m1 + lanes;
             hn::StoreU(hn::Add(hn::LoadU(d, m0), v), d, m0);
@@ -98,7 +87,7 @@ class SlidingLanes {
         double* const moments = moments_.data();
         Sample* const means = means_ + static_cast<std::ptrdiff_t>(x) * lanes;
         const double reach = reach_, weight = static_cast<double>(weights_[static_cast<std::size_t>(x)]);
-        overLanes(lanes, [=](auto d, int lane) HWY_ATTR {
+        overLanes<double, 8>(lanes, [=](auto d, int lane) HWY_ATTR {
             const auto nearest = hn::Set(d, reach - 1.0), nearestSquare = hn::Set(d, (reach - 1.0) * (reach - 1.0));
             double *const m0 = moments + lane, *const m1 = m0 + lanes, *const m2 = m1 + lanes;
             double *const n0 = m2 + lanes, *const n1 = n0 + lanes, *const n2 = n1 + lanes;
