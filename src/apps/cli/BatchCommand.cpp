@@ -1,21 +1,17 @@
 #include "apps/cli/BatchCommand.h"
 
 #include <atomic>
-#include <climits>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
 #include <memory>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 #include "apps/cli/BatchConsole.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/PictureOptions.h"
 #include "batch/BatchNames.h"
+#include "core/raster/PixelMemory.h"
 #include "pipeline/StartUp.h"
 
 namespace tavrin::cli {
@@ -34,16 +30,6 @@ static_assert(std::atomic<int>::is_always_lock_free);
 
 void askToStop(int signal) {
     if (stopsAsked.fetch_add(1) > 0) std::_Exit(128 + signal);
-}
-
-// The turn of one picture allocates what the last one freed. Giving every large block back to the system and having
-// it filled with zeros again costs a fifth of the time.
-void keepFreedMemory() {
-#ifdef __GLIBC__
-    mallopt(M_MMAP_MAX, 0);
-    mallopt(M_TRIM_THRESHOLD, INT_MAX);
-    mallopt(M_ARENA_MAX, 1);
-#endif
 }
 
 void withoutLastSlash(std::string& path) {
@@ -82,7 +68,8 @@ int runBatch(CommandOptions options) {
         complain(refusal.line);
         return refusal.code;
     }
-    keepFreedMemory();
+    // Each picture takes the memory that the last one gave back.
+    keepPixelMemory(std::size_t{1} << 29);
     const auto base = std::make_unique<SystemInfo>();
     startCommandLine(*base);
     if (const Refusal refusal = trySettings(options, *base); refusal.code != kDone) {

@@ -1,46 +1,21 @@
 #include "core/raster/Pixels.h"
 
-#include <cstdlib>
-#ifdef __linux__
-#include <sys/mman.h>
-#endif
-
 namespace tavrin {
 
-namespace {
+PixelBuffer::PixelBuffer(int width, int height) : PixelBuffer(width, height, PixelContents::undefined) {}
 
-constexpr std::size_t kHugePage = std::size_t{2} << 20;
-
-// The first touch of memory costs a trap for each page, for a large picture as much as scaling it. With huge pages
-// there are few. Where the system has none to give, it falls back to small ones by itself.
-void* allocate(std::size_t bytes) {
-#ifdef __linux__
-    if (bytes >= 2 * kHugePage) {
-        const std::size_t whole = (bytes + kHugePage - 1) / kHugePage * kHugePage;
-        void* memory = std::aligned_alloc(kHugePage, whole);
-        if (memory) madvise(memory, whole, MADV_HUGEPAGE);
-        return memory;
-    }
-#endif
-    return std::malloc(bytes);
-}
-
-}  // namespace
-
-PixelBuffer::PixelBuffer(int width, int height) {
+PixelBuffer::PixelBuffer(int width, int height, PixelContents contents) {
     if (width < 1 || height < 1) return;
-    bytes_.reset(static_cast<std::uint8_t*>(allocate(pixelBytes(width, height))));
+    const std::size_t bytes = pixelBytes(width, height);
+    bytes_ = {static_cast<std::uint8_t*>(takePixelMemory(bytes, contents)), Free(bytes)};
 }
 
 PixelBuffer PixelBuffer::cleared(int width, int height) {
-    PixelBuffer buffer;
-    if (width < 1 || height < 1) return buffer;
-    buffer.bytes_.reset(static_cast<std::uint8_t*>(std::calloc(pixelBytes(width, height), 1)));
-    return buffer;
+    return PixelBuffer(width, height, PixelContents::zeros);
 }
 
-void PixelBuffer::Free::operator()(std::uint8_t* bytes) const {
-    std::free(bytes);
+void PixelBuffer::Free::operator()(std::uint8_t* memory) const {
+    givePixelMemory(memory, bytes);
 }
 
 QImage newPicture(int width, int height, QImage::Format format) {

@@ -6,6 +6,8 @@
 
 #include <QImage>
 
+#include "core/raster/PixelMemory.h"
+
 namespace tavrin {
 
 /// Bytes of a pixel: red, green, blue, alpha, 8 bits each.
@@ -27,14 +29,19 @@ class PixelBuffer {
   public:
     PixelBuffer() = default;
     PixelBuffer(int width, int height);
-    /// A buffer of zeros; memory that is never written costs nothing.
+    /// A buffer of zeros; memory that is new and never written costs nothing.
     static PixelBuffer cleared(int width, int height);
 
     std::uint8_t* data() const { return bytes_.get(); }
 
   private:
+    PixelBuffer(int width, int height, PixelContents contents);
+
     struct Free {
-        void operator()(std::uint8_t* bytes) const;
+        std::size_t bytes;
+        Free() : bytes(0) {}
+        explicit Free(std::size_t size) : bytes(size) {}
+        void operator()(std::uint8_t* memory) const;
     };
     std::unique_ptr<std::uint8_t, Free> bytes_;
 };
