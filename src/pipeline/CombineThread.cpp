@@ -203,14 +203,23 @@ std::optional<LayerFill> CombineThread::scaleLayer(BitmapInfo& record) {
     return std::nullopt;
 }
 
-/// Draws the full buffers that still wait, before anybody looks at them.
-void CombineThread::drawDueLayers() {
+/// Draws one of the full buffers that still wait.
+/// @return false when there was none
+bool CombineThread::drawDueLayer() {
     if (const auto fill = std::exchange(foregroundDue_, {})) {
         drawFullLayer(info_, *info_.pForegroundBitmapInfo, *fill);
         runStages(foregroundStages(), info_, kFullRes);
+        return true;
     }
-    if (const auto fill = std::exchange(backgroundDue_, {}))
-        drawFullLayer(info_, *info_.pBackgroundBitmapInfo, *fill);
+    const auto fill = std::exchange(backgroundDue_, {});
+    if (fill) drawFullLayer(info_, *info_.pBackgroundBitmapInfo, *fill);
+    return fill.has_value();
+}
+
+/// Draws all of them, before somebody looks at them.
+void CombineThread::drawDueLayers() {
+    while (drawDueLayer()) {
+    }
 }
 
 void CombineThread::forgetKeyed() {
@@ -231,8 +240,9 @@ void CombineThread::makePreview() {
 void CombineThread::makeFullPicture() {
     BitmapInfo& combined = *info_.pCombinedBitmapInfo;
     if (!combined.oBitmapRep || !combined.oBitmapRepLowRes) return;
-    drawDueLayers();
-    if (info_.isStale()) return;
+    while (drawDueLayer()) {
+        if (info_.isStale()) return;
+    }
     const bool newBackground = info_.pBackgroundBitmapInfo->bHiResScaleChange.exchange(false);
     if (newBackground) keyedFull_.forget();
     const bool isKeyed = keyedFull_.restore(info_);

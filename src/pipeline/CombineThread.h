@@ -57,6 +57,7 @@ class CombineThread {
     void makePreview();
     void makeFullPicture();
     std::optional<LayerFill> scaleLayer(BitmapInfo& record);
+    bool drawDueLayer();
     void drawDueLayers();
     void forgetKeyed();
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "core/Log.h"
+#include "core/raster/PixelMemory.h"
 #include "core/state/SystemInfo.h"
 #include "pipeline/StartUp.h"
 #include "ui/MainWindow.h"
@@ -13,6 +14,8 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName("Tavrin");
     QApplication::setApplicationVersion(TAVRIN_VERSION);
     tavrin::setTraceLog(true);
+    // A pass takes the memory that the last one gave back.
+    tavrin::keepPixelMemory(std::size_t{1} << 28);
 
     const auto info = std::make_unique<tavrin::SystemInfo>();
     tavrin::startSystem(*info);
