@@ -70,7 +70,23 @@ void roundToBytes(const float* values, std::size_t count, std::uint8_t* out) {
     });
 }
 
-/// The rows [first, last) of a part whose rows and columns take in what `rows` and `columns` say.
+/// Adds to the sums of a row what stays of the pixels that were there, where they are covered in part.
+void keepUncovered(const LineShares& columns, float rowUncovered, const std::uint8_t* there, float* line) {
+    const auto keep = [&](std::size_t column) {
+        const float rest = 1.0F - (1.0F - rowUncovered) * (1.0F - columns.uncovered[column]);
+        for (std::size_t i = column * kPixelBytes; rest > 0.0F && i < (column + 1) * kPixelBytes; ++i)
+            line[i] += rest * static_cast<float>(there[i]);
+    };
+    const std::size_t last = columns.uncovered.size() - 1;
+    if (rowUncovered > 0.0F) {
+        for (std::size_t column = 1; column < last; ++column)
+            keep(column);
+    }
+    keep(0);
+    if (last > 0) keep(last);
+}
+
+/// The rows [first, last) of those that `rows` tells of. `out` is where the first one begins.
 void reduceRows(const QImage& picture, const LineShares& rows, const LineShares& columns, int first, int last,
                 std::uint8_t* out, std::ptrdiff_t outStride) {
     const int left = columns.first.front(), right = columns.first.back() + columns.taps;
@@ -79,11 +95,13 @@ void reduceRows(const QImage& picture, const LineShares& rows, const LineShares&
     std::vector<float> sums(taken), line(made);
     for (int y = first; y < last; ++y) {
         const auto row = static_cast<std::size_t>(y);
+        std::uint8_t* const there = out + y * outStride;
         const std::uint8_t* top = picture.constScanLine(rows.first[row]) + std::ptrdiff_t{kPixelBytes} * left;
         sumRows(top, picture.bytesPerLine(), rows.weightsOf(row), rows.taps, taken, sums.data());
         columns.taps == kUsualTaps ? sumColumns<kUsualTaps>(sums.data(), left, columns, line.data())
                                    : sumColumns<0>(sums.data(), left, columns, line.data());
-        roundToBytes(line.data(), made, out + y * outStride);
+        keepUncovered(columns, rows.uncovered[row], there, line.data());
+        roundToBytes(line.data(), made, there);
     }
 }
 
@@ -96,13 +114,17 @@ namespace tavrin {
 
 HWY_EXPORT(reduceRows);
 
-void reduceByArea(const QImage& picture, int width, int height, const QRect& part, std::uint8_t* out,
-                  std::ptrdiff_t outStride) {
+void drawReduced(const QImage& picture, const QRectF& place, QImage& onto) {
     constexpr int kGrainRows = 16;
-    const LineShares rows = shareLine(picture.height(), height, part.top(), part.top() + part.height());
-    const LineShares columns = shareLine(picture.width(), width, part.left(), part.left() + part.width());
+    const QRect part = place.toAlignedRect() & onto.rect();
+    if (part.isEmpty()) return;
+    const LineShares rows = shareLine(picture.height(), {place.top(), picture.height() / place.height()}, part.top(),
+                                      part.top() + part.height());
+    const LineShares columns = shareLine(picture.width(), {place.left(), picture.width() / place.width()},
+                                         part.left(), part.left() + part.width());
+    std::uint8_t* const out = onto.scanLine(part.top()) + std::ptrdiff_t{kPixelBytes} * part.left();
     runRowRanges({}, part.height(), kGrainRows, [&](int first, int last) {
-        HWY_DYNAMIC_DISPATCH(reduceRows)(picture, rows, columns, first, last, out, outStride);
+        HWY_DYNAMIC_DISPATCH(reduceRows)(picture, rows, columns, first, last, out, onto.bytesPerLine());
     });
 }
 

@@ -92,12 +92,12 @@ QImage inOurFormat(const QImage& picture) {
 }
 
 bool isUpsideUp(const QTransform& t) {
-    return t.m11() > 0 && t.m22() > 0;
+    return t.m12() == 0 && t.m21() == 0 && t.m11() > 0 && t.m22() > 0;
 }
 
 QImage reducedByArea(const QImage& picture, int width, int height) {
     QImage result = newPicture(width, height, picture.format());
-    if (!result.isNull()) reduceByArea(picture, width, height, result.rect(), result.bits(), result.bytesPerLine());
+    if (!result.isNull()) drawReduced(picture, QRectF(result.rect()), result);
     return result;
 }
 
@@ -148,29 +148,20 @@ void BitmapContext::drawImage(const QImage& any, const QRectF& rect, double opac
     QTransform mapping = pictureToDevice(picture, rect, toDevice());
     if (!mapping.mapRect(QRectF(picture.rect())).intersects(QRectF(image_.rect()))) return;
     if (isExact(mapping, picture.rect())) return drawExact(picture, mapping, opacity);
+    const bool enlarged = scaleX(mapping) > 1 || scaleY(mapping) > 1;
+    if (!enlarged && isUpsideUp(mapping) && opacity == 1.0 && !picture.hasAlphaChannel())
+        return drawReduced(picture, mapping.mapRect(QRectF(picture.rect())), image_);
     // What is enlarged is cut to what can be seen. What is only reduced stays whole: its edges then lie where the
     // rectangle has them, and the result is no larger than the picture.
-    const bool enlarged = scaleX(mapping) > 1 || scaleY(mapping) > 1;
     const QRect part = enlarged ? visiblePart(picture, mapping, image_.rect()) : picture.rect();
     if (part.isEmpty()) return;
     mapping = QTransform::fromTranslate(part.x(), part.y()) * mapping;
     const int w = reduced(part.width(), scaleX(mapping)), h = reduced(part.height(), scaleY(mapping));
     if (w == part.width() && h == part.height()) return drawSmooth(partOf(picture, part), mapping, opacity);
+    const QImage small = reducedByArea(partOf(picture, part), w, h);
     const double stepX = static_cast<double>(part.width()) / w, stepY = static_cast<double>(part.height()) / h;
     mapping = QTransform::fromScale(stepX, stepY) * mapping;
-    const bool exact = isExact(mapping, QRect(0, 0, w, h));
-    if (exact && isUpsideUp(mapping) && opacity == 1.0 && !picture.hasAlphaChannel())
-        return drawReduced(partOf(picture, part), mapping.mapRect(QRectF(0, 0, w, h)).toRect());
-    const QImage small = reducedByArea(partOf(picture, part), w, h);
-    exact ? drawExact(small, mapping, opacity) : drawSmooth(small, mapping, opacity);
-}
-
-// An opaque picture reduced to whole pixels goes straight to its place.
-void BitmapContext::drawReduced(const QImage& picture, const QRect& target) {
-    const QRect seen = target & image_.rect();
-    std::uint8_t* out = image_.scanLine(seen.top()) + std::ptrdiff_t{kPixelBytes} * seen.left();
-    reduceByArea(picture, target.width(), target.height(), seen.translated(-target.topLeft()), out,
-                 image_.bytesPerLine());
+    isExact(mapping, small.rect()) ? drawExact(small, mapping, opacity) : drawSmooth(small, mapping, opacity);
 }
 
 // Whole pixels to whole pixels: a quarter turn and mirrors, which move pixels and compute nothing.

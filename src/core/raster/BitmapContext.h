@@ -57,7 +57,6 @@ class BitmapContext {
 
   private:
     QTransform toDevice() const;
-    void drawReduced(const QImage& picture, const QRect& target);
     void drawExact(const QImage& picture, const QTransform& mapping, double opacity);
     void drawSmooth(const QImage& picture, const QTransform& mapping, double opacity);
 
