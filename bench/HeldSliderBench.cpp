@@ -24,10 +24,13 @@ class WaitingView : public Interface {
     /// Call just before `StartUpdate`; the request's number is the next one.
     void asked(std::int32_t number) {
         std::lock_guard lock(mutex_);
-        waiting_.push_back({number, Clock::now()});
+        waiting_.push_back({number, Clock::now(), previewUnderWork_});
     }
     void enableControls(bool enabled, bool) override {
-        if (!enabled) passBegan_ = Clock::now();
+        if (enabled) return;
+        std::lock_guard lock(mutex_);
+        passBegan_ = Clock::now();
+        previewUnderWork_ = true;
     }
     void repaint(const PublishedRows& rows) override {
         if (!rows.lowRes) return;
@@ -35,11 +38,13 @@ class WaitingView : public Interface {
         ++previews;
         longestPass = std::max(longestPass, Milliseconds(now - passBegan_));
         std::lock_guard lock(mutex_);
+        previewUnderWork_ = false;
         const auto isShown = [&](const Request& r) { return r.number <= info_.iCurrentThreadCount; };
         for (const Request& request : waiting_) {
             if (!isShown(request)) continue;
             longestWait = std::max(longestWait, Milliseconds(now - request.time));
-            longestStart = std::max(longestStart, Milliseconds(passBegan_ - request.time));
+            Milliseconds& behind = request.behindPreview ? longestBehindPreview : longestBehindFull;
+            behind = std::max(behind, Milliseconds(passBegan_ - request.time));
         }
         std::erase_if(waiting_, isShown);
     }
@@ -49,17 +54,21 @@ class WaitingView : public Interface {
     }
 
     int previews = 0;
-    Milliseconds longestWait{0}, longestStart{0}, longestPass{0};
+    Milliseconds longestWait{0}, longestPass{0};
+    /// Until a request's own pass began, by what was under work before it.
+    Milliseconds longestBehindPreview{0}, longestBehindFull{0};
 
   private:
     struct Request {
         std::int32_t number;
         Clock::time_point time;
+        bool behindPreview;
     };
 
     const SystemInfo& info_;
-    Clock::time_point passBegan_ = Clock::now();  // of the loop's thread
     std::mutex mutex_;
+    Clock::time_point passBegan_ = Clock::now();
+    bool previewUnderWork_ = false;
     std::vector<Request> waiting_;
 };
 
@@ -99,7 +108,8 @@ void heldSlider(benchmark::State& state) {
     loop.StartMainThread();
     for (auto _ : state) {
         view.previews = 0;
-        view.longestWait = view.longestStart = view.longestPass = Milliseconds(0);
+        view.longestWait = view.longestPass = Milliseconds(0);
+        view.longestBehindPreview = view.longestBehindFull = Milliseconds(0);
         int step = 0;
         const auto end = Clock::now() + std::chrono::seconds(10);
         for (; Clock::now() < end; ++step) {
@@ -112,7 +122,8 @@ void heldSlider(benchmark::State& state) {
         state.counters["moves"] = step;
         state.counters["previews"] = view.previews;
         state.counters["longestWaitMs"] = view.longestWait.count();
-        state.counters["longestUntilPassMs"] = view.longestStart.count();
+        state.counters["longestBehindPreviewMs"] = view.longestBehindPreview.count();
+        state.counters["longestBehindFullMs"] = view.longestBehindFull.count();
         state.counters["longestPassMs"] = view.longestPass.count();
     }
     keepPixelMemory(0);

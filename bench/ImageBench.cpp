@@ -79,8 +79,10 @@ void encode(benchmark::State& state) {
     std::filesystem::remove(path);
 }
 
+// As the source of a layer is drawn: opaque.
 void drawScaled(benchmark::State& state) {
-    const QImage& image = picture(state.range(0));
+    QImage image = picture(state.range(0));
+    image.reinterpretAsFormat(QImage::Format_RGBX8888);
     const double scale = static_cast<double>(state.range(1)) / 1000;
     const int w = static_cast<int>(image.width() * std::min(scale, 1.0));
     const int h = static_cast<int>(image.height() * std::min(scale, 1.0));

@@ -214,16 +214,16 @@ void smoothColumns(const Picture& picture, const SideTable& table, int column) {
     }
 }
 
-void smooth(const Picture& picture) {
+void smooth(const RunContext& run, const Picture& picture) {
     SideTable table(picture.width, picture.height);
-    runRowRanges({}, picture.height, 16, [&](int first, int last) {
+    const bool finished = runRowRanges(run, picture.height, 16, [&](int first, int last) {
         Unchanged row(picture.pixels, kPixelBytes, kPixelBytes, picture.width);
         for (int y = first; y < last; ++y) {
             table.find(picture.key + pixelOffset(picture.width, 0, y), picture.width, y);
             smoothRow(picture, table, y, row);
         }
     });
-    runRows({}, table.columns, 1, [&](int column) { smoothColumns(picture, table, column); });
+    if (finished) runRows(run, table.columns, 1, [&](int column) { smoothColumns(picture, table, column); });
 }
 
 std::int64_t rampHalf(const SystemInfo& info) {
@@ -233,13 +233,13 @@ std::int64_t rampHalf(const SystemInfo& info) {
 
 }  // namespace
 
-void SmoothHiResEdges(SystemInfo& info) {
+void SmoothHiResEdges(SystemInfo& info, const RunContext& run) {
     const int width = info.iOutputPixelWidth, height = info.iOutputPixelHeight;
     const std::uint8_t* key = info.pBackgroundBitmapInfo->pBitmapData;
     std::uint8_t* pixels = info.pCombinedBitmapInfo->pBitmapData;
     if (info.bOutputTransparency || !key || !pixels || width < 1 || height < 1) return;
     try {
-        smooth({key, pixels, width, height, rampHalf(info)});
+        smooth(run, {key, pixels, width, height, rampHalf(info)});
     } catch (const std::bad_alloc&) {
         logError("Memory not allocated!");
     }

@@ -77,7 +77,7 @@ void CombineThread::runPosted() {
         jobs.swap(posted_);
     }
     if (!jobs.empty()) {  // a job may do anything
-        drawDueLayers();
+        drawDueLayers({});
         forgetKeyed();
     }
     for (const auto& job : jobs)
@@ -88,7 +88,6 @@ CombineThread::Turn CombineThread::iterate() {
     runPosted();
     if (!info_.isStale() && runPass() == Turn::dragging) return Turn::dragging;
     if (info_.iCurrentThreadCount > info_.iNewThreadCount) {
-        drawDueLayers();
         for (const auto& work : idleWork_)
             work();
         return Turn::idle;
@@ -117,7 +116,7 @@ CombineThread::Turn CombineThread::runPass() {
     if (info_.isStale()) return Turn::worked;
 
     makePreview();
-    if (!info_.isStale() && !info_.bSkipHiRes) makeFullPicture();
+    if (!info_.isStale() && drawDueLayers(info_.rowsWhileCurrent()) && !info_.bSkipHiRes) makeFullPicture();
     return Turn::worked;
 }
 
@@ -203,23 +202,19 @@ std::optional<LayerFill> CombineThread::scaleLayer(BitmapInfo& record) {
     return std::nullopt;
 }
 
-/// Draws one of the full buffers that still wait.
-/// @return false when there was none
-bool CombineThread::drawDueLayer() {
-    if (const auto fill = std::exchange(foregroundDue_, {})) {
-        drawFullLayer(info_, *info_.pForegroundBitmapInfo, *fill);
-        runStages(foregroundStages(), info_, kFullRes);
-        return true;
+/// Draws the full buffers that still wait, before somebody looks at them.
+/// @return false when a newer request came in between; then what was not finished waits on
+bool CombineThread::drawDueLayers(const RunContext& run) {
+    if (foregroundDue_) {
+        if (!drawFullLayer(info_, *info_.pForegroundBitmapInfo, *foregroundDue_, run)) return false;
+        runStages(foregroundStages(), info_, kFullRes);  // which gives up for a newer request too
+        if (!info_.isStale()) foregroundDue_.reset();
     }
-    const auto fill = std::exchange(backgroundDue_, {});
-    if (fill) drawFullLayer(info_, *info_.pBackgroundBitmapInfo, *fill);
-    return fill.has_value();
-}
-
-/// Draws all of them, before somebody looks at them.
-void CombineThread::drawDueLayers() {
-    while (drawDueLayer()) {
+    if (backgroundDue_) {
+        if (!drawFullLayer(info_, *info_.pBackgroundBitmapInfo, *backgroundDue_, run)) return false;
+        backgroundDue_.reset();
     }
+    return !run.isSuperseded();
 }
 
 void CombineThread::forgetKeyed() {
@@ -240,19 +235,18 @@ void CombineThread::makePreview() {
 void CombineThread::makeFullPicture() {
     BitmapInfo& combined = *info_.pCombinedBitmapInfo;
     if (!combined.oBitmapRep || !combined.oBitmapRepLowRes) return;
-    while (drawDueLayer()) {
-        if (info_.isStale()) return;
-    }
-    const bool newBackground = info_.pBackgroundBitmapInfo->bHiResScaleChange.exchange(false);
+    auto& newBackground = info_.pBackgroundBitmapInfo->bHiResScaleChange;
     if (newBackground) keyedFull_.forget();
     const bool isKeyed = keyedFull_.restore(info_);
     // Until the full picture is done the enlarged preview stands in for it. With nobody to look it is left out, but
     // not where the key may give up and leave what it finds (a silhouette whose picture cannot be read).
     if (!isKeyed && ((info_.pInterface && info_.pInterface->wantsPixels()) || info_.bOutputSilhouette)) {
         BitmapContext& full = *combined.oBitmapRep;
-        full.drawImage(combined.oBitmapRepLowRes->snapshot(), QRectF(0, 0, full.width(), full.height()));
+        const QRectF whole(0, 0, full.width(), full.height());
+        const QImage preview = combined.oBitmapRepLowRes->snapshot();
+        if (!full.drawImage(preview, whole, 1.0, info_.rowsWhileCurrent())) return;
     }
-    if (newBackground) {
+    if (newBackground.exchange(false)) {
         runStages(backgroundStages(), info_, kFullRes);
         // Not raised again: a background interrupted here stays as far as it got until it is scaled anew.
         if (info_.isStale()) return;

@@ -57,8 +57,7 @@ class CombineThread {
     void makePreview();
     void makeFullPicture();
     std::optional<LayerFill> scaleLayer(BitmapInfo& record);
-    bool drawDueLayer();
-    void drawDueLayers();
+    bool drawDueLayers(const RunContext& run);
     void forgetKeyed();
 
     SystemInfo& info_;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <filesystem>
+#include <utility>
 
 #include "core/Log.h"
 #include "core/raster/Rows.h"
@@ -76,7 +77,7 @@ QImage turnedSource(const BitmapInfo& record, const QImage& pixels) {
     } else {
         context.drawImage(pixels, QRectF(0, 0, turned.width(), turned.height()));
     }
-    return turned;
+    return std::move(turned).convertToFormat(QImage::Format_RGBX8888);  // nothing of it is transparent
 }
 
 /// How a layer fits one geometry: the drawn size before the user's scale, and the factor that gives it.
@@ -120,9 +121,9 @@ LayerFill screenFill(const SystemInfo& info) {
     return {info.baseRed, blue ? info.baseBlue : info.baseGreen, blue ? info.baseGreen : info.baseBlue};
 }
 
-void drawFill(BitmapContext& context, const LayerFill& fill) {
-    context.fillRect(QRectF(0, 0, context.width(), context.height()), fill.red / 255.0, fill.green / 255.0,
-                     fill.blue / 255.0, 1.0);
+bool drawFill(BitmapContext& context, const LayerFill& fill, const RunContext& run) {
+    return context.fillRect(QRectF(0, 0, context.width(), context.height()), fill.red / 255.0, fill.green / 255.0,
+                            fill.blue / 255.0, 1.0, run);
 }
 
 bool isDrawable(const BitmapInfo& record) {
@@ -134,8 +135,8 @@ Fit fitFor(const SystemInfo& info, const BitmapInfo& record, const BitmapContext
     return fitSource(record, context.width(), context.height(), portrait);
 }
 
-void drawSource(const BitmapInfo& record, BitmapContext& context, const Fit& fit) {
-    context.drawImage(record.orgImage, placedRect(record, fit, context.width(), context.height()));
+bool drawSource(const BitmapInfo& record, BitmapContext& context, const Fit& fit, const RunContext& run) {
+    return context.drawImage(record.orgImage, placedRect(record, fit, context.width(), context.height()), 1.0, run);
 }
 
 ReadPicture readSourceOf(const SystemInfo& info, const BitmapInfo& record) {
@@ -183,29 +184,34 @@ LayerFill drawPreviewLayer(SystemInfo& info, BitmapInfo& record) {
     const LayerFill fill = screenFill(info);
     if (!record.oBitmapRep || !record.oBitmapRepLowRes) return fill;
     BitmapContext& low = *record.oBitmapRepLowRes;
-    drawFill(low, fill);
+    drawFill(low, fill, {});
     if (isDrawable(record)) {
-        drawSource(record, low, fitFor(info, record, low));
+        drawSource(record, low, fitFor(info, record, low), {});
         record.fOrgScale = fitFor(info, record, *record.oBitmapRep).scale;
     }
     if (info.pInterface) info.pInterface->updateScaleUI();
     return fill;
 }
 
-void drawFullLayer(const SystemInfo& info, BitmapInfo& record, const LayerFill& fill) {
-    emptyFullLayer(record, fill);
-    if (!record.oBitmapRep || !isDrawable(record)) return;
-    drawSource(record, *record.oBitmapRep, fitFor(info, record, *record.oBitmapRep));
+bool drawFullLayer(const SystemInfo& info, BitmapInfo& record, const LayerFill& fill, const RunContext& run) {
+    if (!record.oBitmapRep) return true;
+    BitmapContext& full = *record.oBitmapRep;
+    if (!drawFill(full, fill, run)) return false;
+    return !isDrawable(record) || drawSource(record, full, fitFor(info, record, full), run);
 }
 
 void emptyFullLayer(BitmapInfo& record, const LayerFill& fill) {
-    if (record.oBitmapRep) drawFill(*record.oBitmapRep, fill);
+    if (record.oBitmapRep) drawFill(*record.oBitmapRep, fill, {});
 }
 
 void ChangeBitmapScale(SystemInfo& info, BitmapInfo& record) {
     const LayerFill fill = drawPreviewLayer(info, record);
     const bool dragged = info.pInterface && info.pInterface->mouseDown();
-    dragged ? emptyFullLayer(record, fill) : drawFullLayer(info, record, fill);
+    if (dragged) {
+        emptyFullLayer(record, fill);
+    } else {
+        drawFullLayer(info, record, fill);
+    }
 }
 
 }  // namespace tavrin

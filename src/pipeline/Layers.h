@@ -33,7 +33,8 @@ struct LayerFill {
 /// The parts of the above, for the loop, which shows the preview in between. The full buffer takes the fill that the
 /// preview has, since the screen may have been measured anew.
 LayerFill drawPreviewLayer(SystemInfo& info, BitmapInfo& record);
-void drawFullLayer(const SystemInfo& info, BitmapInfo& record, const LayerFill& fill);
+/// @return false when the run was superseded, so that a part is missing
+bool drawFullLayer(const SystemInfo& info, BitmapInfo& record, const LayerFill& fill, const RunContext& run = {});
 /// In place of the latter while the mouse is held: the fill alone.
 void emptyFullLayer(BitmapInfo& record, const LayerFill& fill);
 

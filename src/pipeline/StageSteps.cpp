@@ -57,7 +57,7 @@ void combine(SystemInfo& info, int res) {
 }
 
 void blendEdges(SystemInfo& info, int) {
-    SmoothHiResEdges(info);
+    SmoothHiResEdges(info, info.rowsWhileCurrent());
 }
 
 void smoothSkin(SystemInfo& info, int) {

@@ -229,6 +229,45 @@ TEST(BitmapContext, TransparentPixelsLeaveWhatIsBelow) {
     EXPECT_EQ(canvas.rgb(2, 2), qRgba(9, 9, 9, 255));
 }
 
+// Whatever the way that a picture takes to the buffer, one that may be stopped gives the same pixels.
+TEST(BitmapContext, ARunThatMayStopDrawsTheSame) {
+    const QImage opaque = noise(300, 260).convertToFormat(QImage::Format_RGBX8888);
+    const QImage clear = plain(300, 260, QColor(90, 40, 20, 120));
+    const auto until = [](bool superseded) {
+        RunContext run;
+        run.superseded = [=] { return superseded; };
+        return run;
+    };
+    int turn = 0;
+    for (const QImage& source : {opaque, clear}) {
+        for (const QRectF& rect : {QRectF(7, 5, 300, 260), QRectF(-3, 2, 150, 130), QRectF(2.3, 4.7, 150.5, 130.2),
+                                   QRectF(0, 0, 320, 640), QRectF(-20.4, 9.9, 700.3, 410.8)}) {
+            for (const double angle : {0.0, std::numbers::pi / 2, 0.3}) {
+                const double opacity = ++turn % 3 == 0 ? 0.6 : 1.0;
+                Canvas usual(320, 640), stoppable(320, 640), stopped(320, 640);
+                const std::vector<std::uint8_t> before = stopped.bytes;
+                const auto draw = [&](Canvas& canvas, const RunContext& run) {
+                    canvas.context.rotate(angle);
+                    canvas.context.translate(0, turn % 2 ? -100 : 0);
+                    return canvas.context.fillRect(QRectF(1, 2, 300, 700), 0.1, 0.5, 0.9, 0.5, run) &&
+                           canvas.context.drawImage(source, rect, opacity, run);
+                };
+                EXPECT_TRUE(draw(usual, {}));
+                EXPECT_TRUE(draw(stoppable, until(false)));
+                ASSERT_EQ(usual.bytes, stoppable.bytes) << turn;
+                EXPECT_FALSE(draw(stopped, until(true)));
+                EXPECT_TRUE(angle != 0.0 || stopped.bytes == before) << turn;
+            }
+        }
+    }
+    for (const QRectF& rect : {QRectF(0, 0, 320, 640), QRectF(-3.5, 2, 150, 130), QRectF(-20.4, 9.9, 700.3, 410.8)}) {
+        Canvas stopped(320, 640);
+        const std::vector<std::uint8_t> before = stopped.bytes;
+        EXPECT_FALSE(stopped.context.drawImage(opaque, rect, 1.0, until(true)));
+        EXPECT_EQ(stopped.bytes, before);
+    }
+}
+
 TEST(BitmapContext, SenselessRectanglesDrawNothing) {
     Canvas canvas(8, 8);
     const std::vector<std::uint8_t> before = canvas.bytes;

@@ -230,6 +230,43 @@ TEST_F(CombineThreadTest, AScaledLayerIsWholeBeforeAnybodyElseLooks) {
     EXPECT_EQ(fullBytes(*info_), fullBytes(*whole));
 }
 
+// What a newer request cuts short is made whole by the pass that follows.
+TEST_F(CombineThreadTest, ANewerRequestAtAnyMomentLosesNothing) {
+    const auto place = [](SystemInfo& info, double scale) {
+        info.pForegroundBitmapInfo->fScale = info.pBackgroundBitmapInfo->fScale = scale;
+        info.pForegroundBitmapInfo->bScaleChange = info.pBackgroundBitmapInfo->bScaleChange = true;
+        info.StartUpdate();
+    };
+    const auto pause = [](int microseconds) { std::this_thread::sleep_for(std::chrono::microseconds(microseconds)); };
+    for (const int smoothing : {0, 1}) {
+        const auto whole = test::stateForOutput(240, 300);
+        useSources(*whole);
+        whole->iGlobalSmoothingMode = smoothing;
+        place(*whole, 0.7);
+        CombineThread(*whole).runUntilIdle();
+
+        info_->iGlobalSmoothingMode = smoothing;
+        std::atomic<int> idleTurns = 0;
+        CombineThread loop(*info_);
+        loop.addIdleWork([&] { ++idleTurns; });
+        loop.StartMainThread();
+        for (int moment = 0; moment < 30; ++moment) {
+            place(*info_, 1.3);
+            pause(moment * 200);
+            place(*info_, 0.7);
+            pause(moment * 150);
+            moment % 2 ? info_->StartUpdate() : loop.post([] {});
+            pause(moment % 5 * 100);
+            info_->StartUpdate();
+            const int before = idleTurns;
+            for (int wait = 0; wait < 30'000 && idleTurns == before; ++wait)
+                pause(1000);
+            ASSERT_GT(idleTurns, before);
+            ASSERT_EQ(fullBytes(*info_), fullBytes(*whole)) << moment << ", smoothing " << smoothing;
+        }
+    }
+}
+
 TEST_F(CombineThreadTest, WhileALayerIsDraggedItsFullBufferHoldsTheScreenAlone) {
     CombineThread loop(*info_);
     loop.runUntilIdle();

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/raster/AreaMean.h"
 #include "core/raster/Pixels.h"
+#include "core/raster/Resampling.h"
 
 namespace tavrin {
 
@@ -52,8 +52,8 @@ bool isUpright(const QTransform& t) {
     return (t.m12() == 0 && t.m21() == 0) || (t.m11() == 0 && t.m22() == 0);
 }
 
-bool liesOnPixels(const QTransform& t, const QRect& picture) {
-    const QRectF r = t.mapRect(QRectF(picture));
+bool liesOnPixels(const QTransform& t, const QRectF& rect) {
+    const QRectF r = t.mapRect(rect);
     return isUpright(t) && isWhole(r.left()) && isWhole(r.top()) && isWhole(r.right()) && isWhole(r.bottom());
 }
 
@@ -95,9 +95,9 @@ bool isUpsideUp(const QTransform& t) {
     return t.m12() == 0 && t.m21() == 0 && t.m11() > 0 && t.m22() > 0;
 }
 
-QImage reducedByArea(const QImage& picture, int width, int height) {
+QImage reducedByArea(const QImage& picture, int width, int height, const RunContext& run) {
     QImage result = newPicture(width, height, picture.format());
-    if (!result.isNull()) drawReduced(picture, QRectF(result.rect()), result);
+    if (!result.isNull() && !drawResampled(picture, QRectF(result.rect()), result, run)) return {};
     return result;
 }
 
@@ -136,36 +136,61 @@ std::unique_ptr<QPainter> BitmapContext::painter() {
     return painter;
 }
 
-void BitmapContext::fillRect(const QRectF& rect, double red, double green, double blue, double alpha) {
-    if (image_.isNull() || !isReasonable(toDevice(), rect)) return;
-    const QColor color(nearestByte(red), nearestByte(green), nearestByte(blue), nearestByte(alpha));
-    painter()->fillRect(rect, forPainter(color));
+/// Paints the buffer strip by strip where somebody may want it to stop. Each pixel comes out as in one go; what has
+/// soft edges, which would not, is painted to its end.
+bool BitmapContext::paintInStrips(QPainter& painter, const RunContext& run, const std::function<void()>& paint) {
+    constexpr int kStripRows = 128;  // enough for the painter to use more than one core
+    const QTransform mapping = painter.transform();
+    if (!run.superseded || painter.testRenderHint(QPainter::Antialiasing)) {
+        paint();
+        return !run.isSuperseded();
+    }
+    for (int y = 0; y < image_.height(); y += kStripRows) {
+        if (run.isSuperseded()) return false;
+        painter.resetTransform();
+        painter.setClipRect(0, y, image_.width(), kStripRows);
+        painter.setTransform(mapping);
+        paint();
+    }
+    return !run.isSuperseded();
 }
 
-void BitmapContext::drawImage(const QImage& any, const QRectF& rect, double opacity) {
-    if (image_.isNull() || any.isNull() || !isReasonable(toDevice(), rect)) return;
+bool BitmapContext::fillRect(const QRectF& rect, double red, double green, double blue, double alpha,
+                             const RunContext& run) {
+    if (image_.isNull() || !isReasonable(toDevice(), rect)) return true;
+    const QColor color = forPainter({nearestByte(red), nearestByte(green), nearestByte(blue), nearestByte(alpha)});
+    const auto filling = painter();
+    filling->setRenderHint(QPainter::Antialiasing, !liesOnPixels(toDevice(), rect));
+    return paintInStrips(*filling, run, [&] { filling->fillRect(rect, color); });
+}
+
+bool BitmapContext::drawImage(const QImage& any, const QRectF& rect, double opacity, const RunContext& run) {
+    if (image_.isNull() || any.isNull() || !isReasonable(toDevice(), rect)) return true;
     const QImage picture = inOurFormat(any);
     QTransform mapping = pictureToDevice(picture, rect, toDevice());
-    if (!mapping.mapRect(QRectF(picture.rect())).intersects(QRectF(image_.rect()))) return;
-    if (isExact(mapping, picture.rect())) return drawExact(picture, mapping, opacity);
+    if (!mapping.mapRect(QRectF(picture.rect())).intersects(QRectF(image_.rect()))) return true;
+    if (isExact(mapping, picture.rect())) return drawExact(picture, mapping, opacity, run);
+    if (isUpsideUp(mapping) && opacity == 1.0 && !picture.hasAlphaChannel())
+        return drawResampled(picture, mapping.mapRect(QRectF(picture.rect())), image_, run);
     const bool enlarged = scaleX(mapping) > 1 || scaleY(mapping) > 1;
-    if (!enlarged && isUpsideUp(mapping) && opacity == 1.0 && !picture.hasAlphaChannel())
-        return drawReduced(picture, mapping.mapRect(QRectF(picture.rect())), image_);
     // What is enlarged is cut to what can be seen. What is only reduced stays whole: its edges then lie where the
     // rectangle has them, and the result is no larger than the picture.
     const QRect part = enlarged ? visiblePart(picture, mapping, image_.rect()) : picture.rect();
-    if (part.isEmpty()) return;
+    if (part.isEmpty()) return true;
     mapping = QTransform::fromTranslate(part.x(), part.y()) * mapping;
     const int w = reduced(part.width(), scaleX(mapping)), h = reduced(part.height(), scaleY(mapping));
-    if (w == part.width() && h == part.height()) return drawSmooth(partOf(picture, part), mapping, opacity);
-    const QImage small = reducedByArea(partOf(picture, part), w, h);
+    if (w == part.width() && h == part.height()) return drawSmooth(partOf(picture, part), mapping, opacity, run);
+    const QImage small = reducedByArea(partOf(picture, part), w, h, run);
+    if (small.isNull()) return !run.isSuperseded();
     const double stepX = static_cast<double>(part.width()) / w, stepY = static_cast<double>(part.height()) / h;
     mapping = QTransform::fromScale(stepX, stepY) * mapping;
-    isExact(mapping, small.rect()) ? drawExact(small, mapping, opacity) : drawSmooth(small, mapping, opacity);
+    return isExact(mapping, small.rect()) ? drawExact(small, mapping, opacity, run)
+                                          : drawSmooth(small, mapping, opacity, run);
 }
 
 // Whole pixels to whole pixels: a quarter turn and mirrors, which move pixels and compute nothing.
-void BitmapContext::drawExact(const QImage& picture, const QTransform& mapping, double opacity) {
+bool BitmapContext::drawExact(const QImage& picture, const QTransform& mapping, double opacity,
+                              const RunContext& run) {
     const QRect target = mapping.mapRect(QRectF(picture.rect())).toRect();
     const QTransform quarter(0, 1, -1, 0, 0, 0);
     QImage upright = picture;
@@ -178,16 +203,17 @@ void BitmapContext::drawExact(const QImage& picture, const QTransform& mapping, 
     if (rest.m11() < 0 || rest.m22() < 0) upright = upright.mirrored(rest.m11() < 0, rest.m22() < 0);
     QPainter painter(&image_);
     painter.setOpacity(opacity);
-    painter.drawImage(target.topLeft(), forPainter(upright));
+    return paintInStrips(painter, run, [&] { painter.drawImage(target.topLeft(), forPainter(upright)); });
 }
 
-void BitmapContext::drawSmooth(const QImage& picture, const QTransform& mapping, double opacity) {
+bool BitmapContext::drawSmooth(const QImage& picture, const QTransform& mapping, double opacity,
+                               const RunContext& run) {
     QPainter painter(&image_);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setRenderHint(QPainter::Antialiasing, !liesOnPixels(mapping, picture.rect()));
     painter.setTransform(mapping);
     painter.setOpacity(opacity);
-    painter.drawImage(0, 0, forPainter(picture));
+    return paintInStrips(painter, run, [&] { painter.drawImage(0, 0, forPainter(picture)); });
 }
 
 void BitmapContext::scale(double x, double y) {

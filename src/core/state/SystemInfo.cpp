@@ -1,10 +1,17 @@
 #include "core/state/SystemInfo.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/Log.h"
 
 namespace tavrin {
+
+namespace {
+
+constexpr int kRowsAtOnce = 64;  // copied for the view between two looks for a newer request
+
+}
 
 SystemInfo::SystemInfo()
     : pForegroundBitmapInfo(std::make_unique<BitmapInfo>(BitmapInfo::kForeground)),
@@ -80,7 +87,12 @@ void SystemInfo::publish(BitmapInfo& record, bool lowRes, int firstRow, int last
     if (pInterface->wantsPixels()) {
         rows.pixels = QImage(width, count, QImage::Format_RGBA8888);
         if (rows.pixels.isNull()) return;
-        std::memcpy(rows.pixels.bits(), bytes + pixelOffset(width, 0, firstRow), pixelBytes(width, count));
+        std::uint8_t* const copy = rows.pixels.bits();
+        for (int y = 0; y < count; y += kRowsAtOnce) {
+            if (!lowRes && isStale()) return;
+            std::memcpy(copy + pixelOffset(width, 0, y), bytes + pixelOffset(width, 0, firstRow + y),
+                        pixelBytes(width, std::min(kRowsAtOnce, count - y)));
+        }
     }
     rows.firstRow = firstRow;
     rows.rowCount = count;

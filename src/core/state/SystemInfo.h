@@ -87,7 +87,8 @@ class SystemInfo : public Settings,
     RunContext rowsWhileWanted() const;
     bool isSuperseded() const { return !bLightingForceCompute && isStale(); }
 
-    /// Hands rows [first, last) of the combined picture to the interface, if there is one.
+    /// Hands rows [first, last) of the combined picture to the interface, if there is one and nothing newer is
+    /// wanted.
     void publishFull(int firstRow, int lastRow);
     /// Hands the whole combined preview to the interface, if there is one.
     void publishLowRes();

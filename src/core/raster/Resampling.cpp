@@ -1,12 +1,11 @@
-#include "core/raster/AreaMean.h"
+#include "core/raster/Resampling.h"
 
 #include "core/raster/LineShares.h"
 #include "core/raster/Pixels.h"
-#include "core/raster/Rows.h"
 
 // This file is compiled once for each vector target.
 #undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "core/raster/AreaMean.cpp"
+#define HWY_TARGET_INCLUDE "core/raster/Resampling.cpp"
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
@@ -22,8 +21,8 @@ using Words = hn::Rebind<std::int32_t, D>;
 template <class D>
 using Bytes = hn::Rebind<std::uint8_t, D>;
 
-/// Of a picture reduced to between one half and its size, as most are.
-constexpr int kUsualTaps = 3;
+/// Of a picture enlarged, and of one reduced to between one half and its size, as most are.
+constexpr int kEnlargedTaps = 2, kReducedTaps = 3;
 
 /// Weighted sums of rows, byte by byte.
 void sumRows(const std::uint8_t* first, std::ptrdiff_t stride, const float* weights, int taps, std::size_t count,
@@ -87,8 +86,8 @@ void keepUncovered(const LineShares& columns, float rowUncovered, const std::uin
 }
 
 /// The rows [first, last) of those that `rows` tells of. `out` is where the first one begins.
-void reduceRows(const QImage& picture, const LineShares& rows, const LineShares& columns, int first, int last,
-                std::uint8_t* out, std::ptrdiff_t outStride) {
+void resampleRows(const QImage& picture, const LineShares& rows, const LineShares& columns, int first, int last,
+                  std::uint8_t* out, std::ptrdiff_t outStride) {
     const int left = columns.first.front(), right = columns.first.back() + columns.taps;
     const std::size_t taken = static_cast<std::size_t>(right - left) * kPixelBytes;
     const std::size_t made = columns.first.size() * kPixelBytes;
@@ -98,8 +97,13 @@ void reduceRows(const QImage& picture, const LineShares& rows, const LineShares&
         std::uint8_t* const there = out + y * outStride;
         const std::uint8_t* top = picture.constScanLine(rows.first[row]) + std::ptrdiff_t{kPixelBytes} * left;
         sumRows(top, picture.bytesPerLine(), rows.weightsOf(row), rows.taps, taken, sums.data());
-        columns.taps == kUsualTaps ? sumColumns<kUsualTaps>(sums.data(), left, columns, line.data())
-                                   : sumColumns<0>(sums.data(), left, columns, line.data());
+        if (columns.taps == kEnlargedTaps) {
+            sumColumns<kEnlargedTaps>(sums.data(), left, columns, line.data());
+        } else if (columns.taps == kReducedTaps) {
+            sumColumns<kReducedTaps>(sums.data(), left, columns, line.data());
+        } else {
+            sumColumns<0>(sums.data(), left, columns, line.data());
+        }
         keepUncovered(columns, rows.uncovered[row], there, line.data());
         roundToBytes(line.data(), made, there);
     }
@@ -112,19 +116,19 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace tavrin {
 
-HWY_EXPORT(reduceRows);
+HWY_EXPORT(resampleRows);
 
-void drawReduced(const QImage& picture, const QRectF& place, QImage& onto) {
+bool drawResampled(const QImage& picture, const QRectF& place, QImage& onto, const RunContext& run) {
     constexpr int kGrainRows = 16;
     const QRect part = place.toAlignedRect() & onto.rect();
-    if (part.isEmpty()) return;
+    if (part.isEmpty()) return true;
     const LineShares rows = shareLine(picture.height(), {place.top(), picture.height() / place.height()}, part.top(),
                                       part.top() + part.height());
     const LineShares columns = shareLine(picture.width(), {place.left(), picture.width() / place.width()},
                                          part.left(), part.left() + part.width());
     std::uint8_t* const out = onto.scanLine(part.top()) + std::ptrdiff_t{kPixelBytes} * part.left();
-    runRowRanges({}, part.height(), kGrainRows, [&](int first, int last) {
-        HWY_DYNAMIC_DISPATCH(reduceRows)(picture, rows, columns, first, last, out, onto.bytesPerLine());
+    return runRowRanges(run, part.height(), kGrainRows, [&](int first, int last) {
+        HWY_DYNAMIC_DISPATCH(resampleRows)(picture, rows, columns, first, last, out, onto.bytesPerLine());
     });
 }
 
