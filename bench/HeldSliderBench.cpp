@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
+#include <functional>
 #include <mutex>
+#include <random>
 #include <thread>
 #include <vector>
 
 #include "BenchJob.h"
+#include "effects/Presets.h"
 #include "pipeline/CombineThread.h"
 
 namespace tavrin {
@@ -90,20 +93,19 @@ void move(SystemInfo& info, int slider, int step) {
     }
 }
 
-// The arguments are the threads and the slider; with one thread a core stays free for the hand. Moves come every 10
-// ms, but now and then the hand rests long enough for the full picture to begin.
-void heldSlider(benchmark::State& state) {
-    const ThreadLimit limit(static_cast<int>(state.range(0)));
+struct Hand {
+    std::chrono::seconds time;
+    int slider;
+    std::function<int(int step)> rest;  // ms after each move
+};
+
+/// Moves the slider of a job that has been set up.
+void hold(benchmark::State& state, SystemInfo& info, const Hand& hand) {
     keepPixelMemory(std::size_t{1} << 28);  // as in the window
-    const auto info = bench::newJob();
-    WaitingView view(*info);
-    info->pInterface = &view;
-    const int slider = static_cast<int>(state.range(1));
-    info->bAdvancedHairDetectionON = slider == kKeyWithHair;
-    info->iMacroHairColor = 6;
-    info->oFontLabelObject[0].sText = "Title";
-    ChangeImageSize(*info);
-    CombineThread loop(*info);
+    WaitingView view(info);
+    info.pInterface = &view;
+    ChangeImageSize(info);
+    CombineThread loop(info);
     loop.runUntilIdle();
     loop.StartMainThread();
     for (auto _ : state) {
@@ -111,12 +113,12 @@ void heldSlider(benchmark::State& state) {
         view.longestWait = view.longestPass = Milliseconds(0);
         view.longestBehindPreview = view.longestBehindFull = Milliseconds(0);
         int step = 0;
-        const auto end = Clock::now() + std::chrono::seconds(10);
+        const auto end = Clock::now() + hand.time;
         for (; Clock::now() < end; ++step) {
-            move(*info, slider, step);
-            view.asked(info->iNewThreadCount + 1);
-            info->StartUpdate();
-            std::this_thread::sleep_for(std::chrono::milliseconds(step % 50 == 0 ? 30 + step % 7 * 5 : 10));
+            move(info, hand.slider, step);
+            view.asked(info.iNewThreadCount + 1);
+            info.StartUpdate();
+            std::this_thread::sleep_for(std::chrono::milliseconds(hand.rest(step)));
         }
         waitUntilServed(view);
         state.counters["moves"] = step;
@@ -129,11 +131,47 @@ void heldSlider(benchmark::State& state) {
     keepPixelMemory(0);
 }
 
+// The arguments are the threads and the slider; with one thread a core stays free for the hand. Moves come every 10
+// ms, but now and then the hand rests long enough for the full picture to begin.
+void heldSlider(benchmark::State& state) {
+    const ThreadLimit limit(static_cast<int>(state.range(0)));
+    const auto info = bench::newJob();
+    const int slider = static_cast<int>(state.range(1));
+    info->bAdvancedHairDetectionON = slider == kKeyWithHair;
+    info->iMacroHairColor = 6;
+    info->oFontLabelObject[0].sText = "Title";
+    hold(state, *info,
+         {std::chrono::seconds(10), slider, [](int step) { return step % 50 == 0 ? 30 + step % 7 * 5 : 10; }});
+}
+
 BENCHMARK(heldSlider)
     ->ArgsProduct({{1, 2}, {kKey, kKeyWithHair, kText, kScale}})
     ->Iterations(1)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
+
+// A slider of the key, with each look of each effect: moves come at any moment of the full picture.
+void heldSliderWith(benchmark::State& state, const PresetGroup& group, const Preset& look) {
+    const auto info = bench::newJob();
+    if (std::string(group.name) == "frame-fill") info->oFrame->iFrameType = 1;
+    if (!applyPreset(*info, group, look.name).empty()) return state.SkipWithError("no such look here");
+    std::minstd_rand random(1);
+    hold(state, *info, {std::chrono::seconds(4), kKey, [&](int) { return 8 + static_cast<int>(random() % 200); }});
+}
+
+const bool kRegistered = [] {
+    for (const PresetGroup& group : presetGroups()) {
+        for (const Preset& look : group.presets) {
+            if (std::string(look.name) == "none") continue;
+            const std::string name = std::string("heldSliderWith/") + group.name + "/" + look.name;
+            benchmark::RegisterBenchmark(name.c_str(), heldSliderWith, std::cref(group), std::cref(look))
+                ->Iterations(1)
+                ->Unit(benchmark::kMillisecond)
+                ->UseRealTime();
+        }
+    }
+    return true;
+}();
 
 }  // namespace
 }  // namespace tavrin

@@ -84,27 +84,31 @@ PixelBuffer blurredCopy(SystemInfo& info, const PassGeometry& size, const std::u
     PixelBuffer copy(size.width, size.height);
     if (!copy.data()) return copy;
     std::memcpy(copy.data(), buffer, pixelBytes(size.width, size.height));
-    if (radius > 0.0005) BlurBitmap(info, copy.data(), size.width, size.height, size.dpi, kEveryPixel, radius);
+    if (radius > 0.0005) {
+        BlurBitmap(info, copy.data(), size.width, size.height, size.dpi, kEveryPixel, radius, info.rowsWhileWanted());
+    }
     return copy;
 }
 
-// What the mask covers, softened; empty when memory is refused. Only the third byte counts, and a blur that every
-// pixel passes leaves it independent of the others.
-std::vector<std::uint8_t> coverOf(const std::uint8_t* mask, const PassGeometry& size, int feather) {
+// What the mask covers, softened; empty when memory is refused or the run superseded. Only the third byte counts, and
+// a blur that every pixel passes leaves it independent of the others.
+std::vector<std::uint8_t> coverOf(const RunContext& run, const std::uint8_t* mask, const PassGeometry& size,
+                                  int feather) {
     std::vector<std::uint8_t> cover;
     try {
         cover.resize(pixelBytes(size.width, size.height) / kPixelBytes);
     } catch (const std::bad_alloc&) {
+        logError("Memory not allocated!");
         return {};
     }
-    runRows({}, size.height, 32, [&](int y) {
+    const bool finished = runRows(run, size.height, 32, [&](int y) {
         const std::size_t first = pixelOffset(size.width, 0, y) / kPixelBytes;
         for (std::size_t i = first; i < first + static_cast<std::size_t>(size.width); ++i)
             cover[i] = mask[i * kPixelBytes + 2];
     });
-    if (feather >= 2) {
-        blurWithWindow({}, {cover.data(), size.width, size.height}, windowReach(size.dpi, feather / 500.0));
-    }
+    if (!finished) return {};
+    const int reach = windowReach(size.dpi, feather / 500.0);
+    if (feather >= 2 && !blurWithWindow(run, {cover.data(), size.width, size.height}, reach)) return {};
     return cover;
 }
 
@@ -134,7 +138,7 @@ void drawShape(SystemInfo& info, const ImageFrame& frame, std::uint8_t* mask, co
         case 1:
             return DrawRectFrame(info, frame, mask, size.width, size.height);
         case 2:
-            return DrawOvalFrame(info, frame, mask, size.width, size.height);
+            return DrawOvalFrame(info, frame, mask, size.width, size.height, info.rowsWhileWanted());
         case 3:
             return DrawHeartFrame(info, frame, mask, size.width, size.height);
         case 4:
@@ -175,8 +179,9 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
             break;
     }
     if (frame.iFrameFeather >= 2 && info.isStale()) return;  // a stale blur leaves nothing of the mask
-    const std::vector<std::uint8_t> cover = coverOf(mask, size, frame.iFrameFeather);
-    if (cover.empty()) return logError("Memory not allocated!");
+    const RunContext run = info.rowsWhileWanted();
+    const std::vector<std::uint8_t> cover = coverOf(run, mask, size, frame.iFrameFeather);
+    if (cover.empty()) return;
     params.cover = cover.data();
     std::optional<LoadedTexture> texture;
     if (frame.oTexture.bHaveTexture) {
@@ -188,7 +193,7 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
     // A displacing texture sees pixels that are already framed, so its rows have an order.
     const int grain = params.texture && params.texture->displaces ? size.height : 16;
     const std::uint64_t seed = params.texture ? nextRandomSeed() : 0;
-    runRows(info.rowsWhileWanted(), size.height, grain,
+    runRows(run, size.height, grain,
             [&](int y) { frameRow(params, buffer, y, RandomSource(seed, static_cast<std::uint64_t>(y))); });
 }
 
@@ -200,12 +205,8 @@ void AddFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* buffer, i
         picture = readKeptPicture(path);
         if (picture.isNull()) return;
     }
-    std::vector<std::uint8_t> mask;
-    try {
-        mask.resize(pixelBytes(size.width, size.height));
-    } catch (const std::bad_alloc&) {
-        return logError("Memory not allocated!");
-    }
+    const PixelBuffer mask = PixelBuffer::cleared(size.width, size.height);
+    if (!mask.data()) return logError("Memory not allocated!");
     drawShape(info, frame, mask.data(), size);
     CombineFrame(info, frame, picture, mask.data(), buffer, res);
 }

@@ -62,8 +62,8 @@ class OvalPainter {
     }
 
     /// Paints what lies outside of the outlines where they are closed.
-    void fillClosed() {
-        runRows({}, height_, 32, [this](int y) {
+    void fillClosed(const RunContext& run) {
+        runRows(run, height_, 32, [this](int y) {
             std::uint8_t* pixel = mask_ + pixelOffset(width_, 0, y);
             const int left = left_[static_cast<std::size_t>(y)], right = right_[static_cast<std::size_t>(y)];
             for (int x = 0; x < width_; ++x, pixel += kPixelBytes) {
@@ -146,7 +146,8 @@ class OvalPainter {
 
 }  // namespace
 
-void DrawOvalFrame(SystemInfo& /*info*/, const ImageFrame& frame, std::uint8_t* mask, int width, int height) {
+void DrawOvalFrame(SystemInfo& /*info*/, const ImageFrame& frame, std::uint8_t* mask, int width, int height,
+                   const RunContext& run) {
     const int cx = width / 2, cy = height / 2;
     Axes axes;
     axes.a = cx * (100.0 - frame.iFrameThickness) / 100.0;
@@ -154,13 +155,14 @@ void DrawOvalFrame(SystemInfo& /*info*/, const ImageFrame& frame, std::uint8_t* 
     OvalPainter painter(mask, width, height, frame.bFrameArch);
     bool painted = true;
     while (painted) {
+        if (run.isSuperseded()) return;
         painted = false;
         for (int i = 0; i < 2; ++i) {
             axes = {axes.a + 0.5, axes.b + 0.5};
             painted = painter.paint(axes) || painted;
         }
     }
-    painter.fillClosed();
+    painter.fillClosed(run);
 }
 
 }  // namespace tavrin

@@ -17,8 +17,9 @@ void DrawRectFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* mask
 
 /// Everything outside an ellipse whose margin is `iFrameThickness` percent of half the width on all sides, painted as
 /// outlines that grow by half a pixel until they have left the picture. With `bFrameArch` the lower half of the
-/// opening has straight sides that run off the bottom.
-void DrawOvalFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* mask, int width, int height);
+/// opening has straight sides that run off the bottom. A superseded run leaves some outlines out.
+void DrawOvalFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* mask, int width, int height,
+                   const RunContext& run = {});
 
 /// Everything outside a heart; its outline, three lines thick, stays without weight. Ends early when the state is
 /// stale, unless `bLightingForceCompute` is set.

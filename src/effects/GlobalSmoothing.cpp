@@ -86,7 +86,8 @@ void FastGlobalImageSmoothing(SystemInfo& info, int, std::uint8_t* rgba, int hiR
     try {
         const SmoothingTiles tiles(g.width, g.height);
         if (!tiles.data()) throw std::bad_alloc();
-        runRows({}, tiles.tileRows(), 2, [&](int row) { loadTileRow(tiles, row, rgba); });
+        if (!runRows(info.rowsWhileCurrent(), tiles.tileRows(), 2, [&](int row) { loadTileRow(tiles, row, rgba); }))
+            return;
         smooth(info.rowsWhileCurrent(), tiles, {3, sigma, lambda, 4.0});
         runRows({}, tiles.tileRows(), 2, [&](int row) { storeTileRow(tiles, row, rgba); });
     } catch (const std::bad_alloc&) {

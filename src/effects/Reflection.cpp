@@ -251,8 +251,9 @@ void AddReflection(SystemInfo& info, int hiRes, const BitmapInfo& /*layer*/, con
     const Composite composite{
         params,     key,     mirror.data(), texture ? &texture->params : nullptr, texture ? nextRandomSeed() : 0,
         background, combined};
-    runRows({}, params.height, kGrainRows, [&](int y) { composite.row(y); });
-    addRipple(params, mirror.data(), combined);
+    const RunContext context = params.preview ? RunContext() : info.rowsWhileCurrent();
+    if (runRows(context, params.height, kGrainRows, [&](int y) { composite.row(y); }))
+        addRipple(params, mirror.data(), combined);
 }
 
 }  // namespace tavrin

@@ -163,7 +163,7 @@ class StarRun {
     const RunContext context_;
     const StarParams params_;
     std::uint8_t* picture_;
-    std::vector<std::uint8_t> mask_, source_;
+    PixelVector<std::uint8_t> mask_, source_;
     std::unique_ptr<StarPainter> painter_;  // made for the first star
 };
 

@@ -44,8 +44,7 @@ bool GreenGuard::build(const SystemInfo& info, const std::uint8_t* foreground, i
     iFloodHeight = height;
     if (!allocate(pGreenProtectionBitmap) || !classify(info)) return false;
     fillFromBorder(info);
-    findEdge();
-    return drawBand(info) && (info.iGreenProtectMode != 2 || protectShirt(info));
+    return findEdge() && drawBand(info) && (info.iGreenProtectMode != 2 || protectShirt(info));
 }
 
 bool GreenGuard::allocate(std::vector<std::uint8_t>& bytes) {
@@ -88,26 +87,26 @@ void GreenGuard::fillFromBorder(const SystemInfo& info) {
 
 // Of two neighbours of which one is screen, the other becomes an edge: along the rows first, then along the columns.
 // No mark makes or unmakes screen, so rows and columns may be taken in any order.
-void GreenGuard::findEdge() {
+bool GreenGuard::findEdge() {
     constexpr int kColumns = 64;
     const auto mark = [](std::uint8_t& a, std::uint8_t& b) {
         if (a == kScreen && b != kScreen) b = kEdge;
         if (a != kScreen && b == kScreen) a = kEdge;
     };
     std::uint8_t* bitmap = pGreenProtectionBitmap.data();
-    runRows({}, iFloodHeight, 16, [&](int y) {
+    const bool marked = runRows(context_, iFloodHeight, 16, [&](int y) {
         std::uint8_t* row = bitmap + index(0, y);
         for (int x = 1; x < iFloodWidth; ++x)
             mark(row[x - 1], row[x]);
     });
-    runRows({}, (iFloodWidth - 1) / kColumns + 1, 1, [&](int block) {
-        const int first = block * kColumns, last = std::min(first + kColumns, iFloodWidth);
-        for (int y = 0; y < iFloodHeight - 1; ++y) {
-            std::uint8_t* row = bitmap + index(0, y);
-            for (int x = first; x < last; ++x)
-                mark(row[x], row[x + iFloodWidth]);
-        }
-    });
+    return marked && runRows(context_, (iFloodWidth - 1) / kColumns + 1, 1, [&](int block) {
+               const int first = block * kColumns, last = std::min(first + kColumns, iFloodWidth);
+               for (int y = 0; y < iFloodHeight - 1; ++y) {
+                   std::uint8_t* row = bitmap + index(0, y);
+                   for (int x = first; x < last; ++x)
+                       mark(row[x], row[x + iFloodWidth]);
+               }
+           });
 }
 
 void GreenGuard::drawDisc(int x, int y, std::int64_t radius) {
@@ -132,10 +131,10 @@ bool GreenGuard::drawBand(const SystemInfo& info) {
     const std::int64_t radius = std::min(wanted, 10 * (static_cast<std::int64_t>(iFloodWidth) + iFloodHeight));
     const std::int64_t step = radius + 4 < 9 ? 1 : radius / 5;
     for (std::int64_t y = 0; y < iFloodHeight; y += step) {
-        if (context_.isSuperseded()) return false;
         for (int x = 0; x < iFloodWidth; ++x) {
-            if (pGreenProtectionBitmap[index(x, static_cast<int>(y))] == kEdge)
-                drawDisc(x, static_cast<int>(y), radius);
+            if (pGreenProtectionBitmap[index(x, static_cast<int>(y))] != kEdge) continue;
+            if (context_.isSuperseded()) return false;
+            drawDisc(x, static_cast<int>(y), radius);
         }
     }
     return true;

@@ -68,7 +68,7 @@ class GreenGuard {
     bool allocate(std::vector<std::uint8_t>& bytes);
     bool classify(const SystemInfo& info);
     void fillFromBorder(const SystemInfo& info);
-    void findEdge();
+    bool findEdge();
     bool drawBand(const SystemInfo& info);
     void drawDisc(int x, int y, std::int64_t radius);
     bool protectShirt(const SystemInfo& info);

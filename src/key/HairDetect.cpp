@@ -26,8 +26,8 @@ bool findSkin(SystemInfo& info, const std::uint8_t* foreground, std::uint8_t* co
     measureSkin(info, true, foreground, width, height);
     const auto mask =
         blurredSkinMask(info, SkinMask(info, info.bComputeSkinColor, SkinMaskLimits()), foreground, width, height);
-    if (mask) writeMask(mask.get(), combined, width, height);
-    return mask != nullptr;
+    if (mask.data()) writeMask(mask.numbers(), combined, width, height);
+    return mask.data() != nullptr;
 }
 
 std::uint8_t* detailMap(SystemInfo& info, int width, int height) {

@@ -77,7 +77,7 @@ void EffectsLightingGlow(SystemInfo& info, std::int32_t* map, int width, int hei
         glowRow(params, y, row);
         if (hasFirst) row[x] = glowOfFirst(key, params, static_cast<int>(x), y, before);
     });
-    if (finished) blurMap(nullptr, map, width, height, static_cast<int>(std::min(radius, kFarAway)));
+    if (finished) blurMap(info, map, width, height, static_cast<int>(std::min(radius, kFarAway)));
 }
 
 LightingRun::LightingRun(SystemInfo& info, int width, int height, int hiRes) : info_(info) {
@@ -89,7 +89,8 @@ LightingRun::LightingRun(SystemInfo& info, int width, int height, int hiRes) : i
         logError("Memory not allocated!");
         return;
     }
-    info.bLightingForceCompute = true;
+    // A preview always gets its light. A full picture that is superseded keys no pixel, so it needs none.
+    info.bLightingForceCompute = hiRes == 0;
     EffectsLighting(info, info.oLightingMap.data(), width, height, hiRes);
     info.bLightingForceCompute = false;
 }
@@ -106,20 +107,20 @@ double sliderGain(const Field<std::int32_t>& slider) {
     return slider * 30.0 - 1500.0;
 }
 
-void blurMap(const SystemInfo* info, std::int32_t* map, int width, int height, int radius) {
-    const PixelBuffer buffer(width, height);
-    if (!buffer.data()) return logError("Memory not allocated!");
-    auto* const soft = reinterpret_cast<std::int32_t*>(buffer.data());
-    gaussBlur_Int(info, map, soft, width, height, radius);
-    runRows({}, height, 16, [&](int y) {
+void blurMap(const SystemInfo& info, std::int32_t* map, int width, int height, int radius) {
+    const PixelBuffer soft(width, height);
+    if (!soft.data()) return logError("Memory not allocated!");
+    const RunContext context = info.rowsWhileWanted();
+    if (!gaussBlur_Int(context, map, soft.numbers(), width, height, radius)) return;
+    runRows(context, height, 16, [&](int y) {
         const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(y) * width;
-        std::copy_n(soft + row, width, map + row);
+        std::copy_n(soft.numbers() + row, width, map + row);
     });
 }
 
 void softenShape(const SystemInfo& info, std::int32_t* map, int width, int height, int hiRes) {
     const std::int32_t dpi = hiRes == 0 ? info.iOutputImageLowResDPI : info.iOutputImageDPI;
-    blurMap(&info, map, width, height, std::max(dpi / 10, 1));
+    blurMap(info, map, width, height, std::max(dpi / 10, 1));
 }
 
 }  // namespace tavrin

@@ -19,7 +19,7 @@ double sliderGain(const Field<std::int32_t>& slider);
 
 /// Blurs a map in place.
 /// @param info tells when to stop; null is never
-void blurMap(const SystemInfo* info, std::int32_t* map, int width, int height, int radius);
+void blurMap(const SystemInfo& info, std::int32_t* map, int width, int height, int radius);
 
 /// The blur of the circle and the cone, a tenth of an inch.
 void softenShape(const SystemInfo& info, std::int32_t* map, int width, int height, int hiRes);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <new>
 
 #include "core/Log.h"
 #include "core/raster/BoxBlur.h"
@@ -54,24 +53,23 @@ int SkinMask::at(int r, int g, int b) const {
     return static_cast<int>(255.0 - nearFace);
 }
 
-std::unique_ptr<std::int32_t[]> blurredSkinMask(const SystemInfo& info, const SkinMask& mask,
-                                                const std::uint8_t* rgba, int width, int height) {
-    const std::size_t pixels = pixelBytes(width, height) / kPixelBytes;
-    std::unique_ptr<std::int32_t[]> sharp(new (std::nothrow) std::int32_t[pixels]);
-    std::unique_ptr<std::int32_t[]> blurred(new (std::nothrow) std::int32_t[pixels]);
-    if (!sharp || !blurred) {
+PixelBuffer blurredSkinMask(const SystemInfo& info, const SkinMask& mask, const std::uint8_t* rgba, int width,
+                            int height) {
+    const PixelBuffer sharp(width, height);
+    PixelBuffer blurred(width, height);
+    if (!sharp.data() || !blurred.data()) {
         logError("Memory not allocated!");
-        return nullptr;
+        return {};
     }
-    const bool finished = runRows(info.rowsWhileWanted(), height, 8, [&](int y) {
+    const RunContext context = info.rowsWhileWanted();
+    const bool finished = runRows(context, height, 8, [&](int y) {
         const std::uint8_t* row = rgba + pixelOffset(width, 0, y);
-        std::int32_t* out = sharp.get() + pixelOffset(width, 0, y) / kPixelBytes;
+        std::int32_t* out = sharp.numbers() + pixelOffset(width, 0, y) / kPixelBytes;
         for (int x = 0; x < width; ++x, row += kPixelBytes)
             out[x] = mask.at(row[0], row[1], row[2]);
     });
-    if (!finished) return nullptr;
-    gaussBlur_Int(&info, sharp.get(), blurred.get(), width, height, 5);
-    return info.isSuperseded() ? nullptr : std::move(blurred);
+    if (!finished || !gaussBlur_Int(context, sharp.numbers(), blurred.numbers(), width, height, 5)) return {};
+    return blurred;
 }
 
 }  // namespace tavrin

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 
+#include "core/raster/Pixels.h"
 #include "key/Skin.h"
 
 namespace tavrin {
@@ -40,8 +40,8 @@ class SkinMask {
 };
 
 /// The mask of a whole picture, blurred with radius 5; one integer a pixel, 0 to 255.
-/// @return null when the run was superseded or memory was refused (which is logged)
-std::unique_ptr<std::int32_t[]> blurredSkinMask(const SystemInfo& info, const SkinMask& mask,
-                                                const std::uint8_t* rgba, int width, int height);
+/// @return without data when the run was superseded or memory was refused (which is logged)
+PixelBuffer blurredSkinMask(const SystemInfo& info, const SkinMask& mask, const std::uint8_t* rgba, int width,
+                            int height);
 
 }  // namespace tavrin

@@ -73,18 +73,21 @@ void softenRow(const SoftenParams& params, const std::uint8_t* soft, const std::
 }
 
 // The picture blurred for the smoothing; null data where memory was refused.
-PixelBuffer blurred(const SystemInfo& info, const std::uint8_t* picture, int width, int height, int radius) {
+PixelBuffer blurred(const RunContext& run, const std::uint8_t* picture, int width, int height, int radius) {
     PixelBuffer copy(width, height), soft(width, height);
     if (!copy.data() || !soft.data()) return PixelBuffer();
-    std::copy_n(picture, pixelBytes(width, height), copy.data());
-    gaussBlur_4(&info, copy.data(), soft.data(), width, height, radius);
+    const bool copied = runRows(run, height, 32, [&](int y) {
+        const std::size_t row = pixelOffset(width, 0, y);
+        std::copy_n(picture + row, pixelBytes(width, 1), copy.data() + row);
+    });
+    if (copied) gaussBlur_4(run, copy.data(), soft.data(), width, height, radius);
     return soft;
 }
 
 }  // namespace
 
 void SoftenMac(SystemInfo& info, int, const std::uint8_t* foreground, const std::uint8_t* foregroundLowRes,
-               std::uint8_t* picture, int hiRes) {
+               std::uint8_t* picture, int hiRes, const RunContext& run) {
     const bool full = hiRes == 1;
     const int width = full ? info.iOutputPixelWidth : info.iOutputPixelLowResWidth;
     const int height = full ? info.iOutputPixelHeight : info.iOutputPixelLowResHeight;
@@ -96,22 +99,23 @@ void SoftenMac(SystemInfo& info, int, const std::uint8_t* foreground, const std:
 
     PixelBuffer soft;
     if (radius >= 2) {
-        soft = blurred(info, picture, width, height, radius);
+        soft = blurred(run, picture, width, height, radius);
         if (!soft.data()) return logError("Memory not allocated!");
     }
+    if (run.isSuperseded()) return;
     const bool measured = info.bComputeSkinColor;
     measureSkin(info, measured, foregroundLowRes, info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight);
     const double tolerance = info.iRedRequired;
     const SkinMaskLimits limits = {tolerance * 4.0, tolerance * 0.8, tolerance * 1.4, 40.0};
     const auto mask = blurredSkinMask(info, SkinMask(info, measured, limits), foreground, width, height);
-    if (!mask) return;
+    if (!mask.data()) return;
 
     const SoftenParams params = softenParams(info);
-    runRows({}, height, 8, [&](int y) {
+    runRows(run, height, 8, [&](int y) {
         const std::size_t offset = pixelOffset(width, 0, y);
         // Without a blur the smooth colour is the picture's own; a pixel reads it before it writes.
         const std::uint8_t* from = soft.data() ? soft.data() + offset : picture + offset;
-        softenRow(params, from, mask.get() + offset / kPixelBytes, picture + offset, width, y);
+        softenRow(params, from, mask.numbers() + offset / kPixelBytes, picture + offset, width, y);
     });
 }
 

@@ -31,6 +31,18 @@ BitmapContext* contextOf(const BitmapInfo& record, int res) {
     return res == kFullRes ? record.oBitmapRep.get() : record.oBitmapRepLowRes.get();
 }
 
+// What is left half done of a background stays so until the layer is scaled anew. So nothing of it is given up but
+// where that is about to happen.
+RunContext whileBackgroundStands(const SystemInfo& info) {
+    RunContext context;
+    context.superseded = [&info] {
+        const BitmapInfo& background = *info.pBackgroundBitmapInfo;
+        const bool movesShadow = info.iHaveShadow != 1 && info.pForegroundBitmapInfo->bScaleChange;
+        return info.isStale() && (background.bScaleChange || background.bOrgFileChange || movesShadow);
+    };
+    return context;
+}
+
 struct HairPreset {
     int red, green, blue;
 };
@@ -62,20 +74,21 @@ void blendEdges(SystemInfo& info, int) {
 
 void smoothSkin(SystemInfo& info, int) {
     const BitmapInfo& foreground = *info.pForegroundBitmapInfo;
-    SoftenMac(info, 1, foreground.pBitmapData, foreground.pBitmapDataLowRes, info.pCombinedBitmapInfo->pBitmapData,
-              1);
+    SoftenMac(info, 1, foreground.pBitmapData, foreground.pBitmapDataLowRes, info.pCombinedBitmapInfo->pBitmapData, 1,
+              info.rowsWhileCurrent());
 }
 
 void blurBackground(SystemInfo& info, int res) {
     const PassGeometry g = info.geometry(res);
     BlurBitmap(info, pixelsOf(*info.pBackgroundBitmapInfo, res), g.width, g.height, g.dpi, kEveryPixel,
-               info.dSliderBlur);
+               info.dSliderBlur, res == kFullRes ? whileBackgroundStands(info) : RunContext());
 }
 
 void blurResult(SystemInfo& info, int res) {
     const PassGeometry g = info.geometry(res);
     BlurBitmap(info, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi,
-               info.iSliderForegroundThreshold, info.dSliderForegroundBlur);
+               info.iSliderForegroundThreshold, info.dSliderForegroundBlur,
+               res == kFullRes ? info.rowsWhileCurrent() : RunContext());
 }
 
 void addShadow(SystemInfo& info, int res) {

@@ -24,9 +24,9 @@ void takeWhereClose(std::uint8_t* pixel, const std::uint8_t* blurred, int thresh
 
 }  // namespace
 
-void BlurBitmap(SystemInfo& info, std::uint8_t* buffer, int width, int height, int dpi, int threshold,
-                double radius) {
-    if (!buffer || width < 1 || height < 1) return;
+void BlurBitmap(SystemInfo& info, std::uint8_t* buffer, int width, int height, int dpi, int threshold, double radius,
+                const RunContext& run) {
+    if (run.isSuperseded() || !buffer || width < 1 || height < 1) return;
     const PixelBuffer copy(width, height);
     if (!copy.data()) return logError("Memory not allocated!");
     const int reach = windowReach(dpi, radius);
@@ -39,9 +39,9 @@ void BlurBitmap(SystemInfo& info, std::uint8_t* buffer, int width, int height, i
         if (info.isStale()) {
             std::memset(copy.data(), 0, pixelBytes(width, height));
         } else {
-            blurRowsWithWindow({}, grid, reach, copy.data());
+            if (!blurRowsWithWindow(run, grid, reach, copy.data())) return;
         }
-        blurColumnsWithWindow({}, copy.data(), grid, reach, take);
+        blurColumnsWithWindow(run, copy.data(), grid, reach, take);
     } catch (const std::bad_alloc&) {
         logError("Memory not allocated!");
     }

@@ -7,7 +7,7 @@
 
 #include "core/Log.h"
 #include "core/raster/BoxLanes.h"
-#include "core/raster/Rows.h"
+#include "core/raster/Pixels.h"
 #include "core/state/SystemInfo.h"
 
 namespace tavrin {
@@ -54,11 +54,11 @@ bool blurRows(const RunContext& context, const typename Layout::Sample* src, typ
 
 // `kept` has the samples that are not blurred.
 template <class Layout>
-void blurColumns(const RunContext& context, const typename Layout::Sample* src, typename Layout::Sample* dst,
+bool blurColumns(const RunContext& context, const typename Layout::Sample* src, typename Layout::Sample* dst,
                  const typename Layout::Sample* kept, int w, int h, int r) {
-    if (w < 1 || h < 1 || !src || !dst) return;
+    if (w < 1 || h < 1 || !src || !dst) return true;
     const std::ptrdiff_t step = static_cast<std::ptrdiff_t>(w) * Layout::kLanes;
-    runRowRanges(context, w, kColumns, [&](int first, int last) {
+    return runRowRanges(context, w, kColumns, [&](int first, int last) {
         const std::ptrdiff_t left = static_cast<std::ptrdiff_t>(first) * Layout::kLanes;
         const int lanes = (last - first) * Layout::kLanes;
         boxMeans({src + left, step, lanes, h, dst + left, step, Layout::kLanes > 1 ? kept + left : nullptr},
@@ -68,15 +68,16 @@ void blurColumns(const RunContext& context, const typename Layout::Sample* src, 
 
 // The rows are blurred in place; what is not blurred goes along with the columns.
 template <class Layout>
-void boxBlur(const RunContext& context, typename Layout::Sample* src, typename Layout::Sample* dst, int w, int h,
+bool boxBlur(const RunContext& context, typename Layout::Sample* src, typename Layout::Sample* dst, int w, int h,
              int r) {
-    if (w < 1 || h < 1 || !src || !dst || context.isSuperseded()) return;
-    if (!blurRows<Layout>(context, src, src, w, h, r)) {
-        const std::size_t samples = static_cast<std::size_t>(w) * static_cast<std::size_t>(h) * Layout::kLanes;
-        std::memcpy(dst, src, samples * sizeof *src);
-        return;
-    }
-    blurColumns<Layout>(context, src, dst, src, w, h, r);
+    return blurRows<Layout>(context, src, src, w, h, r) && blurColumns<Layout>(context, src, dst, src, w, h, r);
+}
+
+template <class Layout>
+bool gaussBlur(const RunContext& context, typename Layout::Sample* src, typename Layout::Sample* dst, int w, int h,
+               int r) {
+    return boxBlur<Layout>(context, src, dst, w, h, r) && boxBlur<Layout>(context, dst, src, w, h, r) &&
+           boxBlur<Layout>(context, src, dst, w, h, r);
 }
 
 RunContext whileWanted(const SystemInfo* info) {
@@ -84,6 +85,14 @@ RunContext whileWanted(const SystemInfo* info) {
 }
 
 }  // namespace
+
+bool gaussBlur_4(const RunContext& run, std::uint8_t* src, std::uint8_t* dst, int w, int h, int r) {
+    return gaussBlur<RgbaBytes>(run, src, dst, w, h, r);
+}
+
+bool gaussBlur_Int(const RunContext& run, std::int32_t* src, std::int32_t* dst, int w, int h, int r) {
+    return gaussBlur<SingleInts>(run, src, dst, w, h, r);
+}
 
 void boxBlurH_4(const SystemInfo*, const std::uint8_t* src, std::uint8_t* dst, int w, int h, int r) {
     blurRows<RgbaBytes>({}, src, dst, w, h, r);
@@ -97,10 +106,8 @@ void boxBlur_4(const SystemInfo*, std::uint8_t* src, std::uint8_t* dst, int w, i
     boxBlur<RgbaBytes>({}, src, dst, w, h, r);
 }
 
-void gaussBlur_4(const SystemInfo* info, std::uint8_t* src, std::uint8_t* dst, int w, int h, int r) {
-    boxBlur_4(info, src, dst, w, h, r);
-    boxBlur_4(info, dst, src, w, h, r);
-    boxBlur_4(info, src, dst, w, h, r);
+void gaussBlur_4(const SystemInfo*, std::uint8_t* src, std::uint8_t* dst, int w, int h, int r) {
+    gaussBlur<RgbaBytes>({}, src, dst, w, h, r);
 }
 
 void boxBlurH_Int(const SystemInfo* info, const std::int32_t* src, std::int32_t* dst, int w, int h, int r) {
@@ -111,8 +118,15 @@ void boxBlurT_Int(const SystemInfo* info, const std::int32_t* src, std::int32_t*
     blurColumns<SingleInts>(whileWanted(info), src, dst, dst, w, h, r);
 }
 
+// A run that stops in the rows hands on what it has got.
 void boxBlur_Int(const SystemInfo* info, std::int32_t* src, std::int32_t* dst, int w, int h, int r) {
-    boxBlur<SingleInts>(whileWanted(info), src, dst, w, h, r);
+    const RunContext context = whileWanted(info);
+    if (w < 1 || h < 1 || !src || !dst || context.isSuperseded()) return;
+    if (blurRows<SingleInts>(context, src, src, w, h, r)) {
+        blurColumns<SingleInts>(context, src, dst, src, w, h, r);
+    } else {
+        std::memcpy(dst, src, pixelBytes(w, h));
+    }
 }
 
 void gaussBlur_Int(const SystemInfo* info, std::int32_t* src, std::int32_t* dst, int w, int h, int r) {

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "core/raster/Rows.h"
+
 namespace tavrin {
 
 class SystemInfo;
@@ -13,6 +15,11 @@ class SystemInfo;
 ///
 /// All buffers hold `w` * `h` elements, rows packed, and `src` and `dst` must not overlap. A size below 1 or a null
 /// buffer makes a call do nothing.
+
+/// For RGBA bytes and for 32-bit integers, for who throws away what is not finished.
+/// @return false when the run was superseded, and both buffers are in between
+bool gaussBlur_4(const RunContext& run, std::uint8_t* src, std::uint8_t* dst, int w, int h, int r);
+bool gaussBlur_Int(const RunContext& run, std::int32_t* src, std::int32_t* dst, int w, int h, int r);
 
 /// RGBA bytes. The result is in `dst`, `src` is overwritten. Alpha is carried along. `info` is not read: these
 /// always finish.

@@ -33,6 +33,8 @@ class PixelBuffer {
     static PixelBuffer cleared(int width, int height);
 
     std::uint8_t* data() const { return bytes_.get(); }
+    /// The same memory as whole numbers, one a pixel.
+    std::int32_t* numbers() const { return reinterpret_cast<std::int32_t*>(bytes_.get()); }
 
   private:
     PixelBuffer(int width, int height, PixelContents contents);
