@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 #include <thread>
 
+#include "effects/Presets.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
+#include "pipeline/Stages.h"
 #include "pipeline/WholePicture.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
@@ -265,6 +267,38 @@ TEST_F(CombineThreadTest, ANewerRequestAtAnyMomentLosesNothing) {
             ASSERT_EQ(fullBytes(*info_), fullBytes(*whole)) << moment << ", smoothing " << smoothing;
         }
     }
+}
+
+// A hand that moves on must not wait for the full picture, whatever effect is on.
+TEST_F(CombineThreadTest, EveryStageOfTheFullPictureGivesUpForANewerRequest) {
+    info_->iSmoothMode = 1;
+    info_->iBlendEdges = 30;
+    info_->iGreenProtectMode = 2;
+    info_->bShowGreenProtection = false;
+    info_->dSliderForegroundBlur = 0.05;
+    info_->iSliderForegroundThreshold = 10'000;
+    CombineThread(*info_).runUntilIdle();
+    const QImage noise = test::noisePicture(240, 300, 3);
+    std::copy_n(noise.constBits(), pixelBytes(240, 300), info_->pCombinedBitmapInfo->pBitmapData);
+    const std::vector<std::uint8_t> before = fullBytes(*info_);
+    int looks = 0;
+    for (const PresetGroup& group : presetGroups()) {
+        for (const Preset& look : group.presets) {
+            if (!applyPreset(*info_, group, look.name).empty()) continue;
+            ++looks;
+            for (const auto& stages : {fullStages().key, fullStages().finish}) {
+                for (const Stage& stage : stages) {
+                    const std::string name = stage.name;
+                    if (name.starts_with("text") || name.find("overlay") != std::string::npos || !stage.when(*info_))
+                        continue;
+                    info_->iCurrentThreadCount = info_->iNewThreadCount - 1;
+                    stage.run(*info_, kFullRes);
+                    ASSERT_EQ(fullBytes(*info_), before) << group.name << ' ' << look.name << ": " << stage.name;
+                }
+            }
+        }
+    }
+    EXPECT_GT(looks, 20);
 }
 
 TEST_F(CombineThreadTest, WhileALayerIsDraggedItsFullBufferHoldsTheScreenAlone) {
