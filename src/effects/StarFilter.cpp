@@ -99,8 +99,8 @@ class StarRun {
         : context_(info.rowsWhileCurrent()), params_(params), picture_(picture) {}
 
     void run() {
-        const auto pixels = static_cast<std::size_t>(params_.width) * static_cast<std::size_t>(params_.height);
-        mask_.resize(pixels * kPixelBytes);
+        mask_ = PixelBuffer::cleared(params_.width, params_.height);
+        if (!mask_.data()) throw std::bad_alloc();
         if (!findLights()) return;
         for (int y = 0; y < params_.height; ++y) {
             if (context_.isSuperseded() || !visitRow(y)) return;
@@ -110,7 +110,7 @@ class StarRun {
 
   private:
     bool findLights() {
-        std::vector<std::uint8_t> bright(mask_.size() / kPixelBytes);
+        std::vector<std::uint8_t> bright(pixelBytes(params_.width, params_.height) / kPixelBytes);
         return runRows(context_, params_.height, 32,
                        [&](int y) { findBright(params_, picture_, bright.data(), y); }) &&
                blurWithWindow(context_, {bright.data(), params_.width, params_.height}, params_.reach) &&
@@ -121,7 +121,7 @@ class StarRun {
     /// Deals with the lights whose topmost outline pixel lies in row y. False ends the run.
     bool visitRow(int y) {
         for (int x = 0; x < params_.width; ++x) {
-            if (!isOutline(&mask_[pixelOffset(params_.width, x, y)])) continue;
+            if (!isOutline(mask_.data() + pixelOffset(params_.width, x, y))) continue;
             Box box;
             const int stride = params_.width * kPixelBytes;
             if (CheckForStar(y, x, params_.width, params_.height, stride, mask_.data(), box.xMax, box.xMin, box.yMax,
@@ -142,7 +142,7 @@ class StarRun {
             return true;
         }
         if (!painter_) {
-            source_.assign(picture_, picture_ + mask_.size());
+            if (!copyPicture()) return false;
             painter_ = std::make_unique<StarPainter>(picture_, source_.data(), params_.width, params_.height,
                                                      params_.armWidth, params_.points, params_.startAngle);
         }
@@ -153,8 +153,18 @@ class StarRun {
         return false;
     }
 
+    /// Keeps the picture as it was before the first star.
+    bool copyPicture() {
+        source_ = PixelBuffer(params_.width, params_.height);
+        if (!source_.data()) throw std::bad_alloc();
+        return runRows(context_, params_.height, 32, [&](int y) {
+            const std::size_t row = pixelOffset(params_.width, 0, y);
+            std::copy_n(picture_ + row, pixelBytes(params_.width, 1), source_.data() + row);
+        });
+    }
+
     void showMask(int y) {
-        const std::uint8_t* from = &mask_[pixelOffset(params_.width, 0, y)];
+        const std::uint8_t* from = mask_.data() + pixelOffset(params_.width, 0, y);
         std::uint8_t* to = picture_ + pixelOffset(params_.width, 0, y);
         for (int x = 0; x < params_.width; ++x, from += kPixelBytes, to += kPixelBytes)
             std::copy_n(from, 3, to);
@@ -163,7 +173,7 @@ class StarRun {
     const RunContext context_;
     const StarParams params_;
     std::uint8_t* picture_;
-    PixelVector<std::uint8_t> mask_, source_;
+    PixelBuffer mask_, source_;
     std::unique_ptr<StarPainter> painter_;  // made for the first star
 };
 

@@ -81,8 +81,11 @@ void EffectsLightingGlow(SystemInfo& info, std::int32_t* map, int width, int hei
 }
 
 LightingRun::LightingRun(SystemInfo& info, int width, int height, int hiRes) : info_(info) {
-    info.oLightingMap = {};
-    if (info.iLightingMode == 0 || width < 1 || height < 1) return;
+    info.oLightingMap.clear();
+    if (info.iLightingMode == 0 || width < 1 || height < 1) {
+        info.oLightingMap.shrink_to_fit();
+        return;
+    }
     try {
         info.oLightingMap.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
     } catch (const std::bad_alloc&) {
@@ -95,8 +98,9 @@ LightingRun::LightingRun(SystemInfo& info, int width, int height, int hiRes) : i
     info.bLightingForceCompute = false;
 }
 
+// The memory stays for the next run, as the first touch of new memory takes longer than the light.
 LightingRun::~LightingRun() {
-    info_.oLightingMap = {};
+    info_.oLightingMap.clear();
 }
 
 std::int32_t toGain(double gain) {

@@ -36,8 +36,8 @@ void EffectsLightingGlow(SystemInfo& info, std::int32_t* map, int width, int hei
 bool DrawLightingLine(double x0, double y0, double x1, double y1, std::int32_t* map, int width, int height,
                       std::int32_t value);
 
-/// The map of a `Combine` run: `info.oLightingMap` is made and filled when `iLightingMode` is not 0, and gone when
-/// this object is.
+/// The map of a `Combine` run: `info.oLightingMap` is made and filled when `iLightingMode` is not 0, and empty
+/// again when this object is gone.
 class LightingRun {
   public:
     LightingRun(SystemInfo& info, int width, int height, int hiRes);

@@ -73,10 +73,18 @@ bool boxBlur(const RunContext& context, typename Layout::Sample* src, typename L
     return blurRows<Layout>(context, src, src, w, h, r) && blurColumns<Layout>(context, src, dst, src, w, h, r);
 }
 
+// New memory is touched row by row: columns would all wait for the same pages, longer than a newer request can.
+template <class Sample>
+bool touchRows(const RunContext& context, Sample* samples, std::ptrdiff_t step, int h) {
+    return runRows(context, h, kRows, [&](int y) { samples[y * step] = 0; });
+}
+
 template <class Layout>
 bool gaussBlur(const RunContext& context, typename Layout::Sample* src, typename Layout::Sample* dst, int w, int h,
                int r) {
-    return boxBlur<Layout>(context, src, dst, w, h, r) && boxBlur<Layout>(context, dst, src, w, h, r) &&
+    if (w < 1 || h < 1 || !src || !dst) return true;
+    return touchRows(context, dst, std::ptrdiff_t{w} * Layout::kLanes, h) &&
+           boxBlur<Layout>(context, src, dst, w, h, r) && boxBlur<Layout>(context, dst, src, w, h, r) &&
            boxBlur<Layout>(context, src, dst, w, h, r);
 }
 

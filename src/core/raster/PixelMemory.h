@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <new>
-#include <vector>
 
 namespace tavrin {
 
@@ -18,25 +16,5 @@ void givePixelMemory(void* memory, std::size_t bytes);
 /// their size, up to `most` bytes altogether, the latest ones. The system fills each new block with zeros, which for
 /// the buffers of a picture takes longer than scaling it.
 void keepPixelMemory(std::size_t most);
-
-/// For a vector as large as a picture.
-template <class T>
-struct PixelAllocator {
-    using value_type = T;
-
-    PixelAllocator() = default;
-    template <class Other>
-    PixelAllocator(const PixelAllocator<Other>&) {}
-
-    T* allocate(std::size_t count) {
-        void* const memory = takePixelMemory(count * sizeof(T), PixelContents::undefined);
-        if (!memory) throw std::bad_alloc();
-        return static_cast<T*>(memory);
-    }
-    void deallocate(T* memory, std::size_t count) { givePixelMemory(memory, count * sizeof(T)); }
-    bool operator==(const PixelAllocator&) const = default;
-};
-template <class T>
-using PixelVector = std::vector<T, PixelAllocator<T>>;
 
 }  // namespace tavrin

@@ -70,7 +70,7 @@ struct SkinColor {
 struct StageState : SkinColor {
     PixelBuffer hairDetectPixels;
     std::uint8_t* pHairDetectBitmap = nullptr;  ///< fine-detail map, preview size
-    PixelVector<std::int32_t> oLightingMap;     ///< gain a pixel in thousandths; empty when there is no light
+    std::vector<std::int32_t> oLightingMap;     ///< gain a pixel in thousandths; empty when there is no light
     Field<bool> bLightingForceCompute = false;  ///< finish the light even when superseded
     Field<bool> bHiResShadowChange = false, bLowResShadowChange = false;
     Field<bool> bHiResReflectionChange = false, bLowResReflectionChange = false;
