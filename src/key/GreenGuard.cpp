@@ -99,14 +99,15 @@ bool GreenGuard::findEdge() {
         for (int x = 1; x < iFloodWidth; ++x)
             mark(row[x - 1], row[x]);
     });
-    return marked && runRows(context_, (iFloodWidth - 1) / kColumns + 1, 1, [&](int block) {
-               const int first = block * kColumns, last = std::min(first + kColumns, iFloodWidth);
-               for (int y = 0; y < iFloodHeight - 1; ++y) {
-                   std::uint8_t* row = bitmap + index(0, y);
-                   for (int x = first; x < last; ++x)
-                       mark(row[x], row[x + iFloodWidth]);
-               }
-           });
+    if (!marked) return false;
+    return runRows(context_, (iFloodWidth - 1) / kColumns + 1, 1, [&](int block) {
+        const int first = block * kColumns, last = std::min(first + kColumns, iFloodWidth);
+        for (int y = 0; y < iFloodHeight - 1; ++y) {
+            std::uint8_t* row = bitmap + index(0, y);
+            for (int x = first; x < last; ++x)
+                mark(row[x], row[x + iFloodWidth]);
+        }
+    });
 }
 
 void GreenGuard::drawDisc(int x, int y, std::int64_t radius) {

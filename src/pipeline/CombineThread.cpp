@@ -70,22 +70,26 @@ void CombineThread::post(std::function<void()> job) {
     info_.StartUpdate();
 }
 
+bool CombineThread::hasPosted() {
+    std::lock_guard lock(postedMutex_);
+    return !posted_.empty();
+}
+
+/// A job may do anything, so it finds the layers whole, and what is kept of the picture is forgotten.
 void CombineThread::runPosted() {
+    if (!hasPosted() || !drawDueLayers()) return;
+    forgetKeyed();
     std::vector<std::function<void()>> jobs;
     {
         std::lock_guard lock(postedMutex_);
         jobs.swap(posted_);
-    }
-    if (!jobs.empty()) {  // a job may do anything
-        drawDueLayers({});
-        forgetKeyed();
     }
     for (const auto& job : jobs)
         job();
 }
 
 CombineThread::Turn CombineThread::iterate() {
-    runPosted();
+    if (!info_.isStale()) runPosted();
     if (!info_.isStale() && runPass() == Turn::dragging) return Turn::dragging;
     if (info_.iCurrentThreadCount > info_.iNewThreadCount) {
         for (const auto& work : idleWork_)
@@ -116,7 +120,7 @@ CombineThread::Turn CombineThread::runPass() {
     if (info_.isStale()) return Turn::worked;
 
     makePreview();
-    if (!info_.isStale() && drawDueLayers(info_.rowsWhileCurrent()) && !info_.bSkipHiRes) makeFullPicture();
+    if (!info_.isStale() && drawDueLayers() && !info_.bSkipHiRes) makeFullPicture();
     return Turn::worked;
 }
 
@@ -204,17 +208,19 @@ std::optional<LayerFill> CombineThread::scaleLayer(BitmapInfo& record) {
 
 /// Draws the full buffers that still wait, before somebody looks at them.
 /// @return false when a newer request came in between; then what was not finished waits on
-bool CombineThread::drawDueLayers(const RunContext& run) {
+bool CombineThread::drawDueLayers() {
+    const RunContext run = info_.rowsWhileCurrent();
     if (foregroundDue_) {
         if (!drawFullLayer(info_, *info_.pForegroundBitmapInfo, *foregroundDue_, run)) return false;
-        runStages(foregroundStages(), info_, kFullRes);  // which gives up for a newer request too
-        if (!info_.isStale()) foregroundDue_.reset();
+        runStages(foregroundStages(), info_, kFullRes);
+        if (info_.isStale()) return false;
+        foregroundDue_.reset();
     }
     if (backgroundDue_) {
         if (!drawFullLayer(info_, *info_.pBackgroundBitmapInfo, *backgroundDue_, run)) return false;
         backgroundDue_.reset();
     }
-    return !run.isSuperseded();
+    return true;
 }
 
 void CombineThread::forgetKeyed() {

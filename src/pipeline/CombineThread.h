@@ -35,7 +35,8 @@ class CombineThread {
     void addIdleWork(std::function<void()> work) { idleWork_.push_back(std::move(work)); }
 
     /// Runs a job on the loop's thread before the next pass, and asks for that pass: for changes that no stage may
-    /// meet half done, such as loading a whole state. Callable from any thread.
+    /// meet half done, such as loading a whole state. It waits while newer requests keep coming. Callable from any
+    /// thread.
     void post(std::function<void()> job);
 
     void StartMainThread();
@@ -47,6 +48,7 @@ class CombineThread {
     void runUntilIdle();
 
   private:
+    bool hasPosted();
     void runPosted();
     Turn runPass();
     bool updateLayers();
@@ -57,7 +59,7 @@ class CombineThread {
     void makePreview();
     void makeFullPicture();
     std::optional<LayerFill> scaleLayer(BitmapInfo& record);
-    bool drawDueLayers(const RunContext& run);
+    bool drawDueLayers();
     void forgetKeyed();
 
     SystemInfo& info_;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kRowsAtOnce = 64;  // copied for the view between two looks for a newer request
 
-}
+}  // namespace
 
 SystemInfo::SystemInfo()
     : pForegroundBitmapInfo(std::make_unique<BitmapInfo>(BitmapInfo::kForeground)),
@@ -85,7 +85,7 @@ void SystemInfo::publish(BitmapInfo& record, bool lowRes, int firstRow, int last
     PublishedRows rows;
     const int count = lastRow - firstRow;
     if (pInterface->wantsPixels()) {
-        rows.pixels = QImage(width, count, QImage::Format_RGBA8888);
+        rows.pixels = newPicture(width, count, QImage::Format_RGBA8888);
         if (rows.pixels.isNull()) return;
         std::uint8_t* const copy = rows.pixels.bits();
         for (int y = 0; y < count; y += kRowsAtOnce) {
