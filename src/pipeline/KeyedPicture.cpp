@@ -24,10 +24,6 @@ std::uint8_t* combinedPixels(const SystemInfo& info, int res) {
     return res == kFullRes ? combined.pBitmapData : combined.pBitmapDataLowRes;
 }
 
-// A preview always ends; a full picture is given up for a newer request.
-RunContext contextOf(const SystemInfo& info, int res) {
-    return res == kFullRes ? info.rowsWhileCurrent() : RunContext();
-}
 void runAll(std::span<const Stage> stages, SystemInfo& info, int res) {
     res == kFullRes ? runStagesWhileCurrent(stages, info, res) : runStages(stages, info, res);
 }
@@ -38,7 +34,7 @@ bool KeyedPicture::restore(SystemInfo& info) {
     std::uint8_t* combined = combinedPixels(info, res_);
     if (!kept_ || !combined || !isWanted(info) || !info.pCombinedBitmapInfo->bHaveBaseGreen) return false;
     if (keyInputs(info) != inputs_ || keyFindings(info) != findings_) return false;
-    runCopy(contextOf(info, res_), pixels_.data(), combined);
+    runCopy(whileCurrent(info, res_), pixels_.data(), combined);
     // Skin smoothing has since measured the skin in a way of its own.
     if (res_ == kLowRes && info.bAdvancedHairDetectionON) static_cast<SkinColor&>(info) = skin_;
     return true;
@@ -78,7 +74,7 @@ bool KeyedPicture::keep(SystemInfo& info) {
     }
     if (!pixels_.data()) return false;  // no memory: each pass keys
     skin_ = info;
-    runCopy(contextOf(info, res_), combined, pixels_.data());
+    runCopy(whileCurrent(info, res_), combined, pixels_.data());
     return !info.isStale();
 }
 

@@ -87,8 +87,7 @@ void blurBackground(SystemInfo& info, int res) {
 void blurResult(SystemInfo& info, int res) {
     const PassGeometry g = info.geometry(res);
     BlurBitmap(info, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi,
-               info.iSliderForegroundThreshold, info.dSliderForegroundBlur,
-               res == kFullRes ? info.rowsWhileCurrent() : RunContext());
+               info.iSliderForegroundThreshold, info.dSliderForegroundBlur, whileCurrent(info, res));
 }
 
 void addShadow(SystemInfo& info, int res) {
@@ -143,23 +142,26 @@ void textBackgroundLayer(SystemInfo& info, int res) {
 }
 
 void textForeground(SystemInfo& info, int res) {
-    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground", res);
+    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground", res, whileCurrent(info, res));
 }
 
 void overlayForeground(SystemInfo& info, int res) {
-    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sForegroundOverlay, res);
+    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sForegroundOverlay, res,
+                     whileCurrent(info, res));
 }
 
 void textForegroundLayer(SystemInfo& info, int res) {
-    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground Layer", res);
+    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground Layer", res,
+                    whileCurrent(info, res));
 }
 
 void overlayFrame(SystemInfo& info, int res) {
-    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sFrameOverlay, res);
+    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sFrameOverlay, res,
+                     whileCurrent(info, res));
 }
 
 void textFrameLayer(SystemInfo& info, int res) {
-    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Frame Layer", res);
+    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Frame Layer", res, whileCurrent(info, res));
 }
 
 void applyHairPreset(SystemInfo& info) {

@@ -145,6 +145,10 @@ std::span<const Stage> fastStages() {
     return kFast;
 }
 
+RunContext whileCurrent(const SystemInfo& info, int res) {
+    return res == kFullRes ? info.rowsWhileCurrent() : RunContext();
+}
+
 void runStages(std::span<const Stage> stages, SystemInfo& info, int res) {
     for (const Stage& stage : stages) {
         if (stage.when(info)) stage.run(info, res);

@@ -33,6 +33,9 @@ StageOrder fullStages();
 /// The shorter list of the synchronous path, full resolution.
 std::span<const Stage> fastStages();
 
+/// What a stage listens to: a preview always ends, a full picture is given up for a newer request.
+RunContext whileCurrent(const SystemInfo& info, int res);
+
 /// Runs the stages that are due, in order.
 void runStages(std::span<const Stage> stages, SystemInfo& info, int res);
 /// As above, but no further stage is begun when the state is stale: for pictures that the next pass makes anew.

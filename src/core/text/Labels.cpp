@@ -59,7 +59,8 @@ std::string textOf(const SystemInfo& info, const FontObject& label) {
 
 }  // namespace
 
-void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFontObject, int myRes) {
+void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFontObject, int myRes,
+              const RunContext& run) {
     const PassGeometry size = info.geometry(myRes);
     const double pixels = size.dpi / 72.0 * myFontObject.iFontSize;
     const std::string string = textOf(info, myFontObject);
@@ -80,7 +81,7 @@ void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFont
             const QTransform place =
                 QTransform::fromScale(scale, scale) *
                 QTransform::fromTranslate(start.x() + right, -start.y() - text.ascent * scale + down);
-            paintText(*painter, text, place * upright, style);
+            paintText(*painter, text, place * upright, style, run);
         };
         if (myFontObject.bDropShadow) {
             const QColor shadow = red + green + blue < 0.5 ? Qt::white : Qt::black;

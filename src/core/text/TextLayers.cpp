@@ -76,7 +76,7 @@ QTransform fromTopLeft(const QPainter& painter, const Page& page) {
     return QTransform(1, 0, 0, -1, 0, page.size.height) * painter.transform();
 }
 
-void drawTextItem(BitmapContext& context, const FontObject& item, const Page& page) {
+void drawTextItem(BitmapContext& context, const FontObject& item, const Page& page, const RunContext& run) {
     const double dpi = page.size.dpi;
     const double sx = dpi / 72.0 * item.dGlobalScaleX, sy = dpi / 72.0 * item.dGlobalScaleY;
     const std::string string = expandMacros(item.sText, page.sourcePath, page.now);
@@ -90,11 +90,11 @@ void drawTextItem(BitmapContext& context, const FontObject& item, const Page& pa
     const QTransform place = QTransform::fromScale(toPoints * sx, toPoints * sy) *
                              QTransform::fromTranslate(item.xPos * dpi, item.yPos * dpi) *
                              fromTopLeft(*painter, page);
-    if (hasShadow(item)) paintTextShadow(*painter, text, place, style, shadowOf(item, sx, sy));
-    paintText(*painter, text, place, style);
+    if (hasShadow(item)) paintTextShadow(*painter, text, place, style, shadowOf(item, sx, sy), run);
+    paintText(*painter, text, place, style, run);
 }
 
-void drawPictureItem(BitmapContext& context, const FontObject& item, const Page& page) {
+void drawPictureItem(BitmapContext& context, const FontObject& item, const Page& page, const RunContext& run) {
     const double dpi = page.size.dpi;
     const double width = item.imageSizeWidth * item.dGlobalScaleX * page.pictureScale;
     const double height = item.imageSizeHeight * item.dGlobalScaleY * page.pictureScale;
@@ -102,20 +102,22 @@ void drawPictureItem(BitmapContext& context, const FontObject& item, const Page&
     if (item.sText.empty() || !(width > 0.0) || !(height > 0.0)) return;
     const double opacity = clampTo(item.dTransparency, 0.0, 1.0);
     if (width > page.size.width || height > page.size.height) {
-        context.drawImage(readKeptPicture(item.sText), rect, opacity);  // no more of it is scaled than can be seen
+        context.drawImage(readKeptPicture(item.sText), rect, opacity,
+                          run);  // no more of it is scaled than can be seen
     } else {
         const int w = static_cast<int>(std::ceil(width)), h = static_cast<int>(std::ceil(height));
-        context.drawImage(readKeptPicture(item.sText, w, h), rect, opacity);
+        context.drawImage(readKeptPicture(item.sText, w, h), rect, opacity, run);
     }
 }
 
 }  // namespace
 
-void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string& sLevel, int myRes) {
+void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string& sLevel, int myRes,
+                     const RunContext& run) {
     if (!context) return;
     if (sLevel == "Frame Layer") {
         for (const FontObject& label : info.oFontLabelObject) {
-            if (!label.sText.empty()) DrawText(info, context, label, myRes);
+            if (!label.sText.empty()) DrawText(info, context, label, myRes, run);
         }
     }
     if (info.bTextPanelOpen) return;
@@ -126,12 +128,15 @@ void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string
     const Page page = pageOf(info, myRes);
     if (items.empty() || page.size.dpi < 1) return;
     drawInto(info, *context, [&](BitmapContext& target) {
-        for (const FontObject& item : items)
-            item.isImage ? drawPictureItem(target, item, page) : drawTextItem(target, item, page);
+        for (const FontObject& item : items) {
+            if (run.isSuperseded()) return;
+            item.isImage ? drawPictureItem(target, item, page, run) : drawTextItem(target, item, page, run);
+        }
     });
 }
 
-void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::string& myImage, int myRes) {
+void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::string& myImage, int myRes,
+                      const RunContext& run) {
     const PassGeometry size = info.geometry(myRes);
     if (!context || size.width < 1 || size.height < 1) return;
     const QImage picture = readKeptPicture(myImage, size.width, size.height);
@@ -140,8 +145,9 @@ void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::strin
                    "the overlay is left out");
         return;
     }
-    drawInto(info, *context,
-             [&](BitmapContext& target) { target.drawImage(picture, QRectF(0, 0, size.width, size.height)); });
+    drawInto(info, *context, [&](BitmapContext& target) {
+        target.drawImage(picture, QRectF(0, 0, size.width, size.height), 1.0, run);
+    });
 }
 
 }  // namespace tavrin

@@ -8,7 +8,7 @@ namespace tavrin {
 
 /// Text and pictures on the image. Each is drawn into a context of the background or of the combined picture; `myRes`
 /// is 1 for the full picture, any other value for the preview. Text is laid out on the thread that draws it. A null
-/// context, and a resolution without a size, draw nothing.
+/// context, and a resolution without a size, draw nothing. A superseded run leaves out what is still to come.
 ///
 /// The combined picture of transparent output holds straight alpha: there the text becomes part of the subject.
 
@@ -16,18 +16,20 @@ namespace tavrin {
 /// Layer") in the order of the list, on the last level the labels first. While `bTextPanelOpen` is set the dialog
 /// shows the items and they are left out. A picture whose file cannot be read is left out with a line on the error
 /// stream.
-void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string& sLevel, int myRes);
+void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string& sLevel, int myRes,
+                     const RunContext& run = {});
 
 /// Draws one label: one line at its `sLocation`, in `sFontName` at `iFontSize`, in its fill colour, with three steps
 /// of shadow where `bDropShadow` is set. "@filename" stands for the name of the foreground's file.
-void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFontObject, int myRes);
+void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFontObject, int myRes,
+              const RunContext& run = {});
 
 /// Draws a picture file over the whole image, stretched to it. Shows an alert when it cannot be read.
-void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::string& myImage, int myRes);
+void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::string& myImage, int myRes,
+                      const RunContext& run = {});
 
 /// Gives each label the size and the colour that `sLabelSize` ("X-Large", "Large", "Medium", "Small") and
-/// `sFontColor`
-/// ("White", else black) name; an unknown size leaves the old one.
+/// `sFontColor` ("White", else black) name; an unknown size leaves the old one.
 void updateLabelSettings(SystemInfo& info);
 
 }  // namespace tavrin

@@ -71,7 +71,8 @@ void paintPicture(QPainter& painter, const ColourGlyph& glyph, const QTransform&
 }
 
 // A picture of how much of each pixel of `area` a text covers, in 128ths of a 255th.
-std::vector<std::int32_t> coverageOf(const LaidOutText& text, QTransform toDevice, TextStyle style, QRect area) {
+std::vector<std::int32_t> coverageOf(const LaidOutText& text, QTransform toDevice, TextStyle style, QRect area,
+                                     const RunContext& run) {
     QImage mask(area.size(), QImage::Format_Alpha8);
     if (mask.isNull()) return {};
     mask.fill(0);
@@ -80,8 +81,9 @@ std::vector<std::int32_t> coverageOf(const LaidOutText& text, QTransform toDevic
     style.picturesAs = QColor();
     QPainter painter(&mask);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    paintText(painter, text, toDevice * QTransform::fromTranslate(-area.x(), -area.y()), style);
+    paintText(painter, text, toDevice * QTransform::fromTranslate(-area.x(), -area.y()), style, run);
     painter.end();
+    if (run.isSuperseded()) return {};
     std::vector<std::int32_t> coverage(static_cast<std::size_t>(area.width()) *
                                        static_cast<std::size_t>(area.height()));
     auto out = coverage.begin();
@@ -110,10 +112,11 @@ BoxRadii boxesFor(double sigma) {
     return boxes;
 }
 
-void blur(std::vector<std::int32_t>& coverage, const BoxRadii& boxes, QRect area) {
+void blur(std::vector<std::int32_t>& coverage, const BoxRadii& boxes, QRect area, const RunContext& run) {
     std::vector<std::int32_t> other(coverage.size());
     for (const int radius : boxes.radius) {
         if (radius == 0) continue;
+        if (run.isSuperseded()) return;
         boxBlur_Int(nullptr, coverage.data(), other.data(), area.width(), area.height(), radius);
         coverage.swap(other);
     }
@@ -141,28 +144,35 @@ QColor colorOf(double red, double green, double blue) {
     return QColor(byte(red), byte(green), byte(blue));
 }
 
-void paintText(QPainter& painter, const LaidOutText& text, const QTransform& toDevice, const TextStyle& style) {
+void paintText(QPainter& painter, const LaidOutText& text, const QTransform& toDevice, const TextStyle& style,
+               const RunContext& run) {
     if (!reachOf(text, toDevice, style).intersects(QRectF(deviceRect(painter)))) return;
     painter.save();
     painter.setTransform(toDevice);
     if (style.fill.isValid()) {
-        for (const QPainterPath& piece : text.outlines)
+        for (const QPainterPath& piece : text.outlines) {
+            if (run.isSuperseded()) break;
             painter.fillPath(piece, BitmapContext::forPainter(style.fill));
+        }
     }
     if (style.outline.isValid() && style.outlineWidth > 0.0) {
         QPen pen(BitmapContext::forPainter(style.outline), style.outlineWidth * LaidOutText::kSize);
         pen.setJoinStyle(Qt::SvgMiterJoin);
         pen.setMiterLimit(4.0);
-        for (const QPainterPath& piece : text.outlines)
+        for (const QPainterPath& piece : text.outlines) {
+            if (run.isSuperseded()) break;
             painter.strokePath(piece.simplified(), pen);  // joined letters have one outline
+        }
     }
-    for (const ColourGlyph& glyph : text.pictures)
+    for (const ColourGlyph& glyph : text.pictures) {
+        if (run.isSuperseded()) break;
         paintPicture(painter, glyph, toDevice, style.picturesAs);
+    }
     painter.restore();
 }
 
 void paintTextShadow(QPainter& painter, const LaidOutText& text, const QTransform& toDevice, const TextStyle& style,
-                     const TextShadow& shadow) {
+                     const TextShadow& shadow, const RunContext& run) {
     const QTransform shifted = toDevice * QTransform::fromTranslate(shadow.offset.x(), shadow.offset.y());
     const QRectF reach = reachOf(text, shifted, style);
     if (reach.isEmpty()) return;
@@ -171,9 +181,10 @@ void paintTextShadow(QPainter& painter, const LaidOutText& text, const QTransfor
     const int far = boxes.reach() + 1;
     const QRect area = reach.toAlignedRect().adjusted(-far, -far, far, far) & device.adjusted(-far, -far, far, far);
     if (!area.intersects(device)) return;
-    std::vector<std::int32_t> coverage = coverageOf(text, shifted, style, area);
+    std::vector<std::int32_t> coverage = coverageOf(text, shifted, style, area, run);
     if (coverage.empty()) return;
-    blur(coverage, boxes, area);
+    blur(coverage, boxes, area, run);
+    if (run.isSuperseded()) return;
     painter.save();
     painter.resetTransform();
     const QImage image = inColor(coverage, shadow.color, area);

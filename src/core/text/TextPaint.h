@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QPainter>
 
+#include "core/raster/Rows.h"
 #include "core/text/LaidOutText.h"
 
 namespace tavrin {
@@ -26,11 +27,13 @@ struct TextShadow {
 QColor colorOf(double red, double green, double blue);
 
 /// Paints a text with the painter of a context, or into a mask. `toDevice` brings its units to buffer pixels, y
-/// downward. A text that `toDevice` takes beyond all reason (not finite, millions of pixels away) paints nothing.
-void paintText(QPainter& painter, const LaidOutText& text, const QTransform& toDevice, const TextStyle& style);
+/// downward. A text that `toDevice` takes beyond all reason (not finite, millions of pixels away) paints nothing. A
+/// superseded run leaves out what is still to come, here and below.
+void paintText(QPainter& painter, const LaidOutText& text, const QTransform& toDevice, const TextStyle& style,
+               const RunContext& run = {});
 
 /// Paints the shadow that the text would throw when painted in this style.
 void paintTextShadow(QPainter& painter, const LaidOutText& text, const QTransform& toDevice, const TextStyle& style,
-                     const TextShadow& shadow);
+                     const TextShadow& shadow, const RunContext& run = {});
 
 }  // namespace tavrin
