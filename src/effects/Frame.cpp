@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <new>
 #include <optional>
 #include <vector>
@@ -11,6 +10,7 @@
 #include "core/image/PictureCache.h"
 #include "core/raster/BlurBitmap.h"
 #include "core/raster/ColorMath.h"
+#include "core/raster/CopyPixels.h"
 #include "core/raster/Pixels.h"
 #include "core/raster/QuadraticWindow.h"
 #include "core/raster/WindowBlur.h"
@@ -83,10 +83,9 @@ void frameRow(const FrameParams& params, std::uint8_t* buffer, int y, RandomSour
 PixelBuffer blurredCopy(SystemInfo& info, const PassGeometry& size, const std::uint8_t* buffer, double radius) {
     PixelBuffer copy(size.width, size.height);
     if (!copy.data()) return copy;
-    std::memcpy(copy.data(), buffer, pixelBytes(size.width, size.height));
-    if (radius > 0.0005) {
-        BlurBitmap(info, copy.data(), size.width, size.height, size.dpi, kEveryPixel, radius, info.rowsWhileWanted());
-    }
+    const RunContext run = info.rowsWhileWanted();
+    if (copyPixels(run, buffer, copy.data(), size.width, size.height) && radius > 0.0005)
+        BlurBitmap(info, copy.data(), size.width, size.height, size.dpi, kEveryPixel, radius, run);
     return copy;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/Log.h"
+#include "core/raster/CopyPixels.h"
 #include "core/raster/QuadraticWindow.h"
 #include "core/raster/WindowBlur.h"
 #include "effects/StarPainter.h"
@@ -157,10 +158,7 @@ class StarRun {
     bool copyPicture() {
         source_ = PixelBuffer(params_.width, params_.height);
         if (!source_.data()) throw std::bad_alloc();
-        return runRows(context_, params_.height, 32, [&](int y) {
-            const std::size_t row = pixelOffset(params_.width, 0, y);
-            std::copy_n(picture_ + row, pixelBytes(params_.width, 1), source_.data() + row);
-        });
+        return copyPixels(context_, picture_, source_.data(), params_.width, params_.height);
     }
 
     void showMask(int y) {

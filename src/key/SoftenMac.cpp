@@ -4,6 +4,7 @@
 #include "core/RandomSource.h"
 #include "core/raster/BoxBlur.h"
 #include "core/raster/ColorMath.h"
+#include "core/raster/CopyPixels.h"
 #include "key/Skin.h"
 #include "key/SkinMask.h"
 
@@ -76,11 +77,8 @@ void softenRow(const SoftenParams& params, const std::uint8_t* soft, const std::
 PixelBuffer blurred(const RunContext& run, const std::uint8_t* picture, int width, int height, int radius) {
     PixelBuffer copy(width, height), soft(width, height);
     if (!copy.data() || !soft.data()) return PixelBuffer();
-    const bool copied = runRows(run, height, 32, [&](int y) {
-        const std::size_t row = pixelOffset(width, 0, y);
-        std::copy_n(picture + row, pixelBytes(width, 1), copy.data() + row);
-    });
-    if (copied) gaussBlur_4(run, copy.data(), soft.data(), width, height, radius);
+    if (copyPixels(run, picture, copy.data(), width, height))
+        gaussBlur_4(run, copy.data(), soft.data(), width, height, radius);
     return soft;
 }
 

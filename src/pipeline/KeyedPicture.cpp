@@ -1,8 +1,7 @@
 #include "pipeline/KeyedPicture.h"
 
-#include <cstring>
-
 #include "core/RandomSource.h"
+#include "core/raster/CopyPixels.h"
 #include "pipeline/KeyInputs.h"
 
 namespace tavrin {
@@ -34,7 +33,7 @@ bool KeyedPicture::restore(SystemInfo& info) {
     std::uint8_t* combined = combinedPixels(info, res_);
     if (!kept_ || !combined || !isWanted(info) || !info.pCombinedBitmapInfo->bHaveBaseGreen) return false;
     if (keyInputs(info) != inputs_ || keyFindings(info) != findings_) return false;
-    runCopy(whileCurrent(info, res_), pixels_.data(), combined);
+    copyPixels(whileCurrent(info, res_), pixels_.data(), combined, width_, height_);
     // Skin smoothing has since measured the skin in a way of its own.
     if (res_ == kLowRes && info.bAdvancedHairDetectionON) static_cast<SkinColor&>(info) = skin_;
     return true;
@@ -74,15 +73,7 @@ bool KeyedPicture::keep(SystemInfo& info) {
     }
     if (!pixels_.data()) return false;  // no memory: each pass keys
     skin_ = info;
-    runCopy(whileCurrent(info, res_), combined, pixels_.data());
-    return !info.isStale();
-}
-
-void KeyedPicture::runCopy(const RunContext& context, const std::uint8_t* from, std::uint8_t* to) const {
-    runRows(context, height_, 32, [&](int y) {
-        const std::size_t row = pixelOffset(width_, 0, y);
-        std::memcpy(to + row, from + row, pixelBytes(width_, 1));
-    });
+    return copyPixels(whileCurrent(info, res_), combined, pixels_.data(), width_, height_) && !info.isStale();
 }
 
 void KeyedPicture::forget() {

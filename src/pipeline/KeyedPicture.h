@@ -31,7 +31,6 @@ class KeyedPicture {
 
   private:
     bool keep(SystemInfo& info);
-    void runCopy(const RunContext& context, const std::uint8_t* from, std::uint8_t* to) const;
 
     const int res_;
     bool kept_ = false;

@@ -1,17 +1,9 @@
 #include "core/state/SystemInfo.h"
 
-#include <algorithm>
-#include <cstring>
-
 #include "core/Log.h"
+#include "core/raster/CopyPixels.h"
 
 namespace tavrin {
-
-namespace {
-
-constexpr int kRowsAtOnce = 64;  // copied for the view between two looks for a newer request
-
-}  // namespace
 
 SystemInfo::SystemInfo()
     : pForegroundBitmapInfo(std::make_unique<BitmapInfo>(BitmapInfo::kForeground)),
@@ -87,12 +79,8 @@ void SystemInfo::publish(BitmapInfo& record, bool lowRes, int firstRow, int last
     if (pInterface->wantsPixels()) {
         rows.pixels = newPicture(width, count, QImage::Format_RGBA8888);
         if (rows.pixels.isNull()) return;
-        std::uint8_t* const copy = rows.pixels.bits();
-        for (int y = 0; y < count; y += kRowsAtOnce) {
-            if (!lowRes && isStale()) return;
-            std::memcpy(copy + pixelOffset(width, 0, y), bytes + pixelOffset(width, 0, firstRow + y),
-                        pixelBytes(width, std::min(kRowsAtOnce, count - y)));
-        }
+        const RunContext run = lowRes ? RunContext() : rowsWhileCurrent();
+        if (!copyPixels(run, bytes + pixelOffset(width, 0, firstRow), rows.pixels.bits(), width, count)) return;
     }
     rows.firstRow = firstRow;
     rows.rowCount = count;
