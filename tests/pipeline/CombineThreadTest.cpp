@@ -279,7 +279,7 @@ TEST_F(CombineThreadTest, EveryStageOfTheFullPictureGivesUpForANewerRequest) {
     info_->dSliderForegroundBlur = 0.05;
     info_->iSliderForegroundThreshold = 10'000;
     CombineThread(*info_).runUntilIdle();
-    const QImage noise = test::noisePicture(240, 300, 3);
+    const QImage noise = test::noisePicture(240, 300, 3).convertToFormat(QImage::Format_RGBA8888);
     std::copy_n(noise.constBits(), pixelBytes(240, 300), info_->pCombinedBitmapInfo->pBitmapData);
     const std::vector<std::uint8_t> before = fullBytes(*info_);
     int looks = 0;
