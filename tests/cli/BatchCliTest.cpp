@@ -143,7 +143,7 @@ TEST_F(BatchCliTest, ASignalStopsItCleanlyAndTwoAtOnce) {
         fs::copy_file(folder_.file("fg/anna.png"), folder_.file("fg/more" + std::to_string(i) + ".png"));
     const auto signalled = [&](std::initializer_list<int> signals) {
         QProcess process;
-        process.start(TAVRIN_CLI, batch({"--again"}));
+        process.start(test::kCliProgram, batch({"--again"}));
         EXPECT_TRUE(process.waitForReadyRead(60000));
         for (const int signal : signals)
             ::kill(static_cast<pid_t>(process.processId()), signal);
@@ -161,7 +161,7 @@ TEST_F(BatchCliTest, ASignalStopsItCleanlyAndTwoAtOnce) {
 
 TEST_F(BatchCliTest, AWatchEndsWithItsStopFile) {
     QProcess process;
-    process.start(TAVRIN_CLI, batch({"--watch", "--poll", "--stop-file", file("stop")}));
+    process.start(test::kCliProgram, batch({"--watch", "--poll", "--stop-file", file("stop")}));
     ASSERT_TRUE(process.waitForReadyRead(60000));
     test::writeFile(folder_.file("stop"), "");
     const auto outcome = test::outcomeOf(process);

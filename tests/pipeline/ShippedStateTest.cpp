@@ -4,13 +4,14 @@
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
 #include "quality/AlphaErrors.h"
+#include "support/BuildPlaces.h"
 #include "support/Files.h"
 #include "support/TestData.h"
 
 namespace tavrin {
 namespace {
 
-const std::string kData = std::string(TAVRIN_SOURCE_DIR) + "/data/";
+const std::string kData = std::string(test::kSourceFolder) + "/data/";
 
 // A setting that is missing in the file would read as 0, not as its default. Saving writes them all.
 TEST(ShippedState, HoldsEverySetting) {

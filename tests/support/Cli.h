@@ -2,6 +2,8 @@
 
 #include <QProcess>
 
+#include "support/BuildPlaces.h"
+
 namespace tavrin::test {
 
 struct CliOutcome {
@@ -22,7 +24,7 @@ inline CliOutcome outcomeOf(QProcess& process) {
 /// Calls tavrin-cli as a user does.
 inline CliOutcome runCli(const QStringList& arguments) {
     QProcess process;
-    process.start(TAVRIN_CLI, arguments);
+    process.start(kCliProgram, arguments);
     return outcomeOf(process);
 }
 

@@ -3,13 +3,15 @@
 #include <cstdlib>
 #include <random>
 
+#include "support/BuildPlaces.h"
+
 namespace fs = std::filesystem;
 
 namespace tavrin::test {
 
 fs::path dataFolder() {
     if (const char* given = std::getenv("TAVRIN_TEST_DATA")) return fs::path(given);
-    const fs::path beside = fs::path(TAVRIN_SOURCE_DIR) / ".." / "shared" / "data";
+    const fs::path beside = fs::path(kSourceFolder) / ".." / "shared" / "data";
     return fs::exists(beside) ? beside : fs::path();
 }
 

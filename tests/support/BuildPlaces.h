@@ -1,0 +1,11 @@
+#pragma once
+
+namespace tavrin::test {
+
+/// Where the tests were built from. Known to one file alone, so that the others compile to the same objects in every
+/// checkout.
+extern const char* const kSourceFolder;
+/// The `tavrin-cli` of the same build.
+extern const char* const kCliProgram;
+
+}  // namespace tavrin::test
