@@ -11,7 +11,6 @@
 #include <QPainter>
 #include <QTemporaryDir>
 
-#include "core/RandomSource.h"
 #include "core/state/SettingNames.h"
 #include "core/text/TextLayers.h"
 #include "effects/Presets.h"
@@ -116,7 +115,6 @@ std::string choose(SystemInfo& info, const std::string& choice, const Sources& s
 /// The finished picture at the size of a cell; null, after a line, when a choice is wrong.
 QImage take(const Shot& shot, const Sources& sources) {
     const auto info = std::make_unique<SystemInfo>();
-    seedRandom(1);
     info->pForegroundBitmapInfo->sSourceImageFullPath = sources.portrait;
     info->pBackgroundBitmapInfo->sSourceImageFullPath = sources.background;
     for (const std::string& choice : shot.choices) {

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 
-#include "core/RandomSource.h"
 #include "core/state/SettingNames.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
@@ -120,7 +119,6 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     info->readSource = [&](const std::string& path) {
         return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;
     };
-    seedRandom(1);  // as in a new process
     if (!ChangeImageSize(*info)) {
         made.problem = "the output size cannot be used";
         return made;

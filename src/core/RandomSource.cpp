@@ -1,7 +1,5 @@
 #include "core/RandomSource.h"
 
-#include <atomic>
-
 namespace tavrin {
 
 namespace {
@@ -13,8 +11,6 @@ std::uint64_t mix(std::uint64_t bits) {
     bits = (bits ^ (bits >> 27)) * 0x94d049bb133111ebULL;
     return bits ^ (bits >> 31);
 }
-
-std::atomic<std::uint64_t> sequence = 1;
 
 }  // namespace
 
@@ -33,18 +29,6 @@ std::uint32_t RandomSource::below(std::uint32_t n) {
         const std::uint64_t product = (next() >> 32) * n;
         if (static_cast<std::uint32_t>(product) >= reject) return static_cast<std::uint32_t>(product >> 32);
     }
-}
-
-std::uint64_t nextRandomSeed() {
-    return sequence.fetch_add(1, std::memory_order_relaxed);
-}
-
-void seedRandom(std::uint64_t seed) {
-    sequence.store(seed, std::memory_order_relaxed);
-}
-
-std::uint64_t upcomingRandomSeed() {
-    return sequence.load(std::memory_order_relaxed);
 }
 
 }  // namespace tavrin

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 
 namespace tavrin {
@@ -21,11 +22,17 @@ class RandomSource {
     std::uint64_t state_;
 };
 
-/// A seed for one run of a stage: every call gives another, and every process the same sequence, unless
-/// `seedRandom` has set where the sequence starts.
-std::uint64_t nextRandomSeed();
-void seedRandom(std::uint64_t seed);
-/// What the next call of `nextRandomSeed` will give; unchanged as long as nobody has asked for one.
-std::uint64_t upcomingRandomSeed();
+/// Hands out the seeds of a state, one for each run of a stage: every call gives another, and every new state the
+/// same sequence, so that what one state draws never shows in the picture of another.
+class RandomSeeds {
+  public:
+    std::uint64_t next() { return upcoming_.fetch_add(1, std::memory_order_relaxed); }
+    /// What the next call of `next` will give; unchanged as long as nobody has asked for one.
+    std::uint64_t upcoming() const { return upcoming_.load(std::memory_order_relaxed); }
+    void startAt(std::uint64_t seed) { upcoming_.store(seed, std::memory_order_relaxed); }
+
+  private:
+    std::atomic<std::uint64_t> upcoming_ = 1;
+};
 
 }  // namespace tavrin

@@ -8,12 +8,12 @@
 
 #include "core/Log.h"
 #include "core/image/PictureCache.h"
-#include "core/raster/BlurBitmap.h"
 #include "core/raster/ColorMath.h"
 #include "core/raster/CopyPixels.h"
 #include "core/raster/Pixels.h"
 #include "core/raster/QuadraticWindow.h"
 #include "core/raster/WindowBlur.h"
+#include "effects/BlurBitmap.h"
 #include "effects/FrameShapes.h"
 #include "effects/Texture.h"
 #include "key/SpillKey.h"
@@ -191,7 +191,7 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
 
     // A displacing texture sees pixels that are already framed, so its rows have an order.
     const int grain = params.texture && params.texture->displaces ? size.height : 16;
-    const std::uint64_t seed = params.texture ? nextRandomSeed() : 0;
+    const std::uint64_t seed = params.texture ? info.randomSeeds.next() : 0;
     runRows(run, size.height, grain,
             [&](int y) { frameRow(params, buffer, y, RandomSource(seed, static_cast<std::uint64_t>(y))); });
 }

@@ -248,9 +248,13 @@ void AddReflection(SystemInfo& info, int hiRes, const BitmapInfo& /*layer*/, con
     if (!mirror.data()) return logError("Memory not allocated!");
     if (!runRows(info.rowsWhileCurrent(), params.height, kGrainRows, [&](int y) { mirror.fillRow(y); })) return;
 
-    const Composite composite{
-        params,     key,     mirror.data(), texture ? &texture->params : nullptr, texture ? nextRandomSeed() : 0,
-        background, combined};
+    const Composite composite{params,
+                              key,
+                              mirror.data(),
+                              texture ? &texture->params : nullptr,
+                              texture ? info.randomSeeds.next() : 0,
+                              background,
+                              combined};
     const RunContext context = params.preview ? RunContext() : info.rowsWhileCurrent();
     if (runRows(context, params.height, kGrainRows, [&](int y) { composite.row(y); }))
         addRipple(params, mirror.data(), combined);

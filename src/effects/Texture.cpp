@@ -144,7 +144,7 @@ void AddTexture(SystemInfo& info, std::uint8_t* buffer, int res) {
         std::memcpy(copy.data(), buffer, pixelBytes(size.width, size.height));
     }
     const std::uint8_t* source = params.displaces ? copy.data() : buffer;
-    const std::uint64_t seed = nextRandomSeed();
+    const std::uint64_t seed = info.randomSeeds.next();
     runRows(info.rowsWhileWanted(), size.height - 1, kGrainRows, [&](int y) {
         RandomSource random(seed, static_cast<std::uint64_t>(y));
         for (int x = 0; x < size.width - 1; ++x)

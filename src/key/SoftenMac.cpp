@@ -21,13 +21,13 @@ struct SoftenParams {
     SkinColor skin;
 };
 
-SoftenParams softenParams(const SystemInfo& info) {
+SoftenParams softenParams(SystemInfo& info) {
     SoftenParams params;
     params.samples = info.iNumberOfSamples;
     params.makeup = info.iMakeup;
     params.noise = info.iSmoothNoise != 0;
     params.showSelection = info.bShowSkinSelection != 0;
-    params.seed = nextRandomSeed();
+    params.seed = info.randomSeeds.next();
     params.skin = info;
     return params;
 }

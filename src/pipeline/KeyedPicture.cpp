@@ -1,6 +1,5 @@
 #include "pipeline/KeyedPicture.h"
 
-#include "core/RandomSource.h"
 #include "core/raster/CopyPixels.h"
 #include "pipeline/KeyInputs.h"
 
@@ -47,7 +46,7 @@ void KeyedPicture::make(std::span<const Stage> stages, SystemInfo& info) {
     kept_ = false;
     const std::string before = inputs_, found = keyFindings(info);
     inputs_ = keyInputs(info);
-    const std::uint64_t seed = upcomingRandomSeed();
+    const std::uint64_t seed = info.randomSeeds.upcoming();
     runAll(stages, info, res_);
     // A setting that changed meanwhile is in a part of the rows only, even if it has changed back.
     if (info.isStale() || keyInputs(info) != inputs_) return forget();
@@ -55,7 +54,7 @@ void KeyedPicture::make(std::span<const Stage> stages, SystemInfo& info) {
 
     // Another run has to give the same picture again. Each has random numbers of its own; the search for hair starts
     // from the screen's colour that it finds; and the reflection's red line stays on the background of the preview.
-    const bool repeats = upcomingRandomSeed() == seed && !readsFile(info) &&
+    const bool repeats = info.randomSeeds.upcoming() == seed && !readsFile(info) &&
                          (!info.bAdvancedHairDetectionON || findings_ == found) &&
                          (res_ == kFullRes || !info.bHaveReflection || inputs_ == before);
     kept_ = repeats && keep(info);

@@ -1,7 +1,7 @@
 #include "pipeline/StageSteps.h"
 
-#include "core/raster/BlurBitmap.h"
 #include "core/text/TextLayers.h"
+#include "effects/BlurBitmap.h"
 #include "effects/Frame.h"
 #include "effects/GlobalSmoothing.h"
 #include "effects/Reflection.h"

@@ -4,7 +4,6 @@
 #include <thread>
 
 #include "batch/BatchRun.h"
-#include "core/RandomSource.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
@@ -71,7 +70,6 @@ class BatchRunTest : public testing::Test {
         settings(*info, false);
         info->pForegroundBitmapInfo->sSourceImageFullPath = folder_.file(foreground);
         info->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file(background);
-        seedRandom(1);
         ChangeImageSize(*info);
         CombineThread(*info).runUntilIdle();
         const std::string path = folder_.file("alone.png");

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "core/RandomSource.h"
-#include "core/raster/BlurBitmap.h"
 #include "core/raster/Pixels.h"
+#include "effects/BlurBitmap.h"
 #include "effects/Frame.h"
 #include "effects/FrameShapes.h"
 #include "support/Pictures.h"
@@ -164,7 +163,7 @@ TEST_F(FrameTest, ThreadsGiveTheSameAndSupersededRunsLeaveThePicture) {
             frame_.oTexture.iTextureOffsetPercent = offset;
             Bytes results[2];
             withOneAndManyThreads([&](int run) {
-                seedRandom(4);
+                info_->randomSeeds.startAt(4);
                 results[run] = framed();
             });
             EXPECT_EQ(results[0], results[1]);

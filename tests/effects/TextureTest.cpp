@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "core/RandomSource.h"
 #include "effects/Texture.h"
 #include "support/Pictures.h"
 #include "support/Portrait.h"
@@ -34,7 +33,7 @@ class TextureTest : public testing::Test {
         *info->oImageTexture = texture_;
         if (superseded_) info->StartUpdate();
         Bytes bytes = canvas.bytes;
-        seedRandom(seed);
+        info->randomSeeds.startAt(seed);
         AddTexture(*info, bytes.data(), 1);
         return bytes;
     }

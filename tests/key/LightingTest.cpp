@@ -45,7 +45,7 @@ struct LightScene : KeyScene {
             if (x >= 0 && y >= 0 && x < width && y < height)
                 map[static_cast<std::size_t>(static_cast<int>(y) * width + static_cast<int>(x))] = value;
         });
-        gaussBlur_Int(nullptr, map.data(), soft.data(), width, height, 1);
+        gaussBlur_Int({}, map.data(), soft.data(), width, height, 1);
         return soft;
     }
 };

@@ -103,7 +103,7 @@ TEST(SoftenMac, ThreadsDoNotChangeBytesEvenWithNoise) {
         info->iMakeup = 20;
         info->bComputeSkinColor = true;
         results[run] = canvas.bytes;
-        seedRandom(5);
+        info->randomSeeds.startAt(5);
         SoftenMac(*info, 1, canvas.bytes.data(), canvas.bytes.data(), results[run].data(), 1);
     });
     EXPECT_EQ(results[0], results[1]);

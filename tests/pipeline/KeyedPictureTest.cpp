@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
-#include "core/RandomSource.h"
 #include "core/state/SettingNames.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/KeyInputs.h"
@@ -44,7 +43,7 @@ struct Side {
 
     void pass() {
         view.parts = 0;
-        seedRandom(5);
+        info->randomSeeds.startAt(5);
         info->StartUpdate();
         loop.runUntilIdle();
     }

@@ -12,7 +12,6 @@
 #include "apps/cli/Console.h"
 #include "apps/cli/PictureOptions.h"
 #include "core/Places.h"
-#include "core/RandomSource.h"
 #include "core/state/SystemInfo.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
@@ -114,7 +113,7 @@ int render(const RenderOptions& options) {
     startCommandLine(*info);
     // A saved state names the pictures that it uses, so they have to lie where they stay.
     if (!options.saveState.empty()) Places::current().setPicturesFolder(pictures);
-    if (options.seed) seedRandom(*options.seed);
+    if (options.seed) info->randomSeeds.startAt(*options.seed);
     Console console;
     info->pInterface = &console;
     if (const Refusal refusal = prepare(*info, options); refusal.code != kDone) {

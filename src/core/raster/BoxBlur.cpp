@@ -1,14 +1,12 @@
 #include "core/raster/BoxBlur.h"
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 #include <string>
 
 #include "core/Log.h"
 #include "core/raster/BoxLanes.h"
 #include "core/raster/Pixels.h"
-#include "core/state/SystemInfo.h"
 
 namespace tavrin {
 
@@ -88,10 +86,6 @@ bool gaussBlur(const RunContext& context, typename Layout::Sample* src, typename
            boxBlur<Layout>(context, src, dst, w, h, r);
 }
 
-RunContext whileWanted(const SystemInfo* info) {
-    return info ? info->rowsWhileWanted() : RunContext();
-}
-
 }  // namespace
 
 bool gaussBlur_4(const RunContext& run, std::uint8_t* src, std::uint8_t* dst, int w, int h, int r) {
@@ -99,49 +93,12 @@ bool gaussBlur_4(const RunContext& run, std::uint8_t* src, std::uint8_t* dst, in
 }
 
 bool gaussBlur_Int(const RunContext& run, std::int32_t* src, std::int32_t* dst, int w, int h, int r) {
+    logTrace("w=" + std::to_string(w) + " h=" + std::to_string(h) + " r=" + std::to_string(r));
     return gaussBlur<SingleInts>(run, src, dst, w, h, r);
 }
 
-void boxBlurH_4(const SystemInfo*, const std::uint8_t* src, std::uint8_t* dst, int w, int h, int r) {
-    blurRows<RgbaBytes>({}, src, dst, w, h, r);
-}
-
-void boxBlurT_4(const SystemInfo*, const std::uint8_t* src, std::uint8_t* dst, int w, int h, int r) {
-    blurColumns<RgbaBytes>({}, src, dst, dst, w, h, r);
-}
-
-void boxBlur_4(const SystemInfo*, std::uint8_t* src, std::uint8_t* dst, int w, int h, int r) {
-    boxBlur<RgbaBytes>({}, src, dst, w, h, r);
-}
-
-void gaussBlur_4(const SystemInfo*, std::uint8_t* src, std::uint8_t* dst, int w, int h, int r) {
-    gaussBlur<RgbaBytes>({}, src, dst, w, h, r);
-}
-
-void boxBlurH_Int(const SystemInfo* info, const std::int32_t* src, std::int32_t* dst, int w, int h, int r) {
-    blurRows<SingleInts>(whileWanted(info), src, dst, w, h, r);
-}
-
-void boxBlurT_Int(const SystemInfo* info, const std::int32_t* src, std::int32_t* dst, int w, int h, int r) {
-    blurColumns<SingleInts>(whileWanted(info), src, dst, dst, w, h, r);
-}
-
-// A run that stops in the rows hands on what it has got.
-void boxBlur_Int(const SystemInfo* info, std::int32_t* src, std::int32_t* dst, int w, int h, int r) {
-    const RunContext context = whileWanted(info);
-    if (w < 1 || h < 1 || !src || !dst || context.isSuperseded()) return;
-    if (blurRows<SingleInts>(context, src, src, w, h, r)) {
-        blurColumns<SingleInts>(context, src, dst, src, w, h, r);
-    } else {
-        std::memcpy(dst, src, pixelBytes(w, h));
-    }
-}
-
-void gaussBlur_Int(const SystemInfo* info, std::int32_t* src, std::int32_t* dst, int w, int h, int r) {
-    logTrace("w=" + std::to_string(w) + " h=" + std::to_string(h) + " r=" + std::to_string(r));
-    boxBlur_Int(info, src, dst, w, h, r);
-    boxBlur_Int(info, dst, src, w, h, r);
-    boxBlur_Int(info, src, dst, w, h, r);
+bool boxBlur_Int(const RunContext& run, std::int32_t* src, std::int32_t* dst, int w, int h, int r) {
+    return boxBlur<SingleInts>(run, src, dst, w, h, r);
 }
 
 }  // namespace tavrin

@@ -6,6 +6,7 @@
 #include <memory>
 #include <mutex>
 
+#include "core/RandomSource.h"
 #include "core/image/ImageReader.h"
 #include "core/raster/Rows.h"
 #include "core/state/BitmapInfo.h"
@@ -96,6 +97,7 @@ class SystemInfo : public Settings,
     /// Shows an alert in the interface; without one message and reason go to the standard error stream.
     void alert(const std::string& message, const std::string& reason);
 
+    RandomSeeds randomSeeds;
     SystemInfo* const pMySystemInfo = this;
     Interface* pInterface = nullptr;  ///< the window, not owned; null is fine
     /// How the files of the layers are read. A batch puts in pictures that were decoded ahead; empty: `readPicture`.

@@ -117,7 +117,7 @@ void blur(std::vector<std::int32_t>& coverage, const BoxRadii& boxes, QRect area
     for (const int radius : boxes.radius) {
         if (radius == 0) continue;
         if (run.isSuperseded()) return;
-        boxBlur_Int(nullptr, coverage.data(), other.data(), area.width(), area.height(), radius);
+        boxBlur_Int({}, coverage.data(), other.data(), area.width(), area.height(), radius);
         coverage.swap(other);
     }
 }

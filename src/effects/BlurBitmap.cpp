@@ -1,4 +1,4 @@
-#include "core/raster/BlurBitmap.h"
+#include "effects/BlurBitmap.h"
 
 #include <cstdlib>
 #include <cstring>

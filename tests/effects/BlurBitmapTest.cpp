@@ -3,7 +3,7 @@
 #include <random>
 #include <vector>
 
-#include "core/raster/BlurBitmap.h"
+#include "effects/BlurBitmap.h"
 #include "support/VectorTargets.h"
 
 namespace tavrin {
