@@ -13,8 +13,8 @@ struct BatchListDefaults {
     std::string foregroundPath, backgroundPath;
     std::string outputFolder;
     int outputFileType = 0, outputStyle = 0;
-    bool skipTakenNumbers = false;  ///< a number under which a picture lies already is not given again
     bool outputTransparency = false, noGreenScreenProcessing = false, blueScreenProcessing = false;
+    bool skipTakenNumbers = false;  ///< a number under which a picture lies already is not given again
 };
 
 struct BatchList {

@@ -182,7 +182,7 @@ bool BatchRun::isBegun(const BatchJob& job) {
 std::string BatchRun::whyRefused(const BatchJob& job) {
     const std::string problem = whyOutside(options_.sources.out, job.out);
     std::error_code ignored;
-    if (!problem.empty() || options_.overwrite || !fs::exists(job.out, ignored)) return problem;
+    if (!problem.empty() || options_.overwrite || !fs::exists(fs::symlink_status(job.out, ignored))) return problem;
     std::lock_guard lock(mutex_);
     if (journal_.owns(relativeTo(options_.sources.out, job.out))) return "";
     return "a file of this name is there that this batch did not make; --overwrite replaces it";

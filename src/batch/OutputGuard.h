@@ -19,7 +19,8 @@ std::string findOverwrittenInput(const JobSources& sources, const std::string& r
 /// Why a report cannot go to this place, as one plain line: there is a picture. "" when it can.
 std::string whyNoReport(const std::string& path);
 
-/// Why a picture may not go to its place: a link would lead it out of the folder that was named for the pictures.
+/// Why a picture may not go to its place: a link would lead it out of the folder that was named for the pictures. A
+/// link that leads nowhere is replaced and leads nothing anywhere.
 /// @param folder of all pictures; a list may put single ones elsewhere
 /// @return "" or words behind the picture's name
 std::string whyOutside(const std::string& folder, const std::string& picture);

@@ -18,19 +18,16 @@ bool isPlainFile(const std::string& path) {
     return fs::is_regular_file(path, ignored);
 }
 
-static bool isLink(const std::string& path) {
-    std::error_code ignored;
-    return fs::is_symlink(path, ignored);
-}
-
 bool isSameFile(const std::string& one, const std::string& other) {
     if (one.empty() || other.empty()) return false;
     const std::optional<FileIdentity> first = identityOf(one), second = identityOf(other);
     if (first || second) return first == second;
-    if (fs::path(one).filename() != fs::path(other).filename() && !isLink(one) && !isLink(other)) return false;
-    std::error_code failed, ignored;
-    const fs::path path = fs::weakly_canonical(fs::absolute(one), failed);
-    return !failed && path == fs::weakly_canonical(fs::absolute(other), ignored);
+    if (fs::path(one).filename() != fs::path(other).filename()) return false;
+    std::error_code failed;
+    const auto folderOf = [&failed](const std::string& path) {
+        return fs::weakly_canonical(fs::absolute(path).parent_path(), failed);
+    };
+    return folderOf(one) == folderOf(other) && !failed;
 }
 
 void KnownFiles::add(const std::string& path) {

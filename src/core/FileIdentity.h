@@ -20,7 +20,8 @@ std::optional<FileIdentity> identityOf(const std::string& path);
 /// A file of bytes, links followed: no folder, no device, nothing that could keep a reader waiting.
 bool isPlainFile(const std::string& path);
 
-/// Whether two names are of one file, or would be once it is there.
+/// Whether two names are of one file, or will be once it is there. A link that leads nowhere is a name of its own,
+/// since a new file takes its place.
 bool isSameFile(const std::string& one, const std::string& other);
 
 /// Files told apart by what they are on the disk. Each is looked at once.

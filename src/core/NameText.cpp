@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include <QByteArrayView>
-#include <QStringDecoder>
 
 namespace tavrin {
 
@@ -11,21 +10,17 @@ namespace {
 
 constexpr char16_t kByte = 0xDC00;
 constexpr qsizetype kMostBytes = 4;  // of one character
+/// The mark of the byte order, which readers of text take away where one of their pieces begins with it.
+constexpr QByteArrayView kMark = "\xef\xbb\xbf";
 
-/// Length of the character that begins here; 0 where these bytes are none.
+/// Length of the character that begins here; 0 where these bytes are none, or one that might get lost.
 qsizetype characterAt(QByteArrayView bytes, qsizetype at) {
+    if (bytes.sliced(at).startsWith(kMark)) return 0;
     const qsizetype most = std::min(kMostBytes, bytes.size() - at);
     for (qsizetype length = 1; length <= most; ++length) {
         if (bytes.sliced(at, length).isValidUtf8()) return length;
     }
     return 0;
-}
-
-/// A mark of the byte order at the beginning belongs to the name like any other character.
-QString decode(QByteArrayView bytes) {
-    QStringDecoder decoder(QStringDecoder::Utf8,
-                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-    return decoder(bytes);
 }
 
 bool isByte(QChar c) {
@@ -36,12 +31,12 @@ bool isByte(QChar c) {
 
 QString textOfName(const std::string& name) {
     const QByteArrayView bytes(name.data(), static_cast<qsizetype>(name.size()));
-    if (bytes.isValidUtf8()) return decode(bytes);
+    if (bytes.isValidUtf8() && !bytes.contains(kMark)) return QString::fromUtf8(bytes);
     QString text;
     for (qsizetype at = 0; at < bytes.size();) {
         const qsizetype length = characterAt(bytes, at);
         if (length > 0) {
-            text += decode(bytes.sliced(at, length));
+            text += QString::fromUtf8(bytes.sliced(at, length));
         } else {
             text += QChar(static_cast<char16_t>(kByte + static_cast<unsigned char>(bytes[at])));
         }

@@ -34,6 +34,11 @@ class OriginalsCliTest : public testing::Test {
                            file("sea.png"), "--out",         file("out")} +
                size() + more;
     }
+    QStringList batchOf(const char* portraits, const char* out, const QStringList& more) const {
+        return QStringList{"batch",         "--foregrounds", file(portraits), "--backgrounds",
+                           file("sea.png"), "--out",         file(out)} +
+               size() + more;
+    }
     QStringList render(const QString& out, const QStringList& more = {}) const {
         return QStringList{
                    "render", "--foreground", file("shots/sea/anna.png"), "--background", file("sea.png"), "--out",
@@ -151,7 +156,7 @@ TEST_F(OriginalsCliTest, LinksAreNotFollowedOutOfTheFolderAndReadOnlyPicturesSta
     fs::create_directory(folder_.path() / "elsewhere");
     test::writeFile(folder_.file("elsewhere/mine.jpg"), "mine");
     fs::create_symlink(folder_.file("elsewhere/mine.jpg"), folder_.file("out/annasea.jpg"));
-    fs::create_symlink(folder_.file("elsewhere/new.jpg"), folder_.file("out/bensea.jpg"));
+    fs::create_symlink(folder_.file("elsewhere/mine.jpg"), folder_.file("out/bensea.jpg"));
     fs::create_directory_symlink(folder_.file("elsewhere"), folder_.file("out/sea"));
     for (const char* style : {"combine", "split"}) {
         const auto outcome = test::runCli(batch({"--style", style, "--overwrite"}));
@@ -160,13 +165,19 @@ TEST_F(OriginalsCliTest, LinksAreNotFollowedOutOfTheFolderAndReadOnlyPicturesSta
         EXPECT_TRUE(outcome.err.contains("leads out of")) << outcome.err.toStdString();
     }
     EXPECT_EQ(test::readFile(folder_.file("elsewhere/mine.jpg")), "mine");
+    // One that leads nowhere is replaced.
+    fs::remove(folder_.path() / "out" / "bensea.jpg");
+    fs::create_symlink(folder_.file("elsewhere/new.jpg"), folder_.file("out/bensea.jpg"));
+    EXPECT_TRUE(test::runCli(batch()).err.contains("0 pictures made, 2 failed"));
+    EXPECT_TRUE(test::runCli(batch({"--overwrite"})).err.contains("1 picture made, 1 failed"));
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder_.file("out/bensea.jpg"))));
     EXPECT_EQ(std::distance(fs::directory_iterator(folder_.file("elsewhere")), {}), 1);
 
     fs::create_directory_symlink(folder_.file("elsewhere"), folder_.file("linked"));  // what the user named
-    EXPECT_EQ(test::runCli(batch({"--out", file("linked")})).code, 0);
+    EXPECT_EQ(test::runCli(batchOf("shots/sea", "linked", {})).code, 0);
     const std::string made = test::readFile(folder_.file("elsewhere/annasea.jpg"));
     fs::permissions(folder_.file("elsewhere/annasea.jpg"), fs::perms(0444));
-    for (const QStringList& call : {batch({"--out", file("linked"), "--set", "iBlendEdges=2"}),
+    for (const QStringList& call : {batchOf("shots/sea", "linked", {"--set", "iBlendEdges=2"}),
                                     render(file("linked/annasea.jpg"), {"--set", "iBlendEdges=2"})}) {
         const auto outcome = test::runCli(call);
         EXPECT_EQ(outcome.code, 1);
@@ -182,7 +193,7 @@ TEST_F(OriginalsCliTest, GuestsWhoseNamesAreNoTextKeepTheirPictures) {
         fs::rename(folder_.file("portrait.png"), folder_.file(std::string("guests/") + name));
     };
     guest("M\xf6ller.png", QColor(200, 60, 50));
-    const QStringList numbered = batch({"--foregrounds", file("guests"), "--style", "number"});
+    const QStringList numbered = batchOf("guests", "out", {"--style", "number"});
     ASSERT_EQ(test::runCli(numbered).code, 0);
     const std::string first = test::readFile(folder_.file("out/BatchFile1.jpg"));
     guest("M\xfcller.png", QColor(60, 60, 200));
@@ -191,7 +202,7 @@ TEST_F(OriginalsCliTest, GuestsWhoseNamesAreNoTextKeepTheirPictures) {
     EXPECT_TRUE(outcome.out.contains("M\\udcfcller.png")) << outcome.out.toStdString();
     EXPECT_EQ(test::readFile(folder_.file("out/BatchFile1.jpg")), first);
     EXPECT_NE(test::readFile(folder_.file("out/BatchFile2.jpg")), first);
-    outcome = test::runCli(batch({"--foregrounds", file("guests"), "--report", file("report")}));
+    outcome = test::runCli(batchOf("guests", "out", {"--report", file("report")}));
     EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
     EXPECT_TRUE(fs::exists(folder_.file("out/M\xf6llersea.jpg")));
     EXPECT_TRUE(fs::exists(folder_.file("out/M\xfcllersea.jpg")));
