@@ -138,6 +138,7 @@ std::int32_t BatchEngine::ComputeNumberOfFilesInBatchUsingXMLFile() {
     defaults.outputFolder = settings_.sLastBatchOutput;
     defaults.outputFileType = settings_.iLastBatchLastOutputFileType;
     defaults.outputStyle = settings_.iLastBatchLastOutputStyle;
+    defaults.skipTakenNumbers = true;
     defaults.outputTransparency = info_.bOutputTransparency;
     defaults.noGreenScreenProcessing = info_.bShowOrgImage;
     defaults.blueScreenProcessing = info_.bUseBlueLogic;

@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "batch/BatchElement.h"
+#include "batch/BatchNames.h"
 #include "batch/BatchView.h"
 #include "batch/NextFileInFolder.h"
+#include "core/FileIdentity.h"
 #include "core/state/SystemInfo.h"
 
 namespace tavrin {
@@ -80,7 +82,14 @@ class BatchEngine {
     std::function<void()> pause;
 
   private:
-    struct Job;
+    /// The next combination, by the names of the lists.
+    struct Job {
+        BatchSources names;
+        std::string foregroundPath, backgroundPath, statePath;
+        std::string historyKey;
+        std::string foregroundName = names.foreground;  ///< tells whether the foreground is loaded already
+        bool fromList = false;
+    };
 
     void showCounts(std::int32_t processed);
     void moveListFileAway(const std::string& folder, const std::string& name);
@@ -99,6 +108,8 @@ class BatchEngine {
     void loadForeground(const Job& job);
     void waitUntilStable(const std::string& path);
     void nameOutput(const Job& job);
+    std::string whyNotSaved();
+    KnownFiles inputFiles();
 
     void chooseFolder(Field<std::string>& setting, NextFileInFolder* scanner);
     void storeFolder(Field<std::string>& setting, NextFileInFolder* scanner, const std::string& folder);

@@ -3,7 +3,6 @@
 #include <unordered_set>
 
 #include "batch/BatchEngine.h"
-#include "batch/BatchNames.h"
 #include "core/Log.h"
 #include "formats/ImageState.h"
 #include "pipeline/OutputSize.h"
@@ -12,15 +11,6 @@
 namespace fs = std::filesystem;
 
 namespace tavrin {
-
-/// The next combination, by the names of the lists.
-struct BatchEngine::Job {
-    BatchSources names;
-    std::string foregroundPath, backgroundPath, statePath;
-    std::string historyKey;
-    std::string foregroundName = names.foreground;  ///< tells whether the foreground is loaded already
-    bool fromList = false;
-};
 
 void BatchEngine::nextBatchImageToProcess() {
     if (bBatchProcessingStopped) return;
@@ -42,6 +32,10 @@ void BatchEngine::nextBatchImageToProcess() {
     loadBackground(*job);
     loadForeground(*job);
     if (!job->fromList) nameOutput(*job);
+    if (const std::string problem = whyNotSaved(); !problem.empty()) {
+        info_.alert("The batch has stopped: a picture cannot go where it should.", problem + ".");
+        return stopRun();
+    }
     bSaveNextImage = true;
     if (!job->fromList) {
         // Before the picture is made: a job that breaks the program is not tried for ever.
@@ -247,24 +241,6 @@ void BatchEngine::waitUntilStable(const std::string& path) {
         std::lock_guard lock(waitMutex_);
         if (now == before || leaving_) return;
         before = now;
-    }
-}
-
-void BatchEngine::nameOutput(const Job& job) {
-    const std::string folder = settings_.sLastBatchOutput;
-    switch (settings_.iLastBatchLastOutputStyle) {
-        case kNumberFiles:
-            sSaveFileName = numberedName(folder, iNextFileNumber);
-            iNextFileNumber = iNextFileNumber + 1;
-            break;
-        case kCombineNames:
-            sSaveFileName = combinedName(folder, job.names);
-            break;
-        case kSplitIntoFolders:
-            sSaveFileName = splitName(folder, job.names, makeFolders);
-            break;
-        default:
-            break;
     }
 }
 

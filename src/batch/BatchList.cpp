@@ -10,6 +10,7 @@
 #include <QStringDecoder>
 
 #include "batch/NextFileInFolder.h"
+#include "core/FileIdentity.h"
 
 namespace fs = std::filesystem;
 
@@ -89,6 +90,7 @@ class Draft {
 
     BatchElement close(int& nextNumber) {
         if (numbers_) {
+            if (defaults_.skipTakenNumbers) nextNumber = freeNumber(folder_, nextNumber, job_.iOutputFileType);
             job_.sOutputFile = numberedName(folder_, nextNumber++);
         } else if (splits_) {
             // The pictures of the moment count by their own names. State files play no part here.
@@ -152,6 +154,7 @@ BatchList parseBatchList(const std::string& text, const BatchListDefaults& defau
 }
 
 std::string readBatchListText(const std::string& path) {
+    if (!isPlainFile(path)) return {};
     std::ifstream file(path, std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);

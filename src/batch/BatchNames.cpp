@@ -27,6 +27,17 @@ std::string numberedName(const std::string& folder, int number) {
     return folder + "/BatchFile" + std::to_string(number);
 }
 
+int freeNumber(const std::string& folder, int number, int fileType) {
+    const auto isTaken = [](const std::string& path) {
+        std::error_code ignored;
+        return fs::exists(fs::symlink_status(path, ignored));
+    };
+    for (;; ++number) {
+        const std::string name = numberedName(folder, number);
+        if (!isTaken(name + extensionFor(fileType)) && !isTaken(name + ".qlx")) return number;
+    }
+}
+
 std::string combinedName(const std::string& folder, const BatchSources& sources) {
     return folder + "/" + stemOrNothing(sources.foreground) + stemOrNothing(sources.background) +
            stemOrNothing(sources.state);

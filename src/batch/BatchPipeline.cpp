@@ -98,8 +98,10 @@ class Stages {
     void encode(InHand& hand) {
         const BatchJob& job = hand.result.job;
         const MadePicture& made = hand.made;
+        std::string problem = tasks_.beforeWrite ? tasks_.beforeWrite(job) : std::string();
+        hand.result.diskFull = problem == kDiskFull;
+        if (!problem.empty()) return hand.fail(problem, false);
         makeFolders(fs::path(job.out).parent_path().string());
-        std::string problem;
         do {
             problem = writePicture(job.out,
                                    {made.pixels.data(), made.width, made.height, job.fileType, made.dpi, made.exif});

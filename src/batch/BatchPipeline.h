@@ -36,6 +36,9 @@ struct JobResult {
 struct PipelineTasks {
     /// The next job, nothing at the end; called by one thread at a time.
     std::function<std::optional<BatchJob>()> next;
+    /// Called on any thread before the file of a picture that stands is begun.
+    /// @return "" or why it may not be written
+    std::function<std::string(const BatchJob&)> beforeWrite;
     /// Called by one thread at a time, as jobs come to their end.
     std::function<void(JobResult)> finished;
     /// The disk is full: waits a moment and says whether to try once more. Null: never.

@@ -10,16 +10,14 @@
 #include <QJsonObject>
 
 #include "core/AtomicFile.h"
+#include "core/FileIdentity.h"
+#include "core/NameText.h"
 
 namespace tavrin {
 
 namespace {
 
 constexpr const char* kKind = "tavrin-batch";
-
-QString toQt(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 const char* statusName(JobResult::Status status) {
     switch (status) {
@@ -63,8 +61,9 @@ std::string writeLines(const std::string& path, const std::vector<std::string>& 
 class Merger {
   public:
     std::string read(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        if (!file) return path + " cannot be read.";
+        std::ifstream file;
+        if (isPlainFile(path)) file.open(path, std::ios::binary);
+        if (!file.is_open()) return path + " cannot be read.";
         bool isReport = false;
         for (std::string line; std::getline(file, line);) {
             const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
@@ -122,7 +121,7 @@ class Merger {
         if (status == "skipped") ++merged.counts.skipped;
         if (status != "failed") return;
         ++merged.counts.failed;
-        merged.failures.push_back((job["foreground"].toString() + ": " + job["reason"].toString()).toStdString());
+        merged.failures.push_back(nameOfText(job["foreground"].toString() + ": " + job["reason"].toString()));
     }
 
     int total_ = 0;
@@ -137,12 +136,12 @@ class Merger {
 std::string describeResult(const JobResult& result, const std::string& outFolder) {
     const BatchJob& job = result.job;
     QJsonObject object{{"n", job.number},
-                       {"foreground", toQt(job.foreground)},
-                       {"out", toQt(relativeTo(outFolder, job.out))},
+                       {"foreground", textOfName(job.foreground)},
+                       {"out", textOfName(relativeTo(outFolder, job.out))},
                        {"status", statusName(result.status)}};
-    if (!job.background.empty()) object["background"] = toQt(job.background);
-    if (!job.state.empty()) object["state"] = toQt(job.state);
-    if (!result.reason.empty()) object["reason"] = toQt(result.reason);
+    if (!job.background.empty()) object["background"] = textOfName(job.background);
+    if (!job.state.empty()) object["state"] = textOfName(job.state);
+    if (!result.reason.empty()) object["reason"] = textOfName(result.reason);
     if (result.status == JobResult::Status::done) {
         object["width"] = result.width;
         object["height"] = result.height;
@@ -153,7 +152,7 @@ std::string describeResult(const JobResult& result, const std::string& outFolder
 }
 
 void BatchReport::begin(const std::string& shard, int total, const std::string& list) {
-    head_ = lineOf({{"report", kKind}, {"shard", toQt(shard)}, {"jobs", total}, {"list", toQt(list)}});
+    head_ = lineOf({{"report", kKind}, {"shard", textOfName(shard)}, {"jobs", total}, {"list", textOfName(list)}});
 }
 
 void BatchReport::add(const JobResult& result, const std::string& outFolder) {

@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "batch/BatchNames.h"
+#include "batch/OutputGuard.h"
 #include "core/AtomicFile.h"
 
 namespace fs = std::filesystem;
@@ -42,7 +43,17 @@ std::string BatchRun::check() const {
     }
     if (from.subfolders && isSameFolder(from.foregrounds, fs::path(from.out).parent_path().string()))
         return "The pictures need a folder outside " + from.foregrounds + ".";
-    return "";
+    return checkOutputs();
+}
+
+/// Before anything is made, the folder for the pictures and its journal included.
+std::string BatchRun::checkOutputs() const {
+    if (std::string problem = whyNoReport(options_.report); !problem.empty()) return problem;
+    Journal past;
+    if (options_.sources.style == kNumberFiles) past.open(options_.sources.out, Journal::Use::look);
+    const GivenNames given = past.givenNames();
+    const JobList list = planJobs(options_.sources, options_.shard.isWhole() ? &given : nullptr);
+    return findOverwrittenInput(options_.sources, options_.report, list.jobs, maker_);
 }
 
 std::string BatchRun::begin() {
@@ -98,6 +109,10 @@ void BatchRun::tellPlan(std::vector<BatchJob> jobs) {
         bool failedBefore = !job.problem.empty();
         JobResult result;
         result.reason = failedBefore ? job.problem : whyNot(job, failedBefore);
+        if (result.reason.empty()) {
+            result.reason = whyRefused(job);
+            failedBefore = !result.reason.empty();
+        }
         result.status = failedBefore ? Status::failed : result.reason.empty() ? Status::planned : Status::skipped;
         result.job = std::move(job);
         counts_.skipped += result.status == Status::skipped;
@@ -123,6 +138,7 @@ void BatchRun::make(const std::vector<BatchJob>& jobs) {
     std::size_t at = 0;
     PipelineTasks tasks;
     tasks.inHand = options_.inHand;
+    tasks.beforeWrite = [this](const BatchJob& job) { return claimToWrite(job); };
     tasks.finished = [this](JobResult result) { end(std::move(result)); };
     tasks.next = [this, &jobs, &at]() -> std::optional<BatchJob> {
         while (at < jobs.size() && mayGoOn()) {
@@ -147,7 +163,9 @@ bool BatchRun::isBegun(const BatchJob& job) {
         }
         result.status = failedBefore ? Status::failed : Status::skipped;
         if (result.reason.empty()) {
-            result.reason = claimNumber(job);
+            result.reason = whyRefused(job);
+            const bool isNumbered = options_.sources.style == kNumberFiles && options_.shard.isWhole();
+            if (result.reason.empty() && isNumbered) result.reason = claim(job);
             if (result.reason.empty()) return true;
             result.status = Status::failed;
             result.diskFull = result.reason == kDiskFull;
@@ -160,16 +178,31 @@ bool BatchRun::isBegun(const BatchJob& job) {
     return false;
 }
 
-/// A number belongs to its job from here on, whatever happens to this process.
-std::string BatchRun::claimNumber(const BatchJob& job) {
-    if (options_.sources.style != kNumberFiles || !options_.shard.isWhole()) return "";
+/// Why no picture may go to the job's place, in words behind its name; "" when it may.
+std::string BatchRun::whyRefused(const BatchJob& job) {
+    const std::string problem = whyOutside(options_.sources.out, job.out);
+    std::error_code ignored;
+    if (!problem.empty() || options_.overwrite || !fs::exists(fs::symlink_status(job.out, ignored))) return problem;
+    std::lock_guard lock(mutex_);
+    if (journal_.owns(relativeTo(options_.sources.out, job.out))) return "";
+    return "a file of this name is there that this batch did not make; --overwrite replaces it";
+}
+
+/// A kill may come between the picture and its record, and it must be known as ours then.
+std::string BatchRun::claimToWrite(const BatchJob& job) {
+    const std::string problem = whyRefused(job);
+    return problem.empty() ? claim(job) : problem;
+}
+
+/// A name belongs to its job from here on, whatever happens to this process.
+std::string BatchRun::claim(const BatchJob& job) {
     JobRecord claim;
     claim.name = job.name;
     claim.out = relativeTo(options_.sources.out, job.out);
     {
         std::lock_guard lock(mutex_);
         const JobRecord* known = journal_.find(job.name);
-        if (known && known->out == claim.out) return "";
+        if (known && known->out == claim.out && journal_.owns(claim.out)) return "";
     }
     std::string problem;
     do {

@@ -25,6 +25,7 @@ struct BatchOptions {
     bool watch = false;        ///< never end; take files as they arrive
     bool retryFailed = false;  ///< take pictures again that failed in an earlier run
     bool again = false;        ///< take pictures again that are done
+    bool overwrite = false;    ///< replace files that no batch of this folder made
     bool dryRun = false;       ///< tell what would be done, and write nothing
     bool pollOnly = false;     ///< look for new files now and then, without the system's help
     int inHand = 3;
@@ -51,7 +52,8 @@ class BatchRun {
     /// @param stopAsked answers at any moment, from any thread, whether the user wants the run to end
     BatchRun(BatchOptions options, PictureMaker& maker, BatchObserver& observer, std::function<bool()> stopAsked);
 
-    /// @return "" or what is wrong with the folders that were named, as one plain line
+    /// @return "" or what is wrong with the files and folders that were named, as one plain line: some are not there,
+    ///         or pictures would be written over what they are made from
     std::string check() const;
     /// @return "" when the run began and ended; otherwise why it could not begin, as one plain line
     std::string run();
@@ -71,7 +73,10 @@ class BatchRun {
 
     bool mayGoOn() const;
     bool isBegun(const BatchJob& job);
-    std::string claimNumber(const BatchJob& job);
+    std::string claim(const BatchJob& job);
+    std::string claimToWrite(const BatchJob& job);
+    std::string whyRefused(const BatchJob& job);
+    std::string checkOutputs() const;
     std::string whyNot(const BatchJob& job, bool& failedBefore);
     bool isSameInput(const std::string& path, const InputFile& input) const;
     void end(JobResult result);

@@ -2,9 +2,12 @@
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
+#include <vector>
 
 #include <QCryptographicHash>
-#include <QFile>
+
+#include "core/FileIdentity.h"
 
 namespace fs = std::filesystem;
 
@@ -30,10 +33,13 @@ std::optional<FileFacts> factsOf(const std::string& path) {
 }
 
 std::string digestOfFile(const std::string& path) {
-    QFile file(QString::fromStdString(path));
+    if (!isPlainFile(path)) return {};
+    std::ifstream file(path, std::ios::binary);
     QCryptographicHash hash(kDigest);
-    if (!file.open(QFile::ReadOnly) || !hash.addData(&file)) return {};
-    return hash.result().toHex().toStdString();
+    std::vector<char> bytes(std::size_t{1} << 18);
+    while (file.read(bytes.data(), static_cast<std::streamsize>(bytes.size())) || file.gcount() > 0)
+        hash.addData(QByteArrayView(bytes.data(), static_cast<qsizetype>(file.gcount())));
+    return file.eof() ? hash.result().toHex().toStdString() : std::string();
 }
 
 std::string digestOfText(const std::string& text) {

@@ -3,6 +3,7 @@
 #include <pugixml.hpp>
 
 #include "core/AtomicFile.h"
+#include "core/FileIdentity.h"
 
 namespace tavrin {
 
@@ -43,7 +44,7 @@ std::size_t sizeOf(std::FILE* file) {
 }
 
 std::string readBytes(const std::string& path) {
-    std::FILE* file = std::fopen(path.c_str(), "rb");
+    std::FILE* file = isPlainFile(path) ? std::fopen(path.c_str(), "rb") : nullptr;
     if (!file) return {};
     std::string bytes;
     const std::size_t size = sizeOf(file);

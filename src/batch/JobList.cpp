@@ -13,6 +13,7 @@
 #include "batch/BatchNames.h"
 #include "batch/FileFacts.h"
 #include "batch/NextFileInFolder.h"
+#include "core/NameText.h"
 
 namespace fs = std::filesystem;
 
@@ -32,7 +33,7 @@ using Entries = std::vector<Entry>;
 void sortByFixedRules(std::vector<std::string>& names) {
     std::vector<std::pair<QString, std::string>> keyed;
     for (std::string& name : names) {
-        QString folded = QString::fromStdString(name).toCaseFolded();
+        QString folded = textOfName(name).toCaseFolded();
         keyed.emplace_back(std::move(folded), std::move(name));
     }
     std::sort(keyed.begin(), keyed.end());
@@ -67,9 +68,16 @@ std::vector<std::string> foldersIn(const std::string& place) {
     return names;
 }
 
-/// File names may hold bytes that are no text; what is kept in files of text must come back as it went in.
-std::string textOf(const std::string& bytes) {
-    return QString::fromStdString(bytes).toStdString();
+/// One name from several, of which no two rows give the same: what parts them may stand in a name, so there it is
+/// the one byte that cannot.
+std::string keyOf(const std::vector<std::string>& names) {
+    std::string key;
+    for (std::string name : names) {
+        std::replace(name.begin(), name.end(), '|', '\0');
+        key += name + "|";
+    }
+    key.pop_back();
+    return key;
 }
 
 std::string orCurrent(const std::string& name) {
@@ -81,7 +89,7 @@ BatchJob jobOf(const Entry& foreground, const Entry& background, const Entry& st
     job.foreground = foreground.path;
     job.background = background.path;
     job.state = state.path;
-    job.name = textOf(foreground.name + "|" + background.name + "|" + state.name);
+    job.name = keyOf({foreground.name, background.name, state.name});
     return job;
 }
 
@@ -166,8 +174,7 @@ class Planner {
         job.background = element.sBackgroundFile;
         // A job without a state has the (here empty) background's path in its place.
         if (!element.sQLXFile.empty()) job.state = (fs::path(sources_.states) / element.sQLXFile).string();
-        job.name = textOf(element.sForegroundFile + "|" + element.sBackgroundFile + "|" + element.sQLXFile + "|" +
-                          element.sOutputFile);
+        job.name = keyOf({element.sForegroundFile, element.sBackgroundFile, element.sQLXFile, element.sOutputFile});
         job.fileType = element.iOutputFileType;
         job.out = element.sOutputFile + extensionFor(element.iOutputFileType);
         job.switches = {element.OutputTransparency, element.NoGreenScreenProcessing, element.BlueScreenProcessing};
@@ -193,6 +200,7 @@ class Planner {
         if (given_) {
             for (const auto& [name, out] : *given_)
                 taken.insert(out);
+            addNamesInFolder(taken);
         }
         int next = 1;
         for (BatchJob& job : list_.jobs) {
@@ -227,8 +235,21 @@ class Planner {
         return given_ && known != given_->end() && known->second == relativeTo(sources_.out, job.out);
     }
 
+    /// Pictures that no journal tells of have their numbers too.
+    void addNamesInFolder(std::set<std::string>& names) const {
+        std::error_code failed;
+        for (fs::directory_iterator entry(sources_.out, failed), end; !failed && entry != end;
+             entry.increment(failed))
+            names.insert(entry->path().filename().string());
+    }
+
+    /// Whether a name from a journal is one that a number gives, so that no other leads to some place.
     static bool isNumbered(const std::string& name, const std::string& extension) {
-        return name.starts_with("BatchFile") && name.ends_with(extension);
+        constexpr std::string_view kStem = "BatchFile";
+        if (!name.starts_with(kStem) || !name.ends_with(extension)) return false;
+        if (name.size() <= kStem.size() + extension.size()) return false;
+        return std::all_of(name.begin() + kStem.size(), name.end() - static_cast<std::ptrdiff_t>(extension.size()),
+                           [](char c) { return c >= '0' && c <= '9'; });
     }
 
     const JobSources& sources_;

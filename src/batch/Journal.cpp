@@ -16,6 +16,8 @@
 #include <QUuid>
 
 #include "core/AtomicFile.h"
+#include "core/FileIdentity.h"
+#include "core/NameText.h"
 
 namespace fs = std::filesystem;
 
@@ -35,15 +37,14 @@ std::int64_t now() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(since).count();
 }
 
-QString toQt(const std::string& text) {
-    return QString::fromStdString(text);
-}
+/// No run gets that far: a number beyond it was not written by one.
+constexpr std::int64_t kHighestOrder = std::int64_t{1} << 52;
 
 /// File times have more digits than a JSON number holds, so they are written as text.
 QJsonObject describe(const InputFile& input) {
     return {{"size", QString::number(input.facts.size)},
             {"time", QString::number(input.facts.time)},
-            {"digest", toQt(input.digest)}};
+            {"digest", textOfName(input.digest)}};
 }
 
 InputFile inputOf(const QJsonObject& object) {
@@ -55,13 +56,14 @@ std::string lineOf(const JobRecord& record) {
     QJsonArray inputs;
     for (const InputFile& input : record.inputs)
         inputs.append(describe(input));
-    QJsonObject object{{"name", toQt(record.name)},
-                       {"out", toQt(record.out)},
+    QJsonObject object{{"name", textOfName(record.name)},
+                       {"out", textOfName(record.out)},
                        {"status", kStatusNames[static_cast<int>(record.status)]},
+                       {"order", static_cast<qint64>(record.order)},
                        {"at", QString::number(record.time)},
-                       {"recipe", toQt(record.recipe)},
+                       {"recipe", textOfName(record.recipe)},
                        {"inputs", inputs}};
-    if (!record.reason.empty()) object["reason"] = toQt(record.reason);
+    if (!record.reason.empty()) object["reason"] = textOfName(record.reason);
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + "\n";
 }
 
@@ -73,15 +75,21 @@ std::optional<JobRecord> recordOf(const std::string& line) {
                                      [&status](const char* name) { return status == QLatin1String(name); });
     if (known == std::end(kStatusNames) || !object.contains("name")) return std::nullopt;
     JobRecord record;
-    record.name = object["name"].toString().toStdString();
-    record.out = object["out"].toString().toStdString();
+    record.name = nameOfText(object["name"].toString());
+    record.out = nameOfText(object["out"].toString());
     record.status = static_cast<JobRecord::Status>(known - std::begin(kStatusNames));
+    record.order = object["order"].toInteger();
+    if (record.order < 0 || record.order > kHighestOrder) record.order = 0;
     record.time = object["at"].toString().toLongLong();
     record.recipe = object["recipe"].toString().toStdString();
-    record.reason = object["reason"].toString().toStdString();
+    record.reason = nameOfText(object["reason"].toString());
     for (const auto& input : object["inputs"].toArray())
         record.inputs.push_back(inputOf(input.toObject()));
     return record;
+}
+
+bool isLater(const JobRecord& record, const JobRecord& than) {
+    return record.order != than.order ? record.order > than.order : record.time >= than.time;
 }
 
 bool writeAll(int file, const std::string& text) {
@@ -107,12 +115,13 @@ Journal::~Journal() {
 
 // The system gives the turn back when the process ends, however that comes about.
 bool Journal::takeTurn(Use use) {
-    turn_ = ::open((folder_ + "/turn").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    turn_ = ::open((folder_ + "/turn").c_str(), O_RDWR | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
     if (turn_ < 0) return true;  // the journal's own file tells why
     return ::flock(turn_, (use == Use::alone ? LOCK_EX : LOCK_SH) | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
 std::string Journal::open(const std::string& outFolder, Use use) {
+    use_ = use;
     folder_ = (fs::path(outFolder) / kFolder).string();
     std::error_code failed;
     if (use != Use::look) {
@@ -120,10 +129,7 @@ std::string Journal::open(const std::string& outFolder, Use use) {
         if (failed) return "The folder " + outFolder + " cannot be written to: " + failed.message() + ".";
         if (!takeTurn(use)) return "Another batch is writing into " + outFolder + ".";
     }
-    std::vector<std::string> files;
-    for (fs::directory_iterator entry(folder_, failed), end; !failed && entry != end; entry.increment(failed)) {
-        if (entry->path().extension() == kEnding) files.push_back(entry->path().string());
-    }
+    const std::vector<std::string> files = this->files();
     for (const std::string& file : files)
         readFile(file);
     path_ = folder_ + "/" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + kEnding;
@@ -131,21 +137,50 @@ std::string Journal::open(const std::string& outFolder, Use use) {
     return "";
 }
 
+/// Anything but a plain file of that ending is none of the journal's, and might keep a reader waiting.
+std::vector<std::string> Journal::files() const {
+    std::vector<std::string> files;
+    std::error_code failed;
+    for (fs::directory_iterator entry(folder_, failed), end; !failed && entry != end; entry.increment(failed)) {
+        const std::string path = entry->path().string();
+        if (path.ends_with(kEnding) && isPlainFile(path)) files.push_back(path);
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+/// What has come to the file since it was read last. A last line without its end may be under way, and is read again.
 void Journal::readFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
+    std::streamoff& end = read_[path];
+    file.seekg(end);
     for (std::string line; std::getline(file, line);) {
-        const std::optional<JobRecord> record = recordOf(line);
-        if (!record) continue;
-        JobRecord& known = records_[record->name];
-        if (known.name.empty() || record->time >= known.time) known = *record;
+        if (!file.eof()) end += static_cast<std::streamoff>(line.size()) + 1;
+        if (std::optional<JobRecord> record = recordOf(line)) take(std::move(*record));
     }
 }
 
-// The old files go when their records stand in the new one.
+void Journal::take(JobRecord record) {
+    order_ = std::max(order_, record.order);
+    if (record.status != JobRecord::Status::failed) owners_.try_emplace(record.out, record.name);
+    JobRecord& known = records_[record.name];
+    if (known.name.empty() || isLater(record, known)) known = std::move(record);
+}
+
+// The old files go when their records stand in the new one. A picture that its job has left behind for another name
+// stays known by a record that is older than any.
 void Journal::tidy(const std::vector<std::string>& files) {
     AtomicFile joined(folder_ + "/" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + kEnding);
     for (const auto& [name, record] : records_) {
         const std::string line = lineOf(record);
+        joined.write(line.data(), line.size());
+    }
+    for (const auto& [out, name] : owners_) {
+        if (records_[name].out == out) continue;
+        JobRecord left;
+        left.name = name;
+        left.out = out;
+        const std::string line = lineOf(left);
         joined.write(line.data(), line.size());
     }
     if (!joined.commit()) return;
@@ -158,14 +193,31 @@ const JobRecord* Journal::find(const std::string& name) const {
     return known == records_.end() ? nullptr : &known->second;
 }
 
+bool Journal::owns(const std::string& out) {
+    if (owners_.contains(out)) return true;
+    // Another task may be at work on the same share.
+    if (use_ != Use::shared) return false;
+    for (const std::string& file : files()) {
+        if (file != path_) readFile(file);
+    }
+    return owners_.contains(out);
+}
+
 std::string Journal::add(JobRecord record) {
+    record.order = order_ + 1;
     record.time = now();
-    // A line that a full disk cut short ends here, so that it spoils no other.
-    const std::string line = (torn_ ? "\n" : "") + lineOf(record);
-    records_[record.name] = std::move(record);
+    const bool isBegun = record.status == JobRecord::Status::begun;
+    const std::string line = lineOf(record);
+    take(std::move(record));
+    return append(line, isBegun);
+}
+
+std::string Journal::append(const std::string& line, bool onDisk) {
     if (file_ < 0) file_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
-    if (file_ >= 0 && writeAll(file_, line)) {
+    // A line that a full disk cut short ends here, so that it spoils no other.
+    if (file_ >= 0 && writeAll(file_, torn_ ? "\n" + line : line)) {
         torn_ = false;
+        if (onDisk) ::fdatasync(file_);
         return "";
     }
     const int reason = errno;

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <ios>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "batch/FileFacts.h"
@@ -26,13 +28,15 @@ struct JobRecord {
     Status status = Status::begun;
     std::string recipe;  ///< digest of all settings in force
     std::vector<InputFile> inputs;
-    std::string reason;     ///< why it failed
-    std::int64_t time = 0;  ///< of the record, milliseconds; of two the later counts
+    std::string reason;      ///< why it failed
+    std::int64_t order = 0;  ///< of two records the later counts; 0 in records of old versions, which come first
+    std::int64_t time = 0;   ///< of the record, milliseconds; decides where the order does not
 };
 
 /// Which pictures of a folder were made from what. The records lie in a hidden folder beside the pictures, one file
 /// for each run that made some, one line a picture: so runs on many machines need nothing but the folder, nobody
-/// waits for anybody, and a run that is killed loses at most the line it was writing.
+/// waits for anybody, and a run that is killed loses at most the line it was writing. Clocks may be wrong: every run
+/// counts its records on from the highest number it has seen.
 class Journal {
   public:
     /// Who may use the folder at the same time.
@@ -51,7 +55,10 @@ class Journal {
 
     /// The latest record of a job; null when there is none. Valid until the next `add`.
     const JobRecord* find(const std::string& name) const;
-    /// Adds a record, with the time of now, for this run and later ones.
+    /// Whether a run has made a picture of this name, or was about to. Names are as in `JobRecord::out`.
+    bool owns(const std::string& out);
+    /// Adds a record, with the next number and the time of now, for this run and later ones. One that a picture is
+    /// begun is on the disk when this returns, since the picture soon will be.
     /// @return "" when done; otherwise why it is not on the disk (`kDiskFull` or other words). It counts for this run
     ///         in any case.
     std::string add(JobRecord record);
@@ -59,12 +66,19 @@ class Journal {
     GivenNames givenNames() const;
 
   private:
+    std::vector<std::string> files() const;
     void readFile(const std::string& path);
+    void take(JobRecord record);
     void tidy(const std::vector<std::string>& files);
     bool takeTurn(Use use);
+    std::string append(const std::string& line, bool onDisk);
 
+    Use use_ = Use::look;
     std::string folder_, path_;
     std::map<std::string, JobRecord> records_;
+    std::map<std::string, std::string> owners_;  ///< names of pictures, and of the jobs they were first made for
+    std::unordered_map<std::string, std::streamoff> read_;  ///< files, and how far they were read
+    std::int64_t order_ = 0;                                ///< the highest that was seen
     int file_ = -1, turn_ = -1;
     bool torn_ = false;
 };

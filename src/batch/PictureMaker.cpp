@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 
+#include "core/state/NamedFiles.h"
 #include "core/state/SettingNames.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
@@ -74,21 +75,22 @@ std::unique_ptr<SystemInfo> PictureMaker::prepare(const BatchJob& job, std::stri
 }
 
 const PictureMaker::Recipe& PictureMaker::recipe(const BatchJob& job) {
-    std::string key = job.state + "|";
+    std::string key = job.state + '\0';  // which no name holds
     if (job.switches) {
         for (const bool on : {job.switches->outputTransparency, job.switches->noGreenScreenProcessing,
                               job.switches->blueScreenProcessing})
             key += on ? "1" : "0";
     }
-    if (job.state.empty() || job.background.empty()) key += "|" + job.background;
+    if (job.state.empty() || job.background.empty()) key += '\0' + job.background;
     const FileFacts facts = job.state.empty() ? FileFacts() : factsOf(job.state).value_or(FileFacts());
     Recipe& known = recipes_[key];
     if (known.digest.empty() || !(known.state == facts)) {
-        known = {facts, "", "", ""};
+        known = {facts, "", "", "", {}};
         const auto info = prepare(job, known.problem);
         if (info) {
             known.background = info->pBackgroundBitmapInfo->sSourceImageFullPath;
             known.digest = digestOfSettings(*info);
+            known.files = filesNamedBy(*info);
         }
     }
     return known;
@@ -107,6 +109,11 @@ std::string PictureMaker::backgroundOf(const BatchJob& job, std::string& problem
     const Recipe& known = recipe(job);
     problem = known.problem;
     return known.background;
+}
+
+std::vector<std::string> PictureMaker::filesOf(const BatchJob& job) {
+    std::lock_guard lock(mutex_);
+    return recipe(job).files;
 }
 
 MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foreground,

@@ -5,6 +5,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <vector>
 
 #include "batch/BatchJob.h"
 #include "batch/FileFacts.h"
@@ -47,10 +48,14 @@ class PictureMaker {
     /// The background file of a job, which may be the one that its state names.
     std::string backgroundOf(const BatchJob& job, std::string& problem);
 
+    /// The files that the state and the settings of a job name; none when the state cannot be read.
+    std::vector<std::string> filesOf(const BatchJob& job);
+
   private:
     struct Recipe {
         FileFacts state;
         std::string digest, background, problem;
+        std::vector<std::string> files;
     };
     const Recipe& recipe(const BatchJob& job);
 

@@ -62,6 +62,12 @@ fs::path followLink(const fs::path& path) {
     return error || !fs::is_symlink(path, error) ? path : target;
 }
 
+bool mayBeWritten(const std::string& path, const fs::file_status& status) {
+    constexpr fs::perms kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    // The administrator may write to anything, which is not what a picture without a right to write to it wants.
+    return (status.permissions() & kWrite) != fs::perms::none && ::access(path.c_str(), W_OK) == 0;
+}
+
 bool isHiddenName(const std::string& name) {
     return name.starts_with(".tavrin-") && name.ends_with(".part");
 }
@@ -95,6 +101,11 @@ AtomicFile::AtomicFile(const std::string& target) {
     }
     if (fs::exists(status) && !fs::is_regular_file(status)) {
         error_ = target_ + " is not a plain file";
+        return;
+    }
+    // Moving a new file over it would get around what its owner has asked for.
+    if (fs::exists(status) && !mayBeWritten(target_, status)) {
+        error_ = path.filename().string() + " is write-protected and stays as it is";
         return;
     }
     hidden_ = (path.parent_path() / hiddenName()).string();

@@ -14,7 +14,8 @@ inline constexpr const char* kDiskFull = "the disk is full";
 /// Every operation after a failed one does nothing.
 class AtomicFile {
   public:
-    /// Creates the hidden file beside `target` (beside the file it leads to, where it is a link).
+    /// Creates the hidden file beside `target` (beside the file it leads to, where it is a link). A target that is
+    /// there and may not be written to is refused.
     explicit AtomicFile(const std::string& target);
     ~AtomicFile();
     AtomicFile(const AtomicFile&) = delete;

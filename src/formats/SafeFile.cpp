@@ -7,8 +7,12 @@
 #include <unistd.h>
 #endif
 
+#include <algorithm>
+#include <cerrno>
 #include <chrono>
+#include <cstring>
 #include <filesystem>
+#include <fstream>
 
 #include <QFile>
 #include <QLockFile>
@@ -22,10 +26,10 @@ namespace tavrin {
 
 namespace {
 
-constexpr QFile::Permissions kOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
+constexpr fs::perms kOwnerOnly = fs::perms::owner_read | fs::perms::owner_write;
 // What the user's own mask leaves of this is what any new file gets.
-constexpr QFile::Permissions kEveryone =
-    kOwnerOnly | QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+constexpr fs::perms kEveryone =
+    kOwnerOnly | fs::perms::group_read | fs::perms::group_write | fs::perms::others_read | fs::perms::others_write;
 constexpr int kTurnMilliseconds = 5000;
 constexpr int kEmptyLockMilliseconds = 200;
 
@@ -61,6 +65,18 @@ std::error_code moveFile(const std::string& from, const std::string& to) {
 void removeFile(const std::string& path) {
     std::error_code ignored;
     fs::remove(toPath(path), ignored);
+}
+
+/// Makes a new file by the bytes of its name, which need not be text.
+bool openNew(QFile& file, const std::string& path, fs::perms permissions) {
+#ifdef _WIN32
+    file.setFileName(toQt(path));
+    return file.open(QFile::WriteOnly | QFile::NewOnly) && permissions != fs::perms::none;
+#else
+    const int handle =
+        ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, static_cast<mode_t>(permissions));
+    return handle >= 0 && file.open(handle, QFile::WriteOnly, QFile::AutoCloseHandle);
+#endif
 }
 
 bool bringToDisk(QFile& file) {
@@ -121,6 +137,10 @@ static void removeAbandonedLock(const std::string& lock) {
 }
 
 bool SafeSave::takeTurn() {
+    std::error_code ignored;
+    const fs::file_status lock = fs::status(toPath(lockName(path_)), ignored);
+    if (fs::exists(lock) && !fs::is_regular_file(lock))
+        return fail(path_ + " cannot be saved: " + lockName(path_) + " is no file.");
     auto turn = std::make_unique<QLockFile>(toQt(lockName(path_)));
     bool mine = turn->tryLock(2 * kEmptyLockMilliseconds);
     if (!mine) {
@@ -145,20 +165,20 @@ bool SafeSave::takeTurn() {
 bool SafeSave::openTemporary(Readers readers) {
     // A leftover might be open to more readers than this file may be, so it is never written to again.
     removeFile(temporaryName(path_));
-    file_ = std::make_unique<QFile>(toQt(temporaryName(path_)));
-    if (file_->open(QFile::WriteOnly | QFile::NewOnly, readers == Readers::ownerOnly ? kOwnerOnly : kEveryone))
-        return true;
-    return fail(path_ + " cannot be saved: " + file_->errorString().toStdString() + ".");
+    file_ = std::make_unique<QFile>();
+    if (openNew(*file_, temporaryName(path_), readers == Readers::ownerOnly ? kOwnerOnly : kEveryone)) return true;
+    return fail(path_ + " cannot be saved: " + std::strerror(errno) + ".");
 }
 
 bool SafeSave::setOldFileAside(Readers readers) {
     if (!isThere(path_)) return true;
     if (!fs::is_regular_file(toPath(path_)) && !fs::is_symlink(toPath(path_)))
         return fail(path_ + " cannot be saved: it is no file.");
+    std::error_code ignored;
     if (readers == Readers::ownerOnly) {
-        QFile::setPermissions(toQt(path_), kOwnerOnly);
-    } else if (QFile::exists(toQt(path_))) {
-        file_->setPermissions(QFile::permissions(toQt(path_)));
+        fs::permissions(toPath(path_), kOwnerOnly, ignored);
+    } else if (const fs::file_status old = fs::status(toPath(path_), ignored); fs::exists(old)) {
+        fs::permissions(toPath(temporaryName(path_)), old.permissions(), ignored);
     }
     const std::error_code problem = moveFile(path_, setAsideName(path_));
     return problem ? fail(path_ + " cannot be replaced: " + problem.message() + ".") : true;
@@ -210,19 +230,21 @@ bool readExisting(const std::string& path, std::size_t limit, FileBytes& result)
         result.problem = path + " is no file.";
         return true;
     }
-    QFile file(toQt(path));
-    if (!file.open(QFile::ReadOnly)) {
-        result.problem = path + " cannot be opened: " + file.errorString().toStdString() + ".";
+    std::ifstream file(toPath(path), std::ios::binary);
+    if (!file) {
+        result.problem = path + " cannot be opened: " + std::strerror(errno) + ".";
         return false;
     }
     result.problem.clear();
-    if (file.size() > static_cast<qint64>(limit)) {
+    const auto size = file.seekg(0, std::ios::end).tellg();
+    if (size > static_cast<std::streamoff>(limit)) {
         result.problem = path + " is longer than any file of its kind (" + std::to_string(limit) + " bytes).";
         return true;
     }
-    result.bytes = file.readAll().toStdString();
-    if (file.error() != QFile::NoError)
-        result.problem = path + " cannot be read: " + file.errorString().toStdString() + ".";
+    result.bytes.resize(static_cast<std::size_t>(std::max<std::streamoff>(size, 0)));
+    file.seekg(0).read(result.bytes.data(), static_cast<std::streamsize>(result.bytes.size()));
+    if (size < 0 || file.bad()) result.problem = path + " cannot be read: " + std::strerror(errno) + ".";
+    result.bytes.resize(static_cast<std::size_t>(file.gcount()));
     return true;
 }
 

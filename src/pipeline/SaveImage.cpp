@@ -4,9 +4,11 @@
 #include <cctype>
 #include <filesystem>
 
-#include <QSaveFile>
+#include <QBuffer>
 
+#include "core/AtomicFile.h"
 #include "core/image/ImageWriter.h"
+#include "core/state/NamedFiles.h"
 
 namespace tavrin {
 
@@ -47,6 +49,7 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
     const PassGeometry size = info.geometry(myRes);
     const std::uint8_t* pixels = myRes == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes;
     if (!pixels) return refuse(info, path + ": there is no picture to save yet.");
+    if (const std::string problem = whyNotOver(info, path); !problem.empty()) return refuse(info, problem + ".");
 
     const std::string error = writePicture(
         path, {pixels, size.width, size.height, theFileType, size.dpi, info.pForegroundBitmapInfo->sourceExif});
@@ -59,10 +62,15 @@ bool saveMatteToDisk(SystemInfo& info, const std::string& path, int myRes) {
     const std::uint8_t* pixels = myRes == 1 ? background.pBitmapData : background.pBitmapDataLowRes;
     if (!pixels) return refuse(info, path + ": there is no matte to save yet.");
 
-    QSaveFile file(QString::fromStdString(path));
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         matteOf(pixels, size.width, size.height).save(&file, "PNG") && file.commit();
-    return written || refuse(info, path + ": " + file.errorString().toStdString() + ".");
+    if (const std::string problem = whyNotOver(info, path); !problem.empty()) return refuse(info, problem + ".");
+
+    QBuffer png;
+    png.open(QBuffer::WriteOnly);
+    if (!matteOf(pixels, size.width, size.height).save(&png, "PNG"))
+        return refuse(info, path + ": there is not enough memory for it.");
+    AtomicFile file(path);
+    file.write(png.data().constData(), static_cast<std::size_t>(png.size()));
+    return file.commit() || refuse(info, path + ": " + file.error() + ".");
 }
 
 }  // namespace tavrin

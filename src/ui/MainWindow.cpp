@@ -12,6 +12,8 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include "core/NameText.h"
+#include "core/state/NamedFiles.h"
 #include "formats/ImageState.h"
 #include "pipeline/SaveImage.h"
 #include "pipeline/StartUp.h"
@@ -35,7 +37,10 @@ QString pictureFilter() {
 QStringList localFiles(const QMimeData* data) {
     QStringList files;
     for (const QUrl& url : data->urls()) {
-        if (url.isLocalFile()) files.append(url.toLocalFile());
+        // The path of a link is written in bytes, which need not be text.
+        if (url.isLocalFile())
+            files.append(
+                textOfName(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString()));
     }
     return files;
 }
@@ -107,6 +112,7 @@ void MainWindow::chooseSize(int index) {
 
 void MainWindow::remember(const QString& path) {
     constexpr int kRecentFiles = 10;
+    if (!path.isValidUtf16()) return;  // the name is no text, and settings hold nothing else
     QSettings settings;
     QStringList files = settings.value(kRecentKey).toStringList();
     files.removeAll(path);
@@ -145,7 +151,7 @@ void MainWindow::askForStateToSave() {
 void MainWindow::openState(const QString& path) {
     saveAction_->setEnabled(false);
     loop_->post([this, path] {
-        const std::string problem = openStateFile(info_, path.toStdString());
+        const std::string problem = openStateFile(info_, nameOfText(path));
         if (problem.empty()) {
             emit bridge_.stateOpened(path);
         } else {
@@ -155,7 +161,9 @@ void MainWindow::openState(const QString& path) {
 }
 
 bool MainWindow::saveState(const QString& path) {
-    const std::string problem = saveImageStateToXML(info_, path.toStdString());
+    const std::string name = nameOfText(path);
+    std::string problem = whyNoStateOver(info_, name);
+    if (problem.empty()) problem = saveImageStateToXML(info_, name);
     if (!problem.empty()) {
         bridge_.showAlert(tr("The state file cannot be saved.").toStdString(), problem);
         return false;
@@ -187,14 +195,14 @@ void MainWindow::connectBridge() {
 }
 
 void MainWindow::askForLayer(BitmapInfo& record, const QString& title) {
-    const QString folder = QFileInfo(QString::fromStdString(record.sSourceImageFullPath)).path();
+    const QString folder = QFileInfo(textOfName(record.sSourceImageFullPath)).path();
     const QString path = QFileDialog::getOpenFileName(this, title, folder, pictureFilter());
     if (!path.isEmpty()) openLayer(record, path);
 }
 
 void MainWindow::openLayer(BitmapInfo& record, const QString& path) {
     remember(path);
-    record.setSourceImageFullPath(path.toStdString());
+    record.setSourceImageFullPath(nameOfText(path));
     record.bOrgFileChange = true;
     saveAction_->setEnabled(false);
     info_.StartUpdate();
@@ -214,7 +222,7 @@ bool MainWindow::pictureStands() const {
 }
 
 void MainWindow::askForSave() {
-    const QFileInfo source(QString::fromStdString(info_.pForegroundBitmapInfo->sSourceImageFullPath));
+    const QFileInfo source(textOfName(info_.pForegroundBitmapInfo->sSourceImageFullPath));
     const QString suggestion = source.completeBaseName() + "-combined.jpg";
     const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), suggestion,
                                                       tr("JPEG (*.jpg *.jpeg);;PNG (*.png);;TIFF (*.tif *.tiff)"));
@@ -228,7 +236,7 @@ bool MainWindow::saveTo(QString path) {
         return false;
     }
     if (QFileInfo(path).suffix().isEmpty()) path += ".jpg";
-    const std::string target = path.toStdString();
+    const std::string target = nameOfText(path);
     if (!saveImageToDisk(info_, target, fileTypeForPath(target), 1)) return false;
     statusBar()->showMessage(tr("Saved %1").arg(path), 4000);
     return true;

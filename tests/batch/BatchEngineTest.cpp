@@ -184,6 +184,65 @@ TEST_F(BatchEngineTest, StylesNameTheOutput) {
     EXPECT_EQ(made(), (Names{"BatchFile1.jpg", "BatchFile2.jpg", "annaseasoft.tif", "benseasoft.tif"}));
 }
 
+TEST_F(BatchEngineTest, NumbersGoOnBehindThePicturesOfEarlierRuns) {
+    portrait("fg/anna.png");
+    portrait("fg/ben.png");
+    background("bg/sea.png", QColor(20, 60, 200));
+    settings_.iLastBatchLastOutputStyle = kNumberFiles;
+    test::writeFile(folder_.file("out/BatchFile2.png"), "of another day");
+    run();
+    EXPECT_EQ(made(), (Names{"BatchFile1.png", "BatchFile2.png", "BatchFile3.png"}));
+    engine().clickedButtonClearBatchHistory();
+    run();
+    EXPECT_EQ(made().size(), 5u);
+    EXPECT_EQ(test::readFile(folder_.file("out/BatchFile2.png")), "of another day");
+    // A list gets its numbers when it is read.
+    settings_.bUseBatchXMLFile = true;
+    test::writeFile(folder_.file("fg/jobs.xml"),
+                    "<image>\n</image>\n<image>\n<outputfiletype>outputtif</outputfiletype>\n</image>\n");
+    engine().clickedButtonStartBatch();
+    engine().ComputeNumberOfFilesInBatchUsingXMLFile();
+    EXPECT_EQ(engine().myBatchElements[0].sOutputFile, folder_.file("out/BatchFile6"));
+    EXPECT_EQ(engine().myBatchElements[1].sOutputFile, folder_.file("out/BatchFile7"));
+}
+
+TEST_F(BatchEngineTest, ARunNeverWritesOverWhatItReads) {
+    fs::create_directory(folder_.path() / "fg" / "sea");
+    portrait("fg/sea/anna.png");
+    portrait("fg/sea/ben.png");
+    background("bg/sea.png", QColor(20, 60, 200));
+    settings_.sLastBatchForeground = folder_.file("fg/sea");
+    settings_.sLastBatchOutput = folder_.file("fg");
+    settings_.iLastBatchLastOutputStyle = kSplitIntoFolders;
+    const std::string before = test::readFile(folder_.file("fg/sea/anna.png"));
+    run();
+    EXPECT_EQ(test::readFile(folder_.file("fg/sea/anna.png")), before);
+    ASSERT_EQ(alerts_.all.size(), 1u);
+    EXPECT_NE(alerts_.all[0].find(folder_.file("fg/sea/anna.png") + " would be written over"), std::string::npos);
+    EXPECT_TRUE(engine().nextBatchForegroundFile.oProcessedFiles.empty());  // nothing counts as done
+
+    // Nor does a link lead a picture out of the folder.
+    settings_.sLastBatchOutput = folder_.file("out");
+    fs::create_directory_symlink(folder_.file("bg"), folder_.file("out/sea"));
+    alerts_.all.clear();
+    run();
+    ASSERT_EQ(alerts_.all.size(), 1u);
+    EXPECT_NE(alerts_.all[0].find("leads out of"), std::string::npos);
+    EXPECT_EQ(made("bg"), Names{"sea.png"});
+
+    // The state of a picture may have the name of one of the states.
+    settings_.iLastBatchLastOutputStyle = kCombineNames;
+    settings_.bAutoQLXSave = true;
+    ASSERT_EQ(saveImageStateToXML(*info_, folder_.file("out/annasealook.qlx")), "");
+    fs::create_symlink(folder_.file("out/annasealook.qlx"), folder_.file("qlx/look.qlx"));
+    const std::string state = test::readFile(folder_.file("out/annasealook.qlx"));
+    alerts_.all.clear();
+    run();
+    ASSERT_EQ(alerts_.all.size(), 1u);
+    EXPECT_NE(alerts_.all[0].find("annasealook.qlx would be written over"), std::string::npos) << alerts_.all[0];
+    EXPECT_EQ(test::readFile(folder_.file("out/annasealook.qlx")), state);
+}
+
 TEST_F(BatchEngineTest, AStateBringsItsSettingsAndSizeButNotItsForeground) {
     portrait("fg/anna.png");
     portrait("fg/ben.png");

@@ -3,6 +3,9 @@
 #include <chrono>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <memory>
+#include <set>
+#include <sys/stat.h>
 #include <thread>
 
 #include "batch/Arrivals.h"
@@ -111,6 +114,134 @@ TEST_F(JobListTest, NumbersAndClashes) {
     EXPECT_EQ(outs(), (Names{"/out/Asea.jpg", "/out/bsea.jpg", "clash /out/bsea.jpg"}));
     const GivenNames older = {{"b.png|sea.jpg|", "bsea.jpg"}};
     EXPECT_EQ(outs(&older), (Names{"/out/Asea.jpg", "clash /out/bsea.jpg", "/out/bsea.jpg"}));
+}
+
+TEST_F(JobListTest, NamesAreBytesAndNoTwoJobsShareOne) {
+    for (const char* name : {"fg/M\xf6ller.jpg", "fg/M\xfcller.jpg", "fg/m.png|x.png", "bg/y.png", "bg/x.png|y.png"})
+        test::writeFile(folder_.file(name), "");
+    test::writeFile(folder_.file("fg/m.png"), "");
+    const JobList list = planJobs(sources_);
+    std::set<std::string> names;
+    for (const BatchJob& job : list.jobs)
+        names.insert(job.name);
+    EXPECT_EQ(list.jobs.size(), 6u * 4u);
+    EXPECT_EQ(names.size(), list.jobs.size());
+    // The same on every machine, whatever order its folders are in.
+    EXPECT_EQ(fs::path(list.jobs[4].foreground).filename(), "M\xf6ller.jpg");
+    EXPECT_EQ(fs::path(list.jobs[5].foreground).filename(), "M\xfcller.jpg");
+    EXPECT_EQ(names.count("A.PNG|sea.jpg|"), 1u);  // as journals have always had them
+}
+
+TEST_F(JobListTest, ANumberIsNeitherTakenTwiceNorAPath) {
+    fs::create_directory(folder_.path() / "out");
+    sources_.out = folder_.file("out");
+    sources_.backgrounds = folder_.file("bg/sea.jpg");
+    sources_.style = 2;
+    test::writeFile(folder_.file("out/BatchFile1.jpg"), "of another run");
+    fs::create_symlink(folder_.file("nowhere"), folder_.file("out/BatchFile3.jpg"));
+    const auto below = [this](const char* name) { return folder_.file(std::string("out/") + name); };
+    for (const char* evil : {"BatchFile/../../victim.jpg", "BatchFile7/../x.jpg", "/BatchFile8.jpg", "BatchFile.jpg",
+                             "BatchFile9.png", "BatchFile-1.jpg", ""}) {
+        const GivenNames given = {{"A.PNG|sea.jpg|", evil}};
+        EXPECT_EQ(outs(&given), (Names{below("BatchFile2.jpg"), below("BatchFile4.jpg")})) << evil;
+    }
+}
+
+class JournalTest : public testing::Test {
+  protected:
+    JournalTest() { fs::create_directory(hidden_); }
+    static JobRecord record(const std::string& name, JobRecord::Status status, const std::string& out = "o.jpg") {
+        JobRecord made;
+        made.name = name;
+        made.out = out;
+        made.status = status;
+        return made;
+    }
+    void line(const std::string& file, const std::string& text) const {
+        test::writeFile((hidden_ / file).string(), text + "\n");
+    }
+    void open(Journal& journal, Journal::Use use = Journal::Use::alone) const {
+        ASSERT_EQ(journal.open(folder_.path().string(), use), "");
+    }
+
+    test::TempFolder folder_;
+    const fs::path hidden_ = folder_.path() / ".tavrin-batch";
+};
+
+TEST_F(JournalTest, GoesByTheOrderOfItsRecordsAndNotByTheClock) {
+    // From a program that knew no order, on a machine whose clock is ahead; and one with rubbish in it.
+    line("a.jsonl", R"({"name":"x","out":"x.jpg","status":"failed","at":"99999999999999","inputs":[]})");
+    line("b.jsonl", R"({"name":"y","out":"y.jpg","status":"failed","at":"99999999999998","order":1e300})");
+    for (const std::string name : {"x", "y"}) {
+        Journal journal;
+        open(journal);
+        ASSERT_EQ(journal.find(name)->status, JobRecord::Status::failed);
+        ASSERT_EQ(journal.add(record(name, JobRecord::Status::done)), "");
+    }
+    {
+        Journal journal;
+        open(journal);
+        EXPECT_EQ(journal.find("x")->status, JobRecord::Status::done);
+        EXPECT_EQ(journal.find("y")->status, JobRecord::Status::done);
+        ASSERT_EQ(journal.add(record("x", JobRecord::Status::failed)), "");
+    }
+    Journal last;
+    open(last, Journal::Use::look);
+    EXPECT_EQ(last.find("x")->status, JobRecord::Status::failed);
+}
+
+TEST_F(JournalTest, KeepsNamesOfAnyBytesAndUnderstandsOldOnes) {
+    line("old.jsonl", R"({"name":"Möller.jpg|sea.jpg|","out":"Möllersea.jpg","status":"done","at":"5"})");
+    {
+        Journal journal;
+        open(journal);
+        journal.add(record("M\xf6ller.jpg|sea.jpg|", JobRecord::Status::done, "1.jpg"));
+        journal.add(record("M\xfcller.jpg|sea.jpg|", JobRecord::Status::done, "2.jpg"));
+    }
+    Journal journal;
+    open(journal, Journal::Use::look);
+    ASSERT_NE(journal.find("Möller.jpg|sea.jpg|"), nullptr);
+    EXPECT_EQ(journal.find("Möller.jpg|sea.jpg|")->out, "Möllersea.jpg");
+    ASSERT_NE(journal.find("M\xf6ller.jpg|sea.jpg|"), nullptr);
+    EXPECT_EQ(journal.find("M\xf6ller.jpg|sea.jpg|")->out, "1.jpg");
+    EXPECT_EQ(journal.find("M\xfcller.jpg|sea.jpg|")->out, "2.jpg");
+}
+
+TEST_F(JournalTest, KnowsWhichPicturesAreItsOwn) {
+    auto other = std::make_unique<Journal>();
+    open(*other, Journal::Use::shared);
+    {
+        Journal journal;
+        open(journal, Journal::Use::shared);
+        journal.add(record("a", JobRecord::Status::done, "a.jpg"));
+        journal.add(record("a", JobRecord::Status::done, "BatchFile1.jpg"));
+        journal.add(record("b", JobRecord::Status::failed, "b.jpg"));
+        journal.add(record("c", JobRecord::Status::begun, "c.jpg"));
+    }
+    // A task beside it, which opened the journal before.
+    EXPECT_TRUE(other->owns("a.jpg"));
+    EXPECT_FALSE(other->owns("b.jpg"));
+    EXPECT_TRUE(other->owns("c.jpg"));
+    other->add(record("d", JobRecord::Status::begun, "d.jpg"));
+    for (int i = 0; i < 20; ++i)
+        line("empty" + std::to_string(i) + ".jsonl", "");
+    other = std::make_unique<Journal>();
+    open(*other);  // joins the files
+    Journal last;
+    open(last, Journal::Use::look);
+    for (const char* out : {"a.jpg", "BatchFile1.jpg", "c.jpg", "d.jpg"})
+        EXPECT_TRUE(last.owns(out)) << out;
+    EXPECT_EQ(last.find("a")->out, "BatchFile1.jpg");
+}
+
+TEST_F(JournalTest, OpensPlainFilesOnly) {
+    ASSERT_EQ(::mkfifo((hidden_ / "x.jsonl").c_str(), 0600), 0);
+    ASSERT_EQ(::mkfifo((hidden_ / "turn").c_str(), 0600), 0);
+    fs::create_symlink("/dev/zero", hidden_ / "y.jsonl");
+    fs::create_directory(hidden_ / "z.jsonl");
+    Journal journal;
+    open(journal);
+    EXPECT_EQ(journal.add(record("a", JobRecord::Status::done)), "");
 }
 
 TEST(Journal, OutlivesTornLinesAndJoinsManyRuns) {

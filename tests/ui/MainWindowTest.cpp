@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -39,10 +40,13 @@ class MainWindowTest : public testing::Test {
         return window_->view()->fullPicture();
     }
     void drop(const QStringList& files, const QPoint& at) {
-        QMimeData data;
         QList<QUrl> urls;
         for (const QString& file : files)
             urls.append(QUrl::fromLocalFile(file));
+        dropUrls(urls, at);
+    }
+    void dropUrls(const QList<QUrl>& urls, const QPoint& at) {
+        QMimeData data;
         data.setUrls(urls);
         QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(window_.get(), &enter);
@@ -83,6 +87,41 @@ TEST_F(MainWindowTest, DroppedFilesReachTheLayerUnderThem) {
     const QImage covered = pictureAfter([&] { drop({file}, left); });
     EXPECT_EQ(info_->pForegroundBitmapInfo->sSourceImageFullPath.load(), file.toStdString());
     EXPECT_LT(covered.pixelColor(120, 150).red(), 60);
+}
+
+TEST_F(MainWindowTest, NothingIsSavedOverWhatThePictureIsMadeFrom) {
+    ASSERT_TRUE(waitForPicture());
+    std::filesystem::create_symlink(background_, folder_.file("link.png"));
+    test::savePng(test::noisePicture(8, 8, 2), folder_.file("other.png"));
+    const auto bytes = [](const std::string& path) { return QImage(QString::fromStdString(path)); };
+    const QImage portrait = bytes(foreground_), background = bytes(background_),
+                 other = bytes(folder_.file("other.png"));
+    int told = 0;
+    for (const std::string& path : {foreground_, background_, folder_.file("link.png")}) {
+        EXPECT_FALSE(window_->saveTo(QString::fromStdString(path))) << path;
+        EXPECT_FALSE(window_->saveState(QString::fromStdString(path))) << path;
+        QCoreApplication::processEvents();
+        told += 2;
+        EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), told);
+    }
+    EXPECT_FALSE(window_->saveState(QString::fromStdString(folder_.file("other.png"))));
+    EXPECT_EQ(bytes(foreground_), portrait);
+    EXPECT_EQ(bytes(background_), background);
+    EXPECT_EQ(bytes(folder_.file("other.png")), other);
+    EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("other.png"))));  // the dialog has asked
+}
+
+TEST_F(MainWindowTest, AFileWhoseNameIsNoTextCanBeDropped) {
+    ASSERT_TRUE(waitForPicture());
+    QImage plain(240, 300, QImage::Format_RGB888);
+    plain.fill(QColor(10, 20, 200));
+    const std::string path = folder_.file("M\xf6we.png");
+    std::filesystem::rename(test::savePng(plain, folder_.file("plain.png")), path);
+    const QPoint right(window_->width() - 20, window_->height() / 2);
+    const QUrl url = QUrl::fromEncoded(("file://" + folder_.file("M%F6we.png")).c_str());
+    const QImage picture = pictureAfter([&] { dropUrls({url}, right); });
+    EXPECT_EQ(info_->pBackgroundBitmapInfo->sSourceImageFullPath.load(), path);
+    EXPECT_EQ(picture.pixelColor(2, 2), QColor(10, 20, 200));
 }
 
 TEST_F(MainWindowTest, TheSizeBoxChangesTheOutput) {

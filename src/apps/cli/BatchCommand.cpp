@@ -11,6 +11,8 @@
 #include "apps/cli/Console.h"
 #include "apps/cli/PictureOptions.h"
 #include "batch/BatchNames.h"
+#include "batch/OutputGuard.h"
+#include "core/FileIdentity.h"
 #include "core/raster/PixelMemory.h"
 #include "pipeline/StartUp.h"
 
@@ -152,6 +154,7 @@ void addBatchCommand(CLI::App& app, int& result) {
         ->excludes(watch);
     command->add_flag("--retry-failed", batch.retryFailed, "Take pictures again that could not be read");
     command->add_flag("--again", batch.again, "Make every picture again");
+    command->add_flag("--overwrite", batch.overwrite, "Replace files of these names that no batch made");
     command->add_flag("--dry-run", batch.dryRun, "Tell what would be made, and write nothing")->excludes(watch);
     command->add_flag("--json", options->json, "One JSON line a picture, also on a terminal");
     command->add_option("--report", batch.report, "Write a report, as lines of JSON");
@@ -162,7 +165,19 @@ void addBatchCommand(CLI::App& app, int& result) {
 
 namespace {
 
+/// Why the joined report cannot go to this place; "" when it can.
+std::string checkMerge(const std::string& out, const std::vector<std::string>& reports) {
+    for (const std::string& report : reports) {
+        if (isSameFile(out, report)) return "--out " + out + " would be written over the report " + report + ".";
+    }
+    return whyNoReport(out);
+}
+
 int mergeCommand(const std::string& out, const std::vector<std::string>& reports) {
+    if (const std::string problem = checkMerge(out, reports); !problem.empty()) {
+        complain(problem);
+        return kUsage;
+    }
     const MergedReport merged = mergeReports(reports, out);
     if (!merged.problem.empty()) {
         complain(merged.problem);

@@ -11,7 +11,10 @@
 
 #include "apps/cli/Console.h"
 #include "apps/cli/PictureOptions.h"
+#include "core/FileIdentity.h"
+#include "core/NameText.h"
 #include "core/Places.h"
+#include "core/state/NamedFiles.h"
 #include "core/state/SystemInfo.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
@@ -64,6 +67,25 @@ Refusal checkFiles(const RenderOptions& options) {
     return {};
 }
 
+/// Nothing is written over what the picture is made from, and no two outputs have one place.
+Refusal checkOutputs(const SystemInfo& info, const RenderOptions& options) {
+    const std::pair<const char*, std::string> outputs[] = {
+        {"--out", options.out}, {"--alpha", options.alpha}, {"--save-state", options.saveState}};
+    for (const auto& [option, path] : outputs) {
+        std::string problem = whyNotOver(info, path);
+        if (problem.empty() && isSameFile(path, options.state)) problem = overwritesInput(path, options.state);
+        if (!problem.empty()) return {kUsage, std::string(option) + " " + problem + "."};
+        for (const auto& [other, taken] : outputs) {
+            if (other == option) break;
+            if (isSameFile(path, taken))
+                return {kUsage,
+                        std::string(option) + " " + path + " is the same file as " + other + " " + taken + "."};
+        }
+    }
+    const std::string problem = whyNoStateOver(info, options.saveState);
+    return problem.empty() ? Refusal{} : Refusal{kUsage, problem + "."};
+}
+
 Refusal prepare(SystemInfo& info, const RenderOptions& options) {
     if (Refusal refusal = checkFiles(options); refusal.code != kDone) return refusal;
     if (!options.state.empty()) {
@@ -77,7 +99,7 @@ Refusal prepare(SystemInfo& info, const RenderOptions& options) {
         return refusal;
     if (!ChangeImageSize(info)) return {kUsage, "The output size cannot be used."};
     info.bSkipHiRes = options.preview;
-    return {};
+    return checkOutputs(info, options);
 }
 
 void compute(SystemInfo& info, const RenderOptions& options) {
@@ -91,7 +113,7 @@ void compute(SystemInfo& info, const RenderOptions& options) {
 QJsonObject describe(const SystemInfo& info, const RenderOptions& options, double seconds) {
     const bool full = !options.preview;
     return {
-        {"out", QString::fromStdString(options.out)},
+        {"out", textOfName(options.out)},
         {"width", full ? info.iOutputPixelWidth.load() : info.iOutputPixelLowResWidth.load()},
         {"height", full ? info.iOutputPixelHeight.load() : info.iOutputPixelLowResHeight.load()},
         {"dpi", full ? info.iOutputImageDPI.load() : info.iOutputImageLowResDPI.load()},
@@ -148,8 +170,8 @@ Examples:
   tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna.png --alpha anna-matte.png
       --set bOutputTransparency=1 --set combined.sliderWhiteAdjust=0 --set foreground.iContrast=60
   tavrin-cli render --state school.qlx --foreground anna.jpg --out anna-school.jpg
-  tavrin-cli render --foreground toy.jpg --background sky.jpg --out toy.jpg --blue --fast
-  tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna.jpg --shadow floor --frame oval
+  tavrin-cli render --foreground toy.jpg --background sky.jpg --out toy-sky.jpg --blue --fast
+  tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna-floor.jpg --shadow floor --frame oval
       --texture canvas --set frame.iFrameThickness=15
 
 The short options of the effects come first, so that --set refines them; "tavrin-cli effects" tells about each.

@@ -9,6 +9,8 @@
 
 #include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
+#include "core/NameText.h"
+#include "core/state/NamedFiles.h"
 #include "core/state/SettingNames.h"
 #include "core/state/SystemInfo.h"
 #include "formats/ImageState.h"
@@ -33,7 +35,7 @@ std::unique_ptr<SystemInfo> loadState(const std::string& path) {
 void printJson(const Fields& fields) {
     QJsonObject object;
     for (const auto& [name, value] : fields)
-        object.insert(QString::fromStdString(name), QString::fromStdString(value));
+        object.insert(QString::fromStdString(name), textOfName(value));
     std::fputs(QJsonDocument(object).toJson(QJsonDocument::Indented).constData(), stdout);
 }
 
@@ -78,6 +80,10 @@ int set(const std::string& in, const std::string& out, const std::vector<std::st
     std::string problem = applyAssignments(*info, assignments);
     if (!problem.empty()) {
         complain(problem);
+        return kUsage;
+    }
+    if (problem = whyNoStateOver(*info, out); !problem.empty()) {
+        complain(problem + ".");
         return kUsage;
     }
     problem = saveImageStateToXML(*info, out);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "batch/JobList.h"
+#include "batch/PictureMaker.h"
+
+namespace tavrin {
+
+/// Whether a run would write over something that it reads: portraits, backgrounds, states, the list, and the files
+/// that states and settings name. Files are told apart by what they are, whatever names lead to them; each is looked
+/// at once, and none when no picture is there yet.
+/// @param report of the run; may be empty
+/// @return "" or one plain line that names both
+std::string findOverwrittenInput(const JobSources& sources, const std::string& report,
+                                 const std::vector<BatchJob>& jobs, PictureMaker& maker);
+
+/// Why a report cannot go to this place, as one plain line: there is a picture. "" when it can.
+std::string whyNoReport(const std::string& path);
+
+/// Why a picture may not go to its place: a link would lead it out of the folder that was named for the pictures. A
+/// link that leads nowhere is replaced and leads nothing anywhere.
+/// @param folder of all pictures; a list may put single ones elsewhere
+/// @return "" or words behind the picture's name
+std::string whyOutside(const std::string& folder, const std::string& picture);
+
+}  // namespace tavrin
