@@ -13,12 +13,14 @@
 #include "apps/cli/PictureOptions.h"
 #include "core/Places.h"
 #include "core/RandomSource.h"
+#include "core/state/NamedFiles.h"
 #include "core/state/SystemInfo.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
 #include "pipeline/StartUp.h"
+#include "pipeline/StateFile.h"
 #include "pipeline/WholePicture.h"
 
 namespace fs = std::filesystem;
@@ -67,15 +69,14 @@ Refusal checkFiles(const RenderOptions& options) {
 
 Refusal prepare(SystemInfo& info, const RenderOptions& options) {
     if (Refusal refusal = checkFiles(options); refusal.code != kDone) return refusal;
-    if (!options.state.empty()) {
-        const std::string problem = LoadImageStateFromXML(info, options.state, kLoadAll);
-        if (!problem.empty()) return {kFailed, problem};
-    }
+    LoadedStateFile loaded;
+    if (!options.state.empty()) loaded = loadStateFile(info, options.state);
+    if (!loaded.problem.empty()) return {kFailed, loaded.problem};
     if (Refusal refusal = applySources(info, options); refusal.code != kDone) return refusal;
     const std::string left = options.picture.effects.leftOut(options.fast, options.preview);
     if (!left.empty()) return {kUsage, left};
-    if (Refusal refusal = applyPictureOptions(info, options.picture, !options.state.empty()); refusal.code != kDone)
-        return refusal;
+    const LoadedStateFile* state = options.state.empty() ? nullptr : &loaded;
+    if (Refusal refusal = applyPictureOptions(info, options.picture, state); refusal.code != kDone) return refusal;
     if (!ChangeImageSize(info)) return {kUsage, "The output size cannot be used."};
     info.bSkipHiRes = options.preview;
     return {};
@@ -129,6 +130,7 @@ int render(const RenderOptions& options) {
     if (!options.alpha.empty() && !saveMatteToDisk(*info, options.alpha, res)) return kFailed;
     console.clearProgress();
     if (!options.saveState.empty()) {
+        useFullPaths(*info);
         const std::string problem = saveImageStateToXML(*info, options.saveState);
         if (!problem.empty()) {
             complain(problem);
