@@ -96,9 +96,9 @@ class Failures {
     int more_ = 0;
 };
 
-Failures putLists(const Places& places) {
+Failures putLists(const Places& places, const std::string& problemBefore) {
     Failures failures;
-    failures.add(places.createFolders());
+    failures.add(problemBefore);
     for (const ShippedFile& file : shippedLists(places))
         failures.add(putShippedFile(file.name, file.path));
     return failures;
@@ -122,7 +122,7 @@ QLXInfo firstSettings(const Places& places) {
 }
 
 std::string installMissingFiles(const Places& places) {
-    Failures failures = putLists(places);
+    Failures failures = putLists(places, places.createFolders());
     for (const ShippedFile& file : shippedStart(places))
         failures.add(putShippedFile(file.name, file.path));
     failures.add(putFirstSettings(places));
@@ -142,7 +142,7 @@ std::string shippedPicture(const std::string& name, const Places& places) {
 }
 
 std::string installMissingLists(const Places& places) {
-    return putLists(places).line();
+    return putLists(places, "").line();
 }
 
 }  // namespace tavrin

@@ -14,7 +14,7 @@ namespace tavrin {
 /// @return "" when done; otherwise one line: the first folder or file that could not be made, why, and how many more
 [[nodiscard]] std::string installMissingFiles(const Places& places = Places::current());
 
-/// The folders and the lists of sizes and pages alone.
+/// The lists of sizes and pages alone, into a folder that is there.
 [[nodiscard]] std::string installMissingLists(const Places& places = Places::current());
 
 /// Bytes of a file that the program ships, by its name in `data/`; empty when it has none of that name.

@@ -108,10 +108,11 @@ TEST_F(StartUpTest, WhatIsDamagedIsToldOnceAndTheShippedTakesItsPlace) {
 }
 
 TEST_F(StartUpTest, ADamagedListIsToldOnceOnTheCommandLineToo) {
-    ASSERT_EQ(installMissingLists(), "");
+    fs::create_directories(places_.xmlFolder());
     test::writeFile(places_.imageSizeFile(), "<Damaged>");
     SystemInfo info;
     startCommandLine(info);
+    EXPECT_FALSE(fs::exists(folder_.file("pictures"))) << "nothing else is put into the account";
     EXPECT_EQ(info.iImageSizeCount(), 52);
     EXPECT_EQ(test::readFile(places_.imageSizeFile() + ".damaged"), "<Damaged>");
     EXPECT_EQ(test::readFile(places_.imageSizeFile()), shippedFile("ImageSize.xml"));
