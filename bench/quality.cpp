@@ -114,7 +114,8 @@ Errors measure(const Scene& scene, const Variant& variant, const std::string& ba
     info->pForegroundBitmapInfo->sSourceImageFullPath = scene.picture;
     info->pBackgroundBitmapInfo->sSourceImageFullPath = background;
     const double width = scene.truth.width(), height = scene.truth.height();
-    if (!selectOwnSize(*info, "scene", width / dpi, height / dpi, dpi) || !ChangeImageSize(*info)) {
+    selectOwnSize(*info, "scene", width / dpi, height / dpi, dpi);
+    if (!ChangeImageSize(*info)) {
         throw std::runtime_error(scene.name + ": the picture's size cannot be used.");
     }
     CombineThread(*info).runUntilIdle();

@@ -90,7 +90,8 @@ std::unique_ptr<SystemInfo> prepare(const KeyJob& job, QSize size) {
     info->pForegroundBitmapInfo->sSourceImageFullPath = job.foreground;
     info->pBackgroundBitmapInfo->sSourceImageFullPath = job.background;
     const double width = size.width(), height = size.height();
-    if (!selectOwnSize(*info, "peers", width / kDpi, height / kDpi, kDpi) || !ChangeImageSize(*info)) {
+    selectOwnSize(*info, "peers", width / kDpi, height / kDpi, kDpi);
+    if (!ChangeImageSize(*info)) {
         throw std::runtime_error(job.foreground + ": the picture's size cannot be used.");
     }
     CombineThread(*info).runUntilIdle();

@@ -103,7 +103,7 @@ class BatchEngine {
     std::optional<Job> chooseFromList();
     void refuseOnce(const std::string& problem);
     void loadState(const Job& job);
-    void useSize(std::int32_t index);
+    void useSize();
     void loadBackground(const Job& job);
     void loadForeground(const Job& job);
     void waitUntilStable(const std::string& path);

@@ -7,6 +7,7 @@
 #include "formats/ImageState.h"
 #include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
+#include "pipeline/StateFile.h"
 
 namespace fs = std::filesystem;
 
@@ -175,34 +176,23 @@ std::optional<BatchEngine::Job> BatchEngine::chooseFromList() {
 
 void BatchEngine::loadState(const Job& job) {
     if (job.names.state == sLastQLXFile.load()) return;
-    const OutputGeometry before = info_;
     const std::string foreground = info_.pForegroundBitmapInfo->sSourceImageFullPath;
-    const std::string problem = LoadImageStateFromXML(info_, job.statePath, kLoadAll);
-    if (!problem.empty()) logTrace(problem);  // the job runs with the state in force
+    const LoadedStateFile loaded = loadStateFile(info_, job.statePath);
+    if (!loaded.problem.empty()) logTrace(loaded.problem);  // the job runs with the state in force
+    if (!loaded.sizeProblem.empty()) logError(loaded.sizeProblem);
     info_.pForegroundBitmapInfo->sSourceImageFullPath = foreground;
-    // The file's pixel sizes allocate nothing, so they never stand beside buffers of another size.
-    const std::string name = info_.sImageSizeName;
-    const std::int32_t index = info_.iSelecteImageSize;
-    static_cast<OutputGeometry&>(info_) = before;
-    info_.sImageSizeName = name;
-    if (index != before.iSelecteImageSize) useSize(index);
+    if (loaded.newSize) useSize();
     info_.pForegroundBitmapInfo->bOrgFileChange = true;
     info_.pBackgroundBitmapInfo->bOrgFileChange = true;
     sLastQLXFile = job.names.state;
 }
 
-void BatchEngine::useSize(std::int32_t index) {
-    const std::int32_t before = info_.iSelecteImageSize;
-    info_.iSelecteImageSize = index;
-    if (!ChangeImageSize(info_)) {
-        info_.iSelecteImageSize = before;
-        return;
-    }
-    const ImageSize& size = info_.oImageSize[static_cast<std::size_t>(index)];
-    info_.sImageSizeName = size.sName;
+void BatchEngine::useSize() {
+    const std::optional<ImageSize> size = selectedSize(info_);
+    if (!size || !ChangeImageSize(info_)) return;
     info_.bNewOutputSize = true;
     if (info_.pInterface) info_.pInterface->updateScaleUI();
-    const std::string title = size.sDefaultPrinterPage;
+    const std::string title = size->sDefaultPrinterPage;
     std::int32_t page = 0;
     for (std::int32_t i = 0; i < info_.iPrinterPageCount(); ++i) {
         if (info_.oPrinterPages[static_cast<std::size_t>(i)].sPageTitle.load() == title) page = i;

@@ -6,7 +6,6 @@
 
 #include "core/state/NamedFiles.h"
 #include "core/state/SettingNames.h"
-#include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
 #include "pipeline/StartUp.h"
@@ -34,11 +33,9 @@ bool isPlace(const std::string& setting) {
 
 std::string digestOfSettings(const SystemInfo& info) {
     std::string text = QCoreApplication::applicationVersion().toStdString() + "\n";
-    const auto selected = static_cast<std::size_t>(info.iSelecteImageSize.load());
-    if (selected < info.oImageSize.size()) {
-        const ImageSize& size = info.oImageSize[selected];
-        text += std::to_string(size.dWidth) + "x" + std::to_string(size.dHeight) + " at " +
-                std::to_string(size.dotsPerInch) + "\n";
+    if (const std::optional<ImageSize> size = selectedSize(info)) {
+        text += std::to_string(size->dWidth) + "x" + std::to_string(size->dHeight) + " at " +
+                std::to_string(size->dotsPerInch) + "\n";
     }
     for (const auto& [name, value] : listFields(info)) {
         if (isPlace(name)) continue;
@@ -61,12 +58,14 @@ void apply(SystemInfo& info, const JobSwitches& switches) {
 std::unique_ptr<SystemInfo> PictureMaker::prepare(const BatchJob& job, std::string& problem) const {
     auto info = std::make_unique<SystemInfo>();
     startLike(*info, base_);
-    if (!job.state.empty()) problem = LoadImageStateFromXML(*info, job.state, kLoadAll);
+    LoadedStateFile loaded;
+    if (!job.state.empty()) loaded = loadStateFile(*info, job.state);
+    problem = loaded.problem;
     if (problem.empty()) {
         if (job.switches) apply(*info, *job.switches);
         info->pForegroundBitmapInfo->sSourceImageFullPath = job.foreground;
         if (!job.background.empty()) info->pBackgroundBitmapInfo->sSourceImageFullPath = job.background;
-        problem = settings_(*info, !job.state.empty());
+        problem = settings_(*info, job.state.empty() ? nullptr : &loaded);
     }
     if (problem.empty() && info->pBackgroundBitmapInfo->sSourceImageFullPath.empty())
         problem = "there is no background for it";

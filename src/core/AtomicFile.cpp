@@ -30,7 +30,26 @@ std::string hiddenName() {
     return name;
 }
 
-std::string plainReason(int code, const std::string& folder) {
+// Where a link leads to; the path itself where it is none.
+fs::path followLink(const fs::path& path) {
+    std::error_code error;
+    const fs::path target = fs::weakly_canonical(path, error);
+    return error || !fs::is_symlink(path, error) ? path : target;
+}
+
+bool mayBeWritten(const std::string& path, const fs::file_status& status) {
+    constexpr fs::perms kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    // The administrator may write to anything, which is not what a picture without a right to write to it wants.
+    return (status.permissions() & kWrite) != fs::perms::none && ::access(path.c_str(), W_OK) == 0;
+}
+
+bool isHiddenName(const std::string& name) {
+    return name.starts_with(".tavrin-") && name.ends_with(".part");
+}
+
+}  // namespace
+
+std::string writeProblem(int code, const std::string& folder) {
     switch (code) {
         case ENOENT:
             return "the folder " + folder + " does not exist";
@@ -54,25 +73,6 @@ std::string plainReason(int code, const std::string& folder) {
             return std::strerror(code);
     }
 }
-
-// Where a link leads to; the path itself where it is none.
-fs::path followLink(const fs::path& path) {
-    std::error_code error;
-    const fs::path target = fs::weakly_canonical(path, error);
-    return error || !fs::is_symlink(path, error) ? path : target;
-}
-
-bool mayBeWritten(const std::string& path, const fs::file_status& status) {
-    constexpr fs::perms kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    // The administrator may write to anything, which is not what a picture without a right to write to it wants.
-    return (status.permissions() & kWrite) != fs::perms::none && ::access(path.c_str(), W_OK) == 0;
-}
-
-bool isHiddenName(const std::string& name) {
-    return name.starts_with(".tavrin-") && name.ends_with(".part");
-}
-
-}  // namespace
 
 void AtomicFile::removeAbandonedParts(const std::string& folder) {
     constexpr auto kAge = std::chrono::minutes(5);
@@ -129,7 +129,7 @@ void AtomicFile::close() {
 }
 
 bool AtomicFile::fail(int code) {
-    if (error_.empty()) error_ = plainReason(code, folder_);
+    if (error_.empty()) error_ = writeProblem(code, folder_);
     return false;
 }
 

@@ -8,6 +8,10 @@ namespace tavrin {
 /// The `error` when there is no room: the one that may go away by itself.
 inline constexpr const char* kDiskFull = "the disk is full";
 
+/// Why something could not be written, for an error number of the system, as a few plain words.
+/// @param folder the folder that it was to be written into
+std::string writeProblem(int code, const std::string& folder);
+
 /// A file that appears under its name only when it is complete. It is written under a hidden name of its own in the
 /// same folder, brought to the disk, and moved over the target by `commit`; without that the hidden file goes away
 /// with the object. Neither a full disk nor a kill leaves half a file under the name or harms the old one.

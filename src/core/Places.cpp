@@ -1,8 +1,12 @@
 #include "core/Places.h"
 
+#include <filesystem>
+
 #include <QDir>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+
+#include "core/AtomicFile.h"
 
 namespace tavrin {
 
@@ -10,6 +14,15 @@ namespace {
 
 std::string withSlash(const std::string& folder) {
     return folder.ends_with('/') ? folder : folder + "/";
+}
+
+/// The nearest folder above one that is missing.
+std::string above(const std::string& folder) {
+    std::filesystem::path path = std::filesystem::path(folder).parent_path();
+    std::error_code ignored;
+    while (path.has_relative_path() && !std::filesystem::exists(path, ignored))
+        path = path.parent_path();
+    return path.string();
 }
 
 std::string ownFolderIn(QStandardPaths::StandardLocation place) {
@@ -48,7 +61,10 @@ bool Places::usePrivateTempFiles() {
 std::string Places::createFolders() const {
     for (const std::string& folder : {xmlFolder(), tempFilesFolder(), samplesFolder(), textIconsFolder(),
                                       frameFolder(), overlaysFolder(), sketchFolder()}) {
-        if (!QDir().mkpath(QString::fromStdString(folder))) return "The folder " + folder + " cannot be made.";
+        std::error_code problem;
+        std::filesystem::create_directories(folder, problem);
+        if (problem)
+            return "The folder " + folder + " cannot be made: " + writeProblem(problem.value(), above(folder)) + ".";
     }
     return "";
 }

@@ -77,6 +77,8 @@ class StateReader {
         loadTexture("ReflectionTexture", state_.reflectionTexture);
     }
 
+    const StoredSize& storedSize() const { return stored_; }
+
     void commit(SystemInfo& info) const {
         if (mode_ == kLoadAll || mode_ == kLoadBackgroundOnly)
             copyLeaves<LayerSettings>(state_.background, *info.pBackgroundBitmapInfo);
@@ -122,6 +124,18 @@ class StateReader {
             }
         }
         count_ = xml_.IntValue("iFontObjectCount");
+        if (mode_ == kLoadAll) readStoredSize();
+    }
+
+    /// Nonsense in what the settings do not take over refuses no file.
+    void readStoredSize() {
+        const std::string error = xml_.error;
+        stored_.name = xml_.StringValue("sImageSizeName");
+        stored_.index = xml_.Int32Value("iSelecteImageSize");
+        stored_.width = xml_.DoubleValue("dOutputImageWidthInInches");
+        stored_.height = xml_.DoubleValue("dOutputImageHeightInInches");
+        stored_.dpi = xml_.Int32Value("iOutputImageDPI");
+        xml_.error = error;
     }
 
     /// The selected size is the last of the list that has the file's size name. Without one the index of the file
@@ -172,17 +186,20 @@ class StateReader {
     const int mode_;
     LoadedState state_;
     std::int64_t count_ = 0;
+    StoredSize stored_;
 };
 
 }  // namespace
 
-std::string LoadImageStateFromXML(SystemInfo& info, const std::string& path, int iLoadMode) {
+std::string LoadImageStateFromXML(SystemInfo& info, const std::string& path, int iLoadMode, StoredSize* stored) {
     ProcessXML xml;
     if (!xml.OpenXMLFile(path)) return xml.error;
     StateReader reader(xml, info, iLoadMode);
     reader.read();
-    if (xml.error.empty()) reader.commit(info);
-    return xml.error;
+    if (!xml.error.empty()) return xml.error;
+    reader.commit(info);
+    if (stored) *stored = reader.storedSize();
+    return "";
 }
 
 }  // namespace tavrin

@@ -6,6 +6,7 @@
 
 #include <QFile>
 
+#include "core/Lines.h"
 #include "core/Log.h"
 #include "formats/SafeFile.h"
 #include "formats/SettingsFile.h"
@@ -22,12 +23,12 @@ namespace {
 /// Puts a shipped file where there is none.
 std::string putShippedFile(const std::string& shipped, const std::string& path) {
     if (safeFileExists(path)) return "";
-    QFile source(QString::fromStdString(":/shipped/" + shipped));
-    if (!source.open(QFile::ReadOnly)) return "The program was built without its file " + shipped + ".";
+    const std::string bytes = shippedFile(shipped);
+    if (bytes.empty()) return "The program was built without its file " + shipped + ".";
     const std::string fresh = ownNameBeside(path);
     SafeSave save;
     save.begin(fresh, Readers::everyone);
-    save.write(source.readAll().toStdString());
+    save.write(bytes);
     if (!save.commit()) return save.problem();
     return claimName(fresh, path) ? "" : path + " cannot be written.";
 }
@@ -70,34 +71,65 @@ std::vector<ShippedFile> shippedStart(const Places& places) {
     return files;
 }
 
-void addLine(std::string& lines, const std::string& line) {
-    if (!lines.empty() && !line.empty()) lines += '\n';
-    lines += line;
-}
-
 /// A fresh account starts with the shipped state and pictures; one that has settings keeps them.
 std::string putFirstSettings(const Places& places) {
-    if (safeFileExists(places.settingsFile())) return "";
+    return safeFileExists(places.settingsFile()) ? "" : SaveQLXFile(firstSettings(places), places.settingsFile());
+}
+
+/// Counts what could not be made. What stops one file most often stops all that follow.
+class Failures {
+  public:
+    void add(const std::string& problem) {
+        if (first_.empty()) {
+            first_ = problem;
+        } else if (!problem.empty()) {
+            ++more_;
+        }
+    }
+    std::string line() const {
+        if (more_ == 0) return first_;
+        return first_ + " (" + std::to_string(more_) + " more could not be made.)";
+    }
+
+  private:
+    std::string first_;
+    int more_ = 0;
+};
+
+Failures putLists(const Places& places, const std::string& problemBefore) {
+    Failures failures;
+    failures.add(problemBefore);
+    for (const ShippedFile& file : shippedLists(places))
+        failures.add(putShippedFile(file.name, file.path));
+    return failures;
+}
+
+}  // namespace
+
+std::string shippedFile(const std::string& name) {
+    openShippedFiles();
+    QFile source(QString::fromStdString(":/shipped/" + name));
+    return source.open(QFile::ReadOnly) ? source.readAll().toStdString() : std::string();
+}
+
+QLXInfo firstSettings(const Places& places) {
     QLXInfo settings;
     settings.sDefaultQLXFilePath = places.defaultStateFile();
     settings.sStartupFileForegroundPath = places.samplesFolder() + "portrait.jpg";
     settings.sStartupFileBackgroundPath = places.samplesFolder() + "background.jpg";
     settings.sOverlayDir = places.overlaysFolder();
-    return SaveQLXFile(settings, places.settingsFile());
+    return settings;
 }
 
-}  // namespace
-
 std::string installMissingFiles(const Places& places) {
-    std::string problems = installMissingLists(places);
+    Failures failures = putLists(places, places.createFolders());
     for (const ShippedFile& file : shippedStart(places))
-        addLine(problems, putShippedFile(file.name, file.path));
-    addLine(problems, putFirstSettings(places));
-    return problems;
+        failures.add(putShippedFile(file.name, file.path));
+    failures.add(putFirstSettings(places));
+    return failures.line();
 }
 
 std::string shippedPicture(const std::string& name, const Places& places) {
-    openShippedFiles();
     const std::string path = places.picturesFolder() + name;
     for (const ShippedFile& file : shippedStart(places)) {
         if (file.path != path) continue;
@@ -110,11 +142,7 @@ std::string shippedPicture(const std::string& name, const Places& places) {
 }
 
 std::string installMissingLists(const Places& places) {
-    openShippedFiles();
-    std::string problems = places.createFolders();
-    for (const ShippedFile& file : shippedLists(places))
-        addLine(problems, putShippedFile(file.name, file.path));
-    return problems;
+    return putLists(places, "").line();
 }
 
 }  // namespace tavrin

@@ -1,11 +1,31 @@
 #include "formats/Lists.h"
 
+#include "core/Lines.h"
 #include "core/Places.h"
 #include "formats/LeafXML.h"
 
 namespace tavrin {
 
 namespace {
+
+/// The form of a list file.
+template <class Entry>
+struct Form;
+template <>
+struct Form<ImageSize> {
+    static constexpr const char *kRoot = "ImageSizeList", *kEntry = "ImageSize";
+};
+template <>
+struct Form<PrinterPage> {
+    static constexpr const char *kRoot = "AllPages", *kEntry = "Page";
+};
+
+std::string nameOf(const ImageSize& size) {
+    return size.sName;
+}
+std::string nameOf(const PrinterPage& page) {
+    return page.sPageTitle;
+}
 
 void loadEntry(ProcessXML& xml, ImageSize& size) {
     loadLeaves(xml, size);
@@ -39,19 +59,12 @@ void saveEntry(ProcessXML& xml, const PrinterPage& page) {
     }
 }
 
-/// Adds the entries of a file to the list: all of them or none.
+/// Adds the entries of the document to the list: all of them, or none when xml.error says why.
 template <class Entry>
-std::string loadList(std::vector<Entry>& list, const std::string& path, const std::string& root,
-                     const std::string& name, bool custom) {
-    ProcessXML xml;
-    if (!xml.OpenXMLFile(path)) return xml.error;
+void takeEntries(ProcessXML& xml, std::vector<Entry>& list, bool custom) {
+    const std::string root = Form<Entry>::kRoot;
     if (xml.FindNodesForPath(".//" + root).empty()) xml.fail("not a list: the element " + root + " is missing");
-    const auto found = xml.FindNodesForPath(".//" + root + "/" + name);
-    if (list.size() + found.size() > kMaxListEntries) {
-        xml.fail("its " + std::to_string(found.size()) + " elements " + name + " do not fit: the list has room for " +
-                 std::to_string(kMaxListEntries - list.size()) + " more");
-    }
-    if (!xml.error.empty()) return xml.error;
+    const auto found = xml.FindNodesForPath(".//" + root + "/" + Form<Entry>::kEntry);
     std::vector<Entry> entries(found.size());
     for (std::size_t i = 0; i < found.size() && xml.error.empty(); ++i) {
         xml.SetActiveElement(found[i]);
@@ -59,12 +72,58 @@ std::string loadList(std::vector<Entry>& list, const std::string& path, const st
         entries[i].bCustom = custom;
     }
     if (xml.error.empty()) list.insert(list.end(), entries.begin(), entries.end());
-    return xml.error;
 }
 
 template <class Entry>
-std::string saveList(const std::vector<Entry>& list, const std::string& path, const std::string& root,
-                     const std::string& name) {
+std::string loadList(std::vector<Entry>& list, const std::string& path, bool custom) {
+    ProcessXML xml;
+    if (xml.OpenXMLFile(path)) takeEntries(xml, list, custom);
+    return xml.error;
+}
+
+/// Takes what does not fit off the end of a list.
+/// @return one line that names it
+template <class Entry>
+std::string leaveOut(std::vector<Entry>& list, std::size_t room, const std::string& path) {
+    constexpr std::size_t kNamed = 20;
+    if (list.size() <= room) return "";
+    std::string line = path + ": there is room for " + std::to_string(room) + " of its " +
+                       std::to_string(list.size()) + " elements " + Form<Entry>::kEntry + "; left out:";
+    for (std::size_t i = room; i < list.size() && i < room + kNamed; ++i)
+        line += (i > room ? ", \"" : " \"") + nameOf(list[i]) + "\"";
+    if (list.size() > room + kNamed) line += " and " + std::to_string(list.size() - room - kNamed) + " more";
+    list.resize(room);
+    return line;
+}
+
+/// The shipped list of the account. One that is damaged is set aside, and `instead` is taken for any that cannot be
+/// read.
+template <class Entry>
+std::string loadShipped(std::vector<Entry>& list, const std::string& path, const std::string& instead,
+                        bool mayBeMissing) {
+    ProcessXML xml;
+    if (xml.OpenXMLFile(path)) takeEntries(xml, list, false);
+    std::string problem = xml.error;
+    if (!problem.empty() && !instead.empty()) {
+        problem += keptAside(xml, path) + ". The shipped list is used.";
+        if (xml.OpenXMLBytes(path, instead)) takeEntries(xml, list, false);
+    }
+    if (xml.isMissing() && (mayBeMissing || !instead.empty())) problem.clear();
+    addLine(problem, leaveOut(list, kMaxListEntries, path));
+    return problem;
+}
+
+/// The user's own entries, as far as the shipped ones leave room. There may be no such file.
+template <class Entry>
+std::string loadCustom(std::vector<Entry>& list, const std::string& path, std::size_t shipped) {
+    const std::string problem = loadList(list, path, true);
+    if (!problem.empty()) return safeFileExists(path) ? problem : "";
+    return leaveOut(list, kMaxListEntries - shipped, path);
+}
+
+template <class Entry>
+std::string saveList(const std::vector<Entry>& list, const std::string& path) {
+    const std::string root = Form<Entry>::kRoot, name = Form<Entry>::kEntry;
     ProcessXML xml;
     xml.StartXMLSave(path);
     xml.OpenNode(root);
@@ -87,16 +146,6 @@ std::vector<Entry> customEntries(const std::vector<Entry>& list) {
     return custom;
 }
 
-void addLine(std::string& lines, const std::string& line) {
-    if (!lines.empty() && !line.empty()) lines += '\n';
-    lines += line;
-}
-
-/// The line of a file that may be missing.
-std::string unlessMissing(const std::string& problem, const std::string& path) {
-    return safeFileExists(path) ? problem : "";
-}
-
 void selectPrinterPage(SystemInfo& info) {
     const std::int32_t selected = info.iSelecteImageSize;
     std::string title;
@@ -114,27 +163,27 @@ void selectPrinterPage(SystemInfo& info) {
 }  // namespace
 
 std::string saveImageSizes(const std::vector<ImageSize>& list, const std::string& path) {
-    return saveList(list, path, "ImageSizeList", "ImageSize");
+    return saveList(list, path);
 }
 
 std::string loadImageSizes(std::vector<ImageSize>& list, const std::string& path, bool custom) {
-    return loadList(list, path, "ImageSizeList", "ImageSize", custom);
+    return loadList(list, path, custom);
 }
 
 std::string savePrinterPages(const std::vector<PrinterPage>& list, const std::string& path) {
-    return saveList(list, path, "AllPages", "Page");
+    return saveList(list, path);
 }
 
 std::string loadPrinterPages(std::vector<PrinterPage>& list, const std::string& path, bool custom) {
-    return loadList(list, path, "AllPages", "Page", custom);
+    return loadList(list, path, custom);
 }
 
-std::string LoadImageSizesFromXML(SystemInfo& info) {
+std::string LoadImageSizesFromXML(SystemInfo& info, const std::string& instead) {
     const Places& places = Places::current();
-    std::vector<ImageSize> list;
-    std::string problems =
-        unlessMissing(loadImageSizes(list, places.customImageSizeFile(), true), places.customImageSizeFile());
-    addLine(problems, loadImageSizes(list, places.imageSizeFile(), false));
+    std::vector<ImageSize> shipped, list;
+    std::string problems = loadShipped(shipped, places.imageSizeFile(), instead, false);
+    addLine(problems, loadCustom(list, places.customImageSizeFile(), shipped.size()));
+    list.insert(list.end(), shipped.begin(), shipped.end());
     info.oImageSize = std::move(list);
     for (std::int32_t i = 0; i < info.iImageSizeCount(); ++i) {
         if (info.oImageSize[static_cast<std::size_t>(i)].sName.load() == info.sImageSizeName.load())
@@ -143,12 +192,12 @@ std::string LoadImageSizesFromXML(SystemInfo& info) {
     return problems;
 }
 
-std::string LoadPrinterTemplatesFromXML(SystemInfo& info) {
+std::string LoadPrinterTemplatesFromXML(SystemInfo& info, const std::string& instead) {
     const Places& places = Places::current();
-    std::vector<PrinterPage> list;
-    std::string problems = unlessMissing(loadPrinterPages(list, places.printerFile(), false), places.printerFile());
-    addLine(problems,
-            unlessMissing(loadPrinterPages(list, places.customPrinterFile(), true), places.customPrinterFile()));
+    std::vector<PrinterPage> list, custom;
+    std::string problems = loadShipped(list, places.printerFile(), instead, true);
+    addLine(problems, loadCustom(custom, places.customPrinterFile(), list.size()));
+    list.insert(list.end(), custom.begin(), custom.end());
     info.oPrinterPages = std::move(list);
     selectPrinterPage(info);
     return problems;

@@ -10,21 +10,25 @@ namespace tavrin {
 // The lists of output sizes and of print pages. Each comes from a shipped file and one with the user's own entries,
 // in `Places::current()`. Only the user's file is ever written.
 //
-// A file that cannot be read, or that would make more than kMaxListEntries entries or PrinterPage::kMaxImages slots
-// on a page, is left out whole; what the other file holds is taken. The result is "" or one line for each file left
-// out. The lists have no lock: call these where nothing walks them.
+// There is room for kMaxListEntries. The shipped entries come first when it gets short, in the order of their file,
+// so that a state finds the sizes that it expects; entries of the user's that do not fit are named. A file of the
+// user's that cannot be read, or that has more than PrinterPage::kMaxImages slots on a page, is left out whole and
+// stays where it is. A damaged shipped file is set aside when there is something to take its place: `instead`, the
+// bytes of such a file. The result is "" or one line for each file that not all was taken of. The lists have no lock:
+// call these where nothing walks them.
 
 /// Fills `oImageSize`: the user's sizes first, then the shipped ones. The last entry named `sImageSizeName` becomes
-/// the selected one; when there is none `iSelecteImageSize` stays. The shipped file has to be there.
-[[nodiscard]] std::string LoadImageSizesFromXML(SystemInfo& info);
+/// the selected one; when there is none `iSelecteImageSize` stays. The shipped file, or `instead`, has to be there.
+[[nodiscard]] std::string LoadImageSizesFromXML(SystemInfo& info, const std::string& instead = "");
 [[nodiscard]] std::string SaveCustomImageSizesFromXML(const SystemInfo& info);
 
 /// Fills `oPrinterPages`: the shipped pages first, then the user's. A missing file is passed over. Then the page
 /// named by the selected size is selected in `oQLXInfo`, or page 0 when there is none of that title.
-[[nodiscard]] std::string LoadPrinterTemplatesFromXML(SystemInfo& info);
+[[nodiscard]] std::string LoadPrinterTemplatesFromXML(SystemInfo& info, const std::string& instead = "");
 [[nodiscard]] std::string SaveCustomPrinterTemplates(const SystemInfo& info);
 
-/// One file of each kind. The readers add to `list`, all entries or none, with `bCustom` as told.
+/// One file of each kind, whatever its length. The readers add to `list`, all entries or none, with `bCustom` as
+/// told.
 [[nodiscard]] std::string saveImageSizes(const std::vector<ImageSize>& list, const std::string& path);
 [[nodiscard]] std::string loadImageSizes(std::vector<ImageSize>& list, const std::string& path, bool custom);
 [[nodiscard]] std::string savePrinterPages(const std::vector<PrinterPage>& list, const std::string& path);

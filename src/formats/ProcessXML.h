@@ -41,6 +41,8 @@ class ProcessXML {
     // Reading, in the calling order.
     /// @return false when the file is missing, unreadable or no well-formed XML; `error` says why
     bool OpenXMLFile(const std::string& path);
+    /// The same for the bytes of a file that lies elsewhere, known by `name`.
+    bool OpenXMLBytes(const std::string& name, const std::string& bytes);
     /// The elements that an XPath of the whole document names, in document order; none when nothing is open.
     std::vector<XMLElement> FindNodesForPath(const std::string& xpath) const;
     /// Makes an element the one whose children the functions below read.
@@ -57,6 +59,8 @@ class ProcessXML {
     void CloseXMLFile();
     /// The file that `OpenXMLFile` looked for is not there.
     bool isMissing() const { return missing_; }
+    /// The file could be read, and what it holds is not what it should be.
+    bool isDamaged() const { return wasRead_ && !error.empty(); }
 
     // Writing, in the calling order.
     /// The old file steps aside until the new one has arrived; see SafeSave.
@@ -92,11 +96,15 @@ class ProcessXML {
     std::unique_ptr<pugi::xml_document> xmlDoc;
     std::unique_ptr<SafeSave> outFile;
     std::string path_;
-    bool missing_ = false;
+    bool missing_ = false, wasRead_ = false;
     /// The children of the element `sortedFor_` by name, those of one name in the order of the document.
     std::vector<std::pair<std::string_view, XMLElement>> sortedChildren_;
     pugi::xml_node_struct* sortedFor_ = nullptr;
 };
+
+/// Sets the file that `xml` had open aside when it is damaged.
+/// @return what to add to its error about that; "" when nothing was moved
+std::string keptAside(const ProcessXML& xml, const std::string& path);
 
 /// The text with every byte but ASCII letters, digits, blank, hyphen, full stop and slash written as a number sign
 /// and three decimal digits.

@@ -76,6 +76,7 @@ void ProcessXML::fail(const std::string& what) {
 bool ProcessXML::OpenXMLFile(const std::string& path) {
     CloseXMLFile();
     error.clear();
+    wasRead_ = false;
     path_ = path;
     if (path.empty()) {
         logError("Can't create an URL from file " + path + ".");
@@ -85,7 +86,16 @@ bool ProcessXML::OpenXMLFile(const std::string& path) {
     const FileBytes file = readSafeFile(path, kFileLimit);
     missing_ = file.missing;
     error = file.problem;
-    return error.empty() && parse(file.bytes);
+    wasRead_ = error.empty();
+    return wasRead_ && parse(file.bytes);
+}
+
+bool ProcessXML::OpenXMLBytes(const std::string& name, const std::string& bytes) {
+    CloseXMLFile();
+    error.clear();
+    path_ = name;
+    wasRead_ = true;
+    return parse(bytes);
 }
 
 bool ProcessXML::parse(const std::string& bytes) {
@@ -216,6 +226,11 @@ bool ProcessXML::BoolValue(const std::string& key) {
     if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
     const std::size_t first = text.find_first_not_of('0');
     return first != std::string_view::npos && std::strchr("123456789YyTt", text[first]) != nullptr;
+}
+
+std::string keptAside(const ProcessXML& xml, const std::string& path) {
+    const std::string kept = xml.isDamaged() ? setDamagedFileAside(path) : "";
+    return kept.empty() ? "" : "; it is kept as " + kept;
 }
 
 std::string unescapeText(const std::string& text) {

@@ -18,6 +18,7 @@
 #include <QLockFile>
 #include <QUuid>
 
+#include "core/AtomicFile.h"
 #include "core/Log.h"
 
 namespace fs = std::filesystem;
@@ -79,6 +80,24 @@ bool openNew(QFile& file, const std::string& path, fs::perms permissions) {
 #endif
 }
 
+std::string folderOf(const std::string& path) {
+    const std::string folder = fs::path(path).parent_path().string();
+    return folder.empty() ? "." : folder;
+}
+
+/// Why a call on a file failed just now.
+std::string reasonOf(const QFile& file, const std::string& path) {
+    return errno != 0 ? writeProblem(errno, folderOf(path)) : file.errorString().toStdString();
+}
+
+/// Why a lock file cannot be made beside a file, which nobody tells.
+std::string reasonOfLock(const std::string& path) {
+    AtomicFile probe(path);
+    const std::string bytes(100, ' ');
+    probe.write(bytes.data(), bytes.size());
+    return probe.error().empty() ? "its folder may not be written to" : probe.error();
+}
+
 bool bringToDisk(QFile& file) {
 #ifdef _WIN32
     return file.flush() && ::_commit(file.handle()) == 0;
@@ -90,8 +109,7 @@ bool bringToDisk(QFile& file) {
 /// Brings the names of a file's folder to the disk. File systems that have no use for it refuse, which is fine.
 void bringNamesToDisk([[maybe_unused]] const std::string& path) {
 #ifndef _WIN32
-    const std::string folder = fs::path(path).parent_path().string();
-    const int handle = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int handle = ::open(folderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0) return;
     ::fsync(handle);
     ::close(handle);
@@ -150,7 +168,7 @@ bool SafeSave::takeTurn() {
     if (!mine) {
         return fail(turn->error() == QLockFile::LockFailedError
                         ? path_ + " cannot be saved: another program is saving it."
-                        : path_ + " cannot be saved: its folder is missing or may not be written to.");
+                        : path_ + " cannot be saved: " + reasonOfLock(path_) + ".");
     }
     turn_ = std::move(turn);
     // With both files there, an earlier save was stopped after the new file had arrived.
@@ -166,8 +184,9 @@ bool SafeSave::openTemporary(Readers readers) {
     // A leftover might be open to more readers than this file may be, so it is never written to again.
     removeFile(temporaryName(path_));
     file_ = std::make_unique<QFile>();
+    errno = 0;
     if (openNew(*file_, temporaryName(path_), readers == Readers::ownerOnly ? kOwnerOnly : kEveryone)) return true;
-    return fail(path_ + " cannot be saved: " + std::strerror(errno) + ".");
+    return fail(path_ + " cannot be saved: " + reasonOf(*file_, path_) + ".");
 }
 
 bool SafeSave::setOldFileAside(Readers readers) {
@@ -181,26 +200,24 @@ bool SafeSave::setOldFileAside(Readers readers) {
         fs::permissions(toPath(temporaryName(path_)), old.permissions(), ignored);
     }
     const std::error_code problem = moveFile(path_, setAsideName(path_));
-    return problem ? fail(path_ + " cannot be replaced: " + problem.message() + ".") : true;
+    return problem ? fail(path_ + " cannot be replaced: " + writeProblem(problem.value(), folderOf(path_)) + ".")
+                   : true;
 }
 
 void SafeSave::write(std::string_view bytes) {
     if (!file_) return;
+    errno = 0;
     if (file_->write(bytes.data(), static_cast<qint64>(bytes.size())) != static_cast<qint64>(bytes.size()))
-        fail(path_ + " cannot be saved: " + file_->errorString().toStdString() + ".");
+        fail(path_ + " cannot be saved: " + reasonOf(*file_, path_) + ".");
 }
 
 bool SafeSave::commit() {
     if (!file_) return fail("No save is under way.");
-    if (!bringToDisk(*file_)) {
-        return fail(path_ + " cannot be saved: " +
-                    (file_->error() == QFile::NoError ? std::string("the disk refused it")
-                                                      : file_->errorString().toStdString()) +
-                    ".");
-    }
+    errno = 0;
+    if (!bringToDisk(*file_)) return fail(path_ + " cannot be saved: " + reasonOf(*file_, path_) + ".");
     file_->close();
     if (const std::error_code problem = moveFile(temporaryName(path_), path_))
-        return fail(path_ + " cannot be saved: " + problem.message() + ".");
+        return fail(path_ + " cannot be saved: " + writeProblem(problem.value(), folderOf(path_)) + ".");
     file_.reset();
     bringNamesToDisk(path_);
     removeFile(setAsideName(path_));
@@ -278,6 +295,16 @@ bool claimName(const std::string& file, const std::string& path) {
     if (QFile::rename(toQt(file), toQt(path))) return true;  // refuses a name that is taken
     removeFile(file);
     return isThere(path);
+}
+
+std::string setDamagedFileAside(const std::string& path) {
+    constexpr int kMostKept = 100;
+    QLockFile turn(toQt(lockName(path)));
+    if (!turn.tryLock(0)) return "";
+    std::string kept = path + ".damaged";
+    for (int number = 2; isThere(kept) && number <= kMostKept; ++number)
+        kept = path + ".damaged-" + std::to_string(number);
+    return QFile::rename(toQt(path), toQt(kept)) ? kept : "";  // refuses a name that is taken
 }
 
 std::string ownNameBeside(const std::string& path) {

@@ -63,6 +63,11 @@ bool safeFileExists(const std::string& path);
 /// @return false when neither worked
 bool claimName(const std::string& file, const std::string& path);
 
+/// Moves a damaged file to a name of its own beside it (".damaged" behind it, with a number where that is taken), so
+/// that it is kept for whoever wants to mend it and another file can take its place.
+/// @return that name; "" when the file cannot be moved or a save of it is under way
+std::string setDamagedFileAside(const std::string& path);
+
 /// A name beside `path` that no other program uses.
 std::string ownNameBeside(const std::string& path);
 

@@ -23,14 +23,6 @@ void closeToOthers(const QString& name) {
     if (QFile::permissions(name) & kOthers) QFile::setPermissions(name, kOwner);
 }
 
-/// The next change of any setting writes the file anew, so a damaged one is kept beside it for whoever wants to mend
-/// it.
-std::string keepDamagedFile(const std::string& path, const std::string& problem) {
-    const QString name = QString::fromStdString(path), kept = name + ".damaged";
-    QFile::remove(kept);
-    return QFile::copy(name, kept) ? problem + "; a copy is kept as " + kept.toStdString() : problem;
-}
-
 }  // namespace
 
 std::string LoadQLXFile(QLXInfo& settings, const std::string& path) {
@@ -48,7 +40,7 @@ std::string LoadQLXFile(QLXInfo& settings, const std::string& path) {
         xml.SetActiveElement(found[0]);
         loadLeaves(xml, loaded);
     }
-    if (!xml.error.empty()) return keepDamagedFile(path, xml.error);
+    if (!xml.error.empty()) return xml.error + keptAside(xml, path);
     copyLeaves(loaded, settings);
     return "";
 }

@@ -12,8 +12,8 @@ namespace tavrin {
 /// Reads the settings. At first start, when there is no file, the settings become the defaults and the file is
 /// written with them. A key that the file lacks becomes "", 0 or false, not its default; the positions that the file
 /// does not hold stay.
-/// @return "" when done; otherwise one line that names the file, `settings` is as it was, and a copy of the damaged
-///         file is kept beside it
+/// @return "" when done; otherwise one line that names the file, and `settings` is as it was. A damaged file is set
+///         aside, and the line says where it is kept
 [[nodiscard]] std::string LoadQLXFile(QLXInfo& settings, const std::string& path = Places::current().settingsFile());
 
 /// @return "" when done; otherwise one line, and the old file is still there

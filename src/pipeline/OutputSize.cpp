@@ -20,10 +20,13 @@ int inchesToPixels(double inches, int dpi) {
     return static_cast<int>(inches * dpi + 0.5);
 }
 
-bool isUsable(double widthInches, double heightInches, int dpi) {
-    const double pixels = widthInches * dpi * heightInches * dpi;
-    return widthInches > 0.0 && heightInches > 0.0 && dpi > 0 && pixels >= 1.0 && pixels <= kMaxPixels &&
-           widthInches * dpi < kMaxPixels && heightInches * dpi < kMaxPixels;
+ImageSize sizeOf(const std::string& name, double widthInches, double heightInches, int dpi) {
+    ImageSize size;
+    size.sName = name;
+    size.dWidth = widthInches;
+    size.dHeight = heightInches;
+    size.dotsPerInch = dpi;
+    return size;
 }
 
 Geometry fullGeometry(const ImageSize& size) {
@@ -41,21 +44,41 @@ Geometry previewGeometry(const ImageSize& size) {
 
 }  // namespace
 
-bool ChangeImageSize(SystemInfo& info) {
-    const int index = info.iSelecteImageSize;
-    if (index < 0 || index >= info.iImageSizeCount()) {
-        logError("There is no output size number " + std::to_string(index) + " in the list.");
-        return false;
-    }
-    const ImageSize& size = info.oImageSize[static_cast<std::size_t>(index)];
-    const bool usable = isUsable(size.dWidth, size.dHeight, size.dotsPerInch);
-    const Geometry full = usable ? fullGeometry(size) : Geometry();
-    const Geometry low = usable ? previewGeometry(size) : Geometry();
-    if (full.width < 1 || full.height < 1 || low.width < 1 || low.height < 1) {
-        logError("The output size \"" + size.sName.load() + "\" makes no picture of 1 to 400 million pixels.");
-        return false;
-    }
+std::optional<ImageSize> selectedSize(const SystemInfo& info) {
+    const std::int32_t index = info.iSelecteImageSize;
+    if (index >= 0 && index < info.iImageSizeCount()) return info.oImageSize[static_cast<std::size_t>(index)];
+    const double width = info.dOutputImageWidthInInches, height = info.dOutputImageHeightInInches;
+    const int dpi = info.iOutputImageDPI;
+    if (index != kOwnImageSize || (width == 0.0 && height == 0.0 && dpi == 0)) return std::nullopt;
+    return sizeOf(info.sImageSizeName, width, height, dpi);
+}
 
+std::string sizeProblem(const ImageSize& size) {
+    const double width = size.dWidth, height = size.dHeight, dpi = size.dotsPerInch;
+    const std::string named = "The output size \"" + size.sName.load() + "\" ";
+    const double pixels = width * dpi * height * dpi;
+    if (!(width > 0.0 && height > 0.0 && dpi > 0.0 && pixels >= 1.0 && pixels <= kMaxPixels) ||
+        width * dpi >= kMaxPixels || height * dpi >= kMaxPixels)
+        return named + "makes no picture of 1 to 400 million pixels.";
+    const Geometry full = fullGeometry(size), low = previewGeometry(size);
+    if (full.width < 1 || full.height < 1) return named + "makes no picture of 1 to 400 million pixels.";
+    if (low.dpi < 1)
+        return named + "is too large on paper: over 300,000 square inches its preview would have 0 dots an inch.";
+    if (low.width < 1 || low.height < 1) return named + "is too narrow: its preview would have no pixels.";
+    return "";
+}
+
+bool ChangeImageSize(SystemInfo& info) {
+    const std::optional<ImageSize> selected = selectedSize(info);
+    const std::string problem =
+        selected ? sizeProblem(*selected)
+                 : "There is no output size number " + std::to_string(info.iSelecteImageSize) + " in the list.";
+    if (!problem.empty()) {
+        logError(problem);
+        return false;
+    }
+    const ImageSize& size = *selected;
+    const Geometry full = fullGeometry(size), low = previewGeometry(size);
     info.dOutputImageWidthInInches = size.dWidth;
     info.dOutputImageHeightInInches = size.dHeight;
     info.iOutputImageDPI = full.dpi;
@@ -113,27 +136,69 @@ void ChangeTemplateBitmap(SystemInfo& info, int page) {
     info.oBitmapTemplateRep = std::make_unique<BitmapContext>(info.pBitmapTemplateData, width, height);
 }
 
-bool selectSizeByName(SystemInfo& info, const std::string& name) {
-    for (int i = info.iImageSizeCount() - 1; i >= 0; --i) {
-        if (info.oImageSize[static_cast<std::size_t>(i)].sName.load() != name) continue;
-        info.iSelecteImageSize = i;
-        info.sImageSizeName = name;
-        return true;
+namespace {
+
+/// Place in the list of the last entry that fits, kOwnImageSize when none does.
+template <class Fits>
+std::int32_t lastEntry(const SystemInfo& info, const Fits& fits) {
+    for (std::int32_t i = info.iImageSizeCount() - 1; i >= 0; --i) {
+        if (fits(info.oImageSize[static_cast<std::size_t>(i)])) return i;
     }
-    return false;
+    return kOwnImageSize;
 }
 
-bool selectOwnSize(SystemInfo& info, const std::string& name, double widthInches, double heightInches, int dpi) {
-    if (!selectSizeByName(info, name)) {
-        if (info.oImageSize.size() >= kMaxListEntries) return false;
-        info.oImageSize.emplace_back().sName = name;
-        selectSizeByName(info, name);
+std::int32_t entryOfName(const SystemInfo& info, const std::string& name) {
+    return lastEntry(info, [&](const ImageSize& size) { return size.sName.load() == name; });
+}
+
+std::int32_t entryFor(const SystemInfo& info, const StoredSize& stored) {
+    constexpr double kSame = 1e-6;  // a state file holds inches to six places
+    const std::int32_t named = entryOfName(info, stored.name);
+    if (named != kOwnImageSize) return named;
+    if (!stored.tellsInches())
+        return stored.index >= 0 && stored.index < info.iImageSizeCount() ? stored.index : kOwnImageSize;
+    return lastEntry(info, [&](const ImageSize& size) {
+        return size.dotsPerInch == stored.dpi && std::abs(size.dWidth - stored.width) < kSame &&
+               std::abs(size.dHeight - stored.height) < kSame;
+    });
+}
+
+void selectEntry(SystemInfo& info, std::int32_t index) {
+    info.iSelecteImageSize = index;
+    info.sImageSizeName = info.oImageSize[static_cast<std::size_t>(index)].sName;
+}
+
+}  // namespace
+
+bool selectSizeByName(SystemInfo& info, const std::string& name) {
+    const std::int32_t index = entryOfName(info, name);
+    if (index != kOwnImageSize) selectEntry(info, index);
+    return index != kOwnImageSize;
+}
+
+void selectOwnSize(SystemInfo& info, const std::string& name, double widthInches, double heightInches, int dpi) {
+    info.iSelecteImageSize = kOwnImageSize;
+    info.sImageSizeName = name;
+    info.dOutputImageWidthInInches = widthInches;
+    info.dOutputImageHeightInInches = heightInches;
+    info.iOutputImageDPI = dpi;
+}
+
+std::string selectStoredSize(SystemInfo& info, const StoredSize& stored) {
+    const std::int32_t index = entryFor(info, stored);
+    if (index == kOwnImageSize && !stored.tellsInches()) {
+        return "The output size \"" + stored.name +
+               "\" is not in the list, and the file does not tell its inches and dots an inch.";
     }
-    ImageSize& size = info.oImageSize[static_cast<std::size_t>(info.iSelecteImageSize.load())];
-    size.dWidth = widthInches;
-    size.dHeight = heightInches;
-    size.dotsPerInch = dpi;
-    return true;
+    const ImageSize size = index == kOwnImageSize ? sizeOf(stored.name, stored.width, stored.height, stored.dpi)
+                                                  : info.oImageSize[static_cast<std::size_t>(index)];
+    if (std::string problem = sizeProblem(size); !problem.empty()) return problem;
+    if (index == kOwnImageSize) {
+        selectOwnSize(info, stored.name, stored.width, stored.height, stored.dpi);
+    } else {
+        selectEntry(info, index);
+    }
+    return "";
 }
 
 }  // namespace tavrin

@@ -1,13 +1,28 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "core/state/SystemInfo.h"
+#include "formats/ImageState.h"
 
 namespace tavrin {
 
-/// Takes the entry of `oImageSize` at `iSelecteImageSize`: works out both geometries, gives all three records new
+/// The place in the list of a size that is in none: `iSelecteImageSize` of a picture with a size of its own, which
+/// stands in the state's inches and dots an inch. So a long run of such pictures fills no list.
+inline constexpr std::int32_t kOwnImageSize = -1;
+
+/// The size that is selected, of the list or the picture's own; nothing where the list has no such entry.
+std::optional<ImageSize> selectedSize(const SystemInfo& info);
+
+/// Why a size makes no picture, as one plain line that names it; "" when it makes one.
+std::string sizeProblem(const ImageSize& size);
+
+/// Takes the size that is selected: works out both geometries, gives all three records new
 /// buffers, and asks for both sources to be loaded again. The preview holds about 300,000 pixels whatever the size.
-/// @return false, with a line on the standard error stream and nothing changed, when there is no such entry or it
-///         makes no picture of 1 to 400 million pixels
+/// @return false, with a line on the standard error stream and nothing changed, when no such size is there or it
+/// makes
+///         no picture
 bool ChangeImageSize(SystemInfo& info);
 
 /// Gives one record buffers and contexts of the present geometry, with undefined contents, and the hair map its
@@ -17,13 +32,17 @@ void ChangeOutputSize(SystemInfo& info, BitmapInfo& record);
 /// Makes the page buffer of print template `page` at 600 dpi, opaque white, unless it is the current one.
 void ChangeTemplateBitmap(SystemInfo& info, int page);
 
-/// Adds a size of the caller's own to the list, or replaces the one of that name, and selects it. `ChangeImageSize`
-/// puts it into force.
-/// @return false when the list is full
-bool selectOwnSize(SystemInfo& info, const std::string& name, double widthInches, double heightInches, int dpi);
+/// Gives the picture a size of its own, which enters no list. `ChangeImageSize` puts it into force.
+void selectOwnSize(SystemInfo& info, const std::string& name, double widthInches, double heightInches, int dpi);
 
 /// Selects the entry of that name, the last one where several have it.
 /// @return false when there is none
 bool selectSizeByName(SystemInfo& info, const std::string& name);
+
+/// Selects what a state file tells about its size, for which place, name, inches and resolution may not agree: lists
+/// differ from machine to machine. The entry of that name counts, else the one of those inches and dots an inch, else
+/// the picture gets a size of its own. The place in the list counts where the file tells no inches.
+/// @return "" or why there is no such size, as one plain line; nothing is changed then
+std::string selectStoredSize(SystemInfo& info, const StoredSize& stored);
 
 }  // namespace tavrin

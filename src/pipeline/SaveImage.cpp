@@ -53,7 +53,7 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
 
     const std::string error = writePicture(
         path, {pixels, size.width, size.height, theFileType, size.dpi, info.pForegroundBitmapInfo->sourceExif});
-    return error.empty() || refuse(info, error);
+    return error.empty() || refuse(info, path + ": " + error + ".");
 }
 
 bool saveMatteToDisk(SystemInfo& info, const std::string& path, int myRes) {

@@ -2,33 +2,86 @@
 
 #include <QLockFile>
 
+#include "core/Lines.h"
 #include "core/Log.h"
 #include "core/Places.h"
 #include "core/StandardPath.h"
 #include "core/image/ImageReader.h"
-#include "formats/ImageState.h"
 #include "formats/Installation.h"
 #include "formats/Lists.h"
 #include "formats/SafeFile.h"
 #include "formats/SettingsFile.h"
 #include "pipeline/Files.h"
 #include "pipeline/OutputSize.h"
+#include "pipeline/StateFile.h"
 
 namespace tavrin {
 
 namespace {
 
-void tell(const std::string& problem) {
-    if (!problem.empty()) logError(problem);
+/// Works with folders of this process, which go away with it.
+bool useOwnFolders(Places& places) {
+    if (!places.usePrivateTempFiles()) return false;
+    places.setSharedFolder(places.tempFilesFolder() + "Tavrin/");
+    places.setPicturesFolder(places.tempFilesFolder() + "Pictures/");
+    return true;
 }
 
-void loadLists(SystemInfo& info) {
-    tell(LoadImageSizesFromXML(info));
-    tell(LoadPrinterTemplatesFromXML(info));
+/// Puts what is missing into the account. Where that has no settings and takes none, the program works all the same.
+std::string prepareAccount() {
+    Places& places = Places::current();
+    std::string problems = installMissingFiles();
+    if (problems.empty() || safeFileExists(places.settingsFile()) || !useOwnFolders(places)) return problems;
+    addLine(problems, "Until it ends the program works in a temporary folder; no settings are kept.");
+    addLine(problems, installMissingFiles());
+    return problems;
+}
+
+std::string loadSettings(QLXInfo& settings) {
+    std::string problem = LoadQLXFile(settings);
+    if (problem.empty()) return "";
+    // With nothing set there would be no state and no picture to start with.
+    settings = firstSettings();
+    if (!safeFileExists(Places::current().settingsFile())) addLine(problem, SaveQLXFile(settings));
+    addLine(problem, "The program starts with the settings of a fresh account.");
+    return problem;
+}
+
+std::string loadLists(SystemInfo& info) {
+    std::string problems = LoadImageSizesFromXML(info, shippedFile("ImageSize.xml"));
+    addLine(problems, LoadPrinterTemplatesFromXML(info, shippedFile("Printer.xml")));
+    const Places& places = Places::current();
+    const bool setAside =
+        !problems.empty() && !(safeFileExists(places.imageSizeFile()) && safeFileExists(places.printerFile()));
+    if (setAside) static_cast<void>(installMissingLists());  // the next start finds whole ones
+    return problems;
+}
+
+std::string loadDefaultState(SystemInfo& info) {
+    const std::string path = info.oQLXInfo->sDefaultQLXFilePath;
+    if (path.empty()) return "";
+    const LoadedStateFile loaded = loadStateFile(info, path);
+    if (loaded.sizeProblem.empty()) return loaded.problem;
+    return loaded.sizeProblem + " The size \"" + info.sImageSizeName.load() + "\" is used.";
+}
+
+/// A list of the user's own making may lack the size to start with.
+void selectUsableSize(SystemInfo& info) {
+    const std::optional<ImageSize> selected = selectedSize(info);
+    if (selected && sizeProblem(*selected).empty()) return;
+    for (std::int32_t i = 0; i < info.iImageSizeCount(); ++i) {
+        const ImageSize& size = info.oImageSize[static_cast<std::size_t>(i)];
+        if (!sizeProblem(size).empty()) continue;
+        info.iSelecteImageSize = i;
+        info.sImageSizeName = size.sName;
+        return;
+    }
 }
 
 /// Empties the working folder, unless another program of this account is running and may be using it.
 void clearOwnTempFiles() {
+    if (Places::current().sharedFolder().starts_with(Places::current().tempFilesFolder()))
+        return;  // all is new there
     static QLockFile running(QString::fromStdString(Places::current().sharedFolder() + "running.lock"));
     running.setStaleLockTime(0);  // only the end of its process frees it
     if (running.isLocked() || running.tryLock()) ClearTempFiles(Places::current().tempFilesFolder());
@@ -61,33 +114,33 @@ void placeNote(FontObject& label) {
 
 }  // namespace
 
-void startSystem(SystemInfo& info) {
-    tell(installMissingFiles());
-    tell(LoadQLXFile(*info.oQLXInfo));
-    loadLists(info);
+std::string startSystem(SystemInfo& info) {
+    std::string problems = prepareAccount();
+    addLine(problems, loadSettings(*info.oQLXInfo));
+    addLine(problems, loadLists(info));
     clearOwnTempFiles();
-
-    const std::string defaultState = info.oQLXInfo->sDefaultQLXFilePath;
-    if (!defaultState.empty()) tell(LoadImageStateFromXML(info, defaultState, kLoadAll));
+    addLine(problems, loadDefaultState(info));
     placeNote(info.oFontLabelObject[2]);  // after the load, so that this position always wins
     info.pForegroundBitmapInfo->setSourceImageFullPath(standardizePath(info.oQLXInfo->sStartupFileForegroundPath));
     info.pBackgroundBitmapInfo->setSourceImageFullPath(standardizePath(info.oQLXInfo->sStartupFileBackgroundPath));
+    selectUsableSize(info);
     ChangeImageSize(info);
     loadStartUpPictures(info);
     loadSketchPictures(info);
     info.bNewOutputSize = true;
+    if (!problems.empty()) logError(problems);
     logTrace("System Info Loaded");
+    return problems;
 }
 
 void startCommandLine(SystemInfo& info) {
     Places& places = Places::current();
-    places.usePrivateTempFiles();
-    if (!safeFileExists(places.imageSizeFile())) {
-        places.setSharedFolder(places.tempFilesFolder() + "Tavrin/");
-        places.setPicturesFolder(places.tempFilesFolder() + "Pictures/");
-        tell(installMissingLists());
+    if (safeFileExists(places.imageSizeFile())) {
+        places.usePrivateTempFiles();
+    } else {
+        useOwnFolders(places);
     }
-    loadLists(info);
+    if (const std::string problems = loadLists(info); !problems.empty()) logError(problems);
 }
 
 void loadSketchPictures(StartUpPictures& pictures) {
@@ -106,28 +159,6 @@ void startLike(SystemInfo& info, const SystemInfo& other) {
     info.iSelecteImageSize = other.iSelecteImageSize;
     info.oPrinterPages = other.oPrinterPages;
     static_cast<StartUpPictures&>(info) = other;
-}
-
-std::string openStateFile(SystemInfo& info, const std::string& path) {
-    // The buffers have the size that they have. The file's pixel sizes allocate nothing, so they must not stand: the
-    // file's size comes into force through its place in the list.
-    const OutputGeometry before = info;
-    std::string problem = LoadImageStateFromXML(info, path, kLoadAll);
-    if (!problem.empty()) return problem;
-    const std::string name = info.sImageSizeName;
-    const std::int32_t index = info.iSelecteImageSize;
-    static_cast<OutputGeometry&>(info) = before;
-    if (index >= 0 && index < info.iImageSizeCount()) {
-        const bool changed = name != before.sImageSizeName.load() || index != before.iSelecteImageSize;
-        info.sImageSizeName = name;
-        info.iSelecteImageSize = index;
-        if (changed) info.bChangeImageSize = info.bNewOutputSize = true;
-    } else {
-        logError(path + ": the output size \"" + name + "\" is not in the list; the present one stays.");
-    }
-    info.pForegroundBitmapInfo->bOrgFileChange = true;
-    info.pBackgroundBitmapInfo->bOrgFileChange = true;
-    return "";
 }
 
 }  // namespace tavrin

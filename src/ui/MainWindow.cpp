@@ -15,8 +15,9 @@
 #include "core/NameText.h"
 #include "core/state/NamedFiles.h"
 #include "formats/ImageState.h"
+#include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
-#include "pipeline/StartUp.h"
+#include "pipeline/StateFile.h"
 
 namespace tavrin {
 
@@ -96,8 +97,17 @@ void MainWindow::makeSizeBox() {
     connect(sizeBox_, &QComboBox::activated, this, &MainWindow::chooseSize);
 }
 
+// A picture with a size of its own has an entry behind those of the list, as long as that size is in force.
 void MainWindow::showSelectedSize() {
-    sizeBox_->setCurrentIndex(info_.iSelecteImageSize);
+    const int listed = info_.iImageSizeCount();
+    while (sizeBox_->count() > listed)
+        sizeBox_->removeItem(listed);
+    int index = info_.iSelecteImageSize;
+    if (const auto own = selectedSize(info_); own && index == kOwnImageSize) {
+        sizeBox_->addItem(tr("%1 (this picture only)").arg(QString::fromStdString(own->sName)));
+        index = listed;
+    }
+    sizeBox_->setCurrentIndex(index);
 }
 
 void MainWindow::chooseSize(int index) {
@@ -106,6 +116,7 @@ void MainWindow::chooseSize(int index) {
     info_.sImageSizeName = info_.oImageSize[static_cast<std::size_t>(index)].sName.load();
     info_.bNewOutputSize = true;
     info_.bChangeImageSize = true;
+    showSelectedSize();
     saveAction_->setEnabled(false);
     info_.StartUpdate();
 }
@@ -252,6 +263,10 @@ void MainWindow::showAlert(const QString& message, const QString& reason) {
     box->setInformativeText(reason);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
+}
+
+void MainWindow::tellStartProblems(const std::string& lines) {
+    if (!lines.empty()) showAlert(tr("Not everything could be read at the start."), QString::fromStdString(lines));
 }
 
 void MainWindow::fitToOutput(int outputWidth, int outputHeight) {

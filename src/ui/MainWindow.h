@@ -36,6 +36,9 @@ class MainWindow : public QMainWindow {
     /// @return false when there is no finished picture, or after an alert
     bool saveTo(QString path);
 
+    /// Shows what went wrong at the start, one line for each thing; work goes on beneath. "" shows nothing.
+    void tellStartProblems(const std::string& lines);
+
     PictureView* view() const { return view_; }
     QComboBox* sizeBox() const { return sizeBox_; }
 

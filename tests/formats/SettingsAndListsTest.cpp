@@ -84,16 +84,21 @@ TEST_F(SettingsFileTest, MissingKeysAreEmptyAndBadFilesChangeNothing) {
     EXPECT_EQ(settings.sPrefix.load(), "p");
     EXPECT_FALSE(settings.bLastBatchCheckForNewFiles) << "not its default";
     EXPECT_EQ(modeOf(file), 0600U) << "a file from elsewhere is closed to others";
+    int number = 0;
     for (const char* bad : {"<QLXSettings>", "<Other/>",
                             "<QLXSettings><iLastBatchLastOutputStyle>9999999999</iLastBatchLastOutputStyle>"
                             "</QLXSettings>"}) {
+        const std::string kept = file + ".damaged" + (++number > 1 ? "-" + std::to_string(number) : "");
         writeFile(file, bad);
-        EXPECT_THAT(LoadQLXFile(settings), HasSubstr(file));
+        EXPECT_THAT(LoadQLXFile(settings), AllOf(HasSubstr(file + ": "), HasSubstr("it is kept as " + kept)));
         EXPECT_EQ(settings.sPrefix.load(), "p");
-        EXPECT_EQ(readFile(file), bad);
-        EXPECT_EQ(readFile(file + ".damaged"), bad) << "the next save replaces the file itself";
-        EXPECT_EQ(modeOf(file + ".damaged"), 0600U);
+        EXPECT_FALSE(fs::exists(file));
+        EXPECT_EQ(readFile(kept), bad);
+        EXPECT_EQ(modeOf(kept), 0600U);
     }
+    fs::create_directory(file);
+    EXPECT_THAT(LoadQLXFile(settings), HasSubstr("is no file"));
+    EXPECT_TRUE(fs::is_directory(file)) << "only what could be read is called damaged";
 }
 
 TEST_F(ListsTest, ShippedListsHoldWhatAStateExpects) {
@@ -171,18 +176,29 @@ TEST_F(ListsTest, UsersSizesStandFirstAndUsersPagesLast) {
                 HasSubstr("?>\n<ImageSizeList>\n</ImageSizeList>\n"));
 }
 
-TEST_F(ListsTest, TooManyEntriesAreRefusedAndTheOtherFileStays) {
+TEST_F(ListsTest, EntriesTooManyAreNamedAndTheShippedOnesStay) {
     install();
-    std::vector<ImageSize> sizes(49);
+    std::vector<ImageSize> sizes(50);
+    for (std::size_t i = 0; i < sizes.size(); ++i)
+        sizes[i].sName = "mine " + std::to_string(i);
     ASSERT_EQ(saveImageSizes(sizes, Places::current().customImageSizeFile()), "");
     const std::string problem = LoadImageSizesFromXML(info);
-    EXPECT_THAT(problem, AllOf(HasSubstr(Places::current().imageSizeFile()), HasSubstr("room for 51 more")));
+    EXPECT_THAT(problem, AllOf(HasSubstr(Places::current().customImageSizeFile()), HasSubstr("room for 48 of its 50"),
+                               HasSubstr(R"("mine 48", "mine 49")")));
     EXPECT_EQ(problem.find('\n'), std::string::npos);
-    EXPECT_EQ(info.iImageSizeCount(), 49);
-    sizes.resize(101);
-    ASSERT_EQ(saveImageSizes(sizes, Places::current().customImageSizeFile()), "");
-    EXPECT_THAT(LoadImageSizesFromXML(info), HasSubstr("ImageSize do not fit"));
-    EXPECT_EQ(info.iImageSizeCount(), 52);
+    ASSERT_EQ(info.iImageSizeCount(), 100);
+    EXPECT_EQ(info.oImageSize[47].sName.load(), "mine 47");
+    EXPECT_EQ(info.oImageSize[48].sName.load(), "Wallet 200 Vert");
+    EXPECT_TRUE(std::any_of(info.oImageSize.begin(), info.oImageSize.end(),
+                            [](const ImageSize& size) { return size.sName.load() == "5x7 200 Vert"; }));
+
+    std::vector<PrinterPage> many(99);
+    for (PrinterPage& page : many)
+        page.sPageTitle = "mine";
+    ASSERT_EQ(savePrinterPages(many, Places::current().customPrinterFile()), "");
+    EXPECT_THAT(LoadPrinterTemplatesFromXML(info), AllOf(HasSubstr("left out: \"mine\""), HasSubstr("more")));
+    EXPECT_EQ(info.iPrinterPageCount(), 100);
+    fs::remove(Places::current().customPrinterFile());
 
     ASSERT_EQ(LoadPrinterTemplatesFromXML(info), "");
     const std::int32_t shipped = info.iPrinterPageCount();
@@ -200,6 +216,23 @@ TEST_F(ListsTest, WithoutFilesTheListsAreEmpty) {
     EXPECT_EQ(info.iImageSizeCount(), 0);
     EXPECT_EQ(info.iSelecteImageSize, -1);
     EXPECT_EQ(info.oQLXInfo->iSelectedPrinterTemplate, 0);
+}
+
+TEST_F(ListsTest, ADamagedShippedListIsSetAsideForAWholeOne) {
+    install();
+    const std::string file = Places::current().imageSizeFile();
+    for (const char* bad : {"", "<ImageSizeList><ImageSize>", "<AllPages/>"}) {
+        writeFile(file, bad);
+        EXPECT_THAT(LoadImageSizesFromXML(info, shippedFile("ImageSize.xml")), HasSubstr(file + ".damaged"));
+        EXPECT_EQ(info.iImageSizeCount(), 52);
+        EXPECT_FALSE(fs::exists(file));
+    }
+    EXPECT_EQ(readFile(file + ".damaged-2"), "<ImageSizeList><ImageSize>");
+    EXPECT_EQ(LoadImageSizesFromXML(info, shippedFile("ImageSize.xml")), "") << "told once";
+    EXPECT_EQ(info.iImageSizeCount(), 52);
+    writeFile(Places::current().customImageSizeFile(), "my sizes, with a slip");
+    EXPECT_NE(LoadImageSizesFromXML(info, shippedFile("ImageSize.xml")), "");
+    EXPECT_TRUE(fs::exists(Places::current().customImageSizeFile())) << "nothing takes its place";
 }
 
 TEST_F(InstallationTest, FillsInWhatIsMissingAndNothingElse) {

@@ -1,17 +1,24 @@
 #include <filesystem>
 #include <fstream>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "core/Places.h"
 #include "formats/ImageState.h"
+#include "formats/Installation.h"
+#include "formats/Lists.h"
 #include "formats/SettingsFile.h"
 #include "pipeline/StartUp.h"
+#include "support/Files.h"
 #include "support/TestData.h"
 
 namespace fs = std::filesystem;
 
 namespace tavrin {
 namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
 
 class StartUpTest : public testing::Test {
   protected:
@@ -74,6 +81,94 @@ TEST_F(StartUpTest, TheDefaultStateRulesButForLabelTwoAndTheSources) {
     startSystem(without);
     EXPECT_EQ(without.iBlendEdges, 20);
     EXPECT_EQ(without.oFontLabelObject[2].xPos, 0.1);
+}
+
+TEST_F(StartUpTest, WhatIsDamagedIsToldOnceAndTheShippedTakesItsPlace) {
+    {
+        SystemInfo fresh;
+        EXPECT_EQ(startSystem(fresh), "");
+    }
+    const std::string files[] = {places_.imageSizeFile(), places_.printerFile(), places_.settingsFile()};
+    for (const std::string& file : files)
+        test::writeFile(file, "<Damaged>");
+    SystemInfo info;
+    const std::string problems = startSystem(info);
+    for (const std::string& file : files) {
+        EXPECT_THAT(problems, HasSubstr(file + ": no XML"));
+        EXPECT_THAT(problems, HasSubstr("it is kept as " + file + ".damaged"));
+        EXPECT_EQ(test::readFile(file + ".damaged"), "<Damaged>");
+    }
+    EXPECT_EQ(info.iImageSizeCount(), 52);
+    EXPECT_EQ(info.iOutputPixelWidth, 1000);
+    EXPECT_TRUE(fs::exists(info.pForegroundBitmapInfo->sSourceImageFullPath.load()));
+    SystemInfo again;
+    EXPECT_EQ(startSystem(again), "");
+    EXPECT_EQ(again.iImageSizeCount(), 52);
+    EXPECT_TRUE(fs::exists(again.pForegroundBitmapInfo->sSourceImageFullPath.load()));
+}
+
+TEST_F(StartUpTest, ADamagedListIsToldOnceOnTheCommandLineToo) {
+    fs::create_directories(places_.xmlFolder());
+    test::writeFile(places_.imageSizeFile(), "<Damaged>");
+    SystemInfo info;
+    startCommandLine(info);
+    EXPECT_FALSE(fs::exists(folder_.file("pictures"))) << "nothing else is put into the account";
+    EXPECT_EQ(info.iImageSizeCount(), 52);
+    EXPECT_EQ(test::readFile(places_.imageSizeFile() + ".damaged"), "<Damaged>");
+    EXPECT_EQ(test::readFile(places_.imageSizeFile()), shippedFile("ImageSize.xml"));
+}
+
+TEST_F(StartUpTest, AStateThatCannotBeHadStartsWithTheShippedSize) {
+    SystemInfo wanted;
+    startSystem(wanted);
+    wanted.iBlendEdges = 77;
+    wanted.sImageSizeName = "nobody's";
+    wanted.iSelecteImageSize = 99;
+    wanted.dOutputImageWidthInInches = 0.0;
+    ASSERT_EQ(saveImageStateToXML(wanted, places_.defaultStateFile()), "");
+    SystemInfo info;
+    const std::string problems = startSystem(info);
+    EXPECT_THAT(problems, AllOf(HasSubstr(places_.defaultStateFile()), HasSubstr("nobody's"),
+                                HasSubstr("\"5x7 200 Vert\" is used")));
+    EXPECT_EQ(info.iBlendEdges, 77);
+    EXPECT_EQ(info.iOutputPixelWidth, 1000);
+    EXPECT_EQ(info.sImageSizeName.load(), "5x7 200 Vert");
+
+    test::writeFile(places_.defaultStateFile(), "<ImageState>");
+    SystemInfo damaged;
+    EXPECT_THAT(startSystem(damaged), HasSubstr(places_.defaultStateFile() + ": no XML"));
+    EXPECT_EQ(damaged.iOutputPixelWidth, 1000);
+    EXPECT_TRUE(fs::exists(places_.defaultStateFile())) << "the user's own file stays where it is";
+}
+
+TEST_F(StartUpTest, AListWithoutTheUsualSizeStartsWithItsFirst) {
+    ASSERT_EQ(installMissingFiles(), "");
+    std::vector<ImageSize> sizes(2);
+    sizes[0].sName = "no size at all";
+    sizes[1].sName = "mine";
+    sizes[1].dWidth = sizes[1].dHeight = 2.0;
+    sizes[1].dotsPerInch = 50;
+    ASSERT_EQ(saveImageSizes(sizes, places_.imageSizeFile()), "");
+    fs::remove(places_.defaultStateFile());
+    ASSERT_EQ(SaveQLXFile(QLXInfo()), "");
+    SystemInfo info;
+    startSystem(info);
+    EXPECT_EQ(info.sImageSizeName.load(), "mine");
+    EXPECT_EQ(info.iOutputPixelWidth, 100);
+}
+
+TEST_F(StartUpTest, AnAccountThatCannotBeWrittenToStillWorks) {
+    test::writeFile(folder_.file("file"), "");
+    places_.setSharedFolder(folder_.file("file/shared"));
+    places_.setPicturesFolder(folder_.file("file/pictures"));
+    SystemInfo info;
+    const std::string problems = startSystem(info);
+    EXPECT_THAT(problems, HasSubstr("The folder " + folder_.file("file/shared/QLXXML/") + " cannot be made: "));
+    EXPECT_THAT(problems, AllOf(HasSubstr("is not a folder"), HasSubstr("temporary folder")));
+    EXPECT_LT(std::count(problems.begin(), problems.end(), '\n'), 3);
+    EXPECT_EQ(info.iImageSizeCount(), 52);
+    EXPECT_TRUE(fs::exists(info.pForegroundBitmapInfo->sSourceImageFullPath.load()));
+    EXPECT_NE(info.TextEditIcon.rawData, nullptr);
 }
 
 TEST_F(StartUpTest, TheCommandLineLeavesTheAccountAlone) {

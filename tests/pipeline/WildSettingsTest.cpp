@@ -5,7 +5,7 @@
 #include "core/state/SettingNames.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/StartUp.h"
+#include "pipeline/StateFile.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
 

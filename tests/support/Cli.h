@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QProcess>
 
 #include "support/BuildPlaces.h"
@@ -22,8 +23,13 @@ inline CliOutcome outcomeOf(QProcess& process) {
 }
 
 /// Calls tavrin-cli as a user does.
-inline CliOutcome runCli(const QStringList& arguments) {
+/// @param variables of the environment that differ, name and value
+inline CliOutcome runCli(const QStringList& arguments, const QMap<QString, QString>& variables = {}) {
     QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (auto entry = variables.begin(); entry != variables.end(); ++entry)
+        environment.insert(entry.key(), entry.value());
+    process.setProcessEnvironment(environment);
     process.start(kCliProgram, arguments);
     return outcomeOf(process);
 }

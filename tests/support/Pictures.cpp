@@ -39,9 +39,18 @@ std::string savePng(const QImage& image, const std::string& path) {
     return image.save(QString::fromStdString(path), "PNG") ? path : std::string();
 }
 
+void addSize(SystemInfo& info, const std::string& name, double widthInches, double heightInches, int dpi) {
+    ImageSize& size = info.oImageSize.emplace_back();
+    size.sName = name;
+    size.dWidth = widthInches;
+    size.dHeight = heightInches;
+    size.dotsPerInch = dpi;
+    selectSizeByName(info, name);
+}
+
 std::unique_ptr<SystemInfo> stateForOutput(int width, int height, int dpi) {
     auto info = std::make_unique<SystemInfo>();
-    selectOwnSize(*info, "test", static_cast<double>(width) / dpi, static_cast<double>(height) / dpi, dpi);
+    addSize(*info, "test", static_cast<double>(width) / dpi, static_cast<double>(height) / dpi, dpi);
     ChangeImageSize(*info);
     return info;
 }

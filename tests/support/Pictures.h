@@ -19,6 +19,9 @@ QImage noisePicture(int width, int height, unsigned seed);
 /// Saves as PNG, so that the reader gets the same bytes back; returns the path.
 std::string savePng(const QImage& image, const std::string& path);
 
+/// Adds a size to the list and selects it.
+void addSize(SystemInfo& info, const std::string& name, double widthInches, double heightInches, int dpi);
+
 /// A state with buffers of an output of width x height pixels at 92 dpi, whose preview has the size `lowDpi` gives.
 std::unique_ptr<SystemInfo> stateForOutput(int width, int height, int dpi = 92);
 

@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QTest>
 
+#include "formats/ImageState.h"
 #include "pipeline/OutputSize.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
@@ -19,7 +20,7 @@ namespace {
 class MainWindowTest : public testing::Test {
   protected:
     void SetUp() override {
-        selectOwnSize(*info_, "other", 100 / 92.0, 200 / 92.0, 92);
+        test::addSize(*info_, "other", 100 / 92.0, 200 / 92.0, 92);
         selectSizeByName(*info_, "test");
         info_->pForegroundBitmapInfo->sSourceImageFullPath = foreground_;
         info_->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
@@ -147,6 +148,39 @@ TEST_F(MainWindowTest, AStateFileBringsEverySettingBack) {
     EXPECT_NE(brighter, before);
     const QImage after = pictureAfter([&] { window_->openState(file); });
     EXPECT_EQ(after, before);
+}
+
+TEST_F(MainWindowTest, ASizeOfThePicturesOwnHasAnEntryWhileItIsInForce) {
+    ASSERT_TRUE(waitForPicture());
+    const auto other = test::stateForOutput(240, 300);
+    selectOwnSize(*other, "postcard", 1.5, 1.0, 100);
+    other->pForegroundBitmapInfo->sSourceImageFullPath = foreground_;
+    other->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
+    ASSERT_EQ(saveImageStateToXML(*other, folder_.file("own.qlx")), "");
+    const int listed = window_->sizeBox()->count();
+    const QImage picture = pictureAfter([&] { window_->openState(QString::fromStdString(folder_.file("own.qlx"))); });
+    EXPECT_EQ(picture.size(), QSize(150, 100));
+    EXPECT_EQ(window_->sizeBox()->currentText(), "postcard (this picture only)");
+    EXPECT_EQ(window_->sizeBox()->count(), listed + 1);
+    EXPECT_EQ(info_->iImageSizeCount(), listed);
+    const QImage listedAgain = pictureAfter([&] {
+        window_->sizeBox()->setCurrentIndex(0);
+        emit window_->sizeBox()->activated(0);
+    });
+    EXPECT_EQ(listedAgain.size(), QSize(240, 300));
+    EXPECT_EQ(window_->sizeBox()->count(), listed);
+    EXPECT_EQ(window_->sizeBox()->currentText(), "test");
+}
+
+TEST_F(MainWindowTest, ProblemsOfTheStartAreShownAndHoldNothingUp) {
+    window_->tellStartProblems("");
+    EXPECT_TRUE(window_->findChildren<QMessageBox*>().isEmpty());
+    window_->tellStartProblems("The list is damaged.\nThe state too.");
+    ASSERT_TRUE(waitForPicture());
+    const auto boxes = window_->findChildren<QMessageBox*>();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_TRUE(boxes[0]->isVisible());
+    EXPECT_EQ(boxes[0]->informativeText(), "The list is damaged.\nThe state too.");
 }
 
 TEST_F(MainWindowTest, AnUnreadableFileIsToldAndTheOldPictureStays) {

@@ -62,7 +62,8 @@ Refusal complete(CommandOptions& options) {
 Refusal trySettings(const CommandOptions& options, const SystemInfo& base) {
     SystemInfo info;
     startLike(info, base);
-    return applyPictureOptions(info, options.picture, !options.batch.sources.states.empty());
+    const LoadedStateFile anyState;
+    return applyPictureOptions(info, options.picture, options.batch.sources.states.empty() ? nullptr : &anyState);
 }
 
 int runBatch(CommandOptions options) {
@@ -78,8 +79,8 @@ int runBatch(CommandOptions options) {
         complain(refusal.line);
         return refusal.code;
     }
-    PictureMaker maker(*base, [&options](SystemInfo& info, bool fromStateFile) {
-        return applyPictureOptions(info, options.picture, fromStateFile).line;
+    PictureMaker maker(*base, [&options](SystemInfo& info, const LoadedStateFile* loaded) {
+        return applyPictureOptions(info, options.picture, loaded).line;
     });
     const BatchOptions& batch = options.batch;
     const bool json = options.json || (!batch.dryRun && !Console::isTerminal(stdout));

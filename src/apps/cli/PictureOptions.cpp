@@ -17,23 +17,28 @@ bool parseNumber(std::string_view text, double& value) {
     return error == std::errc() && end == text.data() + text.size();
 }
 
-Refusal applySize(SystemInfo& info, const PictureOptions& options, bool fromStateFile) {
-    if (options.inches.empty()) {
-        const std::string name = options.sizeName.empty() ? info.sImageSizeName.load() : options.sizeName;
-        if (selectSizeByName(info, name)) return {};
-        // A state file may name a size that is not in the list and carry an index that is.
-        if (options.sizeName.empty() && fromStateFile) return {};
-        return {kUsage, "There is no output size \"" + name + "\"."};
-    }
+Refusal applyInches(SystemInfo& info, const PictureOptions& options) {
     const std::size_t cross = options.inches.find_first_of("xX");
     double width = 0.0, height = 0.0;
     if (cross == std::string::npos || !parseNumber(std::string_view(options.inches).substr(0, cross), width) ||
         !parseNumber(std::string_view(options.inches).substr(cross + 1), height)) {
         return {kUsage, "--inches takes width x height, for example 8x10, not \"" + options.inches + "\"."};
     }
-    const std::string name = options.inches + " at " + std::to_string(options.dpi) + " dpi";
-    if (!selectOwnSize(info, name, width, height, options.dpi)) return {kFailed, "The list of sizes is full."};
+    selectOwnSize(info, options.inches + " at " + std::to_string(options.dpi) + " dpi", width, height, options.dpi);
     return {};
+}
+
+Refusal applySize(SystemInfo& info, const PictureOptions& options, const LoadedStateFile* loaded) {
+    if (!options.inches.empty()) {
+        if (Refusal refusal = applyInches(info, options); refusal.code != kDone) return refusal;
+    } else if (loaded && options.sizeName.empty()) {
+        return {loaded->sizeProblem.empty() ? kDone : kFailed, loaded->sizeProblem};
+    } else {
+        const std::string name = options.sizeName.empty() ? info.sImageSizeName.load() : options.sizeName;
+        if (!selectSizeByName(info, name)) return {kUsage, "There is no output size \"" + name + "\"."};
+    }
+    const std::string problem = sizeProblem(selectedSize(info).value_or(ImageSize()));
+    return {problem.empty() ? kDone : kUsage, problem};
 }
 
 void applyOverlays(SystemInfo& info, const PictureOptions& options) {
@@ -47,11 +52,20 @@ void applyOverlays(SystemInfo& info, const PictureOptions& options) {
     use(info.bHaveFrameOverlay, info.sFrameOverlay, options.frameOverlay);
 }
 
-/// Whether the command line says anything about a label.
-bool changesLabels(const PictureOptions& options) {
-    return !options.title.empty() || !options.note.empty() ||
-           std::any_of(options.set.begin(), options.set.end(),
-                       [](const std::string& assignment) { return assignment.starts_with("label"); });
+/// Whether the command line sets this field of this label.
+bool sets(const PictureOptions& options, std::size_t label, const char* field) {
+    const std::string start = "label" + std::to_string(label) + "." + field + "=";
+    return std::any_of(options.set.begin(), options.set.end(),
+                       [&](const std::string& assignment) { return assignment.starts_with(start); });
+}
+
+/// A size or a colour that was given by its name gives the label its points or its fill. All else stays: a state file
+/// may have styled the label in another way.
+void applyLabelNames(SystemInfo& info, const PictureOptions& options) {
+    for (std::size_t i = 0; i < info.oFontLabelObject.size(); ++i) {
+        if (sets(options, i, "sLabelSize")) useLabelSize(info.oFontLabelObject[i]);
+        if (sets(options, i, "sFontColor")) useLabelColor(info.oFontLabelObject[i]);
+    }
 }
 
 std::string applySettings(SystemInfo& info, const PictureOptions& options) {
@@ -62,19 +76,17 @@ std::string applySettings(SystemInfo& info, const PictureOptions& options) {
     if (!options.note.empty()) info.oFontLabelObject[1].sText = options.note;
     applyOverlays(info, options);
     problem = applyAssignments(info, options.set);
-    if (problem.empty() && changesLabels(options)) {
-        // Sizes and colours by name come first; a number that was given beside them wins.
-        updateLabelSettings(info);
-        problem = applyAssignments(info, options.set);
-    }
-    return problem;
+    if (!problem.empty()) return problem;
+    applyLabelNames(info, options);
+    return applyAssignments(info, options.set);  // a number that was given beside a name wins
 }
 
 }  // namespace
 
-Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, bool fromStateFile) {
+Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedStateFile* loaded) {
+    if (!loaded) updateLabelSettings(info);
     const std::string problem = applySettings(info, options);
-    return problem.empty() ? applySize(info, options, fromStateFile) : Refusal{kUsage, problem};
+    return problem.empty() ? applySize(info, options, loaded) : Refusal{kUsage, problem};
 }
 
 void addPictureOptions(CLI::App& command, PictureOptions& options) {

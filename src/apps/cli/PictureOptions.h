@@ -6,6 +6,7 @@
 
 #include "apps/cli/EffectOptions.h"
 #include "core/state/SystemInfo.h"
+#include "pipeline/StateFile.h"
 
 namespace tavrin::cli {
 
@@ -30,7 +31,7 @@ struct Refusal {
 void addPictureOptions(CLI::App& command, PictureOptions& options);
 
 /// Puts the effects, the texts, then the settings into a state, and selects the output size.
-/// @param fromStateFile the state came from a file, which may name a size that is not in the list
-Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, bool fromStateFile);
+/// @param loaded what came of the state file that the state is from; null where it has all defaults
+Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedStateFile* loaded);
 
 }  // namespace tavrin::cli

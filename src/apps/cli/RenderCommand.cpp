@@ -21,6 +21,7 @@
 #include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
 #include "pipeline/StartUp.h"
+#include "pipeline/StateFile.h"
 #include "pipeline/WholePicture.h"
 
 namespace fs = std::filesystem;
@@ -88,15 +89,14 @@ Refusal checkOutputs(const SystemInfo& info, const RenderOptions& options) {
 
 Refusal prepare(SystemInfo& info, const RenderOptions& options) {
     if (Refusal refusal = checkFiles(options); refusal.code != kDone) return refusal;
-    if (!options.state.empty()) {
-        const std::string problem = LoadImageStateFromXML(info, options.state, kLoadAll);
-        if (!problem.empty()) return {kFailed, problem};
-    }
+    LoadedStateFile loaded;
+    if (!options.state.empty()) loaded = loadStateFile(info, options.state);
+    if (!loaded.problem.empty()) return {kFailed, loaded.problem};
     if (Refusal refusal = applySources(info, options); refusal.code != kDone) return refusal;
     const std::string left = options.picture.effects.leftOut(options.fast, options.preview);
     if (!left.empty()) return {kUsage, left};
-    if (Refusal refusal = applyPictureOptions(info, options.picture, !options.state.empty()); refusal.code != kDone)
-        return refusal;
+    const LoadedStateFile* state = options.state.empty() ? nullptr : &loaded;
+    if (Refusal refusal = applyPictureOptions(info, options.picture, state); refusal.code != kDone) return refusal;
     if (!ChangeImageSize(info)) return {kUsage, "The output size cannot be used."};
     info.bSkipHiRes = options.preview;
     return checkOutputs(info, options);
@@ -150,6 +150,7 @@ int render(const RenderOptions& options) {
     if (!options.alpha.empty() && !saveMatteToDisk(*info, options.alpha, res)) return kFailed;
     console.clearProgress();
     if (!options.saveState.empty()) {
+        useFullPaths(*info);
         const std::string problem = saveImageStateToXML(*info, options.saveState);
         if (!problem.empty()) {
             complain(problem);

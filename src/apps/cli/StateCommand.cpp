@@ -26,7 +26,9 @@ using Fields = std::vector<std::pair<std::string, std::string>>;
 std::unique_ptr<SystemInfo> loadState(const std::string& path) {
     auto info = std::make_unique<SystemInfo>();
     startCommandLine(*info);
-    const std::string problem = LoadImageStateFromXML(*info, path, kLoadAll);
+    StoredSize stored;
+    const std::string problem = LoadImageStateFromXML(*info, path, kLoadAll, &stored);
+    info->dOutputImageHeightInInches = stored.height;  // the one setting that no load takes over
     if (problem.empty()) return info;
     complain(problem);
     return nullptr;

@@ -1,3 +1,4 @@
+#include <clocale>
 #include <memory>
 
 #include <QFont>
@@ -14,13 +15,19 @@
 
 namespace {
 
+/// The libraries take over the user's locale when they start; numbers are written the same way in all of them.
+std::unique_ptr<QCoreApplication> withPlainNumbers(std::unique_ptr<QCoreApplication> application) {
+    std::setlocale(LC_NUMERIC, "C");
+    return application;
+}
+
 /// The object that the libraries want. What draws text needs the fonts of the system, without any display; the rest
 /// starts faster without them.
 std::unique_ptr<QCoreApplication> startLibraries(bool withFonts) {
     static char name[] = "tavrin-cli", option[] = "-platform", platform[] = "minimal:enable_fonts";
     static char* words[] = {name, option, platform, nullptr};
     static int count = withFonts ? 3 : 1;
-    if (!withFonts) return std::make_unique<QCoreApplication>(count, words);
+    if (!withFonts) return withPlainNumbers(std::make_unique<QCoreApplication>(count, words));
     // Remarks about a desktop that is not there, and about scripts that a font lacks, are nobody's business.
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
         if (type == QtCriticalMsg || type == QtFatalMsg) tavrin::cli::complain(text.toStdString());
@@ -28,7 +35,7 @@ std::unique_ptr<QCoreApplication> startLibraries(bool withFonts) {
     auto application = std::make_unique<QGuiApplication>(count, words);
     // Asked for the usual font, the library would read in all fonts of the system, also where nobody writes.
     QGuiApplication::setFont(QFont(QStringLiteral("Sans Serif")));
-    return application;
+    return withPlainNumbers(std::move(application));
 }
 
 }  // namespace

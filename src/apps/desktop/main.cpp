@@ -1,3 +1,4 @@
+#include <clocale>
 #include <memory>
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
+    std::setlocale(LC_NUMERIC, "C");  // what is printed and digested has a full stop in every locale
     QApplication::setApplicationName("Tavrin");
     QApplication::setOrganizationName("Tavrin");
     QApplication::setApplicationVersion(TAVRIN_VERSION);
@@ -18,8 +20,9 @@ int main(int argc, char** argv) {
     tavrin::keepPixelMemory(std::size_t{1} << 28);
 
     const auto info = std::make_unique<tavrin::SystemInfo>();
-    tavrin::startSystem(*info);
+    const std::string problems = tavrin::startSystem(*info);
     tavrin::MainWindow window(*info);
     window.show();
+    window.tellStartProblems(problems);
     return QApplication::exec();
 }

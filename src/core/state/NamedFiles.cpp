@@ -1,33 +1,50 @@
 #include "core/state/NamedFiles.h"
 
-#include <algorithm>
+#include <filesystem>
 
 #include "core/FileIdentity.h"
+#include "core/StandardPath.h"
 #include "core/image/FileKind.h"
 
 namespace tavrin {
 
+namespace {
+
+/// Calls `use` with each setting that names a file, the empty ones among them.
+template <class Info, class Use>
+void forEachNamedFile(Info& info, Use use) {
+    use(info.pForegroundBitmapInfo->sSourceImageFullPath);
+    use(info.pBackgroundBitmapInfo->sSourceImageFullPath);
+    use(info.pCombinedBitmapInfo->sSourceImageFullPath);
+    use(info.sBackgroundOverlay);
+    use(info.sForegroundOverlay);
+    use(info.sFrameOverlay);
+    use(info.sSilhouetteFileName);
+    use(info.oImageTexture->sTextureFileName);
+    use(info.oReflectionTexture->sTextureFileName);
+    for (auto* frame : {info.oFrame.get(), info.oFrameOverlay.get()}) {
+        use(frame->sFrameImagePath);
+        use(frame->oTexture.sTextureFileName);
+    }
+    for (auto& item : info.oFontObject) {
+        if (item.isImage) use(item.sText);
+    }
+}
+
+}  // namespace
+
 std::vector<std::string> filesNamedBy(const SystemInfo& info) {
-    std::vector<std::string> files = {
-        info.pForegroundBitmapInfo->sSourceImageFullPath,
-        info.pBackgroundBitmapInfo->sSourceImageFullPath,
-        info.pCombinedBitmapInfo->sSourceImageFullPath,
-        info.sBackgroundOverlay,
-        info.sForegroundOverlay,
-        info.sFrameOverlay,
-        info.sSilhouetteFileName,
-        info.oImageTexture->sTextureFileName,
-        info.oReflectionTexture->sTextureFileName,
-    };
-    for (const ImageFrame* frame : {info.oFrame.get(), info.oFrameOverlay.get()}) {
-        files.push_back(frame->sFrameImagePath);
-        files.push_back(frame->oTexture.sTextureFileName);
-    }
-    for (const FontObject& item : info.oFontObject) {
-        if (item.isImage) files.push_back(item.sText);
-    }
-    std::erase(files, std::string());
+    std::vector<std::string> files;
+    forEachNamedFile(info, [&files](const Field<std::string>& file) {
+        if (!file.empty()) files.push_back(file);
+    });
     return files;
+}
+
+void useFullPaths(SystemInfo& info) {
+    forEachNamedFile(info, [](Field<std::string>& file) {
+        if (!file.empty()) file = standardizePath(std::filesystem::absolute(file.load()).string());
+    });
 }
 
 std::string whyNotOver(const SystemInfo& info, const std::string& path) {

@@ -11,6 +11,10 @@ namespace tavrin {
 /// frames, the silhouette. Names that are empty are left out.
 std::vector<std::string> filesNamedBy(const SystemInfo& info);
 
+/// Writes out from the root every file that the state names relative to the working folder, so that the state means
+/// the same files wherever it is opened.
+void useFullPaths(SystemInfo& info);
+
 /// Why nothing may be written to `path`, since the state's picture is made from what is there, as one line that names
 /// both without a full stop; "" when it may.
 std::string whyNotOver(const SystemInfo& info, const std::string& path);

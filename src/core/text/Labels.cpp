@@ -93,14 +93,22 @@ void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFont
     });
 }
 
+void useLabelSize(FontObject& label) {
+    const std::string name = label.sLabelSize;
+    for (const NamedSize& size : kSizes) {
+        if (name == size.name) label.iFontSize = size.points;
+    }
+}
+
+void useLabelColor(FontObject& label) {
+    const double level = label.sFontColor.load() == "White" ? 1.0 : 0.0;
+    label.dFontFillRed = label.dFontFillGreen = label.dFontFillBlue = level;
+}
+
 void updateLabelSettings(SystemInfo& info) {
     for (FontObject& label : info.oFontLabelObject) {
-        const std::string name = label.sLabelSize;
-        for (const NamedSize& size : kSizes) {
-            if (name == size.name) label.iFontSize = size.points;
-        }
-        const double level = label.sFontColor.load() == "White" ? 1.0 : 0.0;
-        label.dFontFillRed = label.dFontFillGreen = label.dFontFillBlue = level;
+        useLabelSize(label);
+        useLabelColor(label);
     }
 }
 

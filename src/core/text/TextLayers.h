@@ -28,6 +28,10 @@ void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFont
 void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::string& myImage, int myRes,
                       const RunContext& run = {});
 
+/// Gives a label the size in points that its `sLabelSize` names, or the fill that its `sFontColor` names.
+void useLabelSize(FontObject& label);
+void useLabelColor(FontObject& label);
+
 /// Gives each label the size and the colour that `sLabelSize` ("X-Large", "Large", "Medium", "Small") and
 /// `sFontColor` ("White", else black) name; an unknown size leaves the old one.
 void updateLabelSettings(SystemInfo& info);

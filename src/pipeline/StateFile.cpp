@@ -1,0 +1,47 @@
+#include "pipeline/StateFile.h"
+
+#include "formats/ImageState.h"
+#include "pipeline/OutputSize.h"
+
+namespace tavrin {
+
+namespace {
+
+/// Whether the buffers of `before` are of another size than the selected one.
+bool isNewSize(const SystemInfo& info, const OutputGeometry& before) {
+    const std::optional<ImageSize> size = selectedSize(info);
+    return size &&
+           (info.iSelecteImageSize != before.iSelecteImageSize ||
+            info.sImageSizeName.load() != before.sImageSizeName.load() ||
+            size->dWidth != before.dOutputImageWidthInInches || size->dHeight != before.dOutputImageHeightInInches ||
+            size->dotsPerInch != before.iOutputImageDPI);
+}
+
+}  // namespace
+
+LoadedStateFile loadStateFile(SystemInfo& info, const std::string& path) {
+    LoadedStateFile loaded;
+    StoredSize stored;
+    OutputGeometry geometry = info;
+    loaded.problem = LoadImageStateFromXML(info, path, kLoadAll, &stored);
+    if (!loaded.problem.empty()) return loaded;
+    geometry.dOrgImageScale = info.dOrgImageScale;  // these two are kept for the file alone
+    geometry.dImageSliderScale = info.dImageSliderScale;
+    static_cast<OutputGeometry&>(info) = geometry;
+    loaded.sizeProblem = selectStoredSize(info, stored);
+    if (!loaded.sizeProblem.empty()) loaded.sizeProblem = path + ": " + loaded.sizeProblem;
+    loaded.newSize = isNewSize(info, geometry);
+    return loaded;
+}
+
+std::string openStateFile(SystemInfo& info, const std::string& path) {
+    const LoadedStateFile loaded = loadStateFile(info, path);
+    if (!loaded.problem.empty()) return loaded.problem;
+    if (!loaded.sizeProblem.empty()) info.alert("The present output size stays.", loaded.sizeProblem);
+    if (loaded.newSize) info.bChangeImageSize = info.bNewOutputSize = true;
+    info.pForegroundBitmapInfo->bOrgFileChange = true;
+    info.pBackgroundBitmapInfo->bOrgFileChange = true;
+    return "";
+}
+
+}  // namespace tavrin
