@@ -1,6 +1,7 @@
 #include "batch/BatchReport.h"
 
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <set>
 
@@ -10,6 +11,8 @@
 #include <QJsonObject>
 
 #include "core/AtomicFile.h"
+
+namespace fs = std::filesystem;
 
 namespace tavrin {
 
@@ -168,6 +171,15 @@ std::string BatchReport::write(const std::string& path, const BatchCounts& count
     end["seconds"] = rounded(seconds);
     lines.push_back(lineOf({{"summary", end}}));
     return writeLines(path, lines);
+}
+
+std::string whyNoReport(const std::string& path, const std::string& outFolder) {
+    std::error_code ignored;
+    const fs::path folder = fs::absolute(path).lexically_normal().parent_path();
+    const bool isMadeByRun = fs::absolute(outFolder).lexically_normal() == folder && !fs::exists(outFolder, ignored);
+    if (isMadeByRun) return "";
+    const AtomicFile trial(path);
+    return trial.error().empty() ? "" : "The report " + path + " cannot be written: " + trial.error() + ".";
 }
 
 MergedReport mergeReports(const std::vector<std::string>& paths, const std::string& out) {

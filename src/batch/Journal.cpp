@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QJsonArray>
@@ -158,12 +159,24 @@ const JobRecord* Journal::find(const std::string& name) const {
     return known == records_.end() ? nullptr : &known->second;
 }
 
+/// A folder that was removed while the run goes on is made anew with the next picture, and its journal with it.
+void Journal::openFile() {
+    struct stat facts {};
+    if (file_ >= 0 && ::fstat(file_, &facts) == 0 && facts.st_nlink == 0) {
+        ::close(file_);
+        file_ = -1;
+        std::error_code ignored;
+        fs::create_directories(folder_, ignored);
+    }
+    if (file_ < 0) file_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+}
+
 std::string Journal::add(JobRecord record) {
     record.time = now();
     // A line that a full disk cut short ends here, so that it spoils no other.
     const std::string line = (torn_ ? "\n" : "") + lineOf(record);
     records_[record.name] = std::move(record);
-    if (file_ < 0) file_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+    openFile();
     if (file_ >= 0 && writeAll(file_, line)) {
         torn_ = false;
         return "";

@@ -62,6 +62,7 @@ class Journal {
     void readFile(const std::string& path);
     void tidy(const std::vector<std::string>& files);
     bool takeTurn(Use use);
+    void openFile();
 
     std::string folder_, path_;
     std::map<std::string, JobRecord> records_;

@@ -4,8 +4,9 @@
 #include <cctype>
 #include <filesystem>
 
-#include <QSaveFile>
+#include <QBuffer>
 
+#include "core/AtomicFile.h"
 #include "core/image/ImageWriter.h"
 
 namespace tavrin {
@@ -59,10 +60,12 @@ bool saveMatteToDisk(SystemInfo& info, const std::string& path, int myRes) {
     const std::uint8_t* pixels = myRes == 1 ? background.pBitmapData : background.pBitmapDataLowRes;
     if (!pixels) return refuse(info, path + ": there is no matte to save yet.");
 
-    QSaveFile file(QString::fromStdString(path));
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         matteOf(pixels, size.width, size.height).save(&file, "PNG") && file.commit();
-    return written || refuse(info, path + ": " + file.errorString().toStdString() + ".");
+    QBuffer bytes;
+    if (!bytes.open(QIODevice::WriteOnly) || !matteOf(pixels, size.width, size.height).save(&bytes, "PNG"))
+        return refuse(info, path + ": there is not enough memory for it.");
+    AtomicFile file(path);
+    file.write(bytes.data().constData(), static_cast<std::size_t>(bytes.size()));
+    return file.commit() || refuse(info, path + ": " + file.error() + ".");
 }
 
 }  // namespace tavrin

@@ -2,6 +2,7 @@
 
 #include <QLockFile>
 
+#include "core/Interruption.h"
 #include "core/Log.h"
 #include "core/Places.h"
 #include "core/StandardPath.h"
@@ -80,6 +81,7 @@ void startSystem(SystemInfo& info) {
 }
 
 void startCommandLine(SystemInfo& info) {
+    const Interruption::Hold hold;  // or the folder would be filled while it is removed
     Places& places = Places::current();
     places.usePrivateTempFiles();
     if (!safeFileExists(places.imageSizeFile())) {
