@@ -5,6 +5,11 @@
 
 namespace tavrin {
 
+void Arrivals::beginLook() {
+    std::erase_if(files_, [this](const auto& entry) { return entry.second.look < look_; });
+    ++look_;
+}
+
 void Arrivals::closed(const std::string& path) {
     const std::optional<FileFacts> facts = factsOf(path);
     if (!facts) return;
@@ -13,6 +18,7 @@ void Arrivals::closed(const std::string& path) {
     file.closed = true;
     file.since = std::chrono::steady_clock::now();
     file.notBefore = {};
+    file.look = look_;  // it lasts until a whole look has missed it
 }
 
 namespace {
@@ -34,7 +40,8 @@ bool Arrivals::isComplete(const std::string& path, Time now) {
     }
     const auto [at, isNew] = files_.try_emplace(path);
     File& file = at->second;
-    if (isNew || !(file.facts == *facts)) file = {*facts, now, isNew && isOld(*facts), {}, false};
+    if (isNew || !(file.facts == *facts)) file = {*facts, now, isNew && isOld(*facts), {}, false, look_};
+    file.look = look_;
     const bool rests = file.closed || now - file.since >= kRest;
     const bool complete = rests && now >= file.notBefore;
     file.waiting = !complete;
@@ -54,8 +61,10 @@ bool Arrivals::isBroken(const std::string& path, Time now) {
 
 Arrivals::Time Arrivals::nextMoment(Time limit) const {
     for (const auto& [path, file] : files_) {
+        // One that the look missed is not waited for: nothing would ever end its waiting.
+        if (!file.waiting || file.look < look_) continue;
         const Time rested = file.closed ? file.since : file.since + kRest;
-        if (file.waiting) limit = std::min(limit, std::max(rested, file.notBefore));
+        limit = std::min(limit, std::max(rested, file.notBefore));
     }
     return limit;
 }

@@ -20,6 +20,9 @@ class Arrivals {
     /// How long a broken one has to rest before it counts as broken.
     static constexpr std::chrono::milliseconds kPatience{10000};
 
+    /// A new look at the folders begins. What the look before did not come upon is forgotten: it went away, or is
+    /// none of the files that are waited for.
+    void beginLook();
     /// News of the system: the file was closed after writing, or moved here.
     void closed(const std::string& path);
     /// Looks at a file, which has to be done again and again.
@@ -28,7 +31,7 @@ class Arrivals {
     /// It could not be read.
     /// @return whether that is final, unless the file changes; else `isComplete` says later when to try again
     bool isBroken(const std::string& path, Time now = std::chrono::steady_clock::now());
-    /// The earliest moment at which a file that rests now may become complete; `limit` when there is none before.
+    /// The earliest moment at which a file of the last look may become complete; `limit` when there is none before.
     Time nextMoment(Time limit) const;
 
   private:
@@ -38,8 +41,10 @@ class Arrivals {
         bool closed = false;
         Time notBefore{};  ///< a broken one waits
         bool waiting = false;
+        unsigned look = 0;  ///< the last one that came upon it
     };
     std::unordered_map<std::string, File> files_;
+    unsigned look_ = 0;
 };
 
 }  // namespace tavrin

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "batch/BatchList.h"
+#include "batch/ListText.h"
 #include "core/Log.h"
 #include "formats/SettingsFile.h"
 
@@ -146,7 +147,7 @@ std::int32_t BatchEngine::ComputeNumberOfFilesInBatchUsingXMLFile() {
     const std::string name = lists.oFilesInFolder[0];
     int next = iNextFileNumber;
     BatchList list =
-        parseBatchList(readBatchListText(folder + "/" + name), defaults, next, kBatchElements, makeFolders);
+        parseBatchList(readListText(folder + "/" + name).text, defaults, next, kBatchElements, makeFolders);
     iNextFileNumber = next;
     std::move(list.jobs.begin(), list.jobs.end(), myBatchElements.begin());
     moveListFileAway(folder, name);

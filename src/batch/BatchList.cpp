@@ -1,16 +1,10 @@
 #include "batch/BatchList.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string_view>
 #include <utility>
 
-#include <QByteArray>
-#include <QStringDecoder>
-
 #include "batch/NextFileInFolder.h"
-#include "core/FileIdentity.h"
 
 namespace fs = std::filesystem;
 
@@ -131,11 +125,15 @@ BatchList parseBatchList(const std::string& text, const BatchListDefaults& defau
     BatchList list;
     std::vector<Draft> open;  // one or none
     std::string_view rest = text;
+    int number = 0, opened = 0;
     while (!rest.empty()) {
         const std::size_t end = rest.find('\n');
         const std::string_view line = rest.substr(0, end);
         rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+        ++number;
         if (holds(line, "<image>")) {
+            if (!open.empty() && list.unclosedLine == 0) list.unclosedLine = opened;
+            opened = number;
             open.clear();
             open.emplace_back(defaults, makeFolder);
         } else if (open.empty()) {
@@ -150,16 +148,8 @@ BatchList parseBatchList(const std::string& text, const BatchListDefaults& defau
             open.clear();
         }
     }
+    if (!open.empty() && list.unclosedLine == 0) list.unclosedLine = opened;
     return list;
-}
-
-std::string readBatchListText(const std::string& path) {
-    if (!isPlainFile(path)) return {};
-    std::ifstream file(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString decoded = decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-    return decoder.hasError() ? std::string() : decoded.toStdString();
 }
 
 }  // namespace tavrin

@@ -19,7 +19,8 @@ struct BatchListDefaults {
 
 struct BatchList {
     std::vector<BatchElement> jobs;
-    int refused = 0;  ///< jobs beyond the limit
+    int refused = 0;       ///< jobs beyond the limit
+    int unclosedLine = 0;  ///< where the first job was opened that is never closed, and so no job
 };
 
 /// Reads the jobs of a batch list. It looks like XML and is read line by line, and each line stands alone: `<image>`
@@ -29,8 +30,5 @@ struct BatchList {
 /// @param limit most jobs that are taken
 BatchList parseBatchList(const std::string& text, const BatchListDefaults& defaults, int& nextNumber,
                          std::size_t limit, const MakeFolder& makeFolder);
-
-/// The text of a list file; "" when it cannot be read or is no UTF-8.
-std::string readBatchListText(const std::string& path);
 
 }  // namespace tavrin

@@ -129,9 +129,10 @@ class Stages {
         hand.result.inputs.push_back({file.facts, file.digest});
         if (file.picture.error.empty()) return;
         hand.result.badFile = path;
-        const bool settled = !file.missing && !file.digest.empty();
+        const bool settled = !file.missing && !file.changing;
         if (!settled) hand.result.status = JobResult::Status::gone;
-        hand.fail(fs::path(path).filename().string() + ": " + file.picture.error, settled);
+        // What may not be opened now may be later, with nothing in it changed: it has no digest.
+        hand.fail(fs::path(path).filename().string() + ": " + file.picture.error, settled && !file.digest.empty());
     }
 
     PictureMaker& maker_;

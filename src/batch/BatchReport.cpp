@@ -1,6 +1,7 @@
 #include "batch/BatchReport.h"
 
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <set>
 
@@ -12,6 +13,9 @@
 #include "core/AtomicFile.h"
 #include "core/FileIdentity.h"
 #include "core/NameText.h"
+#include "core/image/FileKind.h"
+
+namespace fs = std::filesystem;
 
 namespace tavrin {
 
@@ -167,6 +171,18 @@ std::string BatchReport::write(const std::string& path, const BatchCounts& count
     end["seconds"] = rounded(seconds);
     lines.push_back(lineOf({{"summary", end}}));
     return writeLines(path, lines);
+}
+
+std::string whyNoReport(const std::string& path, const std::string& outFolder) {
+    if (isPlainFile(path) && probeFile(path).kind != FileKind::unknown)
+        return path + " is a picture; no report is written over it.";
+    std::error_code ignored;
+    const fs::path folder = fs::absolute(path).lexically_normal().parent_path();
+    const bool isMadeByRun = !outFolder.empty() &&
+                             fs::absolute(outFolder).lexically_normal() == folder && !fs::exists(outFolder, ignored);
+    if (isMadeByRun) return "";
+    const AtomicFile trial(path);
+    return trial.error().empty() ? "" : "The report " + path + " cannot be written: " + trial.error() + ".";
 }
 
 MergedReport mergeReports(const std::vector<std::string>& paths, const std::string& out) {

@@ -33,6 +33,12 @@ class BatchReport {
     std::map<int, std::string> lines_;  ///< by the job's number; of several runs over a job the last counts
 };
 
+/// Whether a report can be written there, which is better known before hours of work than after them. It takes no
+/// picture's place.
+/// @param outFolder of the pictures, which the run makes if it is not there; "" where no run does
+/// @return "" or one plain line
+std::string whyNoReport(const std::string& path, const std::string& outFolder);
+
 struct MergedReport {
     BatchCounts counts;
     std::vector<std::string> failures;  ///< one plain line each

@@ -48,7 +48,9 @@ std::string BatchRun::check() const {
 
 /// Before anything is made, the folder for the pictures and its journal included.
 std::string BatchRun::checkOutputs() const {
-    if (std::string problem = whyNoReport(options_.report); !problem.empty()) return problem;
+    const bool reports = !options_.report.empty() && !options_.dryRun;
+    if (std::string problem = reports ? whyNoReport(options_.report, options_.sources.out) : ""; !problem.empty())
+        return problem;
     Journal past;
     if (options_.sources.style == kNumberFiles) past.open(options_.sources.out, Journal::Use::look);
     const GivenNames given = past.givenNames();
@@ -85,15 +87,29 @@ std::string BatchRun::run() {
         return "";
     }
     make(list.jobs);
+    countGonePictures(list.jobs);
     return finishReport();
 }
 
 std::string BatchRun::finishReport() {
     if (options_.report.empty()) return "";
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start_;
-    const std::string problem = report_.write(options_.report, counts_, taken.count());
-    if (!problem.empty()) observer_.note(problem);
-    return "";
+    return report_.write(options_.report, counts_, taken.count());
+}
+
+/// What was made and is not there any more was not made: somebody removed the folder, or it was another disk's.
+void BatchRun::countGonePictures(const std::vector<BatchJob>& jobs) {
+    std::error_code ignored;
+    for (const BatchJob& job : jobs) {
+        if (!made_.contains(job.number) || fs::exists(job.out, ignored)) continue;
+        JobResult result;
+        result.reason = "the picture was made and has been removed since";
+        result.job = job;
+        --counts_.done;
+        ++counts_.failed;
+        report_.add(result, options_.sources.out);
+        observer_.finished(result, counts_);
+    }
 }
 
 // A shard goes by the list alone, since it does not see what the others do at this moment.
@@ -130,9 +146,11 @@ void BatchRun::make(const std::vector<BatchJob>& jobs) {
     std::set<std::string> folders;
     for (const BatchJob& job : jobs)
         folders.insert(fs::path(job.out).parent_path().string());
+    if (!options_.report.empty()) folders.insert(fs::absolute(options_.report).parent_path().string());
     for (const std::string& folder : folders) {
         std::error_code ignored;
-        if (fs::is_directory(folder, ignored)) AtomicFile::removeAbandonedParts(folder);
+        if (!cleared_.insert(folder).second || !fs::is_directory(folder, ignored)) continue;
+        AtomicFile::removeAbandonedParts(folder);
     }
 
     std::size_t at = 0;
@@ -246,6 +264,7 @@ void BatchRun::end(JobResult result) {
     if (result.status == Status::done) {
         ++counts_.done;
         waitsForRoom_ = false;
+        if (!options_.watch) made_.insert(result.job.number);  // a hot folder's pictures may be taken away
     } else if (result.status == Status::skipped) {
         ++counts_.skipped;
     } else {

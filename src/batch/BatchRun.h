@@ -4,6 +4,7 @@
 #include <chrono>
 #include <functional>
 #include <mutex>
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -55,7 +56,8 @@ class BatchRun {
     /// @return "" or what is wrong with the files and folders that were named, as one plain line: some are not there,
     ///         or pictures would be written over what they are made from
     std::string check() const;
-    /// @return "" when the run began and ended; otherwise why it could not begin, as one plain line
+    /// @return "" when the run began and ended; otherwise why it could not begin, or why there is no report of it, as
+    ///         one plain line
     std::string run();
 
     const BatchCounts& counts() const { return counts_; }
@@ -66,8 +68,11 @@ class BatchRun {
     void tellPlan(std::vector<BatchJob> jobs);
     void make(const std::vector<BatchJob>& jobs);
     void watchFolders();
-    void waitForNews(FolderWatch& watch, std::chrono::steady_clock::duration pause);
+    void waitForNews(FolderWatch& watch, std::chrono::steady_clock::time_point until);
+    std::string missingPlace() const;
+    void tellWatchProblem(const std::string& problem);
     std::vector<std::string> watchedFolders() const;
+    std::vector<FileFacts> factsOfJob(const BatchJob& job);
     bool isHandled(const BatchJob& job);
     bool settleInWatch(const JobResult& result);
 
@@ -83,6 +88,7 @@ class BatchRun {
     void record(const JobResult& result);
     bool waitForRoom();
     std::string finishReport();
+    void countGonePictures(const std::vector<BatchJob>& jobs);
 
     const BatchOptions options_;
     PictureMaker& maker_;
@@ -97,6 +103,10 @@ class BatchRun {
     Arrivals arrivals_;
     /// Watch: jobs that need no more work as long as their files stay as they were.
     std::unordered_map<std::string, std::vector<FileFacts>> handled_;
+    std::set<std::string> unreadable_;        ///< files of which that was told
+    std::string watchProblem_;                ///< with the folders, as it was told last
+    std::set<std::string> cleared_;           ///< folders from which abandoned parts were removed
+    std::set<int> made_;                      ///< numbers of the jobs whose pictures this run made
     std::atomic<bool> outOfRoom_ = false;     ///< the run ends for that
     std::atomic<bool> waitsForRoom_ = false;  ///< it was told
 };

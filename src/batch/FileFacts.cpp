@@ -64,6 +64,7 @@ ReadFile readSettledFile(const std::string& path) {
     }
     file.picture = ReadPicture();
     file.digest.clear();
+    file.changing = !file.missing;
     file.picture.error = file.missing ? "the file is not there" : "it is still being written";
     return file;
 }

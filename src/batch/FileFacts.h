@@ -28,7 +28,8 @@ struct ReadFile {
     ReadPicture picture;
     FileFacts facts;
     std::string digest;
-    bool missing = false;  ///< there is no such file, or none any more
+    bool missing = false;   ///< there is no such file, or none any more
+    bool changing = false;  ///< it is being written
 };
 
 /// Reads a picture from a file that others may be writing, replacing or removing: what comes back belongs to one

@@ -12,6 +12,8 @@
 #include "batch/BatchList.h"
 #include "batch/BatchNames.h"
 #include "batch/FileFacts.h"
+#include "batch/FolderListing.h"
+#include "batch/ListText.h"
 #include "batch/NextFileInFolder.h"
 #include "core/NameText.h"
 
@@ -40,14 +42,16 @@ void sortByFixedRules(std::vector<std::string>& names) {
     std::transform(keyed.begin(), keyed.end(), names.begin(), [](auto& entry) { return std::move(entry.second); });
 }
 
-Entries entriesOf(const std::string& place, const std::vector<std::string>& extensions, const Accept& accept) {
+/// @param problem set when a folder cannot be read
+Entries entriesOf(const std::string& place, const std::vector<std::string>& extensions, const Accept& accept,
+                  std::string& problem) {
     std::error_code ignored;
     if (place.empty()) return {};
     if (!fs::is_directory(place, ignored)) {
         if (accept && !accept(place)) return {};
         return {{fs::path(place).filename().string(), place}};
     }
-    std::vector<std::string> names = namesInFolder(place, extensions);
+    std::vector<std::string> names = namesInFolder(place, extensions, &problem);
     sortByFixedRules(names);
     Entries entries;
     for (std::string& name : names) {
@@ -57,15 +61,15 @@ Entries entriesOf(const std::string& place, const std::vector<std::string>& exte
     return entries;
 }
 
-std::vector<std::string> foldersIn(const std::string& place) {
-    std::vector<std::string> names;
-    std::error_code failed, ignored;
-    for (fs::directory_iterator entry(place, failed), end; !failed && entry != end; entry.increment(failed)) {
-        const std::string name = entry->path().filename().string();
-        if (name[0] != '.' && entry->is_directory(ignored)) names.push_back(name);
-    }
-    sortByFixedRules(names);
-    return names;
+std::vector<std::string> foldersIn(const std::string& place, std::string& problem) {
+    FolderListing listing = listFolder(place);
+    if (problem.empty()) problem = std::move(listing.problem);
+    std::erase_if(listing.names, [&place](const std::string& name) {
+        std::error_code ignored;
+        return name[0] == '.' || !fs::is_directory(fs::path(place) / name, ignored);
+    });
+    sortByFixedRules(listing.names);
+    return std::move(listing.names);
 }
 
 /// One name from several, of which no two rows give the same: what parts them may stand in a name, so there it is
@@ -112,6 +116,7 @@ class Planner {
         } else {
             planCombinations();
         }
+        if (!list_.problem.empty()) list_.jobs.clear();
         for (std::size_t i = 0; i < list_.jobs.size(); ++i)
             list_.jobs[i].number = static_cast<int>(i) + 1;
         if (sources_.listFile.empty()) nameOutputs();
@@ -121,10 +126,11 @@ class Planner {
 
   private:
     void planCombinations() {
-        const Entries states = orOneEmpty(entriesOf(sources_.states, {"QLX"}, accept_), sources_.states);
-        const Entries backgrounds =
-            orOneEmpty(entriesOf(sources_.backgrounds, photoExtensions(), accept_), sources_.backgrounds);
-        const Entries foregrounds = entriesOf(sources_.foregrounds, photoExtensions(), accept_);
+        const Entries states =
+            orOneEmpty(entriesOf(sources_.states, {"QLX"}, accept_, list_.problem), sources_.states);
+        const Entries backgrounds = orOneEmpty(
+            entriesOf(sources_.backgrounds, photoExtensions(), accept_, list_.problem), sources_.backgrounds);
+        const Entries foregrounds = entriesOf(sources_.foregrounds, photoExtensions(), accept_, list_.problem);
         for (const Entry& state : states) {
             for (const Entry& background : backgrounds) {
                 for (const Entry& foreground : foregrounds)
@@ -134,16 +140,18 @@ class Planner {
     }
 
     void planSubfolders() {
-        const Entries states = orOneEmpty(entriesOf(sources_.states, {"QLX"}, accept_), sources_.states);
-        const Entries backgrounds = entriesOf(sources_.backgrounds, photoExtensions(), accept_);
+        const Entries states =
+            orOneEmpty(entriesOf(sources_.states, {"QLX"}, accept_, list_.problem), sources_.states);
+        const Entries backgrounds = entriesOf(sources_.backgrounds, photoExtensions(), accept_, list_.problem);
         for (const Entry& state : states) {
-            for (const std::string& folder : foldersIn(sources_.foregrounds)) {
+            for (const std::string& folder : foldersIn(sources_.foregrounds, list_.problem)) {
                 const auto match =
                     std::find_if(backgrounds.rbegin(), backgrounds.rend(), [&folder](const Entry& background) {
                         return background.name.substr(0, background.name.find('.')) == folder;
                     });
                 if (match == backgrounds.rend()) continue;
-                for (Entry& foreground : entriesOf(sources_.foregrounds + "/" + folder, photoExtensions(), accept_)) {
+                for (Entry& foreground :
+                     entriesOf(sources_.foregrounds + "/" + folder, photoExtensions(), accept_, list_.problem)) {
                     foreground.name = folder + "/" + foreground.name;
                     list_.jobs.push_back(jobOf(foreground, *match, state));
                 }
@@ -152,18 +160,21 @@ class Planner {
     }
 
     void planFromList() {
-        std::error_code failed;
-        if (!fs::is_regular_file(sources_.listFile, failed)) {
-            list_.problem = sources_.listFile + ": there is no such list.";
-            return;
-        }
+        const ListText file = readListText(sources_.listFile);
+        list_.problem = file.problem;
+        if (!file.problem.empty()) return;
         BatchListDefaults defaults;
         defaults.outputFolder = sources_.out;
         defaults.outputFileType = sources_.fileType;
         defaults.outputStyle = sources_.style;
         int number = 1;
-        const BatchList list = parseBatchList(readBatchListText(sources_.listFile), defaults, number, INT_MAX,
-                                              [](const std::string&) {});
+        const BatchList list = parseBatchList(file.text, defaults, number, INT_MAX, [](const std::string&) {});
+        if (list.unclosedLine > 0) {
+            list_.problem = sources_.listFile + ", line " + std::to_string(list.unclosedLine) +
+                            ": the job that begins here is never closed.";
+        } else if (list.jobs.empty()) {
+            list_.problem = sources_.listFile + " holds no job of a batch list.";
+        }
         for (const BatchElement& element : list.jobs)
             list_.jobs.push_back(listedJob(element));
     }

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QJsonArray>
@@ -203,6 +204,18 @@ bool Journal::owns(const std::string& out) {
     return owners_.contains(out);
 }
 
+/// A folder that was removed while the run goes on is made anew with the next picture, and its journal with it.
+void Journal::openFile() {
+    struct stat facts {};
+    if (file_ >= 0 && ::fstat(file_, &facts) == 0 && facts.st_nlink == 0) {
+        ::close(file_);
+        file_ = -1;
+        std::error_code ignored;
+        fs::create_directories(folder_, ignored);
+    }
+    if (file_ < 0) file_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+}
+
 std::string Journal::add(JobRecord record) {
     record.order = order_ + 1;
     record.time = now();
@@ -213,7 +226,7 @@ std::string Journal::add(JobRecord record) {
 }
 
 std::string Journal::append(const std::string& line, bool onDisk) {
-    if (file_ < 0) file_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+    openFile();
     // A line that a full disk cut short ends here, so that it spoils no other.
     if (file_ >= 0 && writeAll(file_, torn_ ? "\n" + line : line)) {
         torn_ = false;

@@ -72,6 +72,7 @@ class Journal {
     void tidy(const std::vector<std::string>& files);
     bool takeTurn(Use use);
     std::string append(const std::string& line, bool onDisk);
+    void openFile();
 
     Use use_ = Use::look;
     std::string folder_, path_;

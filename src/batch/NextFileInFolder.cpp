@@ -6,6 +6,7 @@
 
 #include <QCollator>
 
+#include "batch/FolderListing.h"
 #include "batch/HistoryFile.h"
 #include "core/Log.h"
 
@@ -39,15 +40,14 @@ const std::vector<std::string>& photoExtensions() {
 
 // Only names directly in the folder ever count, so a walk need not descend. Nobody asks whether an entry is a folder:
 // one that is called "x.jpg" is a candidate, and fails later like any other file that is no picture.
-std::vector<std::string> namesInFolder(const std::string& folder, const std::vector<std::string>& extensions) {
-    std::vector<std::string> names;
-    std::error_code failed;
-    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
-        std::string name = entry->path().filename().string();
-        if (std::find(extensions.begin(), extensions.end(), upperExtension(name)) != extensions.end())
-            names.push_back(std::move(name));
-    }
-    return names;
+std::vector<std::string> namesInFolder(const std::string& folder, const std::vector<std::string>& extensions,
+                                       std::string* problem) {
+    FolderListing listing = listFolder(folder);
+    if (problem && problem->empty()) *problem = std::move(listing.problem);
+    std::erase_if(listing.names, [&extensions](const std::string& name) {
+        return std::find(extensions.begin(), extensions.end(), upperExtension(name)) == extensions.end();
+    });
+    return std::move(listing.names);
 }
 
 // A comparison by the rules of a language is slow; one key a name makes the many comparisons of a sort cheap. The

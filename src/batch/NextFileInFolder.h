@@ -55,7 +55,9 @@ class NextFileInFolder {
 
 /// The names directly in a folder, folders among them, whose extension (without the dot, in capitals) is in the list;
 /// in the order that the platform gives.
-std::vector<std::string> namesInFolder(const std::string& folder, const std::vector<std::string>& extensions);
+/// @param problem when it is there and empty: set to why the folder could not be read to its end
+std::vector<std::string> namesInFolder(const std::string& folder, const std::vector<std::string>& extensions,
+                                       std::string* problem = nullptr);
 
 /// Extensions of what counts as a photo.
 const std::vector<std::string>& photoExtensions();

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "core/FileIdentity.h"
-#include "core/image/FileKind.h"
 #include "core/state/NamedFiles.h"
 
 namespace fs = std::filesystem;
@@ -74,11 +73,6 @@ std::string findOverwrittenInput(const JobSources& sources, const std::string& r
         if (const std::string* input = inputs.find(output.file)) return overwritesInput(output.path, *input) + ".";
     }
     return "";
-}
-
-std::string whyNoReport(const std::string& path) {
-    if (path.empty() || !isPlainFile(path) || probeFile(path).kind == FileKind::unknown) return "";
-    return path + " is a picture; no report is written over it.";
 }
 
 std::string whyOutside(const std::string& folder, const std::string& picture) {

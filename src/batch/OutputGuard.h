@@ -16,9 +16,6 @@ namespace tavrin {
 std::string findOverwrittenInput(const JobSources& sources, const std::string& report,
                                  const std::vector<BatchJob>& jobs, PictureMaker& maker);
 
-/// Why a report cannot go to this place, as one plain line: there is a picture. "" when it can.
-std::string whyNoReport(const std::string& path);
-
 /// Why a picture may not go to its place: a link would lead it out of the folder that was named for the pictures. A
 /// link that leads nowhere is replaced and leads nothing anywhere.
 /// @param folder of all pictures; a list may put single ones elsewhere

@@ -2,21 +2,26 @@
 
 #include <atomic>
 #include <cerrno>
-#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <random>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
+
+#include "core/Tenancy.h"
 
 namespace fs = std::filesystem;
 
 namespace tavrin {
 
 namespace {
+
+constexpr std::string_view kBegin = ".tavrin-", kEnd = ".part";
 
 // Unique among all machines that share the folder: in containers even the numbers of processes are alike.
 std::string hiddenName() {
@@ -25,9 +30,9 @@ std::string hiddenName() {
         return (static_cast<std::uint64_t>(device()) << 32) | device();
     }();
     static std::atomic<std::uint32_t> counter = 0;
-    char name[64];
-    std::snprintf(name, sizeof name, ".tavrin-%016llx-%u.part", static_cast<unsigned long long>(process), counter++);
-    return name;
+    char rest[48];
+    std::snprintf(rest, sizeof rest, "-%016llx-%u", static_cast<unsigned long long>(process), counter++);
+    return std::string(kBegin) + machineMark() + rest + std::string(kEnd);
 }
 
 // Where a link leads to; the path itself where it is none.
@@ -43,8 +48,13 @@ bool mayBeWritten(const std::string& path, const fs::file_status& status) {
     return (status.permissions() & kWrite) != fs::perms::none && ::access(path.c_str(), W_OK) == 0;
 }
 
-bool isHiddenName(const std::string& name) {
-    return name.starts_with(".tavrin-") && name.ends_with(".part");
+bool isHiddenName(std::string_view name) {
+    return name.starts_with(kBegin) && name.ends_with(kEnd) && name.size() >= kBegin.size() + kEnd.size();
+}
+
+std::string_view markOf(std::string_view name) {
+    name.remove_prefix(kBegin.size());
+    return name.substr(0, name.find('-'));
 }
 
 }  // namespace
@@ -75,17 +85,28 @@ std::string writeProblem(int code, const std::string& folder) {
 }
 
 void AtomicFile::removeAbandonedParts(const std::string& folder) {
-    constexpr auto kAge = std::chrono::minutes(5);
     // The folder's own clock, which may be that of another machine.
-    AtomicFile probe(folder + "/clock");
+    std::optional<fs::file_time_type> now;
+    const auto clock = [&folder, &now] {
+        if (now) return *now;
+        AtomicFile probe(folder + "/clock");
+        std::error_code failed;
+        const auto time = fs::last_write_time(probe.hidden_, failed);
+        now = failed ? fs::file_time_type::min() : time;
+        return *now;
+    };
+    std::vector<std::string> parts;
     std::error_code failed;
-    const auto now = fs::last_write_time(probe.hidden_, failed);
-    if (failed) return;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
-        std::error_code gone;
-        if (!isHiddenName(entry->path().filename().string())) continue;
-        const auto written = entry->last_write_time(gone);
-        if (!gone && now - written > kAge) fs::remove(entry->path(), gone);
+        if (isHiddenName(entry->path().filename().native())) parts.push_back(entry->path().filename());
+    }
+    for (const std::string& part : parts) {
+        const std::string path = folder + "/" + part;
+        removeIfAbandoned(path, markOf(part), [&] {
+            std::error_code gone;
+            const auto written = fs::last_write_time(path, gone);
+            return !gone && written + kPartAge < clock();
+        });
     }
 }
 
@@ -108,19 +129,37 @@ AtomicFile::AtomicFile(const std::string& target) {
         error_ = path.filename().string() + " is write-protected and stays as it is";
         return;
     }
-    hidden_ = (path.parent_path() / hiddenName()).string();
-    file_ = ::open(hidden_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (file_ < 0) {
+    if (!create(path.parent_path().string())) {
         fail(errno);
     } else if (fs::exists(status)) {
         ::fchmod(file_, static_cast<mode_t>(status.permissions() & fs::perms::all));
     }
 }
 
+// Another program that clears the folder may meet the new file before it is locked, and take it for abandoned.
+bool AtomicFile::create(const fs::path& folder) {
+    constexpr int kTries = 10;
+    const Interruption::Hold hold;
+    for (int i = 0; i < kTries; ++i) {
+        hidden_ = (folder / hiddenName()).string();
+        file_ = ::open(hidden_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (file_ < 0) return false;
+        if (takePossession(file_)) {
+            leftover_.emplace(hidden_);
+            return true;
+        }
+        close();
+        ::unlink(hidden_.c_str());
+    }
+    errno = EAGAIN;
+    return false;
+}
+
 AtomicFile::~AtomicFile() {
     const bool created = file_ >= 0;
-    close();
+    // First the name, then the lock: nobody else is to find it abandoned.
     if (created) ::unlink(hidden_.c_str());
+    close();
 }
 
 void AtomicFile::close() {
@@ -175,7 +214,9 @@ long long AtomicFile::size() {
 bool AtomicFile::commit() {
     if (!error_.empty()) return false;
     if (::fsync(file_) != 0) return fail(errno);
+    const Interruption::Hold hold;
     if (::rename(hidden_.c_str(), target_.c_str()) != 0) return fail(errno);
+    leftover_.reset();
     close();
     return true;
 }

@@ -1,7 +1,12 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
+#include <filesystem>
+#include <optional>
 #include <string>
+
+#include "core/Interruption.h"
 
 namespace tavrin {
 
@@ -14,8 +19,8 @@ std::string writeProblem(int code, const std::string& folder);
 
 /// A file that appears under its name only when it is complete. It is written under a hidden name of its own in the
 /// same folder, brought to the disk, and moved over the target by `commit`; without that the hidden file goes away
-/// with the object. Neither a full disk nor a kill leaves half a file under the name or harms the old one.
-/// Every operation after a failed one does nothing.
+/// with the object, or with the program when a signal ends it. Neither a full disk nor a kill leaves half a file
+/// under the name or harms the old one. Every operation after a failed one does nothing.
 class AtomicFile {
   public:
     /// Creates the hidden file beside `target` (beside the file it leads to, where it is a link). A target that is
@@ -38,15 +43,19 @@ class AtomicFile {
     /// What went wrong first, as one plain line; empty while all is well.
     const std::string& error() const { return error_; }
 
-    /// Removes hidden files that killed programs left in a folder: those that nobody has written to for minutes.
+    /// Removes hidden files that killed programs left in a folder. Those of this machine go at once; of those made on
+    /// another one, or before this one was started, nobody may hold the lock, and the age must have been reached.
     static void removeAbandonedParts(const std::string& folder);
+    static constexpr std::chrono::hours kPartAge{1};  ///< since the last byte
 
   private:
+    bool create(const std::filesystem::path& folder);
     bool fail(int code);
     void close();
 
     std::string target_, folder_, hidden_, error_;
     int file_ = -1;
+    std::optional<Leftover> leftover_;
 };
 
 }  // namespace tavrin

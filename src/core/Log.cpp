@@ -3,14 +3,16 @@
 #include <atomic>
 #include <cstdio>
 
+#include "core/Printable.h"
+
 namespace tavrin {
 
 namespace {
 std::atomic<bool> traceOn = false;
 
-// One call a line, so that lines of several threads do not mix.
+// One call a line, so that lines of several threads do not mix. Many hold names of files.
 void writeLine(const std::string& line) {
-    const std::string text = line + "\n";
+    const std::string text = printable(line) + "\n";
     std::fwrite(text.data(), 1, text.size(), stderr);
 }
 }  // namespace

@@ -4,7 +4,8 @@
 
 #include <QDir>
 #include <QStandardPaths>
-#include <QTemporaryDir>
+
+#include "core/PrivateFolder.h"
 
 #include "core/AtomicFile.h"
 
@@ -51,10 +52,12 @@ void Places::setPicturesFolder(const std::string& folder) {
 }
 
 bool Places::usePrivateTempFiles() {
-    auto folder = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/tavrin-XXXXXX");
-    if (!folder->isValid()) return false;
+    const std::string place = QDir::tempPath().toStdString();
+    PrivateFolder::removeAbandoned(place);
+    auto folder = std::make_unique<PrivateFolder>(place);
+    if (folder->path().empty()) return false;
     privateTempFiles_ = std::move(folder);
-    tempFiles_ = withSlash(privateTempFiles_->path().toStdString());
+    tempFiles_ = withSlash(privateTempFiles_->path());
     return true;
 }
 

@@ -3,9 +3,9 @@
 #include <memory>
 #include <string>
 
-class QTemporaryDir;
-
 namespace tavrin {
+
+class PrivateFolder;
 
 /// The folders that the program keeps its files in. Every folder ends with a slash. There is one for the whole
 /// process; programs and tests that want other folders set them before anything else starts.
@@ -39,7 +39,7 @@ class Places {
     void setPicturesFolder(const std::string& folder);
 
     /// Keeps temporary files in a new folder of this process, which goes away with it, so that a second program never
-    /// clears or reads those of the first.
+    /// clears or reads those of the first. Folders of programs that were killed on this machine are removed first.
     /// @return false when no such folder can be made; the shared one stays in use then
     bool usePrivateTempFiles();
 
@@ -49,7 +49,7 @@ class Places {
 
   private:
     std::string shared_, pictures_, tempFiles_;
-    std::unique_ptr<QTemporaryDir> privateTempFiles_;
+    std::unique_ptr<PrivateFolder> privateTempFiles_;
 };
 
 }  // namespace tavrin

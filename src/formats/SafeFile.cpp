@@ -139,6 +139,7 @@ bool SafeSave::begin(const std::string& path, Readers readers) {
     giveUp();
     problem_.clear();
     path_ = path;
+    hold_.emplace();
     if (path.empty()) return fail("A file to be saved needs a name.");
     return takeTurn() && openTemporary(readers) && setOldFileAside(readers);
 }
@@ -222,6 +223,7 @@ bool SafeSave::commit() {
     bringNamesToDisk(path_);
     removeFile(setAsideName(path_));
     turn_.reset();
+    hold_.reset();
     return true;
 }
 
@@ -233,6 +235,7 @@ void SafeSave::giveUp() {
         file_.reset();
     }
     turn_.reset();
+    hold_.reset();
 }
 
 namespace {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "core/Interruption.h"
 
 class QFile;
 class QLockFile;
@@ -40,6 +43,7 @@ class SafeSave {
     bool setOldFileAside(Readers readers);
 
     std::string path_, problem_;
+    std::optional<Interruption::Hold> hold_;  ///< a signal waits until the save has ended
     std::unique_ptr<QLockFile> turn_;
     std::unique_ptr<QFile> file_;
 };

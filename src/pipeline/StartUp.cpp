@@ -2,6 +2,7 @@
 
 #include <QLockFile>
 
+#include "core/Interruption.h"
 #include "core/Lines.h"
 #include "core/Log.h"
 #include "core/Places.h"
@@ -134,6 +135,7 @@ std::string startSystem(SystemInfo& info) {
 }
 
 void startCommandLine(SystemInfo& info) {
+    const Interruption::Hold hold;  // or the folder would be filled while it is removed
     Places& places = Places::current();
     if (safeFileExists(places.imageSizeFile())) {
         places.usePrivateTempFiles();

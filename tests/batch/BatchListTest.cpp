@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "batch/BatchList.h"
+#include "batch/ListText.h"
 #include "support/Files.h"
 #include "support/TestData.h"
 
@@ -82,10 +83,10 @@ TEST_F(BatchListTest, LinesOutsideJobsAndUnclosedJobsDoNotCount) {
 TEST_F(BatchListTest, TheTextIsUtf8OrNothing) {
     const test::TempFolder folder;
     test::writeFile(folder.file("a.xml"), "<foreground>/\xC3\xA4.jpg</foreground>");
-    EXPECT_EQ(readBatchListText(folder.file("a.xml")), "<foreground>/\xC3\xA4.jpg</foreground>");
+    EXPECT_EQ(readListText(folder.file("a.xml")).text, "<foreground>/\xC3\xA4.jpg</foreground>");
     test::writeFile(folder.file("b.xml"), "<image>\n\xE4\n</image>");
-    EXPECT_EQ(readBatchListText(folder.file("b.xml")), "");
-    EXPECT_EQ(readBatchListText(folder.file("missing.xml")), "");
+    EXPECT_EQ(readListText(folder.file("b.xml")).text, "");
+    EXPECT_EQ(readListText(folder.file("missing.xml")).text, "");
 }
 
 TEST_F(BatchListTest, ElementsAreEqualByWhatTheyReadAndWrite) {

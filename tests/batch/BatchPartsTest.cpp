@@ -1,10 +1,12 @@
 // What a batch run is made of: shards, the job list, the journal, arrivals, the folder watch.
 #include <atomic>
 #include <chrono>
+#include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
 #include <set>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
 
@@ -306,6 +308,23 @@ TEST(Arrivals, CompleteIsClosedOrAtRest) {
     EXPECT_FALSE(arrivals.isComplete(folder.file("none.jpg"), start));
 }
 
+TEST(Arrivals, WaitForNoFileThatALookHasMissed) {
+    test::TempFolder folder;
+    const std::string path = folder.file("a.jpg");
+    test::writeFile(path, "x");
+    Arrivals arrivals;
+    const auto start = std::chrono::steady_clock::now();
+    const auto limit = start + milliseconds(60000);
+    arrivals.beginLook();
+    EXPECT_FALSE(arrivals.isComplete(path, start));
+    EXPECT_LT(arrivals.nextMoment(limit), limit);
+    arrivals.beginLook();  // the file was renamed
+    EXPECT_EQ(arrivals.nextMoment(limit), limit);
+    arrivals.closed(path);  // news that came before the next look
+    arrivals.beginLook();
+    EXPECT_TRUE(arrivals.isComplete(path, start));
+}
+
 TEST(Arrivals, ABrokenFileGetsTimeAndAFreshStart) {
     test::TempFolder folder;
     const std::string path = folder.file("a.jpg");
@@ -386,13 +405,31 @@ TEST(AtomicFileParts, OfKilledProgramsGoAfterAWhile) {
     for (const char* name : {".tavrin-1-0.part", ".tavrin-2-0.part", ".other.part"})
         test::writeFile(folder.file(name), "x");
     for (const char* name : {".tavrin-1-0.part", ".other.part"})
-        fs::last_write_time(folder.file(name), fs::file_time_type::clock::now() - std::chrono::minutes(6));
+        fs::last_write_time(folder.file(name), fs::file_time_type::clock::now() - std::chrono::minutes(61));
     AtomicFile::removeAbandonedParts(folder.path().string());
     EXPECT_FALSE(fs::exists(folder.file(".tavrin-1-0.part")));
     EXPECT_TRUE(fs::exists(folder.file(".tavrin-2-0.part")));
     EXPECT_TRUE(fs::exists(folder.file(".other.part")));
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 2);
     AtomicFile::removeAbandonedParts(folder.file("none"));
+}
+
+// As a shared folder shows the part of another machine: its name has another mark, and a lock if locks get through.
+TEST(AtomicFileParts, OfAnotherMachineStayWhileTheyMayBeInUse) {
+    test::TempFolder folder;
+    const std::string part = folder.file(".tavrin-0123456789abcdef-fedcba9876543210-0.part");
+    const auto age = [&part](int hours) {
+        fs::last_write_time(part, fs::file_time_type::clock::now() - std::chrono::hours(hours));
+        AtomicFile::removeAbandonedParts(fs::path(part).parent_path().string());
+        return fs::exists(part);
+    };
+    test::writeFile(part, "x");
+    EXPECT_TRUE(age(0));
+    const int handle = ::open(part.c_str(), O_RDWR);
+    ASSERT_EQ(::flock(handle, LOCK_EX), 0);
+    EXPECT_TRUE(age(100));
+    ::close(handle);
+    EXPECT_FALSE(age(100));
 }
 
 }  // namespace

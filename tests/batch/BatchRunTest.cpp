@@ -351,5 +351,25 @@ TEST_F(BatchRunTest, AHotFolderTakesWhatArrivesOnceItIsComplete) {
     EXPECT_EQ(run().done, 0);
 }
 
+// Nobody sees a background arrive that only a state names.
+TEST_F(BatchRunTest, AWatchTellsOfABackgroundThatIsMissingAndTakesItWhenItComes) {
+    portrait("fg/a.png");
+    base_.pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file("late.png");
+    base_.iSelecteImageSize = 0;
+    ASSERT_EQ(saveImageStateToXML(base_, folder_.file("qlx/s.qlx")), "");
+    options_.sources.backgrounds = "";
+    options_.sources.states = folder_.file("qlx");
+    options_.watch = options_.pollOnly = true;
+    int looks = 0;
+    listener_.onIdle = [&](const BatchCounts& counts) {
+        if (++looks == 2) background("late.png");
+        stop_ = counts.done > 0 || looks > 10;
+    };
+    const BatchCounts counts = run();
+    EXPECT_EQ(counts.failed, 1);
+    EXPECT_EQ(counts.done, 1);
+    EXPECT_TRUE(reasonOf("fg/a.png").ends_with("the file is not there")) << reasonOf("fg/a.png");
+}
+
 }  // namespace
 }  // namespace tavrin

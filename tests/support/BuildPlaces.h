@@ -7,5 +7,7 @@ namespace tavrin::test {
 extern const char* const kSourceFolder;
 /// The `tavrin-cli` of the same build.
 extern const char* const kCliProgram;
+/// A library that makes folders fail while they are read; "" where there is none.
+extern const char* const kFailingFolder;
 
 }  // namespace tavrin::test

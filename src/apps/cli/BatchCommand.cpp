@@ -1,9 +1,7 @@
 #include "apps/cli/BatchCommand.h"
 
 #include <atomic>
-#include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <map>
 #include <memory>
 
@@ -11,8 +9,8 @@
 #include "apps/cli/Console.h"
 #include "apps/cli/PictureOptions.h"
 #include "batch/BatchNames.h"
-#include "batch/OutputGuard.h"
 #include "core/FileIdentity.h"
+#include "core/Interruption.h"
 #include "core/raster/PixelMemory.h"
 #include "pipeline/StartUp.h"
 
@@ -26,13 +24,6 @@ struct CommandOptions {
     std::string shard;
     bool json = false;
 };
-
-std::atomic<int> stopsAsked = 0;
-static_assert(std::atomic<int>::is_always_lock_free);
-
-void askToStop(int signal) {
-    if (stopsAsked.fetch_add(1) > 0) std::_Exit(128 + signal);
-}
 
 void withoutLastSlash(std::string& path) {
     while (path.size() > 1 && path.ends_with('/'))
@@ -85,23 +76,24 @@ int runBatch(CommandOptions options) {
     const BatchOptions& batch = options.batch;
     const bool json = options.json || (!batch.dryRun && !Console::isTerminal(stdout));
     BatchConsole console(json, batch.dryRun, batch.sources.out);
+    static std::atomic<bool> stopAsked = false;
     std::atomic<bool> told = false;
-    BatchRun run(batch, maker, console, [&] {
-        if (stopsAsked > 0 && !told.exchange(true)) console.stopping();
-        return stopsAsked > 0;
+    BatchRun run(batch, maker, console, [&told, &console] {
+        if (stopAsked && !told.exchange(true)) console.stopping();
+        return stopAsked.load();
     });
     if (const std::string problem = run.check(); !problem.empty()) {
         complain(problem);
         return kUsage;
     }
-    std::signal(SIGINT, askToStop);
-    std::signal(SIGTERM, askToStop);
-    if (const std::string problem = run.run(); !problem.empty()) {
+    Interruption::stopFirst([] { stopAsked = true; });
+    const std::string problem = run.run();
+    const BatchCounts& counts = run.counts();
+    if (problem.empty() || counts.jobs > 0) console.summarize(counts, batch.watch);
+    if (!problem.empty()) {
         complain(problem);
         return kFailed;
     }
-    const BatchCounts& counts = run.counts();
-    console.summarize(counts, batch.watch);
     const bool all = counts.failed == 0 && (batch.watch || batch.dryRun || counts.left() == 0);
     return all ? kDone : kFailed;
 }
@@ -171,7 +163,7 @@ std::string checkMerge(const std::string& out, const std::vector<std::string>& r
     for (const std::string& report : reports) {
         if (isSameFile(out, report)) return "--out " + out + " would be written over the report " + report + ".";
     }
-    return whyNoReport(out);
+    return whyNoReport(out, "");
 }
 
 int mergeCommand(const std::string& out, const std::vector<std::string>& reports) {

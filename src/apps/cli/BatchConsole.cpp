@@ -9,6 +9,7 @@
 #endif
 
 #include "apps/cli/Console.h"
+#include "apps/cli/Output.h"
 
 namespace fs = std::filesystem;
 
@@ -52,8 +53,8 @@ BatchConsole::~BatchConsole() {
 void BatchConsole::finished(const JobResult& result, const BatchCounts& counts) {
     clearBar();
     if (json_) {
-        std::printf("%s\n", describeResult(result, outFolder_).c_str());
-        std::fflush(stdout);
+        printJsonLine(describeResult(result, outFolder_));
+        flushOutput();
     } else if (dryRun_) {
         tellPlan(result);
     }
@@ -70,15 +71,12 @@ void BatchConsole::finished(const JobResult& result, const BatchCounts& counts) 
 void BatchConsole::tellPlan(const JobResult& result) {
     const BatchJob& job = result.job;
     const std::string out = relativeTo(outFolder_, job.out);
-    if (result.status != Status::planned) {
-        std::printf("%s  %s: %s\n", result.status == Status::failed ? "fails" : "skip ", out.c_str(),
-                    result.reason.c_str());
-        return;
-    }
+    if (result.status != Status::planned)
+        return printLine((result.status == Status::failed ? "fails  " : "skip   ") + out + ": " + result.reason);
     std::string line = "make   " + out + " from " + nameOf(job.foreground);
     if (!job.background.empty()) line += " over " + nameOf(job.background);
     if (!job.state.empty()) line += " with " + nameOf(job.state);
-    std::printf("%s\n", line.c_str());
+    printLine(line);
 }
 
 void BatchConsole::note(const std::string& line) {

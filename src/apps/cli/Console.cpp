@@ -10,10 +10,12 @@
 #include <unistd.h>
 #endif
 
+#include "core/Printable.h"
+
 namespace tavrin::cli {
 
 void complain(const std::string& line) {
-    std::fprintf(stderr, "tavrin-cli: %s\n", line.c_str());
+    std::fprintf(stderr, "tavrin-cli: %s\n", printable(line).c_str());
 }
 
 bool Console::isTerminal(std::FILE* stream) {

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 
 #include "apps/cli/Console.h"
+#include "apps/cli/Output.h"
 
 namespace tavrin::cli {
 
@@ -35,7 +36,7 @@ int printText() {
     return kDone;
 }
 
-int printJson() {
+int printAsJson() {
     QJsonArray groups;
     for (const PresetGroup& group : presetGroups()) {
         QJsonArray presets;
@@ -48,7 +49,7 @@ int printJson() {
                                   {"inPreview", group.inPreview},
                                   {"inShortPath", group.inShortPath}});
     }
-    std::fputs(QJsonDocument(groups).toJson(QJsonDocument::Indented).constData(), stdout);
+    printJson(QJsonDocument(groups), false);
     return kDone;
 }
 
@@ -93,7 +94,7 @@ void addEffectsCommand(CLI::App& app, int& result) {
     const auto json = std::make_shared<bool>(false);
     CLI::App* command = app.add_subcommand("effects", "List the effects that render has short options for");
     command->add_flag("--json", *json, "As JSON");
-    command->callback([json, &result] { result = *json ? printJson() : printText(); });
+    command->callback([json, &result] { result = *json ? printAsJson() : printText(); });
 }
 
 }  // namespace tavrin::cli

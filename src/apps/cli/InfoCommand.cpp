@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "apps/cli/Console.h"
+#include "core/Printable.h"
 #include "core/image/ImageReader.h"
 
 namespace tavrin::cli {
@@ -11,7 +12,7 @@ namespace tavrin::cli {
 namespace {
 
 void printLine(const char* name, const std::string& value) {
-    if (!value.empty()) std::printf("%-12s %s\n", name, value.c_str());
+    if (!value.empty()) std::printf("%-12s %s\n", name, printable(value).c_str());
 }
 
 std::string times(int width, int height) {

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "apps/cli/Console.h"
+#include "core/Printable.h"
 #include "core/state/SystemInfo.h"
 #include "pipeline/StartUp.h"
 
@@ -18,8 +19,8 @@ int printSizes() {
     for (const ImageSize& size : info->oImageSize) {
         char inches[40];
         std::snprintf(inches, sizeof inches, "%.6g x %.6g", size.dWidth.load(), size.dHeight.load());
-        std::printf("%-24s %-16s %5d  %s\n", size.sName.load().c_str(), inches, size.dotsPerInch.load(),
-                    size.sDefaultPrinterPage.load().c_str());
+        std::printf("%-24s %-16s %5d  %s\n", printable(size.sName.load()).c_str(), inches, size.dotsPerInch.load(),
+                    printable(size.sDefaultPrinterPage.load()).c_str());
     }
     return info->oImageSize.empty() ? kFailed : kDone;
 }
@@ -32,7 +33,8 @@ int printPages() {
         char inches[40];
         std::snprintf(inches, sizeof inches, "%.6g x %.6g", static_cast<double>(page.iPageWidth) / 100.0,
                       static_cast<double>(page.iPageHeight) / 100.0);
-        std::printf("%-32s %-16s %zu\n", page.sPageTitle.load().c_str(), inches, page.iPrinterPageImageCount());
+        std::printf("%-32s %-16s %zu\n", printable(page.sPageTitle.load()).c_str(), inches,
+                    page.iPrinterPageImageCount());
     }
     return info->oPrinterPages.empty() ? kFailed : kDone;
 }

@@ -1,16 +1,18 @@
 #include "apps/cli/RenderCommand.h"
 
 #include <chrono>
-#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <set>
 
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include "apps/cli/Console.h"
+#include "apps/cli/Output.h"
 #include "apps/cli/PictureOptions.h"
+#include "core/AtomicFile.h"
 #include "core/FileIdentity.h"
 #include "core/NameText.h"
 #include "core/Places.h"
@@ -128,6 +130,16 @@ bool hasSources(const SystemInfo& info) {
     return !info.pForegroundBitmapInfo->orgImage.isNull() && !info.pBackgroundBitmapInfo->orgImage.isNull();
 }
 
+/// What renders left that were killed while they wrote beside these files.
+void removeAbandonedParts(const std::set<std::string>& targets) {
+    std::set<std::string> folders;
+    for (const std::string& target : targets) {
+        if (!target.empty()) folders.insert(fs::absolute(target).parent_path().string());
+    }
+    for (const std::string& folder : folders)
+        AtomicFile::removeAbandonedParts(folder);
+}
+
 int render(const RenderOptions& options) {
     const auto start = std::chrono::steady_clock::now();
     const auto info = std::make_unique<SystemInfo>();
@@ -142,6 +154,7 @@ int render(const RenderOptions& options) {
         complain(refusal.line);
         return refusal.code;
     }
+    removeAbandonedParts({options.out, options.alpha});
     compute(*info, options);
     if (!hasSources(*info)) return kFailed;
 
@@ -159,8 +172,7 @@ int render(const RenderOptions& options) {
     }
     if (options.json) {
         const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-        const QByteArray text = QJsonDocument(describe(*info, options, taken.count())).toJson(QJsonDocument::Compact);
-        std::printf("%s\n", text.constData());
+        printJson(QJsonDocument(describe(*info, options, taken.count())), true);
     }
     return console.hadAlert() ? kFailed : kDone;  // the picture is saved, but something in it is missing
 }

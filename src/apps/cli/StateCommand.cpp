@@ -1,7 +1,6 @@
 #include "apps/cli/StateCommand.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 
 #include <QJsonDocument>
@@ -9,6 +8,7 @@
 
 #include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
+#include "apps/cli/Output.h"
 #include "core/NameText.h"
 #include "core/state/NamedFiles.h"
 #include "core/state/SettingNames.h"
@@ -34,11 +34,11 @@ std::unique_ptr<SystemInfo> loadState(const std::string& path) {
     return nullptr;
 }
 
-void printJson(const Fields& fields) {
+void printFields(const Fields& fields) {
     QJsonObject object;
     for (const auto& [name, value] : fields)
         object.insert(QString::fromStdString(name), textOfName(value));
-    std::fputs(QJsonDocument(object).toJson(QJsonDocument::Indented).constData(), stdout);
+    printJson(QJsonDocument(object), false);
 }
 
 int show(const std::string& path, bool json) {
@@ -46,11 +46,11 @@ int show(const std::string& path, bool json) {
     if (!info) return kFailed;
     const Fields fields = listFields(*info);
     if (json) {
-        printJson(fields);
+        printFields(fields);
         return kDone;
     }
     for (const auto& [name, value] : fields)
-        std::printf("%s=%s\n", name.c_str(), value.c_str());
+        printLine(name + "=" + value);
     return kDone;
 }
 
@@ -64,7 +64,7 @@ int diff(const std::string& one, const std::string& two) {
     if (!first || !second) return kFailed;
     const Fields a = listFields(*first), b = listFields(*second);
     const auto print = [](const std::string& name, const std::string& left, const std::string& right) {
-        std::printf("%s: %s -> %s\n", name.c_str(), left.c_str(), right.c_str());
+        printLine(name + ": " + left + " -> " + right);
     };
     for (const auto& [name, value] : a) {
         const std::string* other = find(b, name);

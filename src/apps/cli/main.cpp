@@ -1,5 +1,7 @@
 #include <clocale>
+#include <cstdio>
 #include <memory>
+#include <sstream>
 
 #include <QFont>
 #include <QGuiApplication>
@@ -9,9 +11,12 @@
 #include "apps/cli/EffectOptions.h"
 #include "apps/cli/InfoCommand.h"
 #include "apps/cli/ListCommands.h"
+#include "apps/cli/Output.h"
 #include "apps/cli/RenderCommand.h"
 #include "apps/cli/StateCommand.h"
+#include "core/Interruption.h"
 #include "core/Log.h"
+#include "core/Printable.h"
 
 namespace {
 
@@ -38,10 +43,23 @@ std::unique_ptr<QCoreApplication> startLibraries(bool withFonts) {
     return withPlainNumbers(std::move(application));
 }
 
+/// Help that was asked for, or what is wrong with the call, which may be quoted in it.
+int explain(const CLI::App& app, const CLI::ParseError& error) {
+    std::ostringstream help, problem;
+    const bool asked = app.exit(error, help, problem) == 0;
+    std::fputs(help.str().c_str(), stdout);
+    std::istringstream lines(problem.str());
+    for (std::string line; std::getline(lines, line);)
+        std::fprintf(stderr, "%s\n", tavrin::printable(line).c_str());
+    return asked ? tavrin::cli::kDone : tavrin::cli::kUsage;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     using namespace tavrin;
+    cli::keepStandardStreams();
+    Interruption::watch();
     QCoreApplication::setApplicationName("tavrin-cli");
     QCoreApplication::setApplicationVersion(TAVRIN_VERSION);
 
@@ -67,7 +85,7 @@ int main(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? cli::kDone : cli::kUsage;
+        result = explain(app, error);
     }
-    return result;
+    return cli::flushOutput() || result != cli::kDone ? result : cli::kFailed;
 }
