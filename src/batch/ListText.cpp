@@ -1,5 +1,8 @@
 #include "batch/ListText.h"
 
+#include <algorithm>
+#include <cstddef>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QStringDecoder>
@@ -28,10 +31,27 @@ QByteArray readBytes(const std::string& path, std::string& problem) {
     return bytes;
 }
 
-/// The line of the first character that was put in the place of broken bytes.
-qsizetype brokenLine(const QString& text) {
-    const qsizetype at = text.indexOf(QChar::ReplacementCharacter);
-    return QStringView(text).left(at < 0 ? text.size() : at).count(u'\n') + 1;
+/// Bytes of which every character is made up.
+qsizetype unitOf(QStringConverter::Encoding encoding) {
+    switch (encoding) {
+        case QStringConverter::Utf16:
+        case QStringConverter::Utf16LE:
+        case QStringConverter::Utf16BE:
+            return 2;
+        case QStringConverter::Utf32:
+        case QStringConverter::Utf32LE:
+        case QStringConverter::Utf32BE:
+            return 4;
+        default:
+            return 1;
+    }
+}
+
+/// The line of the first character that is none, or was put in the place of broken bytes; else the last line.
+std::ptrdiff_t brokenLine(const QString& text) {
+    const auto isBroken = [](QChar c) { return c.isNull() || c == QChar::ReplacementCharacter; };
+    const auto at = std::find_if(text.begin(), text.end(), isBroken);
+    return std::count(text.begin(), at, QChar(u'\n')) + 1;
 }
 
 }  // namespace
@@ -44,8 +64,8 @@ ListText readListText(const std::string& path) {
     QStringDecoder decoder(encoding, QStringDecoder::Flag::Stateless);
     QString text = decoder(bytes);
     if (!text.contains(u'\n')) text.replace(u'\r', u'\n');
-    if (decoder.hasError() || text.contains(QChar(u'\0'))) {
-        if (!decoder.hasError()) text.replace(QChar(u'\0'), QChar::ReplacementCharacter);
+    const bool cut = bytes.size() % unitOf(encoding) != 0;
+    if (decoder.hasError() || cut || text.contains(QChar(u'\0'))) {
         list.problem = path + ", line " + std::to_string(brokenLine(text)) + ": this is no text in " +
                        QStringConverter::nameForEncoding(encoding) + ".";
         return list;

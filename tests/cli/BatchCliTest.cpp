@@ -155,7 +155,7 @@ TEST_F(BatchCliTest, ASignalStopsItCleanlyAndTwoAtOnce) {
     const auto made = linesOf(once.out).size();
     EXPECT_LT(made, 63);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder_.file("out")), fs::directory_iterator()), made + 1);
-    EXPECT_GT(signalled({SIGINT, SIGTERM}).code, 128);
+    EXPECT_EQ(signalled({SIGINT, SIGTERM}).code, -2);  // of the signal itself, as a shell in a loop expects
     EXPECT_EQ(test::runCli(batch()).code, 0);
 }
 

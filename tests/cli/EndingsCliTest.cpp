@@ -43,7 +43,7 @@ class EndingsCliTest : public testing::Test {
                more;
     }
     std::vector<std::string> parts() const { return test::partsIn(folder_.file("out")); }
-    std::vector<std::string> temporary() const { return test::namesLike(folder_.file("tmp"), ""); }
+    std::vector<std::string> temporary() const { return test::namesLike(folder_.file("tmp"), "tavrin-"); }
     bool waitForPart() const {
         return test::waitUntil([this] { return !parts().empty(); });
     }
@@ -92,8 +92,11 @@ TEST_F(EndingsCliTest, ABatchFinishesWhatItHasInHandAndTheSecondSignalEndsIt) {
 
 TEST_F(EndingsCliTest, AClosedPipeIsToldAndEndsNothing) {
     QProcess process;
+    process.setChildProcessModifier([] {
+        int ends[2];
+        if (::pipe(ends) != 0 || ::close(ends[0]) != 0 || ::dup2(ends[1], STDOUT_FILENO) < 0) ::_exit(99);
+    });
     start(process, batch());
-    process.closeReadChannel(QProcess::StandardOutput);
     const auto outcome = test::outcomeOf(process);
     EXPECT_EQ(outcome.code, 1);
     EXPECT_EQ(outcome.err.count("The standard output could not be written: Broken pipe."), 1)
