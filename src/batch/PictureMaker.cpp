@@ -6,6 +6,7 @@
 
 #include "core/RandomSource.h"
 #include "core/state/SettingNames.h"
+#include "core/text/TextLayers.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
@@ -115,7 +116,8 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     MadePicture made;
     Alerts alerts;
     const auto info = prepare(job, made.problem);
-    if (!info) return made;
+    if (info) made.problem = textProblem(*info);
+    if (!made.problem.empty()) return made;
     info->pInterface = &alerts;
     info->readSource = [&](const std::string& path) {
         return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;
