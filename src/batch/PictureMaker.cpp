@@ -116,8 +116,12 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     MadePicture made;
     Alerts alerts;
     const auto info = prepare(job, made.problem);
-    if (info) made.problem = textProblem(*info);
-    if (!made.problem.empty()) return made;
+    if (!info) return made;
+    made.problem = textProblem(*info);
+    if (!made.problem.empty()) {
+        made.lasting = false;  // the machine's
+        return made;
+    }
     info->pInterface = &alerts;
     info->readSource = [&](const std::string& path) {
         return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;

@@ -16,24 +16,28 @@ namespace {
 class NoFontsTest : public testing::Test {
   protected:
     NoFontsTest() {
-        test::writeFile(folder_.file("fonts.conf"), "<fontconfig><cachedir>" + folder_.file("cache") +
-                                                        "</cachedir></fontconfig>");
+        test::writeFile(folder_.file("fonts.conf"),
+                        "<fontconfig><cachedir>" + folder_.file("cache") + "</cachedir></fontconfig>");
         qputenv("FONTCONFIG_FILE", file("fonts.conf").toLocal8Bit());
         std::filesystem::create_directory(folder_.file("in"));
         test::savePng(test::discOnScreen(60, 36), folder_.file("in/anna.png"));
         test::savePng(test::noisePicture(60, 36, 4), folder_.file("sea.png"));
     }
-    ~NoFontsTest() override { qputenv("FONTCONFIG_FILE", before_); }
+    ~NoFontsTest() override { showFonts(); }
+
+    void showFonts() const { before_.isNull() ? qunsetenv("FONTCONFIG_FILE") : qputenv("FONTCONFIG_FILE", before_); }
 
     QString file(const char* name) const { return QString::fromStdString(folder_.file(name)); }
     test::CliOutcome render(const QStringList& more) const {
-        return test::runCli(QStringList{"render", "--foreground", file("in/anna.png"), "--background", file("sea.png"),
-                                        "--out", file("out.png"), "--inches", "5x3", "--dpi", "12"} +
+        return test::runCli(QStringList{"render", "--foreground", file("in/anna.png"), "--background",
+                                        file("sea.png"), "--out", file("out.png"), "--inches", "5x3", "--dpi", "12"} +
                             more);
     }
 
-    static constexpr const char* kLine = "The text cannot be drawn (no font was found; install one, on Debian for "
-                                         "example the package fonts-liberation)";
+    static constexpr const char* kLine =
+        "The text cannot be drawn (no font was found; install one, on Debian for "
+        "example the package fonts-liberation)";
+    const bool fontsHere_ = whyNoFonts().empty();  // asked before they are hidden
     const QByteArray before_ = qgetenv("FONTCONFIG_FILE");
     test::TempFolder folder_;
 };
@@ -54,10 +58,9 @@ TEST_F(NoFontsTest, RenderSaysWhatIsMissingAndWritesNothing) {
 
 TEST_F(NoFontsTest, PicturesWithoutTextNeedNone) {
     const QString logo = file("sea.png");
-    for (const QStringList& more :
-         {QStringList{}, QStringList{"--set", "text0.sText=<<filenumber>>"},
-          QStringList{"--set", "text0.isImage=1", "--set", "text0.sText=" + logo, "--set",
-                      "text0.imageSizeWidth=20", "--set", "text0.imageSizeHeight=12"}}) {
+    for (const QStringList& more : {QStringList{}, QStringList{"--set", "text0.sText=<<filenumber>>"},
+                                    QStringList{"--set", "text0.isImage=1", "--set", "text0.sText=" + logo, "--set",
+                                                "text0.imageSizeWidth=20", "--set", "text0.imageSizeHeight=12"}}) {
         const test::CliOutcome outcome = render(more);
         EXPECT_EQ(outcome.code, 0);
         EXPECT_EQ(outcome.err, "");
@@ -66,26 +69,30 @@ TEST_F(NoFontsTest, PicturesWithoutTextNeedNone) {
 }
 
 TEST_F(NoFontsTest, AJobWithTextFailsAndIsMadeWhenThereAreFonts) {
-    TAVRIN_NEED_FONTS();
-    const QStringList batch = {"batch", "--foregrounds", file("in"), "--backgrounds", file("sea.png"), "--out",
-                               file("out"), "--inches", "5x3", "--dpi", "12", "--title", "Anna"};
+    if (!fontsHere_) GTEST_SKIP() << "no fonts here";
+    const QStringList batch = {"batch", "--foregrounds", file("in"), "--backgrounds", file("sea.png"),
+                               "--out", file("out"),     "--inches", "5x3",           "--dpi",
+                               "12",    "--title",       "Anna"};
     const test::CliOutcome outcome = test::runCli(batch);
     EXPECT_EQ(outcome.code, 1);
     EXPECT_TRUE(outcome.err.contains(QString("annasea.jpg: ") + kLine)) << outcome.err.toStdString();
     EXPECT_TRUE(outcome.out.contains("\"failed\"")) << outcome.out.toStdString();
     EXPECT_TRUE(QImage(file("out/annasea.jpg")).isNull());
 
-    qputenv("FONTCONFIG_FILE", before_);
-    EXPECT_EQ(test::runCli(batch).code, 0);
+    showFonts();
+    const test::CliOutcome again = test::runCli(batch);
+    EXPECT_EQ(again.code, 0) << again.err.toStdString();
     EXPECT_FALSE(QImage(file("out/annasea.jpg")).isNull());
 }
 
-// The window shows such a message in a box.
+// The window shows such messages in a box.
 class MessageCatcher : public Interface {
   public:
     void showAlert(const std::string& message, const std::string& reason) override {
-        std::fprintf(stderr, "[%s: %s]", message.c_str(), reason.c_str());
+        ++count;
+        std::fprintf(stderr, "%s: %s\n", message.c_str(), reason.c_str());
     }
+    int count = 0;
 };
 
 // Draws in a process that begins here and finds no font, or was started without them.
@@ -97,13 +104,13 @@ void drawAndEnd(bool withApplication) {
     page.add("H");
     page.info->oFontLabelObject[0].sText = "H";
     const bool untouched = page.draw().isNull() && page.draw(0).isNull();
-    std::_Exit(untouched ? 0 : 1);
+    std::_Exit(untouched && window.count == 1 ? 0 : 1);
 }
 
 TEST_F(NoFontsTest, DrawingTextShowsOneMessage) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
-    EXPECT_EXIT(drawAndEnd(true), testing::ExitedWithCode(0), "^\\[The text cannot be drawn: no font was found[^\n]*\\]$");
-    EXPECT_EXIT(drawAndEnd(false), testing::ExitedWithCode(0), "^\\[The text cannot be drawn: [^\n]*without fonts\\]$");
+    EXPECT_EXIT(drawAndEnd(true), testing::ExitedWithCode(0), "The text cannot be drawn: no font was found");
+    EXPECT_EXIT(drawAndEnd(false), testing::ExitedWithCode(0), "The text cannot be drawn: .*without fonts");
 }
 
 }  // namespace

@@ -34,7 +34,8 @@ TEST_F(TextItemsTest, TheBoxStandsAtItsPlaceAtBothResolutions) {
     EXPECT_EQ(page_.draw(), first.translated(50, -325));
 }
 
-// What is drawn begins and ends at whole pixels, so that two lengths differ by up to one, and by two at twice the size.
+// What is drawn begins and ends at whole pixels, so that two lengths differ by up to one, and by two at twice the
+// size.
 TEST_F(TextItemsTest, ItemsGrowFromTheLowerLeftCornerOfTheirBox) {
     FontObject& item = page_.add("HH", 60);
     const QRect first = page_.draw();
@@ -92,10 +93,11 @@ TEST_F(TextItemsTest, OutlinesAreCentredAndAsWideAsTheySay) {
     FontObject& item = page_.add("H", 288);  // 400 pixels
     item.dFontFillGreen = item.dFontFillBlue = 0.0;
     item.dFontOutlineBlue = 1.0;
+    item.isBold = true;  // so that there is something left inside its strokes
     item.rectSizeHeight = 400.0;
     item.yPos = 0.2;
     const QRect fill = page_.draw();
-    const QPoint inside(fill.left() + 20, fill.center().y() - 60);
+    const QPoint inside(fill.left() + 30, fill.center().y() - 60);
     EXPECT_EQ(page_.color(1, inside.x(), inside.y()), QColor(255, 0, 0));
 
     item.iFontOutlineThickness = -3;
