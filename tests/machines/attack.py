@@ -6,6 +6,7 @@ folder, a home and a random generator of its own: one that found a fault is prin
 Ends with 1 when anything was found. Real pictures are damaged too when TAVRIN_TEST_DATA names a folder of them.
 """
 import argparse
+import collections
 import os
 import random
 import shutil
@@ -20,6 +21,10 @@ from attacks import FAMILIES
 from attacks.bench import Case
 from attacks.materials import Bench
 from support import has_own_mount_space
+
+
+# Cases of one kind whose faults are told in full.
+MOST_TOLD = 3
 
 
 class Tally:
@@ -44,6 +49,7 @@ class Attack:
         self.options, self.work = options, work
         self.bench = Bench(os.path.abspath(options.cli), options.seed, work)
         self.tallies = {family: Tally() for family in FAMILIES if options.only in (None, family)}
+        self.told = collections.Counter()
         self.guard = threading.Lock()
         self.begin = time.monotonic()
 
@@ -99,8 +105,10 @@ class Attack:
         if not case.faults:
             return
         print(f"{case.family} {case.number}: {case.kind}")
-        for fault in case.faults:
-            print(f"    {fault}")
+        # One fault shows in many cases; the first few tell what it is.
+        self.told[case.attack] += 1
+        for fault in case.faults if self.told[case.attack] <= MOST_TOLD else ():
+            print(f"    {fault[:400]}")
         kept = f", kept in {case.folder}" if self.options.keep else ""
         print(f"    again: --seed {self.options.seed} --only {case.family} --case {case.number}{kept}", flush=True)
 

@@ -5,7 +5,7 @@ import random
 import signal
 import stat
 import subprocess
-import tempfile
+import threading
 import time
 from pathlib import Path
 
@@ -52,10 +52,14 @@ def describe(path):
 class Start:
     """One start of tavrin-cli and, after `wait`, its end."""
 
-    def __init__(self, process, streams):
-        self.process, self.streams = process, streams
+    def __init__(self, process):
+        self.process = process
         self.code, self.out, self.err = None, b"", b""
         self.processor = self.memory = 0
+        # Not into files: a limit for these would cut short what is said about it.
+        self.readers = [threading.Thread(target=self.read, args=(name,), daemon=True) for name in ("stdout", "stderr")]
+        for reader in self.readers:
+            reader.start()
 
     def wait(self, seconds):
         """False when it still runs after so many seconds."""
@@ -66,19 +70,17 @@ class Start:
                 self.process.returncode = self.code = os.waitstatus_to_exitcode(status)
                 self.processor = usage.ru_utime + usage.ru_stime
                 self.memory = usage.ru_maxrss // 1024
-                self.out, self.err = (self.read(stream) for stream in self.streams)
+                for reader in self.readers:
+                    reader.join()
             else:
                 time.sleep(0.004)
         return self.code is not None
 
-    @staticmethod
-    def read(stream):
-        if stream is None:
-            return b""
-        stream.seek(0)
-        content = stream.read()
-        stream.close()
-        return content
+    def read(self, name):
+        stream = getattr(self.process, name)
+        if stream is not None:
+            with stream:
+                setattr(self, name.replace("std", ""), stream.read())
 
     def send(self, number):
         if self.code is None:
@@ -101,7 +103,7 @@ class Case:
         self.faults, self.starts, self.running = [], [], []
         self.before = None
         self.may_appear = {b"out"}
-        self.skipped, self.killed = "", False
+        self.attack, self.skipped, self.killed = f"{family} {kind}", "", False
         for place in (self.inputs, self.out, self.temp):
             place.mkdir(parents=True)
 
@@ -128,11 +130,11 @@ class Case:
             # Half a kilobyte each. Ignored, the signal becomes an error, as on a full disk.
             limits += f"trap '' XFSZ; ulimit -f {file_limit}; "
         own = {"user": user, "group": user, "extra_groups": []} if user else {}
-        streams = [tempfile.TemporaryFile() if stdout is None else None, tempfile.TemporaryFile()]
         process = subprocess.Popen(["sh", "-c", limits + 'exec "$@"', "sh", self.bench.cli, *arguments],
-                                   stdin=subprocess.DEVNULL, stdout=streams[0] or stdout, stderr=streams[1],
+                                   stdin=subprocess.DEVNULL, stdout=subprocess.PIPE if stdout is None else stdout,
+                                   stderr=subprocess.PIPE,
                                    env=self.environment(shared_home, user), cwd=cwd or self.folder, **own)
-        start = Start(process, streams)
+        start = Start(process)
         self.starts.append(start)
         self.running.append(start)
         return start

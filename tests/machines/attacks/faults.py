@@ -297,10 +297,12 @@ def idle_watch(case):
     folder = case.inputs / "portraits"
     folder.mkdir()
     watch = case.start(*case.batch("--watch"))
-    watch.wait(1.0)
+    while not (case.out / ".tavrin-batch").exists() and not watch.wait(0.1):
+        pass
     with open(folder / "growing.png", "wb") as file:
-        for _ in range(5):
-            file.write(case.bench.portraits[0][:200])
+        # For longer than the watch lets pass between two looks of its own.
+        for _ in range(15):
+            file.write(case.bench.portraits[0][:20])
             file.flush()
             watch.wait(0.2)
         if case.rng.random() < 0.5:
