@@ -103,6 +103,7 @@ class Case:
         self.faults, self.starts, self.running = [], [], []
         self.before = None
         self.may_appear = {b"out"}
+        self.user = None
         self.attack, self.skipped, self.killed = f"{family} {kind}", "", False
         for place in (self.inputs, self.out, self.temp):
             place.mkdir(parents=True)
@@ -122,28 +123,41 @@ class Case:
         """From now on everything outside `out` has to stay as it is."""
         self.before = tree(self.folder)
 
-    def start(self, *arguments, stdout=None, file_limit=None, user=None, shared_home=True, cwd=None):
+    def becomes_somebody(self):
+        """The super-user is stopped by no permission: from here on the program runs as somebody else."""
+        if os.geteuid() != 0:
+            return True
+        if self.bench.nobody is None:
+            self.skipped = "nobody else can run the program"
+            return False
+        self.user = self.bench.nobody
+        for place in (self.folder, self.inputs, self.out, self.temp):
+            os.chown(place, self.user, self.user)
+        return True
+
+    def start(self, *arguments, stdout=None, file_limit=None, shared_home=True):
         if self.before is None:
             self.freeze()
         limits = f"ulimit -c 0; ulimit -v {MOST_ADDRESSES}; "
         if file_limit is not None:
             # Half a kilobyte each. Ignored, the signal becomes an error, as on a full disk.
             limits += f"trap '' XFSZ; ulimit -f {file_limit}; "
-        own = {"user": user, "group": user, "extra_groups": []} if user else {}
+        own = {"user": self.user, "group": self.user, "extra_groups": []} if self.user else {}
         process = subprocess.Popen(["sh", "-c", limits + 'exec "$@"', "sh", self.bench.cli, *arguments],
                                    stdin=subprocess.DEVNULL, stdout=subprocess.PIPE if stdout is None else stdout,
                                    stderr=subprocess.PIPE,
-                                   env=self.environment(shared_home, user), cwd=cwd or self.folder, **own)
+                                   env=self.environment(shared_home), cwd=self.folder, **own)
         start = Start(process)
         self.starts.append(start)
         self.running.append(start)
         return start
 
-    def environment(self, shared_home=True, user=None):
+    def environment(self, shared_home):
         home = self.bench.home if shared_home else self.folder / "home"
+        runtime = "runtime-other" if self.user else "runtime"
         return {"PATH": os.environ.get("PATH", ""), "LANG": "C.UTF-8", "HOME": str(home), "TMPDIR": str(self.temp),
                 "XDG_DATA_HOME": str(home / "data"), "XDG_CONFIG_HOME": str(home / "config"),
-                "XDG_CACHE_HOME": str(self.bench.home / "cache"), "XDG_RUNTIME_DIR": str(self.bench.home / ("runtime" if not user else "runtime-other"))}
+                "XDG_CACHE_HOME": str(self.bench.home / "cache"), "XDG_RUNTIME_DIR": str(self.bench.home / runtime)}
 
     def end(self, start, crash_only=False, seconds=None):
         """Waits for the end and looks at what holds for every end."""
@@ -160,7 +174,7 @@ class Case:
         self.want(start.processor <= MOST_PROCESSOR, f"it took {start.processor:.1f} s of processor time")
         self.want(start.memory <= MOST_MEMORY, f"it took {start.memory} MB")
         if not lasting and start.code in (1, 2):
-            self.want(start.err.strip(), f"it ended with {start.code} and says nothing")
+            self.want((start.err + start.out).strip(), f"it ended with {start.code} and says nothing")
         # What is printed for programs may hold the sign 127, which JSON does not escape.
         for name, stream, more in (("output", start.out, b""), ("error stream", start.err, b"\x7f")):
             raw = sorted({byte for byte in stream if (byte < 32 and byte != 10) or byte in more})

@@ -22,7 +22,8 @@ def png(colour=(200, 40, 90), extra=b""):
 
 
 def png_with_text():
-    return png(extra=png_chunk(b"tEXt", b"Comment\0a portrait") + png_chunk(b"pHYs", struct.pack(">IIB", 3937, 3937, 1)) +
+    dots = struct.pack(">IIB", 3937, 3937, 1)
+    return png(extra=png_chunk(b"tEXt", b"Comment\0a portrait") + png_chunk(b"pHYs", dots) +
                png_chunk(b"eXIf", exif(orientation=6)))
 
 
@@ -61,7 +62,7 @@ def psd():
 def gif():
     """Two colours, and codes that are never combined: a clear code comes before the table grows."""
     bits = []
-    pixels = [1 if row[i:i + 3] != bytes(GREEN) else 0 for row in rows_of((200, 40, 90)) for i in range(0, len(row), 3)]
+    pixels = [int(row[at:at + 3] != bytes(GREEN)) for row in rows_of((200, 40, 90)) for at in range(0, len(row), 3)]
     for index, pixel in enumerate(pixels):
         if index % 2 == 0:
             bits.append(4)
@@ -114,7 +115,8 @@ def tiff():
 
 def dng():
     data = struct.pack("<H", 3000) * (SIDE * SIDE)
-    matrix = struct.pack("<18i", *(v for x in (7000, -1500, -600, -5000, 13000, 2200, -900, 1800, 6500) for v in (x, 10000)))
+    numbers = (7000, -1500, -600, -5000, 13000, 2200, -900, 1800, 6500)
+    matrix = struct.pack("<18i", *(part for number in numbers for part in (number, 10000)))
     return directory_file([(254, 4, 1, 0), (256, 4, 1, SIDE), (257, 4, 1, SIDE), (258, 3, 1, 16), (259, 3, 1, 1),
                            (262, 3, 1, 32803), (271, 2, 6, b"Maker\0"), (272, 2, 6, b"Model\0"), (273, 4, 1, HERE),
                            (274, 3, 1, 1), (277, 3, 1, 1), (278, 4, 1, SIDE), (279, 4, 1, len(data)),
@@ -125,7 +127,8 @@ def dng():
 
 def made():
     """Pictures by their ending. JPEG comes from the program itself."""
-    return {"png": png_with_text(), "tif": tiff(), "bmp": bmp(), "gif": gif(), "webp": webp(), "psd": psd(), "dng": dng()}
+    return {"png": png_with_text(), "tif": tiff(), "bmp": bmp(), "gif": gif(), "webp": webp(), "psd": psd(),
+            "dng": dng()}
 
 
 def size_of_png(content):

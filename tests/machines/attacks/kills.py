@@ -57,7 +57,8 @@ def killed_batch(number):
 
 def look(case, number, start):
     people = case.people()
-    case.want(None not in people and len(set(people)) == len(people), f"after {number.name} the pictures are of {people}")
+    case.want(None not in people and len(set(people)) == len(people),
+              f"after {number.name} the pictures are of {people}")
     case.want(start.code != 0 or len(people) == PEOPLE, f"it ended with 0, and only {len(people)} pictures are there")
     if number != signal.SIGKILL:
         case.want(not case.leftovers(), f"after {number.name} there are {case.leftovers()}")
@@ -118,7 +119,8 @@ def killed_watch(number):
                       for person in range(PEOPLE)), "the watch changed a portrait")
         case.freeze()
         people = case.people()
-        case.want(None not in people and len(set(people)) == len(people), f"after {number.name} the pictures are of {people}")
+        case.want(None not in people and len(set(people)) == len(people),
+                  f"after {number.name} the pictures are of {people}")
         if number != signal.SIGKILL:
             case.want(not case.leftovers(), f"after {number.name} there are {case.leftovers()}")
         finish(case, style)

@@ -76,7 +76,8 @@ def damage_text(rng, content):
     digits = [i for i, byte in enumerate(lines[at]) if 48 <= byte <= 57]
     way = rng.choice(("number", "swap", "twice", "gone", "long"))
     if way == "number" and digits:
-        number = rng.choice((b"-1", b"99999999999999999999", b"1e999", b"nan", b"4294967296", b"0.0000001", b"2147483647"))
+        number = rng.choice((b"-1", b"99999999999999999999", b"1e999", b"nan", b"4294967296", b"0.0000001",
+                             b"2147483647"))
         lines[at] = lines[at][:digits[0]] + number + lines[at][digits[-1] + 1:]
     elif way == "swap":
         other = rng.randrange(len(lines))

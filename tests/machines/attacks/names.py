@@ -19,7 +19,8 @@ NAMES = {
     "all bytes": bytes_of,
     "Latin-1": lambda rng: [b"M\xf6ller", b"M\xfcller", b"M\xe4ller", b"M\xc3\xbcller", b"Muller"],
     "broken UTF-8": lambda rng: [b"\xc3", b"\xc3\x28", b"\xe2\x82", b"\xff\xfe", b"\xed\xa0\x80", b"\xef\xbf\xbd"],
-    "signs and scripts": lambda rng: [name.encode() for name in ("😀", "李明", "Ωλ", "שלום", "a\u202eb", "e\u0301\u0327")],
+    "signs and scripts": lambda rng: [name.encode() for name in (
+        "😀", "李明", "Ωλ", "שלום", "a\u202eb", "e\u0301\u0327")],
     "escape codes": lambda rng: [b"\x1b[31mred", b"\x1b]0;title\x07", b"a\rb", b"a\x08b", b"\x1bc", b"\x7f"],
     "lines": lambda rng: [b"a\nb", b"\n", b"a\n", b"a\n\nb", b"a\tb"],
     "dashes": lambda rng: [b"-", b"--help", b"--out=x", b"-v", b"--", b"@file"],
@@ -83,7 +84,8 @@ def look(case, done, count, style, allows_fewer):
                   f"picture: {sorted(case.made())} {done.err[-300:]}")
     told = done.out.count(b'"status":"failed"')
     case.want(len(people) + told >= count, f"{count} portraits, {len(people)} pictures, {told} told as failed")
-    case.want((done.code == 0) == (len(people) == count), f"{len(people)} of {count} pictures, and it ended with {done.code}")
+    case.want((done.code == 0) == (len(people) == count),
+              f"{len(people)} of {count} pictures, and it ended with {done.code}")
 
 
 def changed(before, after):
@@ -108,7 +110,8 @@ def watched(case):
     case.end(watch)
     case.want(len(before) == len(stems), f"{len(before)} of {len(stems)} pictures were made")
     case.want(after == before, f"it made again {changed(before, after)}")
-    case.want(None not in case.people() and len(set(case.people())) == len(stems), f"the pictures are of {case.people()}")
+    people = case.people()
+    case.want(None not in people and len(set(people)) == len(stems), f"the pictures are of {people}")
 
 
 def one_name(case):
@@ -122,7 +125,8 @@ def one_name(case):
     done = case.run("render", "--foreground", portrait, "--background", str(case.bench.background), "--out", out,
                     *BATCH_SIZE[:4])
     made = case.made()
-    case.want((done.code == 0) == (made == {stem + b".png": case.bench.expected[0]}), f"it ended with {done.code}: {done.err}")
+    whole = made == {stem + b".png": case.bench.expected[0]}
+    case.want((done.code == 0) == whole, f"it ended with {done.code}: {done.err}")
     case.run("info", portrait)
 
 

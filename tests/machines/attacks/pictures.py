@@ -87,12 +87,13 @@ def huge_header(case):
 
 
 def long_chunk(case):
-    show(case, mutate.png_with_chunk_length(formats.png(), case.rng.choice((0x7FFFFFFF, 0x70000000, 0xFFFFFFFF))), "png",
-         wanted=FAILED)
+    length = case.rng.choice((0x7FFFFFFF, 0x70000000, 0xFFFFFFFF))
+    show(case, mutate.png_with_chunk_length(formats.png(), length), "png", wanted=FAILED)
 
 
 def exif_loop(case):
-    show(case, formats.jpeg_with_exif(case.bench.jpeg, formats.exif_loop()), "jpg", case.rng.choice(("portrait", "info")))
+    content = formats.jpeg_with_exif(case.bench.jpeg, formats.exif_loop())
+    show(case, content, "jpg", case.rng.choice(("portrait", "info")))
 
 
 def exif_codes(case):
