@@ -57,8 +57,12 @@ class Attack:
         workers = [threading.Thread(target=self.work_on) for _ in range(self.options.jobs)]
         for worker in workers:
             worker.start()
-        for worker in workers:
-            worker.join()
+        try:
+            for worker in workers:
+                worker.join()
+        except (KeyboardInterrupt, SystemExit):
+            self.options.seconds = 0
+            raise
 
     def next_case(self):
         with self.guard:

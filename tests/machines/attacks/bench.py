@@ -159,10 +159,10 @@ class Case:
                 "XDG_DATA_HOME": str(home / "data"), "XDG_CONFIG_HOME": str(home / "config"),
                 "XDG_CACHE_HOME": str(self.bench.home / "cache"), "XDG_RUNTIME_DIR": str(self.bench.home / runtime)}
 
-    def end(self, start, crash_only=False, seconds=None):
+    def end(self, start, crash_only=False):
         """Waits for the end and looks at what holds for every end."""
         self.running.remove(start)
-        if not start.wait(seconds or patience()):
+        if not start.wait(patience()):
             used = start.processor_now()
             start.send(signal.SIGKILL)
             start.wait(20)

@@ -69,7 +69,8 @@ def full_disk(case):
         done = case.run(*arguments, file_limit=limit)
         people = case.people()
         case.want(None not in people, f"a picture is not whole: {people}")
-        case.want((done.code == 0) == (len(people) == PEOPLE), f"it ended with {done.code}, and {len(people)} are there")
+        whole = len(people) == PEOPLE
+        case.want((done.code == 0) == whole, f"it ended with {done.code}, and {len(people)} are there")
         case.want(not case.leftovers(), f"there are {case.leftovers()}")
         mount(case.out, "remount,size=100M")
         done = case.run(*arguments)
@@ -83,9 +84,9 @@ def full_render(case):
     """A render whose files may not become large enough, one after the other."""
     out, old = case.out / case.rng.choice(("made.png", "made.jpg", "made.tif")), b"an older picture"
     out.write_bytes(old)
-    arguments = ["render", "--foreground", str(case.bench.portrait), "--background", str(case.bench.background), "--out",
-                 str(out), "--inches", "2x2", "--dpi", "100", "--alpha", str(case.out / "alpha.png"), "--save-state",
-                 str(case.out / "saved.qlx")]
+    arguments = ["render", "--foreground", str(case.bench.portrait), "--background", str(case.bench.background),
+                 "--out", str(out), "--inches", "2x2", "--dpi", "100", "--alpha", str(case.out / "alpha.png"),
+                 "--save-state", str(case.out / "saved.qlx")]
     done = case.run(*arguments, file_limit=case.rng.choice((0, 1, 8, 20, 40)))
     case.want(done.code != 0 or len(case.made()) == 3, "it ended with 0, and not all files are there")
     case.want(not case.leftovers(), f"there are {case.leftovers()}")
@@ -169,7 +170,8 @@ def idle_watch(case):
     folder = case.inputs / "portraits"
     folder.mkdir()
     watch = case.start(*case.batch("--watch"))
-    while not (case.out / ".tavrin-batch").exists() and not watch.wait(0.1):
+    end = time.monotonic() + patience()
+    while not (case.out / ".tavrin-batch").exists() and time.monotonic() < end and not watch.wait(0.1):
         pass
     with open(folder / "growing.png", "wb") as file:
         # For longer than the watch lets pass between two looks of its own.

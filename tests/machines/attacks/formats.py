@@ -90,8 +90,8 @@ def webp():
 
 
 def directory_file(entries, data):
-    """A TIFF of one directory in Intel order: values that do not fit their entries behind it, then the data, whose place
-    is written where an entry says HERE."""
+    """A TIFF of one directory in Intel order: values that do not fit their entries behind it, then the data, whose
+    place is written where an entry says HERE."""
     entries = sorted(entries)
     end = 8 + 2 + 12 * len(entries) + 4
     packed, rest = b"", b""
