@@ -62,6 +62,8 @@ class Attack:
                 worker.join()
         except (KeyboardInterrupt, SystemExit):
             self.options.seconds = 0
+            for worker in workers:
+                worker.join(60)
             raise
 
     def next_case(self):
