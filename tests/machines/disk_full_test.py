@@ -7,34 +7,16 @@ equal to those made on a disk with room. Then the same for a batch that ends: it
 everything else that is saved meets a disk without any room, and has to say so. Ends with 77 (skipped) where such a disk cannot be mounted.
 """
 import os
-import shutil
 import subprocess
 import sys
 import tempfile
 import time
 from pathlib import Path
 
-from support import skip, wait_for, write_portrait
+from support import has_own_mount_space, mount, skip, wait_for, write_portrait
 
 PICTURES = 8
 SIZE = ["--inches", "8x10", "--dpi", "72", "--type", "png", "--style", "number"]
-
-
-def in_own_mount_space():
-    """Starts this program again where it may mount."""
-    if os.environ.get("TAVRIN_OWN_MOUNTS"):
-        return
-    for flags in (["-m"], ["-r", "-m"]):
-        if shutil.which("unshare") and subprocess.run(["unshare", *flags, "true"], capture_output=True).returncode == 0:
-            os.environ["TAVRIN_OWN_MOUNTS"] = "1"
-            os.execvp("unshare", ["unshare", *flags, sys.executable, *sys.argv])
-    skip("nothing can be mounted here.")
-
-
-def mount(folder, options):
-    done = subprocess.run(["mount", "-t", "tmpfs", "-o", options, "tmpfs", str(folder)], capture_output=True, text=True)
-    if done.returncode != 0:
-        skip(f"no memory disk can be mounted ({done.stderr.strip()}).")
 
 
 def pictures(folder):
@@ -58,7 +40,9 @@ class Test:
     def small_disk(self, name):
         folder = self.work / name
         folder.mkdir()
-        mount(folder, f"size={self.room}")
+        problem = mount(folder, f"size={self.room}")
+        if problem:
+            skip(f"no memory disk can be mounted ({problem}).")
         return folder
 
     def is_sound(self, folder):
@@ -138,7 +122,8 @@ class Test:
 
 
 def main():
-    in_own_mount_space()
+    if not has_own_mount_space():
+        skip("nothing can be mounted here.")
     with tempfile.TemporaryDirectory(prefix="tavrin-full-") as folder:
         test = Test(os.path.abspath(sys.argv[1]), Path(folder))
         try:
