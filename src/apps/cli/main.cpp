@@ -1,4 +1,5 @@
 #include <memory>
+#include <new>
 
 #include <QFont>
 #include <QGuiApplication>
@@ -61,6 +62,9 @@ int main(int argc, char** argv) {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? cli::kDone : cli::kUsage;
+    } catch (const std::bad_alloc&) {
+        cli::complain("there is not enough memory.");
+        return cli::kFailed;
     }
     return result;
 }
