@@ -17,6 +17,13 @@ bool refuse(SystemInfo& info, const std::string& reason) {
     return false;
 }
 
+/// Whether the combined picture, and with it the key's alpha, is that of the present settings; alerts when not.
+bool isFinished(SystemInfo& info, const std::string& path, int res) {
+    const std::string problem = info.whyNotFinished(res);
+    if (!problem.empty()) info.alert("The picture is not saved.", path + ": " + problem + ".");
+    return problem.empty();
+}
+
 QImage matteOf(const std::uint8_t* pixels, int width, int height) {
     QImage matte(width, height, QImage::Format_Grayscale8);
     for (int y = 0; y < matte.height(); ++y) {
@@ -43,25 +50,25 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
     if (theFileType < kJpegFile || theFileType > kTiffFile) {
         return refuse(info, path + ": there is no file type " + std::to_string(theFileType) + ".");
     }
+    if (!isFinished(info, path, myRes)) return false;
     const BitmapInfo& combined = *info.pCombinedBitmapInfo;
     const PassGeometry size = info.geometry(myRes);
     const std::uint8_t* pixels = myRes == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes;
-    if (!pixels) return refuse(info, path + ": there is no picture to save yet.");
-
     const std::string error = writePicture(
         path, {pixels, size.width, size.height, theFileType, size.dpi, info.pForegroundBitmapInfo->sourceExif});
     return error.empty() || refuse(info, error);
 }
 
 bool saveMatteToDisk(SystemInfo& info, const std::string& path, int myRes) {
+    if (!isFinished(info, path, myRes)) return false;
     const BitmapInfo& background = *info.pBackgroundBitmapInfo;
     const PassGeometry size = info.geometry(myRes);
     const std::uint8_t* pixels = myRes == 1 ? background.pBitmapData : background.pBitmapDataLowRes;
-    if (!pixels) return refuse(info, path + ": there is no matte to save yet.");
 
+    const QImage matte = matteOf(pixels, size.width, size.height);
+    if (matte.isNull()) return refuse(info, path + ": there is not enough memory for it.");
     QSaveFile file(QString::fromStdString(path));
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         matteOf(pixels, size.width, size.height).save(&file, "PNG") && file.commit();
+    const bool written = file.open(QIODevice::WriteOnly) && matte.save(&file, "PNG") && file.commit();
     return written || refuse(info, path + ": " + file.errorString().toStdString() + ".");
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/resource.h>
+
 #include <QProcess>
 
 #include "support/BuildPlaces.h"
@@ -24,6 +26,17 @@ inline CliOutcome outcomeOf(QProcess& process) {
 /// Calls tavrin-cli as a user does.
 inline CliOutcome runCli(const QStringList& arguments) {
     QProcess process;
+    process.start(kCliProgram, arguments);
+    return outcomeOf(process);
+}
+
+/// The same with the process held to so many bytes of addresses.
+inline CliOutcome runCliWithin(std::size_t bytes, const QStringList& arguments) {
+    QProcess process;
+    process.setChildProcessModifier([bytes] {
+        const rlimit most = {bytes, bytes};
+        setrlimit(RLIMIT_AS, &most);
+    });
     process.start(kCliProgram, arguments);
     return outcomeOf(process);
 }

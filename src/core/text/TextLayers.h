@@ -14,8 +14,7 @@ namespace tavrin {
 
 /// Draws all list items of a level ("Background", "Background Layer", "Foreground", "Foreground Layer", "Frame
 /// Layer") in the order of the list, on the last level the labels first. While `bTextPanelOpen` is set the dialog
-/// shows the items and they are left out. A picture whose file cannot be read is left out with a line on the error
-/// stream.
+/// shows the items and they are left out. A picture whose file cannot be read is left out with an alert.
 void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string& sLevel, int myRes,
                      const RunContext& run = {});
 
