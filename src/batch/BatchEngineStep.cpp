@@ -54,8 +54,15 @@ void BatchEngine::stopRun() {
 }
 
 void BatchEngine::saveFinishedJob() {
+    bSaveNextImage = false;
     const int type = settings_.iLastBatchLastOutputFileType;
     std::string path = sSaveFileName;
+    if (const std::string problem = info_.whyNotFinished(1); !problem.empty()) {
+        // What the buffers hold is another job's picture. The alert has been shown.
+        logError(path + extensionFor(type) + " is not made: " + problem + ".");
+        sLastForegroundFile = sLastBackgroundFile = kUseCurrent;  // the next job reads its files in any case
+        return;
+    }
     if (settings_.bAutoQLXSave) {
         const std::string problem = saveImageStateToXML(info_, path + ".qlx");
         if (!problem.empty()) logError(problem);
@@ -67,7 +74,6 @@ void BatchEngine::saveFinishedJob() {
     drawMask();
     saveImageToDisk(info_, (thumbs / ("TQTQ" + fs::path(path).filename().string())).string(), type, 0);
     saveImageToDisk(info_, path, type, 1);
-    bSaveNextImage = false;
 }
 
 /// The thumbnail is a picture of the mask: black is the subject.

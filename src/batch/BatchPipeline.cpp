@@ -90,7 +90,7 @@ class Stages {
 
     void key(InHand& hand) {
         hand.made = maker_.make(hand.result.job, hand.foreground.picture, hand.background->picture);
-        if (!hand.made.problem.empty()) hand.fail(hand.made.problem, hand.made.lasting);
+        if (!hand.made.problem.empty()) hand.fail(hand.made.problem, false);
         hand.foreground = ReadFile();
         hand.background.reset();
     }
@@ -110,6 +110,8 @@ class Stages {
         if (!problem.empty()) return hand.fail(problem, false);
         hand.result.width = made.width;
         hand.result.height = made.height;
+        hand.result.incomplete = !made.leftOut.empty();
+        hand.fail(made.leftOut, false);
     }
 
     void finish(InHand& hand) {

@@ -280,11 +280,13 @@ void BatchRun::end(JobResult result) {
 
 void BatchRun::record(const JobResult& result) {
     const bool done = result.status == JobResult::Status::done;
-    if (!done && !result.lasting) return;
+    if (!done && !result.lasting && !result.incomplete) return;
     JobRecord record;
     record.name = result.job.name;
     record.out = relativeTo(options_.sources.out, result.job.out);
     record.status = done ? JobRecord::Status::done : JobRecord::Status::failed;
+    // What was noted of an earlier picture under this name holds no longer, and a later run makes it again.
+    if (result.incomplete) record.status = JobRecord::Status::begun;
     record.recipe = result.recipe;
     record.inputs = result.inputs;
     record.reason = result.reason;

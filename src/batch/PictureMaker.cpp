@@ -17,14 +17,14 @@ namespace tavrin {
 
 namespace {
 
-/// Keeps the first thing that the engine would have shown.
+/// Keeps what the engine would have shown.
 class Alerts : public Interface {
   public:
     bool wantsPixels() const override { return false; }
     void showAlert(const std::string& message, const std::string& reason) override {
-        if (first.empty()) first = message + " (" + reason + ")";
+        all += (all.empty() ? "" : "; ") + message + " (" + reason + ")";
     }
-    std::string first;
+    std::string all;
 };
 
 /// The sources count by their own contents, and each machine may have them elsewhere.
@@ -123,10 +123,7 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     const auto info = prepare(job, made.problem);
     if (!info) return made;
     made.problem = textProblem(*info);
-    if (!made.problem.empty()) {
-        made.lasting = false;  // the machine's
-        return made;
-    }
+    if (!made.problem.empty()) return made;
     info->pInterface = &alerts;
     info->readSource = [&](const std::string& path) {
         return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;
@@ -136,14 +133,15 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
         return made;
     }
     CombineThread(*info).runUntilIdle();
-    made.problem = alerts.first;
+    made.problem = info->whyNotFinished(1);
+    if (!made.problem.empty()) return made;
+    made.leftOut = alerts.all;
     const PassGeometry size = info->geometry(1);
     made.width = size.width;
     made.height = size.height;
     made.dpi = size.dpi;
     made.exif = std::move(info->pForegroundBitmapInfo->sourceExif);
     made.pixels = info->pCombinedBitmapInfo->takeFullPixels();
-    if (made.problem.empty() && !made.pixels.data()) made.problem = "there is not enough memory for it";
     return made;
 }
 

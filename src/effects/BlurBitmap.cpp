@@ -4,7 +4,6 @@
 #include <cstring>
 #include <new>
 
-#include "core/Log.h"
 #include "core/raster/Pixels.h"
 #include "core/raster/QuadraticWindow.h"
 #include "core/raster/WindowBlur.h"
@@ -28,23 +27,19 @@ void BlurBitmap(SystemInfo& info, std::uint8_t* buffer, int width, int height, i
                 const RunContext& run) {
     if (run.isSuperseded() || !buffer || width < 1 || height < 1) return;
     const PixelBuffer copy(width, height);
-    if (!copy.data()) return logError("Memory not allocated!");
+    if (!copy.data()) throw std::bad_alloc();
     const int reach = windowReach(dpi, radius);
     const SampleGrid<std::uint8_t> grid = {buffer, width, height, kPixelBytes, 3};
     const auto take = [threshold](std::uint8_t* pixels, const std::uint8_t* blurred, int count) {
         for (int i = 0; i < count; ++i, pixels += kPixelBytes, blurred += kPixelBytes)
             takeWhereClose(pixels, blurred, threshold);
     };
-    try {
-        if (info.isStale()) {
-            std::memset(copy.data(), 0, pixelBytes(width, height));
-        } else {
-            if (!blurRowsWithWindow(run, grid, reach, copy.data())) return;
-        }
-        blurColumnsWithWindow(run, copy.data(), grid, reach, take);
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
+    if (info.isStale()) {
+        std::memset(copy.data(), 0, pixelBytes(width, height));
+    } else {
+        if (!blurRowsWithWindow(run, grid, reach, copy.data())) return;
     }
+    blurColumnsWithWindow(run, copy.data(), grid, reach, take);
 }
 
 }  // namespace tavrin

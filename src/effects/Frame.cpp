@@ -6,13 +6,12 @@
 #include <optional>
 #include <vector>
 
-#include "core/Log.h"
-#include "core/image/PictureCache.h"
 #include "core/raster/ColorMath.h"
 #include "core/raster/CopyPixels.h"
 #include "core/raster/Pixels.h"
 #include "core/raster/QuadraticWindow.h"
 #include "core/raster/WindowBlur.h"
+#include "core/state/NamedPictures.h"
 #include "effects/BlurBitmap.h"
 #include "effects/FrameShapes.h"
 #include "effects/Texture.h"
@@ -23,6 +22,7 @@ namespace tavrin {
 namespace {
 
 constexpr int kColor = 1, kBlurredPicture = 2, kAdjustedBackground = 3, kFramePicture = 4;
+constexpr const char* kLeftOut = "the frame is left out";
 constexpr int kEveryPixel = 1000;  // blur threshold that lets every pixel pass
 
 // What a row of the frame reads, fixed for a run.
@@ -79,27 +79,21 @@ void frameRow(const FrameParams& params, std::uint8_t* buffer, int y, RandomSour
     }
 }
 
-// A copy of the picture, blurred; null when memory is refused.
+// A copy of the picture, blurred.
 PixelBuffer blurredCopy(SystemInfo& info, const PassGeometry& size, const std::uint8_t* buffer, double radius) {
     PixelBuffer copy(size.width, size.height);
-    if (!copy.data()) return copy;
+    if (!copy.data()) throw std::bad_alloc();
     const RunContext run = info.rowsWhileWanted();
     if (copyPixels(run, buffer, copy.data(), size.width, size.height) && radius > 0.0005)
         BlurBitmap(info, copy.data(), size.width, size.height, size.dpi, kEveryPixel, radius, run);
     return copy;
 }
 
-// What the mask covers, softened; empty when memory is refused or the run superseded. Only the third byte counts, and
+// What the mask covers, softened; empty when the run is superseded. Only the third byte counts, and
 // a blur that every pixel passes leaves it independent of the others.
 std::vector<std::uint8_t> coverOf(const RunContext& run, const std::uint8_t* mask, const PassGeometry& size,
                                   int feather) {
-    std::vector<std::uint8_t> cover;
-    try {
-        cover.resize(pixelBytes(size.width, size.height) / kPixelBytes);
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-        return {};
-    }
+    std::vector<std::uint8_t> cover(pixelBytes(size.width, size.height) / kPixelBytes);
     const bool finished = runRows(run, size.height, 32, [&](int y) {
         const std::size_t first = pixelOffset(size.width, 0, y) / kPixelBytes;
         for (std::size_t i = first; i < first + static_cast<std::size_t>(size.width); ++i)
@@ -161,7 +155,6 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
             break;
         case kBlurredPicture:
             blurred = blurredCopy(info, size, buffer, frame.iFrameBlur / 500.0);
-            if (!blurred.data()) return logError("Memory not allocated!");
             params.filling = kBlurredPicture;
             params.blurred = blurred.data();
             break;
@@ -184,7 +177,7 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
     params.cover = cover.data();
     std::optional<LoadedTexture> texture;
     if (frame.oTexture.bHaveTexture) {
-        texture = loadTexture(frame.oTexture, size.width, size.height);
+        texture = loadTexture(info, frame.oTexture, size, kLeftOut);
         if (!texture) return;
         params.texture = &texture->params;
     }
@@ -201,11 +194,11 @@ void AddFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* buffer, i
     if (!buffer || size.width < 1 || size.height < 1) return;
     QImage picture;
     if (const std::string path = frame.sFrameImagePath; frame.iFrameMode == kFramePicture && !path.empty()) {
-        picture = readKeptPicture(path);
+        picture = readNamedPicture(info, path, kLeftOut);
         if (picture.isNull()) return;
     }
     const PixelBuffer mask = PixelBuffer::cleared(size.width, size.height);
-    if (!mask.data()) return logError("Memory not allocated!");
+    if (!mask.data()) throw std::bad_alloc();
     drawShape(info, frame, mask.data(), size);
     CombineFrame(info, frame, picture, mask.data(), buffer, res);
 }

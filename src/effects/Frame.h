@@ -9,8 +9,8 @@
 namespace tavrin {
 
 /// Lays a frame (`oFrame` or `oFrameOverlay`) over a finished picture: `buffer` is RGBA, rows packed, of the size of
-/// `res`; alpha stays. A frame picture or a texture that cannot be read gives no frame, with the reason on the error
-/// stream, and so does refused memory. A superseded run stops at the next row, unless `bLightingForceCompute` is set.
+/// `res`; alpha stays. A frame picture or a texture that cannot be read gives no frame, with an alert. A superseded
+/// run stops at the next row, unless `bLightingForceCompute` is set.
 /// @param res 1: full picture, otherwise preview
 void AddFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* buffer, int res);
 

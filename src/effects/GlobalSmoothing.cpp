@@ -5,7 +5,6 @@
 #include <new>
 #include <vector>
 
-#include "core/Log.h"
 #include "effects/SmoothingTiles.h"
 
 namespace tavrin {
@@ -65,16 +64,12 @@ void overPixels(const SmoothingTiles& tiles, float* picture, const Work& work) {
 void FGS(SystemInfo& info, float*** image, int width, int height, int iterations, double sigma, double lambda,
          double attenuation) {
     if (!image || width < 1 || height < 1) return;
-    try {
-        const SmoothingTiles tiles(width, height);
-        if (!tiles.data()) throw std::bad_alloc();
-        std::fill_n(tiles.data(), tiles.tileRows() * tiles.tileRowStep(), 0.0F);
-        overPixels(tiles, image[0][0], [](float& tiled, float value) { tiled = value; });
-        smooth(info.rowsWhileCurrent(), tiles, {iterations, sigma, lambda, attenuation});
-        overPixels(tiles, image[0][0], [](float tiled, float& value) { value = tiled; });
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-    }
+    const SmoothingTiles tiles(width, height);
+    if (!tiles.data()) throw std::bad_alloc();
+    std::fill_n(tiles.data(), tiles.tileRows() * tiles.tileRowStep(), 0.0F);
+    overPixels(tiles, image[0][0], [](float& tiled, float value) { tiled = value; });
+    smooth(info.rowsWhileCurrent(), tiles, {iterations, sigma, lambda, attenuation});
+    overPixels(tiles, image[0][0], [](float tiled, float& value) { value = tiled; });
 }
 
 void FastGlobalImageSmoothing(SystemInfo& info, int, std::uint8_t* rgba, int hiRes) {
@@ -83,16 +78,12 @@ void FastGlobalImageSmoothing(SystemInfo& info, int, std::uint8_t* rgba, int hiR
     const std::int64_t slider = info.iGlobalSmoothingLambda;
     const double sigma = static_cast<double>(slider / 20);
     const double lambda = static_cast<double>(slider * (g.dpi < 20 ? 300 : g.dpi) / 300);
-    try {
-        const SmoothingTiles tiles(g.width, g.height);
-        if (!tiles.data()) throw std::bad_alloc();
-        if (!runRows(info.rowsWhileCurrent(), tiles.tileRows(), 2, [&](int row) { loadTileRow(tiles, row, rgba); }))
-            return;
-        smooth(info.rowsWhileCurrent(), tiles, {3, sigma, lambda, 4.0});
-        runRows({}, tiles.tileRows(), 2, [&](int row) { storeTileRow(tiles, row, rgba); });
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-    }
+    const SmoothingTiles tiles(g.width, g.height);
+    if (!tiles.data()) throw std::bad_alloc();
+    if (!runRows(info.rowsWhileCurrent(), tiles.tileRows(), 2, [&](int row) { loadTileRow(tiles, row, rgba); }))
+        return;
+    smooth(info.rowsWhileCurrent(), tiles, {3, sigma, lambda, 4.0});
+    runRows({}, tiles.tileRows(), 2, [&](int row) { storeTileRow(tiles, row, rgba); });
 }
 
 }  // namespace tavrin

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <vector>
 
-#include "core/Log.h"
 #include "core/raster/Pixels.h"
 #include "effects/Texture.h"
 #include "key/ChannelRoles.h"
@@ -239,13 +239,14 @@ void AddReflection(SystemInfo& info, int hiRes, const BitmapInfo& /*layer*/, con
     if (!foreground || !background || !combined || params.width < 1 || params.height < 1) return;
     std::optional<LoadedTexture> texture;
     if (info.oReflectionTexture->bHaveTexture)
-        texture = loadTexture(*info.oReflectionTexture, params.width, params.height);
+        texture = loadTexture(info, *info.oReflectionTexture, {params.width, params.height},
+                              "the reflection has no texture");
     params.textured = texture.has_value();
 
     const SpillKey key(info, {foreground, background, params.width, params.height});
     if (!key.isReady()) return;
     Mirror mirror(params, key);
-    if (!mirror.data()) return logError("Memory not allocated!");
+    if (!mirror.data()) throw std::bad_alloc();
     if (!runRows(info.rowsWhileCurrent(), params.height, kGrainRows, [&](int y) { mirror.fillRow(y); })) return;
 
     const Composite composite{params,

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <new>
 
-#include "core/Log.h"
 #include "core/raster/Pixels.h"
 #include "effects/ShadowMask.h"
 
@@ -163,13 +161,7 @@ void AddShadow(SystemInfo& info, int /*ignored*/, int hiRes) {
     const ShadowKey key(info.bUseBlueLogic, {info.baseRed, info.baseGreen, info.baseBlue},
                         2.0 * info.iSliderShadowBlack, 2.0 * info.pCombinedBitmapInfo->sliderRemoveGreenAreas);
     const ShadowTone tone = makeTone(info, size, preview);
-    std::vector<std::uint8_t> mask;
-    try {
-        mask.resize(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-        return;
-    }
+    std::vector<std::uint8_t> mask(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
     const auto maskRow = [&](int y) {
         return mask.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(size.width);
     };

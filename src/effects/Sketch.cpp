@@ -131,7 +131,7 @@ void runSketch(const RunContext& context, Drawing& drawing) {
     const int width = drawing.width, height = drawing.height, type = drawing.params.type;
     if (!drawing.grey.data() || !drawing.flat.data() || !drawing.negative.data()) {
         ConvertBitmapToBlackAndWhite(drawing.picture, width, height, kPixelBytes, width * kPixelBytes, type);
-        return logError("Memory not allocated!");
+        throw std::bad_alloc();
     }
     if (!runRows(context, height, 16, [&](int y) {
             sketchGreyRow(drawing.picture + pixelOffset(width, 0, y), width, type, drawing.grey.row(y));
@@ -150,18 +150,14 @@ void runSketch(const RunContext& context, Drawing& drawing) {
 
 void Sketch(SystemInfo& info, int, std::uint8_t* picture, int width, int height, int dpi) {
     if (!picture || width < 1 || height < 1) return;
-    try {
-        Drawing drawing = {paramsOf(info, width, height, dpi),
-                           picture,
-                           width,
-                           height,
-                           {width, height},
-                           {width, height},
-                           {width, height}};
-        runSketch(info.rowsWhileWanted(), drawing);
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-    }
+    Drawing drawing = {paramsOf(info, width, height, dpi),
+                       picture,
+                       width,
+                       height,
+                       {width, height},
+                       {width, height},
+                       {width, height}};
+    runSketch(info.rowsWhileWanted(), drawing);
 }
 
 }  // namespace tavrin

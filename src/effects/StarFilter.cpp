@@ -209,11 +209,7 @@ bool CheckForStar(int y, int x, int width, int height, int stride, std::uint8_t*
 void StarFilter(SystemInfo& info, int, std::uint8_t* picture, int hiRes) {
     const PassGeometry g = info.geometry(hiRes != 0 ? 1 : 0);
     if (!picture || g.width < 1 || g.height < 1) return;
-    try {
-        StarRun(info, paramsOf(info, g), picture).run();
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-    }
+    StarRun(info, paramsOf(info, g), picture).run();
 }
 
 }  // namespace tavrin

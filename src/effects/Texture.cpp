@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <new>
 
-#include "core/Log.h"
-#include "core/image/PictureCache.h"
 #include "core/raster/ColorMath.h"
 #include "core/raster/Pixels.h"
+#include "core/state/NamedPictures.h"
 
 namespace tavrin {
 
@@ -79,10 +79,12 @@ Rgb tonedColor(const TextureParams& params, const Rgb& c) {
 
 }  // namespace
 
-std::optional<LoadedTexture> loadTexture(const ImageTexture& texture, int width, int height) {
+std::optional<LoadedTexture> loadTexture(SystemInfo& info, const ImageTexture& texture, const PassGeometry& size,
+                                         const char* leftOut) {
+    const auto [width, height, dpi] = size;
     if (width < 1 || height < 1) return {};
     LoadedTexture loaded;
-    loaded.picture = readKeptPicture(texture.sTextureFileName);
+    loaded.picture = readNamedPicture(info, texture.sTextureFileName, leftOut);
     if (loaded.picture.isNull()) return {};
 
     const int tw = loaded.picture.width(), th = loaded.picture.height();
@@ -129,7 +131,8 @@ void SetTextureAtPoint(const TextureParams& params, std::uint8_t* buffer, const 
 void AddTexture(SystemInfo& info, std::uint8_t* buffer, int res) {
     const PassGeometry size = info.geometry(res);
     if (!buffer || size.width < 2 || size.height < 2) return;
-    const std::optional<LoadedTexture> texture = loadTexture(*info.oImageTexture, size.width, size.height);
+    const std::optional<LoadedTexture> texture =
+        loadTexture(info, *info.oImageTexture, size, "the texture is left out");
     if (!texture) return;
 
     // Where nothing is displaced each pixel reads itself alone, and the picture is its own copy.
@@ -137,10 +140,7 @@ void AddTexture(SystemInfo& info, std::uint8_t* buffer, int res) {
     PixelBuffer copy;
     if (params.displaces) {
         copy = PixelBuffer(size.width, size.height);
-        if (!copy.data()) {
-            logError("Memory not allocated!");
-            return;
-        }
+        if (!copy.data()) throw std::bad_alloc();
         std::memcpy(copy.data(), buffer, pixelBytes(size.width, size.height));
     }
     const std::uint8_t* source = params.displaces ? copy.data() : buffer;

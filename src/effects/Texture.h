@@ -34,9 +34,11 @@ struct LoadedTexture {
     TextureParams params;
 };
 
-/// Reads the texture's file and fits it to a picture of `width` x `height` pixels: its long side along the picture's.
-/// @return nothing when the file cannot be read (the reason is on the error stream) or the size is below 1
-std::optional<LoadedTexture> loadTexture(const ImageTexture& texture, int width, int height);
+/// Reads the texture's file and fits it to a picture of `size`: its long side along the picture's.
+/// @param leftOut what the alert says when the file cannot be read (NamedPictures.h)
+/// @return nothing when the file cannot be read or the size is below 1
+std::optional<LoadedTexture> loadTexture(SystemInfo& info, const ImageTexture& texture, const PassGeometry& size,
+                                         const char* leftOut);
 
 /// The texture at a position of the picture, 0 to 255: the greatest of its first three bytes.
 int GetTexture(const TextureParams& params, int x, int y);

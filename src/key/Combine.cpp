@@ -5,7 +5,6 @@
 #include "key/CombineRow.h"
 #include "key/Lighting.h"
 #include "key/OnePixel.h"
-#include "key/SilhouettePicture.h"
 
 namespace tavrin {
 
@@ -51,8 +50,6 @@ void Combine(SystemInfo& info, int /*ignored*/, int hiRes) {
 
     const KeyJoins joins(info, params, hiRes != 0);
     if (joins.isSuperseded()) return;
-    QImage silhouette;
-    if (!loadSilhouette(info, params, silhouette)) return;
     const LightingRun light(info, size.width, size.height, hiRes);
     params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
 

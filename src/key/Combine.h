@@ -7,8 +7,9 @@ namespace tavrin {
 /// Separates the subject from the screen and lays it over the background, pixel by pixel: foreground and background
 /// buffers of the run's size in, combined buffer out. The alpha bytes of the background's buffer receive the key's
 /// alpha of every pixel; the combined buffer's alpha is 255 except in transparent output. Without buffers, or with
-/// a size below 1, nothing is done; so too when the silhouette's picture can't be read. With a lighting mode the
-/// light is worked out at the start of the run, and `info.oLightingMap` is empty again after it.
+/// a size below 1, nothing is done. With a lighting mode the light is worked out at the start of the run, and
+/// `info.oLightingMap` is empty again after it. No file is read: a silhouette is filled with `silhouettePicture`, or
+/// with its plain colour where that is null. Throws std::bad_alloc, with nothing written yet.
 ///
 /// A full-resolution run publishes each tenth of its rows, clearing `bShowLowRes`, and stops at the next row when
 /// the state is stale. A preview run always ends.

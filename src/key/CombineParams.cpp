@@ -39,6 +39,24 @@ std::vector<double> curveOfLevels(const ToneConstants& tone) {
     return levels;
 }
 
+SilhouetteFill makeSilhouette(const SystemInfo& info, RunSize size) {
+    SilhouetteFill fill;
+    fill.on = info.bOutputSilhouette || info.iForegroundOutputMode == kModeSilhouette;
+    fill.color = {number(info.iSilhouetteRed), number(info.iSilhouetteGreen), number(info.iSilhouetteBlue)};
+    const QImage& picture = info.silhouettePicture;
+    if (picture.isNull() || !info.bOutputSilhouette) return fill;
+    // A slider moves the picture by its own size from one end to the other.
+    const auto shift = [](std::int64_t length, std::int64_t slider) { return length * (slider - 50) / 50; };
+    fill.pixels = picture.constBits();
+    fill.width = picture.width();
+    fill.height = picture.height();
+    fill.scale =
+        std::min(static_cast<double>(fill.height) / size.height, static_cast<double>(fill.width) / size.width);
+    fill.rowShift = shift(fill.height, info.iSliderlSilhouetteY);
+    fill.columnShift = shift(fill.width, info.iSliderlSilhouetteX);
+    return fill;
+}
+
 FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) {
     const BitmapInfo &foreground = *info.pForegroundBitmapInfo, &background = *info.pBackgroundBitmapInfo;
     const auto [width, height] = params.size;
@@ -51,9 +69,7 @@ FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) 
     finish.white = makeWhiteAdjust(info);
     finish.foregroundMode = info.iForegroundOutputMode;
     finish.backgroundMode = info.iBackgroundOutputMode;
-    finish.silhouette.on = info.bOutputSilhouette || finish.foregroundMode == kModeSilhouette;
-    finish.silhouette.color = {number(info.iSilhouetteRed), number(info.iSilhouetteGreen),
-                               number(info.iSilhouetteBlue)};
+    finish.silhouette = makeSilhouette(info, params.size);
     finish.foregroundDelta = {number(foreground.iRedDelta), number(foreground.iGreenDelta),
                               number(foreground.iBlueDelta)};
     finish.backgroundDelta = {number(background.iRedDelta), number(background.iGreenDelta),

@@ -32,8 +32,8 @@ KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localSc
 /// The settings of the white adjustment, which is off while the foreground is shown as it is.
 WhiteAdjust makeWhiteAdjust(const SystemInfo& info);
 
-/// Reads the state once. The silhouette's picture and the map of the light are not loaded and `firstBrightGrey` not
-/// searched here.
+/// Reads the state once; the silhouette reads from the state's picture, which must stay as it is for the run. The map
+/// of the light is not worked out and `firstBrightGrey` not searched here.
 CombineParams makeCombineParams(const SystemInfo& info, int hiRes);
 
 }  // namespace tavrin

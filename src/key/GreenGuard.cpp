@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <new>
 
-#include "core/Log.h"
 #include "core/raster/Pixels.h"
 #include "key/ChannelRoles.h"
 #include "key/ColorDistance.h"
@@ -42,19 +40,14 @@ bool GreenGuard::build(const SystemInfo& info, const std::uint8_t* foreground, i
     if (!foreground || width < 1 || height < 1) return false;
     iFloodWidth = width;
     iFloodHeight = height;
-    if (!allocate(pGreenProtectionBitmap) || !classify(info)) return false;
+    allocate(pGreenProtectionBitmap);
+    if (!classify(info)) return false;
     fillFromBorder(info);
     return findEdge() && drawBand(info) && (info.iGreenProtectMode != 2 || protectShirt(info));
 }
 
-bool GreenGuard::allocate(std::vector<std::uint8_t>& bytes) {
-    try {
-        bytes.resize(pixelBytes(iFloodWidth, iFloodHeight) / kPixelBytes);
-        return true;
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-        return false;
-    }
+void GreenGuard::allocate(std::vector<std::uint8_t>& bytes) {
+    bytes.resize(pixelBytes(iFloodWidth, iFloodHeight) / kPixelBytes);
 }
 
 bool GreenGuard::classify(const SystemInfo& info) {

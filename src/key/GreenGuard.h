@@ -43,7 +43,7 @@ class GreenGuard {
     /// run is superseded the fills stop at once; the other steps of a full-resolution run (`hiRes`) stop within a
     /// row.
     /// @return false when such a run was superseded, so that its pixel loop must not start, or when there is no
-    /// picture or no memory (logged), so that the guard is to be left out
+    /// picture, so that the guard is to be left out
     bool build(const SystemInfo& info, const std::uint8_t* foreground, int width, int height, bool hiRes);
 
     /// One byte a pixel.
@@ -65,7 +65,7 @@ class GreenGuard {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(iFloodWidth) + static_cast<std::size_t>(x);
     }
     bool isInside(int x, int y) const { return x >= 0 && y >= 0 && x < iFloodWidth && y < iFloodHeight; }
-    bool allocate(std::vector<std::uint8_t>& bytes);
+    void allocate(std::vector<std::uint8_t>& bytes);
     bool classify(const SystemInfo& info);
     void fillFromBorder(const SystemInfo& info);
     bool findEdge();

@@ -83,7 +83,8 @@ bool GreenGuard::isShirtColor(int x, int y) const {
 bool GreenGuard::protectShirt(const SystemInfo& info) {
     gatherShirt(info);
     if (!(VGreenShirt > 30.0)) return true;
-    if (!allocate(nearness_) || !measureShirtDistance(info)) return false;
+    allocate(nearness_);
+    if (!measureShirtDistance(info)) return false;
     for (int y = 0; y < iFloodHeight; ++y) {
         if (context_.isSuperseded()) return false;
         for (int x = 0; x < iFloodWidth; ++x) {

@@ -1,5 +1,7 @@
 #include "key/HairDetect.h"
 
+#include <new>
+
 #include "core/raster/ColorMath.h"
 #include "key/HairDetail.h"
 #include "key/HairScan.h"
@@ -34,6 +36,7 @@ std::uint8_t* detailMap(SystemInfo& info, int width, int height) {
     if (!info.pHairDetectBitmap) {
         info.hairDetectPixels = PixelBuffer(width, height);
         info.pHairDetectBitmap = info.hairDetectPixels.data();
+        if (!info.pHairDetectBitmap) throw std::bad_alloc();
     }
     return info.pHairDetectBitmap;
 }
@@ -57,8 +60,7 @@ void ComputeHairColor(SystemInfo& info) {
         if (!scan.run(context, base, blueLogic)) return;
         scan.pick(info);
     }
-    if (std::uint8_t* map = detailMap(info, width, height))
-        writeHairDetail(context, {foreground, width, height, base.g, blueLogic}, map);
+    writeHairDetail(context, {foreground, width, height, base.g, blueLogic}, detailMap(info, width, height));
 }
 
 }  // namespace tavrin

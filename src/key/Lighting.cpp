@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <new>
 
-#include "core/Log.h"
 #include "core/raster/BoxBlur.h"
 #include "core/raster/Pixels.h"
 #include "key/ChannelRoles.h"
@@ -86,15 +85,16 @@ LightingRun::LightingRun(SystemInfo& info, int width, int height, int hiRes) : i
         info.oLightingMap.shrink_to_fit();
         return;
     }
-    try {
-        info.oLightingMap.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-        return;
-    }
+    info.oLightingMap.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
     // A preview always gets its light. A full picture that is superseded keys no pixel, so it needs none.
     info.bLightingForceCompute = hiRes == 0;
-    EffectsLighting(info, info.oLightingMap.data(), width, height, hiRes);
+    try {
+        EffectsLighting(info, info.oLightingMap.data(), width, height, hiRes);
+    } catch (...) {
+        info.bLightingForceCompute = false;
+        info.oLightingMap.clear();
+        throw;
+    }
     info.bLightingForceCompute = false;
 }
 
@@ -113,7 +113,7 @@ double sliderGain(const Field<std::int32_t>& slider) {
 
 void blurMap(const SystemInfo& info, std::int32_t* map, int width, int height, int radius) {
     const PixelBuffer soft(width, height);
-    if (!soft.data()) return logError("Memory not allocated!");
+    if (!soft.data()) throw std::bad_alloc();
     const RunContext context = info.rowsWhileWanted();
     if (!gaussBlur_Int(context, map, soft.numbers(), width, height, radius)) return;
     runRows(context, height, 16, [&](int y) {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
-#include "core/Log.h"
 #include "core/raster/BoxBlur.h"
 
 namespace tavrin {
@@ -57,10 +57,7 @@ PixelBuffer blurredSkinMask(const SystemInfo& info, const SkinMask& mask, const 
                             int height) {
     const PixelBuffer sharp(width, height);
     PixelBuffer blurred(width, height);
-    if (!sharp.data() || !blurred.data()) {
-        logError("Memory not allocated!");
-        return {};
-    }
+    if (!sharp.data() || !blurred.data()) throw std::bad_alloc();
     const RunContext context = info.rowsWhileWanted();
     const bool finished = runRows(context, height, 8, [&](int y) {
         const std::uint8_t* row = rgba + pixelOffset(width, 0, y);

@@ -40,7 +40,7 @@ class SkinMask {
 };
 
 /// The mask of a whole picture, blurred with radius 5; one integer a pixel, 0 to 255.
-/// @return without data when the run was superseded or memory was refused (which is logged)
+/// @return without data when the run was superseded
 PixelBuffer blurredSkinMask(const SystemInfo& info, const SkinMask& mask, const std::uint8_t* rgba, int width,
                             int height);
 

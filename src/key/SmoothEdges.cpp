@@ -4,10 +4,8 @@
 #include <bit>
 #include <cstring>
 #include <memory>
-#include <new>
 #include <vector>
 
-#include "core/Log.h"
 #include "core/raster/ColorMath.h"
 #include "key/AlphaSides.h"
 
@@ -238,11 +236,7 @@ void SmoothHiResEdges(SystemInfo& info, const RunContext& run) {
     const std::uint8_t* key = info.pBackgroundBitmapInfo->pBitmapData;
     std::uint8_t* pixels = info.pCombinedBitmapInfo->pBitmapData;
     if (info.bOutputTransparency || !key || !pixels || width < 1 || height < 1) return;
-    try {
-        smooth(run, {key, pixels, width, height, rampHalf(info)});
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-    }
+    smooth(run, {key, pixels, width, height, rampHalf(info)});
 }
 
 }  // namespace tavrin

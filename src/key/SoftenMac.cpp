@@ -1,6 +1,6 @@
 #include <array>
+#include <new>
 
-#include "core/Log.h"
 #include "core/RandomSource.h"
 #include "core/raster/BoxBlur.h"
 #include "core/raster/ColorMath.h"
@@ -73,10 +73,10 @@ void softenRow(const SoftenParams& params, const std::uint8_t* soft, const std::
     }
 }
 
-// The picture blurred for the smoothing; null data where memory was refused.
+// The picture blurred for the smoothing.
 PixelBuffer blurred(const RunContext& run, const std::uint8_t* picture, int width, int height, int radius) {
     PixelBuffer copy(width, height), soft(width, height);
-    if (!copy.data() || !soft.data()) return PixelBuffer();
+    if (!copy.data() || !soft.data()) throw std::bad_alloc();
     if (copyPixels(run, picture, copy.data(), width, height))
         gaussBlur_4(run, copy.data(), soft.data(), width, height, radius);
     return soft;
@@ -96,10 +96,7 @@ void SoftenMac(SystemInfo& info, int, const std::uint8_t* foreground, const std:
     const int radius = static_cast<int>(clampTo(wanted, 0.0, std::max(width, height)));
 
     PixelBuffer soft;
-    if (radius >= 2) {
-        soft = blurred(run, picture, width, height, radius);
-        if (!soft.data()) return logError("Memory not allocated!");
-    }
+    if (radius >= 2) soft = blurred(run, picture, width, height, radius);
     if (run.isSuperseded()) return;
     const bool measured = info.bComputeSkinColor;
     measureSkin(info, measured, foregroundLowRes, info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight);

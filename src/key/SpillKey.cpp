@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/image/PictureCache.h"
 #include "core/raster/Pixels.h"
 
 namespace tavrin {
@@ -78,20 +77,14 @@ SpillKey::SpillKey(const SystemInfo& info, const SpillLayers& layers)
       silhouetteColor_{static_cast<double>(info.iSilhouetteRed), static_cast<double>(info.iSilhouetteGreen),
                        static_cast<double>(info.iSilhouetteBlue)} {
     if (!pFOrg || !pBOrg || iWidth < 1 || iHeight < 1) return;
-    ready_ = loadSilhouette(info);
-}
-
-bool SpillKey::loadSilhouette(const SystemInfo& info) {
-    const std::string path = info.sSilhouetteFileName;
-    if (path.empty() || !info.bOutputSilhouette) return true;
-    texture_ = readKeptPicture(path).convertToFormat(QImage::Format_RGBA8888);
-    if (texture_.isNull()) return false;
+    ready_ = true;
+    if (info.silhouettePicture.isNull() || !info.bOutputSilhouette) return;
+    texture_ = info.silhouettePicture;
     const auto shift = [](double slider, double length) { return (slider - 50.0) * length / 100.0; };
     dLightingScale_ =
         std::max(static_cast<double>(texture_.height()) / iHeight, static_cast<double>(texture_.width()) / iWidth);
     textureX_ = shift(info.iSliderlSilhouetteX, texture_.width());
     textureY_ = shift(info.iSliderlSilhouetteY, texture_.height());
-    return true;
 }
 
 QLXPixel SpillKey::adjustedForeground(int x, int y) const {

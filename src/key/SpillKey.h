@@ -53,7 +53,7 @@ class SpillKey {
   public:
     SpillKey(const SystemInfo& info, const SpillLayers& layers);
 
-    /// False where there are no pictures, or the silhouette's file cannot be read: nothing else may be called then.
+    /// False where there are no pictures: nothing else may be called then.
     bool isReady() const { return ready_; }
 
     /// The colours that come out are those of a silhouette, in real channels whatever went in.
@@ -89,7 +89,6 @@ class SpillKey {
     double finalAmount(int x, int y, double amount) const;
     Rgb outputColor(int x, int y, const Rgb& color) const;
     Rgb silhouetteAt(int x, int y) const;
-    bool loadSilhouette(const SystemInfo& info);
 
     KeyConstants key_;  // the sliders of the key; white balance as of the second call
     DarkHair hair_;

@@ -1,9 +1,12 @@
 #include "pipeline/CombineThread.h"
 
 #include <chrono>
+#include <new>
 #include <utility>
 
+#include "core/Log.h"
 #include "core/raster/ColorMath.h"
+#include "core/state/NamedPictures.h"
 #include "pipeline/OutputSize.h"
 #include "pipeline/Stages.h"
 
@@ -85,15 +88,38 @@ void CombineThread::runPosted() {
         jobs.swap(posted_);
     }
     for (const auto& job : jobs)
-        job();
+        runForOthers(job);
+}
+
+/// What others do on this thread may run out of memory without ending the program.
+void CombineThread::runForOthers(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const std::bad_alloc&) {
+        logError("Memory not allocated!");
+        info_.alert("There is not enough memory.", "what was asked for was not done");
+    }
+}
+
+/// Nothing that a failed pass left is taken up by the next. The controls come back: a smaller size may help.
+void CombineThread::tellFailure() {
+    const std::string failure = info_.pictures.failure();
+    if (failure.empty()) return;
+    forgetKeyed();
+    info_.pForegroundBitmapInfo->bScaleChange = info_.pBackgroundBitmapInfo->bScaleChange = true;
+    info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
+    if (info_.isStale()) return;
+    if (failure != toldFailure_) info_.alert("The picture cannot be made.", failure);
+    toldFailure_ = failure;
+    if (info_.pInterface) info_.pInterface->enableControls(true, info_.bLightroomActive);
 }
 
 CombineThread::Turn CombineThread::iterate() {
-    if (!info_.isStale()) runPosted();
+    if (!info_.isStale()) runForOthers([this] { runPosted(); });
     if (!info_.isStale() && runPass() == Turn::dragging) return Turn::dragging;
     if (info_.iCurrentThreadCount > info_.iNewThreadCount) {
         for (const auto& work : idleWork_)
-            work();
+            runForOthers(work);
         return Turn::idle;
     }
     info_.iCurrentThreadCount = info_.iCurrentThreadCount + 1;
@@ -101,6 +127,19 @@ CombineThread::Turn CombineThread::iterate() {
 }
 
 CombineThread::Turn CombineThread::runPass() {
+    info_.pictures.begin();
+    forgetUnnamedPictures(info_);
+    Turn turn = Turn::worked;
+    try {
+        turn = makePictures();
+    } catch (const std::bad_alloc&) {
+        failForMemory(info_, "picture");
+    }
+    tellFailure();
+    return turn;
+}
+
+CombineThread::Turn CombineThread::makePictures() {
     Interface* view = info_.pInterface;
     if (view) {
         if (view->editorIsOpen()) {
@@ -120,19 +159,24 @@ CombineThread::Turn CombineThread::runPass() {
     if (info_.isStale()) return Turn::worked;
 
     makePreview();
+    if (!info_.pictures.failure().empty()) return Turn::worked;
     if (!info_.isStale() && drawDueLayers() && !info_.bSkipHiRes) makeFullPicture();
     return Turn::worked;
 }
 
 /// Brings both layers up to date: size, sources, placement, and what lies on the background.
-/// @return false when a newer request came in between
+/// @return false when a newer request came in between, or the pass failed
 bool CombineThread::updateLayers() {
     BitmapInfo& foreground = *info_.pForegroundBitmapInfo;
     BitmapInfo& background = *info_.pBackgroundBitmapInfo;
     if (info_.bChangeImageSize.exchange(false)) {
         keyedPreview_.release();
         keyedFull_.release();
-        ChangeImageSize(info_);
+        if (!ChangeImageSize(info_)) {
+            info_.bChangeImageSize = true;  // until there is a size that can be used
+            info_.pictures.fail("the output size \"" + info_.sImageSizeName.load() + "\" cannot be used");
+            return false;
+        }
         foreground.bOrgFileChange = true;
         background.bOrgFileChange = true;
         foreground.bHaveBitmap = false;
@@ -234,19 +278,19 @@ void CombineThread::makePreview() {
         keyedPreview_.make(previewStages().key, info_);
     }
     runStages(previewStages().finish, info_, kLowRes);
+    if (!info_.pictures.failure().empty()) return;
     info_.bShowLowRes = true;
     info_.publishLowRes();
+    if (!info_.isStale()) info_.pictures.finish(kLowRes);
 }
 
 void CombineThread::makeFullPicture() {
     BitmapInfo& combined = *info_.pCombinedBitmapInfo;
-    if (!combined.oBitmapRep || !combined.oBitmapRepLowRes) return;
     auto& newBackground = info_.pBackgroundBitmapInfo->bHiResScaleChange;
     if (newBackground) keyedFull_.forget();
     const bool isKeyed = keyedFull_.restore(info_);
-    // Until the full picture is done the enlarged preview stands in for it. With nobody to look it is left out, but
-    // not where the key may give up and leave what it finds (a silhouette whose picture cannot be read).
-    if (!isKeyed && ((info_.pInterface && info_.pInterface->wantsPixels()) || info_.bOutputSilhouette)) {
+    // Until the full picture is done the enlarged preview stands in for it, but not with nobody to look.
+    if (!isKeyed && combined.oBitmapRep && info_.pInterface && info_.pInterface->wantsPixels()) {
         BitmapContext& full = *combined.oBitmapRep;
         const QRectF whole(0, 0, full.width(), full.height());
         const QImage preview = combined.oBitmapRepLowRes->snapshot();
@@ -259,7 +303,9 @@ void CombineThread::makeFullPicture() {
     }
     if (!isKeyed) keyedFull_.make(fullStages().key, info_);
     runStagesWhileCurrent(fullStages().finish, info_, kFullRes);
-    if (info_.isStale()) return;
+    if (info_.isStale() || !info_.pictures.failure().empty()) return;
+    info_.pictures.finish(kFullRes);
+    toldFailure_.clear();
     info_.bShowLowRes = false;
     if (info_.pInterface) info_.pInterface->enableControls(true, info_.bLightroomActive);
     info_.publishFull(0, info_.iOutputPixelHeight);

@@ -15,6 +15,9 @@ namespace tavrin {
 /// The processing loop: turns changed settings into pictures, first a whole pass over the preview buffers, then
 /// the same work at full resolution, which any newer request abandons. When there is nothing to do it gives the
 /// registered idle work its turn.
+///
+/// A pass that cannot be made, say for want of memory, publishes nothing and leaves no picture to save; its reason is
+/// told (`SystemInfo::pictures`). One with files missing is made without them.
 class CombineThread {
   public:
     /// What an iteration came to.
@@ -50,7 +53,10 @@ class CombineThread {
   private:
     bool hasPosted();
     void runPosted();
+    void runForOthers(const std::function<void()>& work);
     Turn runPass();
+    Turn makePictures();
+    void tellFailure();
     bool updateLayers();
     bool updateSources();
     void updateSource(BitmapInfo& record, ReadPicture picture);
@@ -65,6 +71,7 @@ class CombineThread {
     SystemInfo& info_;
     std::optional<LayerFill> foregroundDue_, backgroundDue_;  // set while a full buffer waits
     KeyedPicture keyedPreview_{kLowRes}, keyedFull_{kFullRes};
+    std::string toldFailure_;  // not told again until a picture was made
     std::vector<std::function<void()>> idleWork_;
     std::mutex postedMutex_;
     std::vector<std::function<void()>> posted_;

@@ -146,9 +146,12 @@ ReadPicture readSourceOf(const SystemInfo& info, const BitmapInfo& record) {
 
 }  // namespace
 
-ReadSources readSources(const SystemInfo& info, bool foreground, bool background) {
+ReadSources readSources(SystemInfo& info, bool foreground, bool background) {
     ReadSources sources;
     if (!foreground && !background) return sources;
+    // Whatever happens from here on: the old source is not that of the record's path.
+    if (foreground) info.pForegroundBitmapInfo->sSourceProblem = "the foreground's file was not read";
+    if (background) info.pBackgroundBitmapInfo->sSourceProblem = "the background's file was not read";
     runRows({}, 2, 1, [&](int layer) {
         if (layer == 0 && foreground) sources.foreground = readSourceOf(info, *info.pForegroundBitmapInfo);
         if (layer == 1 && background) sources.background = readSourceOf(info, *info.pBackgroundBitmapInfo);
@@ -162,18 +165,23 @@ bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record) {
 
 bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record, ReadPicture picture) {
     logTrace("**** Loading Org Image");
-    if (!picture.error.empty()) {
-        const std::string path = record.sSourceImageFullPath;
-        const std::string name = std::filesystem::path(path).filename().string();
-        info.alert("Cound not load file: " + name + ", check your file permissions", picture.error);
-        return false;
+    QImage source;
+    std::string problem = std::move(picture.error);
+    if (problem.empty()) {
+        source = turnedSource(record, picture.pixels);
+        if (source.isNull()) {
+            logError("Memory not allocated!");
+            problem = "there is not enough memory for it";
+        }
     }
-    QImage source = turnedSource(record, picture.pixels);
-    if (source.isNull()) {
-        logError("Memory not allocated!");
+    if (!problem.empty()) {
+        const std::string name = std::filesystem::path(record.sSourceImageFullPath.load()).filename().string();
+        record.sSourceProblem = name + ": " + problem;
+        info.alert("Cound not load file: " + name + ", check your file permissions", problem);
         return false;
     }
     picture.pixels = QImage();
+    record.sSourceProblem = "";
     record.setSource(std::move(source));
     record.sourceExif = std::move(picture.exif);
     if (record.iBitmapType == BitmapInfo::kForeground) ComputeBaseColor(info, 2);

@@ -10,12 +10,14 @@ struct ReadSources {
     ReadPicture foreground, background;
 };
 
-/// Reads the files of the layers that are wanted, both at once where there are cores for it.
-ReadSources readSources(const SystemInfo& info, bool foreground, bool background);
+/// Reads the files of the layers that are wanted, both at once where there are cores for it. Until `ChangeOrgBitmap`
+/// has taken them over, the records say that their sources are not those of their paths.
+ReadSources readSources(SystemInfo& info, bool foreground, bool background);
 
 /// Loads the source of a layer and turns it: flip, rotation, tilt. A foreground also gets its screen colour
 /// estimated from the source. Corners that a turn leaves empty get a fixed screen-like green, to be keyed away.
-/// A file that cannot be read shows an alert and leaves the old picture in place.
+/// A file that cannot be read shows an alert and leaves the old picture in place, with the reason as the record's
+/// `sSourceProblem`.
 /// @return false when the old picture stayed
 bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record);
 /// The same with the file already read.

@@ -19,6 +19,13 @@ bool refuse(SystemInfo& info, const std::string& reason) {
     return false;
 }
 
+/// Whether the combined picture, and with it the key's alpha, is that of the present settings; alerts when not.
+bool isFinished(SystemInfo& info, const std::string& path, int res) {
+    const std::string problem = info.whyNotFinished(res);
+    if (!problem.empty()) info.alert("The picture is not saved.", path + ": " + problem + ".");
+    return problem.empty();
+}
+
 QImage matteOf(const std::uint8_t* pixels, int width, int height) {
     QImage matte(width, height, QImage::Format_Grayscale8);
     for (int y = 0; y < matte.height(); ++y) {
@@ -45,10 +52,10 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
     if (theFileType < kJpegFile || theFileType > kTiffFile) {
         return refuse(info, path + ": there is no file type " + std::to_string(theFileType) + ".");
     }
+    if (!isFinished(info, path, myRes)) return false;
     const BitmapInfo& combined = *info.pCombinedBitmapInfo;
     const PassGeometry size = info.geometry(myRes);
     const std::uint8_t* pixels = myRes == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes;
-    if (!pixels) return refuse(info, path + ": there is no picture to save yet.");
     if (const std::string problem = whyNotOver(info, path); !problem.empty()) return refuse(info, problem + ".");
 
     const std::string error = writePicture(
@@ -57,16 +64,15 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
 }
 
 bool saveMatteToDisk(SystemInfo& info, const std::string& path, int myRes) {
+    if (!isFinished(info, path, myRes)) return false;
     const BitmapInfo& background = *info.pBackgroundBitmapInfo;
     const PassGeometry size = info.geometry(myRes);
     const std::uint8_t* pixels = myRes == 1 ? background.pBitmapData : background.pBitmapDataLowRes;
-    if (!pixels) return refuse(info, path + ": there is no matte to save yet.");
 
     if (const std::string problem = whyNotOver(info, path); !problem.empty()) return refuse(info, problem + ".");
-
+    const QImage matte = matteOf(pixels, size.width, size.height);
     QBuffer png;
-    png.open(QBuffer::WriteOnly);
-    if (!matteOf(pixels, size.width, size.height).save(&png, "PNG"))
+    if (matte.isNull() || !png.open(QBuffer::WriteOnly) || !matte.save(&png, "PNG"))
         return refuse(info, path + ": there is not enough memory for it.");
     AtomicFile file(path);
     file.write(png.data().constData(), static_cast<std::size_t>(png.size()));

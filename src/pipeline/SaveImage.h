@@ -12,8 +12,8 @@ int fileTypeForPath(const std::string& path);
 
 /// Writes the combined picture as it stands: `myRes` 1 the full picture, any other value the preview. The file
 /// carries the resolution, an sRGB profile and the foreground's camera data; JPEG goes out at quality 100 without
-/// chroma subsampling. The target is replaced only by a whole file, and not at all when the state's picture is made
-/// from it.
+/// chroma subsampling. The target is replaced only by a whole file, only by a finished picture of the present sources
+/// and settings (`whyNotFinished`), and not at all when that is made from it.
 /// @return false after an alert with the reason
 bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes);
 

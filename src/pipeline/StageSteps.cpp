@@ -1,5 +1,8 @@
 #include "pipeline/StageSteps.h"
 
+#include <new>
+
+#include "core/state/NamedPictures.h"
 #include "core/text/TextLayers.h"
 #include "effects/BlurBitmap.h"
 #include "effects/Frame.h"
@@ -64,7 +67,20 @@ void measureScreen(SystemInfo& info, int) {
     ComputeBaseGreen(info, 1, 0);
 }
 
+void readSilhouette(SystemInfo& info, int) {
+    const std::string path = info.sSilhouetteFileName;
+    info.silhouettePicture = QImage();
+    if (!info.bOutputSilhouette || path.empty()) return;
+    const QImage picture = readNamedPicture(info, path, "the silhouette has its plain colour");
+    info.silhouettePicture = picture.convertToFormat(QImage::Format_RGBA8888);
+    if (info.silhouettePicture.isNull() && !picture.isNull()) throw std::bad_alloc();
+}
+
 void combine(SystemInfo& info, int res) {
+    for (const BitmapInfo* record :
+         {info.pForegroundBitmapInfo.get(), info.pBackgroundBitmapInfo.get(), info.pCombinedBitmapInfo.get()}) {
+        if (!pixelsOf(*record, res)) throw std::bad_alloc();  // as at the change of the size
+    }
     Combine(info, 1, res);
 }
 

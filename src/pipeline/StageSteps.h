@@ -8,6 +8,7 @@ namespace tavrin {
 
 void findHair(SystemInfo& info, int res);
 void measureScreen(SystemInfo& info, int res);
+void readSilhouette(SystemInfo& info, int res);
 void combine(SystemInfo& info, int res);
 void blendEdges(SystemInfo& info, int res);
 void smoothSkin(SystemInfo& info, int res);

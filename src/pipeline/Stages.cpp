@@ -1,5 +1,8 @@
 #include "pipeline/Stages.h"
 
+#include <new>
+
+#include "core/Log.h"
 #include "pipeline/StageSteps.h"
 
 namespace tavrin {
@@ -78,7 +81,8 @@ constexpr Stage kBackground[] = {
 constexpr Stage kPreviewKey[] = {
     {"hair", always, findHair},
     {"screen colour", needsScreenColour, measureScreen},
-    {"combine", always, combine},
+    {"picture of the silhouette", always, readSilhouette},
+    {"key", always, combine},
     {"stars", hasStars, drawStars},
     {"reflection", hasReflection, reflect},
 };
@@ -96,7 +100,8 @@ constexpr Stage kPreviewFinish[] = {
 };
 
 constexpr Stage kFullKey[] = {
-    {"combine", always, combine},
+    {"picture of the silhouette", always, readSilhouette},
+    {"key", always, combine},
     {"reflection", hasReflection, reflect},
     {"edges", blendsEdges, blendEdges},
     {"stars", hasStars, drawStars},
@@ -118,7 +123,8 @@ constexpr Stage kFullFinish[] = {
 
 // A plain keyed picture with text and overlays; everything else is left out for speed.
 constexpr Stage kFast[] = {
-    {"combine", always, combine},
+    {"picture of the silhouette", always, readSilhouette},
+    {"key", always, combine},
     {"text Foreground", always, textForeground},
     {"foreground overlay", hasForegroundOverlay, overlayForeground},
     {"text Foreground Layer", always, textForegroundLayer},
@@ -126,6 +132,16 @@ constexpr Stage kFast[] = {
     {"final blur", blursResult, blurResult},
     {"text Frame Layer", always, textFrameLayer},
 };
+
+/// A stage that gets no memory gives up, and with it this picture.
+void runStage(const Stage& stage, SystemInfo& info, int res) {
+    if (!stage.when(info)) return;
+    try {
+        stage.run(info, res);
+    } catch (const std::bad_alloc&) {
+        failForMemory(info, stage.name);
+    }
+}
 
 }  // namespace
 
@@ -149,16 +165,20 @@ RunContext whileCurrent(const SystemInfo& info, int res) {
     return res == kFullRes ? info.rowsWhileCurrent() : RunContext();
 }
 
+void failForMemory(SystemInfo& info, const std::string& what) {
+    logError("Memory not allocated!");
+    info.pictures.fail("there is not enough memory for the " + what);
+}
+
 void runStages(std::span<const Stage> stages, SystemInfo& info, int res) {
-    for (const Stage& stage : stages) {
-        if (stage.when(info)) stage.run(info, res);
-    }
+    for (const Stage& stage : stages)
+        runStage(stage, info, res);
 }
 
 void runStagesWhileCurrent(std::span<const Stage> stages, SystemInfo& info, int res) {
     for (const Stage& stage : stages) {
         if (info.isStale()) return;
-        if (stage.when(info)) stage.run(info, res);
+        runStage(stage, info, res);
     }
 }
 

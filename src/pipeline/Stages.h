@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 
 #include "core/state/SystemInfo.h"
 
@@ -11,7 +12,7 @@ inline constexpr int kLowRes = 0, kFullRes = 1;
 
 /// One step of a pass.
 struct Stage {
-    const char* name;
+    const char* name;  ///< as it goes on after "there is not enough memory for the"
     bool (*when)(const SystemInfo&);
     void (*run)(SystemInfo&, int res);
 };
@@ -36,7 +37,11 @@ std::span<const Stage> fastStages();
 /// What a stage listens to: a preview always ends, a full picture is given up for a newer request.
 RunContext whileCurrent(const SystemInfo& info, int res);
 
-/// Runs the stages that are due, in order.
+/// Memory was refused: "Memory not allocated!" on the error stream, and the pass under work fails, since there is no
+/// memory for `what`.
+void failForMemory(SystemInfo& info, const std::string& what);
+
+/// Runs the stages that are due, in order. One that gets no memory fails the pass; those after it run all the same.
 void runStages(std::span<const Stage> stages, SystemInfo& info, int res);
 /// As above, but no further stage is begun when the state is stale: for pictures that the next pass makes anew.
 void runStagesWhileCurrent(std::span<const Stage> stages, SystemInfo& info, int res);

@@ -1,5 +1,8 @@
 #include "pipeline/WholePicture.h"
 
+#include <new>
+
+#include "core/state/NamedPictures.h"
 #include "key/BaseGreen.h"
 #include "pipeline/Layers.h"
 #include "pipeline/Stages.h"
@@ -25,22 +28,38 @@ void freeze(const std::uint8_t* combined, std::uint8_t* foreground, std::uint8_t
 
 }  // namespace
 
-bool loadAndCombineFiles(SystemInfo& info) {
+namespace {
+
+void loadAndCombine(SystemInfo& info) {
     BitmapInfo& foreground = *info.pForegroundBitmapInfo;
     BitmapInfo& background = *info.pBackgroundBitmapInfo;
-    info.iCurrentThreadCount = 1;
-    info.iNewThreadCount = 1;
-
     ReadSources read = readSources(info, true, true);
-    bool loaded = ChangeOrgBitmap(info, foreground, std::move(read.foreground));
+    ChangeOrgBitmap(info, foreground, std::move(read.foreground));
     ChangeBitmapScale(info, foreground);
-    loaded = ChangeOrgBitmap(info, background, std::move(read.background)) && loaded;
+    ChangeOrgBitmap(info, background, std::move(read.background));
     ChangeBitmapScale(info, background);
     runStages(backgroundStages(), info, kLowRes);
     ComputeBaseGreen(info, 1, 0);
     runStages(backgroundStages(), info, kFullRes);
     runStages(fastStages(), info, kFullRes);
-    return loaded;
+}
+
+}  // namespace
+
+bool loadAndCombineFiles(SystemInfo& info) {
+    info.iCurrentThreadCount = 1;
+    info.iNewThreadCount = 1;
+    info.pictures.begin();
+    forgetUnnamedPictures(info);
+    try {
+        loadAndCombine(info);
+    } catch (const std::bad_alloc&) {
+        failForMemory(info, "picture");
+    }
+    info.pictures.finish(kFullRes);
+    const std::string failure = info.pictures.failure();
+    if (!failure.empty()) info.alert("The picture cannot be made.", failure);
+    return info.whyNotFinished(kFullRes).empty();
 }
 
 void FreezeToBackground(SystemInfo& info) {

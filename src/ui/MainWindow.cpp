@@ -227,9 +227,8 @@ void MainWindow::openBackground(const QString& path) {
     openLayer(*info_.pBackgroundBitmapInfo, path);
 }
 
-bool MainWindow::pictureStands() const {
-    return info_.iCurrentThreadCount > info_.iNewThreadCount && !info_.bShowLowRes &&
-           !info_.pForegroundBitmapInfo->orgImage.isNull();
+bool MainWindow::loopRests() const {
+    return info_.iCurrentThreadCount > info_.iNewThreadCount;
 }
 
 void MainWindow::askForSave() {
@@ -242,7 +241,7 @@ void MainWindow::askForSave() {
 
 bool MainWindow::saveTo(QString path) {
     // The buffers are the loop's while it works; between passes nobody else touches them.
-    if (!pictureStands()) {
+    if (!loopRests()) {
         statusBar()->showMessage(tr("The picture is not finished yet."), 4000);
         return false;
     }

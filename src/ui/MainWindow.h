@@ -64,7 +64,7 @@ class MainWindow : public QMainWindow {
     void takePublished();
     void showAlert(const QString& message, const QString& reason);
     void fitToOutput(int outputWidth, int outputHeight);
-    bool pictureStands() const;
+    bool loopRests() const;
 
     SystemInfo& info_;
     WindowBridge bridge_;

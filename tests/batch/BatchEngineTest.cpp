@@ -268,14 +268,16 @@ TEST_F(BatchEngineTest, AStateBringsItsSettingsAndSizeButNotItsForeground) {
                              [](const std::string& alert) { return alert.find("elsewhere") != std::string::npos; }));
 }
 
-TEST_F(BatchEngineTest, AnUnreadableForegroundIsToldAndTheRunGoesOn) {
+TEST_F(BatchEngineTest, AnUnreadableForegroundIsToldNotSavedAndTheRunGoesOn) {
     test::writeFile(folder_.file("fg/a.png"), "no picture");
     portrait("fg/b.png");
+    test::writeFile(folder_.file("fg/c.png"), "no picture");  // after another's portrait, which stays in the buffers
     background("bg/sea.png", QColor(20, 60, 200));
     run();
-    EXPECT_EQ(made(), (Names{"asea.png", "bsea.png"}));
-    ASSERT_EQ(alerts_.all.size(), 1u);
+    EXPECT_EQ(made(), (Names{"bsea.png"}));
+    ASSERT_EQ(alerts_.all.size(), 2u);
     EXPECT_TRUE(alerts_.all[0].starts_with("Cound not load file: a.png, check your file permissions"));
+    EXPECT_TRUE(alerts_.all[1].starts_with("Cound not load file: c.png, check your file permissions"));
 }
 
 TEST_F(BatchEngineTest, WatchTakesWhatArrivesAndAStopSavesWhatIsPending) {

@@ -7,11 +7,13 @@
 #include <QJsonObject>
 
 #include "support/Cli.h"
+#include "support/Files.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
 #include "support/TextPage.h"
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 
 namespace tavrin {
 namespace {
@@ -105,12 +107,44 @@ TEST_F(CliTest, LaysOverlaysOn) {
     EXPECT_EQ(render("g.png", {"--overlay-frame", overlay}).pixelColor(120, 72), QColor(250, 0, 250));
 }
 
-TEST_F(CliTest, AMissingOverlayIsToldOnceAndThePictureIsStillMade) {
-    const Outcome outcome =
-        run(renderTo(file("o.png"), size() + QStringList{"--overlay-foreground", file("gone.png")}));
+// What a machine with little memory answers, at a step that no test can choose: a message and no picture.
+TEST_F(CliTest, WithoutEnoughMemoryNothingIsWritten) {
+    const QStringList large = {"--inches", "100x100", "--dpi", "190"};
+    for (const QStringList& more : {large, large + QStringList{"--fast"}, large + QStringList{"--preview"}}) {
+        const Outcome outcome = test::runCliWithin(std::size_t{2} << 30, renderTo(file("o.png"), more));
+        EXPECT_EQ(outcome.code, 1);
+        EXPECT_TRUE(outcome.err.contains("not enough memory")) << outcome.err.toStdString();
+        EXPECT_FALSE(fs::exists(folder_.file("o.png")));
+    }
+    const QStringList batch = {"batch",     "--foregrounds", foreground_, "--backgrounds",
+                               background_, "--out",         file("out")};
+    const Outcome outcome = test::runCliWithin(std::size_t{2} << 30, batch + large);
     EXPECT_EQ(outcome.code, 1);
-    EXPECT_EQ(outcome.err.count("Cound not load file: gone.png, check your file permissions"), 1);
-    EXPECT_EQ(QImage(file("o.png")).size(), QSize(240, 144));
+    EXPECT_TRUE(outcome.out.contains("not enough memory")) << outcome.out.toStdString();
+    EXPECT_FALSE(fs::exists(folder_.file("out/fgbg.jpg")));
+}
+
+TEST_F(CliTest, FilesThatAreHugeOrPretendToBeAreRefusedWithTheirNames) {
+    constexpr std::uintmax_t kGigabyte = std::uintmax_t{1} << 30;
+    std::string psd = "8BPS\0\1\0\0\0\0\0\0\0\3\0\0\0\144\0\0\0\144\0\10\0\3"s, bmp(54, '\0');
+    psd += std::string(14, '\0');
+    bmp[0] = 'B', bmp[1] = 'M', bmp[10] = 54, bmp[14] = 40, bmp[18] = bmp[22] = 100, bmp[26] = 1, bmp[28] = 24;
+    for (const auto& [name, head] : {std::pair("a.psd", psd), std::pair("a.bmp", bmp)}) {
+        test::writeFile(folder_.file(name), head);
+        fs::resize_file(folder_.file(name), 8 * kGigabyte);  // of which the disk holds the head only
+        Outcome outcome = run({"info", file(name)});
+        EXPECT_EQ(outcome.code, 1);
+        EXPECT_TRUE(outcome.err.contains(QString(name) + ": it is too large")) << outcome.err.toStdString();
+        outcome = run({"render", "--foreground", file(name), "--background", background_, "--out", file("o.png")});
+        EXPECT_EQ(outcome.code, 1);
+        EXPECT_TRUE(outcome.err.contains(name)) << outcome.err.toStdString();
+        fs::resize_file(folder_.file(name), kGigabyte);
+        outcome = test::runCliWithin(kGigabyte, {"info", file(name)});
+        EXPECT_EQ(outcome.code, 1);
+        EXPECT_TRUE(outcome.err.contains(QString(name) + ": there is not enough memory"))
+            << outcome.err.toStdString();
+        fs::remove(folder_.file(name));
+    }
 }
 
 TEST_F(CliTest, WrongCallsAreToldInOneLineAndWriteNothing) {

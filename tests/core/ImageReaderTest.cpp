@@ -258,6 +258,70 @@ TEST(ImageReader, RefusesSizesBeyondTheLimitFromTheHeader) {
     }
 }
 
+std::vector<std::uint8_t> pngChunk(const std::string& kind, const std::string& data, std::uint32_t length) {
+    std::vector<std::uint8_t> chunk(4);
+    put(chunk, 0, length, true);
+    chunk.insert(chunk.end(), kind.begin(), kind.end());
+    chunk.insert(chunk.end(), data.begin(), data.end());
+    chunk.insert(chunk.end(), 4, 0);  // a checksum that nobody comes to
+    return chunk;
+}
+
+TEST(ImageReader, BlocksLongerThanTheirFileAreNotMadeRoomFor) {
+    const TempFolder folder;
+    ASSERT_TRUE(MadePicture().save(folder.file("a.png")));
+    const std::vector<std::uint8_t> png = test::readBytes(folder.file("a.png"));
+    constexpr std::size_t kHeaderEnd = 33;
+    for (const char* kind : {"tEXt", "zTXt", "iTXt", "sPLT", "iCCP", "eXIf"}) {
+        const auto chunk = pngChunk(kind, "some words", 0x7fffffff);
+        std::vector<std::uint8_t> bytes = png;
+        bytes.insert(bytes.begin() + kHeaderEnd, chunk.begin(), chunk.end());
+        test::writeBytes(folder.file("long.png"), bytes);
+        EXPECT_EQ(readPictureFacts(folder.file("long.png")).error, "it is damaged or cut short") << kind;
+        expectRefused(folder.file("long.png"));
+        fs::resize_file(folder.file("long.png"), std::uintmax_t{3} << 30);  // now it is there, of zeros
+        EXPECT_NE(readPictureFacts(folder.file("long.png")).error.find("at most 64 MB"), std::string::npos) << kind;
+        fs::remove(folder.file("long.png"));
+    }
+}
+
+/// Camera data whose directory refers to itself `count` times.
+std::string endlessExif(unsigned count) {
+    std::vector<std::uint8_t> tiff = {'I', 'I', '*', 0, 8, 0, 0, 0, 0, 0};
+    tiff[8] = static_cast<std::uint8_t>(count), tiff[9] = static_cast<std::uint8_t>(count >> 8);
+    for (unsigned i = 0; i < count; ++i)
+        tiff.insert(tiff.end(), {0x69, 0x87, 4, 0, 1, 0, 0, 0, 8, 0, 0, 0});
+    tiff.insert(tiff.end(), 4, 0);
+    return {tiff.begin(), tiff.end()};
+}
+
+TEST(ImageReader, CameraDataThatReferToThemselvesAreNotFollowed) {
+    const TempFolder folder;
+    const std::string exif = endlessExif(5000), marked = std::string("Exif\0\0", 6) + exif;
+    ASSERT_TRUE(MadePicture().save(folder.file("a.jpg")) && MadePicture().save(folder.file("a.png")));
+    std::vector<std::uint8_t> jpeg = test::readBytes(folder.file("a.jpg")),
+                              png = test::readBytes(folder.file("a.png"));
+    const std::size_t length = marked.size() + 2;
+    std::string segment = {'\xff', '\xe1', static_cast<char>(length >> 8), static_cast<char>(length)};
+    segment += marked;
+    jpeg.insert(jpeg.begin() + 2, segment.begin(), segment.end());
+    test::writeBytes(folder.file("a.jpg"), jpeg);
+    const auto chunk = pngChunk("eXIf", exif, static_cast<std::uint32_t>(exif.size()));
+    png.insert(png.begin() + 33, chunk.begin(), chunk.end());
+    test::writeBytes(folder.file("a.png"), png);
+    std::string psd("8BPS\0\1\0\0\0\0\0\0\0\3\0\0\0\12\0\0\0\12\0\10\0\3\0\0\0\0", 30);
+    std::vector<std::uint8_t> lengths(8);
+    put(lengths, 0, static_cast<std::uint32_t>(exif.size() + 12), true);
+    put(lengths, 4, static_cast<std::uint32_t>(exif.size()), true);
+    psd += std::string(lengths.begin(), lengths.begin() + 4) + std::string("8BIM\4\42\0\0", 8);
+    psd += std::string(lengths.begin() + 4, lengths.end()) + exif + std::string(4 + 2 + 300, '\0');
+    test::writeText(folder.file("a.psd"), psd);
+    for (const char* name : {"a.jpg", "a.png", "a.psd"}) {
+        expectRefused(folder.file(name));
+        EXPECT_NE(readPictureFacts(folder.file(name)).error, "") << name;
+    }
+}
+
 // Cut at any place a file is refused, or read whole where only bytes after the last row are missing.
 TEST(ImageReader, CutFilesAreRefusedOrWhole) {
     const TempFolder folder;

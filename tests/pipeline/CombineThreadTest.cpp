@@ -335,6 +335,41 @@ TEST_F(CombineThreadTest, AMissingSourceIsToldAndTheOldPictureStays) {
     EXPECT_EQ(fullBytes(*info_), before);
 }
 
+TEST_F(CombineThreadTest, APassThatCannotBeMadeLeavesNothingToSaveAndIsToldOnce) {
+    CombineThread loop(*info_);
+    loop.runUntilIdle();
+    EXPECT_EQ(info_->whyNotFinished(0) + info_->whyNotFinished(1), "");
+    const auto pass = [&] {
+        info_->StartUpdate();
+        loop.runUntilIdle();
+    };
+    const int fulls = view_.fulls_;
+    info_->pCombinedBitmapInfo->takeFullPixels();  // as where memory is refused
+    pass();
+    EXPECT_EQ(info_->whyNotFinished(1), "there is not enough memory for the key");
+    EXPECT_EQ(info_->whyNotFinished(0), info_->whyNotFinished(1));
+    EXPECT_EQ(view_.lastAlert, "The picture cannot be made.");
+    EXPECT_EQ(view_.fulls_, fulls);
+    view_.lastAlert = "";
+    pass();
+    EXPECT_EQ(view_.lastAlert, "") << "told before";
+
+    const int size = info_->iSelecteImageSize;
+    for (const int selected : {999, size}) {
+        info_->iSelecteImageSize = selected;
+        info_->bChangeImageSize = selected != size || info_->bChangeImageSize;
+        pass();
+        EXPECT_EQ(info_->whyNotFinished(1).empty(), selected == size);
+        pass();
+        EXPECT_EQ(info_->whyNotFinished(1).empty(), selected == size);
+    }
+    EXPECT_EQ(view_.fulls_, fulls + 2);
+    info_->bSkipHiRes = true;
+    pass();
+    EXPECT_EQ(info_->whyNotFinished(0), "");
+    EXPECT_NE(info_->whyNotFinished(1), "");
+}
+
 // For the thread sanitizer above all: settings change from another thread while passes run.
 TEST_F(CombineThreadTest, SettingsMayChangeWhilePassesRun) {
     std::atomic<int> idleTurns = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/resource.h>
+
 #include <QMap>
 #include <QProcess>
 
@@ -30,6 +32,17 @@ inline CliOutcome runCli(const QStringList& arguments, const QMap<QString, QStri
     for (auto entry = variables.begin(); entry != variables.end(); ++entry)
         environment.insert(entry.key(), entry.value());
     process.setProcessEnvironment(environment);
+    process.start(kCliProgram, arguments);
+    return outcomeOf(process);
+}
+
+/// The same with the process held to so many bytes of addresses.
+inline CliOutcome runCliWithin(std::size_t bytes, const QStringList& arguments) {
+    QProcess process;
+    process.setChildProcessModifier([bytes] {
+        const rlimit most = {bytes, bytes};
+        setrlimit(RLIMIT_AS, &most);
+    });
     process.start(kCliProgram, arguments);
     return outcomeOf(process);
 }

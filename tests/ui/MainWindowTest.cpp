@@ -192,10 +192,30 @@ TEST_F(MainWindowTest, AnUnreadableFileIsToldAndTheOldPictureStays) {
     const auto boxes = window_->findChildren<QMessageBox*>();
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0]->text(), "Cound not load file: missing.jpg, check your file permissions");
+    EXPECT_FALSE(window_->saveTo(QString::fromStdString(folder_.file("missing-combined.jpg"))));
+    EXPECT_FALSE(std::filesystem::exists(folder_.file("missing-combined.jpg"))) << "it would be the old portrait's";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), 2);
     const QImage still =
         pictureAfter([&] { window_->openState(QString::fromStdString(folder_.file("missing.qlx"))); });
     EXPECT_EQ(still, before);
-    EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), 2);
+    EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), 3);
+}
+
+TEST_F(MainWindowTest, AMissingOverlayIsToldOnceHoweverManyPicturesAreMadeAndSaved) {
+    ASSERT_TRUE(waitForPicture());
+    info_->sForegroundOverlay = folder_.file("gone.png");
+    info_->bHaveForegroundOverlay = true;
+    for (int i = 0; i < 3; ++i) {
+        pictureAfter([&] {
+            info_->pForegroundBitmapInfo->iBrightness = i;
+            info_->StartUpdate();
+        });
+        EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("a.png"))));
+    }
+    const auto boxes = window_->findChildren<QMessageBox*>();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0]->text(), "Cound not load file: gone.png, check your file permissions");
 }
 
 }  // namespace

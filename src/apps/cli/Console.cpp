@@ -46,9 +46,7 @@ void Console::showAlert(const std::string& message, const std::string& reason) {
     for (char& c : line) {
         if (c == '\n') c = ' ';
     }
-    line += " (" + reason + ")";
-    if (line != lastAlert_) complain(line);  // the preview and the full picture say the same
-    lastAlert_ = line;
+    complain(line + " (" + reason + ")");
 }
 
 void Console::clearProgress() {

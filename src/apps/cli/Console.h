@@ -36,7 +36,6 @@ class Console : public Interface {
     const bool isTerminal_;
     bool lineShown_ = false;
     bool hadAlert_ = false;
-    std::string lastAlert_;
 };
 
 }  // namespace tavrin::cli

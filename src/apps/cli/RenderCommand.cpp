@@ -128,10 +128,6 @@ QJsonObject describe(const SystemInfo& info, const RenderOptions& options, doubl
     };
 }
 
-bool hasSources(const SystemInfo& info) {
-    return !info.pForegroundBitmapInfo->orgImage.isNull() && !info.pBackgroundBitmapInfo->orgImage.isNull();
-}
-
 /// What renders left that were killed while they wrote beside these files.
 void removeAbandonedParts(const std::set<std::string>& targets) {
     std::set<std::string> folders;
@@ -158,9 +154,11 @@ int render(const RenderOptions& options) {
     }
     removeAbandonedParts({options.out, options.alpha});
     compute(*info, options);
-    if (!hasSources(*info)) return kFailed;
-
     const int res = options.preview ? 0 : 1;
+    if (const std::string problem = info->whyNotFinished(res); !problem.empty()) {
+        if (!console.hadAlert()) complain(problem + ".");
+        return kFailed;
+    }
     if (!saveImageToDisk(*info, options.out, fileTypeForPath(options.out), res)) return kFailed;
     if (!options.alpha.empty() && !saveMatteToDisk(*info, options.alpha, res)) return kFailed;
     console.clearProgress();
@@ -192,7 +190,7 @@ Examples:
 The short options of the effects come first, so that --set refines them; "tavrin-cli effects" tells about each.
 Settings have the names of their fields; those of a layer have foreground., background. or combined. before them.
 Texts and pictures on the image are text0., text1. ...: xPos and yPos are inches from its lower left corner to theirs.
-Exit codes: 0 done, 1 the work failed or an overlay could not be read, 2 wrong usage.)";
+Exit codes: 0 done, 1 the work failed or the picture lacks a file that could not be read, 2 wrong usage.)";
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include <clocale>
 #include <cstdio>
 #include <memory>
+#include <new>
 #include <sstream>
 
 #include <QFont>
@@ -86,6 +87,9 @@ int main(int argc, char** argv) {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         result = explain(app, error);
+    } catch (const std::bad_alloc&) {
+        cli::complain("there is not enough memory.");
+        result = cli::kFailed;
     }
     return cli::flushOutput() || result != cli::kDone ? result : cli::kFailed;
 }

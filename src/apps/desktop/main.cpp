@@ -1,5 +1,6 @@
 #include <clocale>
 #include <memory>
+#include <new>
 
 #include <QApplication>
 
@@ -9,8 +10,26 @@
 #include "pipeline/StartUp.h"
 #include "ui/MainWindow.h"
 
+namespace {
+
+/// A click whose work finds no memory is told, and the program goes on.
+class Application : public QApplication {
+  public:
+    using QApplication::QApplication;
+    bool notify(QObject* receiver, QEvent* event) override {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::bad_alloc&) {
+            tavrin::logError("There is not enough memory.");
+            return false;
+        }
+    }
+};
+
+}  // namespace
+
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");  // what is printed and digested has a full stop in every locale
     QApplication::setApplicationName("Tavrin");
     QApplication::setOrganizationName("Tavrin");

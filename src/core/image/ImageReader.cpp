@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstring>
 #include <lcms2.h>
+#include <new>
 
 #include "core/Log.h"
 #include "core/image/Exif.h"
@@ -101,9 +102,7 @@ QImage decode(const std::string& path, FileKind kind, VipsImage* image, std::str
     return decodeWithVips(image, error);
 }
 
-}  // namespace
-
-ReadPicture readPicture(const std::string& path) {
+ReadPicture readAny(const std::string& path) {
     ReadPicture picture;
     const FileProbe probe = probeFile(path);
     picture.error = probe.error;
@@ -123,7 +122,7 @@ ReadPicture readPicture(const std::string& path) {
     return picture;
 }
 
-PictureFacts readPictureFacts(const std::string& path) {
+PictureFacts readAnyFacts(const std::string& path) {
     PictureFacts facts;
     const FileProbe probe = probeFile(path);
     facts.error = probe.error;
@@ -137,6 +136,28 @@ PictureFacts readPictureFacts(const std::string& path) {
     facts.error = open.error;
     if (facts.error.empty()) fillFromVips(open.image.get(), facts);
     return facts;
+}
+
+/// What `read` returns, or that there is no memory for it.
+template <class Result>
+Result withinMemory(Result (*read)(const std::string&), const std::string& path) {
+    try {
+        return read(path);
+    } catch (const std::bad_alloc&) {
+        Result refused;
+        refused.error = "there is not enough memory for it";
+        return refused;
+    }
+}
+
+}  // namespace
+
+ReadPicture readPicture(const std::string& path) {
+    return withinMemory(readAny, path);
+}
+
+PictureFacts readPictureFacts(const std::string& path) {
+    return withinMemory(readAnyFacts, path);
 }
 
 QImage myCreateImageUsingImageSourceFromFile(const std::string& path) {

@@ -1,5 +1,7 @@
 #include "core/image/ImageWriter.h"
 
+#include <new>
+
 #include "core/AtomicFile.h"
 #include "core/image/Exif.h"
 #include "core/image/JpegWriter.h"
@@ -38,12 +40,7 @@ std::string encode(AtomicFile& file, const WriteRequest& request) {
     return writeJpeg(file, request, srgbProfile());
 }
 
-}  // namespace
-
-std::string writePicture(const std::string& path, const WriteRequest& request) {
-    const std::string wrong = checkRequest(request);
-    if (!wrong.empty()) return wrong;
-    if (!startVips()) return "the image library cannot be started";
+std::string write(const std::string& path, const WriteRequest& request) {
     AtomicFile file(path);
     if (!file.error().empty()) return file.error();
     WriteRequest own = request;
@@ -52,6 +49,19 @@ std::string writePicture(const std::string& path, const WriteRequest& request) {
     if (!file.error().empty()) return file.error();
     if (!failed.empty()) return failed;
     return file.commit() ? std::string() : file.error();
+}
+
+}  // namespace
+
+std::string writePicture(const std::string& path, const WriteRequest& request) {
+    const std::string wrong = checkRequest(request);
+    if (!wrong.empty()) return wrong;
+    if (!startVips()) return "the image library cannot be started";
+    try {
+        return write(path, request);
+    } catch (const std::bad_alloc&) {
+        return "there is not enough memory to write it";
+    }
 }
 
 }  // namespace tavrin

@@ -39,6 +39,15 @@ bool readHeader(Decoder& decoder, std::FILE* file, int width, int height) {
            codec.image_height == static_cast<JDIMENSION>(height);
 }
 
+void readMarkers(Decoder& decoder, std::FILE* file) {
+    constexpr int kCameraData = JPEG_APP0 + 1;
+    if (setjmp(decoder.errors.giveUp)) return;
+    jpeg_create_decompress(&decoder.codec);
+    jpeg_stdio_src(&decoder.codec, file);
+    jpeg_save_markers(&decoder.codec, kCameraData, 0xFFFF);
+    jpeg_read_header(&decoder.codec, TRUE);
+}
+
 bool readRows(Decoder& decoder, const UprightPixels& pixels) {
     constexpr JDIMENSION kStrip = 16;  // rows that are laid on their side together
     if (setjmp(decoder.errors.giveUp)) return false;
@@ -65,6 +74,17 @@ bool readRows(Decoder& decoder, const UprightPixels& pixels) {
 }
 
 }  // namespace
+
+std::vector<std::vector<std::uint8_t>> jpegCameraBlocks(const std::string& path) {
+    const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
+    Decoder decoder;
+    std::vector<std::vector<std::uint8_t>> blocks;
+    if (!file) return blocks;
+    readMarkers(decoder, file.get());
+    for (const jpeg_marker_struct* marker = decoder.codec.marker_list; marker; marker = marker->next)
+        blocks.emplace_back(marker->data, marker->data + marker->data_length);
+    return blocks;
+}
 
 QImage decodeOrdinaryJpeg(const std::string& path, int orientation, int width, int height) {
     const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <list>
 #include <mutex>
+#include <tuple>
 
 #include "core/image/ImageReader.h"
 
@@ -83,25 +84,29 @@ bool describe(const std::string& path, PictureKey& key) {
     return !error;
 }
 
-}  // namespace
-
-QImage readKeptPicture(const std::string& path) {
-    return readKeptPicture(path, 0, 0);
+QImage decode(const std::string& path, std::string* problem) {
+    ReadPicture picture = readPicture(path);
+    if (problem) *problem = picture.error;
+    return picture.error.empty() ? std::move(picture.pixels) : QImage();
 }
 
-QImage readKeptPicture(const std::string& path, int width, int height) {
-    PictureKey key;
-    if (!describe(path, key)) return myCreateImageUsingImageSourceFromFile(path);
-    key.width = width;
-    key.height = height;
-    if (QImage kept = PictureCache::instance().find(key); !kept.isNull()) return kept;
+}  // namespace
 
-    QImage picture = width > 0 && height > 0 ? readKeptPicture(path) : myCreateImageUsingImageSourceFromFile(path);
-    if (picture.isNull()) return {};
-    if (width > 0 && height > 0 && picture.size() != QSize(width, height)) {
-        picture = picture.scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+QImage readKeptPicture(const std::string& path, int width, int height, std::string* problem) {
+    const bool stretched = width > 0 && height > 0;
+    PictureKey key;
+    const bool described = describe(path, key);
+    if (stretched) std::tie(key.width, key.height) = std::pair(width, height);
+    if (described) {
+        if (QImage kept = PictureCache::instance().find(key); !kept.isNull()) return kept;
     }
-    PictureCache::instance().keep(key, picture);
+    QImage picture = stretched ? readKeptPicture(path, 0, 0, problem) : decode(path, problem);
+    if (picture.isNull()) return {};
+    if (stretched && picture.size() != QSize(width, height)) {
+        picture = picture.scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        if (picture.isNull() && problem) *problem = "there is not enough memory for it";
+    }
+    if (described && !picture.isNull()) PictureCache::instance().keep(key, picture);
     return picture;
 }
 

@@ -5,6 +5,8 @@
 #include <fstream>
 
 #include "core/HandOver.h"
+#include "core/image/ExifCheck.h"
+#include "core/image/MetadataCheck.h"
 #include "core/image/PsdCheck.h"
 #include "core/image/SrgbConversion.h"
 #include "core/image/UprightPixels.h"
@@ -17,11 +19,27 @@ namespace {
 /// The loaders stop with an error where the data ends too early, and mend what they can otherwise.
 constexpr VipsFailOn kFailOn = VIPS_FAIL_ON_TRUNCATED;
 
+// For the decoders that want a file whole. 400 megapixels take 1.6 GB, and no PSD file may be longer than 2.
+constexpr std::uintmax_t kMostBytes = std::uintmax_t{2} << 30;
+
+bool isReadWhole(FileKind kind) {
+    return kind == FileKind::psd || kind == FileKind::bmp;
+}
+
+/// Why a file is refused before any decoder sees it.
+std::string fileProblem(const std::string& path, FileKind kind) {
+    std::error_code error;
+    const bool whole = isReadWhole(kind);
+    if (whole && std::filesystem::file_size(path, error) > kMostBytes && !error)
+        return "it is too large: at most 2 GB of such a file are read";
+    return whole ? "" : metadataProblem(path, kind);
+}
+
 bool readWhole(const std::string& path, std::vector<std::uint8_t>& bytes) {
     std::ifstream file(path, std::ios::binary);
     std::error_code error;
     const auto size = std::filesystem::file_size(path, error);
-    if (!file || error) return false;
+    if (!file || error || size > kMostBytes) return false;
     bytes.resize(size);
     file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size));
     return file.gcount() == static_cast<std::streamsize>(size);
@@ -32,6 +50,7 @@ bool readWhole(const std::string& path, std::vector<std::uint8_t>& bytes) {
 VipsRef loadFromMemory(const std::string& path, FileKind kind, std::vector<std::uint8_t>& bytes) {
     VipsImage* image = nullptr;
     if (!readWhole(path, bytes) || (kind == FileKind::psd && !psdIsWhole(bytes))) return nullptr;
+    if (!exifInsideIsBounded(bytes)) return nullptr;
     return takeVips(vips_magickload_buffer(bytes.data(), bytes.size(), &image, "fail_on", kFailOn, nullptr), image);
 }
 
@@ -123,6 +142,8 @@ OpenPicture openWithVips(const std::string& path, FileKind kind) {
         open.error = "the image library cannot be started";
         return open;
     }
+    open.error = fileProblem(path, kind);
+    if (!open.error.empty()) return open;
     open.image = load(path, kind, open.bytes);
     if (!open.image) {
         open.error = decodeError();

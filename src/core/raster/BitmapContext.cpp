@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 #include "core/raster/Pixels.h"
 #include "core/raster/Resampling.h"
@@ -97,8 +98,8 @@ bool isUpsideUp(const QTransform& t) {
 
 QImage reducedByArea(const QImage& picture, int width, int height, const RunContext& run) {
     QImage result = newPicture(width, height, picture.format());
-    if (!result.isNull() && !drawResampled(picture, QRectF(result.rect()), result, run)) return {};
-    return result;
+    if (result.isNull()) throw std::bad_alloc();
+    return drawResampled(picture, QRectF(result.rect()), result, run) ? result : QImage();
 }
 
 std::uint8_t nearestByte(double fraction) {
@@ -167,6 +168,7 @@ bool BitmapContext::fillRect(const QRectF& rect, double red, double green, doubl
 bool BitmapContext::drawImage(const QImage& any, const QRectF& rect, double opacity, const RunContext& run) {
     if (image_.isNull() || any.isNull() || !isReasonable(toDevice(), rect)) return true;
     const QImage picture = inOurFormat(any);
+    if (picture.isNull()) throw std::bad_alloc();
     QTransform mapping = pictureToDevice(picture, rect, toDevice());
     if (!mapping.mapRect(QRectF(picture.rect())).intersects(QRectF(image_.rect()))) return true;
     if (isExact(mapping, picture.rect())) return drawExact(picture, mapping, opacity, run);
@@ -181,7 +183,7 @@ bool BitmapContext::drawImage(const QImage& any, const QRectF& rect, double opac
     const int w = reduced(part.width(), scaleX(mapping)), h = reduced(part.height(), scaleY(mapping));
     if (w == part.width() && h == part.height()) return drawSmooth(partOf(picture, part), mapping, opacity, run);
     const QImage small = reducedByArea(partOf(picture, part), w, h, run);
-    if (small.isNull()) return !run.isSuperseded();
+    if (small.isNull()) return false;
     const double stepX = static_cast<double>(part.width()) / w, stepY = static_cast<double>(part.height()) / h;
     mapping = QTransform::fromScale(stepX, stepY) * mapping;
     return isExact(mapping, small.rect()) ? drawExact(small, mapping, opacity, run)

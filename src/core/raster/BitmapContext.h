@@ -37,6 +37,7 @@ class BitmapContext {
     /// interpolated where it is enlarged, turned or lies between pixels. Opaque pixels of a picture that is neither
     /// scaled nor shifted between pixels, also mirrored or turned by right angles, go through unchanged. A rectangle
     /// on whole pixels is filled to its edges. `opacity` is that of the whole picture, 0 to 1.
+    /// Throws std::bad_alloc where there is no room for a picture in between.
     bool drawImage(const QImage& picture, const QRectF& rect, double opacity = 1.0, const RunContext& run = {});
 
     /// The coordinate system; each call acts on what later calls draw. Angles in radians, anticlockwise.

@@ -3,7 +3,6 @@
 #include <memory>
 #include <new>
 
-#include "core/Log.h"
 #include "core/raster/Pixels.h"
 #include "core/raster/WindowLanes.h"
 
@@ -79,16 +78,11 @@ bool blurGrid(const RunContext& context, const SampleGrid<Sample>& grid, int rea
         for (int i = 0; i < count; ++i, pixels += grid.pixelStep, blurred += grid.pixelStep)
             std::copy_n(blurred, grid.channels, pixels);
     };
-    try {
-        const PixelBuffer buffer = bufferLike(grid);
-        if (!buffer.data()) throw std::bad_alloc();
-        auto* const copy = reinterpret_cast<Sample*>(buffer.data());
-        return blurRows(context, grid, reach, copy) &&
-               blurColumns(context, static_cast<const Sample*>(copy), grid, reach, take);
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-        return false;
-    }
+    const PixelBuffer buffer = bufferLike(grid);
+    if (!buffer.data()) throw std::bad_alloc();
+    auto* const copy = reinterpret_cast<Sample*>(buffer.data());
+    return blurRows(context, grid, reach, copy) &&
+           blurColumns(context, static_cast<const Sample*>(copy), grid, reach, take);
 }
 
 }  // namespace

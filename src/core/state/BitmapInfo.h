@@ -45,6 +45,9 @@ class BitmapInfo : public LayerSettings {
     std::uint8_t* pBitmapDataLowRes = nullptr;                    ///< preview resolution
     std::vector<std::uint8_t> sourceExif;                         ///< camera data of the source, as the file has it
 
+    /// Why the source picture is not that of `sSourceImageFullPath`, with the file's name; empty when it is.
+    Field<std::string> sSourceProblem;
+
     Field<std::int32_t> iBitmapType = kForeground;
     Field<bool> bHaveBitmap = false;
 

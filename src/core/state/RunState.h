@@ -2,10 +2,12 @@
 
 #include <array>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "core/state/BitmapInfo.h"
+#include "core/state/FinishedPictures.h"
 #include "core/state/FontObject.h"
 #include "core/state/ImageFrame.h"
 #include "core/state/PageLists.h"
@@ -75,6 +77,9 @@ struct StageState : SkinColor {
     Field<bool> bHiResShadowChange = false, bLowResShadowChange = false;
     Field<bool> bHiResReflectionChange = false, bLowResReflectionChange = false;
     Field<bool> bBackgroundFrozen = false;  ///< the background holds a frozen picture and is not rebuilt
+    QImage silhouettePicture;               ///< what fills the silhouette, RGBA; null: its plain colour
+    std::set<std::string> missingPictures;  ///< told to be missing (NamedPictures.h)
+    FinishedPictures pictures;
 };
 
 /// A picture that is loaded once at start-up: RGBA, `stride` bytes a row. Empty where the file could not be read.

@@ -89,6 +89,13 @@ void SystemInfo::publish(BitmapInfo& record, bool lowRes, int firstRow, int last
     pInterface->repaint(rows);
 }
 
+std::string SystemInfo::whyNotFinished(int res) const {
+    for (const BitmapInfo* record : {pForegroundBitmapInfo.get(), pBackgroundBitmapInfo.get()}) {
+        if (!record->sSourceProblem.empty()) return record->sSourceProblem;
+    }
+    return pictures.whyNot(res);
+}
+
 void SystemInfo::alert(const std::string& message, const std::string& reason) {
     if (pInterface) {
         pInterface->showAlert(message, reason);

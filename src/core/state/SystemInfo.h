@@ -94,6 +94,10 @@ class SystemInfo : public Settings,
     /// Hands the whole combined preview to the interface, if there is one.
     void publishLowRes();
 
+    /// Why the combined picture (res 1: the full one, otherwise the preview) must not go out as that of the present
+    /// sources and settings, as one plain line without a full stop; empty when it may. Callable from any thread.
+    std::string whyNotFinished(int res) const;
+
     /// Shows an alert in the interface; without one message and reason go to the standard error stream.
     void alert(const std::string& message, const std::string& reason);
 

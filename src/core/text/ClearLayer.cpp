@@ -1,6 +1,7 @@
 #include "core/text/ClearLayer.h"
 
 #include <cstring>
+#include <new>
 
 namespace tavrin {
 
@@ -39,7 +40,7 @@ void drawInto(SystemInfo& info, BitmapContext& context, const std::function<void
     if (!pixels) return draw(context);
     const int width = context.width(), height = context.height();
     const PixelBuffer bytes(width, height);
-    if (!bytes.data()) return;
+    if (!bytes.data()) throw std::bad_alloc();
     std::memset(bytes.data(), 0, pixelBytes(width, height));
     BitmapContext layer(bytes.data(), width, height);
     draw(layer);

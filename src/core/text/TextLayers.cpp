@@ -6,8 +6,8 @@
 
 #include <QDateTime>
 
-#include "core/image/PictureCache.h"
 #include "core/raster/ColorMath.h"
+#include "core/state/NamedPictures.h"
 #include "core/text/ClearLayer.h"
 #include "core/text/Fonts.h"
 #include "core/text/TextMacros.h"
@@ -108,20 +108,19 @@ void drawTextItem(BitmapContext& context, const FontObject& item, const Page& pa
     paintText(*painter, text, place, style, run);
 }
 
-void drawPictureItem(BitmapContext& context, const FontObject& item, const Page& page, const RunContext& run) {
+void drawPictureItem(SystemInfo& info, BitmapContext& context, const FontObject& item, const Page& page,
+                     const RunContext& run) {
     const double dpi = page.size.dpi;
     const double width = item.imageSizeWidth * item.dGlobalScaleX * page.pictureScale;
     const double height = item.imageSizeHeight * item.dGlobalScaleY * page.pictureScale;
     const QRectF rect(item.xPos * dpi, item.yPos * dpi, width, height);  // of the context: y upward
     if (item.sText.empty() || !(width > 0.0) || !(height > 0.0)) return;
     const double opacity = clampTo(item.dTransparency, 0.0, 1.0);
-    if (width > page.size.width || height > page.size.height) {
-        context.drawImage(readKeptPicture(item.sText), rect, opacity,
-                          run);  // no more of it is scaled than can be seen
-    } else {
-        const int w = static_cast<int>(std::ceil(width)), h = static_cast<int>(std::ceil(height));
-        context.drawImage(readKeptPicture(item.sText, w, h), rect, opacity, run);
-    }
+    const bool larger = width > page.size.width || height > page.size.height;
+    // Of one that is larger than the page no more is scaled than can be seen.
+    const int w = larger ? 0 : static_cast<int>(std::ceil(width)),
+              h = larger ? 0 : static_cast<int>(std::ceil(height));
+    context.drawImage(readNamedPicture(info, item.sText, "the picture item is left out", w, h), rect, opacity, run);
 }
 
 }  // namespace
@@ -144,7 +143,7 @@ void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string
     drawInto(info, *context, [&](BitmapContext& target) {
         for (const FontObject& item : items) {
             if (run.isSuperseded()) return;
-            if (item.isImage) drawPictureItem(target, item, page, run);
+            if (item.isImage) drawPictureItem(info, target, item, page, run);
             if (!stringOf(item, page).empty() && canDrawText(info)) drawTextItem(target, item, page, run);
         }
     });
@@ -166,12 +165,8 @@ void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::strin
                       const RunContext& run) {
     const PassGeometry size = info.geometry(myRes);
     if (!context || size.width < 1 || size.height < 1) return;
-    const QImage picture = readKeptPicture(myImage, size.width, size.height);
-    if (picture.isNull()) {
-        info.alert("Cound not load file: " + lastPathComponent(myImage) + ", check your file permissions",
-                   "the overlay is left out");
-        return;
-    }
+    const QImage picture = readNamedPicture(info, myImage, "the overlay is left out", size.width, size.height);
+    if (picture.isNull()) return;
     drawInto(info, *context, [&](BitmapContext& target) {
         target.drawImage(picture, QRectF(0, 0, size.width, size.height), 1.0, run);
     });

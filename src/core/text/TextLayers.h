@@ -15,8 +15,7 @@ namespace tavrin {
 
 /// Draws all list items of a level ("Background", "Background Layer", "Foreground", "Foreground Layer", "Frame
 /// Layer") in the order of the list, on the last level the labels first. While `bTextPanelOpen` is set the dialog
-/// shows the items and they are left out. A picture whose file cannot be read is left out with a line on the error
-/// stream.
+/// shows the items and they are left out. A picture whose file cannot be read is left out with an alert.
 ///
 /// The lower left corner of an item, a text's box `rectSize` or the picture, stands `xPos` and `yPos` inches from the
 /// lower left corner of the image. A text starts at the top of its box.

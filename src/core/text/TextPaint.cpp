@@ -74,7 +74,7 @@ void paintPicture(QPainter& painter, const ColourGlyph& glyph, const QTransform&
 std::vector<std::int32_t> coverageOf(const LaidOutText& text, QTransform toDevice, TextStyle style, QRect area,
                                      const RunContext& run) {
     QImage mask(area.size(), QImage::Format_Alpha8);
-    if (mask.isNull()) return {};
+    if (mask.isNull()) throw std::bad_alloc();
     mask.fill(0);
     if (style.fill.isValid()) style.fill = Qt::black;
     if (style.outline.isValid()) style.outline = Qt::black;
@@ -124,7 +124,7 @@ void blur(std::vector<std::int32_t>& coverage, const BoxRadii& boxes, QRect area
 
 QImage inColor(const std::vector<std::int32_t>& coverage, const QColor& color, QRect area) {
     QImage image(area.size(), QImage::Format_RGBA8888_Premultiplied);
-    if (image.isNull()) return image;
+    if (image.isNull()) throw std::bad_alloc();
     const int channels[4] = {color.red(), color.green(), color.blue(), 255};
     auto in = coverage.begin();
     for (int y = 0; y < image.height(); ++y) {

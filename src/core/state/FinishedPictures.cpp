@@ -1,0 +1,33 @@
+#include "core/state/FinishedPictures.h"
+
+namespace tavrin {
+
+void FinishedPictures::begin() {
+    std::lock_guard lock(mutex_);
+    full_ = preview_ = false;
+    failure_.clear();
+}
+
+void FinishedPictures::fail(const std::string& reason) {
+    std::lock_guard lock(mutex_);
+    full_ = preview_ = false;
+    if (failure_.empty()) failure_ = reason;
+}
+
+void FinishedPictures::finish(int res) {
+    std::lock_guard lock(mutex_);
+    if (failure_.empty()) (res == 1 ? full_ : preview_) = true;
+}
+
+std::string FinishedPictures::failure() const {
+    std::lock_guard lock(mutex_);
+    return failure_;
+}
+
+std::string FinishedPictures::whyNot(int res) const {
+    std::lock_guard lock(mutex_);
+    if (res == 1 ? full_ : preview_) return "";
+    return failure_.empty() ? "the picture is not finished" : failure_;
+}
+
+}  // namespace tavrin
