@@ -10,4 +10,9 @@ inline void addLine(std::string& lines, const std::string& line) {
     lines += line;
 }
 
+/// A line, which may end with a full stop or not, and a sentence behind it.
+inline std::string withSentence(const std::string& line, const std::string& sentence) {
+    return line + (line.ends_with('.') ? " " : ". ") + sentence;
+}
+
 }  // namespace tavrin

@@ -88,7 +88,7 @@ class Failures {
     }
     std::string line() const {
         if (more_ == 0) return first_;
-        return first_ + " (" + std::to_string(more_) + " more could not be made.)";
+        return first_ + " (" + std::to_string(more_) + " more files and folders could not be made.)";
     }
 
   private:

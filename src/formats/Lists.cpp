@@ -105,7 +105,7 @@ std::string loadShipped(std::vector<Entry>& list, const std::string& path, const
     if (xml.OpenXMLFile(path)) takeEntries(xml, list, false);
     std::string problem = xml.error;
     if (!problem.empty() && !instead.empty()) {
-        problem += keptAside(xml, path) + ". The shipped list is used.";
+        problem = withSentence(problem + keptAside(xml, path), "The shipped list is used.");
         if (xml.OpenXMLBytes(path, instead)) takeEntries(xml, list, false);
     }
     if (xml.isMissing() && (mayBeMissing || !instead.empty())) problem.clear();

@@ -230,7 +230,7 @@ bool ProcessXML::BoolValue(const std::string& key) {
 
 std::string keptAside(const ProcessXML& xml, const std::string& path) {
     const std::string kept = xml.isDamaged() ? setDamagedFileAside(path) : "";
-    return kept.empty() ? "" : "; it is kept as " + kept;
+    return kept.empty() ? "" : "; it is kept in its folder as " + kept.substr(kept.find_last_of('/') + 1);
 }
 
 std::string unescapeText(const std::string& text) {

@@ -41,10 +41,10 @@ std::string prepareAccount() {
 std::string loadSettings(QLXInfo& settings) {
     std::string problem = LoadQLXFile(settings);
     if (problem.empty()) return "";
+    problem = withSentence(problem, "The program starts with the settings of a fresh account.");
     // With nothing set there would be no state and no picture to start with.
     settings = firstSettings();
     if (!safeFileExists(Places::current().settingsFile())) addLine(problem, SaveQLXFile(settings));
-    addLine(problem, "The program starts with the settings of a fresh account.");
     return problem;
 }
 
@@ -62,8 +62,10 @@ std::string loadDefaultState(SystemInfo& info) {
     const std::string path = info.oQLXInfo->sDefaultQLXFilePath;
     if (path.empty()) return "";
     const LoadedStateFile loaded = loadStateFile(info, path);
-    if (loaded.sizeProblem.empty()) return loaded.problem;
-    return loaded.sizeProblem + " The size \"" + info.sImageSizeName.load() + "\" is used.";
+    if (!loaded.problem.empty())
+        return withSentence(loaded.problem, "The program starts without this default state.");
+    if (loaded.sizeProblem.empty()) return "";
+    return withSentence(loaded.sizeProblem, "The size \"" + info.sImageSizeName.load() + "\" is used.");
 }
 
 /// A list of the user's own making may lack the size to start with.

@@ -265,7 +265,8 @@ void MainWindow::showAlert(const QString& message, const QString& reason) {
 }
 
 void MainWindow::tellStartProblems(const std::string& lines) {
-    if (!lines.empty()) showAlert(tr("Not everything could be read at the start."), QString::fromStdString(lines));
+    const QString apart = QString::fromStdString(lines).replace("\n", "\n\n");
+    if (!lines.empty()) showAlert(tr("Not everything is as it should be at the start."), apart);
 }
 
 void MainWindow::fitToOutput(int outputWidth, int outputHeight) {

@@ -90,7 +90,9 @@ TEST_F(SettingsFileTest, MissingKeysAreEmptyAndBadFilesChangeNothing) {
                             "</QLXSettings>"}) {
         const std::string kept = file + ".damaged" + (++number > 1 ? "-" + std::to_string(number) : "");
         writeFile(file, bad);
-        EXPECT_THAT(LoadQLXFile(settings), AllOf(HasSubstr(file + ": "), HasSubstr("it is kept as " + kept)));
+        EXPECT_THAT(LoadQLXFile(settings),
+                    AllOf(HasSubstr(file + ": "),
+                          HasSubstr("it is kept in its folder as " + fs::path(kept).filename().string())));
         EXPECT_EQ(settings.sPrefix.load(), "p");
         EXPECT_FALSE(fs::exists(file));
         EXPECT_EQ(readFile(kept), bad);
@@ -223,7 +225,7 @@ TEST_F(ListsTest, ADamagedShippedListIsSetAsideForAWholeOne) {
     const std::string file = Places::current().imageSizeFile();
     for (const char* bad : {"", "<ImageSizeList><ImageSize>", "<AllPages/>"}) {
         writeFile(file, bad);
-        EXPECT_THAT(LoadImageSizesFromXML(info, shippedFile("ImageSize.xml")), HasSubstr(file + ".damaged"));
+        EXPECT_THAT(LoadImageSizesFromXML(info, shippedFile("ImageSize.xml")), HasSubstr("ImageSize.xml.damaged"));
         EXPECT_EQ(info.iImageSizeCount(), 52);
         EXPECT_FALSE(fs::exists(file));
     }

@@ -180,7 +180,7 @@ TEST_F(MainWindowTest, ProblemsOfTheStartAreShownAndHoldNothingUp) {
     const auto boxes = window_->findChildren<QMessageBox*>();
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_TRUE(boxes[0]->isVisible());
-    EXPECT_EQ(boxes[0]->informativeText(), "The list is damaged.\nThe state too.");
+    EXPECT_EQ(boxes[0]->informativeText(), "The list is damaged.\n\nThe state too.");
 }
 
 TEST_F(MainWindowTest, AnUnreadableFileIsToldAndTheOldPictureStays) {
