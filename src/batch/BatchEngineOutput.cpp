@@ -1,6 +1,6 @@
 // Where the pictures of the desktop program's batch go.
 #include "batch/BatchEngine.h"
-#include "batch/OutputGuard.h"
+#include "batch/OutputPlace.h"
 #include "core/FileIdentity.h"
 #include "core/state/NamedFiles.h"
 

@@ -6,6 +6,7 @@
 
 #include "batch/BatchNames.h"
 #include "batch/OutputGuard.h"
+#include "batch/OutputPlace.h"
 #include "core/AtomicFile.h"
 
 namespace fs = std::filesystem;

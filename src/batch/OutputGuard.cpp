@@ -1,14 +1,11 @@
 #include "batch/OutputGuard.h"
 
-#include <filesystem>
 #include <set>
 #include <unordered_set>
 #include <utility>
 
 #include "core/FileIdentity.h"
 #include "core/state/NamedFiles.h"
-
-namespace fs = std::filesystem;
 
 namespace tavrin {
 
@@ -40,16 +37,6 @@ struct Output {
     std::string path;
 };
 
-std::string realPath(const fs::path& path) {
-    std::error_code failed;
-    const fs::path real = fs::weakly_canonical(fs::absolute(path.empty() ? "." : path), failed);
-    return failed ? std::string() : real.string();
-}
-
-bool isWithin(const std::string& path, const std::string& folder) {
-    return path == folder || folder == "/" || path.starts_with(folder + "/");
-}
-
 }  // namespace
 
 std::string findOverwrittenInput(const JobSources& sources, const std::string& report,
@@ -73,15 +60,6 @@ std::string findOverwrittenInput(const JobSources& sources, const std::string& r
         if (const std::string* input = inputs.find(output.file)) return overwritesInput(output.path, *input) + ".";
     }
     return "";
-}
-
-std::string whyOutside(const std::string& folder, const std::string& picture) {
-    const std::string own = fs::path(picture).parent_path().string();
-    const std::string base = realPath(!folder.empty() && picture.starts_with(folder + "/") ? folder : own);
-    if (!isWithin(realPath(own), base)) return "its folder leads out of " + folder;
-    std::error_code ignored;
-    if (!fs::is_symlink(picture, ignored) || isWithin(realPath(picture), base)) return "";
-    return "there is a link of this name that leads out of " + (own.empty() ? "the folder" : own);
 }
 
 }  // namespace tavrin
