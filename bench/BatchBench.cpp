@@ -6,7 +6,7 @@
 #include <string>
 
 #include "batch/BatchEngine.h"
-#include "batch/HistoryFile.h"
+#include "folders/HistoryFile.h"
 
 namespace fs = std::filesystem;
 

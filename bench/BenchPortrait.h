@@ -4,7 +4,7 @@
 #include <random>
 
 #include "core/raster/ColorMath.h"
-#include "key/BaseGreen.h"
+#include "key/screen/BaseGreen.h"
 
 // The picture that the benchmarks of the key and of what rests on it work on.
 namespace tavrin::bench {

@@ -3,10 +3,10 @@
 #include <benchmark/benchmark.h>
 #include <memory>
 
-#include "effects/GlobalSmoothing.h"
 #include "effects/Presets.h"
-#include "effects/Sketch.h"
-#include "effects/StarFilter.h"
+#include "effects/sketch/Sketch.h"
+#include "effects/smoothing/GlobalSmoothing.h"
+#include "effects/star/StarFilter.h"
 #include "key/Combine.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"

@@ -4,12 +4,12 @@
 #include <random>
 
 #include "core/raster/BoxBlur.h"
-#include "key/GreenGuard.h"
-#include "key/HairCorrection.h"
-#include "key/HairDetail.h"
-#include "key/HairDetect.h"
-#include "key/Skin.h"
 #include "key/SmoothEdges.h"
+#include "key/guard/GreenGuard.h"
+#include "key/hair/HairCorrection.h"
+#include "key/hair/HairDetail.h"
+#include "key/hair/HairDetect.h"
+#include "key/skin/Skin.h"
 
 // The stages of the key around its pixel loop, at preview size and at 2400 x 3000, on one thread and on two.
 namespace {

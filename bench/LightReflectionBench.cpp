@@ -4,7 +4,7 @@
 #include "BenchPortrait.h"
 #include "effects/Reflection.h"
 #include "key/Combine.h"
-#include "key/Lighting.h"
+#include "key/light/Lighting.h"
 
 namespace tavrin {
 namespace {

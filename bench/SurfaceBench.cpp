@@ -5,9 +5,9 @@
 #include <memory>
 
 #include "core/raster/ColorMath.h"
-#include "effects/Frame.h"
-#include "effects/Shadow.h"
 #include "effects/Texture.h"
+#include "effects/frame/Frame.h"
+#include "effects/shadow/Shadow.h"
 #include "key/Combine.h"
 
 namespace tavrin {

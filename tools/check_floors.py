@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Checks that no file of src/ includes anything of a higher floor.
+"""Checks that no file of src/ includes anything of a higher floor or a higher room.
 
-A file includes what stands on a lower floor, or its own folder. Two folders of one floor do not know each other.
-Without arguments the tree is checked; --self-test checks the checker.
+A file includes what stands on a lower floor, or its own folder. Two folders of one floor do not know each other. In a
+folder with rooms (sub-folders) the same holds for these: a file includes its own room and the rooms below it; "." is
+what lies in the folder itself. Without arguments the tree is checked; --self-test checks the checker.
 """
 import re
 import sys
@@ -11,25 +12,63 @@ from pathlib import Path
 
 FLOORS = {
     "core": 0,
+    "folders": 1,
     "formats": 1,
     "key": 2,
     "effects": 3,
     "pipeline": 4,
     "delivery": 5,
     "editor": 5,
+    "session": 5,
     "batch": 6,
+    "booth": 6,
+    "farm": 6,
     "ui": 7,
     "apps": 8,
 }
 WINDOW_FLOOR = FLOORS["ui"]
+
+# The rooms of a folder from the lowest up; those of one line do not know each other.
+ROOMS = {
+    "core": [["."], ["files"], ["raster"], ["image"], ["state"], ["text"]],
+    "key": [["pixel"], ["screen", "skin", "guard"], ["hair", "spill"], ["light"], ["."]],
+    "effects": [["."], ["frame", "shadow", "sketch", "smoothing", "star"]],
+    "apps": [["cli", "desktop"]],
+}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)')
 # The engine is not linked with these, so the compiler finds most of them too; the form with a folder it does not.
 WINDOW_HEADER = re.compile(r"^(Qt(Widgets|PrintSupport|WebEngine\w*)/|QApplication$|Q\w*(Widget|Dialog)$)")
 
 
-def fault(folder, quoted, system):
-    """The rule that an include in a file of `folder` breaks, or None."""
+def place(path):
+    """The folder and the room of a path below src/."""
+    parts = path.split("/")
+    return parts[0], parts[1] if len(parts) > 2 else "."
+
+
+def level(folder, room):
+    """How high a room stands in its folder, or None when the table does not have it."""
+    rooms = ROOMS.get(folder, [["."]])
+    return next((height for height, row in enumerate(rooms) if room in row), None)
+
+
+def room_fault(folder, room, target):
+    """The rule that an include of room `target` breaks in `room` of the same folder, or None."""
+    if target == room:
+        return None
+    own, other = level(folder, room), level(folder, target)
+    if other is None:
+        return f"the room {folder}/{target} is not in the table of tools/check_floors.py"
+    if other == own:
+        return f"{folder}/{room} and {folder}/{target} stand side by side and do not include each other"
+    if other > own:
+        return f"{folder}/{room} includes {folder}/{target}, which stands higher"
+    return None
+
+
+def fault(folder, room, quoted, system):
+    """The rule that an include in a file of `folder`/`room` breaks, or None."""
     floor = FLOORS[folder]
     if system:
         if floor < WINDOW_FLOOR and WINDOW_HEADER.match(system):
@@ -37,13 +76,24 @@ def fault(folder, quoted, system):
         return None
     if quoted.endswith(".moc"):
         return None
-    target = quoted.split("/")[0]
+    target, target_room = place(quoted)
     if "/" not in quoted or target not in FLOORS:
         return f'"{quoted}" does not begin with a folder of src/, as in "core/state/SystemInfo.h"'
-    if target != folder and FLOORS[target] == floor:
+    if target == folder:
+        return room_fault(folder, room, target_room)
+    if FLOORS[target] == floor:
         return f"{folder} and {target} stand on the same floor ({floor}) and do not include each other"
     if FLOORS[target] > floor:
         return f"{folder} (floor {floor}) includes {target} (floor {FLOORS[target]}), which stands higher"
+    return None
+
+
+def missing_from_tables(folder, room):
+    """What the tables lack for a file that lies in `folder`/`room`, or None."""
+    if folder not in FLOORS:
+        return f"the folder {folder} has no floor; add it to the table in tools/check_floors.py"
+    if level(folder, room) is None:
+        return f"the room {folder}/{room} has no place; add it to the table in tools/check_floors.py"
     return None
 
 
@@ -53,13 +103,14 @@ def check(source_root):
     for path in sorted(source_root.rglob("*")):
         if path.suffix not in (".h", ".cpp"):
             continue
-        folder = path.relative_to(source_root).parts[0]
-        if folder not in FLOORS:
-            faults.append(f"{path}:1: the folder {folder} has no floor; add it to the table in tools/check_floors.py")
+        folder, room = place(path.relative_to(source_root).as_posix())
+        reason = missing_from_tables(folder, room)
+        if reason:
+            faults.append(f"{path}:1: {reason}")
             continue
         for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
             match = INCLUDE.match(line)
-            reason = match and fault(folder, match.group(1), match.group(2))
+            reason = match and fault(folder, room, match.group(1), match.group(2))
             if reason:
                 faults.append(f"{path}:{number}: {reason}")
     return faults
@@ -67,7 +118,8 @@ def check(source_root):
 
 def self_test():
     """Builds small trees, good and bad, and sees whether exactly the bad lines are found."""
-    good = ['#include "core/a.h"', '#include "key/b.h"', "#include <QImage>", "#include <vector>"]
+    good = ['#include "core/a.h"', '#include "core/text/t.h"', '#include "key/b.h"', '#include "key/hair/b.h"',
+            "#include <QImage>", "#include <vector>"]
     bad = {
         "key/up.cpp": '#include "pipeline/loop.h"',
         "core/spaced.h": ' #  include "formats/x.h"',
@@ -75,6 +127,10 @@ def self_test():
         "batch/window.cpp": "#include <QtWidgets/QWidget>",
         "delivery/dialog.cpp": "#include <QPrintDialog>",
         "core/state/local.cpp": '#include "local.h"',
+        "core/raster/state.cpp": '#include "core/state/SystemInfo.h"',
+        "key/pixel/root.cpp": '#include "key/Combine.h"',
+        "key/skin/beside.cpp": '#include "key/guard/x.h"',
+        "key/cellar/x.h": "",
         "elsewhere/x.h": "",
     }
     with tempfile.TemporaryDirectory() as folder:

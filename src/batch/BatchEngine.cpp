@@ -4,9 +4,9 @@
 #include <filesystem>
 #include <limits>
 
-#include "batch/BatchList.h"
-#include "batch/ListText.h"
 #include "core/Log.h"
+#include "folders/BatchList.h"
+#include "folders/ListText.h"
 #include "formats/SettingsFile.h"
 
 namespace fs = std::filesystem;

@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
-#include "batch/BatchElement.h"
-#include "batch/BatchNames.h"
 #include "batch/BatchView.h"
-#include "batch/NextFileInFolder.h"
-#include "core/FileIdentity.h"
+#include "core/files/FileIdentity.h"
 #include "core/state/SystemInfo.h"
+#include "folders/BatchElement.h"
+#include "folders/BatchNames.h"
+#include "folders/NextFileInFolder.h"
 
 namespace tavrin {
 

@@ -1,8 +1,8 @@
 // Where the pictures of the desktop program's batch go.
 #include "batch/BatchEngine.h"
-#include "batch/OutputPlace.h"
-#include "core/FileIdentity.h"
+#include "core/files/FileIdentity.h"
 #include "core/state/NamedFiles.h"
+#include "folders/OutputPlace.h"
 
 namespace tavrin {
 

@@ -7,8 +7,8 @@
 
 #include "core/raster/Pixels.h"
 #include "effects/Texture.h"
-#include "key/ChannelRoles.h"
-#include "key/SpillKey.h"
+#include "key/pixel/ChannelRoles.h"
+#include "key/spill/SpillKey.h"
 
 namespace tavrin {
 

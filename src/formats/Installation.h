@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/Places.h"
+#include "core/files/Places.h"
 #include "core/state/QLXInfo.h"
 
 namespace tavrin {

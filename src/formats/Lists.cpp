@@ -1,7 +1,7 @@
 #include "formats/Lists.h"
 
 #include "core/Lines.h"
-#include "core/Places.h"
+#include "core/files/Places.h"
 #include "formats/LeafXML.h"
 
 namespace tavrin {

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "core/Log.h"
-#include "core/StandardPath.h"
+#include "core/files/StandardPath.h"
 #include "formats/ProcessXML.h"
 
 namespace tavrin {

@@ -18,8 +18,8 @@
 #include <QLockFile>
 #include <QUuid>
 
-#include "core/AtomicFile.h"
 #include "core/Log.h"
+#include "core/files/AtomicFile.h"
 
 namespace fs = std::filesystem;
 

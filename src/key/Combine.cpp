@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "key/CombineRow.h"
-#include "key/Lighting.h"
-#include "key/OnePixel.h"
+#include "key/light/Lighting.h"
+#include "key/pixel/OnePixel.h"
 
 namespace tavrin {
 

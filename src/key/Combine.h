@@ -1,6 +1,6 @@
 #pragma once
 
-#include "key/CombineParams.h"
+#include "key/pixel/CombineParams.h"
 
 namespace tavrin {
 

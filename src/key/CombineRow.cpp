@@ -8,9 +8,9 @@
 #define HWY_TARGET_INCLUDE "key/CombineRow.cpp"
 #include <hwy/foreach_target.h>
 
-#include "key/DecisionLanes-inl.h"
-#include "key/FinishLanes-inl.h"
-#include "key/LayerTone-inl.h"
+#include "key/pixel/DecisionLanes-inl.h"
+#include "key/pixel/FinishLanes-inl.h"
+#include "key/pixel/LayerTone-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace tavrin {

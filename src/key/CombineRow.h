@@ -1,7 +1,7 @@
 #pragma once
 
-#include "key/CombineParams.h"
 #include "key/KeyJoins.h"
+#include "key/pixel/CombineParams.h"
 
 namespace tavrin {
 

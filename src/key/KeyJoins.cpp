@@ -1,6 +1,6 @@
 #include "key/KeyJoins.h"
 
-#include "key/ChannelRoles.h"
+#include "key/pixel/ChannelRoles.h"
 
 namespace tavrin {
 

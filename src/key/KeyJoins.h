@@ -1,9 +1,9 @@
 #pragma once
 
-#include "key/CombineParams.h"
-#include "key/GreenGuard.h"
-#include "key/HairCorrection.h"
-#include "key/KeyedRun.h"
+#include "key/guard/GreenGuard.h"
+#include "key/hair/HairCorrection.h"
+#include "key/pixel/CombineParams.h"
+#include "key/pixel/KeyedRun.h"
 
 namespace tavrin {
 

@@ -8,7 +8,7 @@
 
 #include "core/Log.h"
 #include "core/raster/Rows.h"
-#include "key/BaseGreen.h"
+#include "key/screen/BaseGreen.h"
 
 namespace tavrin {
 

@@ -6,7 +6,7 @@
 
 #include <QBuffer>
 
-#include "core/AtomicFile.h"
+#include "core/files/AtomicFile.h"
 #include "core/image/ImageWriter.h"
 #include "core/state/NamedFiles.h"
 

@@ -3,7 +3,7 @@
 #include <new>
 
 #include "core/state/NamedPictures.h"
-#include "key/BaseGreen.h"
+#include "key/screen/BaseGreen.h"
 #include "pipeline/Layers.h"
 #include "pipeline/Stages.h"
 

@@ -12,7 +12,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 
-#include "core/NameText.h"
+#include "core/files/NameText.h"
 #include "core/state/NamedFiles.h"
 #include "formats/ImageState.h"
 #include "pipeline/OutputSize.h"

@@ -4,9 +4,9 @@
 #include <thread>
 
 #include "batch/BatchEngine.h"
-#include "batch/BatchNames.h"
-#include "batch/HistoryFile.h"
-#include "core/Places.h"
+#include "core/files/Places.h"
+#include "folders/BatchNames.h"
+#include "folders/HistoryFile.h"
 #include "formats/ImageState.h"
 #include "formats/SettingsFile.h"
 #include "pipeline/CombineThread.h"

@@ -10,12 +10,12 @@
 #include <sys/stat.h>
 #include <thread>
 
-#include "batch/Arrivals.h"
-#include "batch/FolderWatch.h"
-#include "batch/JobList.h"
-#include "batch/Journal.h"
-#include "batch/Shard.h"
-#include "core/AtomicFile.h"
+#include "core/files/AtomicFile.h"
+#include "farm/JobList.h"
+#include "farm/Journal.h"
+#include "farm/Shard.h"
+#include "folders/Arrivals.h"
+#include "folders/FolderWatch.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"

@@ -6,8 +6,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "core/FileIdentity.h"
-#include "core/NameText.h"
+#include "core/files/FileIdentity.h"
+#include "core/files/NameText.h"
 #include "formats/SafeFile.h"
 #include "support/Files.h"
 #include "support/TestData.h"

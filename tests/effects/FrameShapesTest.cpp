@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "core/raster/Pixels.h"
-#include "effects/FrameShapes.h"
+#include "effects/frame/FrameShapes.h"
 #include "support/Portrait.h"
 
 namespace tavrin {

@@ -2,8 +2,8 @@
 
 #include "core/raster/Pixels.h"
 #include "effects/BlurBitmap.h"
-#include "effects/Frame.h"
-#include "effects/FrameShapes.h"
+#include "effects/frame/Frame.h"
+#include "effects/frame/FrameShapes.h"
 #include "support/Pictures.h"
 #include "support/Portrait.h"
 #include "support/TestData.h"

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/raster/FloatArray3.h"
-#include "effects/GlobalSmoothing.h"
+#include "effects/smoothing/GlobalSmoothing.h"
 #include "support/EffectPictures.h"
 #include "support/Superseded.h"
 #include "support/VectorTargets.h"

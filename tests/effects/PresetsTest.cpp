@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "core/Places.h"
+#include "core/files/Places.h"
 #include "core/state/SettingNames.h"
 #include "effects/Presets.h"
 #include "support/Files.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/raster/Pixels.h"
-#include "effects/Shadow.h"
+#include "effects/shadow/Shadow.h"
 #include "support/Portrait.h"
 
 namespace tavrin {

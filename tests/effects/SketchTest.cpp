@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <numeric>
 
-#include "effects/Sketch.h"
-#include "effects/SketchTools.h"
+#include "effects/sketch/Sketch.h"
+#include "effects/sketch/SketchTools.h"
 #include "support/EffectPictures.h"
 #include "support/Superseded.h"
 #include "support/VectorTargets.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "effects/StarFilter.h"
+#include "effects/star/StarFilter.h"
 #include "support/EffectPictures.h"
 #include "support/Superseded.h"
 

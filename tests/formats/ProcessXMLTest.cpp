@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "core/StandardPath.h"
+#include "core/files/StandardPath.h"
 #include "formats/ProcessXML.h"
 #include "support/Files.h"
 #include "support/TestData.h"

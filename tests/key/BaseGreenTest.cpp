@@ -2,7 +2,7 @@
 
 #include "key/EasySettings.h"
 #include "key/KeyScene.h"
-#include "key/ScreenHue.h"
+#include "key/screen/ScreenHue.h"
 
 namespace tavrin {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "key/KeyScene.h"
-#include "key/Surroundings.h"
+#include "key/pixel/Surroundings.h"
 
 namespace tavrin {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "key/GreenGuard.h"
+#include "key/guard/GreenGuard.h"
 #include "support/Portrait.h"
 
 namespace tavrin {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "key/HairCorrection.h"
+#include "key/hair/HairCorrection.h"
 #include "support/Portrait.h"
 
 namespace tavrin {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "key/HairDetail.h"
-#include "key/HairDetect.h"
+#include "key/hair/HairDetail.h"
+#include "key/hair/HairDetect.h"
 #include "support/Portrait.h"
 
 namespace tavrin {

@@ -4,9 +4,9 @@
 #include <random>
 #include <vector>
 
-#include "key/BaseGreen.h"
 #include "key/Combine.h"
-#include "key/OnePixel.h"
+#include "key/pixel/OnePixel.h"
+#include "key/screen/BaseGreen.h"
 
 namespace tavrin::test {
 

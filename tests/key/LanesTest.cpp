@@ -4,7 +4,7 @@
 #include "key/AlphaSides.h"
 #include "key/CombineRow.h"
 #include "key/KeyScene.h"
-#include "key/ScreenFilter.h"
+#include "key/screen/ScreenFilter.h"
 #include "support/VectorTargets.h"
 
 namespace tavrin {

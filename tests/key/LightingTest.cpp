@@ -4,8 +4,8 @@
 
 #include "core/raster/BoxBlur.h"
 #include "key/KeyScene.h"
-#include "key/Lighting.h"
-#include "key/SpillKey.h"
+#include "key/light/Lighting.h"
+#include "key/spill/SpillKey.h"
 #include "support/VectorTargets.h"
 
 namespace tavrin {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/RandomSource.h"
-#include "key/Skin.h"
+#include "key/skin/Skin.h"
 #include "support/Portrait.h"
 
 namespace tavrin {

@@ -3,7 +3,7 @@
 #include <QImage>
 
 #include "key/KeyScene.h"
-#include "key/SpillKey.h"
+#include "key/spill/SpillKey.h"
 #include "support/TestData.h"
 
 namespace tavrin {

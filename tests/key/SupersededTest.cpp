@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "key/GreenGuard.h"
-#include "key/HairDetect.h"
+#include "key/guard/GreenGuard.h"
+#include "key/hair/HairDetect.h"
 #include "support/Portrait.h"
 #include "support/Superseded.h"
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/Places.h"
+#include "core/files/Places.h"
 #include "formats/ImageState.h"
 #include "formats/Installation.h"
 #include "formats/Lists.h"

@@ -8,10 +8,10 @@
 #include "apps/cli/BatchConsole.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/PictureOptions.h"
-#include "batch/BatchNames.h"
-#include "core/FileIdentity.h"
 #include "core/Interruption.h"
+#include "core/files/FileIdentity.h"
 #include "core/raster/PixelMemory.h"
+#include "folders/BatchNames.h"
 #include "pipeline/StartUp.h"
 
 namespace tavrin::cli {

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <deque>
 
-#include "batch/BatchRun.h"
+#include "farm/BatchRun.h"
 
 namespace tavrin::cli {
 

@@ -9,7 +9,7 @@
 #include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/Output.h"
-#include "core/NameText.h"
+#include "core/files/NameText.h"
 #include "core/state/NamedFiles.h"
 #include "core/state/SettingNames.h"
 #include "core/state/SystemInfo.h"

@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "core/AtomicFile.h"
+#include "core/files/AtomicFile.h"
 #include "core/image/Exif.h"
 #include "core/image/JpegWriter.h"
 #include "core/image/PngWriter.h"

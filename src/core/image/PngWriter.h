@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/AtomicFile.h"
+#include "core/files/AtomicFile.h"
 #include "core/image/ImageWriter.h"
 
 namespace tavrin {

@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "core/FileIdentity.h"
-#include "core/StandardPath.h"
+#include "core/files/FileIdentity.h"
+#include "core/files/StandardPath.h"
 #include "core/image/FileKind.h"
 
 namespace tavrin {

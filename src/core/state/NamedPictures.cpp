@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "core/files/StandardPath.h"
 #include "core/image/PictureCache.h"
 #include "core/state/SettingNames.h"
-#include "core/text/TextMacros.h"
 
 namespace tavrin {
 

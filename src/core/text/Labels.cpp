@@ -2,6 +2,7 @@
 #include <cctype>
 #include <iterator>
 
+#include "core/files/StandardPath.h"
 #include "core/text/ClearLayer.h"
 #include "core/text/Fonts.h"
 #include "core/text/TextLayers.h"

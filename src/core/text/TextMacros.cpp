@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QString>
 
+#include "core/files/StandardPath.h"
+
 namespace tavrin {
 
 namespace {
@@ -19,10 +21,6 @@ QString digitsOf(const QString& name) {
 }
 
 }  // namespace
-
-std::string lastPathComponent(const std::string& path) {
-    return std::filesystem::path(path).filename().string();
-}
 
 std::string expandMacros(const std::string& text, const std::string& sourcePath, const QDateTime& now) {
     if (text.find("<<") == std::string::npos) return text;

@@ -11,7 +11,4 @@ namespace tavrin {
 /// of them, as often as they stand there; anything else in double brackets stays.
 std::string expandMacros(const std::string& text, const std::string& sourcePath, const QDateTime& now);
 
-/// The last part of a path.
-std::string lastPathComponent(const std::string& path);
-
 }  // namespace tavrin

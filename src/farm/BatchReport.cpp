@@ -1,0 +1,200 @@
+#include "farm/BatchReport.h"
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+#include <QDateTime>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "core/files/AtomicFile.h"
+#include "core/files/FileIdentity.h"
+#include "core/files/NameText.h"
+#include "core/image/FileKind.h"
+
+namespace fs = std::filesystem;
+
+namespace tavrin {
+
+namespace {
+
+constexpr const char* kKind = "tavrin-batch";
+
+const char* statusName(JobResult::Status status) {
+    switch (status) {
+        case JobResult::Status::done:
+            return "done";
+        case JobResult::Status::skipped:
+            return "skipped";
+        case JobResult::Status::planned:
+            return "planned";
+        default:
+            return "failed";
+    }
+}
+
+std::string lineOf(const QJsonObject& object) {
+    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+}
+
+double rounded(double seconds) {
+    return std::round(seconds * 1000.0) / 1000.0;
+}
+
+QJsonObject sums(const BatchCounts& counts) {
+    return {{"jobs", counts.jobs},
+            {"done", counts.done},
+            {"skipped", counts.skipped},
+            {"failed", counts.failed},
+            {"left", counts.left()}};
+}
+
+std::string writeLines(const std::string& path, const std::vector<std::string>& lines) {
+    AtomicFile file(path);
+    for (const std::string& line : lines) {
+        file.write(line.data(), line.size());
+        file.write("\n", 1);
+    }
+    return file.commit() ? std::string() : path + ": " + file.error() + ".";
+}
+
+/// All reports that are to be joined, read into one.
+class Merger {
+  public:
+    std::string read(const std::string& path) {
+        std::ifstream file;
+        if (isPlainFile(path)) file.open(path, std::ios::binary);
+        if (!file.is_open()) return path + " cannot be read.";
+        bool isReport = false;
+        for (std::string line; std::getline(file, line);) {
+            const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
+            if (object["report"].toString() == kKind) {
+                isReport = true;
+                readHead(object);
+            } else if (isReport && object.contains("n")) {
+                readJob(object);
+            }
+        }
+        return isReport ? std::string() : path + " is no report of a batch.";
+    }
+
+    MergedReport write(const std::string& out) {
+        MergedReport merged;
+        merged.counts.jobs = total_;
+        std::vector<std::string> lines;
+        QJsonObject head{{"report", kKind}, {"jobs", total_}, {"shards", QJsonArray::fromStringList(shards_)}};
+        if (lists_.size() == 1) head["list"] = *lists_.begin();
+        lines.push_back(lineOf(head));
+        for (const auto& [number, job] : jobs_) {
+            lines.push_back(lineOf(job));
+            count(job, merged);
+        }
+        QJsonObject end = sums(merged.counts);
+        end["seconds"] = rounded(seconds_);
+        lines.push_back(lineOf({{"summary", end}}));
+        if (lists_.size() > 1)
+            merged.warning =
+                "The shards did not see the same list: run all of them again, done pictures are skipped.";
+        merged.problem = writeLines(out, lines);
+        return merged;
+    }
+
+  private:
+    void readHead(const QJsonObject& head) {
+        total_ = std::max(total_, head["jobs"].toInt());
+        if (head.contains("list")) lists_.insert(head["list"].toString());
+        if (head.contains("shard")) shards_.append(head["shard"].toString());
+        for (const auto& shard : head["shards"].toArray())
+            shards_.append(shard.toString());
+    }
+
+    void readJob(const QJsonObject& job) {
+        QJsonObject& known = jobs_[job["n"].toInt()];
+        const bool better = known.isEmpty() || known["status"].toString() == "failed" ||
+                            (known["status"].toString() == "skipped" && job["status"].toString() == "done");
+        if (better) known = job;
+        seconds_ += job["seconds"].toDouble();
+    }
+
+    static void count(const QJsonObject& job, MergedReport& merged) {
+        const QString status = job["status"].toString();
+        if (status == "done") ++merged.counts.done;
+        if (status == "skipped") ++merged.counts.skipped;
+        if (status != "failed") return;
+        ++merged.counts.failed;
+        merged.failures.push_back(nameOfText(job["foreground"].toString() + ": " + job["reason"].toString()));
+    }
+
+    int total_ = 0;
+    double seconds_ = 0.0;
+    QStringList shards_;
+    std::set<QString> lists_;
+    std::map<int, QJsonObject> jobs_;
+};
+
+}  // namespace
+
+std::string describeResult(const JobResult& result, const std::string& outFolder) {
+    const BatchJob& job = result.job;
+    QJsonObject object{{"n", job.number},
+                       {"foreground", textOfName(job.foreground)},
+                       {"out", textOfName(relativeTo(outFolder, job.out))},
+                       {"status", statusName(result.status)}};
+    if (!job.background.empty()) object["background"] = textOfName(job.background);
+    if (!job.state.empty()) object["state"] = textOfName(job.state);
+    if (!result.reason.empty()) object["reason"] = textOfName(result.reason);
+    if (result.status == JobResult::Status::done) {
+        object["width"] = result.width;
+        object["height"] = result.height;
+        object["seconds"] = rounded(result.seconds);
+        object["at"] = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
+    }
+    return lineOf(object);
+}
+
+void BatchReport::begin(const std::string& shard, int total, const std::string& list) {
+    head_ = lineOf({{"report", kKind}, {"shard", textOfName(shard)}, {"jobs", total}, {"list", textOfName(list)}});
+}
+
+void BatchReport::add(const JobResult& result, const std::string& outFolder) {
+    lines_[result.job.number] = describeResult(result, outFolder);
+}
+
+std::string BatchReport::write(const std::string& path, const BatchCounts& counts, double seconds) const {
+    std::vector<std::string> lines{head_};
+    for (const auto& [number, line] : lines_)
+        lines.push_back(line);
+    QJsonObject end = sums(counts);
+    end["seconds"] = rounded(seconds);
+    lines.push_back(lineOf({{"summary", end}}));
+    return writeLines(path, lines);
+}
+
+std::string whyNoReport(const std::string& path, const std::string& outFolder) {
+    if (isPlainFile(path) && probeFile(path).kind != FileKind::unknown)
+        return path + " is a picture; no report is written over it.";
+    std::error_code ignored;
+    const fs::path folder = fs::absolute(path).lexically_normal().parent_path();
+    const bool isMadeByRun =
+        !outFolder.empty() && fs::absolute(outFolder).lexically_normal() == folder && !fs::exists(outFolder, ignored);
+    if (isMadeByRun) return "";
+    const AtomicFile trial(path);
+    return trial.error().empty() ? "" : "The report " + path + " cannot be written: " + trial.error() + ".";
+}
+
+MergedReport mergeReports(const std::vector<std::string>& paths, const std::string& out) {
+    Merger merger;
+    for (const std::string& path : paths) {
+        if (const std::string problem = merger.read(path); !problem.empty()) {
+            MergedReport none;
+            none.problem = problem;
+            return none;
+        }
+    }
+    return merger.write(out);
+}
+
+}  // namespace tavrin

@@ -1,0 +1,148 @@
+#include "farm/PictureMaker.h"
+
+#include <filesystem>
+
+#include <QCoreApplication>
+
+#include "core/state/NamedFiles.h"
+#include "core/state/SettingNames.h"
+#include "core/text/TextLayers.h"
+#include "pipeline/CombineThread.h"
+#include "pipeline/OutputSize.h"
+#include "pipeline/StartUp.h"
+
+namespace fs = std::filesystem;
+
+namespace tavrin {
+
+namespace {
+
+/// Keeps what the engine would have shown.
+class Alerts : public Interface {
+  public:
+    bool wantsPixels() const override { return false; }
+    void showAlert(const std::string& message, const std::string& reason) override {
+        all += (all.empty() ? "" : "; ") + message + " (" + reason + ")";
+    }
+    std::string all;
+};
+
+/// The sources count by their own contents, and each machine may have them elsewhere.
+bool isPlace(const std::string& setting) {
+    return setting.ends_with("sSourceImageFullPath");
+}
+
+std::string digestOfSettings(const SystemInfo& info) {
+    std::string text = QCoreApplication::applicationVersion().toStdString() + "\n";
+    if (const std::optional<ImageSize> size = selectedSize(info)) {
+        text += std::to_string(size->dWidth) + "x" + std::to_string(size->dHeight) + " at " +
+                std::to_string(size->dotsPerInch) + "\n";
+    }
+    for (const auto& [name, value] : listFields(info)) {
+        if (isPlace(name)) continue;
+        text += name + "=" + value + "\n";
+        std::error_code ignored;
+        if (value.find('/') != std::string::npos && fs::is_regular_file(value, ignored))
+            text += digestOfFile(value) + "\n";
+    }
+    return digestOfText(text);
+}
+
+void apply(SystemInfo& info, const JobSwitches& switches) {
+    info.bOutputTransparency = switches.outputTransparency;
+    info.bShowOrgImage = switches.noGreenScreenProcessing;
+    info.bUseBlueLogic = switches.blueScreenProcessing;
+}
+
+}  // namespace
+
+std::unique_ptr<SystemInfo> PictureMaker::prepare(const BatchJob& job, std::string& problem) const {
+    auto info = std::make_unique<SystemInfo>();
+    startLike(*info, base_);
+    LoadedStateFile loaded;
+    if (!job.state.empty()) loaded = loadStateFile(*info, job.state);
+    problem = loaded.problem;
+    if (problem.empty()) {
+        if (job.switches) apply(*info, *job.switches);
+        info->pForegroundBitmapInfo->sSourceImageFullPath = job.foreground;
+        if (!job.background.empty()) info->pBackgroundBitmapInfo->sSourceImageFullPath = job.background;
+        problem = settings_(*info, job.state.empty() ? nullptr : &loaded);
+    }
+    if (problem.empty() && info->pBackgroundBitmapInfo->sSourceImageFullPath.empty())
+        problem = "there is no background for it";
+    if (!problem.empty()) info.reset();
+    return info;
+}
+
+const PictureMaker::Recipe& PictureMaker::recipe(const BatchJob& job) {
+    std::string key = job.state + '\0';  // which no name holds
+    if (job.switches) {
+        for (const bool on : {job.switches->outputTransparency, job.switches->noGreenScreenProcessing,
+                              job.switches->blueScreenProcessing})
+            key += on ? "1" : "0";
+    }
+    if (job.state.empty() || job.background.empty()) key += '\0' + job.background;
+    const FileFacts facts = job.state.empty() ? FileFacts() : factsOf(job.state).value_or(FileFacts());
+    Recipe& known = recipes_[key];
+    if (known.digest.empty() || !(known.state == facts)) {
+        known = {facts, "", "", "", {}};
+        const auto info = prepare(job, known.problem);
+        if (info) {
+            known.background = info->pBackgroundBitmapInfo->sSourceImageFullPath;
+            known.digest = digestOfSettings(*info);
+            known.files = filesNamedBy(*info);
+        }
+    }
+    return known;
+}
+
+std::string PictureMaker::recipeOf(const BatchJob& job, std::string& problem) {
+    std::lock_guard lock(mutex_);
+    const Recipe& known = recipe(job);
+    problem = known.problem;
+    return known.digest;
+}
+
+std::string PictureMaker::backgroundOf(const BatchJob& job, std::string& problem) {
+    if (!job.background.empty()) return job.background;
+    std::lock_guard lock(mutex_);
+    const Recipe& known = recipe(job);
+    problem = known.problem;
+    return known.background;
+}
+
+std::vector<std::string> PictureMaker::filesOf(const BatchJob& job) {
+    std::lock_guard lock(mutex_);
+    return recipe(job).files;
+}
+
+MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foreground,
+                               const ReadPicture& background) const {
+    MadePicture made;
+    Alerts alerts;
+    const auto info = prepare(job, made.problem);
+    if (!info) return made;
+    made.problem = textProblem(*info);
+    if (!made.problem.empty()) return made;
+    info->pInterface = &alerts;
+    info->readSource = [&](const std::string& path) {
+        return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;
+    };
+    if (!ChangeImageSize(*info)) {
+        made.problem = "the output size cannot be used";
+        return made;
+    }
+    CombineThread(*info).runUntilIdle();
+    made.problem = info->whyNotFinished(1);
+    if (!made.problem.empty()) return made;
+    made.leftOut = alerts.all;
+    const PassGeometry size = info->geometry(1);
+    made.width = size.width;
+    made.height = size.height;
+    made.dpi = size.dpi;
+    made.exif = std::move(info->pForegroundBitmapInfo->sourceExif);
+    made.pixels = info->pCombinedBitmapInfo->takeFullPixels();
+    return made;
+}
+
+}  // namespace tavrin
