@@ -176,7 +176,7 @@ bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record, ReadPicture picture) 
     }
     if (!problem.empty()) {
         const std::string name = std::filesystem::path(record.sSourceImageFullPath.load()).filename().string();
-        record.sSourceProblem = name + ": " + problem;
+        record.sSourceProblem = (name.empty() ? "a source without a name" : name) + ": " + problem;
         info.alert("Cound not load file: " + name + ", check your file permissions", problem);
         return false;
     }

@@ -316,9 +316,17 @@ TEST(ImageReader, CameraDataThatReferToThemselvesAreNotFollowed) {
     psd += std::string(lengths.begin(), lengths.begin() + 4) + std::string("8BIM\4\42\0\0", 8);
     psd += std::string(lengths.begin() + 4, lengths.end()) + exif + std::string(4 + 2 + 300, '\0');
     test::writeText(folder.file("a.psd"), psd);
-    for (const char* name : {"a.jpg", "a.png", "a.psd"}) {
+    ASSERT_TRUE(MadePicture().save(folder.file("a.webp")));
+    const std::vector<std::uint8_t> webp = test::readBytes(folder.file("a.webp"));
+    std::vector<std::uint8_t> size(4);
+    put(size, 0, static_cast<std::uint32_t>(exif.size()), false);
+    test::writeText(folder.file("a.webp"),
+                    std::string(webp.begin(), webp.end()) + "EXIF" + std::string(size.begin(), size.end()) + exif);
+    test::writeText(folder.file("a.heic"), std::string("\0\0\0\20ftypheic\0\0\0\0", 16) + exif);
+    expectRefused(folder.file("a.psd"));
+    for (const char* name : {"a.jpg", "a.png", "a.webp", "a.heic"}) {
         expectRefused(folder.file(name));
-        EXPECT_NE(readPictureFacts(folder.file(name)).error, "") << name;
+        EXPECT_EQ(readPictureFacts(folder.file(name)).error, "its camera data are damaged") << name;
     }
 }
 
