@@ -185,7 +185,7 @@ void BatchEngine::loadState(const Job& job) {
     const std::string foreground = info_.pForegroundBitmapInfo->sSourceImageFullPath;
     const LoadedStateFile loaded = loadStateFile(info_, job.statePath);
     if (!loaded.problem.empty()) logTrace(loaded.problem);  // the job runs with the state in force
-    if (!loaded.sizeProblem.empty()) logError(loaded.sizeProblem);
+    if (!loaded.sizeProblem.empty()) info_.alert("The present output size stays.", loaded.sizeProblem);
     info_.pForegroundBitmapInfo->sSourceImageFullPath = foreground;
     if (loaded.newSize) useSize();
     info_.pForegroundBitmapInfo->bOrgFileChange = true;

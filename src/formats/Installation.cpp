@@ -29,7 +29,7 @@ std::string putShippedFile(const std::string& shipped, const std::string& path) 
     SafeSave save;
     save.begin(fresh, Readers::everyone);
     save.write(bytes);
-    if (!save.commit()) return save.problem();
+    if (!save.commit()) return path + save.problem().substr(fresh.size());  // it begins with the file's name
     return claimName(fresh, path) ? "" : path + " cannot be written.";
 }
 

@@ -10,6 +10,7 @@
 #include "formats/ImageState.h"
 #include "formats/SettingsFile.h"
 #include "pipeline/CombineThread.h"
+#include "pipeline/OutputSize.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
@@ -266,6 +267,26 @@ TEST_F(BatchEngineTest, AStateBringsItsSettingsAndSizeButNotItsForeground) {
     EXPECT_EQ(info_->sImageSizeName.load(), "small");
     EXPECT_TRUE(std::none_of(alerts_.all.begin(), alerts_.all.end(),
                              [](const std::string& alert) { return alert.find("elsewhere") != std::string::npos; }));
+}
+
+TEST_F(BatchEngineTest, AStatesOwnSizeIsMadeAndOneThatNobodyKnowsIsTold) {
+    portrait("fg/anna.png");
+    portrait("fg/ben.png");
+    background("bg/sea.png", QColor(9, 8, 7));
+    const auto other = test::stateForOutput(60, 40, 40);
+    selectOwnSize(*other, "mine", 0.75, 0.5, 120);
+    ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/mine.qlx")), "");
+    selectOwnSize(*other, "nobody's", 0.0, 0.0, 0);
+    ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/nobodys.qlx")), "");
+    run();
+    EXPECT_EQ(made().size(), 4u);
+    EXPECT_EQ(QImage(QString::fromStdString(folder_.file("out/annaseamine.png"))).size(), QSize(90, 60));
+    EXPECT_EQ(info_->iImageSizeCount(), 1);
+    EXPECT_EQ(info_->sImageSizeName.load(), "mine");
+    EXPECT_EQ(info_->iOutputImageDPI, 120);
+    EXPECT_TRUE(std::any_of(alerts_.all.begin(), alerts_.all.end(), [](const std::string& alert) {
+        return alert.find("nobodys.qlx: The output size") != std::string::npos;
+    }));
 }
 
 TEST_F(BatchEngineTest, AnUnreadableForegroundIsToldNotSavedAndTheRunGoesOn) {
