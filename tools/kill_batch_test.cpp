@@ -11,6 +11,7 @@
 #include <iterator>
 #include <map>
 #include <random>
+#include <set>
 #include <signal.h>
 #include <string>
 #include <sys/wait.h>
@@ -123,23 +124,36 @@ std::map<std::string, std::string> picturesIn(const fs::path& folder) {
 }
 
 struct Tally {
-    int kills = 0, pictures = 0, broken = 0, changed = 0, partsLeft = 0;
+    int kills = 0, pictures = 0, broken = 0, changed = 0, writing = 0;
 };
+
+/// Names of the pictures that were being written; the next life removes them.
+std::set<std::string> partsIn(const fs::path& folder) {
+    std::set<std::string> parts;
+    std::error_code missing;
+    for (const auto& entry : fs::directory_iterator(folder, missing)) {
+        if (entry.path().extension() == ".part") parts.insert(entry.path().filename().string());
+    }
+    return parts;
+}
 
 /// One life of the watching batch. What stood before must stand as it was, and everything that stands must be whole.
 void liveAndDie(const Setting& setting, double seconds, std::map<std::string, std::string>& known, Tally& tally) {
     const fs::path out = setting.folder / "out";
+    const std::set<std::string> before = partsIn(out);
     const pid_t child = setting.start(out, true);
     std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
     kill(child, SIGKILL);
     waitFor(child);
     ++tally.kills;
+    const std::set<std::string> after = partsIn(out);
+    tally.writing += !std::includes(before.begin(), before.end(), after.begin(), after.end());
     for (auto& [name, bytes] : picturesIn(out)) {
-        const auto before = known.find(name);
-        if (before == known.end()) {
+        const auto earlier = known.find(name);
+        if (earlier == known.end()) {
             if (!tavrin::readPicture((out / name).string()).error.empty()) ++tally.broken;
             known[name] = std::move(bytes);
-        } else if (before->second != bytes) {
+        } else if (earlier->second != bytes) {
             ++tally.changed;
         }
     }
@@ -159,13 +173,6 @@ bool isEqual(const fs::path& expected, const fs::path& made) {
     }
     if (missing > 0 || tooMany > 0) std::printf("%d pictures are missing, %d are too many\n", missing, tooMany);
     return missing == 0 && tooMany == 0;
-}
-
-int countParts(const fs::path& folder) {
-    int parts = 0;
-    for (const auto& entry : fs::directory_iterator(folder))
-        parts += entry.path().extension() == ".part";
-    return parts;
 }
 
 bool test(const Setting& setting, int kills) {
@@ -196,17 +203,18 @@ bool test(const Setting& setting, int kills) {
     feeder.join();
 
     tally.pictures = static_cast<int>(known.size());
-    tally.partsLeft = countParts(setting.folder / "out");
     const bool finished = waitFor(setting.start(setting.folder / "out", false)) == 0 &&
                           waitFor(setting.start(setting.folder / "expected", false)) == 0;
     const bool equal = finished && isEqual(setting.folder / "expected", setting.folder / "out");
+    const std::size_t left = partsIn(setting.folder / "out").size();
     std::printf(
         "%d kills while %d portraits arrived: %d pictures stood at the last kill, %d of them not whole, %d changed "
         "afterwards.\n",
         tally.kills, brought, tally.pictures, tally.broken, tally.changed);
-    std::printf("A run to the end then had %s. Pictures were being written in %d of the kills.\n",
-                equal ? "every picture once" : "NOT every picture once", tally.partsLeft);
-    return equal && tally.broken == 0 && tally.changed == 0 && tally.pictures > 0;
+    std::printf(
+        "A run to the end then had %s, and %zu parts were left. Pictures were being written in %d of the kills.\n",
+        equal ? "every picture once" : "NOT every picture once", left, tally.writing);
+    return equal && left == 0 && tally.broken == 0 && tally.changed == 0 && tally.pictures > 0;
 }
 
 }  // namespace

@@ -74,6 +74,7 @@ class BatchRun {
     std::vector<std::string> watchedFolders() const;
     std::vector<FileFacts> factsOfJob(const BatchJob& job);
     bool isHandled(const BatchJob& job);
+    bool staysUnreadable(const std::string& path) const;
     bool settleInWatch(const JobResult& result);
 
     bool mayGoOn() const;
@@ -103,7 +104,8 @@ class BatchRun {
     Arrivals arrivals_;
     /// Watch: jobs that need no more work as long as their files stay as they were.
     std::unordered_map<std::string, std::vector<FileFacts>> handled_;
-    std::set<std::string> unreadable_;        ///< files of which that was told
+    /// Files that may not be read, of which that was told, and when to try again.
+    std::unordered_map<std::string, std::chrono::steady_clock::time_point> unreadable_;
     std::string watchProblem_;                ///< with the folders, as it was told last
     std::set<std::string> cleared_;           ///< folders from which abandoned parts were removed
     std::set<int> made_;                      ///< numbers of the jobs whose pictures this run made

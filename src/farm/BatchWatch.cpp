@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <ctime>
 #include <filesystem>
+#include <fstream>
 
 #include "farm/BatchRun.h"
 
@@ -103,8 +104,15 @@ void BatchRun::waitForNews(FolderWatch& watch, Clock::time_point until) {
     }
 }
 
+bool BatchRun::staysUnreadable(const std::string& path) const {
+    const auto known = unreadable_.find(path);
+    if (known == unreadable_.end() || !factsOf(path)) return false;
+    return Clock::now() < known->second || !std::ifstream(path);
+}
+
 /// A job that was seen before and whose files have not changed since, or one that an earlier run did.
 bool BatchRun::isHandled(const BatchJob& job) {
+    if (staysUnreadable(job.foreground) || staysUnreadable(job.background)) return true;
     std::vector<FileFacts> facts = factsOfJob(job);
     const auto known = handled_.find(job.name);
     if (known != handled_.end()) return known->second == facts;
@@ -123,7 +131,8 @@ bool BatchRun::settleInWatch(const JobResult& result) {
     if (!ended && !result.badFile.empty() && arrives) {
         if (!arrivals_.isBroken(result.badFile) || result.status == Status::gone) return false;
         // It may be opened to us without any change of the file itself, so it is tried again, and told once.
-        if (!result.lasting) return unreadable_.insert(result.badFile).second;
+        if (!result.lasting)
+            return unreadable_.insert_or_assign(result.badFile, Clock::now() + Arrivals::kPatience).second;
     }
     if (ended) unreadable_.erase(result.job.foreground);
     std::vector<FileFacts> facts = factsOfJob(result.job);

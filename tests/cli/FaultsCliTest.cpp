@@ -48,7 +48,7 @@ TEST_F(FaultsCliTest, AFolderThatCannotBeReadIsNoEmptyFolder) {
     fs::create_directories(folder_.path() / "trees/sea");
     fs::permissions(folder_.path() / "shut", fs::perms::none);
     fs::permissions(folder_.path() / "trees/sea", fs::perms::none);
-    if (!test::mayNotList(folder_.file("shut"))) GTEST_SKIP() << "root cannot be kept out of a folder here";
+    if (!test::mayNotRead(folder_.file("shut"))) GTEST_SKIP() << "root cannot be kept out of a folder here";
     const struct {
         QStringList arguments;
         const char* named;
@@ -78,6 +78,24 @@ TEST_F(FaultsCliTest, AFolderThatCannotBeReadIsNoEmptyFolder) {
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.err.count("cannot be read"), 1) << outcome.err.toStdString();
     fs::permissions(folder_.path() / "trees/sea", fs::perms::owner_all);
+}
+
+TEST_F(FaultsCliTest, AWatchTellsOnceOfAFileThatMayNotBeReadAndTakesItWhenItMay) {
+    const std::string shut = folder_.file("fg/shut.png");
+    fs::copy_file(folder_.file("fg/anna.png"), shut);
+    fs::last_write_time(shut, fs::file_time_type::clock::now() - std::chrono::hours(1));
+    fs::permissions(shut, fs::perms::none);
+    if (!test::mayNotRead(shut)) GTEST_SKIP() << "root cannot be kept out of a file here";
+    QProcess watch;
+    test::takeRootsPower(watch);
+    watch.start(test::kCliProgram, batch({"--watch", "--stop-file", file("stop")}));
+    ASSERT_TRUE(test::waitUntil([this] { return made() == 3; }));
+    std::this_thread::sleep_for(std::chrono::milliseconds(4500));  // two looks more
+    fs::permissions(shut, fs::perms::owner_all);
+    EXPECT_TRUE(test::waitUntil([this] { return made() == 4; }));
+    test::writeFile(folder_.file("stop"), "");
+    const auto outcome = test::outcomeOf(watch);
+    EXPECT_EQ(outcome.err.count("shut.png: no permission to read it"), 1) << outcome.err.toStdString();
 }
 
 TEST_F(FaultsCliTest, AFolderThatFailsHalfWayIsAnError) {

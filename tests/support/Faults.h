@@ -58,11 +58,14 @@ inline void takeRootsPower(QProcess& process) {
 }
 
 /// Whether permissions hold for such a program here: not where the tests are root's and may not give it up.
-inline bool mayNotList(const std::string& folder) {
-    QProcess list;
-    takeRootsPower(list);
-    list.start("ls", {QString::fromStdString(folder)});
-    return list.waitForFinished() && list.exitCode() != 0;
+inline bool mayNotRead(const std::string& path) {
+    QProcess copy;
+    takeRootsPower(copy);
+    copy.start("cp", {"-r", QString::fromStdString(path), QString::fromStdString(path) + ".copy"});
+    const bool failed = copy.waitForFinished() && copy.exitCode() != 0;
+    std::error_code ignored;
+    std::filesystem::remove_all(path + ".copy", ignored);
+    return failed;
 }
 
 }  // namespace tavrin::test

@@ -98,7 +98,9 @@ void AtomicFile::removeAbandonedParts(const std::string& folder) {
     std::vector<std::string> parts;
     std::error_code failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
-        if (isHiddenName(entry->path().filename().native())) parts.push_back(entry->path().filename());
+        std::error_code gone;
+        const bool isFile = fs::is_regular_file(entry->symlink_status(gone));
+        if (isFile && isHiddenName(entry->path().filename().native())) parts.push_back(entry->path().filename());
     }
     for (const std::string& part : parts) {
         const std::string path = folder + "/" + part;

@@ -31,7 +31,12 @@ std::string madeMark() {
     return text;
 }
 
-enum class Use { locked, free, unknown };
+enum class Use {
+    locked,
+    free,
+    untold,  ///< this file system knows no locks
+    closed   ///< not ours to open
+};
 
 /// A look that keeps the lock as long as it lasts, so that nobody takes possession meanwhile.
 class Look {
@@ -41,14 +46,12 @@ class Look {
         const fs::file_status status = fs::symlink_status(path, ignored);
         if (!fs::is_regular_file(status) && !fs::is_directory(status)) return;
         // Network folders lock only what is open for writing.
-        const int access = fs::is_directory(status) ? O_RDONLY | O_DIRECTORY : O_RDWR;
-        handle_ = ::open(path.c_str(), access | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+        constexpr int kHow = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+        if (fs::is_regular_file(status)) handle_ = ::open(path.c_str(), O_RDWR | kHow);
+        if (handle_ < 0) handle_ = ::open(path.c_str(), O_RDONLY | kHow);
         if (handle_ < 0) return;
-        if (::flock(handle_, LOCK_EX | LOCK_NB) == 0) {
-            use = Use::free;
-        } else if (errno == EWOULDBLOCK) {
-            use = Use::locked;
-        }
+        const bool locked = ::flock(handle_, LOCK_EX | LOCK_NB) == 0;
+        use = locked ? Use::free : errno == EWOULDBLOCK ? Use::locked : Use::untold;
     }
     ~Look() {
         if (handle_ >= 0) ::close(handle_);
@@ -56,7 +59,7 @@ class Look {
     Look(const Look&) = delete;
     Look& operator=(const Look&) = delete;
 
-    Use use = Use::unknown;
+    Use use = Use::closed;
 
   private:
     int handle_ = -1;
@@ -77,7 +80,7 @@ bool takePossession(int handle) {
 
 void removeIfAbandoned(const std::string& path, std::string_view mark, const std::function<bool()>& isOld) {
     const Look look(path);
-    if (look.use == Use::locked) return;
+    if (look.use == Use::locked || look.use == Use::closed) return;
     const bool certain = look.use == Use::free && mark == machineMark();
     std::error_code ignored;
     if (certain || isOld()) fs::remove_all(path, ignored);

@@ -19,7 +19,7 @@ const std::string& machineMark();
 bool takePossession(int handle);
 
 /// Removes what nobody uses any more: whatever is not locked and carries the mark of this machine, and what nobody
-/// can tell about if `isOld` says so. A file that may not be opened counts among those.
+/// can tell about if `isOld` says so. What may not be opened is another user's, and stays.
 void removeIfAbandoned(const std::string& path, std::string_view mark, const std::function<bool()>& isOld);
 
 }  // namespace tavrin
