@@ -16,15 +16,18 @@ namespace {
 class NoFontsTest : public testing::Test {
   protected:
     NoFontsTest() {
-        test::writeFile(folder_.file("fonts.conf"),
-                        "<fontconfig><cachedir>" + folder_.file("cache") + "</cachedir></fontconfig>");
-        qputenv("FONTCONFIG_FILE", file("fonts.conf").toLocal8Bit());
+        useFonts("");
         std::filesystem::create_directory(folder_.file("in"));
         test::savePng(test::discOnScreen(60, 36), folder_.file("in/anna.png"));
         test::savePng(test::noisePicture(60, 36, 4), folder_.file("sea.png"));
     }
     ~NoFontsTest() override { showFonts(); }
 
+    void useFonts(const std::string& folders) const {
+        test::writeFile(folder_.file("fonts.conf"),
+                        "<fontconfig>" + folders + "<cachedir>" + folder_.file("cache") + "</cachedir></fontconfig>");
+        qputenv("FONTCONFIG_FILE", file("fonts.conf").toLocal8Bit());
+    }
     void showFonts() const { before_.isNull() ? qunsetenv("FONTCONFIG_FILE") : qputenv("FONTCONFIG_FILE", before_); }
 
     QString file(const char* name) const { return QString::fromStdString(folder_.file(name)); }
@@ -83,6 +86,18 @@ TEST_F(NoFontsTest, AJobWithTextFailsAndIsMadeWhenThereAreFonts) {
     const test::CliOutcome again = test::runCli(batch);
     EXPECT_EQ(again.code, 0) << again.err.toStdString();
     EXPECT_FALSE(QImage(file("out/annasea.jpg")).isNull());
+}
+
+// Those of type 1 have none of the tables that newer ones have.
+TEST_F(NoFontsTest, PostScriptFontsAreFontsToo) {
+    const std::string fonts = "/usr/share/fonts/X11/Type1";
+    if (!std::filesystem::exists(fonts + "/c0648bt_.pfb")) GTEST_SKIP() << "no such font here";
+    useFonts("<dir>" + fonts + "</dir>");
+    ASSERT_EQ(render({}).code, 0);
+    const QImage plain(file("out.png"));
+    const test::CliOutcome outcome = render({"--title", "Anna"});
+    EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
+    EXPECT_NE(QImage(file("out.png")), plain);
 }
 
 // The window shows such messages in a box.
