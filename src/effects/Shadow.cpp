@@ -159,8 +159,6 @@ void AddShadow(SystemInfo& info, int /*ignored*/, int hiRes) {
     std::uint8_t* target = preview ? background.pBitmapDataLowRes : background.pBitmapData;
     if (size.width < 1 || size.height < 1 || !source || !target) return;
     const ShadowClip clip = makeClip(info, size);
-    if (info.iSliderShadowScale == 0) return;
-
     const ShadowColumns columns(makeGeometry(info, size));
     const ShadowKey key(info.bUseBlueLogic, {info.baseRed, info.baseGreen, info.baseBlue},
                         2.0 * info.iSliderShadowBlack, 2.0 * info.pCombinedBitmapInfo->sliderRemoveGreenAreas);

@@ -15,7 +15,7 @@ struct ShadowGeometry {
     int width = 0, height = 0;
     double shiftX = 0.0, shiftY = 0.0;  ///< of the shadow against the subject
     double base = 0.0;                  ///< height of the line the subject stands on, from the bottom
-    double scale = 1.0;                 ///< never 0
+    double scale = 1.0;                 ///< 0: the places that cast it are not finite, and no shadow falls
     double sine = 0.0, cosine = 1.0;    ///< of the floor's angle
     double skew = 0.0;
     bool behind = false;     ///< the shadow falls away from the viewer

@@ -112,10 +112,7 @@ class KeyLanes {
 
         Decision d =
             key_.showOrgImage ? showOriginal(pixels, f, margin, run.x + i, run.y) : decideOn(f, screen, margin);
-        if (key_.showBright) {
-            const V part = hn::Set(d_, kBrightGreyMix);
-            d.mix = hn::IfThenElse(hn::And(hn::Gt(d.mix, part), isBrightGrey(d.display)), part, d.mix);
-        }
+        if (key_.showBright) unmixBrightGrey(d);
         V alpha = hn::IfThenElseZero(hn::Not(margin), clampLanes(d_, edgeAlpha(d.alpha), 0.0, 1.0));
         Colors color = recoverWhereNeeded(d, raw, screen, alpha);
         if (key_.showSelectedAreas) {
@@ -256,6 +253,12 @@ class KeyLanes {
         const Colors lifted{hn::Sub(f.r, forRed), hn::Sub(f.g, forRed), hn::Sub(f.b, forRed)};
         const V forBlue = minLanes(hn::Sub(lifted.b, hn::Mul(rest, screen.b)), zero);
         return {hn::Sub(lifted.r, forBlue), hn::Sub(lifted.g, forBlue), hn::Sub(lifted.b, forBlue)};
+    }
+
+    // A bright grey is unmixed a little, so that a green sheen leaves it. The share in the result stays.
+    HWY_INLINE void unmixBrightGrey(Decision& d) const {
+        const V part = hn::Set(d_, kBrightGreyMix);
+        d.mix = hn::IfThenElse(hn::And(hn::Gt(d.mix, part), isBrightGrey(d.display)), part, d.mix);
     }
 
     // Turns a colour that is still green away from it, towards its second channel, without darkening it.

@@ -10,7 +10,7 @@
 
 namespace tavrin {
 
-/// When the foreground is shown as it is, and a bright grey is to be unmixed a little: the subject's share then.
+/// When bright greys are to be unmixed a little: the subject's share in them.
 inline constexpr double kBrightGreyMix = 0.97;
 
 /// How much the edges of the key are steepened.

@@ -38,6 +38,11 @@ bool holds(lanes::Choice<One> choice) {
     return hn::AllTrue(One(), choice);
 }
 
+Key::Decision spread(const Decision& d) {
+    return {spread(d.alpha), spread(d.mix), spread(d.display), spread(d.source),
+            spread(0.0),     spread(0.0),   choice(false)};
+}
+
 hn::Vec<lanes::WordTag<One>> wordOf(const std::uint8_t* pixel) {
     std::int32_t word;
     std::memcpy(&word, pixel, sizeof word);
@@ -121,11 +126,16 @@ Rgb liftedSource(const KeyConstants& key, const Rgb& color, const Rgb& screen, d
     return gather(Key(One(), key).liftedSource(spread(color), spread(screen), spread(alpha)));
 }
 
+void unmixBrightGrey(const KeyConstants& key, Decision& d) {
+    if (!key.showBright) return;
+    Key::Decision lanes = spread(d);
+    Key(One(), key).unmixBrightGrey(lanes);
+    d.mix = hn::GetLane(lanes.mix);
+}
+
 Rgb recoverColor(const KeyConstants& key, const Decision& d, const Rgb& screen, const Rgb& raw) {
     if (d.mix == 0.0) return {0.0, 0.0, 0.0};
-    const Key::Decision lanes{spread(d.alpha), spread(d.mix), spread(d.display), spread(d.source),
-                              spread(0.0),     spread(0.0),   choice(false)};
-    return gather(Key(One(), key).recoverColor(lanes, spread(raw), spread(screen)));
+    return gather(Key(One(), key).recoverColor(spread(d), spread(raw), spread(screen)));
 }
 
 Rgb removeGreenCast(const KeyConstants& key, const Rgb& color) {

@@ -69,6 +69,8 @@ bool isPlainlyOther(const KeyConstants& key, const Rgb& color);
 double mixedAlpha(const KeyConstants& key, const Rgb& color, const Rgb& screen);
 /// Lifts all channels so that unmixing cannot make red or blue negative.
 Rgb liftedSource(const KeyConstants& key, const Rgb& color, const Rgb& screen, double alpha);
+/// Lowers the mix of a bright grey, so that a green sheen leaves it, where the settings ask for that.
+void unmixBrightGrey(const KeyConstants& key, Decision& decision);
 /// The subject's own colour: the screen's share taken out where the pixel is mixed, and held to a brightness. Black
 /// where the mix is 0.
 Rgb recoverColor(const KeyConstants& key, const Decision& decision, const Rgb& screen, const Rgb& raw);

@@ -112,7 +112,8 @@ SpilledPixel SpillKey::Spill(int x, int y, double r, double g, double b) {
 // The colour is finished before the amount: here the green cast is taken out after the adjustments.
 SpilledPixel SpillKey::spillAt(int x, int y, const Rgb& color, SpillCall call) const {
     const Rgb screen = screenAt(key_, x, y);
-    const Decision d = decide(x, y, color, screen, call);
+    Decision d = decide(x, y, color, screen, call);
+    unmixBrightGrey(key_, d);  // the mix alone: the amount stays
     Rgb c = recoverColor(key_, d, screen, color);
     if (keyedTone_.active) {
         adjustKeyedColor(keyedTone_, c, x, y);

@@ -45,7 +45,8 @@ enum class SpillCall { kFirst, kLater };
 /// The key at one pixel, with the settings frozen when it is made. The airbrush editor repairs pixels with it, and
 /// effects make one for themselves. It decides as `Combine` does, with differences: the screen colour always comes
 /// from the grid, dark busy texture (hair) is kept, and some sliders have fixed values; the layer's adjustments
-/// belong to it.
+/// belong to it; a bright grey that is unmixed leaves the pixels after it alone, also where the foreground is shown
+/// as it is.
 ///
 /// All but `Spill` is const and may be called from many rows at once.
 class SpillKey {

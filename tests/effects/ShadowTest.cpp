@@ -134,19 +134,22 @@ TEST_F(ShadowTest, ClipMarginsCutTheSubjectAndNegativeOnesAreCleared) {
 }
 
 TEST_F(ShadowTest, PreviewAloneShowsRoomAndBaseline) {
-    standAt(0, 9);
-    info_->iSliderVRoomRight = info_->iSliderVRoomLeft = 500;
-    info_->iSliderVRoomTransparency = 500;
-    info_->iSliderShadowTransparency = 0;
-    info_->iSliderShadowBase = 650;
-    AddShadow(*info_, 1, kPreview);
-    AddShadow(*info_, 1, kFull);
-    EXPECT_EQ(at(3, 5, 1, kPreview), 150);  // half of 100 and 200
-    EXPECT_EQ(at(3, 6, 1, kPreview), 125);  // half of 100 and 150
-    EXPECT_EQ(at(3, 7, 0, kPreview), 255);
-    EXPECT_EQ(at(3, 7, 1, kPreview), 0);
-    for (int y = 0; y < 10; ++y)
-        EXPECT_EQ(at(3, y, 1, kFull), 100);
+    for (const bool noSize : {false, true}) {  // no shadow, since it is clear, or since it has no size
+        standAt(0, 9);
+        info_->iSliderVRoomRight = info_->iSliderVRoomLeft = 500;
+        info_->iSliderVRoomTransparency = 500;
+        info_->iSliderShadowTransparency = noSize ? 500 : 0;
+        info_->iSliderShadowScale = noSize ? 0 : 500;
+        info_->iSliderShadowBase = 650;
+        AddShadow(*info_, 1, kPreview);
+        AddShadow(*info_, 1, kFull);
+        EXPECT_EQ(at(3, 5, 1, kPreview), 150);  // half of 100 and 200
+        EXPECT_EQ(at(3, 6, 1, kPreview), 125);  // half of 100 and 150
+        EXPECT_EQ(at(3, 7, 0, kPreview), 255);
+        EXPECT_EQ(at(3, 7, 1, kPreview), 0);
+        for (int y = 0; y < 10; ++y)
+            EXPECT_EQ(at(3, y, 1, kFull), 100);
+    }
 }
 
 TEST_F(ShadowTest, NothingToDoAndSuperseded) {

@@ -176,6 +176,29 @@ TEST(Spill, TheSelectionIsShownByColour) {
     expectColor(scene.spill({200, 190, 180, 255}), 255, 255, 180, 1.0);
 }
 
+// As `Combine` has it, which has no adjustments here either.
+TEST(Spill, ABrightGreyIsUnmixedALittleWhereThatIsAskedFor) {
+    SpillScene scene;
+    scene.sliders().sliderWhiteAdjust = 0;
+    const auto green = [&](Pixel p) { return scene.spill(p).color.g; };
+    EXPECT_NEAR(green({200, 171, 180, 255}), 171.0, 1.0);
+    scene.info.bShowBright = true;
+    for (const Pixel p : {Pixel{200, 215, 200, 255}, Pixel{240, 235, 230, 255}, Pixel{255, 255, 255, 255},
+                          Pixel{200, 171, 180, 255}, Pixel{200, 169, 180, 255}, Pixel{120, 126, 120, 255}}) {
+        scene.at(scene.foreground, 0, 0) = p;
+        const KeyedPixel whole = scene.keyed();
+        const SpilledPixel one = scene.spill(p);
+        expectColor(one, whole.color.r, whole.color.g, whole.color.b, 1e-9);
+        EXPECT_EQ(one.amount, whole.alpha);
+    }
+    EXPECT_NEAR(green({200, 171, 180, 255}), (171.0 - 0.03 * 200.0) / 0.97, 1.0);
+    EXPECT_NEAR(green({200, 169, 180, 255}), 169.0, 1.0) << "no grey";
+    scene.info.bShowOrgImage = true;
+    const SpilledPixel shown = scene.spill({200, 200, 200, 255});
+    EXPECT_NEAR(shown.color.r, (200.0 - 0.03 * 40.0) / 0.97, 1.0);
+    EXPECT_EQ(shown.amount, 255.0);
+}
+
 TEST(Spill, AdjustmentsWhiteAndModesFollowTheKey) {
     SpillScene scene;
     const Pixel nearWhite{201, 205, 199, 255};
