@@ -56,7 +56,7 @@ const std::vector<Shot>& moreShots() {
          {"label0.sText=Anna", "label0.sLabelSize=X-Large", "label1.sText=Summer 2026", "label1.sFontColor=White"}},
         {"text with outline and shadow",
          {"text0.sText=Anna", "text0.iFontSize=60", "text0.isBold=1", "text0.rectSizeWidth=220", "text0.xPos=0.2",
-          "text0.yPos=0.05", "text0.dFontFillBlue=0.3", "text0.iFontOutlineThickness=-3",
+          "text0.rectSizeHeight=72", "text0.yPos=3.95", "text0.dFontFillBlue=0.3", "text0.iFontOutlineThickness=-3",
           "text0.iFontDropShadowRadius=6", "text0.iFontDropShadowHorz=4", "text0.iFontDropShadowVert=-4"}},
         {"two frames",
          {"frame=oval", "frame.iFrameColorRed=240", "frame.iFrameColorGreen=235", "frame.iFrameColorBlue=225",

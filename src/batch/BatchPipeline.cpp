@@ -90,7 +90,7 @@ class Stages {
 
     void key(InHand& hand) {
         hand.made = maker_.make(hand.result.job, hand.foreground.picture, hand.background->picture);
-        if (!hand.made.problem.empty()) hand.fail(hand.made.problem, true);
+        if (!hand.made.problem.empty()) hand.fail(hand.made.problem, hand.made.lasting);
         hand.foreground = ReadFile();
         hand.background.reset();
     }

@@ -6,6 +6,7 @@
 
 #include "core/RandomSource.h"
 #include "core/state/SettingNames.h"
+#include "core/text/TextLayers.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
@@ -116,6 +117,11 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     Alerts alerts;
     const auto info = prepare(job, made.problem);
     if (!info) return made;
+    made.problem = textProblem(*info);
+    if (!made.problem.empty()) {
+        made.lasting = false;  // the machine's
+        return made;
+    }
     info->pInterface = &alerts;
     info->readSource = [&](const std::string& path) {
         return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;

@@ -23,6 +23,7 @@ struct MadePicture {
     int width = 0, height = 0, dpi = 0;
     std::vector<std::uint8_t> exif;
     std::string problem;
+    bool lasting = true;  ///< the problem is the job's own, and the next run would meet it again
 };
 
 /// Makes the picture of one job after another, each from a state of its own, by the whole pass of the processing

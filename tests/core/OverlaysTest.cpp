@@ -66,20 +66,20 @@ TEST_F(OverlaysTest, OneThatIsMissingOrBrokenIsToldAndTheRestStays) {
 TEST_F(OverlaysTest, PictureItemsKeepPlaceSizeAndOpacityAtBothResolutions) {
     const std::string path = save("logo.png", 120, 60, QColor(255, 255, 255), QColor(0, 0, 0));
     FontObject& item = addPicture(path, 120, 60);
-    EXPECT_EQ(page_.draw(1), QRect(100, 100, 120, 60));
-    EXPECT_EQ(page_.draw(0), QRect(50, 50, 60, 30));
+    EXPECT_EQ(page_.draw(1), QRect(100, 440, 120, 60));  // its lower edge a hundred pixels from the picture's
+    EXPECT_EQ(page_.draw(0), QRect(50, 220, 60, 30));
     item.dGlobalScaleX = 3.0;
     item.dGlobalScaleY = 0.5;
-    EXPECT_EQ(page_.draw(1), QRect(100, 100, 360, 30));
+    EXPECT_EQ(page_.draw(1), QRect(100, 470, 360, 30));
     item.dGlobalScaleX = 12.0;  // beyond the right edge
-    EXPECT_EQ(page_.draw(1), QRect(100, 100, 700, 30));
-    EXPECT_EQ(page_.color(1, 700, 120), QColor(255, 255, 255)) << "stretched, not moved";
+    EXPECT_EQ(page_.draw(1), QRect(100, 470, 700, 30));
+    EXPECT_EQ(page_.color(1, 700, 490), QColor(255, 255, 255)) << "stretched, not moved";
     item.dGlobalScaleX = item.dGlobalScaleY = 1.0;
     item.dTransparency = 0.5;
     page_.draw(1);
-    EXPECT_NEAR(page_.color(1, 110, 110).red(), 187, 1);
-    EXPECT_NEAR(page_.color(1, 210, 110).red(), 60, 1);
-    EXPECT_EQ(page_.pixel(1, 110, 110)[3], 255);
+    EXPECT_NEAR(page_.color(1, 110, 450).red(), 187, 1);
+    EXPECT_NEAR(page_.color(1, 210, 450).red(), 60, 1);
+    EXPECT_EQ(page_.pixel(1, 110, 450)[3], 255);
     item.imageSizeWidth = 0.0;
     EXPECT_TRUE(page_.draw(1).isNull());
 }
@@ -87,7 +87,7 @@ TEST_F(OverlaysTest, PictureItemsKeepPlaceSizeAndOpacityAtBothResolutions) {
 TEST_F(OverlaysTest, AMissingPictureItemLeavesTheOthers) {
     addPicture(folder_.file("gone.png"), 50, 50);
     addPicture(save("logo.png", 8, 8, QColor(255, 255, 255), QColor(0, 0, 0)), 8, 8).xPos = 2.0;
-    EXPECT_EQ(page_.draw(1), QRect(200, 100, 8, 8));
+    EXPECT_EQ(page_.draw(1), QRect(200, 492, 8, 8));
 }
 
 TEST_F(OverlaysTest, TransparentOutputKeepsTheColourOfSoftEdges) {

@@ -28,7 +28,7 @@ class TextStagesTest : public testing::Test {
         item.sText = plain((std::string("stripe") + level + ".png").c_str(), 92, 8, color);
         item.imageSizeWidth = 92.0;
         item.imageSizeHeight = 8.0;
-        item.yPos = inchesFromTop;
+        item.yPos = 1.0 - inchesFromTop - 8.0 / 92.0;  // of its lower edge, from the picture's
         item.sLevel = level;
     }
     QColor at(int res, double x, double y) const {

@@ -6,7 +6,7 @@
 #include <QRect>
 
 #include "core/state/SystemInfo.h"
-#include "core/text/LaidOutText.h"
+#include "core/text/Fonts.h"
 #include "core/text/TextLayers.h"
 #include "support/Portrait.h"
 
@@ -73,12 +73,14 @@ class TextPage {
         return right < 0 ? QRect() : QRect(QPoint(left, top), QPoint(right, bottom));
     }
 
-    /// A new list item; the reference holds until the next.
+    /// A new list item with a box of an inch in height, an inch from the left and from the bottom; the reference
+    /// holds until the next.
     FontObject& add(const char* text, int points = 72) {
         FontObject& item = info->oFontObject.emplace_back();
         item.sText = text;
         item.iFontSize = points;
         item.rectSizeWidth = 500.0;
+        item.rectSizeHeight = 72.0;
         item.xPos = item.yPos = 1.0;
         return item;
     }
@@ -102,6 +104,6 @@ class TextPage {
 
 }  // namespace tavrin::test
 
-/// Skips the test on a system without any font.
+/// Skips the test on a system that has neither the fonts of the tests nor any other.
 #define TAVRIN_NEED_FONTS() \
-    if (!tavrin::haveFonts()) GTEST_SKIP() << "no fonts here"
+    if (!tavrin::whyNoFonts().empty()) GTEST_SKIP() << "no fonts here"

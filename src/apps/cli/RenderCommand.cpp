@@ -14,6 +14,7 @@
 #include "core/Places.h"
 #include "core/RandomSource.h"
 #include "core/state/SystemInfo.h"
+#include "core/text/TextLayers.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
@@ -77,6 +78,7 @@ Refusal prepare(SystemInfo& info, const RenderOptions& options) {
     if (Refusal refusal = applyPictureOptions(info, options.picture, !options.state.empty()); refusal.code != kDone)
         return refusal;
     if (!ChangeImageSize(info)) return {kUsage, "The output size cannot be used."};
+    if (const std::string problem = textProblem(info); !problem.empty()) return {kFailed, problem};
     info.bSkipHiRes = options.preview;
     return {};
 }
@@ -155,6 +157,7 @@ Examples:
 
 The short options of the effects come first, so that --set refines them; "tavrin-cli effects" tells about each.
 Settings have the names of their fields; those of a layer have foreground., background. or combined. before them.
+Texts and pictures on the image are text0., text1. ...: xPos and yPos are inches from its lower left corner to theirs.
 Exit codes: 0 done, 1 the work failed or an overlay could not be read, 2 wrong usage.)";
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "core/text/ClearLayer.h"
+#include "core/text/Fonts.h"
 #include "core/text/TextLayers.h"
 #include "core/text/TextMacros.h"
 #include "core/text/TextPaint.h"
@@ -49,7 +50,10 @@ QPointF startOf(const FontObject& label, const PassGeometry& size, double textWi
     return {x, y};
 }
 
-std::string textOf(const SystemInfo& info, const FontObject& label) {
+}  // namespace
+
+std::string labelString(const SystemInfo& info, const FontObject& label) {
+    if (label.iFontSize < 1) return "";
     std::string text = label.sText, lower = text;
     std::transform(lower.begin(), lower.end(), lower.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
@@ -57,14 +61,12 @@ std::string textOf(const SystemInfo& info, const FontObject& label) {
     return text;
 }
 
-}  // namespace
-
 void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFontObject, int myRes,
               const RunContext& run) {
     const PassGeometry size = info.geometry(myRes);
     const double pixels = size.dpi / 72.0 * myFontObject.iFontSize;
-    const std::string string = textOf(info, myFontObject);
-    if (!context || string.empty() || !(pixels > 0.0) || !haveFonts()) return;
+    const std::string string = labelString(info, myFontObject);
+    if (!context || string.empty() || !(pixels > 0.0) || !canDrawText(info)) return;
     TextSetting setting;
     setting.fontName = myFontObject.sFontName;
     setting.singleLine = true;

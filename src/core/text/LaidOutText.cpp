@@ -1,14 +1,11 @@
 #include "core/text/LaidOutText.h"
 
 #include <algorithm>
-#include <atomic>
 
 #include <QFontMetricsF>
 #include <QGlyphRun>
-#include <QGuiApplication>
 #include <QTextLayout>
 
-#include "core/Log.h"
 #include "core/text/Emoji.h"
 
 namespace tavrin {
@@ -159,19 +156,6 @@ class Setter {
 
 LaidOutText layOutText(const std::string& text, const TextSetting& setting) {
     return Setter(setting).set(paragraphsOf(text, setting.singleLine));
-}
-
-bool haveFonts() {
-    static std::atomic<bool> found = false, told = false;
-    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
-        if (!told.exchange(true))
-            logError("Text is left out of the picture: this program was started without fonts.");
-        return false;
-    }
-    // Without any font there is still one that draws boxes; it comes from no file.
-    if (!found) found = !QRawFont::fromFont(QFont()).fontTable("head").isEmpty();
-    if (!found && !told.exchange(true)) logError("Text is left out of the picture: no font is installed.");
-    return found;
 }
 
 }  // namespace tavrin

@@ -46,8 +46,4 @@ struct LaidOutText {
 /// where one is installed. Of a text of more than 10,000 characters the rest is left out.
 LaidOutText layOutText(const std::string& text, const TextSetting& setting);
 
-/// Whether text can be laid out: that needs a QGuiApplication and a font. If one is missing, the first call says so
-/// on the error stream.
-bool haveFonts();
-
 }  // namespace tavrin

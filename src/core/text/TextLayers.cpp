@@ -1,5 +1,7 @@
 #include "core/text/TextLayers.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 #include <QDateTime>
@@ -7,12 +9,15 @@
 #include "core/image/PictureCache.h"
 #include "core/raster/ColorMath.h"
 #include "core/text/ClearLayer.h"
+#include "core/text/Fonts.h"
 #include "core/text/TextMacros.h"
 #include "core/text/TextPaint.h"
 
 namespace tavrin {
 
 namespace {
+
+constexpr std::array kLevels = {"Background", "Background Layer", "Foreground", "Foreground Layer", "Frame Layer"};
 
 // The pass that items are drawn for.
 struct Page {
@@ -71,25 +76,34 @@ TextShadow shadowOf(const FontObject& item, double scaleX, double scaleY) {
     return shadow;
 }
 
-// The flipped coordinates of the items, y downward from the top of the picture.
-QTransform fromTopLeft(const QPainter& painter, const Page& page) {
-    return QTransform(1, 0, 0, -1, 0, page.size.height) * painter.transform();
+// What a text item shows; "" when that is nothing.
+std::string stringOf(const FontObject& item, const Page& page) {
+    if (item.isImage || item.iFontSize < 1 || item.dGlobalScaleX == 0.0 || item.dGlobalScaleY == 0.0) return "";
+    return expandMacros(item.sText, page.sourcePath, page.now);
+}
+
+// Where the layout of a text starts, in its flipped coordinates: they count points at the item's scale, y downward
+// from the top of the picture. The box hangs from there, so its lower left corner is what `xPos` and `yPos` tell.
+QPointF startOf(const FontObject& item, const PassGeometry& size, double sx, double sy) {
+    const double d = size.dpi, h = size.height;
+    const double x = (item.xPos - item.rectSizeX * item.dGlobalScaleX / 72.0) * d / sx;
+    const double y = h / sy - item.yPos * d / sy - (item.rectSizeHeight * item.dGlobalScaleY / 72.0) * d / sy;
+    return {x + item.rectSizeX, y};  // the text stands in its box, wherever the dialog had that
 }
 
 void drawTextItem(BitmapContext& context, const FontObject& item, const Page& page, const RunContext& run) {
     const double dpi = page.size.dpi;
     const double sx = dpi / 72.0 * item.dGlobalScaleX, sy = dpi / 72.0 * item.dGlobalScaleY;
-    const std::string string = expandMacros(item.sText, page.sourcePath, page.now);
-    if (string.empty() || item.iFontSize < 1 || sx == 0.0 || sy == 0.0 || !haveFonts()) return;
-    const LaidOutText text = layOutText(string, settingOf(item));
+    const LaidOutText text = layOutText(stringOf(item, page), settingOf(item));
     const TextStyle style = styleOf(item);
 
     const auto painter = context.painter();
     const double toPoints = item.iFontSize / LaidOutText::kSize;
-    // The box starts at the text's own left edge, so its origin in the dialog cancels out.
-    const QTransform place = QTransform::fromScale(toPoints * sx, toPoints * sy) *
-                             QTransform::fromTranslate(item.xPos * dpi, item.yPos * dpi) *
-                             fromTopLeft(*painter, page);
+    const QPointF start = startOf(item, page.size, sx, sy);
+    const QTransform flipped =
+        QTransform::fromScale(sx, -sy) * QTransform::fromTranslate(0.0, page.size.height) * painter->transform();
+    const QTransform place =
+        QTransform::fromScale(toPoints, toPoints) * QTransform::fromTranslate(start.x(), start.y()) * flipped;
     if (hasShadow(item)) paintTextShadow(*painter, text, place, style, shadowOf(item, sx, sy), run);
     paintText(*painter, text, place, style, run);
 }
@@ -98,7 +112,7 @@ void drawPictureItem(BitmapContext& context, const FontObject& item, const Page&
     const double dpi = page.size.dpi;
     const double width = item.imageSizeWidth * item.dGlobalScaleX * page.pictureScale;
     const double height = item.imageSizeHeight * item.dGlobalScaleY * page.pictureScale;
-    const QRectF rect(item.xPos * dpi, page.size.height - item.yPos * dpi - height, width, height);
+    const QRectF rect(item.xPos * dpi, item.yPos * dpi, width, height);  // of the context: y upward
     if (item.sText.empty() || !(width > 0.0) || !(height > 0.0)) return;
     const double opacity = clampTo(item.dTransparency, 0.0, 1.0);
     if (width > page.size.width || height > page.size.height) {
@@ -130,9 +144,22 @@ void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string
     drawInto(info, *context, [&](BitmapContext& target) {
         for (const FontObject& item : items) {
             if (run.isSuperseded()) return;
-            item.isImage ? drawPictureItem(target, item, page, run) : drawTextItem(target, item, page, run);
+            if (item.isImage) drawPictureItem(target, item, page, run);
+            if (!stringOf(item, page).empty() && canDrawText(info)) drawTextItem(target, item, page, run);
         }
     });
+}
+
+std::string textProblem(const SystemInfo& info) {
+    const Page page = pageOf(info, 1);
+    const bool labels = std::any_of(info.oFontLabelObject.begin(), info.oFontLabelObject.end(),
+                                    [&](const FontObject& label) { return !labelString(info, label).empty(); });
+    const bool items = std::any_of(info.oFontObject.begin(), info.oFontObject.end(), [&](const FontObject& item) {
+        const bool onLevel = std::find(kLevels.begin(), kLevels.end(), item.sLevel.load()) != kLevels.end();
+        return onLevel && !stringOf(item, page).empty();
+    });
+    const std::string reason = labels || (items && !info.bTextPanelOpen) ? whyNoFonts() : "";
+    return reason.empty() ? "" : std::string(kTextMissing) + " (" + reason + ")";
 }
 
 void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::string& myImage, int myRes,

@@ -8,7 +8,8 @@ namespace tavrin {
 
 /// Text and pictures on the image. Each is drawn into a context of the background or of the combined picture; `myRes`
 /// is 1 for the full picture, any other value for the preview. Text is laid out on the thread that draws it. A null
-/// context, and a resolution without a size, draw nothing. A superseded run leaves out what is still to come.
+/// context, and a resolution without a size, draw nothing. A superseded run leaves out what is still to come. Without
+/// any font text is left out; an alert says so, once in the life of the program.
 ///
 /// The combined picture of transparent output holds straight alpha: there the text becomes part of the subject.
 
@@ -16,6 +17,9 @@ namespace tavrin {
 /// Layer") in the order of the list, on the last level the labels first. While `bTextPanelOpen` is set the dialog
 /// shows the items and they are left out. A picture whose file cannot be read is left out with a line on the error
 /// stream.
+///
+/// The lower left corner of an item, a text's box `rectSize` or the picture, stands `xPos` and `yPos` inches from the
+/// lower left corner of the image. A text starts at the top of its box.
 void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string& sLevel, int myRes,
                      const RunContext& run = {});
 
@@ -27,6 +31,12 @@ void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFont
 /// Draws a picture file over the whole image, stretched to it. Shows an alert when it cannot be read.
 void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::string& myImage, int myRes,
                       const RunContext& run = {});
+
+/// What a label shows: its text, or the name of the foreground's file for "@filename". "" when that is nothing.
+std::string labelString(const SystemInfo& info, const FontObject& label);
+
+/// "", or why the text of the state cannot be drawn as one plain line: there is some, and no font for it.
+std::string textProblem(const SystemInfo& info);
 
 /// Gives each label the size and the colour that `sLabelSize` ("X-Large", "Large", "Medium", "Small") and
 /// `sFontColor` ("White", else black) name; an unknown size leaves the old one.

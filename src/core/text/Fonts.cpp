@@ -1,0 +1,26 @@
+#include "core/text/Fonts.h"
+
+#include <atomic>
+
+#include <QFontInfo>
+#include <QGuiApplication>
+
+namespace tavrin {
+
+std::string whyNoFonts() {
+    static std::atomic<bool> found = false;
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        return "this program was started without fonts";
+    // Without any font there is still one that draws boxes; it has no name.
+    if (!found) found = !QFontInfo(QFont()).family().isEmpty();
+    return found ? "" : "no font was found; install one, on Debian for example the package fonts-liberation";
+}
+
+bool canDrawText(SystemInfo& info) {
+    static std::atomic<bool> told = false;
+    const std::string reason = whyNoFonts();
+    if (!reason.empty() && !told.exchange(true)) info.alert(kTextMissing, reason);
+    return reason.empty();
+}
+
+}  // namespace tavrin
