@@ -274,6 +274,8 @@ TEST_F(BatchEngineTest, AStatesOwnSizeIsMadeAndOneThatNobodyKnowsIsTold) {
     portrait("fg/ben.png");
     background("bg/sea.png", QColor(9, 8, 7));
     const auto other = test::stateForOutput(60, 40, 40);
+    // A state that follows another over one background brings its own.
+    other->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file("bg/sea.png");
     selectOwnSize(*other, "mine", 0.75, 0.5, 120);
     ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/mine.qlx")), "");
     selectOwnSize(*other, "nobody's", 0.0, 0.0, 0);

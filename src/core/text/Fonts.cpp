@@ -19,8 +19,10 @@ std::string whyNoFonts() {
 bool canDrawText(SystemInfo& info) {
     static std::atomic<bool> told = false;
     const std::string reason = whyNoFonts();
-    if (!reason.empty() && !told.exchange(true)) info.alert(kTextMissing, reason);
-    return reason.empty();
+    if (reason.empty()) return true;
+    if (!told.exchange(true)) info.alert(kTextMissing, reason);
+    info.pictures.fail(std::string(kTextMissing) + " (" + reason + ")");
+    return false;
 }
 
 }  // namespace tavrin

@@ -12,7 +12,8 @@ inline constexpr const char* kTextMissing = "The text cannot be drawn";
 /// "", or why text cannot be laid out: that needs a QGuiApplication and a font.
 std::string whyNoFonts();
 
-/// Whether text can be laid out. The first call that finds it cannot shows an alert of `info`.
+/// Whether text can be laid out. Where it cannot, the pass under work fails, so that no picture goes out without its
+/// text; the first such call shows an alert of `info`.
 bool canDrawText(SystemInfo& info);
 
 }  // namespace tavrin
