@@ -145,6 +145,11 @@ TEST_F(CliTest, FilesThatAreHugeOrPretendToBeAreRefusedWithTheirNames) {
             << outcome.err.toStdString();
         fs::remove(folder_.file(name));
     }
+    fs::copy_file(foreground_.toStdString(), folder_.file("long.png"));
+    fs::resize_file(folder_.file("long.png"), 8 * kGigabyte);  // behind a good picture
+    const Outcome outcome = run({"info", file("long.png")});
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_TRUE(outcome.err.contains("long.png: it is too large")) << outcome.err.toStdString();
 }
 
 TEST_F(CliTest, WrongCallsAreToldInOneLineAndWriteNothing) {

@@ -19,7 +19,8 @@ namespace {
 /// The loaders stop with an error where the data ends too early, and mend what they can otherwise.
 constexpr VipsFailOn kFailOn = VIPS_FAIL_ON_TRUNCATED;
 
-// For the decoders that want a file whole. 400 megapixels take 1.6 GB, and no PSD file may be longer than 2.
+// 400 megapixels take 1.6 GB, and no PSD file may be longer than 2. Some decoders want a file whole, others look through
+// all of it for its end.
 constexpr std::uintmax_t kMostBytes = std::uintmax_t{2} << 30;
 
 bool isReadWhole(FileKind kind) {
@@ -29,10 +30,10 @@ bool isReadWhole(FileKind kind) {
 /// Why a file is refused before any decoder sees it.
 std::string fileProblem(const std::string& path, FileKind kind) {
     std::error_code error;
-    const bool whole = isReadWhole(kind);
-    if (whole && std::filesystem::file_size(path, error) > kMostBytes && !error)
+    const bool mayBeLonger = kind == FileKind::tiff;  // it tells itself where its parts are
+    if (!mayBeLonger && std::filesystem::file_size(path, error) > kMostBytes && !error)
         return "it is too large: at most 2 GB of such a file are read";
-    return whole ? "" : metadataProblem(path, kind);
+    return isReadWhole(kind) ? "" : metadataProblem(path, kind);
 }
 
 bool readWhole(const std::string& path, std::vector<std::uint8_t>& bytes) {

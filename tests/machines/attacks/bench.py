@@ -120,8 +120,8 @@ class Case:
         return path
 
     def freeze(self):
-        """From now on everything outside `out` has to stay as it is."""
-        self.before = tree(self.folder)
+        """From now on everything outside `out` has to stay as it is. What a kill left in `temp` goes with the next run."""
+        self.before = {path: was for path, was in tree(self.folder).items() if not path.startswith(b"temp/")}
 
     def becomes_somebody(self):
         """The super-user is stopped by no permission: from here on the program runs as somebody else."""
