@@ -221,7 +221,9 @@ std::string BatchRun::claim(const BatchJob& job) {
     {
         std::lock_guard lock(mutex_);
         const JobRecord* known = journal_.find(job.name);
-        if (known && known->out == claim.out && journal_.owns(claim.out)) return "";
+        const bool isOurs = known && known->out == claim.out && journal_.owns(claim.out);
+        // What was done before is so no longer: a kill may leave another picture under the name.
+        if (isOurs && known->status == JobRecord::Status::begun) return "";
     }
     std::string problem;
     do {

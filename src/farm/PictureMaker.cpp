@@ -1,6 +1,7 @@
 #include "farm/PictureMaker.h"
 
-#include <filesystem>
+#include <algorithm>
+#include <iterator>
 
 #include <QCoreApplication>
 
@@ -10,8 +11,6 @@
 #include "pipeline/CombineThread.h"
 #include "pipeline/OutputSize.h"
 #include "pipeline/StartUp.h"
-
-namespace fs = std::filesystem;
 
 namespace tavrin {
 
@@ -39,11 +38,13 @@ std::string digestOfSettings(const SystemInfo& info) {
                 std::to_string(size->dotsPerInch) + "\n";
     }
     for (const auto& [name, value] : listFields(info)) {
-        if (isPlace(name)) continue;
-        text += name + "=" + value + "\n";
-        std::error_code ignored;
-        if (value.find('/') != std::string::npos && fs::is_regular_file(value, ignored))
-            text += digestOfFile(value) + "\n";
+        if (!isPlace(name)) text += name + "=" + value + "\n";
+    }
+    const std::string sources[] = {info.pForegroundBitmapInfo->sSourceImageFullPath,
+                                   info.pBackgroundBitmapInfo->sSourceImageFullPath};
+    for (const std::string& file : filesNamedBy(info)) {
+        if (std::find(std::begin(sources), std::end(sources), file) == std::end(sources))
+            text += digestOfFile(file) + "\n";
     }
     return digestOfText(text);
 }

@@ -164,6 +164,40 @@ TEST_F(OriginalsCliTest, ABatchReplacesOnlyWhatItMade) {
     EXPECT_TRUE(fs::exists(folder_.file("out/BatchFile4.jpg")));
 }
 
+TEST_F(OriginalsCliTest, WhatIsThereIsWhatTheJournalSays) {
+    const QStringList other = {"--set", "foreground.iContrast=80"};
+    ASSERT_TRUE(test::runCli(batch()).err.startsWith("2 pictures made"));
+    ASSERT_TRUE(test::runCli(batch(other)).err.startsWith("2 pictures made"));
+    // A kill between the second pictures and their records: those of the first stand under the names no longer.
+    const std::string journal = folder_.file("out/.tavrin-batch/");
+    const auto forEachLine = [&journal](const auto& use) {
+        for (const auto& entry : fs::directory_iterator(journal)) {
+            std::istringstream lines(test::readFile(entry.path().string()));
+            std::string kept;
+            for (std::string line; std::getline(lines, line);)
+                kept += use(line) ? line + "\n" : "";
+            test::writeFile(entry.path().string(), kept);
+        }
+    };
+    const auto isDone = [](const std::string& line) { return line.find("\"done\"") != std::string::npos; };
+    const auto orderOf = [](const std::string& line) { return std::stoi(line.substr(line.find("\"order\":") + 8)); };
+    int earliest = 1000;
+    forEachLine([&](const std::string& line) {
+        if (isDone(line)) earliest = std::min(earliest, orderOf(line));
+        return true;
+    });
+    forEachLine([&](const std::string& line) { return !isDone(line) || orderOf(line) <= earliest + 2; });
+    EXPECT_TRUE(test::runCli(batch()).err.startsWith("2 pictures made, in"));
+
+    // A file counts by its contents, also when its name has no folder.
+    fs::current_path(folder_.path());
+    const QStringList laced = {"--overlay-frame", "lace.png"};
+    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("2 pictures made"));
+    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("0 pictures made"));
+    test::savePng(test::noisePicture(60, 36, 9), folder_.file("lace.png"));
+    EXPECT_TRUE(test::runCli(batch(laced)).err.startsWith("2 pictures made"));
+}
+
 TEST_F(OriginalsCliTest, LinksAreNotFollowedOutOfTheFolderAndReadOnlyPicturesStay) {
     fs::create_directory(folder_.path() / "elsewhere");
     test::writeFile(folder_.file("elsewhere/mine.jpg"), "mine");
