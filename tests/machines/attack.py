@@ -152,6 +152,8 @@ def main():
     has_own_mount_space()
     work = Path(tempfile.mkdtemp(prefix="tavrin-attack-"))
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    # What is ignored here, as under nohup, the programs under attack would ignore too.
+    signal.signal(signal.SIGHUP, lambda *_: None)
     try:
         attack = Attack(options, work)
         attack.run()
