@@ -19,8 +19,8 @@ namespace {
 /// The loaders stop with an error where the data ends too early, and mend what they can otherwise.
 constexpr VipsFailOn kFailOn = VIPS_FAIL_ON_TRUNCATED;
 
-// 400 megapixels take 1.6 GB, and no PSD file may be longer than 2. Some decoders want a file whole, others look through
-// all of it for its end.
+// 400 megapixels take 1.6 GB, and no PSD file may be longer than 2. Some decoders want a file whole, others look
+// through all of it for its end.
 constexpr std::uintmax_t kMostBytes = std::uintmax_t{2} << 30;
 
 bool isReadWhole(FileKind kind) {
