@@ -7,6 +7,7 @@
 #include "support/Faults.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
+#include "support/Sanitized.h"
 #include "support/TestData.h"
 
 namespace fs = std::filesystem;
@@ -16,6 +17,9 @@ namespace {
 
 class EndingsCliTest : public testing::Test {
   protected:
+    void SetUp() override {
+        if (test::kSanitized) GTEST_SKIP() << "moments and loads are those of the program as users get it";
+    }
     EndingsCliTest() {
         for (const char* name : {"fg", "out", "tmp"})
             fs::create_directory(folder_.path() / name);

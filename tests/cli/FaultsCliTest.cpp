@@ -10,6 +10,7 @@
 #include "support/Faults.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
+#include "support/Sanitized.h"
 #include "support/TestData.h"
 
 namespace fs = std::filesystem;
@@ -19,6 +20,9 @@ namespace {
 
 class FaultsCliTest : public testing::Test {
   protected:
+    void SetUp() override {
+        if (test::kSanitized) GTEST_SKIP() << "moments and loads are those of the program as users get it";
+    }
     FaultsCliTest() {
         fs::create_directory(folder_.path() / "fg");
         for (const char* name : {"anna", "ben", "cora"})
