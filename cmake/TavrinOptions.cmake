@@ -14,8 +14,24 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 find_program(TAVRIN_CCACHE ccache)
 if(TAVRIN_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${TAVRIN_CCACHE})
+  # What it has to overlook to keep results made with headers that were compiled once.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${TAVRIN_CCACHE})
 endif()
+
+# tavrin_compile_once(TARGET HEADER...): headers of libraries that most of its files include are compiled once. A file
+# still names all that it uses.
+function(tavrin_compile_once target)
+  target_precompile_headers(${target} PRIVATE ${ARGN})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Without it the compiler cache takes no result.
+    target_compile_options(${target} PRIVATE -fpch-preprocess)
+    if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+      # It takes joined strings for writes out of bounds (its bug 105329), and forgets that it is in a system header.
+      target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow
+                                               -Wno-stringop-overread)
+    endif()
+  endif()
+endfunction()
 
 # No fused multiply-add: a*b+c must give the same bytes on every machine and at every lane width.
 # Nobody reads errno or floating-point exceptions after arithmetic: leaving both out changes no value, and roots and

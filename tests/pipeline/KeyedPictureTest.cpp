@@ -8,6 +8,7 @@
 #include "pipeline/OutputSize.h"
 #include "pipeline/WholePicture.h"
 #include "support/Pictures.h"
+#include "support/Sanitized.h"
 #include "support/TestData.h"
 
 namespace tavrin {
@@ -205,13 +206,6 @@ bool isFinishing(const std::string& name) {
            starts("dSliderForegroundBlur");
 }
 
-// Under the thread checker a pass takes long, and the values are not what it looks for.
-#ifdef __SANITIZE_THREAD__
-constexpr std::size_t kStep = 23;
-#else
-constexpr std::size_t kStep = 1;
-#endif
-
 // Whatever a single setting does, a pass that could take the keyed picture up again shows the same as one that could
 // not, and what comes after the key never keys again.
 void KeyedPictureTest::changeEachSetting() {
@@ -219,7 +213,7 @@ void KeyedPictureTest::changeEachSetting() {
         passAndCompare("start");
     ASSERT_FALSE(reusing_.keyed());
     const auto fields = listFields(*whole_.info);
-    for (std::size_t i = 0; i < fields.size(); i += kStep) {
+    for (std::size_t i = 0; i < fields.size(); i += test::kTimesFewer) {
         const auto& [name, value] = fields[i];
         if (isSize(name)) continue;
         for (const std::string& next : {otherValue(name, value, background_), value}) {

@@ -1,4 +1,5 @@
 // A state file is not range-checked, so every stage has to bear every value of every field.
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -7,6 +8,7 @@
 #include "pipeline/CombineThread.h"
 #include "pipeline/StateFile.h"
 #include "support/Pictures.h"
+#include "support/Sanitized.h"
 #include "support/TestData.h"
 
 namespace tavrin {
@@ -18,12 +20,7 @@ bool isLeftAlone(const std::string& name) {
            name.find("ImageSize") != std::string::npos || name.find("OutputImage") != std::string::npos;
 }
 
-// Under the thread checker a round takes over a second, and the values are not what it looks for.
-#ifdef __SANITIZE_THREAD__
-constexpr int kRounds = 12;
-#else
-constexpr int kRounds = 120;
-#endif
+constexpr int kRounds = std::max(12, 80 / test::kTimesFewer);
 
 class WildSettingsTest : public testing::Test {
   protected:
