@@ -1,6 +1,7 @@
 #pragma once
 
-#include <condition_variable>
+#include <chrono>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -14,18 +15,22 @@
 #include "folders/BatchElement.h"
 #include "folders/BatchNames.h"
 #include "folders/NextFileInFolder.h"
+#include "pipeline/IdleJob.h"
 
 namespace tavrin {
 
 /// The batch of the desktop program: combinations of foregrounds, backgrounds and states go through the processing
 /// thread that serves the screen, one picture at a time. `nextBatchImageToProcess` does one step: it saves what has
-/// just been finished, chooses the next job, loads it and asks for its picture. Registered as idle work of the loop,
-/// it is called again when that picture stands. With watch on a run never ends and takes files as they arrive.
+/// just been finished, chooses the next job, loads it and asks for its picture. An idle job of the loop, it is called
+/// again when that picture stands. A portrait that may still be growing is looked at from step to step. With watch on
+/// a run never ends and takes files as they arrive.
 ///
 /// Buttons, choosers and boxes belong to the main thread, the step to the processing thread; `ShowBatchStatus` may be
 /// called on both. Settings are those of `QLXInfo`.
-class BatchEngine {
+class BatchEngine : public IdleJob {
   public:
+    using Time = std::chrono::steady_clock::time_point;
+
     /// Jobs of a list file that are run at most.
     static constexpr std::size_t kBatchElements = 500;
 
@@ -38,8 +43,8 @@ class BatchEngine {
 
     /// One step. Processing thread only.
     void nextBatchImageToProcess();
-    /// Ends a wait for a file that is still growing, for good; for a program that closes.
-    void endWaits();
+    bool isOn() const override { return !bBatchProcessingStopped; }
+    void step() override { nextBatchImageToProcess(); }
 
     /// Counts what there is to do and what was done, in the way that the settings choose: by all combinations, by
     /// subfolders, or by a list file.
@@ -78,8 +83,8 @@ class BatchEngine {
     NextFileInFolder nextBatchForegroundFile, nextBatchBackgroundFile, nextBatchQLXFile;
     std::vector<BatchElement> myBatchElements = std::vector<BatchElement>(kBatchElements);
 
-    /// Waits a second between two looks at a growing file; tests put their own in its place.
-    std::function<void()> pause;
+    /// The clock by which a portrait has to rest; tests put their own in its place.
+    std::function<Time()> now = std::chrono::steady_clock::now;
 
   private:
     /// The next combination, by the names of the lists.
@@ -91,12 +96,20 @@ class BatchEngine {
         bool fromList = false;
     };
 
+    /// What the last look at a portrait saw.
+    struct Seen {
+        std::uintmax_t size = 0;
+        Time at;
+    };
+
     void showCounts(std::int32_t processed);
     void moveListFileAway(const std::string& folder, const std::string& name);
 
     void saveFinishedJob();
     void drawMask();
     void stopRun();
+    void takeJob();
+    void beginJob(const Job& job);
     std::optional<Job> chooseJob();
     std::optional<Job> choosePlain();
     std::optional<Job> chooseInSubfolders();
@@ -106,7 +119,7 @@ class BatchEngine {
     void useSize();
     void loadBackground(const Job& job);
     void loadForeground(const Job& job);
-    void waitUntilStable(const std::string& path);
+    bool isStable(const Job& job);
     void nameOutput(const Job& job);
     std::string whyNotSaved();
     KnownFiles inputFiles();
@@ -120,9 +133,8 @@ class BatchEngine {
     QLXInfo& settings_;
     BatchView& view_;
     std::recursive_mutex scanners_;  ///< the panel and a run both look into the folders
-    std::mutex waitMutex_;
-    std::condition_variable waitEnded_;
-    bool leaving_ = false;
+    std::optional<Job> taken_;       ///< the job whose portrait is waited for, and what was seen of it
+    std::optional<Seen> seen_;
     bool refused_ = false;  ///< a message about an entry that has no place was shown in this run
 };
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <unordered_set>
+#include <utility>
 
 #include "batch/BatchEngine.h"
 #include "core/Log.h"
@@ -15,6 +16,13 @@ namespace tavrin {
 
 void BatchEngine::nextBatchImageToProcess() {
     if (bBatchProcessingStopped) return;
+    if (!taken_) takeJob();
+    // Once taken a job is made, also when a stop is asked for while its portrait is waited for.
+    if (taken_ && isStable(*taken_)) beginJob(*std::exchange(taken_, std::nullopt));
+}
+
+/// Saves the job that is finished and takes the next one, with its state and its background.
+void BatchEngine::takeJob() {
     ShowBatchStatus();
     const bool watch = settings_.bLastBatchCheckForNewFiles;
     if (iTotalInBatch == 0 && !bStopBatchProcessing) {
@@ -24,24 +32,28 @@ void BatchEngine::nextBatchImageToProcess() {
     if (bSaveNextImage) saveFinishedJob();
     if (bStopBatchProcessing) return stopRun();
 
-    const std::optional<Job> job = chooseJob();
+    std::optional<Job> job = chooseJob();
     if (!job) {
         if (!watch) stopRun();
         return;
     }
     loadState(*job);
     loadBackground(*job);
-    loadForeground(*job);
-    if (!job->fromList) nameOutput(*job);
+    taken_ = std::move(job);  // last: what found no memory for these is chosen again
+}
+
+void BatchEngine::beginJob(const Job& job) {
+    loadForeground(job);
+    if (!job.fromList) nameOutput(job);
     if (const std::string problem = whyNotSaved(); !problem.empty()) {
         info_.alert("The batch has stopped: a picture cannot go where it should.", problem + ".");
         return stopRun();
     }
     bSaveNextImage = true;
-    if (!job->fromList) {
+    if (!job.fromList) {
         // Before the picture is made: a job that breaks the program is not tried for ever.
         std::lock_guard lock(scanners_);
-        nextBatchForegroundFile.AddProcessedFiles(job->historyKey);
+        nextBatchForegroundFile.AddProcessedFiles(job.historyKey);
     }
     info_.StartUpdate();
 }
@@ -195,7 +207,9 @@ void BatchEngine::loadState(const Job& job) {
 
 void BatchEngine::useSize() {
     const std::optional<ImageSize> size = selectedSize(info_);
-    if (!size || !ChangeImageSize(info_)) return;
+    if (!size) return;
+    info_.pictures.begin();  // the buffers are made anew, and nothing is in them until the job's picture is
+    if (!ChangeImageSize(info_)) return;
     info_.bNewOutputSize = true;
     if (info_.pInterface) info_.pInterface->updateScaleUI();
     const std::string title = size->sDefaultPrinterPage;
@@ -216,28 +230,24 @@ void BatchEngine::loadBackground(const Job& job) {
 
 void BatchEngine::loadForeground(const Job& job) {
     if (job.foregroundName == sLastForegroundFile.load()) return;
-    waitUntilStable(job.foregroundPath);
     info_.pForegroundBitmapInfo->setSourceImageFullPath(job.foregroundPath);
     info_.pForegroundBitmapInfo->bOrgFileChange = true;
     sLastForegroundFile = job.foregroundName;
 }
 
-// A camera or a copy over the network may still be writing. A file that goes away meanwhile keeps its last size, so
-// that the wait ends.
-void BatchEngine::waitUntilStable(const std::string& path) {
-    const auto look = [&path](std::uintmax_t before) {
-        std::error_code gone;
-        const std::uintmax_t size = fs::file_size(path, gone);
-        return gone ? before : size;
-    };
-    std::uintmax_t before = look(0);
-    for (;;) {
-        pause();
-        const std::uintmax_t now = look(before);
-        std::lock_guard lock(waitMutex_);
-        if (now == before || leaving_) return;
-        before = now;
-    }
+/// A camera or a copy over the network may still be writing a new portrait: two looks, a second apart, have to see
+/// one size. A file that goes away meanwhile keeps its last size, so that the waiting ends.
+bool BatchEngine::isStable(const Job& job) {
+    if (job.foregroundName == sLastForegroundFile.load()) return true;
+    const Time time = now();
+    if (seen_ && time - seen_->at < std::chrono::seconds(1)) return false;
+    const std::optional<Seen> before = std::exchange(seen_, std::nullopt);
+    std::error_code gone;
+    std::uintmax_t size = fs::file_size(job.foregroundPath, gone);
+    if (gone) size = before ? before->size : 0;
+    if (before && size == before->size) return true;
+    seen_ = Seen{size, time};
+    return false;
 }
 
 }  // namespace tavrin
