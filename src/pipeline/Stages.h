@@ -16,9 +16,10 @@ struct Stage {
     const char* name;  ///< as it goes on after "there is not enough memory for the"
     bool (*when)(const SystemInfo&);
     void (*run)(SystemInfo&, int res);
-    /// Settings that it reads, with blanks between, by their names in SettingNames.h; "text." is all of every text. A setting
-    /// that stages of `finish` alone name does not key again. One that nobody names does: that costs time, never a
-    /// wrong picture. So a stage of `key` must name what a stage of `finish` reads too, and may leave out the others.
+    /// Settings that it reads, with blanks between, by their names in SettingNames.h; "text." is all of every text. A
+    /// setting that stages of `finish` alone name does not key again. One that nobody names does: that costs time,
+    /// never a wrong picture. So a stage of `key` must name what a stage of `finish` reads too, and may leave out the
+    /// others.
     std::string_view reads = {};
     /// Whether a run of a stage of `key` reads a file, which may change without any setting knowing. None: never.
     bool (*readsFile)(const SystemInfo&) = nullptr;
