@@ -61,6 +61,23 @@ std::string writeLines(const std::string& path, const std::vector<std::string>& 
     return file.commit() ? std::string() : path + ": " + file.error() + ".";
 }
 
+// A picture outside the folder of the run's pictures (a list may name one) has its full path.
+std::string writtenName(const std::string& outFolder, const std::string& out) {
+    if (out.empty()) return out;
+    std::error_code failed;
+    const std::string folder = fs::absolute(outFolder, failed).lexically_normal().string();
+    const std::string path = fs::absolute(out, failed).lexically_normal().string();
+    return failed ? out : relativeTo(folder.ends_with('/') ? folder.substr(0, folder.size() - 1) : folder, path);
+}
+
+/// Whether a run can have written such a name: no way out of its folder, and nothing that is no name at all.
+bool isWrittenName(const std::string& name, bool isMade) {
+    if (name.empty()) return !isMade;
+    const fs::path path(name);
+    return name.find('\0') == std::string::npos && path == path.lexically_normal() && path.has_filename() &&
+           *path.begin() != ".." && *path.begin() != ".";
+}
+
 /// All reports that are to be joined, read into one.
 class Merger {
   public:
@@ -75,6 +92,9 @@ class Merger {
                 isReport = true;
                 readHead(object);
             } else if (isReport && object.contains("n")) {
+                const std::string out = nameOfText(object["out"].toString());
+                if (!isWrittenName(out, object["status"].toString() == "done"))
+                    return path + " is damaged: no run calls a picture \"" + out + "\".";
                 readJob(object);
             }
         }
@@ -141,7 +161,7 @@ std::string describeResult(const JobResult& result, const std::string& outFolder
     const BatchJob& job = result.job;
     QJsonObject object{{"n", job.number},
                        {"foreground", textOfName(job.foreground)},
-                       {"out", textOfName(relativeTo(outFolder, job.out))},
+                       {"out", textOfName(writtenName(outFolder, job.out))},
                        {"status", statusName(result.status)}};
     if (!job.background.empty()) object["background"] = textOfName(job.background);
     if (!job.state.empty()) object["state"] = textOfName(job.state);

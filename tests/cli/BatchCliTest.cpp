@@ -137,6 +137,26 @@ TEST_F(BatchCliTest, ShardsAndTheirReports) {
     EXPECT_EQ(test::runCli({"report", "merge", "--out", file("all"), file("none")}).code, 1);
 }
 
+TEST_F(BatchCliTest, AReportNamesPicturesAndNoWaysOutOfTheirFolder) {
+    ASSERT_EQ(test::runCli(batch({"--report", file("report")})).code, 0);
+    const std::string report = test::readFile(folder_.file("report")), made = "\"out\":\"annasea.jpg\"";
+    const auto merged = [&](const std::string& name) {
+        std::string changed = report;
+        changed.replace(changed.find(made), made.size(), "\"out\":\"" + name + "\"");
+        test::writeFile(folder_.file("changed"), changed);
+        return test::runCli({"report", "merge", "--out", file("all"), file("changed")});
+    };
+    for (const char* name : {"../victim.jpg", "x/../../victim.jpg", "/x/../victim.jpg", "x\\u0000.jpg", "x/", ""}) {
+        const auto outcome = merged(name);
+        EXPECT_EQ(outcome.code, 1) << name;
+        EXPECT_TRUE(outcome.err.contains("damaged")) << outcome.err.toStdString();
+        EXPECT_FALSE(fs::exists(folder_.file("all"))) << name;
+    }
+    // What a batch by folders or by a list writes.
+    for (const char* name : {"anna/sea.jpg", "/elsewhere/anna.jpg"})
+        EXPECT_EQ(merged(name).code, 0) << name;
+}
+
 // One signal finishes the pictures in hand; the same command goes on from there. Two stop at once.
 TEST_F(BatchCliTest, ASignalStopsItCleanlyAndTwoAtOnce) {
     for (int i = 0; i < 60; ++i)
