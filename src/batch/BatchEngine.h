@@ -13,6 +13,7 @@
 #include "core/state/SystemInfo.h"
 #include "folders/BatchElement.h"
 #include "folders/BatchNames.h"
+#include "folders/Combinations.h"
 #include "folders/NextFileInFolder.h"
 
 namespace tavrin {
@@ -98,12 +99,10 @@ class BatchEngine {
     void drawMask();
     void stopRun();
     std::optional<Job> chooseJob();
-    std::optional<Job> choosePlain();
-    std::optional<Job> chooseInSubfolders();
+    std::optional<Job> chooseCombination();
     std::optional<Job> chooseFromList();
     void refuseOnce(const std::string& problem);
     void loadState(const Job& job);
-    void useSize();
     void loadBackground(const Job& job);
     void loadForeground(const Job& job);
     void waitUntilStable(const std::string& path);
