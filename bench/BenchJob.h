@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "pipeline/OutputSize.h"
+#include "session/OutputSizes.h"
 
 // The picture that the benchmarks of whole jobs and passes make.
 namespace tavrin::bench {
@@ -34,7 +34,7 @@ inline std::unique_ptr<SystemInfo> newJob() {
     auto info = std::make_unique<SystemInfo>();
     info->pForegroundBitmapInfo->sSourceImageFullPath = foregroundPath();
     info->pBackgroundBitmapInfo->sSourceImageFullPath = backgroundPath();
-    selectOwnSize(*info, "8x10", 8.0, 10.0, 300);
+    chooseOwnSize(*info, "8x10", 8.0, 10.0, 300);
     return info;
 }
 

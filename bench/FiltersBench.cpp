@@ -9,7 +9,7 @@
 #include "effects/star/StarFilter.h"
 #include "key/Combine.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
+#include "session/OutputSizes.h"
 
 namespace tavrin {
 namespace {
@@ -29,8 +29,8 @@ struct Run {
         : res(static_cast<int>(state.range(0))), limit(static_cast<int>(state.range(1))) {
         info->pForegroundBitmapInfo->sSourceImageFullPath = TAVRIN_SOURCE_DIR "/data/sample/portrait.jpg";
         info->pBackgroundBitmapInfo->sSourceImageFullPath = TAVRIN_SOURCE_DIR "/data/sample/background.jpg";
-        selectOwnSize(*info, "bench", 8.0, 10.0, 300);
-        ChangeImageSize(*info);
+        chooseOwnSize(*info, "bench", 8.0, 10.0, 300);
+        useChosenSize(*info);
         CombineThread(*info).runUntilIdle();
         info->iCurrentThreadCount = info->iNewThreadCount.load();
         geometry = info->geometry(res);

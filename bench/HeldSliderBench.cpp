@@ -104,7 +104,7 @@ void hold(benchmark::State& state, SystemInfo& info, const Hand& hand) {
     keepPixelMemory(std::size_t{1} << 28);  // as in the window
     WaitingView view(info);
     info.pInterface = &view;
-    ChangeImageSize(info);
+    useChosenSize(info);
     CombineThread loop(info);
     loop.runUntilIdle();
     loop.StartMainThread();

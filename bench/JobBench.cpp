@@ -33,7 +33,7 @@ void wholeJob(benchmark::State& state, Compute compute) {
     foregroundPath();
     for (auto _ : state) {
         const auto info = newJob();
-        ChangeImageSize(*info);
+        useChosenSize(*info);
         compute(*info);
         if (!saveImageToDisk(*info, tempFile("job.jpg"), kJpegFile, 1)) state.SkipWithError("not saved");
     }
@@ -51,7 +51,7 @@ void jobByShortPath(benchmark::State& state) {
 template <class Change>
 void passAfter(benchmark::State& state, SystemInfo& info, Change change) {
     const ThreadLimit limit(static_cast<int>(state.range(0)));
-    ChangeImageSize(info);
+    useChosenSize(info);
     CombineThread loop(info);
     loop.runUntilIdle();
     for (auto _ : state) {

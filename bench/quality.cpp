@@ -20,9 +20,9 @@
 #include "core/state/SystemInfo.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
 #include "quality/AlphaErrors.h"
 #include "quality/CompositeErrors.h"
+#include "session/OutputSizes.h"
 
 namespace fs = std::filesystem;
 
@@ -114,8 +114,8 @@ Errors measure(const Scene& scene, const Variant& variant, const std::string& ba
     info->pForegroundBitmapInfo->sSourceImageFullPath = scene.picture;
     info->pBackgroundBitmapInfo->sSourceImageFullPath = background;
     const double width = scene.truth.width(), height = scene.truth.height();
-    selectOwnSize(*info, "scene", width / dpi, height / dpi, dpi);
-    if (!ChangeImageSize(*info)) {
+    chooseOwnSize(*info, "scene", width / dpi, height / dpi, dpi);
+    if (!useChosenSize(*info)) {
         throw std::runtime_error(scene.name + ": the picture's size cannot be used.");
     }
     CombineThread(*info).runUntilIdle();

@@ -16,8 +16,8 @@
 #include "effects/Presets.h"
 #include "formats/Installation.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
-#include "pipeline/StartUp.h"
+#include "session/OutputSizes.h"
+#include "session/StartUp.h"
 
 namespace {
 
@@ -124,8 +124,8 @@ QImage take(const Shot& shot, const Sources& sources) {
         return {};
     }
     updateLabelSettings(*info);
-    selectOwnSize(*info, "sheet", kWidthInches, kHeightInches, kDpi);
-    ChangeImageSize(*info);
+    chooseOwnSize(*info, "sheet", kWidthInches, kHeightInches, kDpi);
+    useChosenSize(*info);
     CombineThread(*info).runUntilIdle();
     const QImage picture = info->pCombinedBitmapInfo->oBitmapRep->snapshot();
     return picture.convertToFormat(QImage::Format_RGB32)

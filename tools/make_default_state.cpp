@@ -7,7 +7,7 @@
 #include "formats/ImageState.h"
 #include "formats/Lists.h"
 #include "key/EasySettings.h"
-#include "pipeline/OutputSize.h"
+#include "session/OutputSizes.h"
 
 namespace {
 
@@ -44,7 +44,7 @@ std::string writeDefaultState(const std::string& folder) {
     const std::string problem = loadImageSizes(sizes, folder + "ImageSize.xml", false);
     if (!problem.empty()) return problem;
     info.oImageSize = std::move(sizes);
-    if (!selectSizeByName(info, "5x7 200 Vert") || !ChangeImageSize(info))
+    if (!chooseSizeByName(info, "5x7 200 Vert") || !useChosenSize(info))
         return "The list lacks the size to start with.";
     chooseKey(info);
     chooseGuard(info);

@@ -22,8 +22,8 @@
 #include "key/Combine.h"
 #include "key/screen/BaseGreen.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
 #include "quality/AlphaErrors.h"
+#include "session/OutputSizes.h"
 
 namespace {
 
@@ -90,8 +90,8 @@ std::unique_ptr<SystemInfo> prepare(const KeyJob& job, QSize size) {
     info->pForegroundBitmapInfo->sSourceImageFullPath = job.foreground;
     info->pBackgroundBitmapInfo->sSourceImageFullPath = job.background;
     const double width = size.width(), height = size.height();
-    selectOwnSize(*info, "peers", width / kDpi, height / kDpi, kDpi);
-    if (!ChangeImageSize(*info)) {
+    chooseOwnSize(*info, "peers", width / kDpi, height / kDpi, kDpi);
+    if (!useChosenSize(*info)) {
         throw std::runtime_error(job.foreground + ": the picture's size cannot be used.");
     }
     CombineThread(*info).runUntilIdle();

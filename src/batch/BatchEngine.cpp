@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "core/Log.h"
-#include "folders/BatchList.h"
+#include "folders/BatchListFile.h"
 #include "folders/ListText.h"
 #include "formats/SettingsFile.h"
 
@@ -134,7 +134,7 @@ std::int32_t BatchEngine::ComputeNumberOfFilesInBatchUsingXMLFile() {
 
     const std::string name = lists.oFilesInFolder[0];
     int next = iNextFileNumber;
-    BatchList list =
+    ParsedBatchList list =
         parseBatchList(readListText(folder + "/" + name).text, defaults, next, kBatchElements, makeFolders);
     iNextFileNumber = next;
     std::move(list.jobs.begin(), list.jobs.end(), myBatchElements.begin());

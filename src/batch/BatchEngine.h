@@ -14,6 +14,7 @@
 #include "core/state/SystemInfo.h"
 #include "folders/BatchElement.h"
 #include "folders/BatchNames.h"
+#include "folders/Combinations.h"
 #include "folders/NextFileInFolder.h"
 #include "pipeline/IdleJob.h"
 
@@ -111,12 +112,10 @@ class BatchEngine : public IdleJob {
     void takeJob();
     void beginJob(const Job& job);
     std::optional<Job> chooseJob();
-    std::optional<Job> choosePlain();
-    std::optional<Job> chooseInSubfolders();
+    std::optional<Job> chooseCombination();
     std::optional<Job> chooseFromList();
     void refuseOnce(const std::string& problem);
     void loadState(const Job& job);
-    void useSize();
     void loadBackground(const Job& job);
     void loadForeground(const Job& job);
     bool isStable(const Job& job);

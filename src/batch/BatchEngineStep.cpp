@@ -6,9 +6,10 @@
 #include "batch/BatchEngine.h"
 #include "core/Log.h"
 #include "formats/ImageState.h"
-#include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
-#include "pipeline/StateFile.h"
+#include "session/SettingChanges.h"
+#include "session/Sources.h"
+#include "session/States.h"
 
 namespace fs = std::filesystem;
 
@@ -112,57 +113,43 @@ std::optional<BatchEngine::Job> BatchEngine::chooseJob() {
         std::vector<std::string>& names = scanner->oFilesInFolder;
         if (scanner->iFileCount == 0 && (names.empty() || names.back() != kUseCurrent)) names.push_back(kUseCurrent);
     }
-    if (settings_.bUseBackgroundSubfolders) return chooseInSubfolders();
-    if (settings_.bUseBatchXMLFile) return chooseFromList();
-    return choosePlain();
+    const bool fromList = settings_.bUseBatchXMLFile && !settings_.bUseBackgroundSubfolders;
+    return fromList ? chooseFromList() : chooseCombination();
 }
 
-std::optional<BatchEngine::Job> BatchEngine::choosePlain() {
+/// The first combination that is not in the history. With subfolders, one of the foreground folder is named like the
+/// background of its portraits, and state files play no part; the plain search never descends, so this mode has one
+/// that does. A portrait that lies in no subfolder has no background and is refused.
+std::optional<BatchEngine::Job> BatchEngine::chooseCombination() {
+    static const std::string kNoState = kUseCurrent;
     const std::vector<std::string>& history = nextBatchForegroundFile.oProcessedFiles;
     const std::unordered_set<std::string_view> done(history.begin(), history.end());
-    for (const std::string& state : nextBatchQLXFile.oFilesInFolder) {
-        for (const std::string& background : nextBatchBackgroundFile.oFilesInFolder) {
-            for (const std::string& foreground : nextBatchForegroundFile.oFilesInFolder) {
-                const std::string key = foreground + background + state;
-                if (done.contains(key)) continue;
-                return Job{{foreground, background, state},
-                           nextBatchForegroundFile.sFolderToCheck + "/" + foreground,
-                           nextBatchBackgroundFile.sFolderToCheck + "/" + background,
-                           nextBatchQLXFile.sFolderToCheck + "/" + state,
-                           key};
-            }
-        }
-    }
-    return std::nullopt;
-}
-
-// A subfolder of the foreground folder is named like the background of its portraits. The plain search never
-// descends, so this mode has one that does; a portrait that lies in no subfolder has no background and is refused.
-std::optional<BatchEngine::Job> BatchEngine::chooseInSubfolders() {
-    const std::vector<std::string>& history = nextBatchForegroundFile.oProcessedFiles;
-    const std::unordered_set<std::string_view> done(history.begin(), history.end());
-    for (const std::string& entry : nextBatchForegroundFile.oFilesInFolder) {
-        const std::size_t slash = entry.find('/');
-        if (slash == std::string::npos) {
-            if (entry != kUseCurrent) refuseOnce(entry);
-            continue;
-        }
-        const std::string folder = entry.substr(0, slash), file = entry.substr(slash + 1);
-        const std::string* match = nullptr;
-        for (const std::string& background : nextBatchBackgroundFile.oFilesInFolder) {
-            if (background.substr(0, background.find('.')) == folder) match = &background;  // the last one wins
-        }
-        const std::string key = match ? file + *match + kUseCurrent : std::string();
-        if (!match || done.contains(key)) continue;
-        // Two folders may hold portraits of one name.
-        return Job{{file, *match, kUseCurrent},
+    BatchSlots slots = {nextBatchForegroundFile.oFilesInFolder, nextBatchBackgroundFile.oFilesInFolder,
+                        nextBatchQLXFile.oFilesInFolder};
+    std::optional<Job> next;
+    const auto take = [&](const Combination& at) {
+        const std::string& entry = slots.foregrounds[at.foreground];
+        const BatchSources names = {entry.substr(entry.find('/') + 1),  // behind its subfolder, or the whole
+                                    slots.backgrounds[at.background], slots.states[at.state]};
+        const std::string key = names.foreground + names.background + names.state;
+        if (done.contains(key)) return true;
+        next = Job{names,
                    nextBatchForegroundFile.sFolderToCheck + "/" + entry,
-                   nextBatchBackgroundFile.sFolderToCheck + "/" + *match,
-                   nextBatchQLXFile.sFolderToCheck + "/" + kUseCurrent,
+                   nextBatchBackgroundFile.sFolderToCheck + "/" + names.background,
+                   nextBatchQLXFile.sFolderToCheck + "/" + names.state,
                    key,
-                   entry};
+                   entry};  // two folders may hold portraits of one name
+        return false;
+    };
+    if (settings_.bUseBackgroundSubfolders) {
+        slots.states = {&kNoState, 1};
+        eachInSubfolders(slots, take, [this](const std::string& entry) {
+            if (entry != kUseCurrent) refuseOnce(entry);
+        });
+    } else {
+        eachCombination(slots, take);
     }
-    return std::nullopt;
+    return next;
 }
 
 void BatchEngine::refuseOnce(const std::string& entry) {
@@ -179,9 +166,7 @@ std::optional<BatchEngine::Job> BatchEngine::chooseFromList() {
     const BatchElement& element = myBatchElements[static_cast<std::size_t>(iNextXMLBatchElement.load())];
     iNextXMLBatchElement = iNextXMLBatchElement + 1;
     settings_.iLastBatchLastOutputFileType = element.iOutputFileType;
-    info_.bOutputTransparency = element.OutputTransparency;
-    info_.bShowOrgImage = element.NoGreenScreenProcessing;
-    info_.bUseBlueLogic = element.BlueScreenProcessing;
+    useSwitches(info_, {element.OutputTransparency, element.NoGreenScreenProcessing, element.BlueScreenProcessing});
     sSaveFileName = element.sOutputFile;
     Job job{{element.sForegroundFile, element.sBackgroundFile, element.sQLXFile},
             element.sForegroundFile,
@@ -194,44 +179,22 @@ std::optional<BatchEngine::Job> BatchEngine::chooseFromList() {
 
 void BatchEngine::loadState(const Job& job) {
     if (job.names.state == sLastQLXFile.load()) return;
-    const std::string foreground = info_.pForegroundBitmapInfo->sSourceImageFullPath;
-    const LoadedStateFile loaded = loadStateFile(info_, job.statePath);
-    if (!loaded.problem.empty()) logTrace(loaded.problem);  // the job runs with the state in force
-    if (!loaded.sizeProblem.empty()) info_.alert("The present output size stays.", loaded.sizeProblem);
-    info_.pForegroundBitmapInfo->sSourceImageFullPath = foreground;
-    if (loaded.newSize) useSize();
-    info_.pForegroundBitmapInfo->bOrgFileChange = true;
-    info_.pBackgroundBitmapInfo->bOrgFileChange = true;
-    sLastQLXFile = job.names.state;
-}
-
-void BatchEngine::useSize() {
-    const std::optional<ImageSize> size = selectedSize(info_);
-    if (!size) return;
-    info_.pictures.begin();  // the buffers are made anew, and nothing is in them until the job's picture is
-    if (!ChangeImageSize(info_)) return;
-    info_.bNewOutputSize = true;
-    if (info_.pInterface) info_.pInterface->updateScaleUI();
-    const std::string title = size->sDefaultPrinterPage;
-    std::int32_t page = 0;
-    for (std::int32_t i = 0; i < info_.iPrinterPageCount(); ++i) {
-        if (info_.oPrinterPages[static_cast<std::size_t>(i)].sPageTitle.load() == title) page = i;
+    if (const std::string problem = openState(info_, job.statePath, Portrait::stays); !problem.empty()) {
+        logTrace(problem);  // the job runs with the state in force
+        reloadSources(info_);
     }
-    settings_.iSelectedPrinterTemplate = page;
-    settings_.sSelectedPrinterTemplate = title;
+    sLastQLXFile = job.names.state;
 }
 
 void BatchEngine::loadBackground(const Job& job) {
     if (job.names.background == sLastBackgroundFile.load()) return;
-    info_.pBackgroundBitmapInfo->setSourceImageFullPath(job.backgroundPath);
-    info_.pBackgroundBitmapInfo->bOrgFileChange = true;
+    setBackground(info_, job.backgroundPath);
     sLastBackgroundFile = job.names.background;
 }
 
 void BatchEngine::loadForeground(const Job& job) {
     if (job.foregroundName == sLastForegroundFile.load()) return;
-    info_.pForegroundBitmapInfo->setSourceImageFullPath(job.foregroundPath);
-    info_.pForegroundBitmapInfo->bOrgFileChange = true;
+    setForeground(info_, job.foregroundPath);
     sLastForegroundFile = job.foregroundName;
 }
 

@@ -2,16 +2,17 @@
 
 #include <filesystem>
 
+#include "core/state/ChangeFlags.h"
 #include "formats/Installation.h"
 
 namespace tavrin {
 
 namespace {
 
-// The shadow lies in the background's buffers.
+// A button asks for what follows by itself; a whole look is compared with what was before (`takeLook`).
 void setShadow(SystemInfo& info, int kind) {
     info.iHaveShadow = kind;
-    info.pBackgroundBitmapInfo->bScaleChange = true;
+    raiseFlags(info, redoOf(info, "iHaveShadow"));
 }
 
 void placeShadow(SystemInfo& info, int rightLeft, int upDown, int scale, int blur) {
@@ -120,7 +121,6 @@ constexpr Preset kStars[] = {
 void setSmoothing(SystemInfo& info, int mode) {
     info.iGlobalSmoothingMode = mode;
     if (mode != 0) info.iGlobalSmoothingLambda = 60;
-    info.pForegroundBitmapInfo->bScaleChange = true;
 }
 
 constexpr Preset kSmoothings[] = {
@@ -191,7 +191,6 @@ void setOverlays(SystemInfo& info, const std::string& frame, const std::string& 
     lay(info.bHaveFrameOverlay, info.sFrameOverlay, frame);
     lay(info.bHaveForegroundOverlay, info.sForegroundOverlay, foreground);
     lay(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, background);
-    info.pBackgroundBitmapInfo->bScaleChange = true;
 }
 
 void setOverlaySet(SystemInfo& info, const std::string& name) {

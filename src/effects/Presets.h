@@ -7,8 +7,8 @@
 
 namespace tavrin {
 
-/// A look of an effect: it writes the fields that make it and raises the flags of the layers that must be made anew.
-/// The caller asks for the picture (`StartUpdate`).
+/// A look of an effect: it writes the fields that make it. `takeLook` of the session flags what must be made anew for
+/// it.
 struct Preset {
     const char* name;  ///< one lower-case word, as typed on the command line
     const char* description;
@@ -27,7 +27,8 @@ struct PresetGroup {
     bool inShortPath = false;  ///< `loadAndCombineFiles` draws it
 };
 
-// What the buttons of the shadow panel and the types of the cartoon panel write; the presets rest on them.
+// What the buttons of the shadow panel and the types of the cartoon panel write; the presets rest on them. The
+// shadow's flag that the background must be made anew.
 
 void buttonWall(SystemInfo& info);
 void buttonFloor(SystemInfo& info);

@@ -4,12 +4,19 @@
 #include <optional>
 #include <string>
 
+#include "session/SettingChanges.h"
+
 namespace tavrin {
 
-/// Settings that a list file gives to one job.
-struct JobSwitches {
-    bool outputTransparency = false, noGreenScreenProcessing = false, blueScreenProcessing = false;
-    bool operator==(const JobSwitches&) const = default;
+/// What the jobs of a batch are made from.
+struct JobSources {
+    std::string foregrounds;          ///< folder, or one picture
+    std::string backgrounds, states;  ///< folder or one file; may be empty
+    std::string out;                  ///< folder of the pictures
+    std::string listFile;             ///< batch list; empty: all combinations
+    bool subfolders = false;          ///< foregrounds lie in subfolders that are named like their background
+    int style = 1;                    ///< `OutputStyle`
+    int fileType = 1;
 };
 
 /// One picture of a batch on the command line.
@@ -20,7 +27,7 @@ struct BatchJob {
     std::string name;  ///< tells this job from all others, whatever folder it is run from
     std::string out;   ///< path of the picture
     int fileType = 0;
-    std::optional<JobSwitches> switches;
+    std::optional<KeySwitches> switches;
     std::string problem;  ///< why it cannot be made; "" for most
 };
 

@@ -43,8 +43,8 @@ class Backgrounds {
     std::list<std::pair<std::string, std::shared_ptr<const ReadFile>>> kept_;
 };
 
-/// A job on its way through the stages, one of which has it at a time.
-struct InHand {
+/// A picture on its way through the stages, one of which has it at a time.
+struct PictureInWork {
     JobResult result;
     Clock::time_point start = Clock::now();
     ReadFile foreground;
@@ -64,18 +64,18 @@ class Stages {
     Stages(PictureMaker& maker, const PipelineTasks& tasks) : maker_(maker), tasks_(tasks) {}
 
     /// The next job; null at the end. `finish` takes it back.
-    InHand* take() {
+    PictureInWork* take() {
         handOver.pass();
         std::optional<BatchJob> job = tasks_.next();
         handOver.pass();
         if (!job) return nullptr;
         std::lock_guard lock(mutex_);
-        InHand& hand = hands_.emplace_back();
+        PictureInWork& hand = hands_.emplace_back();
         hand.result.job = std::move(*job);
         return &hand;
     }
 
-    void decode(InHand& hand) {
+    void decode(PictureInWork& hand) {
         const BatchJob& job = hand.result.job;
         std::string problem;
         hand.result.recipe = maker_.recipeOf(job, problem);
@@ -88,14 +88,14 @@ class Stages {
         use(hand, *hand.background, background);
     }
 
-    void key(InHand& hand) {
+    void key(PictureInWork& hand) {
         hand.made = maker_.make(hand.result.job, hand.foreground.picture, hand.background->picture);
         if (!hand.made.problem.empty()) hand.fail(hand.made.problem, false);
         hand.foreground = ReadFile();
         hand.background.reset();
     }
 
-    void encode(InHand& hand) {
+    void encode(PictureInWork& hand) {
         const BatchJob& job = hand.result.job;
         const MadePicture& made = hand.made;
         std::string problem = tasks_.beforeWrite ? tasks_.beforeWrite(job) : std::string();
@@ -114,20 +114,20 @@ class Stages {
         hand.fail(made.leftOut, false);
     }
 
-    void finish(InHand& hand) {
+    void finish(PictureInWork& hand) {
         JobResult& result = hand.result;
         if (!hand.failed()) result.status = JobResult::Status::done;
         result.seconds = std::chrono::duration<double>(Clock::now() - hand.start).count();
         hand.made = MadePicture();
         std::lock_guard lock(mutex_);
         tasks_.finished(std::move(result));
-        hands_.remove_if([&hand](const InHand& other) { return &other == &hand; });
+        hands_.remove_if([&hand](const PictureInWork& other) { return &other == &hand; });
     }
 
     HandOver handOver;  ///< between all that work for the pipeline
 
   private:
-    static void use(InHand& hand, const ReadFile& file, const std::string& path) {
+    static void use(PictureInWork& hand, const ReadFile& file, const std::string& path) {
         hand.result.inputs.push_back({file.facts, file.digest});
         if (file.picture.error.empty()) return;
         hand.result.badFile = path;
@@ -141,11 +141,11 @@ class Stages {
     const PipelineTasks& tasks_;
     Backgrounds backgrounds_;
     std::mutex mutex_;
-    std::list<InHand> hands_;
+    std::list<PictureInWork> hands_;
 };
 
 /// One stage for one job; a job that failed passes through. Whatever happens to one job, the others go on.
-void work(Stages& stages, void (Stages::*stage)(InHand&), InHand& hand) {
+void work(Stages& stages, void (Stages::*stage)(PictureInWork&), PictureInWork& hand) {
     stages.handOver.pass();
     if (!hand.failed()) {
         try {
@@ -165,21 +165,23 @@ void runPipeline(PictureMaker& maker, const PipelineTasks& tasks) {
     using oneapi::tbb::filter_mode;
     using oneapi::tbb::make_filter;
     Stages stages(maker, tasks);
-    const auto take = make_filter<void, InHand*>(filter_mode::serial_in_order, [&](oneapi::tbb::flow_control& flow) {
-        InHand* hand = stages.take();
-        if (!hand) flow.stop();
-        return hand;
-    });
-    const auto decode = make_filter<InHand*, InHand*>(filter_mode::parallel, [&](InHand* hand) {
+    const auto take =
+        make_filter<void, PictureInWork*>(filter_mode::serial_in_order, [&](oneapi::tbb::flow_control& flow) {
+            PictureInWork* hand = stages.take();
+            if (!hand) flow.stop();
+            return hand;
+        });
+    const auto decode = make_filter<PictureInWork*, PictureInWork*>(filter_mode::parallel, [&](PictureInWork* hand) {
         work(stages, &Stages::decode, *hand);
         return hand;
     });
     // One at a time: keying alone keeps all cores busy, and the random numbers of a picture follow one another.
-    const auto key = make_filter<InHand*, InHand*>(filter_mode::serial_in_order, [&](InHand* hand) {
-        work(stages, &Stages::key, *hand);
-        return hand;
-    });
-    const auto encode = make_filter<InHand*, void>(filter_mode::parallel, [&](InHand* hand) {
+    const auto key =
+        make_filter<PictureInWork*, PictureInWork*>(filter_mode::serial_in_order, [&](PictureInWork* hand) {
+            work(stages, &Stages::key, *hand);
+            return hand;
+        });
+    const auto encode = make_filter<PictureInWork*, void>(filter_mode::parallel, [&](PictureInWork* hand) {
         work(stages, &Stages::encode, *hand);
         stages.finish(*hand);
         stages.handOver.pass();

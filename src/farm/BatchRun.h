@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "farm/BatchPipeline.h"
+#include "farm/BatchPlan.h"
 #include "farm/BatchReport.h"
-#include "farm/JobList.h"
 #include "farm/Journal.h"
 #include "farm/PictureMaker.h"
 #include "farm/Shard.h"
@@ -64,7 +64,7 @@ class BatchRun {
 
   private:
     std::string begin();
-    JobList plan(const std::function<bool(const std::string&)>& accept = nullptr) const;
+    BatchPlan plan(const std::function<bool(const std::string&)>& accept = nullptr) const;
     void tellPlan(std::vector<BatchJob> jobs);
     void make(const std::vector<BatchJob>& jobs);
     void watchFolders();

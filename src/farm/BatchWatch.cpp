@@ -62,7 +62,7 @@ void BatchRun::watchFolders() {
         for (const std::string& path : watch->wait(std::chrono::milliseconds(0)).closed)
             arrivals_.closed(path);
         arrivals_.beginLook();
-        JobList list = plan([this](const std::string& path) { return arrivals_.isComplete(path); });
+        BatchPlan list = plan([this](const std::string& path) { return arrivals_.isComplete(path); });
         tellWatchProblem(list.problem.empty() ? missingPlace() : list.problem);
         std::erase_if(list.jobs, [this](const BatchJob& job) { return isHandled(job); });
         const Clock::duration lookPause = (Clock::now() - look) * kPauseForLook;

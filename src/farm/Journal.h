@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "farm/JobList.h"
+#include "farm/OutputNames.h"
 #include "folders/FileFacts.h"
 
 namespace tavrin {

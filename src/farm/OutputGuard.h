@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "farm/JobList.h"
+#include "farm/BatchJob.h"
 #include "farm/PictureMaker.h"
 
 namespace tavrin {

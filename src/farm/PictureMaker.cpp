@@ -9,8 +9,9 @@
 #include "core/state/SettingNames.h"
 #include "core/text/TextLayers.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
-#include "pipeline/StartUp.h"
+#include "session/OutputSizes.h"
+#include "session/Sources.h"
+#include "session/StartUp.h"
 
 namespace tavrin {
 
@@ -49,24 +50,18 @@ std::string digestOfSettings(const SystemInfo& info) {
     return digestOfText(text);
 }
 
-void apply(SystemInfo& info, const JobSwitches& switches) {
-    info.bOutputTransparency = switches.outputTransparency;
-    info.bShowOrgImage = switches.noGreenScreenProcessing;
-    info.bUseBlueLogic = switches.blueScreenProcessing;
-}
-
 }  // namespace
 
 std::unique_ptr<SystemInfo> PictureMaker::prepare(const BatchJob& job, std::string& problem) const {
     auto info = std::make_unique<SystemInfo>();
     startLike(*info, base_);
-    LoadedStateFile loaded;
-    if (!job.state.empty()) loaded = loadStateFile(*info, job.state);
+    LoadedState loaded;
+    if (!job.state.empty()) loaded = loadState(*info, job.state);
     problem = loaded.problem;
     if (problem.empty()) {
-        if (job.switches) apply(*info, *job.switches);
-        info->pForegroundBitmapInfo->sSourceImageFullPath = job.foreground;
-        if (!job.background.empty()) info->pBackgroundBitmapInfo->sSourceImageFullPath = job.background;
+        if (job.switches) useSwitches(*info, *job.switches);
+        setForeground(*info, job.foreground);
+        if (!job.background.empty()) setBackground(*info, job.background);
         problem = settings_(*info, job.state.empty() ? nullptr : &loaded);
     }
     if (problem.empty() && info->pBackgroundBitmapInfo->sSourceImageFullPath.empty())
@@ -129,7 +124,7 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     info->readSource = [&](const std::string& path) {
         return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;
     };
-    if (!ChangeImageSize(*info)) {
+    if (!useChosenSize(*info)) {
         made.problem = "the output size cannot be used";
         return made;
     }

@@ -11,14 +11,14 @@
 #include "core/state/SystemInfo.h"
 #include "farm/BatchJob.h"
 #include "folders/FileFacts.h"
-#include "pipeline/StateFile.h"
+#include "session/States.h"
 
 namespace tavrin {
 
 /// Puts the caller's settings into a state that has just been made from the job's state file, output size included.
 /// @param loaded what came of the state file; null where the job has none
 /// @return "" or why that cannot be done, as one plain line
-using ApplySettings = std::function<std::string(SystemInfo& info, const LoadedStateFile* loaded)>;
+using ApplySettings = std::function<std::string(SystemInfo& info, const LoadedState* loaded)>;
 
 /// A finished picture, and why there is none otherwise.
 struct MadePicture {

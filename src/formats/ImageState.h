@@ -31,7 +31,7 @@ struct StoredSize {
 [[nodiscard]] std::string saveImageStateToXML(const SystemInfo& info, const std::string& path);
 
 /// Reads a `.qlx` file: whole or not at all. Any `iLoadMode` but 1 and 3 is taken as 2. Buffers and flags stay as
-/// they are, and the geometry that is read allocates nothing: `loadStateFile` of the pipeline goes on from here.
+/// they are, and the geometry that is read allocates nothing: `loadState` of the session goes on from here.
 ///
 /// The file's habits, which stay: `iForegroundOutputMode` and `iBackgroundOutputMode` change places on every load,
 /// `dOutputImageHeightInInches` is not read, and a leaf that is missing reads as 0, "" or false, not as its default.

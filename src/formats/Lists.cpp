@@ -146,6 +146,8 @@ std::vector<Entry> customEntries(const std::vector<Entry>& list) {
     return custom;
 }
 
+}  // namespace
+
 void selectPrinterPage(SystemInfo& info) {
     const std::int32_t selected = info.iSelecteImageSize;
     std::string title;
@@ -159,8 +161,6 @@ void selectPrinterPage(SystemInfo& info) {
     info.oQLXInfo->iSelectedPrinterTemplate = index;
     info.oQLXInfo->sSelectedPrinterTemplate = title;
 }
-
-}  // namespace
 
 std::string saveImageSizes(const std::vector<ImageSize>& list, const std::string& path) {
     return saveList(list, path);

@@ -22,10 +22,14 @@ namespace tavrin {
 [[nodiscard]] std::string LoadImageSizesFromXML(SystemInfo& info, const std::string& instead = "");
 [[nodiscard]] std::string SaveCustomImageSizesFromXML(const SystemInfo& info);
 
-/// Fills `oPrinterPages`: the shipped pages first, then the user's. A missing file is passed over. Then the page
-/// named by the selected size is selected in `oQLXInfo`, or page 0 when there is none of that title.
+/// Fills `oPrinterPages`: the shipped pages first, then the user's. A missing file is passed over. Then
+/// the page that suits the selected size is selected.
 [[nodiscard]] std::string LoadPrinterTemplatesFromXML(SystemInfo& info, const std::string& instead = "");
 [[nodiscard]] std::string SaveCustomPrinterTemplates(const SystemInfo& info);
+
+/// Selects the page in `oQLXInfo` that the selected size names, the last one of that title, or page 0 when there is
+/// none.
+void selectPrinterPage(SystemInfo& info);
 
 /// One file of each kind, whatever its length. The readers add to `list`, all entries or none, with `bCustom` as
 /// told.

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "core/state/SystemInfo.h"
-#include "formats/ImageState.h"
 
 namespace tavrin {
 
@@ -31,18 +30,5 @@ void ChangeOutputSize(SystemInfo& info, BitmapInfo& record);
 
 /// Makes the page buffer of print template `page` at 600 dpi, opaque white, unless it is the current one.
 void ChangeTemplateBitmap(SystemInfo& info, int page);
-
-/// Gives the picture a size of its own, which enters no list. `ChangeImageSize` puts it into force.
-void selectOwnSize(SystemInfo& info, const std::string& name, double widthInches, double heightInches, int dpi);
-
-/// Selects the entry of that name, the last one where several have it.
-/// @return false when there is none
-bool selectSizeByName(SystemInfo& info, const std::string& name);
-
-/// Selects what a state file tells about its size, for which place, name, inches and resolution may not agree: lists
-/// differ from machine to machine. The entry of that name counts, else the one of those inches and dots an inch, else
-/// the picture gets a size of its own. The place in the list counts where the file tells no inches.
-/// @return "" or why there is no such size, as one plain line; nothing is changed then
-std::string selectStoredSize(SystemInfo& info, const StoredSize& stored);
 
 }  // namespace tavrin

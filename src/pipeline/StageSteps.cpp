@@ -18,7 +18,7 @@
 #include "key/screen/BaseGreen.h"
 #include "key/skin/Skin.h"
 #include "pipeline/Stages.h"
-#include "pipeline/StartUp.h"
+#include "pipeline/StartUpPictures.h"
 
 namespace tavrin {
 

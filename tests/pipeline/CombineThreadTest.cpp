@@ -5,9 +5,9 @@
 
 #include "effects/Presets.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
 #include "pipeline/Stages.h"
 #include "pipeline/WholePicture.h"
+#include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
 
@@ -179,8 +179,7 @@ TEST_F(CombineThreadTest, PresetHairWinsOverWhatWasDetected) {
 
 TEST_F(CombineThreadTest, ANewSizeReloadsBothSourcesAndMeasuresTheScreenAgain) {
     CombineThread(*info_).runUntilIdle();
-    selectOwnSize(*info_, "other", 100 / 92.0, 200 / 92.0, 92);
-    info_->bChangeImageSize = true;
+    chooseOwnSize(*info_, "other", 100 / 92.0, 200 / 92.0, 92);
     info_->pForegroundBitmapInfo->orgImage = QImage();
     info_->pBackgroundBitmapInfo->orgImage = QImage();
     info_->baseGreen = 1.0;

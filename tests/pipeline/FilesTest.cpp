@@ -4,8 +4,9 @@
 
 #include <QImage>
 
+#include "core/files/TempFiles.h"
 #include "core/image/ImageReader.h"
-#include "pipeline/Files.h"
+#include "folders/PictureFolder.h"
 #include "pipeline/SaveImage.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"

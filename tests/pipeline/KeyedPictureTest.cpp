@@ -5,8 +5,8 @@
 #include "core/state/SettingNames.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/KeyInputs.h"
-#include "pipeline/OutputSize.h"
 #include "pipeline/WholePicture.h"
+#include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/Sanitized.h"
 #include "support/TestData.h"
@@ -296,11 +296,7 @@ TEST_F(KeyedPictureTest, WhatTheLayersGoThroughIsKeyedAgain) {
              info.bBackgroundFrozen = false;
              info.pForegroundBitmapInfo->bScaleChange = info.pBackgroundBitmapInfo->bScaleChange = true;
          }},
-        {"another size",
-         [](SystemInfo& info) {
-             selectOwnSize(info, "other", 0.5, 0.4, 150);
-             info.bChangeImageSize = true;
-         }},
+        {"another size", [](SystemInfo& info) { chooseOwnSize(info, "other", 0.5, 0.4, 150); }},
     };
     for (const auto& [what, apply] : changes) {
         change(apply);

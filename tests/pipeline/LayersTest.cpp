@@ -3,6 +3,7 @@
 #include "core/image/ImageReader.h"
 #include "pipeline/Layers.h"
 #include "pipeline/OutputSize.h"
+#include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
 
@@ -29,7 +30,7 @@ class LayersTest : public testing::Test {
 };
 
 TEST_F(LayersTest, SizesFollowTheList) {
-    selectOwnSize(*info_, "5x7 200 Vert", 5, 7, 200);
+    chooseOwnSize(*info_, "5x7 200 Vert", 5, 7, 200);
     ASSERT_TRUE(ChangeImageSize(*info_));
     EXPECT_EQ(info_->iOutputPixelWidth, 1000);
     EXPECT_EQ(info_->iOutputPixelHeight, 1400);
@@ -47,7 +48,7 @@ TEST_F(LayersTest, UnusableSizesLeaveTheOldOne) {
                                              {1e9, 1e9, 300},
                                              {1e-9, 1e-9, 300},
                                              {std::nan(""), 7.0, 200}}) {
-        selectOwnSize(*info_, "bad", width, height, dpi);
+        chooseOwnSize(*info_, "bad", width, height, dpi);
         EXPECT_FALSE(ChangeImageSize(*info_));
     }
     info_->iSelecteImageSize = 99;

@@ -2,8 +2,8 @@
 
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
 #include "quality/AlphaErrors.h"
+#include "session/OutputSizes.h"
 #include "support/BuildPlaces.h"
 #include "support/Files.h"
 #include "support/TestData.h"
@@ -32,8 +32,8 @@ quality::AlphaErrors keySample(bool hairDetection) {
     info.bAdvancedHairDetectionON = hairDetection;
     info.pForegroundBitmapInfo->sSourceImageFullPath = kData + "sample/portrait.jpg";
     info.pBackgroundBitmapInfo->sSourceImageFullPath = kData + "sample/background.jpg";
-    selectOwnSize(info, "sample", truth.width() / 200.0, truth.height() / 200.0, 200);
-    EXPECT_TRUE(ChangeImageSize(info));
+    chooseOwnSize(info, "sample", truth.width() / 200.0, truth.height() / 200.0, 200);
+    EXPECT_TRUE(useChosenSize(info));
     CombineThread(info).runUntilIdle();
     if (truth.isNull() || info.pForegroundBitmapInfo->orgImage.size() != truth.size()) {
         ADD_FAILURE() << "the sample cannot be read";

@@ -5,7 +5,7 @@
 #include "core/state/SettingNames.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/StateFile.h"
+#include "session/States.h"
 #include "support/Pictures.h"
 #include "support/Sanitized.h"
 #include "support/TestData.h"
@@ -76,7 +76,7 @@ TEST_F(WildSettingsTest, AStateThatLiesAboutItsSizesLeavesTheBuffersTheirs) {
         liar->iSelecteImageSize = 77;
         ASSERT_EQ(saveImageStateToXML(*liar, folder_.file("liar.qlx")), "");
         std::string problem = "not run";
-        loop.post([&] { problem = openStateFile(*info, folder_.file("liar.qlx")); });
+        loop.post([&] { problem = openState(*info, folder_.file("liar.qlx")); });
         loop.runUntilIdle();
         EXPECT_EQ(problem, "");
         EXPECT_EQ(info->iOutputPixelWidth, 61);

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "pipeline/OutputSize.h"
+#include "session/OutputSizes.h"
 
 namespace tavrin::test {
 
@@ -45,13 +45,13 @@ void addSize(SystemInfo& info, const std::string& name, double widthInches, doub
     size.dWidth = widthInches;
     size.dHeight = heightInches;
     size.dotsPerInch = dpi;
-    selectSizeByName(info, name);
+    chooseSizeByName(info, name);
 }
 
 std::unique_ptr<SystemInfo> stateForOutput(int width, int height, int dpi) {
     auto info = std::make_unique<SystemInfo>();
     addSize(*info, "test", static_cast<double>(width) / dpi, static_cast<double>(height) / dpi, dpi);
-    ChangeImageSize(*info);
+    useChosenSize(*info);
     return info;
 }
 

@@ -11,7 +11,7 @@
 #include <QTest>
 
 #include "formats/ImageState.h"
-#include "pipeline/OutputSize.h"
+#include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
 #include "ui/MainWindow.h"
@@ -23,7 +23,7 @@ class MainWindowTest : public testing::Test {
   protected:
     void SetUp() override {
         test::addSize(*info_, "other", 100 / 92.0, 200 / 92.0, 92);
-        selectSizeByName(*info_, "test");
+        chooseSizeByName(*info_, "test");
         info_->pForegroundBitmapInfo->sSourceImageFullPath = foreground_;
         info_->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
         window_ = std::make_unique<MainWindow>(*info_);
@@ -251,7 +251,7 @@ TEST_F(MainWindowTest, AStateFileBringsEverySettingBack) {
 TEST_F(MainWindowTest, ASizeOfThePicturesOwnHasAnEntryWhileItIsInForce) {
     ASSERT_TRUE(waitForPicture());
     const auto other = test::stateForOutput(240, 300);
-    selectOwnSize(*other, "postcard", 1.5, 1.0, 100);
+    chooseOwnSize(*other, "postcard", 1.5, 1.0, 100);
     other->pForegroundBitmapInfo->sSourceImageFullPath = foreground_;
     other->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
     ASSERT_EQ(saveImageStateToXML(*other, folder_.file("own.qlx")), "");

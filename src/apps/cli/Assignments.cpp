@@ -1,6 +1,6 @@
 #include "apps/cli/Assignments.h"
 
-#include "core/state/SettingNames.h"
+#include "session/SettingChanges.h"
 
 namespace tavrin::cli {
 
@@ -8,7 +8,7 @@ std::string applyAssignments(SystemInfo& info, const std::vector<std::string>& a
     for (const std::string& assignment : assignments) {
         const std::size_t equals = assignment.find('=');
         if (equals == std::string::npos) return "A setting is written field=value, not \"" + assignment + "\".";
-        std::string problem = setField(info, assignment.substr(0, equals), assignment.substr(equals + 1));
+        std::string problem = changeSetting(info, assignment.substr(0, equals), assignment.substr(equals + 1));
         if (!problem.empty()) return problem;
     }
     return "";

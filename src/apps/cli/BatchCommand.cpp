@@ -12,7 +12,7 @@
 #include "core/files/FileIdentity.h"
 #include "core/raster/PixelMemory.h"
 #include "folders/BatchNames.h"
-#include "pipeline/StartUp.h"
+#include "session/StartUp.h"
 
 namespace tavrin::cli {
 
@@ -53,7 +53,7 @@ Refusal complete(CommandOptions& options) {
 Refusal trySettings(const CommandOptions& options, const SystemInfo& base) {
     SystemInfo info;
     startLike(info, base);
-    const LoadedStateFile anyState;
+    const LoadedState anyState;
     return applyPictureOptions(info, options.picture, options.batch.sources.states.empty() ? nullptr : &anyState);
 }
 
@@ -70,7 +70,7 @@ int runBatch(CommandOptions options) {
         complain(refusal.line);
         return refusal.code;
     }
-    PictureMaker maker(*base, [&options](SystemInfo& info, const LoadedStateFile* loaded) {
+    PictureMaker maker(*base, [&options](SystemInfo& info, const LoadedState* loaded) {
         return applyPictureOptions(info, options.picture, loaded).line;
     });
     const BatchOptions& batch = options.batch;

@@ -9,6 +9,7 @@
 
 #include "apps/cli/Console.h"
 #include "apps/cli/Output.h"
+#include "session/SettingChanges.h"
 
 namespace tavrin::cli {
 
@@ -73,7 +74,7 @@ void EffectOptions::addTo(CLI::App& command) {
 std::string EffectOptions::apply(SystemInfo& info) const {
     for (const Choice& choice : choices_) {
         if (choice.name.empty()) continue;
-        const std::string problem = applyPreset(info, *choice.group, choice.name);
+        const std::string problem = takeLook(info, *choice.group, choice.name);
         if (!problem.empty()) return problem;
     }
     return "";

@@ -6,7 +6,7 @@
 #include "apps/cli/Console.h"
 #include "core/Printable.h"
 #include "core/state/SystemInfo.h"
-#include "pipeline/StartUp.h"
+#include "session/StartUp.h"
 
 namespace tavrin::cli {
 

@@ -6,7 +6,8 @@
 #include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
 #include "core/text/TextLayers.h"
-#include "pipeline/OutputSize.h"
+#include "session/OutputSizes.h"
+#include "session/SettingChanges.h"
 
 namespace tavrin::cli {
 
@@ -24,32 +25,32 @@ Refusal applyInches(SystemInfo& info, const PictureOptions& options) {
         !parseNumber(std::string_view(options.inches).substr(cross + 1), height)) {
         return {kUsage, "--inches takes width x height, for example 8x10, not \"" + options.inches + "\"."};
     }
-    selectOwnSize(info, options.inches + " at " + std::to_string(options.dpi) + " dpi", width, height, options.dpi);
+    chooseOwnSize(info, options.inches + " at " + std::to_string(options.dpi) + " dpi", width, height, options.dpi);
     return {};
 }
 
-Refusal applySize(SystemInfo& info, const PictureOptions& options, const LoadedStateFile* loaded) {
+Refusal applySize(SystemInfo& info, const PictureOptions& options, const LoadedState* loaded) {
     if (!options.inches.empty()) {
         if (Refusal refusal = applyInches(info, options); refusal.code != kDone) return refusal;
     } else if (loaded && options.sizeName.empty()) {
         return {loaded->sizeProblem.empty() ? kDone : kFailed, loaded->sizeProblem};
     } else {
         const std::string name = options.sizeName.empty() ? info.sImageSizeName.load() : options.sizeName;
-        if (!selectSizeByName(info, name)) return {kUsage, "There is no output size \"" + name + "\"."};
+        if (!chooseSizeByName(info, name)) return {kUsage, "There is no output size \"" + name + "\"."};
     }
     const std::string problem = sizeProblem(selectedSize(info).value_or(ImageSize()));
     return {problem.empty() ? kDone : kUsage, problem};
 }
 
 void applyOverlays(SystemInfo& info, const PictureOptions& options) {
-    const auto use = [](Field<bool>& have, Field<std::string>& overlay, const std::string& path) {
+    const auto use = [&info](const std::string& overlay, const std::string& path) {
         if (path.empty()) return;
-        have = true;
-        overlay = path;
+        changeSetting(info, "bHave" + overlay, "1");
+        changeSetting(info, "s" + overlay, path);
     };
-    use(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, options.backgroundOverlay);
-    use(info.bHaveForegroundOverlay, info.sForegroundOverlay, options.foregroundOverlay);
-    use(info.bHaveFrameOverlay, info.sFrameOverlay, options.frameOverlay);
+    use("BackgroundOverlay", options.backgroundOverlay);
+    use("ForegroundOverlay", options.foregroundOverlay);
+    use("FrameOverlay", options.frameOverlay);
 }
 
 /// Whether the command line sets this field of this label.
@@ -69,7 +70,7 @@ void applyLabelNames(SystemInfo& info, const PictureOptions& options) {
 }
 
 std::string applySettings(SystemInfo& info, const PictureOptions& options) {
-    if (options.blue) info.bUseBlueLogic = true;
+    if (options.blue) changeSetting(info, "bUseBlueLogic", "1");
     std::string problem = options.effects.apply(info);
     if (!problem.empty()) return problem;
     if (!options.title.empty()) info.oFontLabelObject[0].sText = options.title;
@@ -83,7 +84,7 @@ std::string applySettings(SystemInfo& info, const PictureOptions& options) {
 
 }  // namespace
 
-Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedStateFile* loaded) {
+Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedState* loaded) {
     if (!loaded) updateLabelSettings(info);
     const std::string problem = applySettings(info, options);
     return problem.empty() ? applySize(info, options, loaded) : Refusal{kUsage, problem};

@@ -6,7 +6,7 @@
 
 #include "apps/cli/EffectOptions.h"
 #include "core/state/SystemInfo.h"
-#include "pipeline/StateFile.h"
+#include "session/States.h"
 
 namespace tavrin::cli {
 
@@ -32,6 +32,6 @@ void addPictureOptions(CLI::App& command, PictureOptions& options);
 
 /// Puts the effects, the texts, then the settings into a state, and selects the output size.
 /// @param loaded what came of the state file that the state is from; null where it has all defaults
-Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedStateFile* loaded);
+Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedState* loaded);
 
 }  // namespace tavrin::cli

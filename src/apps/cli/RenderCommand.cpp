@@ -21,11 +21,12 @@
 #include "core/text/TextLayers.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
-#include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
-#include "pipeline/StartUp.h"
-#include "pipeline/StateFile.h"
 #include "pipeline/WholePicture.h"
+#include "session/OutputSizes.h"
+#include "session/Sources.h"
+#include "session/StartUp.h"
+#include "session/States.h"
 
 namespace fs = std::filesystem;
 
@@ -43,12 +44,10 @@ struct RenderOptions {
 
 /// The pictures named on the command line win over those of the state file.
 Refusal applySources(SystemInfo& info, const RenderOptions& options) {
-    const auto use = [](BitmapInfo& record, const std::string& path) {
-        if (!path.empty()) record.sSourceImageFullPath = path;
-        return !record.sSourceImageFullPath.empty();
-    };
-    if (!use(*info.pForegroundBitmapInfo, options.foreground)) return {kUsage, "--foreground is missing."};
-    if (!use(*info.pBackgroundBitmapInfo, options.background)) return {kUsage, "--background is missing."};
+    if (!options.foreground.empty()) setForeground(info, options.foreground);
+    if (!options.background.empty()) setBackground(info, options.background);
+    if (info.pForegroundBitmapInfo->sSourceImageFullPath.empty()) return {kUsage, "--foreground is missing."};
+    if (info.pBackgroundBitmapInfo->sSourceImageFullPath.empty()) return {kUsage, "--background is missing."};
     return {};
 }
 
@@ -92,15 +91,15 @@ Refusal checkOutputs(const SystemInfo& info, const RenderOptions& options) {
 
 Refusal prepare(SystemInfo& info, const RenderOptions& options) {
     if (Refusal refusal = checkFiles(options); refusal.code != kDone) return refusal;
-    LoadedStateFile loaded;
-    if (!options.state.empty()) loaded = loadStateFile(info, options.state);
+    LoadedState loaded;
+    if (!options.state.empty()) loaded = loadState(info, options.state);
     if (!loaded.problem.empty()) return {kFailed, loaded.problem};
     if (Refusal refusal = applySources(info, options); refusal.code != kDone) return refusal;
     const std::string left = options.picture.effects.leftOut(options.fast, options.preview);
     if (!left.empty()) return {kUsage, left};
-    const LoadedStateFile* state = options.state.empty() ? nullptr : &loaded;
+    const LoadedState* state = options.state.empty() ? nullptr : &loaded;
     if (Refusal refusal = applyPictureOptions(info, options.picture, state); refusal.code != kDone) return refusal;
-    if (!ChangeImageSize(info)) return {kUsage, "The output size cannot be used."};
+    if (!useChosenSize(info)) return {kUsage, "The output size cannot be used."};
     if (const std::string problem = textProblem(info); !problem.empty()) return {kFailed, problem};
     info.bSkipHiRes = options.preview;
     return checkOutputs(info, options);

@@ -14,7 +14,7 @@
 #include "core/state/SettingNames.h"
 #include "core/state/SystemInfo.h"
 #include "formats/ImageState.h"
-#include "pipeline/StartUp.h"
+#include "session/StartUp.h"
 
 namespace tavrin::cli {
 

@@ -7,7 +7,7 @@
 #include "core/Log.h"
 #include "core/raster/PixelMemory.h"
 #include "core/state/SystemInfo.h"
-#include "pipeline/StartUp.h"
+#include "session/StartUp.h"
 #include "ui/MainWindow.h"
 
 namespace {

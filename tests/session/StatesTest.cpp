@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "formats/ImageState.h"
-#include "pipeline/OutputSize.h"
-#include "pipeline/StateFile.h"
+#include "session/OutputSizes.h"
+#include "session/States.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
@@ -14,7 +14,7 @@ namespace {
 
 using testing::HasSubstr;
 
-class StateFileTest : public testing::Test {
+class StatesTest : public testing::Test {
   protected:
     /// A state file whose size is told in ways that need not agree.
     std::string stateOf(const std::string& name, int index, double width, double height, int dpi) {
@@ -31,19 +31,23 @@ class StateFileTest : public testing::Test {
     }
     /// The pixels of the size that a load and a change of the size give, "" where the file's cannot be had.
     std::string sizeAfter(const std::string& path) {
-        const LoadedStateFile loaded = loadStateFile(*info_, path);
+        const LoadedState loaded = loadState(*info_, path);
         EXPECT_EQ(loaded.problem, "");
         problem_ = loaded.sizeProblem;
         if (!problem_.empty()) return "";
-        EXPECT_TRUE(ChangeImageSize(*info_));
+        EXPECT_TRUE(useChosenSize(*info_));
         return std::to_string(info_->iOutputPixelWidth) + "x" + std::to_string(info_->iOutputPixelHeight) + " " +
                std::to_string(info_->iSelecteImageSize);
+    }
+    bool asksForSize(const std::string& path) {
+        EXPECT_EQ(loadState(*info_, path).problem, "");
+        return info_->bChangeImageSize;
     }
     void SetUp() override {
         test::addSize(*info_, "small", 2, 3, 10);
         test::addSize(*info_, "large", 4, 6, 10);
         test::addSize(*info_, "small", 2, 3, 20);
-        selectSizeByName(*info_, "test");
+        chooseSizeByName(*info_, "test");
     }
 
     test::TempFolder folder_;
@@ -51,7 +55,7 @@ class StateFileTest : public testing::Test {
     std::string problem_;
 };
 
-TEST_F(StateFileTest, TheNameCountsThenTheInchesThenTheSizeIsThePicturesOwn) {
+TEST_F(StatesTest, TheNameCountsThenTheInchesThenTheSizeIsThePicturesOwn) {
     EXPECT_EQ(sizeAfter(stateOf("small", 2, 9, 9, 9)), "40x60 3") << "the last of that name";
     EXPECT_EQ(sizeAfter(stateOf("other", 0, 4, 6, 10)), "40x60 2");
     EXPECT_EQ(info_->sImageSizeName.load(), "large");
@@ -60,19 +64,19 @@ TEST_F(StateFileTest, TheNameCountsThenTheInchesThenTheSizeIsThePicturesOwn) {
     EXPECT_EQ(sizeAfter(stateOf("old", 2, 0, 0, 0)), "40x60 2") << "a file that tells no inches";
 }
 
-TEST_F(StateFileTest, OwnSizesEnterNoListAndComeBack) {
+TEST_F(StatesTest, OwnSizesEnterNoListAndComeBack) {
     for (int dpi = 100; dpi < 250; ++dpi)
         ASSERT_NE(sizeAfter(stateOf("mine", 52, 1.0 / 3.0, 0.5, dpi)), "");
     EXPECT_EQ(info_->iImageSizeCount(), 4);
     ASSERT_EQ(saveImageStateToXML(*info_, folder_.file("own.qlx")), "");
-    ASSERT_TRUE(selectSizeByName(*info_, "test") && ChangeImageSize(*info_));
-    EXPECT_TRUE(loadStateFile(*info_, folder_.file("own.qlx")).newSize);
+    ASSERT_TRUE(chooseSizeByName(*info_, "test") && useChosenSize(*info_));
+    EXPECT_TRUE(asksForSize(folder_.file("own.qlx")));
     EXPECT_EQ(sizeAfter(folder_.file("own.qlx")), "83x125 -1");
-    EXPECT_FALSE(loadStateFile(*info_, folder_.file("own.qlx")).newSize);
-    EXPECT_TRUE(loadStateFile(*info_, stateOf("mine", -1, 1.0 / 3.0, 0.5, 250)).newSize) << "of the same name";
+    EXPECT_FALSE(asksForSize(folder_.file("own.qlx")));
+    EXPECT_TRUE(asksForSize(stateOf("mine", -1, 1.0 / 3.0, 0.5, 250))) << "of the same name";
 }
 
-TEST_F(StateFileTest, ASizeThatCannotBeHadLeavesTheOldOneAndIsTold) {
+TEST_F(StatesTest, ASizeThatCannotBeHadLeavesTheOldOneAndIsTold) {
     const std::int32_t before = info_->iSelecteImageSize;
     EXPECT_EQ(sizeAfter(stateOf("nobody's", 99, 0, 0, 0)), "");
     EXPECT_THAT(problem_, HasSubstr("a.qlx: The output size \"nobody's\" is not in the list"));

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "folders/BatchList.h"
+#include "folders/BatchListFile.h"
 #include "folders/ListText.h"
 #include "support/Files.h"
 #include "support/TestData.h"
@@ -10,12 +10,12 @@ namespace {
 
 class BatchListTest : public testing::Test {
   protected:
-    BatchList parse(const std::string& text, std::size_t limit = 500) {
+    ParsedBatchList parse(const std::string& text, std::size_t limit = 500) {
         return parseBatchList(text, defaults_, number_, limit,
                               [this](const std::string& folder) { folders_.push_back(folder); });
     }
     BatchElement job(const std::string& lines) {
-        const BatchList list = parse("<image>\n" + lines + "\n</image>\n");
+        const ParsedBatchList list = parse("<image>\n" + lines + "\n</image>\n");
         EXPECT_EQ(list.jobs.size(), 1u);
         return list.jobs.empty() ? BatchElement() : list.jobs[0];
     }
@@ -71,7 +71,7 @@ TEST_F(BatchListTest, NamesByStyle) {
 }
 
 TEST_F(BatchListTest, LinesOutsideJobsAndUnclosedJobsDoNotCount) {
-    const BatchList list = parse(
+    const ParsedBatchList list = parse(
         "<foreground>/x.jpg</foreground>\n<image>\n<foreground>/lost.jpg</foreground>\n<image>\n</image>\n"
         "</image>\n<image> <!-- third --> \n</image> end\n<image>\n<foreground>/y.jpg</foreground>");
     ASSERT_EQ(list.jobs.size(), 2u);

@@ -1,4 +1,4 @@
-#include "folders/BatchList.h"
+#include "folders/BatchListFile.h"
 
 #include <filesystem>
 #include <string_view>
@@ -120,9 +120,9 @@ class Draft {
 
 }  // namespace
 
-BatchList parseBatchList(const std::string& text, const BatchListDefaults& defaults, int& nextNumber,
-                         std::size_t limit, const MakeFolder& makeFolder) {
-    BatchList list;
+ParsedBatchList parseBatchList(const std::string& text, const BatchListDefaults& defaults, int& nextNumber,
+                               std::size_t limit, const MakeFolder& makeFolder) {
+    ParsedBatchList list;
     std::vector<Draft> open;  // one or none
     std::string_view rest = text;
     int number = 0, opened = 0;

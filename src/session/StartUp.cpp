@@ -1,4 +1,4 @@
-#include "pipeline/StartUp.h"
+#include "session/StartUp.h"
 
 #include <QLockFile>
 
@@ -7,14 +7,15 @@
 #include "core/Log.h"
 #include "core/files/Places.h"
 #include "core/files/StandardPath.h"
-#include "core/image/ImageReader.h"
+#include "core/files/TempFiles.h"
 #include "formats/Installation.h"
 #include "formats/Lists.h"
 #include "formats/SafeFile.h"
 #include "formats/SettingsFile.h"
-#include "pipeline/Files.h"
-#include "pipeline/OutputSize.h"
-#include "pipeline/StateFile.h"
+#include "pipeline/StartUpPictures.h"
+#include "session/OutputSizes.h"
+#include "session/Sources.h"
+#include "session/States.h"
 
 namespace tavrin {
 
@@ -61,7 +62,7 @@ std::string loadLists(SystemInfo& info) {
 std::string loadDefaultState(SystemInfo& info) {
     const std::string path = info.oQLXInfo->sDefaultQLXFilePath;
     if (path.empty()) return "";
-    const LoadedStateFile loaded = loadStateFile(info, path);
+    const LoadedState loaded = loadState(info, path);
     if (!loaded.problem.empty())
         return withSentence(loaded.problem, "The program starts without this default state.");
     if (loaded.sizeProblem.empty()) return "";
@@ -73,10 +74,8 @@ void selectUsableSize(SystemInfo& info) {
     const std::optional<ImageSize> selected = selectedSize(info);
     if (selected && sizeProblem(*selected).empty()) return;
     for (std::int32_t i = 0; i < info.iImageSizeCount(); ++i) {
-        const ImageSize& size = info.oImageSize[static_cast<std::size_t>(i)];
-        if (!sizeProblem(size).empty()) continue;
-        info.iSelecteImageSize = i;
-        info.sImageSizeName = size.sName;
+        if (!sizeProblem(info.oImageSize[static_cast<std::size_t>(i)]).empty()) continue;
+        chooseSize(info, i);
         return;
     }
 }
@@ -88,25 +87,6 @@ void clearOwnTempFiles() {
     static QLockFile running(QString::fromStdString(Places::current().sharedFolder() + "running.lock"));
     running.setStaleLockTime(0);  // only the end of its process frees it
     if (running.isLocked() || running.tryLock()) ClearTempFiles(Places::current().tempFilesFolder());
-}
-
-LoadedPicture loadPicture(const std::string& path) {
-    LoadedPicture picture;
-    picture.Image = myCreateImageUsingImageSourceFromFile(path);
-    if (picture.Image.isNull()) return picture;
-    picture.rawData = picture.Image.constBits();
-    picture.iWidth = picture.Image.width();
-    picture.iHeight = picture.Image.height();
-    picture.stride = picture.iWidth * picture.Image.depth() / 8;
-    return picture;
-}
-
-void loadStartUpPictures(StartUpPictures& pictures) {
-    const Places& places = Places::current();
-    pictures.TextEditIcon = loadPicture(places.textIconsFolder() + "Edit.png");
-    pictures.TextDeleteIcon = loadPicture(places.textIconsFolder() + "Delete.png");
-    pictures.iTextIconWidth = pictures.TextEditIcon.iWidth;
-    pictures.iTextIconHeight = pictures.TextEditIcon.iHeight;
 }
 
 void placeNote(FontObject& label) {
@@ -124,11 +104,11 @@ std::string startSystem(SystemInfo& info) {
     clearOwnTempFiles();
     addLine(problems, loadDefaultState(info));
     placeNote(info.oFontLabelObject[2]);  // after the load, so that this position always wins
-    info.pForegroundBitmapInfo->setSourceImageFullPath(standardizePath(info.oQLXInfo->sStartupFileForegroundPath));
-    info.pBackgroundBitmapInfo->setSourceImageFullPath(standardizePath(info.oQLXInfo->sStartupFileBackgroundPath));
+    setForeground(info, standardizePath(info.oQLXInfo->sStartupFileForegroundPath));
+    setBackground(info, standardizePath(info.oQLXInfo->sStartupFileBackgroundPath));
     selectUsableSize(info);
-    ChangeImageSize(info);
-    loadStartUpPictures(info);
+    useChosenSize(info);
+    loadTextIcons(info);
     loadSketchPictures(info);
     info.bNewOutputSize = true;
     if (!problems.empty()) logError(problems);
@@ -145,17 +125,6 @@ void startCommandLine(SystemInfo& info) {
         useOwnFolders(places);
     }
     if (const std::string problems = loadLists(info); !problems.empty()) logError(problems);
-}
-
-void loadSketchPictures(StartUpPictures& pictures) {
-    const std::pair<LoadedPicture*, const char*> wanted[] = {
-        {&pictures.PencilCross2, "PencilDenseCross.jpg"},
-        {&pictures.PencilCross, "PencilDense.jpg"},
-        {&pictures.LightParchment, "lightParchment.jpg"},
-    };
-    for (const auto& [picture, file] : wanted) {
-        if (!picture->rawData) *picture = loadPicture(shippedPicture("Texture/Sketch/" + std::string(file)));
-    }
 }
 
 void startLike(SystemInfo& info, const SystemInfo& other) {

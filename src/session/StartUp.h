@@ -17,10 +17,6 @@ std::string startSystem(SystemInfo& info);
 /// from the account, or put there where it has lists.
 void startCommandLine(SystemInfo& info);
 
-/// Loads the pencils and the paper of the sketch that are not loaded yet. The desktop program has them from its
-/// start, the command line gets them before its first sketch. On the processing thread, or before it starts.
-void loadSketchPictures(StartUpPictures& pictures);
-
 /// Brings a new state up like `other`, which `startCommandLine` brought up, without a look at the disk: for a process
 /// that makes many pictures, each from a state of its own.
 void startLike(SystemInfo& info, const SystemInfo& other);

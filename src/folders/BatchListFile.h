@@ -17,7 +17,7 @@ struct BatchListDefaults {
     bool skipTakenNumbers = false;  ///< a number under which a picture lies already is not given again
 };
 
-struct BatchList {
+struct ParsedBatchList {
     std::vector<BatchElement> jobs;
     int refused = 0;       ///< jobs beyond the limit
     int unclosedLine = 0;  ///< where the first job was opened that is never closed, and so no job
@@ -28,7 +28,7 @@ struct BatchList {
 /// passed over. Folders for the pictures are made on the way, as far as `makeFolder` does.
 /// @param nextNumber of the next numbered picture; counted on
 /// @param limit most jobs that are taken
-BatchList parseBatchList(const std::string& text, const BatchListDefaults& defaults, int& nextNumber,
-                         std::size_t limit, const MakeFolder& makeFolder);
+ParsedBatchList parseBatchList(const std::string& text, const BatchListDefaults& defaults, int& nextNumber,
+                               std::size_t limit, const MakeFolder& makeFolder);
 
 }  // namespace tavrin

@@ -8,7 +8,7 @@
 #include "formats/Installation.h"
 #include "formats/Lists.h"
 #include "formats/SettingsFile.h"
-#include "pipeline/StartUp.h"
+#include "session/StartUp.h"
 #include "support/Files.h"
 #include "support/TestData.h"
 

@@ -1,4 +1,4 @@
-#include "pipeline/Files.h"
+#include "folders/PictureFolder.h"
 
 #include <algorithm>
 #include <array>
@@ -21,14 +21,6 @@ bool hasPictureExtension(const fs::path& path) {
 }
 
 }  // namespace
-
-void ClearTempFiles(const fs::path& workingFolder) {
-    std::error_code failed;
-    for (fs::directory_iterator entry(workingFolder, failed), end; !failed && entry != end; entry.increment(failed)) {
-        std::error_code ignored;
-        fs::remove_all(entry->path(), ignored);
-    }
-}
 
 void CreateListOfFilesInFolder(SystemInfo& info, const fs::path& folder) {
     info.myFileNames.clear();
