@@ -112,6 +112,8 @@ class SettingChangesTest : public testing::Test {
         if (name.ends_with("sLevel")) return value.starts_with("Background") ? "Frame Layer" : "Background";
         if (name.ends_with("sSourceImageFullPath")) return other_;
         if (name.ends_with("fRotate")) return "90";
+        if (name.starts_with("iSliderClip")) return "30";
+        if (name == "iHaveShadow") return "1";
         const bool number = !value.empty() && value.find_first_not_of("-.0123456789") == std::string::npos;
         if (!number) return value == overlay_ ? other_ : overlay_;
         if (value == "0") return name.find(".f") != std::string::npos ? "0.4" : "1";
