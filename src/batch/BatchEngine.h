@@ -103,6 +103,13 @@ class BatchEngine : public IdleJob {
         Time at;
     };
 
+    /// Lists and history as they were searched; the sum of their changes.
+    struct Searched {
+        bool subfolders = false;
+        std::uint64_t changes = 0;
+        bool operator==(const Searched&) const = default;
+    };
+
     void showCounts(std::int32_t processed);
     void moveListFileAway(const std::string& folder, const std::string& name);
 
@@ -134,6 +141,7 @@ class BatchEngine : public IdleJob {
     std::recursive_mutex scanners_;  ///< the panel and a run both look into the folders
     std::optional<Job> taken_;       ///< the job whose portrait is waited for, and what was seen of it
     std::optional<Seen> seen_;
+    std::optional<Searched> searchedInVain_;
     bool refused_ = false;  ///< a message about an entry that has no place was shown in this run
 };
 

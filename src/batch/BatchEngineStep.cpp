@@ -62,6 +62,7 @@ void BatchEngine::beginJob(const Job& job) {
 void BatchEngine::stopRun() {
     bBatchProcessingStopped = true;
     refused_ = false;
+    searchedInVain_.reset();
     view_.enableBatchStart(true);
     view_.enableBatchStop(false);
 }
@@ -113,8 +114,15 @@ std::optional<BatchEngine::Job> BatchEngine::chooseJob() {
         std::vector<std::string>& names = scanner->oFilesInFolder;
         if (scanner->iFileCount == 0 && (names.empty() || names.back() != kUseCurrent)) names.push_back(kUseCurrent);
     }
-    const bool fromList = settings_.bUseBatchXMLFile && !settings_.bUseBackgroundSubfolders;
-    return fromList ? chooseFromList() : chooseCombination();
+    const bool subfolders = settings_.bUseBackgroundSubfolders;
+    if (!subfolders && settings_.bUseBatchXMLFile) return chooseFromList();
+    // A watch looks ten times a second, and combinations are many: what was searched in vain is not searched again.
+    const Searched now = {subfolders, nextBatchForegroundFile.changes() + nextBatchBackgroundFile.changes() +
+                                          nextBatchQLXFile.changes()};
+    if (searchedInVain_ == now) return std::nullopt;
+    std::optional<Job> job = chooseCombination();
+    if (!job) searchedInVain_ = now;
+    return job;
 }
 
 /// The first combination that is not in the history. With subfolders, one of the foreground folder is named like the

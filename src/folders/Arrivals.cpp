@@ -1,7 +1,6 @@
 #include "folders/Arrivals.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace tavrin {
 
@@ -25,9 +24,7 @@ namespace {
 
 /// Files from before the watch began are mostly old ones, and nobody needs to wait for these.
 bool isOld(const FileFacts& facts) {
-    using namespace std::chrono;
-    const auto now = std::filesystem::file_time_type::clock::now().time_since_epoch();
-    return duration_cast<nanoseconds>(now).count() - facts.time > nanoseconds(Arrivals::kPatience).count();
+    return isOlderThan(facts, Arrivals::kPatience);
 }
 
 }  // namespace

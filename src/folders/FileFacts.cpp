@@ -19,6 +19,12 @@ constexpr QCryptographicHash::Algorithm kDigest = QCryptographicHash::Blake2b_16
 
 }  // namespace
 
+bool isOlderThan(const FileFacts& facts, std::chrono::nanoseconds age) {
+    using namespace std::chrono;
+    const auto now = fs::file_time_type::clock::now().time_since_epoch();
+    return duration_cast<nanoseconds>(now).count() - facts.time > age.count();
+}
+
 std::optional<FileFacts> factsOf(const std::string& path) {
     std::error_code gone;
     const fs::directory_entry entry(path, gone);

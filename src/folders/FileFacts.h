@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -14,6 +15,9 @@ struct FileFacts {
     std::int64_t time = 0;  ///< of the last change, nanoseconds; 0 point as the system has it
     bool operator==(const FileFacts&) const = default;
 };
+
+/// Whether the last change lies longer back than that.
+bool isOlderThan(const FileFacts& facts, std::chrono::nanoseconds age);
 
 /// @return nothing when there is no such file, or it is a folder
 std::optional<FileFacts> factsOf(const std::string& path);

@@ -1,6 +1,7 @@
 #include "folders/NextFileInFolder.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <unordered_set>
 
@@ -73,12 +74,20 @@ std::string stemOf(const std::string& path) {
 
 void NextFileInFolder::setHistoryFileLocation(const std::string& folder, const std::string& name) {
     sHistoryFileName = (fs::path(folder) / name).string();
+    historyRead_.reset();
 }
 
 void NextFileInFolder::ReadHistoryFile() {
     if (!sHistoryFileName) return;
-    oProcessedFiles = readHistory(*sHistoryFileName).value_or(std::vector<std::string>());
+    const std::optional<FileFacts> facts = factsOf(*sHistoryFileName);
+    if (facts && facts == historyRead_) return;
+    std::vector<std::string> keys = readHistory(*sHistoryFileName).value_or(std::vector<std::string>());
+    if (keys != oProcessedFiles) ++changes_;
+    oProcessedFiles = std::move(keys);
     iProcessedCount = countOf(oProcessedFiles);
+    // Clocks of files tick slowly: one that was just written may be written again and look the same.
+    const bool rests = facts && isOlderThan(*facts, std::chrono::seconds(2));
+    historyRead_ = rests ? facts : std::nullopt;
 }
 
 void NextFileInFolder::ClearHistoryFile() {
@@ -88,6 +97,8 @@ void NextFileInFolder::ClearHistoryFile() {
 
 void NextFileInFolder::AddProcessedFiles(const std::string& key) {
     oProcessedFiles.push_back(key);
+    ++changes_;
+    historyRead_.reset();
     iProcessedCount = countOf(oProcessedFiles);
     if (!sHistoryFileName) return;
     const std::string problem = writeHistory(*sHistoryFileName, oProcessedFiles);
@@ -106,12 +117,16 @@ std::optional<std::string> NextFileInFolder::NextFileToProcess() {
 
 // A folder that lists the same names in the same order as last time sorts as it did then.
 void NextFileInFolder::take(std::vector<std::string> names, bool sorted) {
-    if (sorted && (names != unsorted_ || sorted_.size() != names.size())) {
-        sorted_ = names;
-        sortAsPeopleDo(sorted_);
+    if (names != unsorted_) {
+        ++changes_;
+        sorted_.clear();
         unsorted_ = std::move(names);
     }
-    oFilesInFolder = sorted ? sorted_ : std::move(names);
+    if (sorted && sorted_.size() != unsorted_.size()) {
+        sorted_ = unsorted_;
+        sortAsPeopleDo(sorted_);
+    }
+    oFilesInFolder = sorted ? sorted_ : unsorted_;
     iFileCount = countOf(oFilesInFolder);
 }
 

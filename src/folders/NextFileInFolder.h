@@ -5,12 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "folders/FileFacts.h"
+
 namespace tavrin {
 
 /// Lists the candidates in a folder, remembers in a small history file what was handled, and answers which file is
-/// next. New files come to light because callers ask again: each question looks into the folder and reads the history
-/// anew. There are no messages: a missing folder holds nothing, a missing or unreadable history is an empty one.
-/// Not safe on two threads at once; its owner guards it.
+/// next. New files come to light because callers ask again: each question looks into the folder, and reads the
+/// history anew unless it is the file of before. There are no messages: a missing folder holds nothing, a missing or
+/// unreadable history is an empty one. Not safe on two threads at once; its owner guards it.
 class NextFileInFolder {
   public:
     NextFileInFolder() { oFilesInFolder.reserve(100); }
@@ -39,6 +41,9 @@ class NextFileInFolder {
     /// Photos of the folder, and those of its subfolders as "subfolder/name". Sorted.
     void FindPhotosInFolderAndSubfolders();
 
+    /// Goes up when a search or a reading comes to something else than the one before.
+    std::uint64_t changes() const { return changes_; }
+
     std::string sFolderToCheck;
     std::int32_t iFileCount = 0;       ///< entries that the last search found, before any caller appended to them
     std::int32_t iProcessedCount = 0;  ///< keys in the history after the last read or write
@@ -49,8 +54,10 @@ class NextFileInFolder {
   private:
     void take(std::vector<std::string> names, bool sorted);
 
-    std::vector<std::string> unsorted_;  ///< the listing from which `sorted_` was made
-    std::vector<std::string> sorted_;
+    std::vector<std::string> unsorted_;     ///< the last listing
+    std::vector<std::string> sorted_;       ///< the same in order; empty as long as nobody wanted that
+    std::optional<FileFacts> historyRead_;  ///< of the file from which `oProcessedFiles` comes
+    std::uint64_t changes_ = 0;
 };
 
 /// The names directly in a folder, folders among them, whose extension (without the dot, in capitals) is in the list;

@@ -342,6 +342,49 @@ TEST_F(BatchEngineTest, TheStatusOfALargeFolderIsQuickAndRight) {
     EXPECT_EQ(panel_.counts, "3000/1500");
 }
 
+// A watch looks ten times a second, on the thread that answers the sliders.
+TEST_F(BatchEngineTest, AWatchThatHasDoneItsManyCombinationsLooksQuicklyAndStillSeesWhatIsNew) {
+    const auto name = [](const char* stem, int i, const char* extension) {
+        return stem + std::to_string(i) + extension;
+    };
+    Names keys;
+    for (int f = 0; f < 200; ++f) {
+        test::writeFile(folder_.file("fg/" + name("f", f, ".jpg")), "");
+        for (int b = 0; b < 20; ++b) {
+            for (int q = 0; q < 5; ++q)
+                keys.push_back(name("f", f, ".jpg") + name("b", b, ".jpg") + name("q", q, ".qlx"));
+        }
+    }
+    for (int b = 0; b < 20; ++b)
+        test::writeFile(folder_.file("bg/" + name("b", b, ".jpg")), "");
+    for (int q = 0; q < 5; ++q)
+        test::writeFile(folder_.file("qlx/" + name("q", q, ".qlx")), "");
+    const std::string history = folder_.file("out/ForegroundHistory.dat");
+    const auto writeOldHistory = [&] {
+        ASSERT_EQ(writeHistory(history, keys), "");
+        fs::last_write_time(history, fs::last_write_time(history) - std::chrono::minutes(1));
+    };
+    writeOldHistory();
+    settings_.bLastBatchCheckForNewFiles = true;
+    engine().clickedButtonStartBatch();
+    const auto step = [this] {
+        const auto start = std::chrono::steady_clock::now();
+        engine().step();
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    };
+    const double first = step();
+    std::vector<double> later(11);
+    std::generate(later.begin(), later.end(), step);
+    std::nth_element(later.begin(), later.begin() + 5, later.end());
+    EXPECT_LT(later[5], first / 3) << "20,000 combinations are searched in vain once";
+    EXPECT_EQ(looks_, 0);
+
+    keys.front() = "other.jpgb0.jpgq0.qlx";  // another program's doing
+    writeOldHistory();
+    step();
+    EXPECT_EQ(looks_, 1) << "f0 over b0 with q0 is taken";
+}
+
 TEST_F(BatchEngineTest, FoldersAndChoicesAreKeptAndTheHistoryMovesWithTheForegrounds) {
     portrait("fg/anna.png");
     panel_.chosen = folder_.file("bg");

@@ -91,6 +91,45 @@ TEST_F(NextFileInFolderTest, TheHistoryTellsWhatIsNextAcrossInstances) {
     }
 }
 
+TEST_F(NextFileInFolderTest, ChangesAreCountedAndAHistoryThatRestsIsReadOnce) {
+    put("a.jpg");
+    NextFileInFolder files = scanner();
+    const std::string history = elsewhere_.file("History.dat");
+    files.setHistoryFileLocation(elsewhere_.path().string(), "History.dat");
+    std::uint64_t before = 0;
+    const auto isOther = [&] {
+        files.FindPhotosInFolder();
+        files.ReadHistoryFile();
+        return std::exchange(before, files.changes()) != files.changes();
+    };
+    EXPECT_TRUE(isOther());
+    EXPECT_FALSE(isOther());
+    put("b.jpg");
+    EXPECT_TRUE(isOther());
+    // Two of one size, one after the other: the clock of files may not tell them apart.
+    for (const char* key : {"a.jpg", "c.jpg"}) {
+        ASSERT_EQ(writeHistory(history, {key}), "");
+        EXPECT_TRUE(isOther()) << key;
+        EXPECT_FALSE(isOther());
+        EXPECT_EQ(files.oProcessedFiles, Names{key});
+    }
+    const auto longAgo = std::filesystem::last_write_time(history) - std::chrono::hours(1);
+    std::filesystem::last_write_time(history, longAgo);
+    EXPECT_FALSE(isOther());
+    ASSERT_EQ(writeHistory(history, {"b.jpg"}), "");
+    std::filesystem::last_write_time(history, longAgo);
+    EXPECT_FALSE(isOther()) << "not read again";
+    files.AddProcessedFiles("d.jpg");
+    EXPECT_TRUE(isOther());
+    files.ClearHistoryFile();
+    EXPECT_TRUE(isOther());
+    EXPECT_TRUE(files.oProcessedFiles.empty());
+    put("c.jpg");
+    const std::uint64_t asked = files.changes();
+    EXPECT_EQ(files.NextFileToProcess(), "a.jpg");
+    EXPECT_GT(files.changes(), asked);
+}
+
 TEST_F(NextFileInFolderTest, TheHistoryIsAPlainPropertyListOfStrings) {
     const std::string path = folder_.file("History.dat");
     const Names keys = {"a & b<c>.jpg", " ", "tab\there\nand there\r.png", "\xC3\xA4\xE6\xBC\xA2.jpg", "]]>", ""};
