@@ -4,10 +4,12 @@
 #include <QApplication>
 #include <QColorSpace>
 #include <QDropEvent>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTest>
 
+#include "core/files/Places.h"
 #include "formats/ImageState.h"
 #include "pipeline/OutputSize.h"
 #include "support/Pictures.h"
@@ -110,6 +112,24 @@ TEST_F(MainWindowTest, NothingIsSavedOverWhatThePictureIsMadeFrom) {
     EXPECT_EQ(bytes(background_), background);
     EXPECT_EQ(bytes(folder_.file("other.png")), other);
     EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("other.png"))));  // the dialog has asked
+}
+
+TEST_F(MainWindowTest, OpenedFilesAreRememberedAmongTheProgramsOwnFiles) {
+    Places& places = Places::current();
+    const std::string shared = places.sharedFolder();
+    places.setSharedFolder(folder_.file("shared"));
+    window_->openForeground(QString::fromStdString(background_));
+    EXPECT_TRUE(std::filesystem::exists(folder_.file("shared/QLXXML/Window.ini")));
+    window_.reset();
+    window_ = std::make_unique<MainWindow>(*info_);
+    QString newest;
+    for (QMenu* menu : window_->findChildren<QMenu*>()) {
+        if (menu->title() != "Open &Recent") continue;
+        emit menu->aboutToShow();
+        newest = menu->actions().front()->text();
+    }
+    EXPECT_EQ(newest, "bg.png");
+    places.setSharedFolder(shared);
 }
 
 TEST_F(MainWindowTest, AFileWhoseNameIsNoTextCanBeDropped) {
