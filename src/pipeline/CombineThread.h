@@ -70,7 +70,7 @@ class CombineThread {
 
     SystemInfo& info_;
     std::optional<LayerFill> foregroundDue_, backgroundDue_;  // set while a full buffer waits
-    KeyedPicture keyedPreview_{kLowRes}, keyedFull_{kFullRes};
+    KeyedPicture keyedPreview_{Resolution::preview}, keyedFull_{Resolution::full};
     std::string toldFailure_;  // not told again until a picture was made
     std::vector<std::function<void()>> idleWork_;
     std::mutex postedMutex_;

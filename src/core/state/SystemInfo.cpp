@@ -28,9 +28,14 @@ SystemInfo::SystemInfo()
     note.dFontFillRed = note.dFontFillGreen = note.dFontFillBlue = 0.0;
 }
 
-PassGeometry SystemInfo::geometry(int res) const {
-    if (res == 1) return {iOutputPixelWidth, iOutputPixelHeight, iOutputImageDPI};
+PassGeometry SystemInfo::geometry(Resolution resolution) const {
+    if (resolution == Resolution::full) return {iOutputPixelWidth, iOutputPixelHeight, iOutputImageDPI};
     return {iOutputPixelLowResWidth, iOutputPixelLowResHeight, iOutputImageLowResDPI};
+}
+
+PixelView SystemInfo::pixels(const BitmapInfo& record, Resolution resolution) const {
+    const PassGeometry size = geometry(resolution);
+    return {record.bytes(resolution), size.width, size.height};
 }
 
 void SystemInfo::StartUpdate() {
@@ -61,39 +66,37 @@ RunContext SystemInfo::rowsWhileWanted() const {
 }
 
 void SystemInfo::publishFull(int firstRow, int lastRow) {
-    publish(*pCombinedBitmapInfo, false, firstRow, lastRow);
+    publish(Resolution::full, firstRow, lastRow);
 }
 
 void SystemInfo::publishLowRes() {
-    publish(*pCombinedBitmapInfo, true, 0, iOutputPixelLowResHeight);
+    publish(Resolution::preview, 0, iOutputPixelLowResHeight);
 }
 
-void SystemInfo::publish(BitmapInfo& record, bool lowRes, int firstRow, int lastRow) {
-    const std::uint8_t* bytes = lowRes ? record.pBitmapDataLowRes : record.pBitmapData;
-    const int width = lowRes ? iOutputPixelLowResWidth : iOutputPixelWidth;
-    const int height = lowRes ? iOutputPixelLowResHeight : iOutputPixelHeight;
-    if (!pInterface || !bytes || lastRow <= firstRow) return;
+void SystemInfo::publish(Resolution resolution, int firstRow, int lastRow) {
+    const PixelView picture = pixels(*pCombinedBitmapInfo, resolution);
+    if (!pInterface || !picture.bytes || lastRow <= firstRow) return;
 
     PublishedRows rows;
     const int count = lastRow - firstRow;
     if (pInterface->wantsPixels()) {
-        rows.pixels = newPicture(width, count, QImage::Format_RGBA8888);
+        rows.pixels = newPicture(picture.width, count, QImage::Format_RGBA8888);
         if (rows.pixels.isNull()) return;
-        const RunContext run = lowRes ? RunContext() : rowsWhileCurrent();
-        if (!copyPixels(run, bytes + pixelOffset(width, 0, firstRow), rows.pixels.bits(), width, count)) return;
+        const RunContext run = resolution == Resolution::full ? rowsWhileCurrent() : RunContext();
+        if (!copyPixels(run, picture.at(0, firstRow), rows.pixels.bits(), picture.width, count)) return;
     }
     rows.firstRow = firstRow;
     rows.rowCount = count;
-    rows.height = height;
-    rows.lowRes = lowRes;
+    rows.height = picture.height;
+    rows.lowRes = resolution == Resolution::preview;
     pInterface->repaint(rows);
 }
 
-std::string SystemInfo::whyNotFinished(int res) const {
+std::string SystemInfo::whyNotFinished(Resolution resolution) const {
     for (const BitmapInfo* record : {pForegroundBitmapInfo.get(), pBackgroundBitmapInfo.get()}) {
         if (!record->sSourceProblem.empty()) return record->sSourceProblem;
     }
-    return pictures.whyNot(res);
+    return pictures.whyNot(resolution);
 }
 
 void SystemInfo::alert(const std::string& message, const std::string& reason) {

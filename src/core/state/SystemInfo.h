@@ -71,8 +71,9 @@ class SystemInfo : public Settings,
     SystemInfo(const SystemInfo&) = delete;
     SystemInfo& operator=(const SystemInfo&) = delete;
 
-    /// Geometry of the full picture (res 1) or of the preview (any other value).
-    PassGeometry geometry(int res) const;
+    PassGeometry geometry(Resolution resolution) const;
+    /// The buffer of a record, of that size.
+    PixelView pixels(const BitmapInfo& record, Resolution resolution) const;
 
     /// Asks for a new picture. Callable from any thread, never waits.
     void StartUpdate();
@@ -94,9 +95,9 @@ class SystemInfo : public Settings,
     /// Hands the whole combined preview to the interface, if there is one.
     void publishLowRes();
 
-    /// Why the combined picture (res 1: the full one, otherwise the preview) must not go out as that of the present
-    /// sources and settings, as one plain line without a full stop; empty when it may. Callable from any thread.
-    std::string whyNotFinished(int res) const;
+    /// Why the combined picture of a resolution must not go out as that of the present sources and settings, as one
+    /// plain line without a full stop; empty when it may. Callable from any thread.
+    std::string whyNotFinished(Resolution resolution) const;
 
     /// Shows an alert in the interface; without one message and reason go to the standard error stream.
     void alert(const std::string& message, const std::string& reason);
@@ -113,7 +114,7 @@ class SystemInfo : public Settings,
     const std::unique_ptr<ImageFrame> oFrame, oFrameOverlay;
 
   private:
-    void publish(BitmapInfo& record, bool lowRes, int firstRow, int lastRow);
+    void publish(Resolution resolution, int firstRow, int lastRow);
 
     std::mutex wakeMutex_;
     std::condition_variable wake_;
