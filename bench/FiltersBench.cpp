@@ -33,7 +33,7 @@ struct Run {
         useChosenSize(*info);
         CombineThread(*info).runUntilIdle();
         info->iCurrentThreadCount = info->iNewThreadCount.load();
-        geometry = info->geometry(res);
+        geometry = info->geometry(fullIf(res == 1));
         const BitmapInfo& combined = *info->pCombinedBitmapInfo;
         const std::uint8_t* bytes = res == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes;
         finished.assign(bytes, bytes + pixelBytes(geometry.width, geometry.height));

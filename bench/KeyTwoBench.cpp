@@ -9,7 +9,7 @@
 #include "key/hair/HairCorrection.h"
 #include "key/hair/HairDetail.h"
 #include "key/hair/HairDetect.h"
-#include "key/skin/Skin.h"
+#include "key/skin/SoftenMac.h"
 
 // The stages of the key around its pixel loop, at preview size and at 2400 x 3000, on one thread and on two.
 namespace {
@@ -170,7 +170,7 @@ void BM_GreenGuard(benchmark::State& state) {
     run.info->iGreenProtectMode = mode;
     GreenGuard guard;
     for (auto _ : state)
-        benchmark::DoNotOptimize(guard.build(*run.info, run.foreground, run.w, run.h, true));
+        benchmark::DoNotOptimize(guard.build(*run.info, {run.foreground, run.w, run.h}, Resolution::full));
 }
 BENCHMARK(BM_GreenGuard<1>)->Apply(sizes);
 BENCHMARK(BM_GreenGuard<2>)->Apply(sizes);

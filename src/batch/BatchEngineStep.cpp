@@ -71,7 +71,7 @@ void BatchEngine::saveFinishedJob() {
     bSaveNextImage = false;
     const int type = settings_.iLastBatchLastOutputFileType;
     std::string path = sSaveFileName;
-    if (const std::string problem = info_.whyNotFinished(1); !problem.empty()) {
+    if (const std::string problem = info_.whyNotFinished(Resolution::full); !problem.empty()) {
         // What the buffers hold is another job's picture. The alert has been shown.
         logError(path + extensionFor(type) + " is not made: " + problem + ".");
         sLastForegroundFile = sLastBackgroundFile = kUseCurrent;  // the next job reads its files in any case

@@ -35,17 +35,17 @@ struct ReflectionParams {
     bool textured = false;
 };
 
-ReflectionParams makeParams(SystemInfo& info, int hiRes) {
+ReflectionParams makeParams(SystemInfo& info, Resolution resolution) {
     for (Field<std::int32_t>* clip :
          {&info.iSliderClipTop, &info.iSliderClipBottom, &info.iSliderClipLeft, &info.iSliderClipRight}) {
         if (*clip < 0) *clip = 0;
     }
-    const RunSize size = runSize(info, hiRes);
+    const PassGeometry size = info.geometry(resolution);
     const auto percent = [](std::int64_t slider, std::int64_t length) { return slider * length / 100; };
     ReflectionParams params;
     params.width = size.width;
     params.height = size.height;
-    params.preview = hiRes == 0;
+    params.preview = resolution == Resolution::preview;
     params.belowBase = percent(info.iSliderReflectionSkewBase, size.height);
     params.base = size.height - params.belowBase;
     params.scale = info.iSliderReflectionScale / 100.0;
@@ -235,7 +235,7 @@ void addRipple(const ReflectionParams& params, const std::uint8_t* mirror, std::
 
 void AddReflection(SystemInfo& info, int hiRes, const BitmapInfo& /*layer*/, const std::uint8_t* foreground,
                    std::uint8_t* background, std::uint8_t* combined) {
-    ReflectionParams params = makeParams(info, hiRes);
+    ReflectionParams params = makeParams(info, fullIf(hiRes != 0));
     if (!foreground || !background || !combined || params.width < 1 || params.height < 1) return;
     std::optional<LoadedTexture> texture;
     if (info.oReflectionTexture->bHaveTexture)

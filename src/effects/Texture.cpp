@@ -129,7 +129,7 @@ void SetTextureAtPoint(const TextureParams& params, std::uint8_t* buffer, const 
 }
 
 void AddTexture(SystemInfo& info, std::uint8_t* buffer, int res) {
-    const PassGeometry size = info.geometry(res);
+    const PassGeometry size = info.geometry(fullIf(res == 1));
     if (!buffer || size.width < 2 || size.height < 2) return;
     const std::optional<LoadedTexture> texture =
         loadTexture(info, *info.oImageTexture, size, "the texture is left out");

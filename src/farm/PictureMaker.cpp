@@ -129,10 +129,10 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
         return made;
     }
     CombineThread(*info).runUntilIdle();
-    made.problem = info->whyNotFinished(1);
+    made.problem = info->whyNotFinished(Resolution::full);
     if (!made.problem.empty()) return made;
     made.leftOut = alerts.all;
-    const PassGeometry size = info->geometry(1);
+    const PassGeometry size = info->geometry(Resolution::full);
     made.width = size.width;
     made.height = size.height;
     made.dpi = size.dpi;

@@ -1,8 +1,9 @@
 #include "folders/BatchNames.h"
 
+#include <algorithm>
 #include <filesystem>
 
-#include "core/image/ImageWriter.h"
+#include "core/image/PictureTypes.h"
 #include "folders/BatchElement.h"
 #include "folders/NextFileInFolder.h"
 
@@ -55,16 +56,8 @@ std::string splitName(const std::string& folder, const BatchSources& sources, co
 }
 
 std::string extensionFor(int fileType) {
-    switch (fileType) {
-        case kJpegFile:
-            return ".jpg";
-        case kPngFile:
-            return ".png";
-        case kTiffFile:
-            return ".tif";
-        default:
-            return "";
-    }
+    const auto type = std::ranges::find(pictureTypes(), fileType, &PictureType::fileType);
+    return fileType == 0 || type == pictureTypes().end() ? "" : "." + type->extensions.front();
 }
 
 }  // namespace tavrin

@@ -8,6 +8,7 @@
 #include <QCollator>
 
 #include "core/Log.h"
+#include "core/image/PictureTypes.h"
 #include "folders/FolderListing.h"
 #include "folders/HistoryFile.h"
 
@@ -35,7 +36,15 @@ std::int32_t countOf(const std::vector<std::string>& names) {
 }  // namespace
 
 const std::vector<std::string>& photoExtensions() {
-    static const std::vector<std::string> known = {"JPG", "JPEG", "TIF", "TIFF", "PNG"};
+    static const std::vector<std::string> known = [] {
+        std::vector<std::string> names;
+        for (const PictureType& type : pictureTypes()) {
+            if (type.fileType == 0) continue;
+            for (const std::string& extension : type.extensions)
+                names.push_back(upperExtension("." + extension));
+        }
+        return names;
+    }();
     return known;
 }
 

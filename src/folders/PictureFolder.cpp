@@ -1,10 +1,7 @@
 #include "folders/PictureFolder.h"
 
-#include <algorithm>
-#include <array>
-#include <cctype>
-
 #include "core/Log.h"
+#include "core/image/PictureTypes.h"
 
 namespace fs = std::filesystem;
 
@@ -12,12 +9,9 @@ namespace tavrin {
 
 namespace {
 
-bool hasPictureExtension(const fs::path& path) {
-    std::string extension = path.extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    constexpr std::array known = {".JPG", ".JPEG", ".PNG", ".TIF", ".TIFF"};
-    return std::find(known.begin(), known.end(), extension) != known.end();
+bool isPhoto(const fs::path& path) {
+    const PictureType* type = typeOfName(path.string());
+    return type && type->fileType != 0;
 }
 
 }  // namespace
@@ -32,7 +26,7 @@ void CreateListOfFilesInFolder(SystemInfo& info, const fs::path& folder) {
             logTrace("***** Folder Name: " + name);
             continue;
         }
-        if (!hasPictureExtension(entry->path())) continue;
+        if (!isPhoto(entry->path())) continue;
         logTrace("***** File Name: " + name);
         logTrace("Adding Name " + entry->path().string() + ".");
         info.myFileNames.push_back(entry->path().string());

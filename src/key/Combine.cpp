@@ -4,7 +4,7 @@
 
 #include "key/CombineRow.h"
 #include "key/light/Lighting.h"
-#include "key/pixel/OnePixel.h"
+#include "key/pixel/PixelSteps.h"
 
 namespace tavrin {
 
@@ -43,21 +43,22 @@ RunContext fullRun(SystemInfo& info, int height) {
 }  // namespace
 
 void Combine(SystemInfo& info, int /*ignored*/, int hiRes) {
-    const RunSize size = runSize(info, hiRes);
+    const Resolution resolution = fullIf(hiRes != 0);
+    const PassGeometry size = info.geometry(resolution);
     if (size.width < 1 || size.height < 1) return;
-    CombineParams params = makeCombineParams(info, hiRes);
+    CombineParams params = makeCombineParams(info, resolution);
     if (!params.foreground || !params.background || !params.combined) return;
 
-    const KeyJoins joins(info, params, hiRes != 0);
-    if (joins.isSuperseded()) return;
-    const LightingRun light(info, size.width, size.height, hiRes);
+    const KeyOverrides overrides(info, params, resolution);
+    if (overrides.isSuperseded()) return;
+    const LightingRun light(info, resolution);
     params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
 
-    const RunContext context = hiRes == 0 ? RunContext{} : fullRun(info, size.height);
+    const RunContext context = resolution == Resolution::full ? fullRun(info, size.height) : RunContext();
     RunContext quiet = context;
     quiet.progress = nullptr;
     if (!searchBrightGrey(quiet, params)) return;
-    runRows(context, size.height, kGrainRows, [&](int y) { combineRow(params, joins, y); });
+    runRows(context, size.height, kGrainRows, [&](int y) { combineRow(params, overrides, y); });
 }
 
 }  // namespace tavrin

@@ -23,8 +23,8 @@ class RowWorker {
     using Colors = RgbLanes<D>;
 
   public:
-    RowWorker(const CombineParams& params, const KeyJoins& joins, int y)
-        : params_(params), joins_(joins), key_(d_, params.key), finish_(d_, params.finish) {
+    RowWorker(const CombineParams& params, const KeyOverrides& overrides, int y)
+        : params_(params), overrides_(overrides), key_(d_, params.key), finish_(d_, params.finish) {
         run_.y = y;
     }
 
@@ -37,13 +37,13 @@ class RowWorker {
         load(params_.background, run_.background);
 
         key_.decide(run_);
-        joins_.overrule(run_);
-        const bool plain = params_.finish.plainBackground && !params_.finish.transparent && !joins_.showsGuard();
+        overrides_.overrule(run_);
+        const bool plain = params_.finish.plainBackground && !params_.finish.transparent && !overrides_.showsGuard();
         if (plain && !anySubject()) {
             passBackground();
         } else {
             finishForeground();
-            joins_.showGuard(run_, params_.finish.transparent);
+            overrides_.showGuard(run_, params_.finish.transparent);
             clearMargins();
             loadBackground();
             write();
@@ -160,7 +160,7 @@ class RowWorker {
 
     D d_;
     const CombineParams& params_;
-    const KeyJoins& joins_;
+    const KeyOverrides& overrides_;
     KeyLanes<D> key_;
     FinishLanes<D> finish_;
     std::size_t offset_ = 0, bytes_ = 0;
@@ -171,14 +171,14 @@ class RowWorker {
 };
 
 template <class D>
-void workRow(const CombineParams& params, const KeyJoins& joins, int y) {
-    RowWorker<D> worker(params, joins, y);
+void workRow(const CombineParams& params, const KeyOverrides& overrides, int y) {
+    RowWorker<D> worker(params, overrides, y);
     for (const ColumnRun& part : params.key.screen.runs)
         worker.work(part);
 }
 
-void combineRowWide(const CombineParams& params, const KeyJoins& joins, int y) {
-    workRow<WideLanes>(params, joins, y);
+void combineRowWide(const CombineParams& params, const KeyOverrides& overrides, int y) {
+    workRow<WideLanes>(params, overrides, y);
 }
 
 }  // namespace HWY_NAMESPACE
@@ -190,12 +190,12 @@ namespace tavrin {
 
 HWY_EXPORT(combineRowWide);
 
-void combineRow(const CombineParams& params, const KeyJoins& joins, int y) {
-    HWY_DYNAMIC_DISPATCH(combineRowWide)(params, joins, y);
+void combineRow(const CombineParams& params, const KeyOverrides& overrides, int y) {
+    HWY_DYNAMIC_DISPATCH(combineRowWide)(params, overrides, y);
 }
 
-void combineRowPlain(const CombineParams& params, const KeyJoins& joins, int y) {
-    HWY_NAMESPACE::workRow<HWY_NAMESPACE::OneLane>(params, joins, y);
+void combineRowPlain(const CombineParams& params, const KeyOverrides& overrides, int y) {
+    HWY_NAMESPACE::workRow<HWY_NAMESPACE::OneLane>(params, overrides, y);
 }
 
 }  // namespace tavrin

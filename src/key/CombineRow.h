@@ -1,14 +1,14 @@
 #pragma once
 
-#include "key/KeyJoins.h"
+#include "key/KeyOverrides.h"
 #include "key/pixel/CombineParams.h"
 
 namespace tavrin {
 
 /// Keys row `y` of a run and writes its pixels, with the vectors of this machine.
-void combineRow(const CombineParams& params, const KeyJoins& joins, int y);
+void combineRow(const CombineParams& params, const KeyOverrides& overrides, int y);
 
 /// The same, one pixel at a time: what every vector form must equal, byte for byte.
-void combineRowPlain(const CombineParams& params, const KeyJoins& joins, int y);
+void combineRowPlain(const CombineParams& params, const KeyOverrides& overrides, int y);
 
 }  // namespace tavrin

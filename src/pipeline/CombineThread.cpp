@@ -195,7 +195,7 @@ void CombineThread::updateForegroundScale() {
     // The shadow lives in the background's buffers.
     if (info_.iHaveShadow != 1) info_.pBackgroundBitmapInfo->bScaleChange = true;
     foregroundDue_ = scaleLayer(foreground);
-    runStages(foregroundStages(), info_, kLowRes);
+    runStages(foregroundStages(), info_, Resolution::preview);
 }
 
 void CombineThread::updateBackground() {
@@ -204,7 +204,7 @@ void CombineThread::updateBackground() {
     background.bHiResScaleChange = true;
     cascade(background);
     backgroundDue_ = scaleLayer(background);
-    runStages(backgroundStages(), info_, kLowRes);
+    runStages(backgroundStages(), info_, Resolution::preview);
 }
 
 /// Draws the preview of a layer. Its full buffer waits until the preview is shown, which so follows the hand that
@@ -223,7 +223,7 @@ bool CombineThread::drawDueLayers() {
     const RunContext run = info_.rowsWhileCurrent();
     if (foregroundDue_) {
         if (!drawFullLayer(info_, *info_.pForegroundBitmapInfo, *foregroundDue_, run)) return false;
-        runStages(foregroundStages(), info_, kFullRes);
+        runStages(foregroundStages(), info_, Resolution::full);
         if (info_.isStale()) return false;
         foregroundDue_.reset();
     }
@@ -244,11 +244,11 @@ void CombineThread::makePreview() {
         keyedFull_.forget();  // the full picture's key uses what is found here
         keyedPreview_.make(previewStages().key, info_);
     }
-    runStages(previewStages().finish, info_, kLowRes);
+    runStages(previewStages().finish, info_, Resolution::preview);
     if (!info_.pictures.failure().empty()) return;
     info_.bShowLowRes = true;
     info_.publishLowRes();
-    if (!info_.isStale()) info_.pictures.finish(kLowRes);
+    if (!info_.isStale()) info_.pictures.finish(Resolution::preview);
 }
 
 void CombineThread::makeFullPicture() {
@@ -264,14 +264,14 @@ void CombineThread::makeFullPicture() {
         if (!full.drawImage(preview, whole, 1.0, info_.rowsWhileCurrent())) return;
     }
     if (newBackground.exchange(false)) {
-        runStages(backgroundStages(), info_, kFullRes);
+        runStages(backgroundStages(), info_, Resolution::full);
         // Not raised again: a background interrupted here stays as far as it got until it is scaled anew.
         if (info_.isStale()) return;
     }
     if (!isKeyed) keyedFull_.make(fullStages().key, info_);
-    runStagesWhileCurrent(fullStages().finish, info_, kFullRes);
+    runStagesWhileCurrent(fullStages().finish, info_, Resolution::full);
     if (info_.isStale() || !info_.pictures.failure().empty()) return;
-    info_.pictures.finish(kFullRes);
+    info_.pictures.finish(Resolution::full);
     toldFailure_.clear();
     info_.bShowLowRes = false;
     if (info_.pInterface) info_.pInterface->enableControls(true, info_.bLightroomActive);

@@ -13,9 +13,9 @@
 
 namespace tavrin {
 
-/// Rows [first, last) of a combined picture (`res` 1: the full one, otherwise the preview) that an edit changed.
+/// Rows [first, last) of a combined picture that an edit changed.
 struct ChangedRows {
-    int res = 1;
+    Resolution resolution = Resolution::full;
     int first = 0, last = 0;
 };
 
@@ -91,7 +91,7 @@ class CombineThread {
 
     SystemInfo& info_;
     std::optional<LayerFill> foregroundDue_, backgroundDue_;  // set while a full buffer waits
-    KeyedPicture keyedPreview_{kLowRes}, keyedFull_{kFullRes};
+    KeyedPicture keyedPreview_{Resolution::preview}, keyedFull_{Resolution::full};
     std::string toldFailure_;  // not told again until a picture was made
     std::vector<IdleJob*> idleJobs_;
     std::mutex jobsMutex_;

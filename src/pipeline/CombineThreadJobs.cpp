@@ -61,7 +61,7 @@ void CombineThread::runEdit(const Edit& edit) {
         const std::vector<ChangedRows> changed = edit();
         onlyLooked = changed.empty();
         for (const ChangedRows& rows : changed)
-            info_.publishEdited(rows.res, rows.first, rows.last);
+            info_.publishEdited(rows.resolution, rows.first, rows.last);
     });
     if (!onlyLooked) forgetKeyed();
 }

@@ -18,37 +18,33 @@ bool readsFile(std::span<const Stage> stages, const SystemInfo& info) {
         stages, [&](const Stage& stage) { return stage.readsFile && stage.when(info) && stage.readsFile(info); });
 }
 
-std::uint8_t* combinedPixels(const SystemInfo& info, int res) {
-    const BitmapInfo& combined = *info.pCombinedBitmapInfo;
-    return res == kFullRes ? combined.pBitmapData : combined.pBitmapDataLowRes;
-}
-
-void runAll(std::span<const Stage> stages, SystemInfo& info, int res) {
-    res == kFullRes ? runStagesWhileCurrent(stages, info, res) : runStages(stages, info, res);
+void runAll(std::span<const Stage> stages, SystemInfo& info, Resolution resolution) {
+    resolution == Resolution::full ? runStagesWhileCurrent(stages, info, resolution)
+                                   : runStages(stages, info, resolution);
 }
 
 }  // namespace
 
 bool KeyedPicture::restore(SystemInfo& info) {
-    std::uint8_t* combined = combinedPixels(info, res_);
+    std::uint8_t* combined = info.pCombinedBitmapInfo->bytes(resolution_);
     if (!kept_ || !combined || !isWanted(info) || !info.pCombinedBitmapInfo->bHaveBaseGreen) return false;
     if (keyInputs(info) != inputs_ || keyFindings(info) != findings_) return false;
-    copyPixels(whileCurrent(info, res_), pixels_.data(), combined, width_, height_);
+    copyPixels(whileCurrent(info, resolution_), pixels_.data(), combined, width_, height_);
     // Skin smoothing has since measured the skin in a way of its own.
-    if (res_ == kLowRes && info.bAdvancedHairDetectionON) static_cast<SkinColor&>(info) = skin_;
+    if (resolution_ == Resolution::preview && info.bAdvancedHairDetectionON) static_cast<SkinColor&>(info) = skin_;
     return true;
 }
 
 void KeyedPicture::make(std::span<const Stage> stages, SystemInfo& info) {
     if (!isWanted(info)) {
         release();
-        return runAll(stages, info, res_);
+        return runAll(stages, info, resolution_);
     }
     kept_ = false;
     const std::string before = inputs_, found = keyFindings(info);
     inputs_ = keyInputs(info);
     const std::uint64_t seed = info.randomSeeds.upcoming();
-    runAll(stages, info, res_);
+    runAll(stages, info, resolution_);
     // A setting that changed meanwhile is in a part of the rows only, even if it has changed back.
     if (info.isStale() || keyInputs(info) != inputs_) return forget();
     findings_ = keyFindings(info);
@@ -57,13 +53,13 @@ void KeyedPicture::make(std::span<const Stage> stages, SystemInfo& info) {
     // from the screen's colour that it finds; and the reflection's red line stays on the background of the preview.
     const bool repeats = info.randomSeeds.upcoming() == seed && !readsFile(stages, info) &&
                          (!info.bAdvancedHairDetectionON || findings_ == found) &&
-                         (res_ == kFullRes || !info.bHaveReflection || inputs_ == before);
+                         (resolution_ == Resolution::full || !info.bHaveReflection || inputs_ == before);
     kept_ = repeats && keep(info);
 }
 
 bool KeyedPicture::keep(SystemInfo& info) {
-    const PassGeometry size = info.geometry(res_);
-    const std::uint8_t* combined = combinedPixels(info, res_);
+    const PassGeometry size = info.geometry(resolution_);
+    const std::uint8_t* combined = info.pCombinedBitmapInfo->bytes(resolution_);
     if (!combined || size.width < 1 || size.height < 1) return false;
     if (!pixels_.data() || size.width != width_ || size.height != height_) {
         pixels_ = PixelBuffer();
@@ -73,7 +69,7 @@ bool KeyedPicture::keep(SystemInfo& info) {
     }
     if (!pixels_.data()) return false;  // no memory: each pass keys
     skin_ = info;
-    return copyPixels(whileCurrent(info, res_), combined, pixels_.data(), width_, height_) && !info.isStale();
+    return copyPixels(whileCurrent(info, resolution_), combined, pixels_.data(), width_, height_) && !info.isStale();
 }
 
 void KeyedPicture::forget() {

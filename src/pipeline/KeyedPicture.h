@@ -15,7 +15,7 @@ namespace tavrin {
 /// since elsewhere nobody moves a control twice. For the processing thread.
 class KeyedPicture {
   public:
-    explicit KeyedPicture(int res) : res_(res) {}
+    explicit KeyedPicture(Resolution resolution) : resolution_(resolution) {}
 
     /// Puts the kept picture into the combined buffer. At full size the copy stops when the state is stale.
     /// @return false when there is none for the present settings, and nothing was done
@@ -32,7 +32,7 @@ class KeyedPicture {
   private:
     bool keep(SystemInfo& info);
 
-    const int res_;
+    const Resolution resolution_;
     bool kept_ = false;
     PixelBuffer pixels_;
     int width_ = 0, height_ = 0;

@@ -1,13 +1,10 @@
 #include "pipeline/SaveImage.h"
 
-#include <algorithm>
-#include <cctype>
-#include <filesystem>
-
 #include <QBuffer>
 
 #include "core/files/AtomicFile.h"
 #include "core/image/ImageWriter.h"
+#include "core/image/PictureTypes.h"
 #include "core/state/NamedFiles.h"
 
 namespace tavrin {
@@ -20,18 +17,18 @@ bool refuse(SystemInfo& info, const std::string& reason) {
 }
 
 /// Whether the combined picture, and with it the key's alpha, is that of the present settings; alerts when not.
-bool isFinished(SystemInfo& info, const std::string& path, int res) {
-    const std::string problem = info.whyNotFinished(res);
+bool isFinished(SystemInfo& info, const std::string& path, Resolution resolution) {
+    const std::string problem = info.whyNotFinished(resolution);
     if (!problem.empty()) info.alert("The picture is not saved.", path + ": " + problem + ".");
     return problem.empty();
 }
 
-QImage matteOf(const std::uint8_t* pixels, int width, int height) {
-    QImage matte(width, height, QImage::Format_Grayscale8);
+QImage matteOf(ConstPixelView picture) {
+    QImage matte(picture.width, picture.height, QImage::Format_Grayscale8);
     for (int y = 0; y < matte.height(); ++y) {
         std::uint8_t* row = matte.scanLine(y);
-        for (int x = 0; x < width; ++x)
-            row[x] = pixels[pixelOffset(width, x, y) + 3];
+        for (int x = 0; x < picture.width; ++x)
+            row[x] = picture.at(x, y)[3];
     }
     return matte;
 }
@@ -39,13 +36,8 @@ QImage matteOf(const std::uint8_t* pixels, int width, int height) {
 }  // namespace
 
 int fileTypeForPath(const std::string& path) {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    if (extension == ".jpg" || extension == ".jpeg") return kJpegFile;
-    if (extension == ".png") return kPngFile;
-    if (extension == ".tif" || extension == ".tiff") return kTiffFile;
-    return 0;
+    const PictureType* type = typeOfName(path);
+    return type ? type->fileType : 0;
 }
 
 bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes,
@@ -53,10 +45,10 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
     if (theFileType < kJpegFile || theFileType > kTiffFile) {
         return refuse(info, path + ": there is no file type " + std::to_string(theFileType) + ".");
     }
-    if (!isFinished(info, path, myRes)) return false;
-    const BitmapInfo& combined = *info.pCombinedBitmapInfo;
-    const PassGeometry size = info.geometry(myRes);
-    const std::uint8_t* pixels = myRes == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes;
+    const Resolution resolution = fullIf(myRes == 1);
+    if (!isFinished(info, path, resolution)) return false;
+    const PassGeometry size = info.geometry(resolution);
+    const std::uint8_t* pixels = info.pCombinedBitmapInfo->bytes(resolution);
     if (const std::string problem = whyNotOver(info, path); !problem.empty()) return refuse(info, problem + ".");
     if (const std::string* source = sources.find(path)) return refuse(info, overwritesInput(path, *source) + ".");
 
@@ -66,13 +58,10 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
 }
 
 bool saveMatteToDisk(SystemInfo& info, const std::string& path, int myRes) {
-    if (!isFinished(info, path, myRes)) return false;
-    const BitmapInfo& background = *info.pBackgroundBitmapInfo;
-    const PassGeometry size = info.geometry(myRes);
-    const std::uint8_t* pixels = myRes == 1 ? background.pBitmapData : background.pBitmapDataLowRes;
-
+    const Resolution resolution = fullIf(myRes == 1);
+    if (!isFinished(info, path, resolution)) return false;
     if (const std::string problem = whyNotOver(info, path); !problem.empty()) return refuse(info, problem + ".");
-    const QImage matte = matteOf(pixels, size.width, size.height);
+    const QImage matte = matteOf(info.pixels(*info.pBackgroundBitmapInfo, resolution));
     QBuffer png;
     if (matte.isNull() || !png.open(QBuffer::WriteOnly) || !matte.save(&png, "PNG"))
         return refuse(info, path + ": there is not enough memory for it.");

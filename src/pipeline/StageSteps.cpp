@@ -16,7 +16,7 @@
 #include "key/SmoothEdges.h"
 #include "key/hair/HairDetect.h"
 #include "key/screen/BaseGreen.h"
-#include "key/skin/Skin.h"
+#include "key/skin/SoftenMac.h"
 #include "pipeline/Stages.h"
 #include "pipeline/StartUpPictures.h"
 
@@ -25,14 +25,6 @@ namespace tavrin {
 namespace {
 
 constexpr int kEveryPixel = 10'000;  // blur threshold that lets every pixel pass
-
-std::uint8_t* pixelsOf(const BitmapInfo& record, int res) {
-    return res == kFullRes ? record.pBitmapData : record.pBitmapDataLowRes;
-}
-
-BitmapContext* contextOf(const BitmapInfo& record, int res) {
-    return res == kFullRes ? record.oBitmapRep.get() : record.oBitmapRepLowRes.get();
-}
 
 // What is left half done of a background stays so until the layer is scaled anew. So nothing of it is given up but
 // where that is about to happen.
@@ -56,18 +48,18 @@ constexpr HairPreset kHairPresets[] = {
 
 }  // namespace
 
-void findHair(SystemInfo& info, int) {
+void findHair(SystemInfo& info, Resolution) {
     info.bFoundHair = false;
     if (info.bAdvancedHairDetectionON) ComputeHairColor(info);
     applyHairPreset(info);
 }
 
-void measureScreen(SystemInfo& info, int) {
+void measureScreen(SystemInfo& info, Resolution) {
     info.pCombinedBitmapInfo->bHaveBaseGreen = true;
     ComputeBaseGreen(info, 1, 0);
 }
 
-void readSilhouette(SystemInfo& info, int) {
+void readSilhouette(SystemInfo& info, Resolution) {
     const std::string path = info.sSilhouetteFileName;
     info.silhouettePicture = QImage();
     if (!info.bOutputSilhouette || path.empty()) return;
@@ -76,108 +68,112 @@ void readSilhouette(SystemInfo& info, int) {
     if (info.silhouettePicture.isNull() && !picture.isNull()) throw std::bad_alloc();
 }
 
-void combine(SystemInfo& info, int res) {
+void combine(SystemInfo& info, Resolution resolution) {
     for (const BitmapInfo* record :
          {info.pForegroundBitmapInfo.get(), info.pBackgroundBitmapInfo.get(), info.pCombinedBitmapInfo.get()}) {
-        if (!pixelsOf(*record, res)) throw std::bad_alloc();  // as at the change of the size
+        if (!record->bytes(resolution)) throw std::bad_alloc();  // as at the change of the size
     }
-    Combine(info, 1, res);
+    Combine(info, 1, numberOf(resolution));
 }
 
-void blendEdges(SystemInfo& info, int) {
+void blendEdges(SystemInfo& info, Resolution) {
     SmoothHiResEdges(info, info.rowsWhileCurrent());
 }
 
-void smoothSkin(SystemInfo& info, int) {
+void smoothSkin(SystemInfo& info, Resolution) {
     const BitmapInfo& foreground = *info.pForegroundBitmapInfo;
     SoftenMac(info, 1, foreground.pBitmapData, foreground.pBitmapDataLowRes, info.pCombinedBitmapInfo->pBitmapData, 1,
               info.rowsWhileCurrent());
 }
 
-void blurBackground(SystemInfo& info, int res) {
-    const PassGeometry g = info.geometry(res);
-    BlurBitmap(info, pixelsOf(*info.pBackgroundBitmapInfo, res), g.width, g.height, g.dpi, kEveryPixel,
-               info.dSliderBlur, res == kFullRes ? whileBackgroundStands(info) : RunContext());
+void blurBackground(SystemInfo& info, Resolution resolution) {
+    const PassGeometry g = info.geometry(resolution);
+    BlurBitmap(info, info.pBackgroundBitmapInfo->bytes(resolution), g.width, g.height, g.dpi, kEveryPixel,
+               info.dSliderBlur, resolution == Resolution::full ? whileBackgroundStands(info) : RunContext());
 }
 
-void blurResult(SystemInfo& info, int res) {
-    const PassGeometry g = info.geometry(res);
-    BlurBitmap(info, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi,
-               info.iSliderForegroundThreshold, info.dSliderForegroundBlur, whileCurrent(info, res));
+void blurResult(SystemInfo& info, Resolution resolution) {
+    const PassGeometry g = info.geometry(resolution);
+    BlurBitmap(info, info.pCombinedBitmapInfo->bytes(resolution), g.width, g.height, g.dpi,
+               info.iSliderForegroundThreshold, info.dSliderForegroundBlur, whileCurrent(info, resolution));
 }
 
-void addShadow(SystemInfo& info, int res) {
-    AddShadow(info, 1, res);
+void addShadow(SystemInfo& info, Resolution resolution) {
+    AddShadow(info, 1, numberOf(resolution));
 }
 
-void addTexture(SystemInfo& info, int res) {
-    AddTexture(info, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+void addTexture(SystemInfo& info, Resolution resolution) {
+    AddTexture(info, info.pCombinedBitmapInfo->bytes(resolution), numberOf(resolution));
 }
 
-void addFrame(SystemInfo& info, int res) {
-    AddFrame(info, *info.oFrame, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+void addFrame(SystemInfo& info, Resolution resolution) {
+    AddFrame(info, *info.oFrame, info.pCombinedBitmapInfo->bytes(resolution), numberOf(resolution));
 }
 
-void addSecondFrame(SystemInfo& info, int res) {
-    AddFrame(info, *info.oFrameOverlay, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+void addSecondFrame(SystemInfo& info, Resolution resolution) {
+    AddFrame(info, *info.oFrameOverlay, info.pCombinedBitmapInfo->bytes(resolution), numberOf(resolution));
 }
 
-void drawStars(SystemInfo& info, int res) {
-    StarFilter(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+void drawStars(SystemInfo& info, Resolution resolution) {
+    StarFilter(info, 0, info.pCombinedBitmapInfo->bytes(resolution), numberOf(resolution));
 }
 
-void smoothResult(SystemInfo& info, int res) {
-    FastGlobalImageSmoothing(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), res);
+void smoothResult(SystemInfo& info, Resolution resolution) {
+    FastGlobalImageSmoothing(info, 0, info.pCombinedBitmapInfo->bytes(resolution), numberOf(resolution));
 }
 
-void smoothForeground(SystemInfo& info, int res) {
-    FastGlobalImageSmoothing(info, 0, pixelsOf(*info.pForegroundBitmapInfo, res), res);
+void smoothForeground(SystemInfo& info, Resolution resolution) {
+    FastGlobalImageSmoothing(info, 0, info.pForegroundBitmapInfo->bytes(resolution), numberOf(resolution));
 }
 
-void drawSketch(SystemInfo& info, int res) {
+void drawSketch(SystemInfo& info, Resolution resolution) {
     if (info.iCartoonEffectType >= 3) loadSketchPictures(info);
-    const PassGeometry g = info.geometry(res);
-    Sketch(info, 0, pixelsOf(*info.pCombinedBitmapInfo, res), g.width, g.height, g.dpi);
+    const PassGeometry g = info.geometry(resolution);
+    Sketch(info, 0, info.pCombinedBitmapInfo->bytes(resolution), g.width, g.height, g.dpi);
 }
 
-void reflect(SystemInfo& info, int res) {
-    AddReflection(info, res, *info.pCombinedBitmapInfo, pixelsOf(*info.pForegroundBitmapInfo, res),
-                  pixelsOf(*info.pBackgroundBitmapInfo, res), pixelsOf(*info.pCombinedBitmapInfo, res));
+void reflect(SystemInfo& info, Resolution resolution) {
+    AddReflection(info, numberOf(resolution), *info.pCombinedBitmapInfo,
+                  info.pForegroundBitmapInfo->bytes(resolution), info.pBackgroundBitmapInfo->bytes(resolution),
+                  info.pCombinedBitmapInfo->bytes(resolution));
 }
 
-void textBackground(SystemInfo& info, int res) {
-    DrawTextAtLevel(info, contextOf(*info.pBackgroundBitmapInfo, res), "Background", res);
+void textBackground(SystemInfo& info, Resolution resolution) {
+    DrawTextAtLevel(info, info.pBackgroundBitmapInfo->context(resolution), "Background", numberOf(resolution));
 }
 
-void overlayBackground(SystemInfo& info, int res) {
-    DrawOverlayImage(info, contextOf(*info.pBackgroundBitmapInfo, res), info.sBackgroundOverlay, res);
+void overlayBackground(SystemInfo& info, Resolution resolution) {
+    DrawOverlayImage(info, info.pBackgroundBitmapInfo->context(resolution), info.sBackgroundOverlay,
+                     numberOf(resolution));
 }
 
-void textBackgroundLayer(SystemInfo& info, int res) {
-    DrawTextAtLevel(info, contextOf(*info.pBackgroundBitmapInfo, res), "Background Layer", res);
+void textBackgroundLayer(SystemInfo& info, Resolution resolution) {
+    DrawTextAtLevel(info, info.pBackgroundBitmapInfo->context(resolution), "Background Layer", numberOf(resolution));
 }
 
-void textForeground(SystemInfo& info, int res) {
-    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground", res, whileCurrent(info, res));
+void textForeground(SystemInfo& info, Resolution resolution) {
+    DrawTextAtLevel(info, info.pCombinedBitmapInfo->context(resolution), "Foreground", numberOf(resolution),
+                    whileCurrent(info, resolution));
 }
 
-void overlayForeground(SystemInfo& info, int res) {
-    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sForegroundOverlay, res,
-                     whileCurrent(info, res));
+void overlayForeground(SystemInfo& info, Resolution resolution) {
+    DrawOverlayImage(info, info.pCombinedBitmapInfo->context(resolution), info.sForegroundOverlay,
+                     numberOf(resolution), whileCurrent(info, resolution));
 }
 
-void textForegroundLayer(SystemInfo& info, int res) {
-    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Foreground Layer", res,
-                    whileCurrent(info, res));
+void textForegroundLayer(SystemInfo& info, Resolution resolution) {
+    DrawTextAtLevel(info, info.pCombinedBitmapInfo->context(resolution), "Foreground Layer", numberOf(resolution),
+                    whileCurrent(info, resolution));
 }
 
-void overlayFrame(SystemInfo& info, int res) {
-    DrawOverlayImage(info, contextOf(*info.pCombinedBitmapInfo, res), info.sFrameOverlay, res,
-                     whileCurrent(info, res));
+void overlayFrame(SystemInfo& info, Resolution resolution) {
+    DrawOverlayImage(info, info.pCombinedBitmapInfo->context(resolution), info.sFrameOverlay, numberOf(resolution),
+                     whileCurrent(info, resolution));
 }
 
-void textFrameLayer(SystemInfo& info, int res) {
-    DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Frame Layer", res, whileCurrent(info, res));
+void textFrameLayer(SystemInfo& info, Resolution resolution) {
+    DrawTextAtLevel(info, info.pCombinedBitmapInfo->context(resolution), "Frame Layer", numberOf(resolution),
+                    whileCurrent(info, resolution));
 }
 
 void applyHairPreset(SystemInfo& info) {

@@ -142,10 +142,10 @@ constexpr Stage kFast[] = {
 // clang-format on
 
 /// A stage that gets no memory gives up, and with it this picture.
-void runStage(const Stage& stage, SystemInfo& info, int res) {
+void runStage(const Stage& stage, SystemInfo& info, Resolution resolution) {
     if (!stage.when(info)) return;
     try {
-        stage.run(info, res);
+        stage.run(info, resolution);
     } catch (const std::bad_alloc&) {
         failForMemory(info, stage.name);
     }
@@ -169,8 +169,8 @@ std::span<const Stage> fastStages() {
     return kFast;
 }
 
-RunContext whileCurrent(const SystemInfo& info, int res) {
-    return res == kFullRes ? info.rowsWhileCurrent() : RunContext();
+RunContext whileCurrent(const SystemInfo& info, Resolution resolution) {
+    return resolution == Resolution::full ? info.rowsWhileCurrent() : RunContext();
 }
 
 void failForMemory(SystemInfo& info, const std::string& what) {
@@ -178,15 +178,15 @@ void failForMemory(SystemInfo& info, const std::string& what) {
     info.pictures.fail("there is not enough memory for the " + what);
 }
 
-void runStages(std::span<const Stage> stages, SystemInfo& info, int res) {
+void runStages(std::span<const Stage> stages, SystemInfo& info, Resolution resolution) {
     for (const Stage& stage : stages)
-        runStage(stage, info, res);
+        runStage(stage, info, resolution);
 }
 
-void runStagesWhileCurrent(std::span<const Stage> stages, SystemInfo& info, int res) {
+void runStagesWhileCurrent(std::span<const Stage> stages, SystemInfo& info, Resolution resolution) {
     for (const Stage& stage : stages) {
         if (info.isStale()) return;
-        runStage(stage, info, res);
+        runStage(stage, info, resolution);
     }
 }
 

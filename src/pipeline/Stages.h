@@ -8,14 +8,11 @@
 
 namespace tavrin {
 
-/// Resolution argument of the stages.
-inline constexpr int kLowRes = 0, kFullRes = 1;
-
 /// One step of a pass: all that its author must know stands in its row.
 struct Stage {
     const char* name;  ///< as it goes on after "there is not enough memory for the"
     bool (*when)(const SystemInfo&);
-    void (*run)(SystemInfo&, int res);
+    void (*run)(SystemInfo&, Resolution resolution);
     /// Settings that it reads, with blanks between, by their names in SettingNames.h; "text." is all of every text. A
     /// setting that stages of `finish` alone name does not key again. One that nobody names does: that costs time,
     /// never a wrong picture. So a stage of `key` must name what a stage of `finish` reads too, and may leave out the
@@ -43,16 +40,16 @@ StageOrder fullStages();
 std::span<const Stage> fastStages();
 
 /// What a stage listens to: a preview always ends, a full picture is given up for a newer request.
-RunContext whileCurrent(const SystemInfo& info, int res);
+RunContext whileCurrent(const SystemInfo& info, Resolution resolution);
 
 /// Memory was refused: "Memory not allocated!" on the error stream, and the pass under work fails, since there is no
 /// memory for `what`.
 void failForMemory(SystemInfo& info, const std::string& what);
 
 /// Runs the stages that are due, in order. One that gets no memory fails the pass; those after it run all the same.
-void runStages(std::span<const Stage> stages, SystemInfo& info, int res);
+void runStages(std::span<const Stage> stages, SystemInfo& info, Resolution resolution);
 /// As above, but no further stage is begun when the state is stale: for pictures that the next pass makes anew.
-void runStagesWhileCurrent(std::span<const Stage> stages, SystemInfo& info, int res);
+void runStagesWhileCurrent(std::span<const Stage> stages, SystemInfo& info, Resolution resolution);
 
 /// The preset hair colours of the simple key panel win over what was detected.
 void applyHairPreset(SystemInfo& info);

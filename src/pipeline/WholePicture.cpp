@@ -13,11 +13,15 @@ namespace {
 
 constexpr std::uint8_t kEmptyForeground[3] = {35, 135, 80};
 
-void freeze(const std::uint8_t* combined, std::uint8_t* foreground, std::uint8_t* background, int width, int height) {
+void freeze(const SystemInfo& info, Resolution resolution) {
+    const ConstPixelView picture = info.pixels(*info.pCombinedBitmapInfo, resolution);
+    const std::uint8_t* combined = picture.bytes;
+    std::uint8_t* foreground = info.pForegroundBitmapInfo->bytes(resolution);
+    std::uint8_t* background = info.pBackgroundBitmapInfo->bytes(resolution);
     if (!combined || !foreground || !background) return;
-    runRows({}, height, 32, [&](int y) {
-        const std::size_t last = pixelOffset(width, 0, y + 1);
-        for (std::size_t i = pixelOffset(width, 0, y); i < last; i += kPixelBytes) {
+    runRows({}, picture.height, 32, [&](int y) {
+        const std::size_t last = pixelOffset(picture.width, 0, y + 1);
+        for (std::size_t i = pixelOffset(picture.width, 0, y); i < last; i += kPixelBytes) {
             for (std::size_t c = 0; c < 3; ++c) {
                 background[i + c] = combined[i + c];
                 foreground[i + c] = kEmptyForeground[c];
@@ -25,10 +29,6 @@ void freeze(const std::uint8_t* combined, std::uint8_t* foreground, std::uint8_t
         }
     });
 }
-
-}  // namespace
-
-namespace {
 
 void loadAndCombine(SystemInfo& info) {
     BitmapInfo& foreground = *info.pForegroundBitmapInfo;
@@ -38,10 +38,10 @@ void loadAndCombine(SystemInfo& info) {
     ChangeBitmapScale(info, foreground);
     ChangeOrgBitmap(info, background, std::move(read.background));
     ChangeBitmapScale(info, background);
-    runStages(backgroundStages(), info, kLowRes);
+    runStages(backgroundStages(), info, Resolution::preview);
     ComputeBaseGreen(info, 1, 0);
-    runStages(backgroundStages(), info, kFullRes);
-    runStages(fastStages(), info, kFullRes);
+    runStages(backgroundStages(), info, Resolution::full);
+    runStages(fastStages(), info, Resolution::full);
 }
 
 }  // namespace
@@ -56,19 +56,15 @@ bool loadAndCombineFiles(SystemInfo& info) {
     } catch (const std::bad_alloc&) {
         failForMemory(info, "picture");
     }
-    info.pictures.finish(kFullRes);
+    info.pictures.finish(Resolution::full);
     const std::string failure = info.pictures.failure();
     if (!failure.empty()) info.alert("The picture cannot be made.", failure);
-    return info.whyNotFinished(kFullRes).empty();
+    return info.whyNotFinished(Resolution::full).empty();
 }
 
 void FreezeToBackground(SystemInfo& info) {
-    const BitmapInfo& combined = *info.pCombinedBitmapInfo;
-    const BitmapInfo& fg = *info.pForegroundBitmapInfo;
-    const BitmapInfo& bg = *info.pBackgroundBitmapInfo;
-    freeze(combined.pBitmapDataLowRes, fg.pBitmapDataLowRes, bg.pBitmapDataLowRes, info.iOutputPixelLowResWidth,
-           info.iOutputPixelLowResHeight);
-    freeze(combined.pBitmapData, fg.pBitmapData, bg.pBitmapData, info.iOutputPixelWidth, info.iOutputPixelHeight);
+    freeze(info, Resolution::preview);
+    freeze(info, Resolution::full);
     info.pCombinedBitmapInfo->bHaveBaseGreen = false;
     info.bBackgroundFrozen = true;
 }

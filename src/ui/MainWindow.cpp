@@ -15,6 +15,8 @@
 #include <QToolBar>
 
 #include "core/files/NameText.h"
+#include "core/files/Places.h"
+#include "core/image/PictureTypes.h"
 #include "core/state/NamedFiles.h"
 #include "formats/ImageState.h"
 #include "pipeline/SaveImage.h"
@@ -28,14 +30,36 @@ namespace {
 
 constexpr const char* kRecentKey = "recentFiles";
 
+QString windowFile() {
+    return textOfName(Places::current().windowFile());
+}
+
 bool isStateFile(const QString& path) {
     return QFileInfo(path).suffix().compare("qlx", Qt::CaseInsensitive) == 0;
 }
 
+QStringList patternsOf(const PictureType& type) {
+    QStringList patterns;
+    for (const std::string& extension : type.extensions)
+        patterns.append("*." + QString::fromStdString(extension));
+    return patterns;
+}
+
+/// What a dialog opens: every type that is read.
 QString pictureFilter() {
-    return MainWindow::tr(
-        "Pictures (*.jpg *.jpeg *.png *.tif *.tiff *.gif *.bmp *.psd *.webp *.heic *.heif "
-        "*.nef *.cr2 *.cr3 *.arw *.dng *.raf *.orf *.rw2)");
+    QStringList patterns;
+    for (const PictureType& type : pictureTypes())
+        patterns += patternsOf(type);
+    return MainWindow::tr("Pictures (%1)").arg(patterns.join(' '));
+}
+
+/// What a dialog saves: each type that is written.
+QString saveFilter() {
+    QStringList filters;
+    for (const PictureType& type : pictureTypes()) {
+        if (type.fileType != 0) filters.append(QString("%1 (%2)").arg(type.name, patternsOf(type).join(' ')));
+    }
+    return filters.join(";;");
 }
 
 QStringList localFiles(const QMimeData* data) {
@@ -125,7 +149,7 @@ void MainWindow::chooseSize(int index) {
 void MainWindow::remember(const QString& path) {
     constexpr int kRecentFiles = 10;
     if (!path.isValidUtf16()) return;  // the name is no text, and settings hold nothing else
-    QSettings settings;
+    QSettings settings(windowFile(), QSettings::IniFormat);
     QStringList files = settings.value(kRecentKey).toStringList();
     files.removeAll(path);
     files.prepend(path);
@@ -134,7 +158,7 @@ void MainWindow::remember(const QString& path) {
 
 void MainWindow::refillRecentFiles() {
     recentMenu_->clear();
-    for (const QString& path : QSettings().value(kRecentKey).toStringList()) {
+    for (const QString& path : QSettings(windowFile(), QSettings::IniFormat).value(kRecentKey).toStringList()) {
         recentMenu_->addAction(QFileInfo(path).fileName(), this, [this, path] { openFile(path); })->setToolTip(path);
     }
     if (recentMenu_->isEmpty()) recentMenu_->addAction(tr("Nothing yet"))->setEnabled(false);
@@ -239,8 +263,7 @@ bool MainWindow::loopRests() const {
 void MainWindow::askForSave() {
     const QFileInfo source(textOfName(info_.pForegroundBitmapInfo->sSourceImageFullPath));
     const QString suggestion = source.completeBaseName() + "-combined.jpg";
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), suggestion,
-                                                      tr("JPEG (*.jpg *.jpeg);;PNG (*.png);;TIFF (*.tif *.tiff)"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), suggestion, saveFilter());
     if (!path.isEmpty()) saveTo(path);
 }
 

@@ -157,7 +157,7 @@ TEST_F(NamedFilesTest, ThePictureIsMadeWithoutTheFileAndThatIsToldOnce) {
             ASSERT_EQ(alerts.all.size(), 1u);
             EXPECT_TRUE(alerts.all[0].starts_with("Cound not load file: " + std::string(name) +
                                                   ", check your file permissions|"));
-            EXPECT_EQ(info->whyNotFinished(1), "");
+            EXPECT_EQ(info->whyNotFinished(Resolution::full), "");
             EXPECT_TRUE(pixelsOf(*info) == pixelsOf(*without));
         }
     }

@@ -37,7 +37,7 @@ TEST_F(LabelsTest, StandAtTheirPlaces) {
         {"Bottom Right", -1, 0.96875, -1, 0.9583}, {"ABSOLUTE", 0.25, -1, -1, 0.5},
     };
     for (const int res : {0, 1}) {
-        const PassGeometry size = page_.info->geometry(res);
+        const PassGeometry size = page_.info->geometry(fullIf(res == 1));
         const double bearing = 0.12 * size.dpi;  // clear space beside the letter
         for (const auto& place : places) {
             const QRect box = draw("H", place.location, res);

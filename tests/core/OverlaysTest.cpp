@@ -40,7 +40,7 @@ TEST_F(OverlaysTest, AreStretchedOverTheWholePictureAndShowWhatLiesBelow) {
     const std::string path = save("o.png", 10, 40, QColor(255, 0, 0), QColor(0, 0, 255, 0));
     for (const int res : {0, 1}) {
         DrawOverlayImage(*page_.info, page_.context(res), path, res);
-        const PassGeometry size = page_.info->geometry(res);
+        const PassGeometry size = page_.info->geometry(fullIf(res == 1));
         EXPECT_EQ(page_.color(res, 0, 0), QColor(255, 0, 0));
         EXPECT_EQ(page_.color(res, size.width / 5, size.height - 1), QColor(255, 0, 0));
         EXPECT_EQ(page_.color(res, size.width - 1, 0), QColor(120, 120, 120));

@@ -9,10 +9,6 @@ namespace {
 
 using namespace test;
 
-struct Box {
-    int xMax = 0, xMin = 0, yMax = 0, yMin = 0;
-};
-
 // A mask drawn with letters: '#' is outline.
 struct Mask {
     Mask(std::vector<std::string> rows)
@@ -22,27 +18,25 @@ struct Mask {
                 bytes.insert(bytes.end(), {0, 0, static_cast<std::uint8_t>(c == '#' ? 255 : 0), 255});
         }
     }
-    bool check(int y, int x, Box& box) {
-        return CheckForStar(y, x, width, height, 4 * width, bytes.data(), box.xMax, box.xMin, box.yMax, box.yMin);
-    }
+    std::optional<LightBox> check(int y, int x) { return CheckForStar(y, x, {bytes.data(), width, height}); }
     int width, height;
     Bytes bytes;
 };
 
 TEST(CheckForStar, OnlyAnOutlineThatClosesIsALight) {
     Mask ring({"..##..", ".#..#.", "#....#", "#....#", ".#..#.", "..##.."});
-    Box box;
-    EXPECT_TRUE(ring.check(0, 2, box));
-    EXPECT_EQ((std::vector{box.xMin, box.xMax, box.yMin, box.yMax}), (std::vector{0, 5, 0, 5}));
+    auto box = ring.check(0, 2);
+    ASSERT_TRUE(box);
+    EXPECT_EQ((std::vector{box->xMin, box->xMax, box->yMin, box->yMax}), (std::vector{0, 5, 0, 5}));
     EXPECT_EQ(ring.bytes[pixelOffset(6, 2, 0)], 255);  // seen pixels are red, and not followed twice
     EXPECT_EQ(ring.bytes[pixelOffset(6, 2, 0) + 2], 0);
-    EXPECT_TRUE(ring.check(3, 3, box));
-    EXPECT_EQ(box.xMax, box.xMin);
+    box = ring.check(3, 3);
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->xMax, box->xMin);
 
     Mask line({"#.....", ".#....", "..####"});
-    EXPECT_FALSE(line.check(0, 0, box));
-    EXPECT_EQ(box.xMax, 5);
-    EXPECT_EQ(box.yMax, 2);
+    EXPECT_FALSE(line.check(0, 0));
+    EXPECT_EQ(line.bytes[pixelOffset(6, 5, 2)], 255);  // followed to its end all the same
 }
 
 constexpr int kSide = 121;

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "key/KeyScene.h"
-#include "key/pixel/Surroundings.h"
+#include "key/pixel/NeighbourSums.h"
 
 namespace tavrin {
 namespace {
@@ -23,12 +23,12 @@ FinishConstants plainFinish() {
 
 TEST(Finish, WhiteIsPulledToGreyByBothRules) {
     KeyScene scene(1, 1);
-    FinishConstants finish = makeCombineParams(scene.info, 1).finish;
+    FinishConstants finish = makeCombineParams(scene.info, Resolution::full).finish;
     expectNear(finishForeground(finish, {200.0, 205.0, 198.0}), 203.9, 205.0, 203.8);
     // Green must be level for the wide rule; this colour is too far for the near one.
     expectNear(finishForeground(finish, {200.0, 170.0, 180.0}), 200.0, 170.0, 180.0);
     scene.sliders().sliderWhiteAdjust = 0;
-    finish = makeCombineParams(scene.info, 1).finish;
+    finish = makeCombineParams(scene.info, Resolution::full).finish;
     expectNear(finishForeground(finish, {200.0, 205.0, 198.0}), 200.0, 205.0, 198.0, 0.0);
     expectNear(finishForeground(finish, {0.0, 0.0, 0.0}), 0.0, 0.0, 0.0, 0.0);
 }
@@ -124,7 +124,7 @@ TEST(Tone, CoolingLeavesTheBackgroundsRedUnscaled) {
     expectNear(black, 0.0, 0.0, 0.0, 1e-9);
 }
 
-TEST(Tone, SharpenComparesWithTheSurroundingsInThePicture) {
+TEST(Tone, SharpenComparesWithTheNeighboursInThePicture) {
     std::vector<Pixel> pixels(36, Pixel{255, 255, 255, 255});
     for (int y = 0; y < 3; ++y) {
         for (int x = 0; x < 3; ++x)
@@ -145,15 +145,15 @@ TEST(Tone, SharpenComparesWithTheSurroundingsInThePicture) {
     EXPECT_GT(green.g, green.r);
 }
 
-TEST(Tone, SurroundingsAreSumsOverTheBlockWithoutItsCentre) {
+TEST(Tone, NeighbourSumsAreSumsOverTheBlockWithoutItsCentre) {
     for (const auto& [width, height] : {std::pair{1, 1}, {2, 7}, {5, 3}, {150, 6}}) {
         std::vector<Pixel> pixels(static_cast<std::size_t>(width * height));
         test::fillWithNoise(pixels, 4);
         const auto at = [&](int x, int y) { return pixels[static_cast<std::size_t>(y * width + x)]; };
         const int x = width / 3, count = std::min(width - x, 100);
         for (int y = 0; y < height; ++y) {
-            Surroundings around;
-            sumSurroundings(pixels.front().data(), width, height, x, y, count, around);
+            NeighbourSums around;
+            sumNeighbours(pixels.front().data(), width, height, x, y, count, around);
             for (int i = 0; i < count; ++i) {
                 int sums[4] = {};
                 for (int row = std::max(y - 2, 0); row <= std::min(y + 2, height - 1); ++row) {

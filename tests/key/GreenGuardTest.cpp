@@ -11,9 +11,9 @@ using namespace guard;
 
 constexpr int kNoBand = -200;  // a negative radius draws none
 
-Bytes bitmapOf(SystemInfo& info, const Canvas& canvas, bool hiRes = true) {
+Bytes bitmapOf(SystemInfo& info, const Canvas& canvas, Resolution resolution = Resolution::full) {
     GreenGuard guard;
-    EXPECT_TRUE(guard.build(info, canvas.bytes.data(), canvas.width, canvas.height, hiRes));
+    EXPECT_TRUE(guard.build(info, {canvas.bytes.data(), canvas.width, canvas.height}, resolution));
     return guard.bitmap();
 }
 
@@ -174,7 +174,7 @@ TEST(GreenGuard, ShirtColorIsMeasuredAndFilledButNotInTheOuterBand) {
     info->iSliderBackgroundGreen = 15;
     info->iSliderShirtProtection = 20;
     GreenGuard guard;
-    ASSERT_TRUE(guard.build(*info, canvas.bytes.data(), 40, 40, true));
+    ASSERT_TRUE(guard.build(*info, {canvas.bytes.data(), 40, 40}, Resolution::full));
     // 252 pixels of shirt and 4 of screen inside the outline.
     EXPECT_DOUBLE_EQ(guard.shirtColor().g, (252 * 120 + 4 * 160) / 256.0);
     EXPECT_EQ(rowOf(guard.bitmap(), 40, 19), "........EPPPSSSSSSSggSSSSSSSPPPE........");
@@ -194,7 +194,7 @@ TEST(GreenGuard, NoGreenClothMeansNoProtection) {
     canvas.fill(5, 5, 15, 15, kSkinTone);
     auto info = guardState(canvas, 2, 0);
     GreenGuard guard;
-    ASSERT_TRUE(guard.build(*info, canvas.bytes.data(), 20, 20, true));
+    ASSERT_TRUE(guard.build(*info, {canvas.bytes.data(), 20, 20}, Resolution::full));
     EXPECT_EQ(guard.shirtColor().g, 0.0);
     EXPECT_EQ(std::count(guard.bitmap().begin(), guard.bitmap().end(), kShirt), 0);
 }
@@ -204,8 +204,8 @@ TEST(GreenGuard, StaleRunStopsOrLeavesTheFillsOut) {
     auto info = guardState(canvas, 1, 0);
     info->iNewThreadCount = 2;
     GreenGuard guard;
-    EXPECT_FALSE(guard.build(*info, canvas.bytes.data(), 60, 50, true));
-    const Bytes preview = bitmapOf(*info, canvas, false);
+    EXPECT_FALSE(guard.build(*info, {canvas.bytes.data(), 60, 50}, Resolution::full));
+    const Bytes preview = bitmapOf(*info, canvas, Resolution::preview);
     EXPECT_EQ(std::count(preview.begin(), preview.end(), kScreen), 0);
     EXPECT_GT(std::count(preview.begin(), preview.end(), kScreenColor), 0);
 }
@@ -219,11 +219,11 @@ TEST(GreenGuard, AnyFieldSizeAndThreadCountIsSafe) {
                 auto info = guardState(canvas, mode, value);
                 info->iSliderBackgroundGreen = value;
                 info->iSliderShirtProtection = value;
-                EXPECT_TRUE(guard.build(*info, canvas.bytes.data(), w, h, true));
+                EXPECT_TRUE(guard.build(*info, {canvas.bytes.data(), w, h}, Resolution::full));
             }
         }
     }
-    EXPECT_FALSE(guard.build(*guardState(person(4, 4), 1, 0), nullptr, 4, 4, true));
+    EXPECT_FALSE(guard.build(*guardState(person(4, 4), 1, 0), {nullptr, 4, 4}, Resolution::full));
     const Canvas canvas = person(211, 167);
     Bytes results[2];
     withOneAndManyThreads([&](int run) { results[run] = bitmapOf(*guardState(canvas, 2, 3), canvas); });

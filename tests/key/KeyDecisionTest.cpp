@@ -178,7 +178,7 @@ TEST(KeyDecision, TheForegroundAsItIsKeepsItsAlpha) {
     scene.info.bShowBright = true;
     EXPECT_NEAR(scene.keyed(0, 0).color.g, 200.0, 0.5);
     scene.at(scene.foreground, 1, 0) = {200, 200, 200, 255};
-    CombineParams params = makeCombineParams(scene.info, 1);
+    CombineParams params = makeCombineParams(scene.info, Resolution::full);
     ASSERT_EQ(findBrightGrey(params.key, scene.foreground.front().data()), 1);
     params.key.firstBrightGrey = 1;
     const auto red = [&](int x) {

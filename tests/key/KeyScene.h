@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "key/Combine.h"
-#include "key/pixel/OnePixel.h"
+#include "key/pixel/PixelSteps.h"
 #include "key/screen/BaseGreen.h"
 
 namespace tavrin::test {
@@ -41,7 +41,7 @@ struct KeyScene {
 
     /// The key's answer for pixel (x, y).
     KeyedPixel keyed(int x = 0, int y = 0) {
-        const CombineParams params = makeCombineParams(info, 1);
+        const CombineParams params = makeCombineParams(info, Resolution::full);
         return decidePixel(params.key, at(foreground, x, y).data(), x, y);
     }
 

@@ -14,19 +14,19 @@ using test::KeyScene;
 using test::Pixel;
 
 // Runs the rows of the scene by the vectors of one target, or one pixel at a time, and returns what is written.
-using RowForm = void (*)(const CombineParams&, const KeyJoins&, int);
+using RowForm = void (*)(const CombineParams&, const KeyOverrides&, int);
 
 std::vector<Pixel> written(const KeyScene& original, RowForm form) {
     KeyScene scene(original.width, original.height);
     scene.foreground = original.foreground;
     scene.background = original.background;
-    CombineParams params = makeCombineParams(original.info, 1);
+    CombineParams params = makeCombineParams(original.info, Resolution::full);
     params.foreground = scene.foreground.front().data();
     params.background = scene.background.front().data();
     params.combined = scene.combined.front().data();
-    const KeyJoins joins(original.info, params, true);
+    const KeyOverrides overrides(original.info, params, Resolution::full);
     for (int y = 0; y < scene.height; ++y)
-        form(params, joins, y);
+        form(params, overrides, y);
     scene.combined.insert(scene.combined.end(), scene.background.begin(), scene.background.end());
     return scene.combined;
 }

@@ -197,7 +197,7 @@ TEST(Lighting, EveryTargetsGlowIsWhatTheKeyAtOnePixelFinds) {
             set(scene.info);
             scene.setLight(0, 60);  // 500
             scene.place(0, 0, 0);   // no blur
-            const SpillKey key(scene.info, SpillLayers::of(scene.info, 1));
+            const SpillKey key(scene.info, SpillLayers::of(scene.info, Resolution::full));
             Map plain;
             for (int y = 0; y < scene.height; ++y) {
                 for (int x = 0; x < width; ++x) {
@@ -221,7 +221,7 @@ TEST(Lighting, TheGlowsFirstPixelIsTheFirstInScanOrder) {
     LightScene scene(3, 60);
     scene.sliders().sliderWhiteBalance = 160;
     scene.place(0, 0, 0);
-    const SpillKey key(scene.info, SpillLayers::of(scene.info, 1));
+    const SpillKey key(scene.info, SpillLayers::of(scene.info, Resolution::full));
     test::Pixel p{0, 0, 0, 255};
     const auto solid = [&](SpillCall call) {
         return key.amountAt(0, 0, {double(p[0]), double(p[1]), double(p[2])}, call) > 0.9;

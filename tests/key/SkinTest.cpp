@@ -2,6 +2,7 @@
 
 #include "core/RandomSource.h"
 #include "key/skin/Skin.h"
+#include "key/skin/SoftenMac.h"
 #include "support/Portrait.h"
 
 namespace tavrin {

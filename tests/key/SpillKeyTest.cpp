@@ -20,7 +20,7 @@ struct SpillScene : KeyScene {
         info.iBaseGreenArray.fill(200.0);
         info.iBaseBlueArray.fill(60.0);
     }
-    SpillKey key() { return SpillKey(info, SpillLayers::of(info, 1)); }
+    SpillKey key() { return SpillKey(info, SpillLayers::of(info, Resolution::full)); }
     SpilledPixel spill(Pixel p, int x = 0, int y = 0) { return key().Spill(x, y, p[0], p[1], p[2]); }
     Pixel adjustedFront(Pixel p) {
         at(foreground, 0, 0) = p;

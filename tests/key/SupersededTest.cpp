@@ -17,7 +17,7 @@ TEST(Superseded, StagesReturnSoonAfterANewRequest) {
     expectStopsEarly(*info, [&] { ComputeHairColor(*info); });
     info->iGreenProtectMode = 2;
     GreenGuard guard;
-    expectStopsEarly(*info, [&] { guard.build(*info, canvas.bytes.data(), 1200, 900, true); });
+    expectStopsEarly(*info, [&] { guard.build(*info, {canvas.bytes.data(), 1200, 900}, Resolution::full); });
 }
 
 }  // namespace

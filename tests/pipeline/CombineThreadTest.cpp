@@ -296,7 +296,7 @@ TEST_F(CombineThreadTest, EveryStageOfTheFullPictureGivesUpForANewerRequest) {
                 for (const Stage& stage : stages) {
                     if (!stage.when(*info_)) continue;
                     info_->iCurrentThreadCount = info_->iNewThreadCount - 1;
-                    stage.run(*info_, kFullRes);
+                    stage.run(*info_, Resolution::full);
                     ASSERT_EQ(fullBytes(*info_), before) << group.name << ' ' << look.name << ": " << stage.name;
                 }
             }
@@ -343,7 +343,7 @@ TEST_F(CombineThreadTest, AMissingSourceIsToldAndTheOldPictureStays) {
 TEST_F(CombineThreadTest, APassThatCannotBeMadeLeavesNothingToSaveAndIsToldOnce) {
     CombineThread loop(*info_);
     loop.runUntilIdle();
-    EXPECT_EQ(info_->whyNotFinished(0) + info_->whyNotFinished(1), "");
+    EXPECT_EQ(info_->whyNotFinished(Resolution::preview) + info_->whyNotFinished(Resolution::full), "");
     const auto pass = [&] {
         info_->StartUpdate();
         loop.runUntilIdle();
@@ -351,8 +351,8 @@ TEST_F(CombineThreadTest, APassThatCannotBeMadeLeavesNothingToSaveAndIsToldOnce)
     const int fulls = view_.fulls_;
     info_->pCombinedBitmapInfo->takeFullPixels();  // as where memory is refused
     pass();
-    EXPECT_EQ(info_->whyNotFinished(1), "there is not enough memory for the key");
-    EXPECT_EQ(info_->whyNotFinished(0), info_->whyNotFinished(1));
+    EXPECT_EQ(info_->whyNotFinished(Resolution::full), "there is not enough memory for the key");
+    EXPECT_EQ(info_->whyNotFinished(Resolution::preview), info_->whyNotFinished(Resolution::full));
     EXPECT_EQ(view_.lastAlert, "The picture cannot be made.");
     EXPECT_EQ(view_.fulls_, fulls);
     view_.lastAlert = "";
@@ -364,15 +364,15 @@ TEST_F(CombineThreadTest, APassThatCannotBeMadeLeavesNothingToSaveAndIsToldOnce)
         info_->iSelecteImageSize = selected;
         info_->bChangeImageSize = selected != size || info_->bChangeImageSize;
         pass();
-        EXPECT_EQ(info_->whyNotFinished(1).empty(), selected == size);
+        EXPECT_EQ(info_->whyNotFinished(Resolution::full).empty(), selected == size);
         pass();
-        EXPECT_EQ(info_->whyNotFinished(1).empty(), selected == size);
+        EXPECT_EQ(info_->whyNotFinished(Resolution::full).empty(), selected == size);
     }
     EXPECT_EQ(view_.fulls_, fulls + 2);
     info_->bSkipHiRes = true;
     pass();
-    EXPECT_EQ(info_->whyNotFinished(0), "");
-    EXPECT_NE(info_->whyNotFinished(1), "");
+    EXPECT_EQ(info_->whyNotFinished(Resolution::preview), "");
+    EXPECT_NE(info_->whyNotFinished(Resolution::full), "");
 }
 
 // For the thread sanitizer above all: settings change from another thread while passes run.

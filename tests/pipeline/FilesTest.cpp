@@ -61,7 +61,7 @@ TEST(SaveImage, WritesWhatTheBufferHoldsWithItsResolution) {
     }
     const std::string path = folder.file("out.png");
     EXPECT_FALSE(saveImageToDisk(*info, path, kPngFile, 1)) << "nobody said that the picture is finished";
-    info->pictures.finish(1);
+    info->pictures.finish(Resolution::full);
     ASSERT_TRUE(saveImageToDisk(*info, path, kPngFile, 1));
     const QImage back = QImage(QString::fromStdString(path)).convertToFormat(QImage::Format_RGBA8888);
     ASSERT_EQ(back.size(), QSize(100, 140));
@@ -72,7 +72,7 @@ TEST(SaveImage, WritesWhatTheBufferHoldsWithItsResolution) {
 TEST(SaveImage, RefusesUnknownTypesAndMissingFoldersAndWritesNothing) {
     test::TempFolder folder;
     const auto info = test::stateForOutput(20, 20);
-    info->pictures.finish(1);
+    info->pictures.finish(Resolution::full);
     SystemInfo empty;
     for (const int type : {0, 4, -1})
         EXPECT_FALSE(saveImageToDisk(*info, folder.file("a.jpg"), type, 1));

@@ -71,7 +71,7 @@ struct Side {
 using Bytes = std::vector<std::uint8_t>;
 
 Bytes bytesOf(const SystemInfo& info, const BitmapInfo& record) {
-    const PassGeometry low = info.geometry(0), full = info.geometry(1);
+    const PassGeometry low = info.geometry(Resolution::preview), full = info.geometry(Resolution::full);
     Bytes bytes(record.pBitmapData, record.pBitmapData + pixelBytes(full.width, full.height));
     bytes.insert(bytes.end(), record.pBitmapDataLowRes, record.pBitmapDataLowRes + pixelBytes(low.width, low.height));
     return bytes;

@@ -32,7 +32,7 @@ class TextStagesTest : public testing::Test {
         item.sLevel = level;
     }
     QColor at(int res, double x, double y) const {
-        const PassGeometry g = info_->geometry(res);
+        const PassGeometry g = info_->geometry(fullIf(res == 1));
         const BitmapInfo& combined = *info_->pCombinedBitmapInfo;
         const std::uint8_t* p = (res == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes) +
                                 pixelOffset(g.width, static_cast<int>(x * g.width), static_cast<int>(y * g.height));

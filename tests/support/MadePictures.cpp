@@ -1,7 +1,10 @@
 #include "support/MadePictures.h"
 
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
+
+#include "core/image/ImageReader.h"
 
 namespace tavrin::test {
 
@@ -37,6 +40,13 @@ void writeBytes(const std::string& path, const std::vector<std::uint8_t>& bytes)
 
 void writeText(const std::string& path, const std::string& text) {
     writeBytes(path, {text.begin(), text.end()});
+}
+
+void expectRefused(const std::string& path) {
+    const ReadPicture picture = readPicture(path);
+    EXPECT_NE(picture.error, "") << path;
+    EXPECT_EQ(picture.error.find('\n'), std::string::npos) << picture.error;
+    EXPECT_TRUE(picture.pixels.isNull()) << path;
 }
 
 }  // namespace tavrin::test

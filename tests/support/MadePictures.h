@@ -27,4 +27,7 @@ std::vector<std::uint8_t> readBytes(const std::string& path);
 void writeBytes(const std::string& path, const std::vector<std::uint8_t>& bytes);
 void writeText(const std::string& path, const std::string& text);
 
+/// The file is refused with one line, and without pixels.
+void expectRefused(const std::string& path);
+
 }  // namespace tavrin::test

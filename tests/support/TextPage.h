@@ -44,20 +44,20 @@ class TextPage {
     const std::uint8_t* pixel(int res, int x, int y) const {
         const BitmapInfo& combined = *info->pCombinedBitmapInfo;
         return (res == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes) +
-               pixelOffset(info->geometry(res).width, x, y);
+               pixelOffset(info->geometry(fullIf(res == 1)).width, x, y);
     }
     QColor color(int res, int x, int y) const {
         const std::uint8_t* p = pixel(res, x, y);
         return {p[0], p[1], p[2]};
     }
     Bytes bytes(int res) const {
-        const PassGeometry g = info->geometry(res);
+        const PassGeometry g = info->geometry(fullIf(res == 1));
         return {pixel(res, 0, 0), pixel(res, 0, 0) + pixelBytes(g.width, g.height)};
     }
 
     /// The pixels that are clearly no longer the ground's.
     QRect drawn(int res) const {
-        const PassGeometry g = info->geometry(res);
+        const PassGeometry g = info->geometry(fullIf(res == 1));
         int left = g.width, top = g.height, right = -1, bottom = -1;
         for (int y = 0; y < g.height; ++y) {
             for (int x = 0; x < g.width; ++x) {

@@ -5,11 +5,13 @@
 #include <QColorSpace>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QStatusBar>
 #include <QTest>
 
+#include "core/files/Places.h"
 #include "formats/ImageState.h"
 #include "session/OutputSizes.h"
 #include "support/Pictures.h"
@@ -208,6 +210,24 @@ TEST_F(MainWindowTest, RowsOfAnEditChangeThePictureThatIsShown) {
     rows.rowCount = rows.height;
     bridge.repaint(rows);
     EXPECT_EQ(bridge.takePublished().size(), 2u) << "an edit replaces nothing that comes before it";
+}
+
+TEST_F(MainWindowTest, OpenedFilesAreRememberedAmongTheProgramsOwnFiles) {
+    Places& places = Places::current();
+    const std::string shared = places.sharedFolder();
+    places.setSharedFolder(folder_.file("shared"));
+    window_->openForeground(QString::fromStdString(background_));
+    EXPECT_TRUE(std::filesystem::exists(folder_.file("shared/QLXXML/Window.ini")));
+    window_.reset();
+    window_ = std::make_unique<MainWindow>(*info_);
+    QString newest;
+    for (QMenu* menu : window_->findChildren<QMenu*>()) {
+        if (menu->title() != "Open &Recent") continue;
+        emit menu->aboutToShow();
+        newest = menu->actions().front()->text();
+    }
+    EXPECT_EQ(newest, "bg.png");
+    places.setSharedFolder(shared);
 }
 
 TEST_F(MainWindowTest, AFileWhoseNameIsNoTextCanBeDropped) {

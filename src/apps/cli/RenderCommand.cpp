@@ -154,7 +154,7 @@ int render(const RenderOptions& options) {
     removeAbandonedParts({options.out, options.alpha});
     compute(*info, options);
     const int res = options.preview ? 0 : 1;
-    if (const std::string problem = info->whyNotFinished(res); !problem.empty()) {
+    if (const std::string problem = info->whyNotFinished(fullIf(res == 1)); !problem.empty()) {
         if (!console.hadAlert()) complain(problem + ".");
         return kFailed;
     }

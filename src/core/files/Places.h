@@ -34,6 +34,7 @@ class Places {
     std::string customImageSizeFile() const { return xmlFolder() + "CustomImageSize.xml"; }
     std::string printerFile() const { return xmlFolder() + "Printer.xml"; }
     std::string customPrinterFile() const { return xmlFolder() + "PrinterCustom.xml"; }
+    std::string windowFile() const { return xmlFolder() + "Window.ini"; }  ///< what the window remembers for itself
 
     void setSharedFolder(const std::string& folder);
     void setPicturesFolder(const std::string& folder);

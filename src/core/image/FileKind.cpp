@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cerrno>
 #include <cmath>
 #include <cstdint>
@@ -11,6 +10,8 @@
 #include <fstream>
 #include <string_view>
 #include <vector>
+
+#include "core/image/PictureTypes.h"
 
 namespace fs = std::filesystem;
 
@@ -37,13 +38,8 @@ std::uint32_t number(const Bytes& head, std::size_t offset, std::size_t count, b
 }
 
 bool hasRawExtension(const std::string& path) {
-    static constexpr std::array<std::string_view, 22> raw = {
-        ".3fr", ".arw", ".cr2", ".dcr", ".dng", ".erf", ".fff", ".iiq", ".k25", ".kdc", ".mef",
-        ".mos", ".nef", ".nrw", ".orf", ".pef", ".raw", ".rw2", ".rwl", ".sr2", ".srf", ".srw"};
-    std::string extension = fs::path(path).extension().string();
-    for (char& c : extension)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return std::find(raw.begin(), raw.end(), extension) != raw.end();
+    const PictureType* type = typeOfName(path);
+    return type && type->kind == FileKind::raw;
 }
 
 // A digital negative says so in its first directory (tag DNGVersion).
@@ -149,9 +145,8 @@ std::string sizeError(double width, double height) {
 }
 
 const char* kindName(FileKind kind) {
-    static constexpr const char* names[] = {"unknown", "JPEG", "PNG", "TIFF", "GIF",
-                                            "WebP",    "HEIF", "BMP", "PSD",  "camera raw"};
-    return names[static_cast<int>(kind)];
+    const auto type = std::ranges::find(pictureTypes(), kind, &PictureType::kind);
+    return type == pictureTypes().end() ? "unknown" : type->name;
 }
 
 }  // namespace tavrin

@@ -56,7 +56,7 @@ std::string write(const std::string& path, const WriteRequest& request) {
 std::string writePicture(const std::string& path, const WriteRequest& request) {
     const std::string wrong = checkRequest(request);
     if (!wrong.empty()) return wrong;
-    if (!startVips()) return "the image library cannot be started";
+    if (const std::string problem = startVips(); !problem.empty()) return problem;
     try {
         return write(path, request);
     } catch (const std::bad_alloc&) {

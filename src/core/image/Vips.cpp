@@ -14,7 +14,7 @@ void traceMessage(const gchar*, GLogLevelFlags, const gchar* message, gpointer) 
 
 }  // namespace
 
-bool startVips() {
+std::string startVips() {
     static const bool started = [] {
         if (vips_init("tavrin") != 0) return false;
         vips_cache_set_max(0);
@@ -23,7 +23,7 @@ bool startVips() {
                           traceMessage, nullptr);
         return true;
     }();
-    return started;
+    return started ? "" : "the image library cannot be started";
 }
 
 std::string takeVipsError() {

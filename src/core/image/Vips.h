@@ -14,8 +14,8 @@ using VipsRef = std::unique_ptr<VipsImage, GlibUnref>;
 
 /// Starts the image library, once and from any thread, with its operation cache off: every picture is read for one
 /// use, and the cache would hold on to it. Its warnings become traces.
-/// @return false when the library cannot be started
-bool startVips();
+/// @return "", or why no picture can be read or written as one plain line
+std::string startVips();
 
 /// The last line of what the image library complained about (it names the cause); clears it.
 std::string takeVipsError();

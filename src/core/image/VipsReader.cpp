@@ -139,11 +139,8 @@ std::vector<std::uint8_t> vipsBlob(VipsImage* image, const char* name) {
 
 OpenPicture openWithVips(const std::string& path, FileKind kind) {
     OpenPicture open;
-    if (!startVips()) {
-        open.error = "the image library cannot be started";
-        return open;
-    }
-    open.error = fileProblem(path, kind);
+    open.error = startVips();
+    if (open.error.empty()) open.error = fileProblem(path, kind);
     if (!open.error.empty()) return open;
     open.image = load(path, kind, open.bytes);
     if (!open.image) {

@@ -24,6 +24,19 @@ constexpr std::size_t pixelBytes(int width, int height) {
     return pixelOffset(width, 0, height);
 }
 
+/// A picture in somebody's memory: RGBA, rows packed, the first row on top. Null bytes are no picture.
+template <class Byte>
+struct PixelsOf {
+    Byte* bytes = nullptr;
+    int width = 0, height = 0;
+
+    bool isEmpty() const { return !bytes || width < 1 || height < 1; }
+    Byte* at(int x, int y) const { return bytes + pixelOffset(width, x, y); }
+    operator PixelsOf<const Byte>() const { return {bytes, width, height}; }
+};
+using PixelView = PixelsOf<std::uint8_t>;
+using ConstPixelView = PixelsOf<const std::uint8_t>;
+
 /// An owned pixel buffer with undefined contents. `data()` is null where memory was refused or the size is 0.
 class PixelBuffer {
   public:

@@ -8,6 +8,7 @@
 #include "core/raster/BitmapContext.h"
 #include "core/raster/Pixels.h"
 #include "core/state/LayerSettings.h"
+#include "core/state/Resolution.h"
 
 namespace tavrin {
 
@@ -32,6 +33,13 @@ class BitmapInfo : public LayerSettings {
     bool allocateBuffers(int fullWidth, int fullHeight, int lowWidth, int lowHeight);
     /// Hands the memory of the full picture over to the caller; the record has none then, until `allocateBuffers`.
     PixelBuffer takeFullPixels();
+    /// The buffer of a resolution and the context over it; null where there is none.
+    std::uint8_t* bytes(Resolution resolution) const {
+        return resolution == Resolution::full ? pBitmapData : pBitmapDataLowRes;
+    }
+    BitmapContext* context(Resolution resolution) const {
+        return (resolution == Resolution::full ? oBitmapRep : oBitmapRepLowRes).get();
+    }
     /// Takes a source picture (RGBA, premultiplied, rows packed) as `orgImage` and `orgBitmapData`.
     void setSource(QImage source);
 

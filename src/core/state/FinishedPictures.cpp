@@ -14,9 +14,9 @@ void FinishedPictures::fail(const std::string& reason) {
     if (failure_.empty()) failure_ = reason;
 }
 
-void FinishedPictures::finish(int res) {
+void FinishedPictures::finish(Resolution resolution) {
     std::lock_guard lock(mutex_);
-    if (failure_.empty()) (res == 1 ? full_ : preview_) = true;
+    if (failure_.empty()) (resolution == Resolution::full ? full_ : preview_) = true;
 }
 
 std::string FinishedPictures::failure() const {
@@ -24,9 +24,9 @@ std::string FinishedPictures::failure() const {
     return failure_;
 }
 
-std::string FinishedPictures::whyNot(int res) const {
+std::string FinishedPictures::whyNot(Resolution resolution) const {
     std::lock_guard lock(mutex_);
-    if (res == 1 ? full_ : preview_) return "";
+    if (resolution == Resolution::full ? full_ : preview_) return "";
     return failure_.empty() ? "the picture is not finished" : failure_;
 }
 

@@ -3,6 +3,8 @@
 #include <mutex>
 #include <string>
 
+#include "core/state/Resolution.h"
+
 namespace tavrin {
 
 /// Which of the two combined pictures is whole. The memory of a buffer may have held anybody's picture before, so
@@ -15,13 +17,13 @@ class FinishedPictures {
     /// The pass under work cannot make the picture of its settings; `reason` is one plain line without a full stop.
     /// The first reason counts, and no picture of this pass will stand.
     void fail(const std::string& reason);
-    /// The last stage of a resolution (1: the full picture, otherwise the preview) came to its end.
-    void finish(int res);
+    /// The last stage of a resolution came to its end.
+    void finish(Resolution resolution);
 
     /// Why the last pass failed; empty when it did not.
     std::string failure() const;
     /// Why a picture does not stand; empty when it does.
-    std::string whyNot(int res) const;
+    std::string whyNot(Resolution resolution) const;
 
   private:
     mutable std::mutex mutex_;

@@ -14,7 +14,9 @@
 
 namespace tavrin {
 
-/// Which panel and layer the interface edits, and what the main view shows.
+/// Which panel and layer the interface edits, and what the main view shows. What nothing reads yet is for the
+/// panels of adjustments and effects and for the views, but for `bActiveBitmapChanged` and `iViewMode`, which stay as
+/// the start sets them.
 struct ViewState {
     Field<std::int32_t> iSelectedAdjustment = 0, iSelectedEffect = 0;
     Field<std::int32_t> iActiveBitmap = 0;  ///< layer that the panels edit: 0 foreground, otherwise background
@@ -27,7 +29,7 @@ struct ViewState {
     Field<bool> bWaitForTextupdate = false;  ///< nobody waits: text is laid out where it is drawn
 };
 
-/// Print template page and the lists of sizes and pages.
+/// Print template page and the lists of sizes and pages. The print sheet will fill in the template's size.
 struct PageState {
     Field<std::int32_t> iTemplateImageDPI = 0, iTemplatePixelWidth = 0, iTemplatePixelHeight = 0;
     Field<double> dTemplateImageWidthInInches = 0.0, dTemplateImageHeightInInches = 0.0;
@@ -68,7 +70,8 @@ struct SkinColor {
     double dFaceColorMatrixMaxColor = 0.0;
 };
 
-/// Results of stages that live for a pass, and flags of stages.
+/// Results of stages that live for a pass, and flags of stages. The change flags of shadow and
+/// reflection belong to the state, and nothing reads them: the stages look at the layers' own.
 struct StageState : SkinColor {
     PixelBuffer hairDetectPixels;
     std::uint8_t* pHairDetectBitmap = nullptr;  ///< fine-detail map, preview size
@@ -96,7 +99,8 @@ struct StartUpPictures {
     Field<std::int32_t> iTextIconWidth = 0, iTextIconHeight = 0;  ///< size of the edit icon
 };
 
-/// Generation counters and the switches of the processing loop.
+/// Generation counters and the switches of the processing loop. The stop flags beside `bStop` and the counts of runs
+/// belong to the state, and nothing reads them: the loop is stopped by its thread's own token.
 struct LoopState {
     /// Number of the picture under work, and of the newest wanted one. Equal: a pass is due; current above new:
     /// idle; current below new: the loop catches up.
@@ -107,7 +111,7 @@ struct LoopState {
     Field<std::int32_t> iLowResUpdateCount = 0, iLowResLastRun = 0, iHiResUpdateCount = 0, iHiResLastRun = 0;
 };
 
-/// Editor replay: two blocks of 200,000 bytes.
+/// Editor replay: two blocks of 200,000 bytes, which the editor's recorder will fill.
 struct ReplayState {
     static constexpr std::size_t kReplayBytes = 200'000;
     std::vector<std::uint8_t> pReplayBuffer = std::vector<std::uint8_t>(kReplayBytes);
@@ -115,7 +119,8 @@ struct ReplayState {
     Field<std::int32_t> iReplayBufferCount = 0, iReplayBufferSavedCount = 0;
 };
 
-/// State of the long-running modes.
+/// State of the long-running modes: the two galleries, the event booth, the review pages and the host application,
+/// in this order. Each waits for its mode, but for `myFileNames` and `bLightroomActive`.
 struct ModeState {
     std::vector<std::string> myGalleryNames, myFileNames;
     Field<bool> bProcessingGallery = false, bHaveGallery = false;

@@ -31,9 +31,14 @@ SystemInfo::SystemInfo()
     note.dFontFillRed = note.dFontFillGreen = note.dFontFillBlue = 0.0;
 }
 
-PassGeometry SystemInfo::geometry(int res) const {
-    if (res == 1) return {iOutputPixelWidth, iOutputPixelHeight, iOutputImageDPI};
+PassGeometry SystemInfo::geometry(Resolution resolution) const {
+    if (resolution == Resolution::full) return {iOutputPixelWidth, iOutputPixelHeight, iOutputImageDPI};
     return {iOutputPixelLowResWidth, iOutputPixelLowResHeight, iOutputImageLowResDPI};
+}
+
+PixelView SystemInfo::pixels(const BitmapInfo& record, Resolution resolution) const {
+    const PassGeometry size = geometry(resolution);
+    return {record.bytes(resolution), size.width, size.height};
 }
 
 void SystemInfo::StartUpdate() {
@@ -85,36 +90,34 @@ void SystemInfo::publishLowRes() {
     publish(std::move(rows), {});
 }
 
-void SystemInfo::publishEdited(int res, int firstRow, int lastRow) {
+void SystemInfo::publishEdited(Resolution resolution, int firstRow, int lastRow) {
     PublishedRows rows;
     rows.firstRow = std::max(firstRow, 0);
-    rows.rowCount = std::min(lastRow, geometry(res).height) - rows.firstRow;
-    rows.lowRes = res != 1;
+    rows.rowCount = std::min(lastRow, geometry(resolution).height) - rows.firstRow;
+    rows.lowRes = resolution == Resolution::preview;
     rows.edited = true;
     publish(std::move(rows), {});
 }
 
 /// Fills in the rows' pixels, where they are wanted, and hands them over.
 void SystemInfo::publish(PublishedRows rows, const RunContext& run) {
-    const BitmapInfo& record = *pCombinedBitmapInfo;
-    const std::uint8_t* bytes = rows.lowRes ? record.pBitmapDataLowRes : record.pBitmapData;
-    const PassGeometry size = geometry(rows.lowRes ? 0 : 1);
-    if (!pInterface || !bytes || rows.rowCount < 1) return;
+    const PixelView picture =
+        pixels(*pCombinedBitmapInfo, rows.lowRes ? Resolution::preview : Resolution::full);
+    if (!pInterface || !picture.bytes || rows.rowCount < 1) return;
     if (pInterface->wantsPixels()) {
-        rows.pixels = newPicture(size.width, rows.rowCount, QImage::Format_RGBA8888);
+        rows.pixels = newPicture(picture.width, rows.rowCount, QImage::Format_RGBA8888);
         if (rows.pixels.isNull()) return;
-        const std::uint8_t* from = bytes + pixelOffset(size.width, 0, rows.firstRow);
-        if (!copyPixels(run, from, rows.pixels.bits(), size.width, rows.rowCount)) return;
+        if (!copyPixels(run, picture.at(0, rows.firstRow), rows.pixels.bits(), picture.width, rows.rowCount)) return;
     }
-    rows.height = size.height;
+    rows.height = picture.height;
     pInterface->repaint(rows);
 }
 
-std::string SystemInfo::whyNotFinished(int res) const {
+std::string SystemInfo::whyNotFinished(Resolution resolution) const {
     for (const BitmapInfo* record : {pForegroundBitmapInfo.get(), pBackgroundBitmapInfo.get()}) {
         if (!record->sSourceProblem.empty()) return record->sSourceProblem;
     }
-    return pictures.whyNot(res);
+    return pictures.whyNot(resolution);
 }
 
 void SystemInfo::alert(const std::string& message, const std::string& reason) {

@@ -71,8 +71,9 @@ class SystemInfo : public Settings,
     SystemInfo(const SystemInfo&) = delete;
     SystemInfo& operator=(const SystemInfo&) = delete;
 
-    /// Geometry of the full picture (res 1) or of the preview (any other value).
-    PassGeometry geometry(int res) const;
+    PassGeometry geometry(Resolution resolution) const;
+    /// The buffer of a record, of that size.
+    PixelView pixels(const BitmapInfo& record, Resolution resolution) const;
 
     /// Asks for a new picture. Callable from any thread, never waits.
     void StartUpdate();
@@ -96,13 +97,13 @@ class SystemInfo : public Settings,
     void publishFull(int firstRow, int lastRow);
     /// Hands the whole combined preview to the interface, if there is one.
     void publishLowRes();
-    /// Hands rows [first, last) of a combined picture (res 1: the full one, otherwise the preview), which stands and
-    /// was changed there, to the interface, if there is one. Rows that the picture does not have are left out.
-    void publishEdited(int res, int firstRow, int lastRow);
+    /// Hands rows [first, last) of the combined picture of a resolution, which stands and was changed there, to the
+    /// interface, if there is one. Rows that the picture does not have are left out.
+    void publishEdited(Resolution resolution, int firstRow, int lastRow);
 
-    /// Why the combined picture (res 1: the full one, otherwise the preview) must not go out as that of the present
-    /// sources and settings, as one plain line without a full stop; empty when it may. Callable from any thread.
-    std::string whyNotFinished(int res) const;
+    /// Why the combined picture of a resolution must not go out as that of the present sources and settings, as one
+    /// plain line without a full stop; empty when it may. Callable from any thread.
+    std::string whyNotFinished(Resolution resolution) const;
 
     /// Shows an alert in the interface; without one message and reason go to the standard error stream.
     void alert(const std::string& message, const std::string& reason);

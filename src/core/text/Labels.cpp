@@ -64,7 +64,7 @@ std::string labelString(const SystemInfo& info, const FontObject& label) {
 
 void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFontObject, int myRes,
               const RunContext& run) {
-    const PassGeometry size = info.geometry(myRes);
+    const PassGeometry size = info.geometry(fullIf(myRes == 1));
     const double pixels = size.dpi / 72.0 * myFontObject.iFontSize;
     const std::string string = labelString(info, myFontObject);
     if (!context || string.empty() || !(pixels > 0.0) || !canDrawText(info)) return;

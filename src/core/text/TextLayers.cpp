@@ -27,10 +27,10 @@ struct Page {
     QDateTime now;
 };
 
-Page pageOf(const SystemInfo& info, int res) {
+Page pageOf(const SystemInfo& info, Resolution resolution) {
     Page page;
-    page.size = info.geometry(res);
-    if (res != 1) {
+    page.size = info.geometry(resolution);
+    if (resolution == Resolution::preview) {
         page.pictureScale = info.iOutputPixelHeight > 0
                                 ? static_cast<double>(info.iOutputPixelLowResHeight) / info.iOutputPixelHeight
                                 : 0.0;
@@ -138,7 +138,7 @@ void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string
     for (const FontObject& item : info.oFontObject) {
         if (item.sLevel.load() == sLevel) items.push_back(item);
     }
-    const Page page = pageOf(info, myRes);
+    const Page page = pageOf(info, fullIf(myRes == 1));
     if (items.empty() || page.size.dpi < 1) return;
     drawInto(info, *context, [&](BitmapContext& target) {
         for (const FontObject& item : items) {
@@ -150,7 +150,7 @@ void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string
 }
 
 std::string textProblem(const SystemInfo& info) {
-    const Page page = pageOf(info, 1);
+    const Page page = pageOf(info, Resolution::full);
     const bool labels = std::any_of(info.oFontLabelObject.begin(), info.oFontLabelObject.end(),
                                     [&](const FontObject& label) { return !labelString(info, label).empty(); });
     const bool items = std::any_of(info.oFontObject.begin(), info.oFontObject.end(), [&](const FontObject& item) {
@@ -163,7 +163,7 @@ std::string textProblem(const SystemInfo& info) {
 
 void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::string& myImage, int myRes,
                       const RunContext& run) {
-    const PassGeometry size = info.geometry(myRes);
+    const PassGeometry size = info.geometry(fullIf(myRes == 1));
     if (!context || size.width < 1 || size.height < 1) return;
     const QImage picture = readNamedPicture(info, myImage, "the overlay is left out", size.width, size.height);
     if (picture.isNull()) return;

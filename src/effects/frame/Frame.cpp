@@ -144,8 +144,8 @@ void drawShape(SystemInfo& info, const ImageFrame& frame, std::uint8_t* mask, co
 }  // namespace
 
 void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& picture, const std::uint8_t* mask,
-                  std::uint8_t* buffer, int res) {
-    const PassGeometry size = info.geometry(res);
+                  std::uint8_t* buffer, Resolution resolution) {
+    const PassGeometry size = info.geometry(resolution);
     FrameParams params = makeParams(frame, size);
     PixelBuffer blurred;
     std::optional<SpillKey> background;
@@ -159,7 +159,7 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
             params.blurred = blurred.data();
             break;
         case kAdjustedBackground:
-            background.emplace(info, SpillLayers::of(info, res == 1 ? 1 : 0));
+            background.emplace(info, SpillLayers::of(info, resolution));
             if (!background->isReady()) return;
             params.filling = kAdjustedBackground;
             params.background = &*background;
@@ -190,7 +190,8 @@ void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& pictu
 }
 
 void AddFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* buffer, int res) {
-    const PassGeometry size = info.geometry(res);
+    const Resolution resolution = fullIf(res == 1);
+    const PassGeometry size = info.geometry(resolution);
     if (!buffer || size.width < 1 || size.height < 1) return;
     QImage picture;
     if (const std::string path = frame.sFrameImagePath; frame.iFrameMode == kFramePicture && !path.empty()) {
@@ -200,7 +201,7 @@ void AddFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* buffer, i
     const PixelBuffer mask = PixelBuffer::cleared(size.width, size.height);
     if (!mask.data()) throw std::bad_alloc();
     drawShape(info, frame, mask.data(), size);
-    CombineFrame(info, frame, picture, mask.data(), buffer, res);
+    CombineFrame(info, frame, picture, mask.data(), buffer, resolution);
 }
 
 }  // namespace tavrin

@@ -18,6 +18,6 @@ void AddFrame(SystemInfo& info, const ImageFrame& frame, std::uint8_t* buffer, i
 /// in place first.
 /// @param picture the frame picture of mode 4; null leaves the pixels, so that only a texture shows
 void CombineFrame(SystemInfo& info, const ImageFrame& frame, const QImage& picture, const std::uint8_t* mask,
-                  std::uint8_t* buffer, int res);
+                  std::uint8_t* buffer, Resolution resolution);
 
 }  // namespace tavrin

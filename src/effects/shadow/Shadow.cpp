@@ -150,11 +150,11 @@ void drawBaseline(const ShadowGeometry& g, double angle, std::uint8_t* backgroun
 }  // namespace
 
 void AddShadow(SystemInfo& info, int /*ignored*/, int hiRes) {
-    const bool preview = hiRes == 0;
-    const PassGeometry size = info.geometry(preview ? 0 : 1);
-    const BitmapInfo &foreground = *info.pForegroundBitmapInfo, &background = *info.pBackgroundBitmapInfo;
-    const std::uint8_t* source = preview ? foreground.pBitmapDataLowRes : foreground.pBitmapData;
-    std::uint8_t* target = preview ? background.pBitmapDataLowRes : background.pBitmapData;
+    const Resolution resolution = fullIf(hiRes != 0);
+    const bool preview = resolution == Resolution::preview;
+    const PassGeometry size = info.geometry(resolution);
+    const std::uint8_t* source = info.pForegroundBitmapInfo->bytes(resolution);
+    std::uint8_t* target = info.pBackgroundBitmapInfo->bytes(resolution);
     if (size.width < 1 || size.height < 1 || !source || !target) return;
     const ShadowClip clip = makeClip(info, size);
     const ShadowColumns columns(makeGeometry(info, size));

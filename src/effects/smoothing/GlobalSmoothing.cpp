@@ -73,7 +73,7 @@ void FGS(SystemInfo& info, float*** image, int width, int height, int iterations
 }
 
 void FastGlobalImageSmoothing(SystemInfo& info, int, std::uint8_t* rgba, int hiRes) {
-    const PassGeometry g = info.geometry(hiRes != 0 ? 1 : 0);
+    const PassGeometry g = info.geometry(fullIf(hiRes != 0));
     if (!rgba || g.width < 1 || g.height < 1) return;
     const std::int64_t slider = info.iGlobalSmoothingLambda;
     const double sigma = static_cast<double>(slider / 20);

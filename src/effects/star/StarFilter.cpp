@@ -36,10 +36,6 @@ StarParams paramsOf(const SystemInfo& info, const PassGeometry& g) {
             info.bStarFilterShowSelected};
 }
 
-struct Box {
-    int xMax, xMin, yMax, yMin;
-};
-
 bool isOutline(const std::uint8_t* mask) {
     return mask[0] == 0 && mask[1] == 0 && mask[2] == 255;
 }
@@ -79,7 +75,7 @@ void drawMask(const StarParams& params, const std::uint8_t* blurred, std::uint8_
 }
 
 /// A cross on the middle of a light, two pixels thick.
-void markLight(const StarParams& params, std::uint8_t* mask, const Box& box, int cx, int cy) {
+void markLight(const StarParams& params, std::uint8_t* mask, const LightBox& box, int cx, int cy) {
     const auto mark = [&](int x, int y) {
         if (x < params.width && y < params.height) setColour(mask + pixelOffset(params.width, x, y), 0, 255, 0);
     };
@@ -123,17 +119,13 @@ class StarRun {
     bool visitRow(int y) {
         for (int x = 0; x < params_.width; ++x) {
             if (!isOutline(mask_.data() + pixelOffset(params_.width, x, y))) continue;
-            Box box;
-            const int stride = params_.width * kPixelBytes;
-            if (CheckForStar(y, x, params_.width, params_.height, stride, mask_.data(), box.xMax, box.xMin, box.yMax,
-                             box.yMin) &&
-                !visitLight(box))
-                return false;
+            const auto box = CheckForStar(y, x, {mask_.data(), params_.width, params_.height});
+            if (box && !visitLight(*box)) return false;
         }
         return true;
     }
 
-    bool visitLight(const Box& box) {
+    bool visitLight(const LightBox& box) {
         const int dx = box.xMax - box.xMin, dy = box.yMax - box.yMin;
         const auto hundredth = static_cast<std::int64_t>(params_.height * 0.01 * params_.width);
         if (static_cast<std::int64_t>(dy) * dx >= params_.maxArea * hundredth / 50) return true;
@@ -177,19 +169,14 @@ class StarRun {
 
 }  // namespace
 
-bool CheckForStar(int y, int x, int width, int height, int stride, std::uint8_t* mask, int& xMax, int& xMin,
-                  int& yMax, int& yMin) {
-    const auto pixel = [&](int px, int py) {
-        return mask + static_cast<std::ptrdiff_t>(py) * stride + static_cast<std::ptrdiff_t>(px) * kPixelBytes;
-    };
-    xMax = xMin = x;
-    yMax = yMin = y;
+std::optional<LightBox> CheckForStar(int y, int x, PixelView mask) {
+    LightBox box{x, x, y, y};
     int atX = x, atY = y;
-    setColour(pixel(x, y), 255, 0, 0);
+    setColour(mask.at(x, y), 255, 0, 0);
     const auto stepOn = [&] {
-        for (int py = std::max(atY - 1, 0); py <= std::min(atY + 1, height - 1); ++py) {
-            for (int px = std::max(atX - 1, 0); px <= std::min(atX + 1, width - 1); ++px) {
-                if (!isOutline(pixel(px, py))) continue;
+        for (int py = std::max(atY - 1, 0); py <= std::min(atY + 1, mask.height - 1); ++py) {
+            for (int px = std::max(atX - 1, 0); px <= std::min(atX + 1, mask.width - 1); ++px) {
+                if (!isOutline(mask.at(px, py))) continue;
                 atX = px;
                 atY = py;
                 return true;
@@ -198,16 +185,17 @@ bool CheckForStar(int y, int x, int width, int height, int stride, std::uint8_t*
         return false;
     };
     while (stepOn()) {
-        setColour(pixel(atX, atY), 255, 0, 0);
-        xMax = std::max(xMax, atX);
-        xMin = std::min(xMin, atX);
-        yMax = std::max(yMax, atY);
+        setColour(mask.at(atX, atY), 255, 0, 0);
+        box.xMax = std::max(box.xMax, atX);
+        box.xMin = std::min(box.xMin, atX);
+        box.yMax = std::max(box.yMax, atY);
     }
-    return std::abs(atX - x) <= 1 && std::abs(atY - y) <= 1;
+    if (std::abs(atX - x) > 1 || std::abs(atY - y) > 1) return std::nullopt;
+    return box;
 }
 
 void StarFilter(SystemInfo& info, int, std::uint8_t* picture, int hiRes) {
-    const PassGeometry g = info.geometry(hiRes != 0 ? 1 : 0);
+    const PassGeometry g = info.geometry(fullIf(hiRes != 0));
     if (!picture || g.width < 1 || g.height < 1) return;
     StarRun(info, paramsOf(info, g), picture).run();
 }

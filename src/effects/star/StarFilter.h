@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "core/state/SystemInfo.h"
 
@@ -16,10 +17,14 @@ namespace tavrin {
 /// their outlines and a cross in each. A superseded run stops and leaves the stars drawn so far.
 void StarFilter(SystemInfo& info, int ignored, std::uint8_t* picture, int hiRes);
 
-/// Follows the outline in `mask` (RGBA, `stride` bytes a row; outlines are pure blue) from a pixel on it, and turns
-/// what it has seen red. Writes the box of the pixels seen; its top is `y`, as the scan finds the topmost one first.
-/// @return whether the outline closes: the walk ends beside the pixel where it began
-bool CheckForStar(int y, int x, int width, int height, int stride, std::uint8_t* mask, int& xMax, int& xMin,
-                  int& yMax, int& yMin);
+/// The box of a light's outline, ends included.
+struct LightBox {
+    int xMax, xMin, yMax, yMin;
+};
+
+/// Follows the outline in `mask` (outlines are pure blue) from a pixel on it, and turns what it has seen red.
+/// @return the box of the pixels seen, its top `y`, as the scan finds the topmost one first; none when the outline
+/// does not close: the walk has to end beside the pixel where it began
+std::optional<LightBox> CheckForStar(int y, int x, PixelView mask);
 
 }  // namespace tavrin

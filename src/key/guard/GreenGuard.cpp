@@ -30,16 +30,16 @@ Rgb guardPictureColor(std::uint8_t byte) {
     }
 }
 
-bool GreenGuard::build(const SystemInfo& info, const std::uint8_t* foreground, int width, int height, bool hiRes) {
+bool GreenGuard::build(const SystemInfo& info, ConstPixelView foreground, Resolution resolution) {
     HGreenShirt = SGreenShirt = VGreenShirt = 0.0;
     dRedShirt = dGreenShirt = dBlueShirt = 0.0;
     nearness_.clear();
-    pFloodFillForegroundBitmap = foreground;
+    pFloodFillForegroundBitmap = foreground.bytes;
     removeInside_ = info.bRemoveInsideBaseGreen;
-    context_ = hiRes ? info.rowsWhileCurrent() : RunContext();
-    if (!foreground || width < 1 || height < 1) return false;
-    iFloodWidth = width;
-    iFloodHeight = height;
+    context_ = resolution == Resolution::full ? info.rowsWhileCurrent() : RunContext();
+    if (foreground.isEmpty()) return false;
+    iFloodWidth = foreground.width;
+    iFloodHeight = foreground.height;
     allocate(pGreenProtectionBitmap);
     if (!classify(info)) return false;
     fillFromBorder(info);

@@ -39,12 +39,11 @@ inline Rgb guardPicture(std::uint8_t byte, int y, const Rgb& caption) {
 /// for each run of the key; the memory is kept between runs of one size. Not reentrant.
 class GreenGuard {
   public:
-    /// Builds the bitmap from an RGBA foreground (rows packed), which must stay until the fills are done. When the
-    /// run is superseded the fills stop at once; the other steps of a full-resolution run (`hiRes`) stop within a
-    /// row.
+    /// Builds the bitmap from a foreground, which must stay until the fills are done. When the run is superseded the
+    /// fills stop at once; the other steps of a full-resolution run stop within a row.
     /// @return false when such a run was superseded, so that its pixel loop must not start, or when there is no
     /// picture, so that the guard is to be left out
-    bool build(const SystemInfo& info, const std::uint8_t* foreground, int width, int height, bool hiRes);
+    bool build(const SystemInfo& info, ConstPixelView foreground, Resolution resolution);
 
     /// One byte a pixel.
     const std::vector<std::uint8_t>& bitmap() const { return pGreenProtectionBitmap; }

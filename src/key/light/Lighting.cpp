@@ -57,7 +57,7 @@ void EffectsLighting(SystemInfo& info, std::int32_t* map, int width, int height,
 
 // The key takes no light, so that the lighting mode may stay as it is, where a control may change it at any time.
 void EffectsLightingGlow(SystemInfo& info, std::int32_t* map, int width, int height, int hiRes) {
-    SpillLayers layers = SpillLayers::of(info, hiRes);
+    SpillLayers layers = SpillLayers::of(info, fullIf(hiRes != 0));
     if (!map || layers.width != width || layers.height != height) return;
     const SpillKey key(info, layers);
     if (!key.isReady()) return;
@@ -79,7 +79,9 @@ void EffectsLightingGlow(SystemInfo& info, std::int32_t* map, int width, int hei
     if (finished) blurMap(info, map, width, height, static_cast<int>(std::min(radius, kFarAway)));
 }
 
-LightingRun::LightingRun(SystemInfo& info, int width, int height, int hiRes) : info_(info) {
+LightingRun::LightingRun(SystemInfo& info, Resolution resolution) : info_(info) {
+    const PassGeometry size = info.geometry(resolution);
+    const int width = size.width, height = size.height;
     info.oLightingMap.clear();
     if (info.iLightingMode == 0 || width < 1 || height < 1) {
         info.oLightingMap.shrink_to_fit();
@@ -87,9 +89,9 @@ LightingRun::LightingRun(SystemInfo& info, int width, int height, int hiRes) : i
     }
     info.oLightingMap.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
     // A preview always gets its light. A full picture that is superseded keys no pixel, so it needs none.
-    info.bLightingForceCompute = hiRes == 0;
+    info.bLightingForceCompute = resolution == Resolution::preview;
     try {
-        EffectsLighting(info, info.oLightingMap.data(), width, height, hiRes);
+        EffectsLighting(info, info.oLightingMap.data(), width, height, numberOf(resolution));
     } catch (...) {
         info.bLightingForceCompute = false;
         info.oLightingMap.clear();
@@ -122,9 +124,8 @@ void blurMap(const SystemInfo& info, std::int32_t* map, int width, int height, i
     });
 }
 
-void softenShape(const SystemInfo& info, std::int32_t* map, int width, int height, int hiRes) {
-    const std::int32_t dpi = hiRes == 0 ? info.iOutputImageLowResDPI : info.iOutputImageDPI;
-    blurMap(info, map, width, height, std::max(dpi / 10, 1));
+void softenShape(const SystemInfo& info, std::int32_t* map, int width, int height, Resolution resolution) {
+    blurMap(info, map, width, height, std::max(info.geometry(resolution).dpi / 10, 1));
 }
 
 }  // namespace tavrin

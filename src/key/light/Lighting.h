@@ -40,7 +40,7 @@ bool DrawLightingLine(double x0, double y0, double x1, double y1, std::int32_t* 
 /// again when this object is gone.
 class LightingRun {
   public:
-    LightingRun(SystemInfo& info, int width, int height, int hiRes);
+    LightingRun(SystemInfo& info, Resolution resolution);
     ~LightingRun();
     LightingRun(const LightingRun&) = delete;
     LightingRun& operator=(const LightingRun&) = delete;

@@ -163,7 +163,7 @@ void EffectsLightingCircle(SystemInfo& info, std::int32_t* map, int width, int h
             }
         }
     });
-    if (finished) softenShape(info, map, width, height, hiRes);
+    if (finished) softenShape(info, map, width, height, fullIf(hiRes != 0));
 }
 
 void EffectsLightingCone(SystemInfo& info, std::int32_t* map, int width, int height, int hiRes) {
@@ -172,7 +172,7 @@ void EffectsLightingCone(SystemInfo& info, std::int32_t* map, int width, int hei
     const bool finished = runRows(info.rowsWhileWanted(), height, 8, [&](int y) {
         cone.fillRow(map + static_cast<std::size_t>(y) * static_cast<std::size_t>(width), width, y);
     });
-    if (finished) softenShape(info, map, width, height, hiRes);
+    if (finished) softenShape(info, map, width, height, fullIf(hiRes != 0));
 }
 
 }  // namespace tavrin

@@ -22,6 +22,6 @@ double sliderGain(const Field<std::int32_t>& slider);
 void blurMap(const SystemInfo& info, std::int32_t* map, int width, int height, int radius);
 
 /// The blur of the circle and the cone, a tenth of an inch.
-void softenShape(const SystemInfo& info, std::int32_t* map, int width, int height, int hiRes);
+void softenShape(const SystemInfo& info, std::int32_t* map, int width, int height, Resolution resolution);
 
 }  // namespace tavrin

@@ -90,11 +90,6 @@ FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) 
 
 }  // namespace
 
-RunSize runSize(const SystemInfo& info, int hiRes) {
-    if (hiRes == 0) return {info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight};
-    return {info.iOutputPixelWidth, info.iOutputPixelHeight};
-}
-
 KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen) {
     const BitmapInfo& sliders = *info.pCombinedBitmapInfo;
     const double tint = number(sliders.sliderGreenTintAreas);
@@ -128,15 +123,13 @@ WhiteAdjust makeWhiteAdjust(const SystemInfo& info) {
             2000.0 - wide};
 }
 
-CombineParams makeCombineParams(const SystemInfo& info, int hiRes) {
-    const auto buffer = [hiRes](const BitmapInfo& record) {
-        return hiRes == 0 ? record.pBitmapDataLowRes : record.pBitmapData;
-    };
+CombineParams makeCombineParams(const SystemInfo& info, Resolution resolution) {
+    const PassGeometry size = info.geometry(resolution);
     CombineParams params;
-    params.size = runSize(info, hiRes);
-    params.foreground = buffer(*info.pForegroundBitmapInfo);
-    params.background = buffer(*info.pBackgroundBitmapInfo);
-    params.combined = buffer(*info.pCombinedBitmapInfo);
+    params.size = {size.width, size.height};
+    params.foreground = info.pForegroundBitmapInfo->bytes(resolution);
+    params.background = info.pBackgroundBitmapInfo->bytes(resolution);
+    params.combined = info.pCombinedBitmapInfo->bytes(resolution);
     params.key = makeKeyConstants(info, params.size, info.bUseAdaptiveBackgroundGreen);
     params.finish = makeFinish(info, params);
     return params;

@@ -23,9 +23,6 @@ struct CombineParams {
     FinishConstants finish;
 };
 
-/// Size of the preview (hiRes 0) or of the full output.
-RunSize runSize(const SystemInfo& info, int hiRes);
-
 /// The settings of the key. `localScreen`: measured against the grid of local screen colours, not the global one.
 KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen);
 
@@ -34,6 +31,6 @@ WhiteAdjust makeWhiteAdjust(const SystemInfo& info);
 
 /// Reads the state once; the silhouette reads from the state's picture, which must stay as it is for the run. The map
 /// of the light is not worked out and `firstBrightGrey` not searched here.
-CombineParams makeCombineParams(const SystemInfo& info, int hiRes);
+CombineParams makeCombineParams(const SystemInfo& info, Resolution resolution);
 
 }  // namespace tavrin

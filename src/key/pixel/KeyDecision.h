@@ -63,7 +63,7 @@ struct KeyConstants {
     ClipMargins clip;
     ScreenField screen;
     /// First pixel, counted in scan order, that lowers the mix of all pixels after it: see `findBrightGrey` of
-    /// OnePixel.h.
+    /// PixelSteps.h.
     std::int64_t firstBrightGrey = std::numeric_limits<std::int64_t>::max();
 };
 

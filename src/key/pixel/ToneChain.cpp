@@ -40,8 +40,8 @@ void restoreEnds(Rgb& c, double ends) {
 
 void sharpenTone(const ToneConstants& tone, Rgb& c, int x, int y) {
     if (tone.sharpen < 1.0) return;
-    Surroundings around;
-    sumSurroundings(tone.pixels, tone.width, tone.height, x, y, 1, around);
+    NeighbourSums around;
+    sumNeighbours(tone.pixels, tone.width, tone.height, x, y, 1, around);
     c = gather(Tone(One(), tone).sharpened(spread(c), around, 0));
 }
 

@@ -10,7 +10,7 @@
 #include <cmath>
 
 #include "core/raster/Lanes-inl.h"
-#include "key/pixel/Surroundings.h"
+#include "key/pixel/NeighbourSums.h"
 #include "key/pixel/ToneChain.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -38,7 +38,7 @@ class ToneLanes {
 
     // Sharpens the pixels from the i-th of the surroundings on. Very dark results, and green that would stop being
     // green, are left alone.
-    HWY_INLINE Colors sharpened(const Colors& c, const Surroundings& around, int i) const {
+    HWY_INLINE Colors sharpened(const Colors& c, const NeighbourSums& around, int i) const {
         const V pixels = loadInts(around.pixels + i);
         const Colors sharp{sharpenedChannel(c.r, hn::Div(loadInts(around.r + i), pixels)),
                            sharpenedChannel(c.g, hn::Div(loadInts(around.g + i), pixels)),
@@ -183,7 +183,7 @@ class RunTone {
     // The colours of the pixels from the i-th on. `light` falls on a background only, and not on black.
     HWY_INLINE Colors adjusted(Colors c, int i, V light) {
         c = lanes_.filtered(c);
-        if (tone_.sharpen >= 1.0) c = lanes_.sharpened(c, surroundings(), i);
+        if (tone_.sharpen >= 1.0) c = lanes_.sharpened(c, neighbours(), i);
         Choice<D> black;
         c = lanes_.curved(c, black);
         if (tone_.layer == ToneLayer::kBackground) {
@@ -194,8 +194,8 @@ class RunTone {
     }
 
   private:
-    const Surroundings& surroundings() {
-        if (!summed_) sumSurroundings(tone_.pixels, tone_.width, tone_.height, run_.x, run_.y, run_.count, around_);
+    const NeighbourSums& neighbours() {
+        if (!summed_) sumNeighbours(tone_.pixels, tone_.width, tone_.height, run_.x, run_.y, run_.count, around_);
         summed_ = true;
         return around_;
     }
@@ -204,7 +204,7 @@ class RunTone {
     const ToneConstants& tone_;
     PixelRun run_;
     ToneLanes<D> lanes_;
-    Surroundings around_;
+    NeighbourSums around_;
     bool summed_ = false;
 };
 

@@ -15,13 +15,6 @@ void ComputeSkinColor(SystemInfo& info, int ignored, const std::uint8_t* rgba, i
 /// the fixed limits alone.
 bool isSkin(const SystemInfo& info, double r, double g, double b);
 
-/// Smooths skin and lays make-up on `picture`, in place, alpha left alone. `foreground` is the layer at the size of
-/// the run (full for `hiRes` 1, otherwise preview); `foregroundLowRes` at preview size feeds the measurement.
-/// `ignored` is ignored. A run that is superseded while the skin is searched leaves the picture as it was; what `run`
-/// stops may leave a part of it smoothed.
-void SoftenMac(SystemInfo& info, int ignored, const std::uint8_t* foreground, const std::uint8_t* foregroundLowRes,
-               std::uint8_t* picture, int hiRes, const RunContext& run = {});
-
 /// Stores the defaults in `skin` and, if `measure` is set, the measurement of the picture over them.
 void measureSkin(SkinColor& skin, bool measure, const std::uint8_t* rgba, int width, int height);
 

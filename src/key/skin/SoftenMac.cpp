@@ -1,3 +1,5 @@
+#include "key/skin/SoftenMac.h"
+
 #include <array>
 #include <new>
 
@@ -86,12 +88,9 @@ PixelBuffer blurred(const RunContext& run, const std::uint8_t* picture, int widt
 
 void SoftenMac(SystemInfo& info, int, const std::uint8_t* foreground, const std::uint8_t* foregroundLowRes,
                std::uint8_t* picture, int hiRes, const RunContext& run) {
-    const bool full = hiRes == 1;
-    const int width = full ? info.iOutputPixelWidth : info.iOutputPixelLowResWidth;
-    const int height = full ? info.iOutputPixelHeight : info.iOutputPixelLowResHeight;
+    const PassGeometry size = info.geometry(fullIf(hiRes == 1));
+    const int width = size.width, height = size.height, dpi = size.dpi < 20 ? 300 : size.dpi;
     if (!foreground || !picture || width < 1 || height < 1) return;
-    int dpi = full ? info.iOutputImageDPI : info.iOutputImageLowResDPI;
-    if (dpi < 20) dpi = 300;
     const double wanted = static_cast<double>(dpi) * info.iColorDelta / 100.0 * 0.125;
     const int radius = static_cast<int>(clampTo(wanted, 0.0, std::max(width, height)));
 

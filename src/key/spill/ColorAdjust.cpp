@@ -1,7 +1,7 @@
 #include "key/spill/ColorAdjust.h"
 
 #include "key/pixel/FinishConstants.h"
-#include "key/pixel/OnePixel.h"
+#include "key/pixel/PixelSteps.h"
 
 namespace tavrin {
 

@@ -49,11 +49,10 @@ Rgb markSearched(const Rgb& f, double amount) {
 
 }  // namespace
 
-SpillLayers SpillLayers::of(const SystemInfo& info, int hiRes) {
-    const RunSize size = runSize(info, hiRes);
-    const BitmapInfo &front = *info.pForegroundBitmapInfo, &back = *info.pBackgroundBitmapInfo;
-    if (hiRes == 0) return {front.pBitmapDataLowRes, back.pBitmapDataLowRes, size.width, size.height};
-    return {front.pBitmapData, back.pBitmapData, size.width, size.height};
+SpillLayers SpillLayers::of(const SystemInfo& info, Resolution resolution) {
+    const PassGeometry size = info.geometry(resolution);
+    return {info.pForegroundBitmapInfo->bytes(resolution), info.pBackgroundBitmapInfo->bytes(resolution), size.width,
+            size.height};
 }
 
 SpillKey::SpillKey(const SystemInfo& info, const SpillLayers& layers)

@@ -6,7 +6,7 @@
 #include <QImage>
 
 #include "key/pixel/CombineParams.h"
-#include "key/pixel/OnePixel.h"
+#include "key/pixel/PixelSteps.h"
 #include "key/spill/ColorAdjust.h"
 #include "key/spill/DarkHair.h"
 
@@ -29,8 +29,7 @@ struct SpillLayers {
     const std::uint8_t* background = nullptr;
     int width = 0, height = 0;
 
-    /// The buffers of the preview (hiRes 0) or of the full picture.
-    static SpillLayers of(const SystemInfo& info, int hiRes);
+    static SpillLayers of(const SystemInfo& info, Resolution resolution);
 };
 
 /// What the key makes of a pixel.

@@ -8,10 +8,10 @@
 namespace tavrin {
 
 /// What may overrule the key's decision, in this order: the hair correction, then the green guard. Fixed for a run.
-class KeyJoins {
+class KeyOverrides {
   public:
     /// Builds the guard's bitmap when `iGreenProtectMode` is not 0, and the constants of the hair correction.
-    KeyJoins(const SystemInfo& info, const CombineParams& params, bool hiRes);
+    KeyOverrides(const SystemInfo& info, const CombineParams& params, Resolution resolution);
 
     /// The run was overtaken while the guard was being built, and its pixel loop must not start.
     bool isSuperseded() const { return superseded_; }

@@ -1,4 +1,4 @@
-#include "key/pixel/OnePixel.h"
+#include "key/pixel/PixelSteps.h"
 
 #include <cstring>
 

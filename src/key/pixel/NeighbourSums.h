@@ -8,14 +8,14 @@ namespace tavrin {
 
 /// What lies around pixels side by side in a row: for each the sums of the 5 x 5 block around it without itself, as
 /// far as it lies in the picture, channel by channel as stored, and the number of pixels in it.
-struct Surroundings {
+struct NeighbourSums {
     alignas(64) std::int32_t r[KeyedRun::kMaxPixels], g[KeyedRun::kMaxPixels], b[KeyedRun::kMaxPixels];
     alignas(64) std::int32_t pixels[KeyedRun::kMaxPixels];
 };
 
 /// Sums up around `count` pixels from (x, y) on, all of them in the picture of width x height RGBA pixels. Alphas are
 /// not read. The last vector's places beyond the pixels become 0.
-void sumSurroundings(const std::uint8_t* picture, int width, int height, int x, int y, int count,
-                     Surroundings& around);
+void sumNeighbours(const std::uint8_t* picture, int width, int height, int x, int y, int count,
+                   NeighbourSums& around);
 
 }  // namespace tavrin

@@ -1,4 +1,4 @@
-#include "key/pixel/Surroundings.h"
+#include "key/pixel/NeighbourSums.h"
 
 #include <algorithm>
 #include <array>
@@ -16,8 +16,8 @@ std::uint64_t channels(const std::uint8_t* p) {
 
 }  // namespace
 
-void sumSurroundings(const std::uint8_t* picture, int width, int height, int x, int y, int count,
-                     Surroundings& around) {
+void sumNeighbours(const std::uint8_t* picture, int width, int height, int x, int y, int count,
+                   NeighbourSums& around) {
     const int top = std::max(y - kReach, 0), bottom = std::min(y + kReach, height - 1);
     const int left = std::max(x - kReach, 0), right = std::min(x + count - 1 + kReach, width - 1);
     std::array<std::uint64_t, KeyedRun::kMaxPixels + 2 * kReach> columns;  // from x - kReach on

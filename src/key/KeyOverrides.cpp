@@ -1,4 +1,4 @@
-#include "key/KeyJoins.h"
+#include "key/KeyOverrides.h"
 
 #include "key/pixel/ChannelRoles.h"
 
@@ -26,20 +26,20 @@ HairNumbers hairNumbers(const CombineParams& params) {
 
 }  // namespace
 
-KeyJoins::KeyJoins(const SystemInfo& info, const CombineParams& params, bool hiRes)
+KeyOverrides::KeyOverrides(const SystemInfo& info, const CombineParams& params, Resolution resolution)
     : width_(params.size.width),
       blueLogic_(params.key.blueLogic),
       hair_(info, hairNumbers(params)),
       mode_(info.iGreenProtectMode) {
     if (mode_ == 0) return;
-    guarded_ = guard_.build(info, params.foreground, params.size.width, params.size.height, hiRes);
-    superseded_ = !guarded_ && hiRes && info.isStale();
+    guarded_ = guard_.build(info, {params.foreground, params.size.width, params.size.height}, resolution);
+    superseded_ = !guarded_ && resolution == Resolution::full && info.isStale();
     removeInside_ = info.bRemoveInsideBaseGreen;
     showGuard_ = guarded_ && info.bShowGreenProtection;
     caption_ = mode_ == 2 ? guard_.shirtColor() : meanHairColor(info);
 }
 
-void KeyJoins::overrule(KeyedRun& run) const {
+void KeyOverrides::overrule(KeyedRun& run) const {
     if (hair_.active) {
         for (int i = 0; i < run.count; ++i) {
             if (run.hardBackground[i] == 0.0) correctHairAt(run, i);
@@ -52,7 +52,7 @@ void KeyJoins::overrule(KeyedRun& run) const {
     }
 }
 
-void KeyJoins::correctHairAt(KeyedRun& run, int i) const {
+void KeyOverrides::correctHairAt(KeyedRun& run, int i) const {
     const std::uint8_t* raw = run.foregroundBytes(i);
     const ChannelRoles roles(blueLogic_);
     HairPixel hair{run.x + i,       run.y,          raw[0],      raw[roles.green],
@@ -65,7 +65,7 @@ void KeyJoins::correctHairAt(KeyedRun& run, int i) const {
     run.alpha[i] = hair.alpha;
 }
 
-void KeyJoins::takeRaw(KeyedRun& run, int i) const {
+void KeyOverrides::takeRaw(KeyedRun& run, int i) const {
     const std::uint8_t* raw = run.foregroundBytes(i);
     const ChannelRoles roles(blueLogic_);
     run.r[i] = raw[0];
@@ -74,7 +74,7 @@ void KeyJoins::takeRaw(KeyedRun& run, int i) const {
     run.alpha[i] = 1.0;
 }
 
-void KeyJoins::showGuard(KeyedRun& run, bool alphaOnly) const {
+void KeyOverrides::showGuard(KeyedRun& run, bool alphaOnly) const {
     if (!showGuard_) return;
     for (int i = 0; i < run.count; ++i) {
         run.alpha[i] = 1.0;
