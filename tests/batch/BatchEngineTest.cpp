@@ -289,6 +289,8 @@ TEST_F(BatchEngineTest, BuffersOfANewSizeAreNotSavedBeforeThereIsAPictureInThem)
     portrait("fg/a.png");
     portrait("fg/b.png");
     background("bg/sea.png", QColor(20, 60, 200));
+    info_->pForegroundBitmapInfo->sSourceImageFullPath = folder_.file("fg/b.png");
+    info_->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file("bg/sea.png");
     const auto other = test::stateForOutput(60, 40, 40);
     selectOwnSize(*other, "mine", 0.75, 0.5, 120);
     ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/mine.qlx")), "");
