@@ -10,6 +10,7 @@
 #include <QString>
 
 #include "core/files/NameText.h"
+#include "core/image/FileKind.h"
 #include "folders/BatchList.h"
 #include "folders/BatchNames.h"
 #include "folders/FileFacts.h"
@@ -40,6 +41,19 @@ void sortByFixedRules(std::vector<std::string>& names) {
     }
     std::sort(keyed.begin(), keyed.end());
     std::transform(keyed.begin(), keyed.end(), names.begin(), [](auto& entry) { return std::move(entry.second); });
+}
+
+/// What a folder of pictures may hold; photos alone are what the desktop program takes.
+const std::vector<std::string>& pictureExtensions() {
+    static const std::vector<std::string> known = [] {
+        std::vector<std::string> all = photoExtensions();
+        for (const char* more : {"GIF", "WEBP", "HEIC", "HEIF", "AVIF", "BMP", "PSD"})
+            all.emplace_back(more);
+        for (const std::string& raw : rawExtensions())
+            all.push_back(raw);
+        return all;
+    }();
+    return known;
 }
 
 /// @param problem set when a folder cannot be read
@@ -117,6 +131,7 @@ class Planner {
             planCombinations();
         }
         if (!list_.problem.empty()) list_.jobs.clear();
+        if (sources_.listFile.empty()) findPassedOver();
         for (std::size_t i = 0; i < list_.jobs.size(); ++i)
             list_.jobs[i].number = static_cast<int>(i) + 1;
         if (sources_.listFile.empty()) nameOutputs();
@@ -129,8 +144,8 @@ class Planner {
         const Entries states =
             orOneEmpty(entriesOf(sources_.states, {"QLX"}, accept_, list_.problem), sources_.states);
         const Entries backgrounds = orOneEmpty(
-            entriesOf(sources_.backgrounds, photoExtensions(), accept_, list_.problem), sources_.backgrounds);
-        const Entries foregrounds = entriesOf(sources_.foregrounds, photoExtensions(), accept_, list_.problem);
+            entriesOf(sources_.backgrounds, pictureExtensions(), accept_, list_.problem), sources_.backgrounds);
+        const Entries foregrounds = entriesOf(sources_.foregrounds, pictureExtensions(), accept_, list_.problem);
         for (const Entry& state : states) {
             for (const Entry& background : backgrounds) {
                 for (const Entry& foreground : foregrounds)
@@ -142,7 +157,7 @@ class Planner {
     void planSubfolders() {
         const Entries states =
             orOneEmpty(entriesOf(sources_.states, {"QLX"}, accept_, list_.problem), sources_.states);
-        const Entries backgrounds = entriesOf(sources_.backgrounds, photoExtensions(), accept_, list_.problem);
+        const Entries backgrounds = entriesOf(sources_.backgrounds, pictureExtensions(), accept_, list_.problem);
         for (const Entry& state : states) {
             for (const std::string& folder : foldersIn(sources_.foregrounds, list_.problem)) {
                 const auto match =
@@ -151,7 +166,7 @@ class Planner {
                     });
                 if (match == backgrounds.rend()) continue;
                 for (Entry& foreground :
-                     entriesOf(sources_.foregrounds + "/" + folder, photoExtensions(), accept_, list_.problem)) {
+                     entriesOf(sources_.foregrounds + "/" + folder, pictureExtensions(), accept_, list_.problem)) {
                     foreground.name = folder + "/" + foreground.name;
                     list_.jobs.push_back(jobOf(foreground, *match, state));
                 }
@@ -167,6 +182,7 @@ class Planner {
         defaults.outputFolder = sources_.out;
         defaults.outputFileType = sources_.fileType;
         defaults.outputStyle = sources_.style;
+        defaults.betweenNames = sources_.betweenNames;
         int number = 1;
         const BatchList list = parseBatchList(file.text, defaults, number, INT_MAX, [](const std::string&) {});
         if (list.unclosedLine > 0) {
@@ -193,12 +209,29 @@ class Planner {
         return job;
     }
 
+    /// Files beside the portraits and the backgrounds that nothing is made of, hidden ones aside.
+    void findPassedOver() {
+        for (const std::string& place : {sources_.foregrounds, sources_.backgrounds}) {
+            std::error_code ignored;
+            if (!fs::is_directory(place, ignored)) continue;
+            std::vector<std::string> names = listFolder(place).names;
+            sortByFixedRules(names);
+            const std::vector<std::string> taken = namesInFolder(place, pictureExtensions());
+            const std::set<std::string> pictures(taken.begin(), taken.end());
+            for (const std::string& name : names) {
+                const std::string path = place + "/" + name;
+                if (name[0] != '.' && !pictures.contains(name) && !fs::is_directory(path, ignored))
+                    list_.passedOver.push_back(path);
+            }
+        }
+    }
+
     void nameOutputs() {
         for (BatchJob& job : list_.jobs) {
             job.fileType = sources_.fileType;
             const BatchSources named = {job.foreground, orCurrent(job.background), orCurrent(job.state)};
             const auto makesNothing = [](const std::string&) {};
-            if (sources_.style == kCombineNames) job.out = combinedName(sources_.out, named);
+            if (sources_.style == kCombineNames) job.out = combinedName(sources_.out, named, sources_.betweenNames);
             if (sources_.style == kSplitIntoFolders) job.out = splitName(sources_.out, named, makesNothing);
             job.out += job.out.empty() ? "" : extensionFor(job.fileType);
         }

@@ -60,14 +60,13 @@ void apply(SystemInfo& info, const JobSwitches& switches) {
 std::unique_ptr<SystemInfo> PictureMaker::prepare(const BatchJob& job, std::string& problem) const {
     auto info = std::make_unique<SystemInfo>();
     startLike(*info, base_);
-    LoadedStateFile loaded;
-    if (!job.state.empty()) loaded = loadStateFile(*info, job.state);
+    const LoadedStateFile loaded = job.state.empty() ? start_(*info) : loadStateFile(*info, job.state);
     problem = loaded.problem;
     if (problem.empty()) {
         if (job.switches) apply(*info, *job.switches);
         info->pForegroundBitmapInfo->sSourceImageFullPath = job.foreground;
         if (!job.background.empty()) info->pBackgroundBitmapInfo->sSourceImageFullPath = job.background;
-        problem = settings_(*info, job.state.empty() ? nullptr : &loaded);
+        problem = settings_(*info, loaded);
     }
     if (problem.empty() && info->pBackgroundBitmapInfo->sSourceImageFullPath.empty())
         problem = "there is no background for it";
@@ -91,6 +90,7 @@ const PictureMaker::Recipe& PictureMaker::recipe(const BatchJob& job) {
         if (info) {
             known.background = info->pBackgroundBitmapInfo->sSourceImageFullPath;
             known.digest = digestOfSettings(*info);
+            if (choosesScreens_ && !job.switches) known.digest = digestOfText("either screen, " + known.digest);
             known.files = filesNamedBy(*info);
         }
     }
@@ -126,6 +126,8 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     made.problem = textProblem(*info);
     if (!made.problem.empty()) return made;
     info->pInterface = &alerts;
+    PictureCheck check(choosesScreens_ && !job.switches);
+    check.lookAtPortrait(*info, foreground.pixels);
     info->readSource = [&](const std::string& path) {
         return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;
     };
@@ -137,6 +139,7 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     made.problem = info->whyNotFinished(1);
     if (!made.problem.empty()) return made;
     made.leftOut = alerts.all;
+    made.warnings = check.warnings(*info, 1);
     const PassGeometry size = info->geometry(1);
     made.width = size.width;
     made.height = size.height;

@@ -1,6 +1,7 @@
 #include "pipeline/StateFile.h"
 
 #include "formats/ImageState.h"
+#include "formats/Installation.h"
 #include "pipeline/OutputSize.h"
 
 namespace tavrin {
@@ -17,13 +18,13 @@ bool isNewSize(const SystemInfo& info, const OutputGeometry& before) {
             size->dotsPerInch != before.iOutputImageDPI);
 }
 
-}  // namespace
-
-LoadedStateFile loadStateFile(SystemInfo& info, const std::string& path) {
+/// @param load reads the settings and the size that is stored beside them, and returns what is wrong
+template <class Load>
+LoadedStateFile loadAs(const std::string& path, SystemInfo& info, const Load& load) {
     LoadedStateFile loaded;
     StoredSize stored;
     OutputGeometry geometry = info;
-    loaded.problem = LoadImageStateFromXML(info, path, kLoadAll, &stored);
+    loaded.problem = load(stored);
     if (!loaded.problem.empty()) return loaded;
     geometry.dOrgImageScale = info.dOrgImageScale;  // these two are kept for the file alone
     geometry.dImageSliderScale = info.dImageSliderScale;
@@ -32,6 +33,20 @@ LoadedStateFile loadStateFile(SystemInfo& info, const std::string& path) {
     if (!loaded.sizeProblem.empty()) loaded.sizeProblem = path + ": " + loaded.sizeProblem;
     loaded.newSize = isNewSize(info, geometry);
     return loaded;
+}
+
+}  // namespace
+
+LoadedStateFile loadStateFile(SystemInfo& info, const std::string& path) {
+    return loadAs(path, info,
+                  [&](StoredSize& stored) { return LoadImageStateFromXML(info, path, kLoadAll, &stored); });
+}
+
+LoadedStateFile loadShippedState(SystemInfo& info) {
+    const char* const name = "Default.qlx";
+    return loadAs(name, info, [&](StoredSize& stored) {
+        return LoadImageStateFromBytes(info, name, shippedFile(name), &stored);
+    });
 }
 
 std::string openStateFile(SystemInfo& info, const std::string& path) {

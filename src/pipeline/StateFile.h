@@ -18,6 +18,9 @@ struct LoadedStateFile {
 /// that is opened, at start, by hand, for a batch or on the command line, comes in this way.
 [[nodiscard]] LoadedStateFile loadStateFile(SystemInfo& info, const std::string& path);
 
+/// The same for the state that the program ships, which lies in the program itself and is the same on every machine.
+[[nodiscard]] LoadedStateFile loadShippedState(SystemInfo& info);
+
 /// Loads a state file as the user's choice and flags what a pass must redo. The size of the buffers stays until the
 /// next pass takes the file's size. A size that cannot be had is told in an alert, and the present one stays. Call it
 /// where no stage runs: before the loop starts, or as a job of the loop's (`CombineThread::post`).

@@ -37,13 +37,11 @@ std::uint32_t number(const Bytes& head, std::size_t offset, std::size_t count, b
 }
 
 bool hasRawExtension(const std::string& path) {
-    static constexpr std::array<std::string_view, 22> raw = {
-        ".3fr", ".arw", ".cr2", ".dcr", ".dng", ".erf", ".fff", ".iiq", ".k25", ".kdc", ".mef",
-        ".mos", ".nef", ".nrw", ".orf", ".pef", ".raw", ".rw2", ".rwl", ".sr2", ".srf", ".srw"};
     std::string extension = fs::path(path).extension().string();
     for (char& c : extension)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return std::find(raw.begin(), raw.end(), extension) != raw.end();
+        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    const std::vector<std::string>& raw = rawExtensions();
+    return !extension.empty() && std::find(raw.begin(), raw.end(), extension.substr(1)) != raw.end();
 }
 
 // A digital negative says so in its first directory (tag DNGVersion).
@@ -118,6 +116,13 @@ std::string statusError(const std::string& path) {
 }
 
 }  // namespace
+
+const std::vector<std::string>& rawExtensions() {
+    static const std::vector<std::string> known = {"3FR", "ARW", "CR2", "CR3", "DCR", "DNG", "ERF", "FFF",
+                                                   "IIQ", "K25", "KDC", "MEF", "MOS", "NEF", "NRW", "ORF",
+                                                   "PEF", "RAF", "RAW", "RW2", "RWL", "SR2", "SRF", "SRW"};
+    return known;
+}
 
 FileProbe probeFile(const std::string& path) {
     FileProbe probe;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace tavrin {
 
@@ -21,6 +22,9 @@ inline constexpr double kMaxPicturePixels = 400e6;
 /// Looks at a file's first bytes. The name counts only to tell camera raw files that are TIFF files by their first
 /// bytes from other TIFF files.
 FileProbe probeFile(const std::string& path);
+
+/// Extensions of camera raw files, in capitals and without the dot.
+const std::vector<std::string>& rawExtensions();
 
 /// Why a picture of this size is refused, or an empty string.
 std::string sizeError(double width, double height);
