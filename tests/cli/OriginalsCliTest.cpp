@@ -148,7 +148,7 @@ TEST_F(OriginalsCliTest, ABatchReplacesOnlyWhatItMade) {
         }
         test::writeFile(entry.path().string(), begun);
     }
-    EXPECT_TRUE(test::runCli(batch()).err.startsWith("2 pictures made, in"));
+    EXPECT_TRUE(test::runCli(batch()).err.startsWith("tavrin-cli: 2 pictures made, in"));
 
     // Without the journal nobody knows whose the pictures are. Numbers go on behind them.
     fs::remove_all(folder_.path() / "out" / ".tavrin-batch");
@@ -165,8 +165,8 @@ TEST_F(OriginalsCliTest, ABatchReplacesOnlyWhatItMade) {
 
 TEST_F(OriginalsCliTest, WhatIsThereIsWhatTheJournalSays) {
     const QStringList other = {"--set", "foreground.iContrast=80"};
-    ASSERT_TRUE(test::runCli(batch()).err.startsWith("2 pictures made"));
-    ASSERT_TRUE(test::runCli(batch(other)).err.startsWith("2 pictures made"));
+    ASSERT_TRUE(test::runCli(batch()).err.startsWith("tavrin-cli: 2 pictures made"));
+    ASSERT_TRUE(test::runCli(batch(other)).err.startsWith("tavrin-cli: 2 pictures made"));
     // A kill between the second pictures and their records: those of the first stand under the names no longer.
     const std::string journal = folder_.file("out/.tavrin-batch/");
     const auto forEachLine = [&journal](const auto& use) {
@@ -186,15 +186,15 @@ TEST_F(OriginalsCliTest, WhatIsThereIsWhatTheJournalSays) {
         return true;
     });
     forEachLine([&](const std::string& line) { return !isDone(line) || orderOf(line) <= earliest + 2; });
-    EXPECT_TRUE(test::runCli(batch()).err.startsWith("2 pictures made, in"));
+    EXPECT_TRUE(test::runCli(batch()).err.startsWith("tavrin-cli: 2 pictures made, in"));
 
     // A file counts by its contents, also when its name has no folder.
     fs::current_path(folder_.path());
     const QStringList laced = {"--overlay-frame", "lace.png"};
-    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("2 pictures made"));
-    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("0 pictures made"));
+    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("tavrin-cli: 2 pictures made"));
+    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("tavrin-cli: 0 pictures made"));
     test::savePng(test::noisePicture(60, 36, 9), folder_.file("lace.png"));
-    EXPECT_TRUE(test::runCli(batch(laced)).err.startsWith("2 pictures made"));
+    EXPECT_TRUE(test::runCli(batch(laced)).err.startsWith("tavrin-cli: 2 pictures made"));
 }
 
 TEST_F(OriginalsCliTest, LinksAreNotFollowedOutOfTheFolderAndReadOnlyPicturesStay) {
@@ -243,7 +243,7 @@ TEST_F(OriginalsCliTest, GuestsWhoseNamesAreNoTextKeepTheirPictures) {
     const std::string first = test::readFile(folder_.file("out/BatchFile1.jpg"));
     guest("M\xfcller.png", QColor(60, 60, 200));
     auto outcome = test::runCli(numbered);
-    EXPECT_TRUE(outcome.err.startsWith("1 picture made, 1 made before")) << outcome.err.toStdString();
+    EXPECT_TRUE(outcome.err.startsWith("tavrin-cli: 1 picture made, 1 made before")) << outcome.err.toStdString();
     EXPECT_TRUE(outcome.out.contains("M\\udcfcller.png")) << outcome.out.toStdString();
     EXPECT_EQ(test::readFile(folder_.file("out/BatchFile1.jpg")), first);
     EXPECT_NE(test::readFile(folder_.file("out/BatchFile2.jpg")), first);
