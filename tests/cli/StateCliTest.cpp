@@ -69,7 +69,7 @@ TEST_F(StateCliTest, AnOwnSizeComesBackWithItsState) {
                                      "</ImageSizeList>");
     const test::CliOutcome made = run(batch, account);
     ASSERT_EQ(made.code, 0) << made.err.toStdString();
-    EXPECT_EQ(QImage(file("done/fgset.png")), first);
+    EXPECT_EQ(QImage(file("done/fg_set.png")), first);
 
     ASSERT_EQ(run({"state", "set", file("own.qlx"), file("no.qlx"), "iOutputImageDPI=0"}).code, 0);
     const test::CliOutcome refused = run({"render", "--bare", "--state", file("no.qlx"), "--out", file("c.png")});
@@ -161,7 +161,7 @@ TEST_F(StateCliTest, NumbersHaveAFullStopInEveryLocale) {
 
 TEST_F(StateCliTest, ADamagedSizeListIsToldOnceAndPicturesAreMadeAllTheSame) {
     const auto account = accountWith("ImageSize.xml", "<ImageSizeList><Ima");
-    const QStringList render = renderTo("a.png", {"--preview"});
+    const QStringList render = renderTo("a.png", {"--preview", "--quiet"});
     const test::CliOutcome first = run(render, account);
     EXPECT_EQ(first.code, 0);
     EXPECT_EQ(first.err.count('\n'), 1);
