@@ -13,7 +13,7 @@ namespace tavrin {
 
 namespace {
 
-// Found with 33 portraits on screens and 25 other pictures; docs/key-quality.md tells how far each is from the next
+// Found with 35 portraits on screens and 22 other pictures; docs/key-quality.md tells how far each is from the next
 // picture on either side.
 constexpr double kPixelsToSee = 40'000.0;
 constexpr int kDarkest = 30;   // below it a hue means nothing
