@@ -120,7 +120,7 @@ Cost runBatch(const fs::path& folder, const fs::path& out, int inHand) {
     if (child == 0) {
         const std::string jobs = std::to_string(inHand);
         if (!std::freopen("/dev/null", "w", stdout)) std::_Exit(1);
-        execl(TAVRIN_CLI, "tavrin-cli", "batch", "--foregrounds", folder.c_str(), "--backgrounds",
+        execl(TAVRIN_CLI, "tavrin-cli", "batch", "--bare", "--foregrounds", folder.c_str(), "--backgrounds",
               TAVRIN_SOURCE_DIR "/data/sample/background.jpg", "--out", out.c_str(), "--inches", "8x10", "--dpi",
               "300", "--jobs", jobs.c_str(), static_cast<char*>(nullptr));
         std::_Exit(1);

@@ -80,6 +80,7 @@ struct Setting {
         if (child != 0) return child;
         std::vector<std::string> arguments = {cli,
                                               "batch",
+                                              "--bare",
                                               "--foregrounds",
                                               portraits().string(),
                                               "--backgrounds",

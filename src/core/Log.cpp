@@ -8,7 +8,8 @@
 namespace tavrin {
 
 namespace {
-std::atomic<bool> traceOn = false;
+std::atomic<bool> traceOn = false, quiet = false;
+std::string errorStart;
 
 // One call a line, so that lines of several threads do not mix. Many hold names of files.
 void writeLine(const std::string& line) {
@@ -22,7 +23,19 @@ void logTrace(const std::string& line) {
 }
 
 void logError(const std::string& line) {
-    writeLine(line);
+    writeLine(errorStart + line);
+}
+
+void logWarning(const std::string& line) {
+    if (!quiet.load(std::memory_order_relaxed)) writeLine(errorStart + "warning: " + line);
+}
+
+void setQuietLog(bool on) {
+    quiet.store(on, std::memory_order_relaxed);
+}
+
+void setLogName(const std::string& program) {
+    errorStart = program.empty() ? program : program + ": ";
 }
 
 void setTraceLog(bool on) {

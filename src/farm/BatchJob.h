@@ -16,6 +16,7 @@ struct JobSources {
     std::string listFile;             ///< batch list; empty: all combinations
     bool subfolders = false;          ///< foregrounds lie in subfolders that are named like their background
     int style = 1;                    ///< `OutputStyle`
+    std::string betweenNames;         ///< what parts the names in a combined one
     int fileType = 1;
 };
 

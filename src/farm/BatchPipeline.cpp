@@ -97,7 +97,8 @@ class Stages {
 
     void encode(PictureInWork& hand) {
         const BatchJob& job = hand.result.job;
-        const MadePicture& made = hand.made;
+        MadePicture& made = hand.made;
+        hand.result.warnings = std::move(made.warnings);
         std::string problem = tasks_.beforeWrite ? tasks_.beforeWrite(job) : std::string();
         hand.result.diskFull = problem == kDiskFull;
         if (!problem.empty()) return hand.fail(problem, false);

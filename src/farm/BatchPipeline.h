@@ -24,9 +24,10 @@ struct JobResult {
     BatchJob job;
     Status status = Status::failed;
     std::string reason;
-    bool lasting = false;     ///< it failed for what its files are, and would fail again
-    bool incomplete = false;  ///< it failed, but a picture that lacks something was written
-    std::string badFile;      ///< the source that could not be read
+    bool lasting = false;                  ///< it failed for what its files are, and would fail again
+    bool incomplete = false;               ///< it failed, but a picture that lacks something was written
+    std::string badFile;                   ///< the source that could not be read
+    std::vector<PictureWarning> warnings;  ///< of a picture that was made
     bool diskFull = false;
     int width = 0, height = 0;
     double seconds = 0.0;  ///< from the first look at its files to the end

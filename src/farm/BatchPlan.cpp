@@ -31,11 +31,11 @@ std::string keyOf(const std::vector<std::string>& names) {
 /// The jobs of all combinations, or of the portraits in subfolders.
 BatchPlan planFolders(const JobSources& sources, SourceLister lister) {
     const SourceFiles states = lister.listOrNone(sources.states, {"QLX"});
-    const SourceFiles backgrounds = sources.subfolders ? lister.list(sources.backgrounds, photoExtensions())
-                                                       : lister.listOrNone(sources.backgrounds, photoExtensions());
+    const SourceFiles backgrounds = sources.subfolders ? lister.list(sources.backgrounds, pictureExtensions())
+                                                       : lister.listOrNone(sources.backgrounds, pictureExtensions());
     const SourceFiles foregrounds =
         sources.subfolders ? lister.listSubfolders(sources.foregrounds, SubfolderBackgrounds(backgrounds.names))
-                           : lister.list(sources.foregrounds, photoExtensions());
+                           : lister.list(sources.foregrounds, pictureExtensions());
     BatchPlan plan;
     plan.problem = lister.problem;
     const auto take = [&](const Combination& at) {
@@ -79,6 +79,7 @@ BatchPlan planList(const JobSources& sources) {
     defaults.outputFolder = sources.out;
     defaults.outputFileType = sources.fileType;
     defaults.outputStyle = sources.style;
+    defaults.betweenNames = sources.betweenNames;
     int number = 1;
     const ParsedBatchList list = parseBatchList(file.text, defaults, number, INT_MAX, [](const std::string&) {});
     if (list.unclosedLine > 0) {
@@ -99,6 +100,7 @@ BatchPlan planJobs(const JobSources& sources, const GivenNames* given,
     const bool fromList = !sources.listFile.empty();
     BatchPlan plan = fromList ? planList(sources) : planFolders(sources, SourceLister(accept));
     if (!plan.problem.empty()) plan.jobs.clear();
+    if (!fromList) plan.passedOver = findPassedOver(sources);
     for (std::size_t i = 0; i < plan.jobs.size(); ++i)
         plan.jobs[i].number = static_cast<int>(i) + 1;
     if (!fromList) nameOutputs(plan.jobs, sources, given);

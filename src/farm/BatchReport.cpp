@@ -157,6 +157,13 @@ class Merger {
 
 }  // namespace
 
+QJsonArray describeWarnings(const std::vector<PictureWarning>& warnings) {
+    QJsonArray array;
+    for (const PictureWarning& warning : warnings)
+        array.append(QJsonObject{{"kind", textOfName(warning.kind)}, {"text", textOfName(warning.text)}});
+    return array;
+}
+
 std::string describeResult(const JobResult& result, const std::string& outFolder) {
     const BatchJob& job = result.job;
     QJsonObject object{{"n", job.number},
@@ -166,6 +173,7 @@ std::string describeResult(const JobResult& result, const std::string& outFolder
     if (!job.background.empty()) object["background"] = textOfName(job.background);
     if (!job.state.empty()) object["state"] = textOfName(job.state);
     if (!result.reason.empty()) object["reason"] = textOfName(result.reason);
+    if (!result.warnings.empty()) object["warnings"] = describeWarnings(result.warnings);
     if (result.status == JobResult::Status::done) {
         object["width"] = result.width;
         object["height"] = result.height;

@@ -6,6 +6,8 @@
 
 #include "farm/BatchPipeline.h"
 
+class QJsonArray;
+
 namespace tavrin {
 
 /// How many pictures of a run came to what end.
@@ -14,6 +16,9 @@ struct BatchCounts {
     int done = 0, skipped = 0, failed = 0;
     int left() const { return jobs - done - skipped - failed; }
 };
+
+/// Warnings as they stand in reports, in the journal and in what `--json` prints.
+QJsonArray describeWarnings(const std::vector<PictureWarning>& warnings);
 
 /// The line of JSON about one job, without the line's end.
 std::string describeResult(const JobResult& result, const std::string& outFolder);

@@ -76,7 +76,8 @@ std::string BatchRun::run() {
     }
     BatchPlan list = plan();
     if (!list.problem.empty()) return list.problem;
-    if (list.jobs.empty()) observer_.note("There is nothing to make: no JPEG, TIFF or PNG was found for it.");
+    if (list.jobs.empty()) observer_.note("There is nothing to make: no picture was found for it.");
+    tellPassedOver(list.passedOver);
     const Shard& shard = options_.shard;
     report_.begin(std::to_string(shard.index) + "/" + std::to_string(shard.count), static_cast<int>(list.jobs.size()),
                   digestOfList(list.jobs));
@@ -117,6 +118,19 @@ BatchPlan BatchRun::plan(const std::function<bool(const std::string&)>& accept) 
     if (!options_.shard.isWhole()) return planJobs(options_.sources, nullptr, accept);
     const GivenNames given = journal_.givenNames();
     return planJobs(options_.sources, &given, accept);
+}
+
+/// In one line, and each file once in the life of a watch.
+void BatchRun::tellPassedOver(const std::vector<std::string>& paths) {
+    constexpr std::size_t kNamed = 3;
+    std::string names;
+    std::size_t count = 0;
+    for (const std::string& path : paths) {
+        if (!passedOver_.insert(path).second || ++count > kNamed) continue;
+        names += (names.empty() ? "" : ", ") + fs::path(path).filename().string();
+    }
+    if (count > kNamed) names += " and " + std::to_string(count - kNamed) + " more";
+    if (count > 0) observer_.note("warning: passed over as no pictures by their names: " + names + ".");
 }
 
 void BatchRun::tellPlan(std::vector<BatchJob> jobs) {
@@ -203,6 +217,7 @@ void BatchRun::record(const JobResult& result) {
     record.recipe = result.recipe;
     record.inputs = result.inputs;
     record.reason = result.reason;
+    record.warnings = result.warnings;
     const std::string problem = journal_.add(record);
     if (!problem.empty())
         observer_.note(record.out + " is not in the journal, so a later run makes it again: " + problem + ".");

@@ -65,6 +65,7 @@ class BatchRun {
   private:
     std::string begin();
     BatchPlan plan(const std::function<bool(const std::string&)>& accept = nullptr) const;
+    void tellPassedOver(const std::vector<std::string>& paths);
     void tellPlan(std::vector<BatchJob> jobs);
     void make(const std::vector<BatchJob>& jobs);
     void watchFolders();
@@ -108,6 +109,7 @@ class BatchRun {
     std::unordered_map<std::string, std::chrono::steady_clock::time_point> unreadable_;
     std::string watchProblem_;                ///< with the folders, as it was told last
     std::set<std::string> cleared_;           ///< folders from which abandoned parts were removed
+    std::set<std::string> passedOver_;        ///< files that were named as no pictures
     std::set<int> made_;                      ///< numbers of the jobs whose pictures this run made
     std::atomic<bool> outOfRoom_ = false;     ///< the run ends for that
     std::atomic<bool> waitsForRoom_ = false;  ///< it was told

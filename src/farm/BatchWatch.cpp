@@ -64,6 +64,7 @@ void BatchRun::watchFolders() {
         arrivals_.beginLook();
         BatchPlan list = plan([this](const std::string& path) { return arrivals_.isComplete(path); });
         tellWatchProblem(list.problem.empty() ? missingPlace() : list.problem);
+        tellPassedOver(list.passedOver);
         std::erase_if(list.jobs, [this](const BatchJob& job) { return isHandled(job); });
         const Clock::duration lookPause = (Clock::now() - look) * kPauseForLook;
         const Clock::duration pause =

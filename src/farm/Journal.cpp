@@ -19,6 +19,7 @@
 #include "core/files/AtomicFile.h"
 #include "core/files/FileIdentity.h"
 #include "core/files/NameText.h"
+#include "farm/BatchReport.h"
 
 namespace fs = std::filesystem;
 
@@ -65,6 +66,7 @@ std::string lineOf(const JobRecord& record) {
                        {"recipe", textOfName(record.recipe)},
                        {"inputs", inputs}};
     if (!record.reason.empty()) object["reason"] = textOfName(record.reason);
+    if (!record.warnings.empty()) object["warnings"] = describeWarnings(record.warnings);
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + "\n";
 }
 
@@ -86,6 +88,10 @@ std::optional<JobRecord> recordOf(const std::string& line) {
     record.reason = nameOfText(object["reason"].toString());
     for (const auto& input : object["inputs"].toArray())
         record.inputs.push_back(inputOf(input.toObject()));
+    for (const auto& warning : object["warnings"].toArray()) {
+        const QJsonObject told = warning.toObject();
+        record.warnings.push_back({nameOfText(told["kind"].toString()), nameOfText(told["text"].toString())});
+    }
     return record;
 }
 

@@ -10,6 +10,7 @@
 
 #include "farm/OutputNames.h"
 #include "folders/FileFacts.h"
+#include "pipeline/PictureCheck.h"
 
 namespace tavrin {
 
@@ -28,7 +29,8 @@ struct JobRecord {
     Status status = Status::begun;
     std::string recipe;  ///< digest of all settings in force
     std::vector<InputFile> inputs;
-    std::string reason;      ///< why it failed
+    std::string reason;                    ///< why it failed
+    std::vector<PictureWarning> warnings;  ///< what was said of the picture
     std::int64_t order = 0;  ///< of two records the later counts; 0 in records of old versions, which come first
     std::int64_t time = 0;   ///< of the record, milliseconds; decides where the order does not
 };

@@ -73,7 +73,7 @@ void nameOutputs(std::vector<BatchJob>& jobs, const JobSources& sources, const G
         job.fileType = sources.fileType;
         const BatchSources named = {job.foreground, orCurrent(job.background), orCurrent(job.state)};
         const auto makesNothing = [](const std::string&) {};
-        if (sources.style == kCombineNames) job.out = combinedName(sources.out, named);
+        if (sources.style == kCombineNames) job.out = combinedName(sources.out, named, sources.betweenNames);
         if (sources.style == kSplitIntoFolders) job.out = splitName(sources.out, named, makesNothing);
         job.out += job.out.empty() ? "" : extensionFor(job.fileType);
     }

@@ -55,14 +55,13 @@ std::string digestOfSettings(const SystemInfo& info) {
 std::unique_ptr<SystemInfo> PictureMaker::prepare(const BatchJob& job, std::string& problem) const {
     auto info = std::make_unique<SystemInfo>();
     startLike(*info, base_);
-    LoadedState loaded;
-    if (!job.state.empty()) loaded = loadState(*info, job.state);
+    const LoadedState loaded = job.state.empty() ? start_(*info) : loadState(*info, job.state);
     problem = loaded.problem;
     if (problem.empty()) {
         if (job.switches) useSwitches(*info, *job.switches);
         setForeground(*info, job.foreground);
         if (!job.background.empty()) setBackground(*info, job.background);
-        problem = settings_(*info, job.state.empty() ? nullptr : &loaded);
+        problem = settings_(*info, loaded);
     }
     if (problem.empty() && info->pBackgroundBitmapInfo->sSourceImageFullPath.empty())
         problem = "there is no background for it";
@@ -86,6 +85,7 @@ const PictureMaker::Recipe& PictureMaker::recipe(const BatchJob& job) {
         if (info) {
             known.background = info->pBackgroundBitmapInfo->sSourceImageFullPath;
             known.digest = digestOfSettings(*info);
+            if (choosesScreens_ && !job.switches) known.digest = digestOfText("either screen, " + known.digest);
             known.files = filesNamedBy(*info);
         }
     }
@@ -121,6 +121,8 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     made.problem = textProblem(*info);
     if (!made.problem.empty()) return made;
     info->pInterface = &alerts;
+    PictureCheck check(choosesScreens_ && !job.switches);
+    check.lookAtPortrait(*info, foreground.pixels);
     info->readSource = [&](const std::string& path) {
         return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;
     };
@@ -132,6 +134,7 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     made.problem = info->whyNotFinished(Resolution::full);
     if (!made.problem.empty()) return made;
     made.leftOut = alerts.all;
+    made.warnings = check.warnings(*info, Resolution::full);
     const PassGeometry size = info->geometry(Resolution::full);
     made.width = size.width;
     made.height = size.height;

@@ -11,14 +11,18 @@
 #include "core/state/SystemInfo.h"
 #include "farm/BatchJob.h"
 #include "folders/FileFacts.h"
+#include "pipeline/PictureCheck.h"
 #include "session/States.h"
 
 namespace tavrin {
 
 /// Puts the caller's settings into a state that has just been made from the job's state file, output size included.
-/// @param loaded what came of the state file; null where the job has none
+/// @param loaded what came of the state file, or of the settings that a job without one starts from
 /// @return "" or why that cannot be done, as one plain line
-using ApplySettings = std::function<std::string(SystemInfo& info, const LoadedState* loaded)>;
+using ApplySettings = std::function<std::string(SystemInfo& info, const LoadedState& loaded)>;
+
+/// Gives a state that has all defaults the settings that a job without a state file starts from.
+using StartSettings = std::function<LoadedState(SystemInfo& info)>;
 
 /// A finished picture, and why there is none otherwise.
 struct MadePicture {
@@ -27,6 +31,7 @@ struct MadePicture {
     std::vector<std::uint8_t> exif;
     std::string problem;  ///< empty when there is a picture
     std::string leftOut;  ///< what is missing in it, empty for nothing
+    std::vector<PictureWarning> warnings;
 };
 
 /// Makes the picture of one job after another, each from a state of its own, by the whole pass of the processing
@@ -35,7 +40,11 @@ struct MadePicture {
 class PictureMaker {
   public:
     /// @param base a state that `startCommandLine` brought up; it has to outlive this
-    PictureMaker(const SystemInfo& base, ApplySettings settings) : base_(base), settings_(std::move(settings)) {}
+    PictureMaker(const SystemInfo& base, StartSettings start, ApplySettings settings)
+        : base_(base), start_(std::move(start)), settings_(std::move(settings)) {}
+
+    /// From here on each picture is keyed as green or blue as its portrait shows it, except where a list says which.
+    void chooseScreens() { choosesScreens_ = true; }
 
     /// The state for a job, with its files named and not read.
     /// @return null after `problem` was set
@@ -63,7 +72,9 @@ class PictureMaker {
     const Recipe& recipe(const BatchJob& job);
 
     const SystemInfo& base_;
+    const StartSettings start_;
     const ApplySettings settings_;
+    bool choosesScreens_ = false;
     std::mutex mutex_;
     std::map<std::string, Recipe> recipes_;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 
 #include <QString>
 
@@ -60,11 +61,28 @@ SourceFiles SourceLister::listSubfolders(const std::string& folder, const Subfol
     SourceFiles files;
     for (const std::string& subfolder : subfoldersOf(folder)) {
         if (!backgrounds.find(subfolder)) continue;
-        SourceFiles inside = list(folder + "/" + subfolder, photoExtensions());
+        SourceFiles inside = list(folder + "/" + subfolder, pictureExtensions());
         for (std::size_t i = 0; i < inside.names.size(); ++i)
             files.add(subfolder + "/" + inside.names[i], std::move(inside.paths[i]));
     }
     return files;
+}
+
+std::vector<std::string> findPassedOver(const JobSources& sources) {
+    std::vector<std::string> paths;
+    for (const std::string& place : {sources.foregrounds, sources.backgrounds}) {
+        std::error_code ignored;
+        if (!fs::is_directory(place, ignored)) continue;
+        std::vector<std::string> names = listFolder(place).names;
+        sortByFixedRules(names);
+        const std::vector<std::string> taken = namesInFolder(place, pictureExtensions());
+        const std::set<std::string> pictures(taken.begin(), taken.end());
+        for (const std::string& name : names) {
+            const std::string path = place + "/" + name;
+            if (name[0] != '.' && !pictures.contains(name) && !fs::is_directory(path, ignored)) paths.push_back(path);
+        }
+    }
+    return paths;
 }
 
 std::vector<std::string> SourceLister::subfoldersOf(const std::string& folder) {

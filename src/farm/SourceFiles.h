@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "farm/BatchJob.h"
 #include "folders/Combinations.h"
 
 namespace tavrin {
@@ -37,5 +38,8 @@ class SourceLister {
 
     const std::function<bool(const std::string& path)>& accept_;
 };
+
+/// Files beside the portraits and the backgrounds of which nothing is made, hidden ones aside.
+std::vector<std::string> findPassedOver(const JobSources& sources);
 
 }  // namespace tavrin

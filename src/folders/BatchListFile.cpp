@@ -98,7 +98,7 @@ class Draft {
         } else if (folderHasName_) {
             job_.sOutputFile = fs::path(folder_).replace_extension().string();
         } else {
-            job_.sOutputFile = combinedName(folder_, stems_);
+            job_.sOutputFile = combinedName(folder_, stems_, defaults_.betweenNames);
         }
         return std::move(job_);
     }

@@ -14,6 +14,7 @@ struct BatchListDefaults {
     std::string outputFolder;
     int outputFileType = 0, outputStyle = 0;
     bool outputTransparency = false, noGreenScreenProcessing = false, blueScreenProcessing = false;
+    std::string betweenNames;       ///< what parts the names that make up a picture's
     bool skipTakenNumbers = false;  ///< a number under which a picture lies already is not given again
 };
 

@@ -39,9 +39,14 @@ int freeNumber(const std::string& folder, int number, int fileType) {
     }
 }
 
-std::string combinedName(const std::string& folder, const BatchSources& sources) {
-    return folder + "/" + stemOrNothing(sources.foreground) + stemOrNothing(sources.background) +
-           stemOrNothing(sources.state);
+std::string combinedName(const std::string& folder, const BatchSources& sources, const std::string& between) {
+    std::string name;
+    for (const std::string& part : {sources.foreground, sources.background, sources.state}) {
+        const std::string stem = stemOrNothing(part);
+        if (!name.empty() && !stem.empty()) name += between;
+        name += stem;
+    }
+    return folder + "/" + name;
 }
 
 std::string splitName(const std::string& folder, const BatchSources& sources, const MakeFolder& makeFolder) {

@@ -24,7 +24,8 @@ void makeFolders(const std::string& folder);
 std::string numberedName(const std::string& folder, int number);
 /// The first number from this one on under which no picture of the type and no state lies in the folder.
 int freeNumber(const std::string& folder, int number, int fileType);
-std::string combinedName(const std::string& folder, const BatchSources& sources);
+/// @param between stands between the stems
+std::string combinedName(const std::string& folder, const BatchSources& sources, const std::string& between = "");
 /// Makes the folders of background and state on the way.
 std::string splitName(const std::string& folder, const BatchSources& sources, const MakeFolder& makeFolder);
 

@@ -33,18 +33,25 @@ std::int32_t countOf(const std::vector<std::string>& names) {
     return static_cast<std::int32_t>(names.size());
 }
 
+std::vector<std::string> extensionsOf(bool onlyWritten) {
+    std::vector<std::string> names;
+    for (const PictureType& type : pictureTypes()) {
+        if (onlyWritten && type.fileType == 0) continue;
+        for (const std::string& extension : type.extensions)
+            names.push_back(upperExtension("x." + extension));
+    }
+    return names;
+}
+
 }  // namespace
 
 const std::vector<std::string>& photoExtensions() {
-    static const std::vector<std::string> known = [] {
-        std::vector<std::string> names;
-        for (const PictureType& type : pictureTypes()) {
-            if (type.fileType == 0) continue;
-            for (const std::string& extension : type.extensions)
-                names.push_back(upperExtension("." + extension));
-        }
-        return names;
-    }();
+    static const std::vector<std::string> known = extensionsOf(true);
+    return known;
+}
+
+const std::vector<std::string>& pictureExtensions() {
+    static const std::vector<std::string> known = extensionsOf(false);
     return known;
 }
 

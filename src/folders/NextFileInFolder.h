@@ -69,6 +69,9 @@ std::vector<std::string> namesInFolder(const std::string& folder, const std::vec
 /// Extensions of what counts as a photo.
 const std::vector<std::string>& photoExtensions();
 
+/// Extensions of every picture that can be read; photos alone are what the desktop program's batch takes.
+const std::vector<std::string>& pictureExtensions();
+
 /// Sorts names as people do: without regard to case, by the rules of the user's language.
 void sortAsPeopleDo(std::vector<std::string>& names);
 

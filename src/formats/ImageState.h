@@ -43,6 +43,10 @@ struct StoredSize {
 [[nodiscard]] std::string LoadImageStateFromXML(SystemInfo& info, const std::string& path, int iLoadMode,
                                                 StoredSize* stored = nullptr);
 
+/// The same in mode 1 for the bytes of a file that lies elsewhere, known by `name`.
+[[nodiscard]] std::string LoadImageStateFromBytes(SystemInfo& info, const std::string& name, const std::string& bytes,
+                                                  StoredSize* stored);
+
 // The objects of a state. Those without a name work on the current element: the caller opens it, or sets it active.
 void saveBitmapInfoToXML(const LayerSettings& record, ProcessXML& xml);
 void loadBitmapInfoFromXML(LayerSettings& record, ProcessXML& xml);

@@ -189,17 +189,26 @@ class StateReader {
     StoredSize stored_;
 };
 
-}  // namespace
-
-std::string LoadImageStateFromXML(SystemInfo& info, const std::string& path, int iLoadMode, StoredSize* stored) {
-    ProcessXML xml;
-    if (!xml.OpenXMLFile(path)) return xml.error;
+std::string loadFrom(ProcessXML& xml, SystemInfo& info, int iLoadMode, StoredSize* stored) {
     StateReader reader(xml, info, iLoadMode);
     reader.read();
     if (!xml.error.empty()) return xml.error;
     reader.commit(info);
     if (stored) *stored = reader.storedSize();
     return "";
+}
+
+}  // namespace
+
+std::string LoadImageStateFromXML(SystemInfo& info, const std::string& path, int iLoadMode, StoredSize* stored) {
+    ProcessXML xml;
+    return xml.OpenXMLFile(path) ? loadFrom(xml, info, iLoadMode, stored) : xml.error;
+}
+
+std::string LoadImageStateFromBytes(SystemInfo& info, const std::string& name, const std::string& bytes,
+                                    StoredSize* stored) {
+    ProcessXML xml;
+    return xml.OpenXMLBytes(name, bytes) ? loadFrom(xml, info, kLoadAll, stored) : xml.error;
 }
 
 }  // namespace tavrin

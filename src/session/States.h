@@ -18,6 +18,9 @@ struct LoadedState {
 /// command line, comes in this way. Call it where no stage runs: before the loop starts, or on its thread.
 [[nodiscard]] LoadedState loadState(SystemInfo& info, const std::string& path);
 
+/// The same for the state that the program ships, which lies in the program itself and is the same on every machine.
+[[nodiscard]] LoadedState loadShippedState(SystemInfo& info);
+
 enum class Portrait {
     ofState,  ///< the one that the state names
     stays     ///< the one that was there: a recipe for many portraits

@@ -267,7 +267,7 @@ TEST_F(BatchEngineTest, WhileAFileGrowsTheLoopIsFreeAndAStopStillMakesTheJob) {
         info_->StartUpdate();
         while (info_->iCurrentThreadCount <= info_->iNewThreadCount && loop_.iterate() != CombineThread::Turn::idle) {
         }
-        EXPECT_EQ(info_->whyNotFinished(1), "") << "a moved slider has its picture";
+        EXPECT_EQ(info_->whyNotFinished(Resolution::full), "") << "a moved slider has its picture";
         const auto start = std::chrono::steady_clock::now();
         engine().step();
         steps.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
@@ -292,7 +292,7 @@ TEST_F(BatchEngineTest, BuffersOfANewSizeAreNotSavedBeforeThereIsAPictureInThem)
     info_->pForegroundBitmapInfo->sSourceImageFullPath = folder_.file("fg/b.png");
     info_->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file("bg/sea.png");
     const auto other = test::stateForOutput(60, 40, 40);
-    selectOwnSize(*other, "mine", 0.75, 0.5, 120);
+    chooseOwnSize(*other, "mine", 0.75, 0.5, 120);
     ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/mine.qlx")), "");
     BatchEngine::Time time;
     engine().now = [&] { return time; };

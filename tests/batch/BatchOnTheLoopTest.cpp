@@ -2,7 +2,7 @@
 
 #include "batch/BatchScene.h"
 #include "formats/ImageState.h"
-#include "pipeline/OutputSize.h"
+#include "session/OutputSizes.h"
 #include "pipeline/SaveImage.h"
 
 namespace tavrin {
@@ -50,9 +50,9 @@ TEST_F(BatchOnTheLoopTest, ABatchAHeldSliderAndSavesGetOnWithEachOther) {
     background("bg/sea.png", QColor(20, 60, 200));
     const auto other = test::stateForOutput(60, 40, 40);
     other->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file("bg/sea.png");
-    selectOwnSize(*other, "postcard", 1.5, 1.0, 100);
+    chooseOwnSize(*other, "postcard", 1.5, 1.0, 100);
     ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/large.qlx")), "");
-    selectOwnSize(*other, "stamp", 0.5, 1.0, 100);
+    chooseOwnSize(*other, "stamp", 0.5, 1.0, 100);
     ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/small.qlx")), "");
     engine().clickedButtonStartBatch();
 

@@ -27,9 +27,8 @@ class BatchCliTest : public testing::Test {
     }
     QString file(const char* name) const { return QString::fromStdString(folder_.file(name)); }
     QStringList batch(const QStringList& more = {}) const {
-        return QStringList{"batch",         "--foregrounds", file("fg"),  "--backgrounds",
-                           file("sea.png"), "--out",         file("out"), "--inches",
-                           "5x3",           "--dpi",         "12"} +
+        return QStringList{"batch", "--bare",    "--foregrounds", file("fg"), "--backgrounds", file("sea.png"),
+                           "--out", file("out"), "--inches",      "5x3",      "--dpi",         "12"} +
                more;
     }
     static QList<QJsonObject> linesOf(const QString& text) {
@@ -48,30 +47,30 @@ TEST_F(BatchCliTest, MakesAFolderAndTellsALineAPicture) {
     const auto lines = linesOf(done.out);
     ASSERT_EQ(lines.size(), 3);
     EXPECT_EQ(lines[1]["status"].toString(), "done");
-    EXPECT_EQ(lines[1]["out"].toString(), "bensea.jpg");
+    EXPECT_EQ(lines[1]["out"].toString(), "ben_sea.jpg");
     EXPECT_EQ(lines[1]["width"].toInt(), 60);
-    EXPECT_TRUE(done.err.startsWith("3 pictures made, in ")) << done.err.toStdString();
-    ASSERT_EQ(test::runCli({"render", "--foreground", file("fg/ben.png"), "--background", file("sea.png"), "--out",
-                            file("one.jpg"), "--inches", "5x3", "--dpi", "12"})
+    EXPECT_TRUE(done.err.startsWith("tavrin-cli: 3 pictures made, in ")) << done.err.toStdString();
+    ASSERT_EQ(test::runCli({"render", "--bare", "--foreground", file("fg/ben.png"), "--background", file("sea.png"),
+                            "--out", file("one.jpg"), "--inches", "5x3", "--dpi", "12"})
                   .code,
               0);
-    EXPECT_EQ(test::readFile(folder_.file("out/bensea.jpg")), test::readFile(folder_.file("one.jpg")));
+    EXPECT_EQ(test::readFile(folder_.file("out/ben_sea.jpg")), test::readFile(folder_.file("one.jpg")));
 
     const auto again = test::runCli(batch({"--report", file("report")}));
     EXPECT_EQ(again.code, 0);
-    EXPECT_TRUE(again.err.startsWith("0 pictures made, 3 made before")) << again.err.toStdString();
+    EXPECT_TRUE(again.err.startsWith("tavrin-cli: 0 pictures made, 3 made before")) << again.err.toStdString();
     const auto report = linesOf(QString::fromStdString(test::readFile(folder_.file("report"))));
     ASSERT_EQ(report.size(), 5);
     EXPECT_EQ(report[0]["jobs"].toInt(), 3);
     EXPECT_EQ(report[4]["summary"].toObject()["skipped"].toInt(), 3);
-    EXPECT_EQ(test::runCli(batch({"--set", "iBlendEdges=2"})).err.left(1), "3");  // another recipe
+    EXPECT_TRUE(test::runCli(batch({"--set", "iBlendEdges=2"})).err.startsWith("tavrin-cli: 3"));  // another recipe
 }
 
 TEST_F(BatchCliTest, OneBadPictureIsNamedAndTheOthersAreMade) {
     test::writeFile(folder_.file("fg/bad.png"), "no picture");
     const auto outcome = test::runCli(batch({"--jobs", "1"}));
     EXPECT_EQ(outcome.code, 1);
-    EXPECT_TRUE(outcome.err.contains("badsea.jpg: bad.png: ")) << outcome.err.toStdString();
+    EXPECT_TRUE(outcome.err.contains("bad_sea.jpg: bad.png: ")) << outcome.err.toStdString();
     EXPECT_TRUE(outcome.err.contains("3 pictures made, 1 failed"));
     fs::remove(folder_.path() / "fg" / "bad.png");
     EXPECT_EQ(test::runCli(batch()).code, 0);
@@ -82,9 +81,10 @@ TEST_F(BatchCliTest, WrongCallsAreToldAndWriteNothing) {
         QStringList arguments;
         const char* named;
     } calls[] = {
-        {{"batch", "--out", file("out")}, "--foregrounds"},
-        {{"batch", "--foregrounds", file("none"), "--backgrounds", file("sea.png"), "--out", file("out")}, "none"},
-        {{"batch", "--foregrounds", file("fg"), "--out", file("out")}, "--backgrounds"},
+        {{"batch", "--bare", "--out", file("out")}, "--foregrounds"},
+        {{"batch", "--bare", "--foregrounds", file("none"), "--backgrounds", file("sea.png"), "--out", file("out")},
+         "none"},
+        {{"batch", "--bare", "--foregrounds", file("fg"), "--out", file("out")}, "--backgrounds"},
         {batch({"--style", "pretty"}), "--style"},
         {batch({"--type", "gif"}), "--type"},
         {batch({"--set", "nonsense=1"}), "nonsense"},
@@ -93,7 +93,7 @@ TEST_F(BatchCliTest, WrongCallsAreToldAndWriteNothing) {
         {batch({"--shard", "1/3", "--watch"}), "--watch"},
         {batch({"--jobs", "0"}), "--jobs"},
         {batch({"--list", file("jobs.xml")}), "--list"},
-        {{"batch", "--list", file("jobs.xml"), "--out", file("out"), "--watch"}, "--watch"},
+        {{"batch", "--bare", "--list", file("jobs.xml"), "--out", file("out"), "--watch"}, "--watch"},
         {{"report", "merge", "--out", file("out")}, "reports"},
     };
     for (const auto& call : calls) {
@@ -104,7 +104,7 @@ TEST_F(BatchCliTest, WrongCallsAreToldAndWriteNothing) {
         EXPECT_FALSE(fs::exists(folder_.file("out")));
     }
     test::writeFile(folder_.file("a-file"), "");
-    EXPECT_EQ(test::runCli({"batch", "--foregrounds", file("fg"), "--backgrounds", file("sea.png"), "--out",
+    EXPECT_EQ(test::runCli({"batch", "--bare", "--foregrounds", file("fg"), "--backgrounds", file("sea.png"), "--out",
                             file("a-file/out")})
                   .code,
               1);
@@ -117,12 +117,12 @@ TEST_F(BatchCliTest, ADryRunTellsThePlan) {
               "make   BatchFile1.jpg from anna.png over sea.png\n"
               "make   BatchFile2.jpg from ben.png over sea.png\n"
               "make   BatchFile3.jpg from cora.png over sea.png\n");
-    EXPECT_EQ(plan.err, "3 pictures to make.\n");
+    EXPECT_EQ(plan.err, "tavrin-cli: 3 pictures to make.\n");
     EXPECT_FALSE(fs::exists(folder_.file("out")));
     ASSERT_EQ(test::runCli(batch({"--shard", "2/3"})).code, 0);
-    EXPECT_TRUE(test::runCli(batch({"--dry-run"})).out.contains("skip   bensea.jpg: it was made before\n"));
+    EXPECT_TRUE(test::runCli(batch({"--dry-run"})).out.contains("skip   ben_sea.jpg: it was made before\n"));
     const auto last = test::runCli(batch({"--dry-run", "--shard", "auto", "--shard", "3/3"}));
-    EXPECT_EQ(last.out, "make   corasea.jpg from cora.png over sea.png\n") << last.err.toStdString();
+    EXPECT_EQ(last.out, "make   cora_sea.jpg from cora.png over sea.png\n") << last.err.toStdString();
 }
 
 TEST_F(BatchCliTest, ShardsAndTheirReports) {
@@ -139,7 +139,7 @@ TEST_F(BatchCliTest, ShardsAndTheirReports) {
 
 TEST_F(BatchCliTest, AReportNamesPicturesAndNoWaysOutOfTheirFolder) {
     ASSERT_EQ(test::runCli(batch({"--report", file("report")})).code, 0);
-    const std::string report = test::readFile(folder_.file("report")), made = "\"out\":\"annasea.jpg\"";
+    const std::string report = test::readFile(folder_.file("report")), made = "\"out\":\"anna_sea.jpg\"";
     const auto merged = [&](const std::string& name) {
         std::string changed = report;
         changed.replace(changed.find(made), made.size(), "\"out\":\"" + name + "\"");

@@ -29,7 +29,9 @@ class CliTest : public testing::Test {
   protected:
     QString file(const char* name) const { return QString::fromStdString(folder_.file(name)); }
     QStringList renderTo(const QString& out, const QStringList& more = {}) const {
-        return QStringList{"render", "--foreground", foreground_, "--background", background_, "--out", out} + more;
+        return QStringList{"render",       "--bare",    "--foreground", foreground_,
+                           "--background", background_, "--out",        out} +
+               more;
     }
     QImage render(const char* name, const QStringList& more) const {
         const Outcome done = run(renderTo(file(name), size() + more));
@@ -118,12 +120,12 @@ TEST_F(CliTest, WithoutEnoughMemoryNothingIsWritten) {
         EXPECT_TRUE(outcome.err.contains("not enough memory")) << outcome.err.toStdString();
         EXPECT_FALSE(fs::exists(folder_.file("o.png")));
     }
-    const QStringList batch = {"batch",     "--foregrounds", foreground_, "--backgrounds",
-                               background_, "--out",         file("out")};
+    const QStringList batch = {"batch",         "--bare",    "--foregrounds", foreground_,
+                               "--backgrounds", background_, "--out",         file("out")};
     const Outcome outcome = test::runCliWithin(std::size_t{2} << 30, batch + large);
     EXPECT_EQ(outcome.code, 1);
     EXPECT_TRUE(outcome.out.contains("not enough memory")) << outcome.out.toStdString();
-    EXPECT_FALSE(fs::exists(folder_.file("out/fgbg.jpg")));
+    EXPECT_FALSE(fs::exists(folder_.file("out/fg_bg.jpg")));
 }
 
 TEST_F(CliTest, FilesThatAreHugeOrPretendToBeAreRefusedWithTheirNames) {
@@ -138,7 +140,8 @@ TEST_F(CliTest, FilesThatAreHugeOrPretendToBeAreRefusedWithTheirNames) {
         Outcome outcome = run({"info", file(name)});
         EXPECT_EQ(outcome.code, 1);
         EXPECT_TRUE(outcome.err.contains(QString(name) + ": it is too large")) << outcome.err.toStdString();
-        outcome = run({"render", "--foreground", file(name), "--background", background_, "--out", file("o.png")});
+        outcome = run(
+            {"render", "--bare", "--foreground", file(name), "--background", background_, "--out", file("o.png")});
         EXPECT_EQ(outcome.code, 1);
         EXPECT_TRUE(outcome.err.contains(name)) << outcome.err.toStdString();
         fs::resize_file(folder_.file(name), kGigabyte);
@@ -174,10 +177,10 @@ TEST_F(CliTest, WrongCallsAreToldInOneLineAndWriteNothing) {
         {renderTo(file("o.png"), {"--preview", "--cartoon", "grey"}), 2, "--cartoon"},
         {renderTo(file("o.png"), {"--seed", "x"}), 2, "--seed"},
         {renderTo(file("none/o.png")), 1, "none"},
-        {{"render", "--foreground", file("gone.jpg"), "--background", background_, "--out", file("o.png")},
+        {{"render", "--bare", "--foreground", file("gone.jpg"), "--background", background_, "--out", file("o.png")},
          1,
          "gone.jpg"},
-        {{"render", "--foreground", background_, "--out", file("o.png")}, 2, "--background"},
+        {{"render", "--bare", "--foreground", background_, "--out", file("o.png")}, 2, "--background"},
         {{"info", file("gone.jpg")}, 1, "gone.jpg"},
         {{"state", "show", file("gone.qlx")}, 1, "gone.qlx"},
         {{"nonsense"}, 2, ""},
@@ -203,7 +206,7 @@ TEST_F(CliTest, StatesAreSavedChangedComparedAndUsed) {
     EXPECT_EQ(diff.out, "bUseBlueLogic: 0 -> 1\ncombined.sliderWhiteAdjust: 40 -> 7\n");
     EXPECT_TRUE(run({"state", "show", file("b.qlx")}).out.contains("combined.sliderWhiteAdjust=7\n"));
 
-    const QStringList again = {"render", "--state", file("a.qlx"), "--out", file("again.png")};
+    const QStringList again = {"render", "--bare", "--state", file("a.qlx"), "--out", file("again.png")};
     ASSERT_EQ(run(again + size()).code, 0);
     EXPECT_EQ(QImage(file("again.png")), QImage(file("a.png")));
     EXPECT_EQ(run({"state", "set", file("a.qlx"), file("c.qlx"), "nonsense=1"}).code, 2);
@@ -222,7 +225,9 @@ TEST_F(CliTest, ShortOptionsSetEffectsAndSetRefinesThem) {
         EXPECT_TRUE(state.contains(line)) << line;
     ASSERT_EQ(run(renderTo(file("plain.png"), size())).code, 0);
     EXPECT_NE(QImage(file("drawn.png")), QImage(file("plain.png")));
-    ASSERT_EQ(run(QStringList{"render", "--state", file("drawn.qlx"), "--out", file("again.png")} + size()).code, 0);
+    ASSERT_EQ(
+        run(QStringList{"render", "--bare", "--state", file("drawn.qlx"), "--out", file("again.png")} + size()).code,
+        0);
     EXPECT_EQ(QImage(file("again.png")), QImage(file("drawn.png")));
 }
 

@@ -37,13 +37,12 @@ class EndingsCliTest : public testing::Test {
     }
     /// Takes its time to write.
     QStringList render(const char* out = "out/large.png") const {
-        return {"render",   "--foreground", file("fg/p0.png"), "--background", file("sea.png"), "--out", file(out),
-                "--inches", "16x9",         "--dpi",           "200"};
+        return {"render",  "--bare",   "--foreground", file("fg/p0.png"), "--background", file("sea.png"), "--out",
+                file(out), "--inches", "16x9",         "--dpi",           "200"};
     }
     QStringList batch(const QStringList& more = {}) const {
-        return QStringList{"batch",         "--foregrounds", file("fg"),  "--backgrounds",
-                           file("sea.png"), "--out",         file("out"), "--inches",
-                           "5x3",           "--dpi",         "100"} +
+        return QStringList{"batch", "--bare",    "--foregrounds", file("fg"), "--backgrounds", file("sea.png"),
+                           "--out", file("out"), "--inches",      "5x3",      "--dpi",         "100"} +
                more;
     }
     std::vector<std::string> parts() const { return test::partsIn(folder_.file("out")); }
@@ -182,8 +181,8 @@ TEST_F(EndingsCliTest, AWatchRestsWhateverBecameOfItsFiles) {
     for (std::size_t i = 0; i < watches.size(); ++i)
         EXPECT_LT(workOf(*watches[i]) - before[i], 0.4) << ways[i].join(' ').toStdString();
     test::savePng(test::discOnScreen(60, 36), folder_.file("fg/late.png"));
-    EXPECT_TRUE(test::waitUntil([this] { return fs::exists(folder_.file("out/latesea.jpg")); }));
-    EXPECT_TRUE(test::waitUntil([this] { return fs::exists(folder_.file("out2/latesea.jpg")); }));
+    EXPECT_TRUE(test::waitUntil([this] { return fs::exists(folder_.file("out/late_sea.jpg")); }));
+    EXPECT_TRUE(test::waitUntil([this] { return fs::exists(folder_.file("out2/late_sea.jpg")); }));
     test::writeFile(folder_.file("stop"), "");
     for (const auto& watch : watches)
         EXPECT_GE(test::outcomeOf(*watch).code, 0);

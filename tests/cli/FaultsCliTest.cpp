@@ -31,9 +31,9 @@ class FaultsCliTest : public testing::Test {
     }
     QString file(const char* name) const { return QString::fromStdString(folder_.file(name)); }
     QStringList batch(const QStringList& more = {}, const char* foregrounds = "fg") const {
-        return QStringList{"batch", "--foregrounds", file(foregrounds), "--backgrounds", file("sea.png"),
-                           "--out", file("out"),     "--inches",        "5x3",           "--dpi",
-                           "12"} +
+        return QStringList{"batch",         "--bare",        "--foregrounds", file(foregrounds),
+                           "--backgrounds", file("sea.png"), "--out",         file("out"),
+                           "--inches",      "5x3",           "--dpi",         "12"} +
                more;
     }
     static test::CliOutcome powerless(const QStringList& arguments) {
@@ -76,7 +76,7 @@ TEST_F(FaultsCliTest, AFolderThatCannotBeReadIsNoEmptyFolder) {
     std::this_thread::sleep_for(std::chrono::milliseconds(4500));  // two looks more
     fs::copy_file(folder_.file("fg/anna.png"), folder_.file("shut/anna.png"));
     fs::permissions(folder_.path() / "shut", fs::perms::owner_all);
-    EXPECT_TRUE(test::waitUntil([this] { return fs::exists(folder_.file("out/annasea.jpg")); }));
+    EXPECT_TRUE(test::waitUntil([this] { return fs::exists(folder_.file("out/anna_sea.jpg")); }));
     test::writeFile(folder_.file("stop"), "");
     const auto outcome = test::outcomeOf(watch);
     EXPECT_EQ(outcome.code, 0);
@@ -129,7 +129,7 @@ TEST_F(FaultsCliTest, AListIsReadAsItIsMeantOrRefusedWithTheLine) {
         test::writeFile(folder_.file("jobs.xml"), bytes);
         fs::remove_all(folder_.path() / "out");
         return test::runCli(
-            {"batch", "--list", file("jobs.xml"), "--out", file("out"), "--inches", "5x3", "--dpi", "12"});
+            {"batch", "--bare", "--list", file("jobs.xml"), "--out", file("out"), "--inches", "5x3", "--dpi", "12"});
     };
     for (const std::string& bytes :
          {plain, encoded(job, QStringConverter::Utf8, true), encoded(job, QStringConverter::Utf16LE, true),
@@ -137,7 +137,7 @@ TEST_F(FaultsCliTest, AListIsReadAsItIsMeantOrRefusedWithTheLine) {
           QString(job).replace('\n', "\r\n").toStdString(), QString(job).replace('\n', '\r').toStdString()}) {
         const auto outcome = made(bytes);
         EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
-        EXPECT_TRUE(fs::exists(folder_.file("out/annasea.jpg")));
+        EXPECT_TRUE(fs::exists(folder_.file("out/anna_sea.jpg")));
     }
     const std::pair<std::string, const char*> refused[] = {
         {plain + "<image>\n<foreground>/\xff.jpg</foreground>\n</image>\n", "line 6"},
@@ -189,9 +189,9 @@ TEST_F(FaultsCliTest, PicturesThatAreGoneInTheEndWereNotMade) {
 TEST_F(FaultsCliTest, AnOutputThatIsFullOrClosedIsAFailure) {
     const QString state = file("a.qlx"), report = file("report");
     ASSERT_EQ(test::runCli(batch({"--report", report})).code, 0);
-    const QStringList render = {"render", "--foreground",  file("fg/anna.png"), "--background", file("sea.png"),
-                                "--out",  file("one.png"), "--inches",          "5x3",          "--dpi",
-                                "12"};
+    const QStringList render = {"render",       "--bare",        "--foreground", file("fg/anna.png"),
+                                "--background", file("sea.png"), "--out",        file("one.png"),
+                                "--inches",     "5x3",           "--dpi",        "12"};
     ASSERT_EQ(test::runCli(render + QStringList{"--save-state", state}).code, 0);
     const std::vector<QStringList> calls = {{"sizes"},
                                             {"pages"},
@@ -223,7 +223,7 @@ TEST_F(FaultsCliTest, AnOutputThatIsFullOrClosedIsAFailure) {
     }
     QProcess quiet;  // whoever prints nothing needs no output, and no picture takes its place
     quiet.setChildProcessModifier([] { ::close(STDOUT_FILENO); });
-    quiet.start(test::kCliProgram, render);
+    quiet.start(test::kCliProgram, render + QStringList{"--quiet"});
     EXPECT_EQ(test::outcomeOf(quiet).code, 0);
 }
 
@@ -258,8 +258,8 @@ TEST_F(FaultsCliTest, NamesReachNoTerminalAsTheyAre) {
     }
     look({"--verbose", "info", QString::fromUtf8("/\x1b[1m\xc2\x9b")});
     look({"info", "--\x1b[1m"});
-    look({"render", "--foreground", QString("\x1b[1m"), "--background", file("sea.png"), "--out", file("x.png"),
-          "--inches", "5x3", "--dpi", "12"});
+    look({"render", "--bare", "--foreground", QString("\x1b[1m"), "--background", file("sea.png"), "--out",
+          file("x.png"), "--inches", "5x3", "--dpi", "12"});
 }
 
 }  // namespace

@@ -97,14 +97,15 @@ class NamedFilesTest : public testing::Test {
         return words;
     }
     test::CliOutcome render(const std::string& out, const QStringList& more) const {
-        return test::runCli(QStringList{"render", "--foreground", path("fg/anna.png"), "--background",
+        return test::runCli(QStringList{"render", "--bare", "--foreground", path("fg/anna.png"), "--background",
                                         path("sea.png"), "--inches", "5x3", "--dpi", "12", "--seed", "1", "--out",
                                         path(out)} +
                             more);
     }
     test::CliOutcome batch(const QStringList& more) const {
-        return test::runCli(QStringList{"batch", "--foregrounds", path("fg"), "--backgrounds", path("sea.png"),
-                                        "--out", path("out"), "--type", "png", "--inches", "5x3", "--dpi", "12"} +
+        return test::runCli(QStringList{"batch", "--bare", "--foregrounds", path("fg"), "--backgrounds",
+                                        path("sea.png"), "--out", path("out"), "--type", "png", "--inches", "5x3",
+                                        "--dpi", "12"} +
                             more);
     }
 
@@ -212,20 +213,20 @@ TEST_F(NamedFilesTest, ABatchWritesThePicturesFailsAndMakesThemAgain) {
         EXPECT_EQ(outcome.code, 1);
         EXPECT_EQ(outcome.out.count("\"status\":\"failed\""), 2) << outcome.out.toStdString();
         EXPECT_EQ(outcome.out.count("Cound not load file: gone.png"), 2) << outcome.out.toStdString();
-        EXPECT_TRUE(fs::exists(folder_.file("out/annasea.png")) && fs::exists(folder_.file("out/bensea.png")));
+        EXPECT_TRUE(fs::exists(folder_.file("out/anna_sea.png")) && fs::exists(folder_.file("out/ben_sea.png")));
     }
     const NamedFile& overlay = namedFiles()[1];
     const QStringList veiled = sets(overlay, {overlay.name, folder_.file("veil.png")});
     test::savePng(test::noisePicture(60, 36, 7), folder_.file("veil.png"));
     EXPECT_EQ(batch(veiled).code, 0);
-    const std::string whole = test::readFile(folder_.file("out/annasea.png"));
+    const std::string whole = test::readFile(folder_.file("out/anna_sea.png"));
     fs::rename(folder_.file("veil.png"), folder_.file("aside.png"));
     for (int i = 0; i < 2; ++i)
         EXPECT_TRUE(batch(veiled).err.contains("0 pictures made, 2 failed"));
-    EXPECT_NE(test::readFile(folder_.file("out/annasea.png")), whole);
+    EXPECT_NE(test::readFile(folder_.file("out/anna_sea.png")), whole);
     fs::rename(folder_.file("aside.png"), folder_.file("veil.png"));
     EXPECT_EQ(batch(veiled).code, 0) << "what was noted of the first picture holds no longer";
-    EXPECT_EQ(test::readFile(folder_.file("out/annasea.png")), whole);
+    EXPECT_EQ(test::readFile(folder_.file("out/anna_sea.png")), whole);
 }
 
 TEST_F(NamedFilesTest, NothingIsSavedWithoutASource) {

@@ -31,19 +31,18 @@ class OriginalsCliTest : public testing::Test {
     QString file(const std::string& name) const { return QString::fromStdString(folder_.file(name)); }
     QStringList size() const { return {"--inches", "5x3", "--dpi", "12"}; }
     QStringList batch(const QStringList& more = {}) const {
-        return QStringList{"batch",         "--foregrounds", file("shots/sea"), "--backgrounds",
-                           file("sea.png"), "--out",         file("out")} +
+        return QStringList{"batch",         "--bare",        "--foregrounds", file("shots/sea"),
+                           "--backgrounds", file("sea.png"), "--out",         file("out")} +
                size() + more;
     }
     QStringList batchOf(const char* portraits, const char* out, const QStringList& more) const {
-        return QStringList{"batch",         "--foregrounds", file(portraits), "--backgrounds",
-                           file("sea.png"), "--out",         file(out)} +
+        return QStringList{"batch",         "--bare",        "--foregrounds", file(portraits),
+                           "--backgrounds", file("sea.png"), "--out",         file(out)} +
                size() + more;
     }
     QStringList render(const QString& out, const QStringList& more = {}) const {
-        return QStringList{
-                   "render", "--foreground", file("shots/sea/anna.png"), "--background", file("sea.png"), "--out",
-                   out} +
+        return QStringList{"render",       "--bare",        "--foreground", file("shots/sea/anna.png"),
+                           "--background", file("sea.png"), "--out",        out} +
                size() + more;
     }
     std::map<std::string, std::string> everything() const {
@@ -61,7 +60,7 @@ class OriginalsCliTest : public testing::Test {
                                                 folder_.file(out) + "</outputfolder>\n</image>\n");
     }
     QStringList makeList(const std::string& name) const {
-        return QStringList{"batch", "--list", file(name), "--out", file("out")} + size();
+        return QStringList{"batch", "--bare", "--list", file(name), "--out", file("out")} + size();
     }
 
     test::TempFolder folder_;
@@ -75,9 +74,9 @@ TEST_F(OriginalsCliTest, NoOutputIsAlsoAnInput) {
     list("over.xml", "shots/sea/anna.png", "shots/sea/anna.png");
     list("itself.xml", "shots/sea/anna.png", "lace.png");
     const QString anna = file("shots/sea/anna.png");
-    const QStringList split = {"batch", "--foregrounds", file("shots/sea"), "--backgrounds", file("sea.png"),
-                               "--out", file("shots"),   "--style",         "split",         "--type",
-                               "png"};
+    const QStringList split = {"batch",         "--bare",        "--foregrounds", file("shots/sea"),
+                               "--backgrounds", file("sea.png"), "--out",         file("shots"),
+                               "--style",       "split",         "--type",        "png"};
     const struct {
         QStringList arguments;
         QString output, input;
@@ -91,7 +90,7 @@ TEST_F(OriginalsCliTest, NoOutputIsAlsoAnInput) {
         {batch({"--report", anna}), anna, "picture"},
         {batch({"--report", file("hard.png")}), file("hard.png"), "picture"},
         {makeList("over.xml") + QStringList{"--report", file("over.xml")}, anna, anna},
-        {batch({"--report", file("out/annasea.jpg")}), file("out/annasea.jpg"), "report"},
+        {batch({"--report", file("out/anna_sea.jpg")}), file("out/anna_sea.jpg"), "report"},
         {batch({"--states", file("look.qlx"), "--report", file("look.qlx")}), file("look.qlx"), file("look.qlx")},
         {render(anna), anna, anna},
         {render(file("hard.png")), file("hard.png"), anna},
@@ -126,18 +125,18 @@ TEST_F(OriginalsCliTest, NoOutputIsAlsoAnInput) {
 }
 
 TEST_F(OriginalsCliTest, ABatchReplacesOnlyWhatItMade) {
-    test::writeFile(folder_.file("out/annasea.jpg"), "retouched by hand");
+    test::writeFile(folder_.file("out/anna_sea.jpg"), "retouched by hand");
     auto outcome = test::runCli(batch());
     EXPECT_EQ(outcome.code, 1);
-    EXPECT_TRUE(outcome.err.contains("annasea.jpg: ")) << outcome.err.toStdString();
+    EXPECT_TRUE(outcome.err.contains("anna_sea.jpg: ")) << outcome.err.toStdString();
     EXPECT_TRUE(outcome.err.contains("--overwrite")) << outcome.err.toStdString();
     EXPECT_TRUE(outcome.err.contains("1 picture made, 1 failed")) << outcome.err.toStdString();
-    EXPECT_TRUE(test::runCli(batch({"--dry-run"})).out.contains("fails  annasea.jpg: "));
+    EXPECT_TRUE(test::runCli(batch({"--dry-run"})).out.contains("fails  anna_sea.jpg: "));
     outcome = test::runCli(batch({"--again", "--retry-failed"}));
     EXPECT_TRUE(outcome.err.contains("1 picture made, 1 failed")) << outcome.err.toStdString();
-    EXPECT_EQ(test::readFile(folder_.file("out/annasea.jpg")), "retouched by hand");
+    EXPECT_EQ(test::readFile(folder_.file("out/anna_sea.jpg")), "retouched by hand");
     EXPECT_EQ(test::runCli(batch({"--overwrite"})).code, 0);
-    EXPECT_NE(test::readFile(folder_.file("out/annasea.jpg")), "retouched by hand");
+    EXPECT_NE(test::readFile(folder_.file("out/anna_sea.jpg")), "retouched by hand");
     EXPECT_EQ(test::runCli(batch({"--again"})).code, 0);  // ours from now on
 
     // A kill may have come between a picture and the record that it is done.
@@ -149,7 +148,7 @@ TEST_F(OriginalsCliTest, ABatchReplacesOnlyWhatItMade) {
         }
         test::writeFile(entry.path().string(), begun);
     }
-    EXPECT_TRUE(test::runCli(batch()).err.startsWith("2 pictures made, in"));
+    EXPECT_TRUE(test::runCli(batch()).err.startsWith("tavrin-cli: 2 pictures made, in"));
 
     // Without the journal nobody knows whose the pictures are. Numbers go on behind them.
     fs::remove_all(folder_.path() / "out" / ".tavrin-batch");
@@ -166,8 +165,8 @@ TEST_F(OriginalsCliTest, ABatchReplacesOnlyWhatItMade) {
 
 TEST_F(OriginalsCliTest, WhatIsThereIsWhatTheJournalSays) {
     const QStringList other = {"--set", "foreground.iContrast=80"};
-    ASSERT_TRUE(test::runCli(batch()).err.startsWith("2 pictures made"));
-    ASSERT_TRUE(test::runCli(batch(other)).err.startsWith("2 pictures made"));
+    ASSERT_TRUE(test::runCli(batch()).err.startsWith("tavrin-cli: 2 pictures made"));
+    ASSERT_TRUE(test::runCli(batch(other)).err.startsWith("tavrin-cli: 2 pictures made"));
     // A kill between the second pictures and their records: those of the first stand under the names no longer.
     const std::string journal = folder_.file("out/.tavrin-batch/");
     const auto forEachLine = [&journal](const auto& use) {
@@ -187,22 +186,22 @@ TEST_F(OriginalsCliTest, WhatIsThereIsWhatTheJournalSays) {
         return true;
     });
     forEachLine([&](const std::string& line) { return !isDone(line) || orderOf(line) <= earliest + 2; });
-    EXPECT_TRUE(test::runCli(batch()).err.startsWith("2 pictures made, in"));
+    EXPECT_TRUE(test::runCli(batch()).err.startsWith("tavrin-cli: 2 pictures made, in"));
 
     // A file counts by its contents, also when its name has no folder.
     fs::current_path(folder_.path());
     const QStringList laced = {"--overlay-frame", "lace.png"};
-    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("2 pictures made"));
-    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("0 pictures made"));
+    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("tavrin-cli: 2 pictures made"));
+    ASSERT_TRUE(test::runCli(batch(laced)).err.startsWith("tavrin-cli: 0 pictures made"));
     test::savePng(test::noisePicture(60, 36, 9), folder_.file("lace.png"));
-    EXPECT_TRUE(test::runCli(batch(laced)).err.startsWith("2 pictures made"));
+    EXPECT_TRUE(test::runCli(batch(laced)).err.startsWith("tavrin-cli: 2 pictures made"));
 }
 
 TEST_F(OriginalsCliTest, LinksAreNotFollowedOutOfTheFolderAndReadOnlyPicturesStay) {
     fs::create_directory(folder_.path() / "elsewhere");
     test::writeFile(folder_.file("elsewhere/mine.jpg"), "mine");
-    fs::create_symlink(folder_.file("elsewhere/mine.jpg"), folder_.file("out/annasea.jpg"));
-    fs::create_symlink(folder_.file("elsewhere/mine.jpg"), folder_.file("out/bensea.jpg"));
+    fs::create_symlink(folder_.file("elsewhere/mine.jpg"), folder_.file("out/anna_sea.jpg"));
+    fs::create_symlink(folder_.file("elsewhere/mine.jpg"), folder_.file("out/ben_sea.jpg"));
     fs::create_directory_symlink(folder_.file("elsewhere"), folder_.file("out/sea"));
     for (const char* style : {"combine", "split"}) {
         const auto outcome = test::runCli(batch({"--style", style, "--overwrite"}));
@@ -212,24 +211,24 @@ TEST_F(OriginalsCliTest, LinksAreNotFollowedOutOfTheFolderAndReadOnlyPicturesSta
     }
     EXPECT_EQ(test::readFile(folder_.file("elsewhere/mine.jpg")), "mine");
     // One that leads nowhere is replaced.
-    fs::remove(folder_.path() / "out" / "bensea.jpg");
-    fs::create_symlink(folder_.file("elsewhere/new.jpg"), folder_.file("out/bensea.jpg"));
+    fs::remove(folder_.path() / "out" / "ben_sea.jpg");
+    fs::create_symlink(folder_.file("elsewhere/new.jpg"), folder_.file("out/ben_sea.jpg"));
     EXPECT_TRUE(test::runCli(batch()).err.contains("0 pictures made, 2 failed"));
     EXPECT_TRUE(test::runCli(batch({"--overwrite"})).err.contains("1 picture made, 1 failed"));
-    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder_.file("out/bensea.jpg"))));
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder_.file("out/ben_sea.jpg"))));
     EXPECT_EQ(std::distance(fs::directory_iterator(folder_.file("elsewhere")), {}), 1);
 
     fs::create_directory_symlink(folder_.file("elsewhere"), folder_.file("linked"));  // what the user named
     EXPECT_EQ(test::runCli(batchOf("shots/sea", "linked", {})).code, 0);
-    const std::string made = test::readFile(folder_.file("elsewhere/annasea.jpg"));
-    fs::permissions(folder_.file("elsewhere/annasea.jpg"), fs::perms(0444));
+    const std::string made = test::readFile(folder_.file("elsewhere/anna_sea.jpg"));
+    fs::permissions(folder_.file("elsewhere/anna_sea.jpg"), fs::perms(0444));
     for (const QStringList& call : {batchOf("shots/sea", "linked", {"--set", "iBlendEdges=2"}),
-                                    render(file("linked/annasea.jpg"), {"--set", "iBlendEdges=2"})}) {
+                                    render(file("linked/anna_sea.jpg"), {"--set", "iBlendEdges=2"})}) {
         const auto outcome = test::runCli(call);
         EXPECT_EQ(outcome.code, 1);
-        EXPECT_TRUE(outcome.err.contains("annasea.jpg is write-protected")) << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.err.contains("anna_sea.jpg is write-protected")) << outcome.err.toStdString();
     }
-    EXPECT_EQ(test::readFile(folder_.file("elsewhere/annasea.jpg")), made);
+    EXPECT_EQ(test::readFile(folder_.file("elsewhere/anna_sea.jpg")), made);
 }
 
 TEST_F(OriginalsCliTest, GuestsWhoseNamesAreNoTextKeepTheirPictures) {
@@ -244,14 +243,14 @@ TEST_F(OriginalsCliTest, GuestsWhoseNamesAreNoTextKeepTheirPictures) {
     const std::string first = test::readFile(folder_.file("out/BatchFile1.jpg"));
     guest("M\xfcller.png", QColor(60, 60, 200));
     auto outcome = test::runCli(numbered);
-    EXPECT_TRUE(outcome.err.startsWith("1 picture made, 1 made before")) << outcome.err.toStdString();
+    EXPECT_TRUE(outcome.err.startsWith("tavrin-cli: 1 picture made, 1 made before")) << outcome.err.toStdString();
     EXPECT_TRUE(outcome.out.contains("M\\udcfcller.png")) << outcome.out.toStdString();
     EXPECT_EQ(test::readFile(folder_.file("out/BatchFile1.jpg")), first);
     EXPECT_NE(test::readFile(folder_.file("out/BatchFile2.jpg")), first);
     outcome = test::runCli(batchOf("guests", "out", {"--report", file("report")}));
     EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
-    EXPECT_TRUE(fs::exists(folder_.file("out/M\xf6llersea.jpg")));
-    EXPECT_TRUE(fs::exists(folder_.file("out/M\xfcllersea.jpg")));
+    EXPECT_TRUE(fs::exists(folder_.file("out/M\xf6ller_sea.jpg")));
+    EXPECT_TRUE(fs::exists(folder_.file("out/M\xfcller_sea.jpg")));
     EXPECT_EQ(test::runCli({"report", "merge", "--out", file("all"), file("report")}).code, 0);
     EXPECT_TRUE(test::readFile(folder_.file("all")).find("\\udcf6") != std::string::npos);
 }
@@ -270,7 +269,7 @@ TEST_F(OriginalsCliTest, WhatIsNoPlainFileIsToldAndKeepsNobodyWaiting) {
         {batch({"--states", file("pipe.qlx")}), 1},
         {makeList("pipe.xml"), 1},
         {batch({"--overlay-frame", file("pipe")}), 1},
-        {QStringList{"render", "--foreground", file("pipe"), "--background", file("sea.png"), "--out",
+        {QStringList{"render", "--bare", "--foreground", file("pipe"), "--background", file("sea.png"), "--out",
                      file("new.png")},
          1},
         {render(file("new.png"), {"--state", file("pipe.qlx")}), 1},
@@ -284,7 +283,7 @@ TEST_F(OriginalsCliTest, WhatIsNoPlainFileIsToldAndKeepsNobodyWaiting) {
         EXPECT_EQ(outcome.code, call.code) << call.arguments.join(' ').toStdString() << outcome.err.toStdString();
         EXPECT_NE(outcome.err, "");
     }
-    EXPECT_TRUE(fs::exists(folder_.file("out/annasea.jpg")));
+    EXPECT_TRUE(fs::exists(folder_.file("out/anna_sea.jpg")));
 }
 
 TEST_F(OriginalsCliTest, TheNamesOfAJournalLeadNowhere) {

@@ -20,7 +20,8 @@ class StateCliTest : public testing::Test {
         return test::runCli(arguments, variables);
     }
     QStringList renderTo(const char* out, const QStringList& more) const {
-        return QStringList{"render", "--foreground", foreground_, "--background", background_, "--out", file(out)} +
+        return QStringList{"render",       "--bare",    "--foreground", foreground_,
+                           "--background", background_, "--out",        file(out)} +
                more;
     }
     QImage rendered(const char* out, const QStringList& more) const {
@@ -54,28 +55,30 @@ class StateCliTest : public testing::Test {
 TEST_F(StateCliTest, AnOwnSizeComesBackWithItsState) {
     const QImage first = rendered("a.png", own_ + QStringList{"--save-state", file("own.qlx")});
     ASSERT_EQ(first.size(), QSize(240, 144));
-    const QStringList again = {"render", "--state", file("own.qlx"), "--out", file("b.png")};
+    const QStringList again = {"render", "--bare", "--state", file("own.qlx"), "--out", file("b.png")};
     const test::CliOutcome done = run(again);
     ASSERT_EQ(done.code, 0) << done.err.toStdString();
     EXPECT_EQ(QImage(file("b.png")), first);
     // The same through "state set", for a batch, and where other sizes are in the list.
     ASSERT_EQ(run({"state", "set", file("own.qlx"), file("set.qlx"), "iBlendEdges=20"}).code, 0);
-    const QStringList batch = {"batch", "--foregrounds", foreground_, "--states", file("set.qlx"),
-                               "--out", file("done"),    "--type",    "png"};
+    const QStringList batch = {"batch",         "--bare", "--foregrounds", foreground_, "--states",
+                               file("set.qlx"), "--out",  file("done"),    "--type",    "png"};
     const auto account = accountWith("ImageSize.xml",
                                      "<ImageSizeList><ImageSize><sName>mine</sName><dWidth>1</dWidth>"
                                      "<dHeight>1</dHeight><dotsPerInch>50</dotsPerInch></ImageSize>"
                                      "</ImageSizeList>");
     const test::CliOutcome made = run(batch, account);
     ASSERT_EQ(made.code, 0) << made.err.toStdString();
-    EXPECT_EQ(QImage(file("done/fgset.png")), first);
+    EXPECT_EQ(QImage(file("done/fg_set.png")), first);
 
     ASSERT_EQ(run({"state", "set", file("own.qlx"), file("no.qlx"), "iOutputImageDPI=0"}).code, 0);
-    const test::CliOutcome refused = run({"render", "--state", file("no.qlx"), "--out", file("c.png")});
+    const test::CliOutcome refused = run({"render", "--bare", "--state", file("no.qlx"), "--out", file("c.png")});
     EXPECT_EQ(refused.code, 1);
     EXPECT_TRUE(refused.err.contains("no.qlx: The output size \"5x3 at 48 dpi\" is not in the list"));
     EXPECT_EQ(refused.err.count('\n'), 1);
-    EXPECT_EQ(run({"render", "--state", file("no.qlx"), "--size", "5x7 200 Vert", "--out", file("c.png")}).code, 0);
+    EXPECT_EQ(
+        run({"render", "--bare", "--state", file("no.qlx"), "--size", "5x7 200 Vert", "--out", file("c.png")}).code,
+        0);
 }
 
 TEST_F(StateCliTest, ASizeTooLargeForAPreviewIsRefusedWithThatReason) {
@@ -94,7 +97,7 @@ TEST_F(StateCliTest, TitleAndNoteRestyleOnlyWhatTheyName) {
                              "--set",        "label0.dFontFillBlue=0",
                              "--save-state", file("red.qlx")};
     rendered("a.png", own_ + red);
-    const QStringList from = {"render", "--state", file("red.qlx")};
+    const QStringList from = {"render", "--bare", "--state", file("red.qlx")};
     const QStringList to = {"--out", file("b.png"), "--save-state", file("b.qlx")};
     ASSERT_EQ(run(from + to + QStringList{"--title", "Eve", "--note", "2031"}).code, 0);
     EXPECT_EQ(settingIn("b.qlx", "label0.sText"), "Eve");
@@ -126,8 +129,8 @@ TEST_F(StateCliTest, ASavedStateNamesItsFilesInFull) {
         more += QStringList{"--set", name + "=bg.png"};
     QProcess process;
     process.setWorkingDirectory(file(""));
-    process.start(test::kCliProgram, QStringList{"render", "--foreground", "fg.png", "--background", "bg.png",
-                                                 "--out", "a.png", "--save-state", "a.qlx"} +
+    process.start(test::kCliProgram, QStringList{"render", "--bare", "--foreground", "fg.png", "--background",
+                                                 "bg.png", "--out", "a.png", "--save-state", "a.qlx"} +
                                          own_ + more);
     const test::CliOutcome done = test::outcomeOf(process);
     ASSERT_EQ(done.code, 0) << done.err.toStdString();
@@ -135,7 +138,7 @@ TEST_F(StateCliTest, ASavedStateNamesItsFilesInFull) {
         EXPECT_EQ(settingIn("a.qlx", name), background_) << name.toStdString();
     EXPECT_EQ(settingIn("a.qlx", "foreground.sSourceImageFullPath"), foreground_);
     EXPECT_EQ(settingIn("a.qlx", "text1.sText"), "bg.png") << "a text is no file";
-    EXPECT_EQ(run({"render", "--state", file("a.qlx"), "--out", file("b.png")}).code, 0);
+    EXPECT_EQ(run({"render", "--bare", "--state", file("a.qlx"), "--out", file("b.png")}).code, 0);
 }
 
 TEST_F(StateCliTest, NumbersHaveAFullStopInEveryLocale) {
@@ -150,15 +153,15 @@ TEST_F(StateCliTest, NumbersHaveAFullStopInEveryLocale) {
         EXPECT_NE(run(command).out, "");
     }
     EXPECT_TRUE(run({"sizes"}, comma).out.contains("2.5 x 3.5"));
-    const QStringList batch = {"batch",      "--foregrounds", foreground_, "--backgrounds", background_, "--out",
-                               file("done"), "--inches",      "5x3",       "--dpi",         "48"};
+    const QStringList batch = {"batch", "--bare",     "--foregrounds", foreground_, "--backgrounds", background_,
+                               "--out", file("done"), "--inches",      "5x3",       "--dpi",         "48"};
     ASSERT_EQ(run(batch).code, 0);
     EXPECT_TRUE(run(batch, comma).err.contains("1 made before")) << "the recipe is the same";
 }
 
 TEST_F(StateCliTest, ADamagedSizeListIsToldOnceAndPicturesAreMadeAllTheSame) {
     const auto account = accountWith("ImageSize.xml", "<ImageSizeList><Ima");
-    const QStringList render = renderTo("a.png", {"--preview"});
+    const QStringList render = renderTo("a.png", {"--preview", "--quiet"});
     const test::CliOutcome first = run(render, account);
     EXPECT_EQ(first.code, 0);
     EXPECT_EQ(first.err.count('\n'), 1);

@@ -32,7 +32,7 @@ class NoFontsTest : public testing::Test {
 
     QString file(const char* name) const { return QString::fromStdString(folder_.file(name)); }
     test::CliOutcome render(const QStringList& more) const {
-        return test::runCli(QStringList{"render", "--foreground", file("in/anna.png"), "--background",
+        return test::runCli(QStringList{"render", "--bare", "--foreground", file("in/anna.png"), "--background",
                                         file("sea.png"), "--out", file("out.png"), "--inches", "5x3", "--dpi", "12"} +
                             more);
     }
@@ -73,19 +73,19 @@ TEST_F(NoFontsTest, PicturesWithoutTextNeedNone) {
 
 TEST_F(NoFontsTest, AJobWithTextFailsAndIsMadeWhenThereAreFonts) {
     if (!fontsHere_) GTEST_SKIP() << "no fonts here";
-    const QStringList batch = {"batch", "--foregrounds", file("in"), "--backgrounds", file("sea.png"),
-                               "--out", file("out"),     "--inches", "5x3",           "--dpi",
-                               "12",    "--title",       "Anna"};
+    const QStringList batch = {"batch",         "--bare", "--foregrounds", file("in"), "--backgrounds",
+                               file("sea.png"), "--out",  file("out"),     "--inches", "5x3",
+                               "--dpi",         "12",     "--title",       "Anna"};
     const test::CliOutcome outcome = test::runCli(batch);
     EXPECT_EQ(outcome.code, 1);
-    EXPECT_TRUE(outcome.err.contains(QString("annasea.jpg: ") + kLine)) << outcome.err.toStdString();
+    EXPECT_TRUE(outcome.err.contains(QString("anna_sea.jpg: ") + kLine)) << outcome.err.toStdString();
     EXPECT_TRUE(outcome.out.contains("\"failed\"")) << outcome.out.toStdString();
-    EXPECT_TRUE(QImage(file("out/annasea.jpg")).isNull());
+    EXPECT_TRUE(QImage(file("out/anna_sea.jpg")).isNull());
 
     showFonts();
     const test::CliOutcome again = test::runCli(batch);
     EXPECT_EQ(again.code, 0) << again.err.toStdString();
-    EXPECT_FALSE(QImage(file("out/annasea.jpg")).isNull());
+    EXPECT_FALSE(QImage(file("out/anna_sea.jpg")).isNull());
 }
 
 // Those of type 1 have none of the tables that newer ones have.

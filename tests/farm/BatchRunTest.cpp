@@ -53,14 +53,15 @@ class BatchRunTest : public testing::Test {
     void background(const std::string& name, unsigned seed = 1) {
         test::savePng(test::noisePicture(60, 40, seed), folder_.file(name));
     }
-    static std::string settings(SystemInfo& info, const LoadedState*) {
+    static LoadedState bare(SystemInfo&) { return {}; }
+    static std::string settings(SystemInfo& info, const LoadedState&) {
         info.iSmoothMode = 1;  // draws random numbers
         chooseOwnSize(info, "test", 1.5, 1.0, 40);
         return "";
     }
     BatchCounts run() {
         listener_.results.clear();
-        PictureMaker maker(base_, settings);
+        PictureMaker maker(base_, bare, settings);
         BatchRun run(options_, maker, listener_, [this] { return stop_.load(); });
         problem_ = run.run();
         return run.counts();
@@ -68,7 +69,7 @@ class BatchRunTest : public testing::Test {
     /// What one picture alone comes to.
     std::string alone(const std::string& foreground, const std::string& background) {
         const auto info = std::make_unique<SystemInfo>();
-        settings(*info, nullptr);
+        settings(*info, {});
         info->pForegroundBitmapInfo->sSourceImageFullPath = folder_.file(foreground);
         info->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file(background);
         useChosenSize(*info);
@@ -265,7 +266,7 @@ TEST_F(BatchRunTest, FoldersThatCannotBeAreRefusedAndADryRunWritesNothing) {
     EXPECT_EQ(listener_.results[0].status, Status::planned);
     EXPECT_FALSE(fs::exists(folder_.path() / "new"));
 
-    PictureMaker maker(base_, settings);
+    PictureMaker maker(base_, bare, settings);
     const auto check = [&] { return BatchRun(options_, maker, listener_, [] { return false; }).check(); };
     EXPECT_EQ(check(), "");
     options_.sources.out = folder_.file("fg/../fg");

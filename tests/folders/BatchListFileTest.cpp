@@ -20,7 +20,7 @@ class BatchListTest : public testing::Test {
         return list.jobs.empty() ? BatchElement() : list.jobs[0];
     }
 
-    BatchListDefaults defaults_ = {"/now/f.jpg", "/now/b.png", "/out", 3, kCombineNames, true, false, true};
+    BatchListDefaults defaults_ = {"/now/f.jpg", "/now/b.png", "/out", 3, kCombineNames, true, false, true, ""};
     int number_ = 7;
     std::vector<std::string> folders_;
 };

@@ -26,7 +26,7 @@ def pictures(folder):
 class Test:
     def __init__(self, cli, work):
         self.work, self.expected = work, work / "expected"
-        self.command = [cli, "batch", "--foregrounds", str(work / "portraits"), "--backgrounds",
+        self.command = [cli, "batch", "--bare", "--foregrounds", str(work / "portraits"), "--backgrounds",
                         str(work / "sea-.png"), *SIZE, "--out"]
         (work / "portraits").mkdir()
         for number in range(PICTURES):
@@ -118,9 +118,11 @@ class Test:
     def say_so(self):
         folder = self.full_disk()
         sources = [str(self.work / "portraits" / "portrait-0-.png"), str(self.work / "sea-.png")]
-        render = [self.command[0], "render", "--foreground", sources[0], "--background", sources[1], "--inches", "4x5",
+        render = [self.command[0], "render", "--bare",
+                  "--foreground", sources[0], "--background", sources[1], "--inches", "4x5",
                   "--dpi", "50"]
-        batch = [self.command[0], "batch", "--foregrounds", sources[0], "--backgrounds", sources[1], *SIZE, "--out"]
+        batch = [self.command[0], "batch", "--bare",
+                 "--foregrounds", sources[0], "--backgrounds", sources[1], *SIZE, "--out"]
         calls = self.saving_calls(folder, render, batch)
         good = self.are_told(calls)
         elsewhere = subprocess.run([*render, "--out", str(self.work / "b.png")],

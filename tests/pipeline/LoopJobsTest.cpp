@@ -85,7 +85,7 @@ TEST_F(LoopJobsTest, AnEditRunsWithoutAPassAndShowsItsRowsAlone) {
     EXPECT_EQ(view_.all[1].firstRow, 0);
     EXPECT_EQ(view_.all[1].rowCount, 2);
     EXPECT_EQ(view_.all[2].rowCount, 1);
-    EXPECT_EQ(info_->whyNotFinished(1), "");
+    EXPECT_EQ(info_->whyNotFinished(Resolution::full), "");
 }
 
 // The picture after the key is kept from pass to pass: what was painted into a layer must not be lost with it.
@@ -174,7 +174,7 @@ TEST_F(LoopJobsTest, OneIdleJobRunsAtATimeAndARequestComesBetweenItsSteps) {
     std::string order;
     first.onStep = [&] {
         order += '1';
-        EXPECT_EQ(info_->whyNotFinished(1), "");
+        EXPECT_EQ(info_->whyNotFinished(Resolution::full), "");
         if (first.left == 1) info_->StartUpdate();
     };
     second.onStep = [&] { order += '2'; };

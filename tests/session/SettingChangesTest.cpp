@@ -52,7 +52,7 @@ struct Desk {
     }
 
     Bytes pixels() const {
-        const PassGeometry low = info->geometry(0), full = info->geometry(1);
+        const PassGeometry low = info->geometry(Resolution::preview), full = info->geometry(Resolution::full);
         const BitmapInfo& combined = *info->pCombinedBitmapInfo;
         Bytes bytes(combined.pBitmapData, combined.pBitmapData + pixelBytes(full.width, full.height));
         bytes.insert(bytes.end(), combined.pBitmapDataLowRes,

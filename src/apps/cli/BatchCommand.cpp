@@ -2,12 +2,12 @@
 
 #include <atomic>
 #include <cstdio>
-#include <map>
 #include <memory>
 
 #include "apps/cli/BatchConsole.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/PictureOptions.h"
+#include "apps/cli/Usage.h"
 #include "core/Interruption.h"
 #include "core/files/FileIdentity.h"
 #include "core/raster/PixelMemory.h"
@@ -53,8 +53,10 @@ Refusal complete(CommandOptions& options) {
 Refusal trySettings(const CommandOptions& options, const SystemInfo& base) {
     SystemInfo info;
     startLike(info, base);
-    const LoadedState anyState;
-    return applyPictureOptions(info, options.picture, options.batch.sources.states.empty() ? nullptr : &anyState);
+    LoadedState loaded;
+    if (options.batch.sources.states.empty()) loaded = startSettings(info, options.picture.start);
+    if (!loaded.problem.empty()) return {kFailed, loaded.problem};
+    return applyPictureOptions(info, options.picture, loaded);
 }
 
 int runBatch(CommandOptions options) {
@@ -70,12 +72,17 @@ int runBatch(CommandOptions options) {
         complain(refusal.line);
         return refusal.code;
     }
-    PictureMaker maker(*base, [&options](SystemInfo& info, const LoadedState* loaded) {
-        return applyPictureOptions(info, options.picture, loaded).line;
-    });
+    PictureMaker maker(
+        *base, [&options](SystemInfo& info) { return startSettings(info, options.picture.start); },
+        [&options](SystemInfo& info, const LoadedState& loaded) {
+            return applyPictureOptions(info, options.picture, loaded).line;
+        });
+    if (options.picture.choosesScreen()) maker.chooseScreens();
+    for (const PictureWarning& warning : rangeWarnings(options.picture))
+        warn(warning.text);
     const BatchOptions& batch = options.batch;
     const bool json = options.json || (!batch.dryRun && !Console::isTerminal(stdout));
-    BatchConsole console(json, batch.dryRun, batch.sources.out);
+    BatchConsole console({json, options.json, batch.dryRun}, batch.sources.out);
     static std::atomic<bool> stopAsked = false;
     std::atomic<bool> told = false;
     BatchRun run(batch, maker, console, [&told, &console] {
@@ -107,22 +114,35 @@ Examples:
 
 Every portrait is laid over every background with every state. The same command run again makes what is missing and
 what has changed. Ctrl-C finishes the pictures in hand, a second one stops at once.
+
+A batch list of --list is a text with one job between <image> and </image>, one <key>value</key> a line:
+  <image>
+  <foreground>/shots/anna.jpg</foreground>
+  <background>/scenes/beach.jpg</background>
+  </image>
+More keys, and the events of --json, are in docs/command-line.md.
 Exit codes: 0 all done, 1 some failed or are left, 2 wrong usage.)";
 
 void addSources(CLI::App& command, JobSources& sources) {
-    static const std::map<std::string, int> styles = {
-        {"combine", kCombineNames}, {"number", kNumberFiles}, {"split", kSplitIntoFolders}};
-    static const std::map<std::string, int> types = {{"jpeg", 1}, {"png", 2}, {"tiff", 3}};
     command.add_option("--foregrounds", sources.foregrounds, "Folder of portraits, or one portrait");
     command.add_option("--backgrounds", sources.backgrounds, "Folder of backgrounds, or one background");
     command.add_option("--states", sources.states, "Folder of .qlx files, or one");
     command.add_option("--out", sources.out, "Folder for the pictures")->required();
     command.add_option("--style", sources.style, "Names: combine, number, or split into folders (default combine)")
-        ->transform(CLI::CheckedTransformer(styles).description(""))
+        ->transform(numberedWords({"combine", "number", "split"}, kCombineNames))
         ->type_name("NAME");
     command.add_option("--type", sources.fileType, "jpeg, png or tiff (default jpeg)")
-        ->transform(CLI::CheckedTransformer(types).description(""))
+        ->transform(numberedWords({"jpeg", "png", "tiff"}, 1))
         ->type_name("NAME");
+    sources.betweenNames = "_";
+    command
+        .add_option("--names", sources.betweenNames,
+                    "What stands between the names with --style combine (default _, as in anna_beach.jpg)")
+        ->check(CLI::Validator(
+            [](std::string& text) {
+                return text.find('/') == std::string::npos ? "" : "no / may stand between names.";
+            },
+            ""));
     CLI::Option* list = command.add_option("--list", sources.listFile, "A batch list: its jobs instead of folders");
     command.add_flag("--subfolders", sources.subfolders, "Portraits lie in subfolders named like their background")
         ->excludes(list);
@@ -141,7 +161,7 @@ void addBatchCommand(CLI::App& app, int& result) {
         ->needs(watch);
     command->add_option("--stop-file", batch.stopFile, "Stop as soon as this file is there");
     command->add_option("--jobs", batch.inHand, "Pictures in the works at the same time (default 3)")
-        ->check(CLI::Range(1, 64));
+        ->check(within(1, 64));
     command->add_option("--shard", options->shard, "Make part K of N: K/N, auto or auto/N (from the scheduler)")
         ->take_last()  // so that a line behind a script's own can say it better
         ->excludes(watch);
@@ -149,7 +169,7 @@ void addBatchCommand(CLI::App& app, int& result) {
     command->add_flag("--again", batch.again, "Make every picture again");
     command->add_flag("--overwrite", batch.overwrite, "Replace files of these names that no batch made");
     command->add_flag("--dry-run", batch.dryRun, "Tell what would be made, and write nothing")->excludes(watch);
-    command->add_flag("--json", options->json, "One JSON line a picture, also on a terminal");
+    command->add_flag("--json", options->json, "One JSON line an event, also on a terminal");
     command->add_option("--report", batch.report, "Write a report, as lines of JSON");
     command->get_option("--list")->excludes(watch);
     command->footer(kExamples);

@@ -8,8 +8,14 @@
 #include <malloc.h>
 #endif
 
+#include <QDateTime>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include "apps/cli/Console.h"
+#include "apps/cli/KeyOptions.h"
 #include "apps/cli/Output.h"
+#include "core/files/NameText.h"
 
 namespace fs = std::filesystem;
 
@@ -41,10 +47,14 @@ std::string rateOf(double perSecond) {
     return std::to_string(std::lround(perSecond * (slow ? 3600 : 60))) + (slow ? " an hour" : " a minute");
 }
 
+QJsonObject sumsOf(const BatchCounts& counts) {
+    return {{"done", counts.done}, {"skipped", counts.skipped}, {"failed", counts.failed}, {"left", counts.left()}};
+}
+
 }  // namespace
 
-BatchConsole::BatchConsole(bool json, bool dryRun, std::string outFolder)
-    : json_(json), dryRun_(dryRun), isTerminal_(Console::isTerminal()), outFolder_(std::move(outFolder)) {}
+BatchConsole::BatchConsole(Form form, std::string outFolder)
+    : form_(form), isTerminal_(Console::isTerminal() && !isQuiet()), outFolder_(std::move(outFolder)) {}
 
 BatchConsole::~BatchConsole() {
     clearBar();
@@ -52,20 +62,23 @@ BatchConsole::~BatchConsole() {
 
 void BatchConsole::finished(const JobResult& result, const BatchCounts& counts) {
     clearBar();
-    if (json_) {
+    waits_ = false;
+    if (form_.json) {
         printJsonLine(describeResult(result, outFolder_));
         flushOutput();
-    } else if (dryRun_) {
+    } else if (form_.dryRun) {
         tellPlan(result);
     }
     const bool failed = result.status == Status::failed || result.status == Status::gone;
-    if (failed && !dryRun_) complain(relativeTo(outFolder_, result.job.out) + ": " + result.reason);
+    if (failed && !form_.dryRun) complain(relativeTo(outFolder_, result.job.out) + ": " + result.reason);
+    for (const PictureWarning& warning : result.warnings)
+        warn(relativeTo(outFolder_, result.job.out) + ": " + withAdvice(warning));
     if (result.status == Status::done) {
         constexpr std::size_t kWindow = 40;
         made_.push_back(Clock::now());
         if (made_.size() > kWindow) made_.pop_front();
     }
-    if (!dryRun_) drawBar(counts);
+    if (!form_.dryRun) drawBar(counts);
 }
 
 void BatchConsole::tellPlan(const JobResult& result) {
@@ -79,9 +92,19 @@ void BatchConsole::tellPlan(const JobResult& result) {
     printLine(line);
 }
 
+void BatchConsole::tellEvent(const char* event, QJsonObject facts) const {
+    if (!form_.events) return;
+    facts["event"] = event;
+    facts["at"] = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
+    printJson(QJsonDocument(facts), true);
+    flushOutput();
+}
+
 void BatchConsole::note(const std::string& line) {
     clearBar();
-    complain(line);
+    // Beside the words, since a program that reads the lines may have nobody who reads the rest.
+    tellEvent("note", {{"text", textOfName(line)}});
+    line.starts_with("warning: ") ? tell(line) : complain(line);
 }
 
 void BatchConsole::idle(const BatchCounts& counts) {
@@ -89,6 +112,8 @@ void BatchConsole::idle(const BatchCounts& counts) {
     if (!made_.empty()) malloc_trim(0);
 #endif
     made_.clear();
+    if (!waits_) tellEvent("waiting", sumsOf(counts));
+    waits_ = true;
     if (!isTerminal_) return;
     clearBar();
     std::fprintf(stderr, "Waiting for pictures. %d made, %d failed.", counts.done, counts.failed);
@@ -133,19 +158,20 @@ void BatchConsole::clearBar() {
 
 void BatchConsole::summarize(const BatchCounts& counts, bool watch) {
     clearBar();
+    tellEvent("end", sumsOf(counts));
     std::string line;
-    if (dryRun_) {
+    if (form_.dryRun) {
         line = counted(counts.jobs - counts.skipped - counts.failed, "picture") + " to make";
     } else {
         line = counted(counts.done, "picture") + " made";
     }
     if (counts.skipped > 0) line += ", " + std::to_string(counts.skipped) + " made before";
     if (counts.failed > 0) line += ", " + std::to_string(counts.failed) + " failed";
-    if (!dryRun_ && !watch && counts.left() > 0) line += ", " + std::to_string(counts.left()) + " left";
+    if (!form_.dryRun && !watch && counts.left() > 0) line += ", " + std::to_string(counts.left()) + " left";
     const std::chrono::duration<double> taken = Clock::now() - start_;
-    if (!dryRun_) line += ", in " + spanOf(taken.count());
+    if (!form_.dryRun) line += ", in " + spanOf(taken.count());
     if (counts.done > 1 && !watch) line += " (" + rateOf(counts.done / taken.count()) + ")";
-    std::fprintf(stderr, "%s.\n", line.c_str());
+    tell(line + ".");
 }
 
 }  // namespace tavrin::cli

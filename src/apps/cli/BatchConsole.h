@@ -5,13 +5,20 @@
 
 #include "farm/BatchRun.h"
 
+class QJsonObject;
+
 namespace tavrin::cli {
 
 /// A batch on the command line: lines of JSON on the standard output, or words for people; failures and what else is
 /// worth knowing on the standard error stream, and there a bar with rate and time left when it is a terminal.
 class BatchConsole : public BatchObserver {
   public:
-    BatchConsole(bool json, bool dryRun, std::string outFolder);
+    struct Form {
+        bool json = false;    ///< a line of JSON a picture, not words
+        bool events = false;  ///< and one for whatever else happens
+        bool dryRun = false;
+    };
+    BatchConsole(Form form, std::string outFolder);
     ~BatchConsole() override;
 
     void finished(const JobResult& result, const BatchCounts& counts) override;
@@ -25,15 +32,17 @@ class BatchConsole : public BatchObserver {
 
   private:
     void tellPlan(const JobResult& result);
+    void tellEvent(const char* event, QJsonObject facts) const;
     void drawBar(const BatchCounts& counts);
     void clearBar();
     double perSecond() const;
 
-    const bool json_, dryRun_, isTerminal_;
+    const Form form_;
+    const bool isTerminal_;
     const std::string outFolder_;
     const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     std::deque<std::chrono::steady_clock::time_point> made_;  ///< when the last pictures came
-    bool barShown_ = false;
+    bool barShown_ = false, waits_ = false;
 };
 
 }  // namespace tavrin::cli

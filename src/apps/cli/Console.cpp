@@ -1,5 +1,7 @@
 #include "apps/cli/Console.h"
 
+#include <algorithm>
+#include <atomic>
 #include <cstdio>
 
 #ifdef _WIN32
@@ -10,6 +12,7 @@
 #include <unistd.h>
 #endif
 
+#include "core/Log.h"
 #include "core/Printable.h"
 
 namespace tavrin::cli {
@@ -18,11 +21,42 @@ void complain(const std::string& line) {
     std::fprintf(stderr, "tavrin-cli: %s\n", printable(line).c_str());
 }
 
+namespace {
+
+std::atomic<bool> quiet = false;
+
+/// The alert about a source has words for a window and asks to check permissions, whatever the reason is. Here the
+/// reason stands behind the file's name.
+std::string plainAlert(const std::string& message, const std::string& reason) {
+    static constexpr std::string_view kBefore = "Cound not load file: ", kBehind = ", check your file permissions";
+    if (!message.starts_with(kBefore) || !message.ends_with(kBehind)) return message + " (" + reason + ")";
+    return message.substr(kBefore.size(), message.size() - kBefore.size() - kBehind.size()) + ": " + reason + ".";
+}
+
+}  // namespace
+
+void setQuiet() {
+    quiet = true;
+    setQuietLog(true);
+}
+
+bool isQuiet() {
+    return quiet;
+}
+
+void warn(const std::string& line) {
+    if (!quiet) complain("warning: " + line);
+}
+
+void tell(const std::string& line) {
+    if (!quiet) complain(line);
+}
+
 bool Console::isTerminal(std::FILE* stream) {
     return isatty(fileno(stream)) != 0;
 }
 
-Console::Console() : isTerminal_(isTerminal()) {}
+Console::Console() : isTerminal_(isTerminal() && !isQuiet()) {}
 
 Console::~Console() {
     clearProgress();
@@ -42,11 +76,9 @@ void Console::repaint(const PublishedRows& rows) {
 void Console::showAlert(const std::string& message, const std::string& reason) {
     clearProgress();
     hadAlert_ = true;
-    std::string line = message;
-    for (char& c : line) {
-        if (c == '\n') c = ' ';
-    }
-    complain(line + " (" + reason + ")");
+    std::string line = plainAlert(message, reason);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    complain(line);
 }
 
 void Console::clearProgress() {

@@ -13,6 +13,14 @@ inline constexpr int kDone = 0, kFailed = 1, kUsage = 2;
 /// Prints one line to the standard error stream, after the program's name.
 void complain(const std::string& line);
 
+/// From here on errors alone are told.
+void setQuiet();
+bool isQuiet();
+/// Prints one such line for what is worth knowing and stops nothing, unless errors alone are told.
+void warn(const std::string& line);
+/// The same for what was done.
+void tell(const std::string& line);
+
 /// The engine's window on the command line: alerts are lines, progress is one line that is written over and over
 /// when the standard error stream is a terminal.
 class Console : public Interface {

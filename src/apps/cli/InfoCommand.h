@@ -4,7 +4,7 @@
 
 namespace tavrin::cli {
 
-/// `tavrin-cli info IMAGE`: what the reader sees in a picture file. The exit code goes to `result`.
+/// `tavrin-cli info IMAGE...`: what the reader sees in picture files. The exit code goes to `result`.
 void addInfoCommand(CLI::App& app, int& result);
 
 }  // namespace tavrin::cli

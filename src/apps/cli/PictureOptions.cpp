@@ -5,6 +5,8 @@
 
 #include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
+#include "core/NearestName.h"
+#include "core/state/SettingRanges.h"
 #include "core/text/TextLayers.h"
 #include "session/OutputSizes.h"
 #include "session/SettingChanges.h"
@@ -29,14 +31,17 @@ Refusal applyInches(SystemInfo& info, const PictureOptions& options) {
     return {};
 }
 
-Refusal applySize(SystemInfo& info, const PictureOptions& options, const LoadedState* loaded) {
+Refusal applySize(SystemInfo& info, const PictureOptions& options, const LoadedState& loaded) {
     if (!options.inches.empty()) {
         if (Refusal refusal = applyInches(info, options); refusal.code != kDone) return refusal;
-    } else if (loaded && options.sizeName.empty()) {
-        return {loaded->sizeProblem.empty() ? kDone : kFailed, loaded->sizeProblem};
-    } else {
-        const std::string name = options.sizeName.empty() ? info.sImageSizeName.load() : options.sizeName;
-        if (!chooseSizeByName(info, name)) return {kUsage, "There is no output size \"" + name + "\"."};
+    } else if (options.sizeName.empty()) {
+        return {loaded.sizeProblem.empty() ? kDone : kFailed, loaded.sizeProblem};
+    } else if (!chooseSizeByName(info, options.sizeName)) {
+        std::vector<std::string> names;
+        for (const ImageSize& size : info.oImageSize)
+            names.push_back(size.sName);
+        return {kUsage, "There is no output size \"" + options.sizeName + "\"; did you mean \"" +
+                            nearestName(options.sizeName, names) + "\"? \"tavrin-cli sizes\" lists all."};
     }
     const std::string problem = sizeProblem(selectedSize(info).value_or(ImageSize()));
     return {problem.empty() ? kDone : kUsage, problem};
@@ -70,7 +75,7 @@ void applyLabelNames(SystemInfo& info, const PictureOptions& options) {
 }
 
 std::string applySettings(SystemInfo& info, const PictureOptions& options) {
-    if (options.blue) changeSetting(info, "bUseBlueLogic", "1");
+    applyKeyOptions(info, options.key);
     std::string problem = options.effects.apply(info);
     if (!problem.empty()) return problem;
     if (!options.title.empty()) info.oFontLabelObject[0].sText = options.title;
@@ -84,13 +89,29 @@ std::string applySettings(SystemInfo& info, const PictureOptions& options) {
 
 }  // namespace
 
-Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedState* loaded) {
-    if (!loaded) updateLabelSettings(info);
+bool PictureOptions::choosesScreen() const {
+    const auto setsScreen = [](const std::string& assignment) { return assignment.starts_with("bUseBlueLogic="); };
+    if (key.screen.empty()) return !start.bare && std::none_of(set.begin(), set.end(), setsScreen);
+    return key.screen == "auto";
+}
+
+std::vector<PictureWarning> rangeWarnings(const PictureOptions& options) {
+    std::vector<PictureWarning> warnings;
+    for (const std::string& assignment : options.set) {
+        const std::size_t equals = assignment.find('=');
+        const std::string problem = rangeProblem(assignment.substr(0, equals), assignment.substr(equals + 1));
+        if (!problem.empty()) warnings.push_back({"range", problem});
+    }
+    return warnings;
+}
+
+Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedState& loaded) {
     const std::string problem = applySettings(info, options);
     return problem.empty() ? applySize(info, options, loaded) : Refusal{kUsage, problem};
 }
 
 void addPictureOptions(CLI::App& command, PictureOptions& options) {
+    addStartOptions(command, options.start);
     CLI::Option* size = command.add_option("--size", options.sizeName, "Output size by its name in the list");
     CLI::Option* inches =
         command.add_option("--inches", options.inches, "Output size, width x height")->excludes(size);
@@ -103,7 +124,7 @@ void addPictureOptions(CLI::App& command, PictureOptions& options) {
     command.add_option("--overlay-foreground", options.foregroundOverlay, "Picture over the subject");
     command.add_option("--overlay-frame", options.frameOverlay, "Picture over everything but text and frames");
     command.add_option("--set", options.set, "A setting as field=value; may be given several times")->take_all();
-    command.add_flag("--blue", options.blue, "The screen is blue (same as --set bUseBlueLogic=1)");
+    addKeyOptions(command, options.key);
 }
 
 }  // namespace tavrin::cli

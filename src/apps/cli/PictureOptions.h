@@ -5,21 +5,25 @@
 #include <vector>
 
 #include "apps/cli/EffectOptions.h"
-#include "core/state/SystemInfo.h"
-#include "session/States.h"
+#include "apps/cli/KeyOptions.h"
+#include "apps/cli/StartOptions.h"
 
 namespace tavrin::cli {
 
-/// What the commands that make pictures have in common: the size of the output, effects, text, overlays, and settings
-/// by name.
+/// What the commands that make pictures have in common: what they start from, the size of the output, effects, text,
+/// overlays, and settings by name.
 struct PictureOptions {
+    StartOptions start;
     std::string sizeName, inches;
     int dpi = 0;
     EffectOptions effects;
     std::string title, note;
     std::string backgroundOverlay, foregroundOverlay, frameOverlay;
     std::vector<std::string> set;
-    bool blue = false;
+    KeyOptions key;
+
+    /// Whether the portrait may say which screen it has, since nobody else did.
+    bool choosesScreen() const;
 };
 
 /// Why a command cannot be carried out as it was given; `code` is the exit code.
@@ -28,10 +32,13 @@ struct Refusal {
     std::string line;
 };
 
+/// Tells of numbers that were set beyond their settings' bounds.
+std::vector<PictureWarning> rangeWarnings(const PictureOptions& options);
+
 void addPictureOptions(CLI::App& command, PictureOptions& options);
 
 /// Puts the effects, the texts, then the settings into a state, and selects the output size.
-/// @param loaded what came of the state file that the state is from; null where it has all defaults
-Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedState* loaded);
+/// @param loaded what came of the state's start or of its state file
+Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedState& loaded);
 
 }  // namespace tavrin::cli

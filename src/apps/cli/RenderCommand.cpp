@@ -1,17 +1,22 @@
 #include "apps/cli/RenderCommand.h"
 
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <set>
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include "apps/cli/Console.h"
 #include "apps/cli/Output.h"
 #include "apps/cli/PictureOptions.h"
+#include "apps/cli/Streams.h"
+#include "apps/cli/Usage.h"
 #include "core/files/AtomicFile.h"
 #include "core/files/FileIdentity.h"
 #include "core/files/NameText.h"
@@ -19,6 +24,7 @@
 #include "core/state/NamedFiles.h"
 #include "core/state/SystemInfo.h"
 #include "core/text/TextLayers.h"
+#include "farm/BatchReport.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/SaveImage.h"
@@ -35,7 +41,7 @@ namespace tavrin::cli {
 namespace {
 
 struct RenderOptions {
-    std::string foreground, background, out, alpha;
+    std::string foreground, background, out, alpha, type;
     std::string state, saveState;
     PictureOptions picture;
     std::optional<std::uint64_t> seed;
@@ -91,18 +97,27 @@ Refusal checkOutputs(const SystemInfo& info, const RenderOptions& options) {
 
 Refusal prepare(SystemInfo& info, const RenderOptions& options) {
     if (Refusal refusal = checkFiles(options); refusal.code != kDone) return refusal;
-    LoadedState loaded;
-    if (!options.state.empty()) loaded = loadState(info, options.state);
+    const LoadedState loaded =
+        options.state.empty() ? startSettings(info, options.picture.start) : loadState(info, options.state);
     if (!loaded.problem.empty()) return {kFailed, loaded.problem};
     if (Refusal refusal = applySources(info, options); refusal.code != kDone) return refusal;
     const std::string left = options.picture.effects.leftOut(options.fast, options.preview);
     if (!left.empty()) return {kUsage, left};
-    const LoadedState* state = options.state.empty() ? nullptr : &loaded;
-    if (Refusal refusal = applyPictureOptions(info, options.picture, state); refusal.code != kDone) return refusal;
+    if (Refusal refusal = applyPictureOptions(info, options.picture, loaded); refusal.code != kDone) return refusal;
     if (!useChosenSize(info)) return {kUsage, "The output size cannot be used."};
     if (const std::string problem = textProblem(info); !problem.empty()) return {kFailed, problem};
     info.bSkipHiRes = options.preview;
     return checkOutputs(info, options);
+}
+
+/// Looks at the portrait as it is read, which is before its screen is measured.
+void readThrough(SystemInfo& info, PictureCheck& check) {
+    info.readSource = [&info, &check, once = std::make_shared<std::once_flag>()](const std::string& path) {
+        ReadPicture picture = readPicture(path);
+        if (path == info.pForegroundBitmapInfo->sSourceImageFullPath.load())
+            std::call_once(*once, [&] { check.lookAtPortrait(info, picture.pixels); });
+        return picture;
+    };
 }
 
 void compute(SystemInfo& info, const RenderOptions& options) {
@@ -113,7 +128,8 @@ void compute(SystemInfo& info, const RenderOptions& options) {
     }
 }
 
-QJsonObject describe(const SystemInfo& info, const RenderOptions& options, double seconds) {
+QJsonObject describe(const SystemInfo& info, const RenderOptions& options,
+                     const std::vector<PictureWarning>& warnings, double seconds) {
     const bool full = !options.preview;
     return {
         {"out", textOfName(options.out)},
@@ -124,6 +140,7 @@ QJsonObject describe(const SystemInfo& info, const RenderOptions& options, doubl
         {"baseGreen", info.baseGreen.load()},
         {"baseBlue", info.baseBlue.load()},
         {"seconds", seconds},
+        {"warnings", describeWarnings(warnings)},
     };
 }
 
@@ -137,7 +154,65 @@ void removeAbandonedParts(const std::set<std::string>& targets) {
         AtomicFile::removeAbandonedParts(folder);
 }
 
-int render(const RenderOptions& options) {
+/// What there is to say about a picture that stands.
+std::vector<PictureWarning> tellWarnings(const SystemInfo& info, const RenderOptions& options,
+                                         const PictureCheck& check) {
+    std::vector<PictureWarning> warnings = rangeWarnings(options.picture);
+    for (PictureWarning& warning : check.warnings(info, fullIf(!options.preview)))
+        warnings.push_back(std::move(warning));
+    for (const PictureWarning& warning : warnings)
+        warn(withAdvice(warning));
+    return warnings;
+}
+
+/// @return whether all files of the picture were written; what could not be was told
+bool save(SystemInfo& info, const RenderOptions& options) {
+    const int res = options.preview ? 0 : 1;
+    if (!saveImageToDisk(info, options.out, fileTypeForPath(options.out), res)) return false;
+    if (!options.alpha.empty() && !saveMatteToDisk(info, options.alpha, res)) return false;
+    if (options.saveState.empty()) return true;
+    useFullPaths(info);
+    const std::string problem = saveImageStateToXML(info, options.saveState);
+    if (!problem.empty()) complain(problem);
+    return problem.empty();
+}
+
+/// Files of this process in the place of the standard input and output.
+Refusal useStreams(RenderOptions& options, bool& sends) {
+    const bool isRead = options.foreground == kStream || options.background == kStream;
+    if (isRead && options.foreground == options.background)
+        return {kUsage, "The standard input holds one picture: - stands for the foreground or for the background."};
+    if (isRead && !options.saveState.empty())
+        return {kUsage, "--save-state names files, and the standard input is none."};
+    if (!options.type.empty() && options.out != kStream)
+        return {kUsage, "--type goes with --out - only; elsewhere the file's name tells."};
+    if (options.json && options.out == kStream) return {kUsage, "--json and --out - would print into each other."};
+    for (std::string* path : {&options.foreground, &options.background}) {
+        if (const std::string problem = takeInput(*path); !problem.empty()) return {kFailed, problem};
+    }
+    sends = takeOutput(options.out, "." + (options.type.empty() ? "jpeg" : options.type));
+    return {};
+}
+
+std::string sizeText(const SystemInfo& info, const RenderOptions& options) {
+    const PassGeometry size = info.geometry(options.preview ? 0 : 1);
+    return std::to_string(size.width) + " x " + std::to_string(size.height) + " pixels at " +
+           std::to_string(size.dpi) + " dpi";
+}
+
+/// What was made, for a program or for people.
+void tellMade(const SystemInfo& info, const RenderOptions& options, const std::vector<PictureWarning>& warnings,
+              double seconds) {
+    if (options.json) {
+        printJson(QJsonDocument(describe(info, options, warnings, seconds)), true);
+    } else if (!isQuiet()) {
+        char took[32];
+        std::snprintf(took, sizeof took, ", in %.1f s", seconds);
+        printLine(options.out + ": " + sizeText(info, options) + took);
+    }
+}
+
+int render(RenderOptions options) {
     const auto start = std::chrono::steady_clock::now();
     const auto info = std::make_unique<SystemInfo>();
     const std::string pictures = Places::current().picturesFolder();
@@ -147,32 +222,28 @@ int render(const RenderOptions& options) {
     if (options.seed) info->randomSeeds.startAt(*options.seed);
     Console console;
     info->pInterface = &console;
-    if (const Refusal refusal = prepare(*info, options); refusal.code != kDone) {
+    bool sends = false;
+    Refusal refusal = useStreams(options, sends);
+    if (refusal.code == kDone) refusal = prepare(*info, options);
+    if (refusal.code != kDone) {
         complain(refusal.line);
         return refusal.code;
     }
     removeAbandonedParts({options.out, options.alpha});
+    PictureCheck check(options.picture.choosesScreen());
+    readThrough(*info, check);
     compute(*info, options);
+    console.clearProgress();
     const int res = options.preview ? 0 : 1;
     if (const std::string problem = info->whyNotFinished(fullIf(res == 1)); !problem.empty()) {
         if (!console.hadAlert()) complain(problem + ".");
         return kFailed;
     }
-    if (!saveImageToDisk(*info, options.out, fileTypeForPath(options.out), res)) return kFailed;
-    if (!options.alpha.empty() && !saveMatteToDisk(*info, options.alpha, res)) return kFailed;
-    console.clearProgress();
-    if (!options.saveState.empty()) {
-        useFullPaths(*info);
-        const std::string problem = saveImageStateToXML(*info, options.saveState);
-        if (!problem.empty()) {
-            complain(problem);
-            return kFailed;
-        }
-    }
-    if (options.json) {
-        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-        printJson(QJsonDocument(describe(*info, options, taken.count())), true);
-    }
+    const std::vector<PictureWarning> warnings = tellWarnings(*info, options, check);
+    if (!save(*info, options)) return kFailed;
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    if (sends && !sendFile(options.out)) return kFailed;
+    if (!sends) tellMade(*info, options, warnings, taken.count());
     return console.hadAlert() ? kFailed : kDone;  // the picture is saved, but something in it is missing
 }
 
@@ -196,12 +267,18 @@ Exit codes: 0 done, 1 the work failed or the picture lacks a file that could not
 void addRenderCommand(CLI::App& app, int& result) {
     const auto options = std::make_shared<RenderOptions>();
     CLI::App* command = app.add_subcommand("render", "Key one portrait over a background and save the picture");
-    command->add_option("--foreground", options->foreground, "Portrait in front of the screen");
-    command->add_option("--background", options->background, "Background picture");
-    command->add_option("--out", options->out, "Picture to write: .jpg, .png or .tif")->required();
+    command->add_option("--foreground", options->foreground,
+                        "Portrait in front of the screen; - is the standard input");
+    command->add_option("--background", options->background, "Background picture; - likewise");
+    command->add_option("--out", options->out, "Picture to write: .jpg, .png or .tif; - is the standard output")
+        ->required();
+    command->add_option("--type", options->type, "With --out -: jpeg, png or tiff (default jpeg)")
+        ->check(oneOf({"jpeg", "png", "tiff"}))
+        ->type_name("NAME");
     command->add_option("--state", options->state, "Take all settings from a .qlx file first");
     command->add_option("--save-state", options->saveState, "Also write the settings as a .qlx file");
     addPictureOptions(*command, options->picture);
+    command->get_option("--my-defaults")->excludes("--state");
     command->add_option("--seed", options->seed, "Where the random numbers of texture and skin noise start");
     command->add_option("--alpha", options->alpha, "Also write the key's alpha as a grey PNG");
     command->add_flag("--preview", options->preview, "Stop at the preview and save that");

@@ -1,13 +1,12 @@
 #include <clocale>
-#include <cstdio>
 #include <memory>
 #include <new>
-#include <sstream>
 
 #include <QFont>
 #include <QGuiApplication>
 
 #include "apps/cli/BatchCommand.h"
+#include "apps/cli/Completion.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/EffectOptions.h"
 #include "apps/cli/InfoCommand.h"
@@ -15,9 +14,9 @@
 #include "apps/cli/Output.h"
 #include "apps/cli/RenderCommand.h"
 #include "apps/cli/StateCommand.h"
+#include "apps/cli/Usage.h"
 #include "core/Interruption.h"
 #include "core/Log.h"
-#include "core/Printable.h"
 
 namespace {
 
@@ -44,15 +43,14 @@ std::unique_ptr<QCoreApplication> startLibraries(bool withFonts) {
     return withPlainNumbers(std::move(application));
 }
 
-/// Help that was asked for, or what is wrong with the call, which may be quoted in it.
-int explain(const CLI::App& app, const CLI::ParseError& error) {
-    std::ostringstream help, problem;
-    const bool asked = app.exit(error, help, problem) == 0;
-    std::fputs(help.str().c_str(), stdout);
-    std::istringstream lines(problem.str());
-    for (std::string line; std::getline(lines, line);)
-        std::fprintf(stderr, "%s\n", tavrin::printable(line).c_str());
-    return asked ? tavrin::cli::kDone : tavrin::cli::kUsage;
+/// What every command takes, wherever it stands in the call.
+void addCommonOptions(CLI::App& app) {
+    app.add_flag_callback(
+        "-v,--verbose", [] { tavrin::setTraceLog(true); }, "Tell the course of the work on stderr");
+    app.add_flag_callback(
+        "-q,--quiet", [] { tavrin::cli::setQuiet(); }, "Tell errors only");
+    for (CLI::App* command : app.get_subcommands([](CLI::App*) { return true; }))
+        addCommonOptions(*command);
 }
 
 }  // namespace
@@ -60,6 +58,7 @@ int explain(const CLI::App& app, const CLI::ParseError& error) {
 int main(int argc, char** argv) {
     using namespace tavrin;
     cli::keepStandardStreams();
+    setLogName("tavrin-cli");
     Interruption::watch();
     QCoreApplication::setApplicationName("tavrin-cli");
     QCoreApplication::setApplicationVersion(TAVRIN_VERSION);
@@ -68,9 +67,6 @@ int main(int argc, char** argv) {
                  "tavrin-cli");
     app.set_version_flag("--version", std::string(TAVRIN_VERSION));
     app.require_subcommand(1);
-    app.failure_message(CLI::FailureMessage::simple);
-    app.add_flag_callback(
-        "-v,--verbose", [] { setTraceLog(true); }, "Tell the course of the work on stderr");
 
     int result = cli::kDone;
     cli::addRenderCommand(app, result);
@@ -80,13 +76,15 @@ int main(int argc, char** argv) {
     cli::addStateCommand(app, result);
     cli::addListCommands(app, result);
     cli::addEffectsCommand(app, result);
+    cli::addCompletionCommand(app, result);
+    addCommonOptions(app);
     std::unique_ptr<QCoreApplication> application;
     app.parse_complete_callback(
         [&] { application = startLibraries(app.got_subcommand("render") || app.got_subcommand("batch")); });
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        result = explain(app, error);
+        result = cli::explain(app, error);
     } catch (const std::bad_alloc&) {
         cli::complain("there is not enough memory.");
         result = cli::kFailed;

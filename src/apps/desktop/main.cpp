@@ -1,8 +1,12 @@
+#include <algorithm>
 #include <clocale>
 #include <memory>
 #include <new>
+#include <string_view>
 
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
 
 #include "core/Log.h"
 #include "core/raster/PixelMemory.h"
@@ -26,15 +30,57 @@ class Application : public QApplication {
     }
 };
 
+/// The usual options of a desktop program, and the files to open.
+QStringList readArguments(const QCoreApplication& application) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Green-screen pictures: keys a portrait over a background.");
+    parser.addHelpOption();
+    const QCommandLineOption version("version", "Displays version information.");  // -v is taken
+    parser.addOption(version);
+    const QCommandLineOption verbose({"v", "verbose"}, "Tell the course of the work on the standard error stream.");
+    parser.addOption(verbose);
+    parser.addPositionalArgument("files", "Portrait, then background, or a state file (.qlx).", "[FILE...]");
+    parser.process(application);
+    if (parser.isSet(version)) parser.showVersion();
+    tavrin::setTraceLog(parser.isSet(verbose));
+    return parser.positionalArguments();
+}
+
+/// Whether the answer needs no display.
+bool asksForText(int argc, char** argv) {
+    return std::any_of(argv + 1, argv + argc, [](const std::string_view word) {
+        return word == "--help" || word == "-h" || word == "--help-all" || word == "--version";
+    });
+}
+
+void nameProgram() {
+    QCoreApplication::setApplicationName("Tavrin");
+    QCoreApplication::setOrganizationName("Tavrin");
+    QCoreApplication::setApplicationVersion(TAVRIN_VERSION);
+}
+
+/// As if they were dropped on the window: a state file by its name, the first picture as the portrait, the next as
+/// the background.
+void openFiles(tavrin::MainWindow& window, const QStringList& files) {
+    int pictures = 0;
+    for (const QString& file : files) {
+        const QString path = QFileInfo(file).absoluteFilePath();
+        if (path.endsWith(".qlx", Qt::CaseInsensitive)) {
+            window.openFile(path);
+        } else if (++pictures <= 2) {
+            pictures == 1 ? window.openFile(path) : window.openBackground(path);
+        }
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    nameProgram();
+    if (asksForText(argc, argv)) readArguments(QCoreApplication(argc, argv));  // which ends the program
     Application application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");  // what is printed and digested has a full stop in every locale
-    QApplication::setApplicationName("Tavrin");
-    QApplication::setOrganizationName("Tavrin");
-    QApplication::setApplicationVersion(TAVRIN_VERSION);
-    tavrin::setTraceLog(true);
+    const QStringList files = readArguments(application);
     // A pass takes the memory that the last one gave back.
     tavrin::keepPixelMemory(std::size_t{1} << 28);
 
@@ -43,5 +89,6 @@ int main(int argc, char** argv) {
     tavrin::MainWindow window(*info);
     window.show();
     window.tellStartProblems(problems);
+    openFiles(window, files);
     return QApplication::exec();
 }

@@ -94,12 +94,15 @@ void fillFromRaw(const std::string& path, PictureFacts& facts) {
     fillCamera(raw.camera, facts);
 }
 
-QImage decode(const std::string& path, FileKind kind, VipsImage* image, std::string& error) {
+void decode(const std::string& path, FileKind kind, VipsImage* image, ReadPicture& picture) {
+    bool damaged = false;
     if (kind == FileKind::jpeg && isSrgb(image)) {
-        QImage pixels = decodeOrdinaryJpeg(path, vips_image_get_orientation(image), image->Xsize, image->Ysize);
-        if (!pixels.isNull()) return pixels;
+        picture.pixels =
+            decodeOrdinaryJpeg(path, vips_image_get_orientation(image), image->Xsize, image->Ysize, &damaged);
+        if (!picture.pixels.isNull()) return;
     }
-    return decodeWithVips(image, error);
+    picture.pixels = decodeWithVips(image, picture.error);
+    if (damaged && picture.error.empty()) logWarning(path + ": it is damaged, and was read as far as it goes.");
 }
 
 ReadPicture readAny(const std::string& path) {
@@ -117,7 +120,7 @@ ReadPicture readAny(const std::string& path) {
     const OpenPicture open = openWithVips(path, probe.kind);
     picture.error = open.error;
     if (!picture.error.empty()) return picture;
-    picture.pixels = decode(path, probe.kind, open.image.get(), picture.error);
+    decode(path, probe.kind, open.image.get(), picture);
     if (picture.error.empty()) picture.exif = vipsBlob(open.image.get(), VIPS_META_EXIF_NAME);
     return picture;
 }

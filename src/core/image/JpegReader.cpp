@@ -86,14 +86,16 @@ std::vector<std::vector<std::uint8_t>> jpegCameraBlocks(const std::string& path)
     return blocks;
 }
 
-QImage decodeOrdinaryJpeg(const std::string& path, int orientation, int width, int height) {
+QImage decodeOrdinaryJpeg(const std::string& path, int orientation, int width, int height, bool* damaged) {
     const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
     Decoder decoder;
     if (!file || !readHeader(decoder, file.get(), width, height) || !decoder.isClean()) return {};
     const bool turned = orientation >= 5;
     QImage result = newPicture(turned ? height : width, turned ? width : height, QImage::Format_RGBX8888);
-    if (result.isNull() || !readRows(decoder, UprightPixels(result, orientation, width, height))) return {};
-    return result;
+    if (result.isNull()) return {};
+    if (readRows(decoder, UprightPixels(result, orientation, width, height))) return result;
+    if (damaged) *damaged = true;
+    return {};
 }
 
 }  // namespace tavrin

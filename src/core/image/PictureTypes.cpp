@@ -17,7 +17,7 @@ const std::vector<PictureType>& pictureTypes() {
         {FileKind::bmp, "BMP", {"bmp"}},
         {FileKind::psd, "PSD", {"psd"}},
         {FileKind::webp, "WebP", {"webp"}},
-        {FileKind::heif, "HEIF", {"heic", "heif"}},
+        {FileKind::heif, "HEIF", {"heic", "heif", "avif"}},
         {FileKind::raw, "camera raw", {"3fr", "arw", "cr2", "cr3", "dcr", "dng", "erf", "fff",
                                        "iiq", "k25", "kdc", "mef", "mos", "nef", "nrw", "orf",
                                        "pef", "raf", "raw", "rw2", "rwl", "sr2", "srf", "srw"}},

@@ -1,10 +1,12 @@
 #include "core/image/VipsReader.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
 
 #include "core/HandOver.h"
+#include "core/Log.h"
 #include "core/image/ExifCheck.h"
 #include "core/image/MetadataCheck.h"
 #include "core/image/PsdCheck.h"
@@ -87,7 +89,8 @@ VipsRef load(const std::string& path, FileKind kind, std::vector<std::uint8_t>& 
 
 std::string decodeError() {
     const std::string reason = takeVipsError();
-    return "it is damaged or cut short" + (reason.empty() ? reason : " (" + reason + ")");
+    if (!reason.empty()) logTrace("Image library: " + reason);  // in words that help nobody else
+    return "it is damaged or cut short";
 }
 
 /// Takes finished rows of the decoder and lays them, upright and as RGBA, into the result. The decoder calls `write`
@@ -96,10 +99,12 @@ std::string decodeError() {
 struct RowSink {
     UprightPixels pixels;
     HandOver handOver;
+    int rows = 0;  ///< of the file that have come
 
     static int write(VipsRegion* region, VipsRect* area, void* self) {
         auto* sink = static_cast<RowSink*>(self);
         sink->handOver.pass();
+        sink->rows = std::max(sink->rows, area->top + area->height);
         switch (region->im->Bands) {
             case 1:
                 sink->place<1>(region, *area);
@@ -167,12 +172,13 @@ QImage decodeWithVips(VipsImage* image, std::string& error) {
         error = "there is not enough memory for it";
         return {};
     }
-    RowSink sink{UprightPixels(result, orientation, width, height), {}};
+    RowSink sink{UprightPixels(result, orientation, width, height), {}, 0};
     sink.handOver.pass();
     const bool failed = vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0;
     sink.handOver.pass();
     if (failed) {
-        error = decodeError();
+        const int percent = static_cast<int>(std::int64_t{100} * sink.rows / std::max(height, 1));
+        error = decodeError() + " after " + std::to_string(percent) + " percent";
         return {};
     }
     if (alpha) result.convertTo(QImage::Format_RGBA8888_Premultiplied);

@@ -7,6 +7,7 @@
 #include <limits>
 #include <string_view>
 
+#include "core/NearestName.h"
 #include "core/state/SettingObjects.h"
 
 namespace tavrin {
@@ -76,33 +77,14 @@ std::string show(Number value) {
     return std::string(digits, end);
 }
 
-/// Number of single letters to change, put in or take out to make one word of the other (Levenshtein 1966).
-std::size_t editDistance(const std::string& a, const std::string& b) {
-    std::vector<std::size_t> row(b.size() + 1);
-    for (std::size_t j = 0; j <= b.size(); ++j)
-        row[j] = j;
-    for (std::size_t i = 1; i <= a.size(); ++i) {
-        std::size_t diagonal = row[0];
-        row[0] = i;
-        for (std::size_t j = 1; j <= b.size(); ++j) {
-            const std::size_t changed = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
-            diagonal = row[j];
-            row[j] = std::min({changed, row[j] + 1, row[j - 1] + 1});
-        }
-    }
-    return row[b.size()];
-}
-
-/// The name most like a wrong one: by its whole, or by its last word when the object's name was left out.
-std::string nearestName(const SystemInfo& info, const std::string& wrong) {
-    constexpr std::size_t kLongestName = 100;  // a longer one is no slip of the fingers
-    const std::string wanted = lowerCase(std::string_view(wrong).substr(0, kLongestName));
+/// The setting most like a wrong one: by its whole name, or by its last word when the object's name was left out.
+std::string nearestSetting(const SystemInfo& info, const std::string& wrong) {
     std::string nearest;
     std::size_t least = std::numeric_limits<std::size_t>::max();
     visitObjects(info, [&](const std::string& prefix, const auto&, auto leaves) {
         for (const auto& leaf : leaves) {
-            const std::size_t distance = std::min(editDistance(wanted, lowerCase(prefix + leaf.key)),
-                                                  editDistance(wanted, lowerCase(leaf.key)));
+            const std::size_t distance =
+                std::min(editDistance(wrong, prefix + leaf.key), editDistance(wrong, leaf.key));
             if (distance >= least) continue;
             least = distance;
             nearest = prefix + leaf.key;
@@ -127,7 +109,7 @@ std::string setField(SystemInfo& info, const std::string& name, const std::strin
         std::visit([&](auto member) { problem = assign(object.*member, name, value); }, leaf->member);
     });
     if (isNew && (!found || !problem.empty())) info.oFontObject.pop_back();
-    if (!found) return "There is no field " + name + "; did you mean " + nearestName(info, name) + "?";
+    if (!found) return "There is no field " + name + "; did you mean " + nearestSetting(info, name) + "?";
     return problem;
 }
 

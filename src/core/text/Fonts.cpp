@@ -16,6 +16,13 @@ std::string whyNoFonts() {
     return found ? "" : "no font was found; install one, on Debian for example the package fonts-liberation";
 }
 
+std::string fontInsteadOf(const std::string& family) {
+    constexpr const char* kUsual = "Arial";
+    if (family.empty() || family == kUsual || !whyNoFonts().empty()) return "";
+    const QString wanted = QString::fromStdString(family), taken = QFontInfo(QFont(wanted)).family();
+    return taken.compare(wanted, Qt::CaseInsensitive) == 0 ? "" : taken.toStdString();
+}
+
 bool canDrawText(SystemInfo& info) {
     static std::atomic<bool> told = false;
     const std::string reason = whyNoFonts();

@@ -213,7 +213,8 @@ class Case:
 
     def batch(self, *arguments, style="combine", out=None):
         """The arguments of a batch over the inputs' portraits, as it made the expected pictures."""
-        return ["batch", "--foregrounds", str(self.inputs / "portraits"), "--backgrounds", str(self.bench.background),
+        return ["batch", "--bare",
+                "--foregrounds", str(self.inputs / "portraits"), "--backgrounds", str(self.bench.background),
                 "--out", str(out or self.out), "--style", style, *BATCH_SIZE, *map(str, arguments)]
 
     def put_portraits(self, count, name="p{}.png"):

@@ -84,7 +84,8 @@ def full_render(case):
     """A render whose files may not become large enough, one after the other."""
     out, old = case.out / case.rng.choice(("made.png", "made.jpg", "made.tif")), b"an older picture"
     out.write_bytes(old)
-    arguments = ["render", "--foreground", str(case.bench.portrait), "--background", str(case.bench.background),
+    arguments = ["render", "--bare",
+                 "--foreground", str(case.bench.portrait), "--background", str(case.bench.background),
                  "--out", str(out), "--inches", "2x2", "--dpi", "100", "--alpha", str(case.out / "alpha.png"),
                  "--save-state", str(case.out / "saved.qlx")]
     done = case.run(*arguments, file_limit=case.rng.choice((0, 1, 8, 20, 40)))

@@ -11,7 +11,8 @@ OUTSIDE = ("../victim.png", "BatchFile/../../victim.png", "%s/victim.png", "Batc
 
 
 def render(case, *arguments):
-    return ["render", "--foreground", str(case.bench.portrait), "--background", str(case.bench.background), "--out",
+    return ["render", "--bare",
+            "--foreground", str(case.bench.portrait), "--background", str(case.bench.background), "--out",
             str(case.out / "made.png"), *map(str, arguments)]
 
 
@@ -88,7 +89,7 @@ def batch_list(case):
     else:
         content = mutate.damage_text(case.rng, content)[0]
     case.put("jobs.txt", content)
-    done = case.run("batch", "--list", str(case.inputs / "jobs.txt"), "--out", str(case.out), "--style",
+    done = case.run("batch", "--bare", "--list", str(case.inputs / "jobs.txt"), "--out", str(case.out), "--style",
                     case.rng.choice(("combine", "number", "split")), "--inches", "1x1", "--dpi", "300", "--type", "png")
     people = case.people()
     case.want(None not in people, f"a picture is nobody's: {sorted(case.made())}")
@@ -191,7 +192,7 @@ def odd_files(case):
     if use == "state":
         done = case.run(*render(case, "--state", path, *SIZE))
     elif use == "list":
-        done = case.run("batch", "--list", str(path), "--out", str(case.out))
+        done = case.run("batch", "--bare", "--list", str(path), "--out", str(case.out))
     elif use == "report":
         done = case.run("report", "merge", "--out", str(case.out / "all.jsonl"), str(path))
     else:

@@ -20,7 +20,8 @@ def killed_render(number):
         old = case.rng.choice((None, b"an older picture"))
         if old:
             out.write_bytes(old)
-        arguments = ["render", "--foreground", str(case.bench.portrait), "--background", str(case.bench.background),
+        arguments = ["render", "--bare",
+                     "--foreground", str(case.bench.portrait), "--background", str(case.bench.background),
                      "--out", str(out), "--inches", "4x5", "--dpi", "200", "--alpha", str(case.out / "alpha.png"),
                      "--save-state", str(case.out / "saved.qlx")]
         start = case.start(*arguments)

@@ -53,7 +53,7 @@ class Bench:
         """A state that any size may be given to."""
         self.state = self.shared / "plain.qlx"
         begin = time.monotonic()
-        self.call("render", "--foreground", self.portrait, "--background", self.background, "--out",
+        self.call("render", "--bare", "--foreground", self.portrait, "--background", self.background, "--out",
                   self.shared / "plain.png", "--size", "Wallet 200 Vert", "--save-state", self.state)
         self.render_seconds = time.monotonic() - begin
 
@@ -74,7 +74,8 @@ class Bench:
         self.portraits = [formats.png(colour) for colour in COLOURS]
         for number, content in enumerate(self.portraits):
             (portraits / f"p{number}.png").write_bytes(content)
-        self.call("batch", "--foregrounds", portraits, "--backgrounds", self.background, "--out", out, "--style",
+        self.call("batch", "--bare",
+                  "--foregrounds", portraits, "--backgrounds", self.background, "--out", out, "--style",
                   "split", *BATCH_SIZE)
         self.batch_seconds = time.monotonic() - begin
         made = out / self.background.stem

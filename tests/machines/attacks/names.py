@@ -71,7 +71,8 @@ def batch_with_odd_places(case, style, stems):
         states = ["--states", state]
     if case.rng.random() < 0.4:
         out = os.path.join(out, case.rng.choice(stems))
-    return ["batch", "--foregrounds", str(case.inputs / "portraits"), "--backgrounds", background, "--out", out,
+    return ["batch", "--bare",
+            "--foregrounds", str(case.inputs / "portraits"), "--backgrounds", background, "--out", out,
             "--style", style, *BATCH_SIZE, *states]
 
 
@@ -122,7 +123,8 @@ def one_name(case):
     with open(portrait, "wb") as file:
         file.write(case.bench.portraits[0] if case.rng.random() < 0.6 else b"no picture")
     out = os.path.join(os.fsencode(case.out), stem + b".png")
-    done = case.run("render", "--foreground", portrait, "--background", str(case.bench.background), "--out", out,
+    done = case.run("render", "--bare",
+                    "--foreground", portrait, "--background", str(case.bench.background), "--out", out,
                     *BATCH_SIZE[:4])
     made = case.made()
     whole = made == {stem + b".png": case.bench.expected[0]}

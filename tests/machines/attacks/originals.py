@@ -7,7 +7,7 @@ from .pictures import SIZE
 
 
 def render(case, out, *more):
-    return ["render", "--foreground", str(case.inputs / "portraits" / "p0.png"), "--background",
+    return ["render", "--bare", "--foreground", str(case.inputs / "portraits" / "p0.png"), "--background",
             str(case.inputs / "sea.jpg"), "--out", str(out), *SIZE, *map(str, more)]
 
 
@@ -36,16 +36,18 @@ def own_input(case):
                                  "</outputnamestyle>\n<outputfiletype>outputpng</outputfiletype>\n</image>\n").encode())
     other = case.out / "other.png"
     victim = case.rng.choice((folder / "p0.png", sea))
-    ways = {"split": ["batch", "--foregrounds", str(folder), "--backgrounds", str(sea), "--out", str(case.inputs),
+    ways = {"split": ["batch", "--bare",
+                      "--foregrounds", str(folder), "--backgrounds", str(sea), "--out", str(case.inputs),
                       "--style", "split", *BATCH_SIZE],
-            "list": ["batch", "--list", str(jobs), "--out", str(case.out), *BATCH_SIZE[:4]],
+            "list": ["batch", "--bare", "--list", str(jobs), "--out", str(case.out), *BATCH_SIZE[:4]],
             "out": render(case, another_way(case, victim)),
             "alpha": render(case, other, "--alpha", another_way(case, folder / "p0.png")),
             "overlay": render(case, another_way(case, folder / "frame.jpg"), "--overlay-frame", folder / "frame.jpg"),
             "alpha is out": render(case, other, "--alpha", another_way(case, other)),
             "save-state": render(case, other, "--save-state", another_way(case, victim)),
             "state": render(case, other, "--state", state, "--alpha", another_way(case, state)),
-            "report": ["batch", "--foregrounds", str(folder), "--backgrounds", str(sea), "--out", str(case.out),
+            "report": ["batch", "--bare",
+                       "--foregrounds", str(folder), "--backgrounds", str(sea), "--out", str(case.out),
                        *BATCH_SIZE, "--report", str(another_way(case, victim))],
             "merge": ["report", "merge", "--out", str(another_way(case, jobs)), str(jobs)]}
     way = case.rng.choice(sorted(ways))
@@ -53,7 +55,7 @@ def own_input(case):
     if way == "split":
         # The folder of the background's name is the folder of the portraits.
         folder.rename(case.inputs / "sea")
-        ways[way][2] = str(case.inputs / "sea")
+        ways[way][3] = str(case.inputs / "sea")
         case.may_appear.add(b"inputs/.tavrin-batch")
     case.freeze()
     done = case.run(*ways[way])

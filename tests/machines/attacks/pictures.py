@@ -33,7 +33,7 @@ def use_as(case, use, victim, out):
                  "logo": ["--state", case.inputs / "logo.qlx"]}.get(use, ["--" + use, victim])
     if use == "logo":
         case.put("logo.qlx", case.bench.state_with_logo(victim))
-    return ["render", "--foreground", str(victim if use == "portrait" else portrait), "--background",
+    return ["render", "--bare", "--foreground", str(victim if use == "portrait" else portrait), "--background",
             str(victim if use == "background" else background), "--out", str(out), *SIZE, *map(str, arguments)]
 
 

@@ -1,0 +1,170 @@
+#include "apps/cli/Usage.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <sstream>
+
+#include "apps/cli/Console.h"
+#include "core/NearestName.h"
+
+namespace tavrin::cli {
+
+namespace {
+
+std::string inQuotes(const std::string& text) {
+    return "\"" + text + "\"";
+}
+
+std::string didYouMean(const std::string& wrong, const std::vector<std::string>& names) {
+    const std::string nearest = nearestName(wrong, names);
+    return nearest.empty() ? "." : "; did you mean " + nearest + "?";
+}
+
+/// The command that the call got to.
+const CLI::App& commandOf(const CLI::App& app) {
+    const std::vector<CLI::App*> called = app.get_subcommands();
+    return called.empty() ? app : commandOf(*called.back());
+}
+
+std::vector<std::string> optionsOf(const CLI::App& command) {
+    std::vector<std::string> names;
+    for (const CLI::Option* option : command.get_options()) {
+        for (const std::string& name : option->get_lnames())
+            names.push_back("--" + name);
+    }
+    return names;
+}
+
+std::vector<std::string> commandsOf(const CLI::App& command) {
+    std::vector<std::string> names;
+    for (const CLI::App* inside : command.get_subcommands([](const CLI::App*) { return true; }))
+        names.push_back(inside->get_name());
+    return names;
+}
+
+/// The first word that nothing takes, an option before others; "" when there is none.
+std::string unknownWord(const CLI::App& app) {
+    const std::vector<std::string> words = app.remaining(true);
+    const auto option = std::find_if(words.begin(), words.end(),
+                                     [](const std::string& word) { return word.size() > 1 && word[0] == '-'; });
+    if (option != words.end()) return *option;
+    return words.empty() ? std::string() : words.front();
+}
+
+std::string explainUnknown(const CLI::App& command, const std::string& word) {
+    if (word[0] == '-') {
+        const std::string option = word.substr(0, word.find('='));
+        return "There is no option " + option + didYouMean(option, optionsOf(command));
+    }
+    const std::vector<std::string> commands = commandsOf(command);
+    if (!commands.empty()) return "There is no command " + word + didYouMean(word, commands);
+    return inQuotes(word) + " is one word too many.";
+}
+
+std::string firstWord(const std::string& text) {
+    return text.substr(0, text.find_first_of(": "));
+}
+
+std::string explainMissing(const CLI::App& command, const std::string& told) {
+    if (told.find("subcommand") == std::string::npos) return firstWord(told) + " is missing.";
+    std::string names;
+    for (const std::string& name : commandsOf(command))
+        names += (names.empty() ? "" : ", ") + name;
+    return "A command is missing: " + names + ".";
+}
+
+/// "Could not convert: NAME = VALUE"
+std::string explainNumber(const std::string& told) {
+    const std::size_t colon = told.find(": "), equals = told.find(" = ");
+    if (colon == std::string::npos || equals == std::string::npos) return told + ".";
+    return told.substr(colon + 2, equals - colon - 2) + " takes a number, not " + inQuotes(told.substr(equals + 3)) +
+           ".";
+}
+
+/// "ONE excludes OTHER", "ONE requires OTHER"
+std::string explainPair(const std::string& told, const std::string& verb, bool together) {
+    const std::size_t at = told.find(" " + verb + " ");
+    if (at == std::string::npos) return told + ".";
+    const std::string one = told.substr(0, at), other = told.substr(at + verb.size() + 2);
+    return together ? one + " needs " + other + "." : one + " and " + other + " do not go together.";
+}
+
+std::string describe(const CLI::App& app, const CLI::ParseError& error) {
+    const CLI::App& command = commandOf(app);
+    const std::string told = error.what(), kind = error.get_name();
+    // The words that nothing takes come first: what is missing may be one of them.
+    if (const std::string word = unknownWord(app); !word.empty()) return explainUnknown(command, word);
+    if (kind == "RequiredError") return explainMissing(command, told);
+    if (kind == "ExcludesError") return explainPair(told, "excludes", false);
+    if (kind == "RequiresError") return explainPair(told, "requires", true);
+    if (kind == "ConversionError") return explainNumber(told);
+    if (kind == "ArgumentMismatch") return firstWord(told) + " needs a value.";
+    return told;
+}
+
+std::string wrongWord(const std::string& word, const std::vector<std::string>& words) {
+    std::string all;
+    for (const std::string& known : words)
+        all += (all.empty() ? "" : ", ") + known;
+    return "there is no " + inQuotes(word) + "; did you mean " + nearestName(word, words) + "? It takes " + all + ".";
+}
+
+}  // namespace
+
+CLI::Validator oneOf(std::vector<std::string> words) {
+    return CLI::Validator(
+        [words = std::move(words)](std::string& word) {
+            const bool known = std::find(words.begin(), words.end(), word) != words.end();
+            return known ? std::string() : wrongWord(word, words);
+        },
+        "");
+}
+
+CLI::Validator numberedWords(std::vector<std::string> words, int first) {
+    return CLI::Validator(
+        [words = std::move(words), first](std::string& word) {
+            const auto known = std::find(words.begin(), words.end(), word);
+            if (known == words.end()) return wrongWord(word, words);
+            word = std::to_string(first + (known - words.begin()));
+            return std::string();
+        },
+        "");
+}
+
+CLI::Validator within(int low, int high) {
+    return CLI::Validator(
+        [low, high](std::string& text) {
+            int number = 0;
+            const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), number);
+            const bool good =
+                problem == std::errc() && end == text.data() + text.size() && number >= low && number <= high;
+            return good ? std::string()
+                        : "it takes a whole number from " + std::to_string(low) + " to " + std::to_string(high) +
+                              ", not " + inQuotes(text) + ".";
+        },
+        "");
+}
+
+std::vector<std::string> namesOf(const CLI::Option& option) {
+    std::vector<std::string> names;
+    for (const std::string& name : option.get_lnames())
+        names.push_back("--" + name);
+    for (const std::string& name : option.get_snames())
+        names.push_back("-" + name);
+    if (names.empty()) names.push_back(option.get_name());
+    return names;
+}
+
+int explain(const CLI::App& app, const CLI::ParseError& error) {
+    if (error.get_exit_code() == 0) {
+        std::ostringstream help, ignored;
+        app.exit(error, help, ignored);
+        std::fputs(help.str().c_str(), stdout);
+        return kDone;
+    }
+    complain(describe(app, error));
+    return kUsage;
+}
+
+}  // namespace tavrin::cli

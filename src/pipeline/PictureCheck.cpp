@@ -1,0 +1,122 @@
+#include "pipeline/PictureCheck.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <set>
+
+#include "core/text/Fonts.h"
+#include "core/text/TextLayers.h"
+#include "key/guard/GreenClothes.h"
+
+namespace tavrin {
+
+namespace {
+
+// Where they lie between pictures that are fine and pictures that are not is told in docs/key-quality.md.
+constexpr double kDarkScreen = 90.0, kUnevenScreen = 0.75, kWashedOutScreen = 0.1;
+constexpr double kClothes = 0.03;                             // of the picture
+constexpr double kNearlyEmpty = 0.006;                        // of the picture
+constexpr double kSoftPortrait = 2.0, kSoftBackground = 4.0;  // times enlarged
+constexpr std::uint8_t kHalf = 128;
+
+std::string nameOf(const BitmapInfo& record) {
+    return std::filesystem::path(record.sSourceImageFullPath.load()).filename().string();
+}
+
+/// Share of the picture that the key left, in some of its rows.
+double shareOfSubject(const SystemInfo& info, Resolution resolution) {
+    const auto picture = info.pixels(*info.pBackgroundBitmapInfo, resolution);
+    if (!picture.bytes || picture.width < 1 || picture.height < 1) return 1.0;
+    const int step = std::max(1, picture.height / 400);
+    std::size_t subject = 0, all = 0;
+    for (int y = 0; y < picture.height; y += step) {
+        for (int x = 0; x < picture.width; ++x, ++all)
+            subject += picture.at(x, y)[3] >= kHalf;
+    }
+    return static_cast<double>(subject) / static_cast<double>(all);
+}
+
+void tellEnlarged(const SystemInfo& info, const BitmapInfo& record, double most,
+                  std::vector<PictureWarning>& warnings) {
+    if (record.orgImage.isNull()) return;
+    const PassGeometry size = info.geometry(Resolution::full);
+    const double times = record.fScale * std::max(double(size.width) / record.orgImage.width(),
+                                                  double(size.height) / record.orgImage.height());
+    if (times <= most) return;
+    char text[120];
+    std::snprintf(text, sizeof text, " has %d x %d pixels and is enlarged %.1f times; the picture will look soft.",
+                  record.orgImage.width(), record.orgImage.height(), times);
+    warnings.push_back({"small-source", nameOf(record) + text});
+}
+
+/// Families that the state's texts ask for and that the system does not have.
+void tellFonts(const SystemInfo& info, std::vector<PictureWarning>& warnings) {
+    std::set<std::string> names;
+    for (const FontObject& label : info.oFontLabelObject) {
+        if (!labelString(info, label).empty()) names.insert(label.sFontName);
+    }
+    for (const FontObject& item : info.oFontObject) {
+        if (!item.isImage && !item.sText.load().empty()) names.insert(item.sFontName);
+    }
+    for (const std::string& name : names) {
+        const std::string taken = fontInsteadOf(name);
+        if (!taken.empty())
+            warnings.push_back({"font", "There is no font \"" + name + "\"; \"" + taken + "\" is taken."});
+    }
+}
+
+}  // namespace
+
+void PictureCheck::lookAtPortrait(SystemInfo& info, const QImage& portrait) {
+    look_ = lookAtScreen(portrait.constBits(), portrait.width(), portrait.height());
+    const bool isBlue = look_.kind == ScreenKind::blue;
+    if (!mayChooseScreen_ || !look_.isScreen() || isBlue == info.bUseBlueLogic) return;
+    info.bUseBlueLogic = isBlue;
+    changedScreen_ = true;
+}
+
+void PictureCheck::tellScreen(const SystemInfo& info, std::vector<PictureWarning>& warnings) const {
+    const std::string name = nameOf(*info.pForegroundBitmapInfo);
+    const char* const color = look_.kind == ScreenKind::blue ? "blue" : "green";
+    const char* const other = look_.kind == ScreenKind::blue ? "green" : "blue";
+    if (look_.kind == ScreenKind::none) {
+        warnings.push_back({"no-screen", "There is no green or blue screen in " + name + "."});
+    }
+    if (!look_.isScreen()) return;
+    if (changedScreen_) {
+        warnings.push_back({"other-screen", "The screen of " + name + " is " + color + ", not " + other +
+                                                "; it is taken as " + color + "."});
+    } else if (info.bUseBlueLogic != (look_.kind == ScreenKind::blue)) {
+        warnings.push_back(
+            {"other-screen", "The screen of " + name + " is " + color + ", and it is keyed as " + other + "."});
+    }
+    if (look_.level < kDarkScreen) warnings.push_back({"dark-screen", "The screen of " + name + " is very dark."});
+    if (look_.washedOut > kWashedOutScreen)
+        warnings.push_back({"overexposed-screen", "The screen of " + name + " is overexposed."});
+    if (look_.spread > kUnevenScreen)
+        warnings.push_back({"uneven-screen", "The screen of " + name + " is lit very unevenly."});
+}
+
+std::vector<PictureWarning> PictureCheck::warnings(const SystemInfo& info, Resolution resolution) const {
+    std::vector<PictureWarning> warnings;
+    const bool isKeyed = !info.bShowOrgImage;
+    const BitmapInfo& portrait = *info.pForegroundBitmapInfo;
+    if (isKeyed) {
+        tellScreen(info, warnings);
+        const double subject = shareOfSubject(info, resolution);
+        if (subject < kNearlyEmpty) {
+            warnings.push_back({"empty", subject > 0.0 ? "Next to nothing of " + nameOf(portrait) + " is left."
+                                                       : "Nothing of " + nameOf(portrait) + " is left."});
+        } else if (look_.isScreen() && info.iGreenProtectMode == 0 && greenClothes(info) > kClothes) {
+            warnings.push_back({"clothes", "Something on the subject of " + nameOf(portrait) +
+                                               " has the screen's hue and may have holes."});
+        }
+    }
+    tellEnlarged(info, portrait, kSoftPortrait, warnings);
+    tellEnlarged(info, *info.pBackgroundBitmapInfo, kSoftBackground, warnings);
+    tellFonts(info, warnings);
+    return warnings;
+}
+
+}  // namespace tavrin

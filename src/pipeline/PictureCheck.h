@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/state/SystemInfo.h"
+#include "key/screen/ScreenLook.h"
+
+namespace tavrin {
+
+/// Something about a picture that a person would want to be told; the picture was made all the same.
+struct PictureWarning {
+    std::string kind;  ///< one word for programs: "no-screen", "clothes" ...
+    std::string text;  ///< one plain line for people
+};
+
+/// Looks at the portrait before the key and at the picture after it. It changes nothing but, where it may, the colour
+/// of the screen.
+class PictureCheck {
+  public:
+    /// @param mayChooseScreen takes green or blue as the portrait shows it, whatever the settings say
+    explicit PictureCheck(bool mayChooseScreen) : mayChooseScreen_(mayChooseScreen) {}
+
+    /// To be called when the portrait's file was read, before its screen is measured.
+    void lookAtPortrait(SystemInfo& info, const QImage& portrait);
+
+    /// What there is to say of a finished picture.
+    /// @param resolution of the picture. Its key must have run on the preview too for a word about clothes.
+    std::vector<PictureWarning> warnings(const SystemInfo& info, Resolution resolution) const;
+
+  private:
+    void tellScreen(const SystemInfo& info, std::vector<PictureWarning>& warnings) const;
+
+    const bool mayChooseScreen_;
+    bool changedScreen_ = false;
+    ScreenLook look_;
+};
+
+}  // namespace tavrin
