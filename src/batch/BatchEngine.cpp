@@ -17,8 +17,8 @@ namespace {
 
 constexpr const char* kHistoryName = "ForegroundHistory.dat";
 
-BatchView& orSilent(BatchView* view) {
-    static BatchView silent;
+BatchInterface& orSilent(BatchInterface* view) {
+    static BatchInterface silent;
     return view ? *view : silent;
 }
 
@@ -34,12 +34,8 @@ std::int32_t totalOf(std::int64_t product) {
 
 }  // namespace
 
-BatchEngine::BatchEngine(SystemInfo& info, BatchView* view)
+BatchEngine::BatchEngine(SystemInfo& info, BatchInterface* view)
     : info_(info), settings_(*info.oQLXInfo), view_(orSilent(view)) {
-    pause = [this] {
-        std::unique_lock lock(waitMutex_);
-        waitEnded_.wait_for(lock, std::chrono::seconds(1), [this] { return leaving_; });
-    };
     nextBatchForegroundFile.setFolderToCheck(settings_.sLastBatchForeground);
     nextBatchBackgroundFile.setFolderToCheck(settings_.sLastBatchBackground);
     nextBatchQLXFile.setFolderToCheck(settings_.sLastBatchQLX);
@@ -69,14 +65,6 @@ void BatchEngine::clickedButtonClearBatchHistory() {
         nextBatchForegroundFile.ClearHistoryFile();
     }
     ShowBatchStatus();
-}
-
-void BatchEngine::endWaits() {
-    {
-        std::lock_guard lock(waitMutex_);
-        leaving_ = true;
-    }
-    waitEnded_.notify_all();
 }
 
 void BatchEngine::ShowBatchStatus() {

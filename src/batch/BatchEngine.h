@@ -1,6 +1,7 @@
 #pragma once
 
-#include <condition_variable>
+#include <chrono>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -8,30 +9,34 @@
 #include <string>
 #include <vector>
 
-#include "batch/BatchView.h"
+#include "batch/BatchInterface.h"
 #include "core/files/FileIdentity.h"
 #include "core/state/SystemInfo.h"
 #include "folders/BatchElement.h"
 #include "folders/BatchNames.h"
 #include "folders/Combinations.h"
 #include "folders/NextFileInFolder.h"
+#include "pipeline/IdleJob.h"
 
 namespace tavrin {
 
 /// The batch of the desktop program: combinations of foregrounds, backgrounds and states go through the processing
 /// thread that serves the screen, one picture at a time. `nextBatchImageToProcess` does one step: it saves what has
-/// just been finished, chooses the next job, loads it and asks for its picture. Registered as idle work of the loop,
-/// it is called again when that picture stands. With watch on a run never ends and takes files as they arrive.
+/// just been finished, chooses the next job, loads it and asks for its picture. An idle job of the loop, it is called
+/// again when that picture stands. A portrait that may still be growing is looked at from step to step. With watch on
+/// a run never ends and takes files as they arrive.
 ///
 /// Buttons, choosers and boxes belong to the main thread, the step to the processing thread; `ShowBatchStatus` may be
 /// called on both. Settings are those of `QLXInfo`.
-class BatchEngine {
+class BatchEngine : public IdleJob {
   public:
+    using Time = std::chrono::steady_clock::time_point;
+
     /// Jobs of a list file that are run at most.
     static constexpr std::size_t kBatchElements = 500;
 
     /// @param view of the panel, not owned; null is fine
-    explicit BatchEngine(SystemInfo& info, BatchView* view = nullptr);
+    explicit BatchEngine(SystemInfo& info, BatchInterface* view = nullptr);
 
     void clickedButtonStartBatch();
     void clickedButtonStopBatch();
@@ -39,8 +44,8 @@ class BatchEngine {
 
     /// One step. Processing thread only.
     void nextBatchImageToProcess();
-    /// Ends a wait for a file that is still growing, for good; for a program that closes.
-    void endWaits();
+    bool isOn() const override { return !bBatchProcessingStopped; }
+    void step() override { nextBatchImageToProcess(); }
 
     /// Counts what there is to do and what was done, in the way that the settings choose: by all combinations, by
     /// subfolders, or by a list file.
@@ -79,17 +84,23 @@ class BatchEngine {
     NextFileInFolder nextBatchForegroundFile, nextBatchBackgroundFile, nextBatchQLXFile;
     std::vector<BatchElement> myBatchElements = std::vector<BatchElement>(kBatchElements);
 
-    /// Waits a second between two looks at a growing file; tests put their own in its place.
-    std::function<void()> pause;
+    /// The clock by which a portrait has to rest; tests put their own in its place.
+    std::function<Time()> now = std::chrono::steady_clock::now;
 
   private:
-    /// The next combination, by the names of the lists.
-    struct Job {
+    /// What is made next, by the names of the lists.
+    struct Selection {
         BatchSources names;
         std::string foregroundPath, backgroundPath, statePath;
         std::string historyKey;
         std::string foregroundName = names.foreground;  ///< tells whether the foreground is loaded already
         bool fromList = false;
+    };
+
+    /// What the last look at a portrait saw.
+    struct Seen {
+        std::uintmax_t size = 0;
+        Time at;
     };
 
     void showCounts(std::int32_t processed);
@@ -98,15 +109,17 @@ class BatchEngine {
     void saveFinishedJob();
     void drawMask();
     void stopRun();
-    std::optional<Job> chooseJob();
-    std::optional<Job> chooseCombination();
-    std::optional<Job> chooseFromList();
+    void takeJob();
+    void beginJob(const Selection& job);
+    std::optional<Selection> chooseJob();
+    std::optional<Selection> chooseCombination();
+    std::optional<Selection> chooseFromList();
     void refuseOnce(const std::string& problem);
-    void loadState(const Job& job);
-    void loadBackground(const Job& job);
-    void loadForeground(const Job& job);
-    void waitUntilStable(const std::string& path);
-    void nameOutput(const Job& job);
+    void loadState(const Selection& job);
+    void loadBackground(const Selection& job);
+    void loadForeground(const Selection& job);
+    bool isStable(const Selection& job);
+    void nameOutput(const Selection& job);
     std::string whyNotSaved();
     KnownFiles inputFiles();
 
@@ -117,11 +130,10 @@ class BatchEngine {
 
     SystemInfo& info_;
     QLXInfo& settings_;
-    BatchView& view_;
-    std::recursive_mutex scanners_;  ///< the panel and a run both look into the folders
-    std::mutex waitMutex_;
-    std::condition_variable waitEnded_;
-    bool leaving_ = false;
+    BatchInterface& view_;
+    std::recursive_mutex scanners_;   ///< the panel and a run both look into the folders
+    std::optional<Selection> taken_;  ///< the job whose portrait is waited for, and what was seen of it
+    std::optional<Seen> seen_;
     bool refused_ = false;  ///< a message about an entry that has no place was shown in this run
 };
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <unordered_set>
+#include <utility>
 
 #include "batch/BatchEngine.h"
 #include "core/Log.h"
@@ -16,6 +17,13 @@ namespace tavrin {
 
 void BatchEngine::nextBatchImageToProcess() {
     if (bBatchProcessingStopped) return;
+    if (!taken_) takeJob();
+    // Once taken a job is made, also when a stop is asked for while its portrait is waited for.
+    if (taken_ && isStable(*taken_)) beginJob(*std::exchange(taken_, std::nullopt));
+}
+
+/// Saves the job that is finished and takes the next one, with its state and its background.
+void BatchEngine::takeJob() {
     ShowBatchStatus();
     const bool watch = settings_.bLastBatchCheckForNewFiles;
     if (iTotalInBatch == 0 && !bStopBatchProcessing) {
@@ -25,24 +33,28 @@ void BatchEngine::nextBatchImageToProcess() {
     if (bSaveNextImage) saveFinishedJob();
     if (bStopBatchProcessing) return stopRun();
 
-    const std::optional<Job> job = chooseJob();
+    std::optional<Selection> job = chooseJob();
     if (!job) {
         if (!watch) stopRun();
         return;
     }
     loadState(*job);
     loadBackground(*job);
-    loadForeground(*job);
-    if (!job->fromList) nameOutput(*job);
+    taken_ = std::move(job);  // last: what found no memory for these is chosen again
+}
+
+void BatchEngine::beginJob(const Selection& job) {
+    loadForeground(job);
+    if (!job.fromList) nameOutput(job);
     if (const std::string problem = whyNotSaved(); !problem.empty()) {
         info_.alert("The batch has stopped: a picture cannot go where it should.", problem + ".");
         return stopRun();
     }
     bSaveNextImage = true;
-    if (!job->fromList) {
+    if (!job.fromList) {
         // Before the picture is made: a job that breaks the program is not tried for ever.
         std::lock_guard lock(scanners_);
-        nextBatchForegroundFile.AddProcessedFiles(job->historyKey);
+        nextBatchForegroundFile.AddProcessedFiles(job.historyKey);
     }
     info_.StartUpdate();
 }
@@ -94,7 +106,7 @@ void BatchEngine::drawMask() {
     });
 }
 
-std::optional<BatchEngine::Job> BatchEngine::chooseJob() {
+std::optional<BatchEngine::Selection> BatchEngine::chooseJob() {
     std::lock_guard lock(scanners_);
     for (NextFileInFolder* scanner : {&nextBatchForegroundFile, &nextBatchBackgroundFile, &nextBatchQLXFile}) {
         // An empty slot counts once. A list that was not searched anew has it already.
@@ -108,25 +120,25 @@ std::optional<BatchEngine::Job> BatchEngine::chooseJob() {
 /// The first combination that is not in the history. With subfolders, one of the foreground folder is named like the
 /// background of its portraits, and state files play no part; the plain search never descends, so this mode has one
 /// that does. A portrait that lies in no subfolder has no background and is refused.
-std::optional<BatchEngine::Job> BatchEngine::chooseCombination() {
+std::optional<BatchEngine::Selection> BatchEngine::chooseCombination() {
     static const std::string kNoState = kUseCurrent;
     const std::vector<std::string>& history = nextBatchForegroundFile.oProcessedFiles;
     const std::unordered_set<std::string_view> done(history.begin(), history.end());
     BatchSlots slots = {nextBatchForegroundFile.oFilesInFolder, nextBatchBackgroundFile.oFilesInFolder,
                         nextBatchQLXFile.oFilesInFolder};
-    std::optional<Job> next;
+    std::optional<Selection> next;
     const auto take = [&](const Combination& at) {
         const std::string& entry = slots.foregrounds[at.foreground];
         const BatchSources names = {entry.substr(entry.find('/') + 1),  // behind its subfolder, or the whole
                                     slots.backgrounds[at.background], slots.states[at.state]};
         const std::string key = names.foreground + names.background + names.state;
         if (done.contains(key)) return true;
-        next = Job{names,
-                   nextBatchForegroundFile.sFolderToCheck + "/" + entry,
-                   nextBatchBackgroundFile.sFolderToCheck + "/" + names.background,
-                   nextBatchQLXFile.sFolderToCheck + "/" + names.state,
-                   key,
-                   entry};  // two folders may hold portraits of one name
+        next = Selection{names,
+                         nextBatchForegroundFile.sFolderToCheck + "/" + entry,
+                         nextBatchBackgroundFile.sFolderToCheck + "/" + names.background,
+                         nextBatchQLXFile.sFolderToCheck + "/" + names.state,
+                         key,
+                         entry};  // two folders may hold portraits of one name
         return false;
     };
     if (settings_.bUseBackgroundSubfolders) {
@@ -149,60 +161,58 @@ void BatchEngine::refuseOnce(const std::string& entry) {
                     "like its background");
 }
 
-std::optional<BatchEngine::Job> BatchEngine::chooseFromList() {
+std::optional<BatchEngine::Selection> BatchEngine::chooseFromList() {
     if (iNextXMLBatchElement >= iXMLBatchElements) return std::nullopt;
     const BatchElement& element = myBatchElements[static_cast<std::size_t>(iNextXMLBatchElement.load())];
     iNextXMLBatchElement = iNextXMLBatchElement + 1;
     settings_.iLastBatchLastOutputFileType = element.iOutputFileType;
     useSwitches(info_, {element.OutputTransparency, element.NoGreenScreenProcessing, element.BlueScreenProcessing});
     sSaveFileName = element.sOutputFile;
-    Job job{{element.sForegroundFile, element.sBackgroundFile, element.sQLXFile},
-            element.sForegroundFile,
-            element.sBackgroundFile,
-            nextBatchQLXFile.sFolderToCheck + "/" + element.sQLXFile,
-            ""};
+    Selection job{{element.sForegroundFile, element.sBackgroundFile, element.sQLXFile},
+                  element.sForegroundFile,
+                  element.sBackgroundFile,
+                  nextBatchQLXFile.sFolderToCheck + "/" + element.sQLXFile,
+                  ""};
     job.fromList = true;
     return job;
 }
 
-void BatchEngine::loadState(const Job& job) {
+void BatchEngine::loadState(const Selection& job) {
     if (job.names.state == sLastQLXFile.load()) return;
     if (const std::string problem = openState(info_, job.statePath, Portrait::stays); !problem.empty()) {
         logTrace(problem);  // the job runs with the state in force
         reloadSources(info_);
     }
+    // Until the job's picture is there, none of the size that is told now may be saved by hand.
+    if (info_.bChangeImageSize) info_.pictures.begin();
     sLastQLXFile = job.names.state;
 }
 
-void BatchEngine::loadBackground(const Job& job) {
+void BatchEngine::loadBackground(const Selection& job) {
     if (job.names.background == sLastBackgroundFile.load()) return;
     setBackground(info_, job.backgroundPath);
     sLastBackgroundFile = job.names.background;
 }
 
-void BatchEngine::loadForeground(const Job& job) {
+void BatchEngine::loadForeground(const Selection& job) {
     if (job.foregroundName == sLastForegroundFile.load()) return;
-    waitUntilStable(job.foregroundPath);
     setForeground(info_, job.foregroundPath);
     sLastForegroundFile = job.foregroundName;
 }
 
-// A camera or a copy over the network may still be writing. A file that goes away meanwhile keeps its last size, so
-// that the wait ends.
-void BatchEngine::waitUntilStable(const std::string& path) {
-    const auto look = [&path](std::uintmax_t before) {
-        std::error_code gone;
-        const std::uintmax_t size = fs::file_size(path, gone);
-        return gone ? before : size;
-    };
-    std::uintmax_t before = look(0);
-    for (;;) {
-        pause();
-        const std::uintmax_t now = look(before);
-        std::lock_guard lock(waitMutex_);
-        if (now == before || leaving_) return;
-        before = now;
-    }
+/// A camera or a copy over the network may still be writing a new portrait: two looks, a second apart, have to see
+/// one size. A file that goes away meanwhile keeps its last size, so that the waiting ends.
+bool BatchEngine::isStable(const Selection& job) {
+    if (job.foregroundName == sLastForegroundFile.load()) return true;
+    const Time time = now();
+    if (seen_ && time - seen_->at < std::chrono::seconds(1)) return false;
+    const std::optional<Seen> before = std::exchange(seen_, std::nullopt);
+    std::error_code gone;
+    std::uintmax_t size = fs::file_size(job.foregroundPath, gone);
+    if (gone) size = before ? before->size : 0;
+    if (before && size == before->size) return true;
+    seen_ = Seen{size, time};
+    return false;
 }
 
 }  // namespace tavrin

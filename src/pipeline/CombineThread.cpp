@@ -4,7 +4,6 @@
 #include <new>
 #include <utility>
 
-#include "core/Log.h"
 #include "core/raster/ColorMath.h"
 #include "core/state/NamedPictures.h"
 #include "pipeline/OutputSize.h"
@@ -58,46 +57,11 @@ void CombineThread::combineThread() {
     while (!cancelled_.stop_requested()) {
         if (iterate() == Turn::idle) info_.waitForUpdate(std::chrono::milliseconds(100));
     }
+    runEdits();
 }
 
 void CombineThread::runUntilIdle() {
     while (iterate() != Turn::idle) {
-    }
-}
-
-void CombineThread::post(std::function<void()> job) {
-    {
-        std::lock_guard lock(postedMutex_);
-        posted_.push_back(std::move(job));
-    }
-    info_.StartUpdate();
-}
-
-bool CombineThread::hasPosted() {
-    std::lock_guard lock(postedMutex_);
-    return !posted_.empty();
-}
-
-/// A job may do anything, so it finds the layers whole, and what is kept of the picture is forgotten.
-void CombineThread::runPosted() {
-    if (!hasPosted() || !drawDueLayers()) return;
-    forgetKeyed();
-    std::vector<std::function<void()>> jobs;
-    {
-        std::lock_guard lock(postedMutex_);
-        jobs.swap(posted_);
-    }
-    for (const auto& job : jobs)
-        runForOthers(job);
-}
-
-/// What others do on this thread may run out of memory without ending the program.
-void CombineThread::runForOthers(const std::function<void()>& work) {
-    try {
-        work();
-    } catch (const std::bad_alloc&) {
-        logError("Memory not allocated!");
-        info_.alert("There is not enough memory.", "what was asked for was not done");
     }
 }
 
@@ -115,11 +79,14 @@ void CombineThread::tellFailure() {
 }
 
 CombineThread::Turn CombineThread::iterate() {
-    if (!info_.isStale()) runForOthers([this] { runPosted(); });
-    if (!info_.isStale() && runPass() == Turn::dragging) return Turn::dragging;
+    // Looked at before the edits are taken, so that none of them comes after a request that was made later.
+    const bool isDue = !info_.isStale();
+    runEdits();
+    if (!isDue && !info_.isStale()) return Turn::worked;  // asked for just now
+    if (isDue && !info_.isStale()) runForOthers([this] { runPosted(); });
+    if (isDue && !info_.isStale() && runPass() == Turn::dragging) return Turn::dragging;
     if (info_.iCurrentThreadCount > info_.iNewThreadCount) {
-        for (const auto& work : idleWork_)
-            runForOthers(work);
+        stepIdleJob();
         return Turn::idle;
     }
     info_.iCurrentThreadCount = info_.iCurrentThreadCount + 1;

@@ -1,10 +1,13 @@
 #include "pipeline/KeyInputs.h"
 
+#include <algorithm>
+#include <iterator>
 #include <set>
-#include <string_view>
+#include <sstream>
 #include <type_traits>
 
 #include "core/state/SettingObjects.h"
+#include "pipeline/Stages.h"
 
 namespace tavrin {
 
@@ -33,31 +36,44 @@ void appendAll(std::string& bytes, const Object& object, std::span<const Leaf<Ow
         std::visit([&](auto member) { append(bytes, object.*member); }, leaf.member);
 }
 
-template <class... Groups>
-std::set<std::string_view> namesOf() {
-    std::set<std::string_view> names;
-    const auto addGroup = [&](auto leaves) {
-        for (const auto& leaf : leaves)
-            names.insert(leaf.key);
-    };
-    (addGroup(Groups::leaves()), ...);
+using Names = std::set<std::string, std::less<>>;
+
+void addNames(Names& names, std::span<const Stage> stages) {
+    for (const Stage& stage : stages) {
+        std::istringstream words{std::string(stage.reads)};
+        names.insert(std::istream_iterator<std::string>(words), {});
+    }
+}
+
+/// What stages of `finish` read and none of `key`.
+const Names& settingsOfFinish() {
+    static const Names names = [] {
+        Names ofKey, ofFinish;
+        for (const StageOrder& order : {previewStages(), fullStages()}) {
+            addNames(ofKey, order.key);
+            addNames(ofFinish, order.finish);
+        }
+        for (const std::string& name : ofKey)
+            ofFinish.erase(name);
+        return ofFinish;
+    }();
     return names;
 }
 
-// What is drawn over the picture or changes the whole of it, and what only the window reads. What lies on the
-// background raises that layer's flag.
 std::span<const Leaf<Settings>> settingsOfKey() {
     static const Leaves<Settings> table = [] {
-        auto later = namesOf<OverlaySettings, BlurSettings, CartoonSettings, GlobalSmoothingSettings, SkinSettings,
-                             SelectionSettings>();
-        later.erase("bComputeSkinColor");  // of the skin settings the one that the search for hair reads
         Leaves<Settings> leaves;
-        for (const Leaf<Settings>& leaf : Settings::leaves()) {
-            if (!later.contains(leaf.key)) leaves.push_back(leaf);
-        }
+        std::ranges::copy_if(Settings::leaves(), std::back_inserter(leaves),
+                             [](const Leaf<Settings>& leaf) { return !settingsOfFinish().contains(leaf.key); });
         return leaves;
     }();
     return table;
+}
+
+/// The objects of a list share one name: "text3." is "text.".
+std::string withoutNumber(std::string prefix) {
+    std::erase_if(prefix, [](char c) { return c >= '0' && c <= '9'; });
+    return prefix;
 }
 
 }  // namespace
@@ -69,14 +85,10 @@ std::string keyInputs(const SystemInfo& info) {
         append(bytes, record->pBitmapData);
         append(bytes, record->pBitmapDataLowRes);
     }
-    visitObjects(info, [&](const std::string&, const auto& object, auto leaves) {
-        using Object = std::remove_cvref_t<decltype(object)>;
-        if constexpr (std::is_same_v<Object, SystemInfo>) {
+    visitObjects(info, [&](const std::string& prefix, const auto& object, auto leaves) {
+        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(object)>, SystemInfo>) {
             appendAll(bytes, object, settingsOfKey());
-        } else if constexpr (std::is_same_v<Object, ImageTexture>) {
-            // Those of the picture and of the frames come later.
-            if (&object == info.oReflectionTexture.get()) appendAll(bytes, object, leaves);
-        } else if constexpr (!std::is_same_v<Object, FontObject> && !std::is_same_v<Object, ImageFrame>) {
+        } else if (!settingsOfFinish().contains(withoutNumber(prefix))) {
             appendAll(bytes, object, leaves);
         }
     });

@@ -7,8 +7,7 @@
 namespace tavrin {
 
 /// All settings that the stages of the key may read, and the places of their buffers, as bytes: equal bytes, equal
-/// settings. Every setting counts that is not known to be read by other stages only, so one that was forgotten costs
-/// time and never a wrong picture.
+/// settings. Every setting counts but those that the tables of stages leave to what comes later (`Stage::reads`).
 std::string keyInputs(const SystemInfo& info);
 
 /// What the stages of the key find out for themselves and hand on: colours of the screen and of the hair, as bytes.

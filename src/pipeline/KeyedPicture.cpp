@@ -1,5 +1,7 @@
 #include "pipeline/KeyedPicture.h"
 
+#include <algorithm>
+
 #include "core/raster/CopyPixels.h"
 #include "pipeline/KeyInputs.h"
 
@@ -11,10 +13,9 @@ bool isWanted(const SystemInfo& info) {
     return info.pInterface && info.pInterface->wantsPixels();
 }
 
-// A file may change without any setting knowing.
-bool readsFile(const SystemInfo& info) {
-    return (info.bOutputSilhouette && !info.sSilhouetteFileName.empty()) ||
-           (info.bHaveReflection && info.oReflectionTexture->bHaveTexture);
+bool readsFile(std::span<const Stage> stages, const SystemInfo& info) {
+    return std::ranges::any_of(
+        stages, [&](const Stage& stage) { return stage.readsFile && stage.when(info) && stage.readsFile(info); });
 }
 
 std::uint8_t* combinedPixels(const SystemInfo& info, int res) {
@@ -54,7 +55,7 @@ void KeyedPicture::make(std::span<const Stage> stages, SystemInfo& info) {
 
     // Another run has to give the same picture again. Each has random numbers of its own; the search for hair starts
     // from the screen's colour that it finds; and the reflection's red line stays on the background of the preview.
-    const bool repeats = info.randomSeeds.upcoming() == seed && !readsFile(info) &&
+    const bool repeats = info.randomSeeds.upcoming() == seed && !readsFile(stages, info) &&
                          (!info.bAdvancedHairDetectionON || findings_ == found) &&
                          (res_ == kFullRes || !info.bHaveReflection || inputs_ == before);
     kept_ = repeats && keep(info);

@@ -48,7 +48,8 @@ int fileTypeForPath(const std::string& path) {
     return 0;
 }
 
-bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes) {
+bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes,
+                     const KnownFiles& sources) {
     if (theFileType < kJpegFile || theFileType > kTiffFile) {
         return refuse(info, path + ": there is no file type " + std::to_string(theFileType) + ".");
     }
@@ -57,6 +58,7 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
     const PassGeometry size = info.geometry(myRes);
     const std::uint8_t* pixels = myRes == 1 ? combined.pBitmapData : combined.pBitmapDataLowRes;
     if (const std::string problem = whyNotOver(info, path); !problem.empty()) return refuse(info, problem + ".");
+    if (const std::string* source = sources.find(path)) return refuse(info, overwritesInput(path, *source) + ".");
 
     const std::string error = writePicture(
         path, {pixels, size.width, size.height, theFileType, size.dpi, info.pForegroundBitmapInfo->sourceExif});

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/files/FileIdentity.h"
 #include "core/image/ImageWriter.h"
 #include "core/state/SystemInfo.h"
 
@@ -14,8 +15,10 @@ int fileTypeForPath(const std::string& path);
 /// carries the resolution, an sRGB profile and the foreground's camera data; JPEG goes out at quality 100 without
 /// chroma subsampling. The target is replaced only by a whole file, only by a finished picture of the present sources
 /// and settings (`whyNotFinished`), and not at all when that is made from it.
+/// @param sources files that must stay beside those that the state names, for a save that waited for its turn
 /// @return false after an alert with the reason
-bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes);
+bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes,
+                     const KnownFiles& sources = {});
 
 /// Writes the key's alpha, which a run of `Combine` left with the background, as a grey PNG (white is subject).
 /// @return false after an alert with the reason

@@ -64,74 +64,82 @@ bool isCartoon(const SystemInfo& i) {
     return i.iCartoonEffectType >= 1;
 }
 
-constexpr Stage kForeground[] = {
-    {"smoothing of the foreground", smoothsForeground, smoothForeground},
-};
+bool fillsSilhouette(const SystemInfo& i) {
+    return i.bOutputSilhouette && !i.sSilhouetteFileName.empty();
+}
+bool reflectsTexture(const SystemInfo& i) {
+    return i.oReflectionTexture->bHaveTexture;
+}
 
-constexpr Stage kBackground[] = {
-    {"shadow", hasShadow, addShadow},  // before the blur and whatever is drawn on top
-    {"background blur", blursBackground, blurBackground},
-    {"text Background", always, textBackground},
-    {"background overlay", hasBackgroundOverlay, overlayBackground},
-    {"text Background Layer", always, textBackgroundLayer},
-};
+constexpr std::string_view kTextReads = "text. label.";
+
+// Every stage, once. What a stage of the layers reads is not told: whoever changes it raises the flag of the layer.
+constexpr Stage kSmoothForeground = {"smoothing of the foreground", smoothsForeground, smoothForeground};
+constexpr Stage kShadow = {"shadow", hasShadow, addShadow};
+constexpr Stage kBlurBackground = {"background blur", blursBackground, blurBackground};
+constexpr Stage kTextBackground = {"text Background", always, textBackground};
+constexpr Stage kOverlayBackground = {"background overlay", hasBackgroundOverlay, overlayBackground};
+constexpr Stage kTextBackgroundLayer = {"text Background Layer", always, textBackgroundLayer};
+
+constexpr Stage kHair = {"hair", always, findHair, "bComputeSkinColor"};
+constexpr Stage kScreenColour = {"screen colour", needsScreenColour, measureScreen};
+constexpr Stage kSilhouette = {"picture of the silhouette", always, readSilhouette, {}, fillsSilhouette};
+constexpr Stage kKey = {"key", always, combine};
+constexpr Stage kStars = {"stars", hasStars, drawStars};
+constexpr Stage kReflection = {"reflection", hasReflection, reflect, {}, reflectsTexture};
+constexpr Stage kEdges = {"edges", blendsEdges, blendEdges};
+
+constexpr Stage kTextForeground = {"text Foreground", always, textForeground, kTextReads};
+constexpr Stage kOverlayForeground = {"foreground overlay", hasForegroundOverlay, overlayForeground,
+                                      "bHaveForegroundOverlay sForegroundOverlay"};
+constexpr Stage kTextForegroundLayer = {"text Foreground Layer", always, textForegroundLayer, kTextReads};
+constexpr Stage kOverlayFrame = {"frame overlay picture", hasFrameOverlayPicture, overlayFrame,
+                                 "bHaveFrameOverlay sFrameOverlay"};
+constexpr Stage kSkin = {"skin", smoothsSkin, smoothSkin,
+                         "iSmoothMode iColorDelta iNumberOfSamples iRedRequired iSmoothNoise iMakeup "
+                         "bShowSkinSelection bComputeSkinColor bSmoothBlendOrg"};
+constexpr Stage kSmoothResult = {"smoothing of the result", smoothsResult, smoothResult,
+                                 "iGlobalSmoothingLambda iGlobalSmoothingMode"};
+constexpr Stage kTexture = {"texture", hasTexture, addTexture, "texture."};
+constexpr Stage kSketch = {"sketch", isCartoon, drawSketch,
+                           "iCartoonEffectType iSliderCartoonEffectWidth iSliderCartoonEffectSmoothing"};
+constexpr Stage kBlurResult = {"final blur", blursResult, blurResult,
+                               "dSliderForegroundBlur iSliderForegroundThreshold"};
+constexpr Stage kTextFrameLayer = {"text Frame Layer", always, textFrameLayer, kTextReads};
+constexpr Stage kFrame = {"frame", hasFrame, addFrame, "frame. frame.texture."};
+constexpr Stage kSecondFrame = {"second frame", hasSecondFrame, addSecondFrame,
+                                "frameOverlay. frameOverlay.texture."};
+
+constexpr Stage kForeground[] = {kSmoothForeground};
+// The shadow comes before the blur and whatever is drawn on top.
+constexpr Stage kBackground[] = {kShadow, kBlurBackground, kTextBackground, kOverlayBackground, kTextBackgroundLayer};
 
 // The two orders. What the preview leaves out (edges, skin, sketch) shows at full size only; texture, final blur and
 // smoothing of the result stand at different places, and moving them changes every picture that was ever saved.
-constexpr Stage kPreviewKey[] = {
-    {"hair", always, findHair},
-    {"screen colour", needsScreenColour, measureScreen},
-    {"picture of the silhouette", always, readSilhouette},
-    {"key", always, combine},
-    {"stars", hasStars, drawStars},
-    {"reflection", hasReflection, reflect},
-};
+// clang-format off
+constexpr Stage kPreviewKey[] = {kHair, kScreenColour, kSilhouette, kKey, kStars, kReflection};
 constexpr Stage kPreviewFinish[] = {
-    {"texture", hasTexture, addTexture},
-    {"final blur", blursResult, blurResult},
-    {"text Foreground", always, textForeground},
-    {"foreground overlay", hasForegroundOverlay, overlayForeground},
-    {"text Foreground Layer", always, textForegroundLayer},
-    {"frame overlay picture", hasFrameOverlayPicture, overlayFrame},
-    {"text Frame Layer", always, textFrameLayer},
-    {"frame", hasFrame, addFrame},
-    {"second frame", hasSecondFrame, addSecondFrame},
-    {"smoothing of the result", smoothsResult, smoothResult},
+    kTexture, kBlurResult,
+    kTextForeground, kOverlayForeground, kTextForegroundLayer, kOverlayFrame,
+    kTextFrameLayer, kFrame, kSecondFrame,
+    kSmoothResult,
 };
 
-constexpr Stage kFullKey[] = {
-    {"picture of the silhouette", always, readSilhouette},
-    {"key", always, combine},
-    {"reflection", hasReflection, reflect},
-    {"edges", blendsEdges, blendEdges},
-    {"stars", hasStars, drawStars},
-};
+constexpr Stage kFullKey[] = {kSilhouette, kKey, kReflection, kEdges, kStars};
 constexpr Stage kFullFinish[] = {
-    {"text Foreground", always, textForeground},
-    {"foreground overlay", hasForegroundOverlay, overlayForeground},
-    {"text Foreground Layer", always, textForegroundLayer},
-    {"frame overlay picture", hasFrameOverlayPicture, overlayFrame},
-    {"skin", smoothsSkin, smoothSkin},
-    {"smoothing of the result", smoothsResult, smoothResult},
-    {"texture", hasTexture, addTexture},
-    {"sketch", isCartoon, drawSketch},
-    {"final blur", blursResult, blurResult},
-    {"text Frame Layer", always, textFrameLayer},
-    {"frame", hasFrame, addFrame},
-    {"second frame", hasSecondFrame, addSecondFrame},
+    kTextForeground, kOverlayForeground, kTextForegroundLayer, kOverlayFrame,
+    kSkin, kSmoothResult, kTexture, kSketch, kBlurResult,
+    kTextFrameLayer, kFrame, kSecondFrame,
 };
 
 // A plain keyed picture with text and overlays; everything else is left out for speed.
 constexpr Stage kFast[] = {
-    {"picture of the silhouette", always, readSilhouette},
-    {"key", always, combine},
-    {"text Foreground", always, textForeground},
-    {"foreground overlay", hasForegroundOverlay, overlayForeground},
-    {"text Foreground Layer", always, textForegroundLayer},
-    {"frame overlay picture", hasFrameOverlayPicture, overlayFrame},
-    {"final blur", blursResult, blurResult},
-    {"text Frame Layer", always, textFrameLayer},
+    kSilhouette, kKey,
+    kTextForeground, kOverlayForeground, kTextForegroundLayer, kOverlayFrame,
+    kBlurResult,
+    kTextFrameLayer,
 };
+// clang-format on
 
 /// A stage that gets no memory gives up, and with it this picture.
 void runStage(const Stage& stage, SystemInfo& info, int res) {

@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "core/state/SystemInfo.h"
 
@@ -10,11 +11,18 @@ namespace tavrin {
 /// Resolution argument of the stages.
 inline constexpr int kLowRes = 0, kFullRes = 1;
 
-/// One step of a pass.
+/// One step of a pass: all that its author must know stands in its row.
 struct Stage {
     const char* name;  ///< as it goes on after "there is not enough memory for the"
     bool (*when)(const SystemInfo&);
     void (*run)(SystemInfo&, int res);
+    /// Settings that it reads, with blanks between, by their names in SettingNames.h; "text." is all of every text. A
+    /// setting that stages of `finish` alone name does not key again. One that nobody names does: that costs time,
+    /// never a wrong picture. So a stage of `key` must name what a stage of `finish` reads too, and may leave out the
+    /// others.
+    std::string_view reads = {};
+    /// Whether a run of a stage of `key` reads a file, which may change without any setting knowing. None: never.
+    bool (*readsFile)(const SystemInfo&) = nullptr;
 };
 
 /// The stages of the combined picture, in two parts. The picture after the first is kept from one pass to the next

@@ -1,5 +1,6 @@
 #include "ui/MainWindow.h"
 
+#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -7,6 +8,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
@@ -170,17 +172,18 @@ void MainWindow::openState(const QString& path) {
     });
 }
 
-bool MainWindow::saveState(const QString& path) {
-    const std::string name = nameOfText(path);
-    std::string problem = whyNoStateOver(info_, name);
-    if (problem.empty()) problem = saveImageStateToXML(info_, name);
-    if (!problem.empty()) {
-        bridge_.showAlert(tr("The state file cannot be saved.").toStdString(), problem);
-        return false;
-    }
-    remember(path);
-    statusBar()->showMessage(tr("Saved %1").arg(path), 4000);
-    return true;
+void MainWindow::saveState(const QString& path) {
+    saveInTurn(path, [this, path] {
+        const std::string name = nameOfText(path);
+        std::string problem = whyNoStateOver(info_, name);
+        if (problem.empty()) problem = saveImageStateToXML(info_, name);
+        if (problem.empty()) {
+            emit bridge_.stateSaved(path);
+        } else {
+            bridge_.showAlert(tr("The state file cannot be saved.").toStdString(), problem);
+        }
+        return problem.empty();
+    });
 }
 
 void MainWindow::connectBridge() {
@@ -194,6 +197,8 @@ void MainWindow::connectBridge() {
             showSelectedSize();
         },
         Qt::QueuedConnection);
+    connect(&bridge_, &WindowBridge::stateSaved, this, &MainWindow::remember, Qt::QueuedConnection);
+    connect(&bridge_, &WindowBridge::saveEnded, this, &MainWindow::endSave, Qt::QueuedConnection);
     connect(
         &bridge_, &WindowBridge::controlsEnabled, this,
         [this](bool enabled, bool hostApplication) {
@@ -240,16 +245,48 @@ void MainWindow::askForSave() {
 }
 
 bool MainWindow::saveTo(QString path) {
-    // The buffers are the loop's while it works; between passes nobody else touches them.
     if (!loopRests()) {
         statusBar()->showMessage(tr("The picture is not finished yet."), 4000);
         return false;
     }
     if (QFileInfo(path).suffix().isEmpty()) path += ".jpg";
-    const std::string target = nameOfText(path);
-    if (!saveImageToDisk(info_, target, fileTypeForPath(target), 1)) return false;
-    statusBar()->showMessage(tr("Saved %1").arg(path), 4000);
+    KnownFiles sources;  // another portrait may be opened before the picture has its turn
+    for (const BitmapInfo* record : {info_.pForegroundBitmapInfo.get(), info_.pBackgroundBitmapInfo.get()})
+        sources.add(record->sSourceImageFullPath);
+    saveInTurn(path, [this, target = nameOfText(path), sources = std::move(sources)] {
+        return saveImageToDisk(info_, target, fileTypeForPath(target), 1, sources);
+    });
     return true;
+}
+
+/// Buffers and lists are the loop's, so what saves them is a job of the loop's. However it ends, the window hears of
+/// it.
+void MainWindow::saveInTurn(const QString& path, std::function<bool()> save) {
+    ++saves_;
+    statusBar()->showMessage(tr("Saving %1...").arg(path));
+    loop_->edit([this, path, save = std::move(save)]() -> std::vector<ChangedRows> {
+        bool done = false;
+        const auto tell = qScopeGuard([&] { emit bridge_.saveEnded(path, done); });
+        done = save();
+        return {};
+    });
+}
+
+void MainWindow::endSave(const QString& path, bool done) {
+    --saves_;
+    if (done) {
+        statusBar()->showMessage(tr("Saved %1").arg(path), 4000);
+    } else {
+        statusBar()->clearMessage();
+        closing_ = false;
+    }
+    if (closing_ && saves_ == 0) close();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    closing_ = saves_ > 0;
+    event->setAccepted(!closing_);
+    if (closing_) statusBar()->showMessage(tr("The window closes when everything is saved."));
 }
 
 void MainWindow::takePublished() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QComboBox>
@@ -27,14 +28,18 @@ class MainWindow : public QMainWindow {
     /// Loads every setting and both pictures from a state file, between two passes of the loop. A file that cannot
     /// be read shows an alert and changes nothing.
     void openState(const QString& path);
-    /// Saves every setting into a state file.
-    /// @return false after an alert; the old file is as it was
-    bool saveState(const QString& path);
+    /// Saves every setting into a state file, as soon as no pass is under work. The window tells when it is done;
+    /// after an alert the old file is as it was.
+    void saveState(const QString& path);
     /// Opens a file by its kind: a state file, or a picture for the portrait.
     void openFile(const QString& path);
-    /// Saves the full picture; the type follows the name's extension, JPEG where there is none.
-    /// @return false when there is no finished picture, or after an alert
+    /// Has the full picture that stands saved on the loop's thread, after what was to be saved before; the type
+    /// follows the name's extension, JPEG where there is none. The window tells when it is done, or why it is not.
+    /// @return false when there is no finished picture
     bool saveTo(QString path);
+    /// Pictures and states that are still to be saved. A window that is closed meanwhile goes when they are, and
+    /// stays when one cannot be.
+    int savesUnderWay() const { return saves_; }
 
     /// Shows what went wrong at the start, one line for each thing; work goes on beneath. "" shows nothing.
     void tellStartProblems(const std::string& lines);
@@ -43,6 +48,7 @@ class MainWindow : public QMainWindow {
     QComboBox* sizeBox() const { return sizeBox_; }
 
   protected:
+    void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
@@ -61,6 +67,8 @@ class MainWindow : public QMainWindow {
     void askForLayer(const BitmapInfo& record, const QString& title, void (MainWindow::*open)(const QString& path));
     void showOpened(const QString& path);
     void askForSave();
+    void saveInTurn(const QString& path, std::function<bool()> save);
+    void endSave(const QString& path, bool done);
     void takePublished();
     void showAlert(const QString& message, const QString& reason);
     void fitToOutput(int outputWidth, int outputHeight);
@@ -70,6 +78,8 @@ class MainWindow : public QMainWindow {
     WindowBridge bridge_;
     std::unique_ptr<CombineThread> loop_;
     PictureView* view_;
+    int saves_ = 0;
+    bool closing_ = false;  // as soon as all is saved
     QAction* saveAction_ = nullptr;
     QMenu* recentMenu_ = nullptr;
     QComboBox* sizeBox_ = nullptr;

@@ -10,6 +10,13 @@ namespace {
 
 const QColor kSurround(58, 60, 64);
 
+/// Rows of a picture of another size are none of this one's.
+void putRows(QImage& picture, const PublishedRows& rows) {
+    if (picture.size() != QSize(rows.pixels.width(), rows.height)) return;
+    std::memcpy(picture.scanLine(rows.firstRow), rows.pixels.constBits(),
+                static_cast<std::size_t>(rows.pixels.sizeInBytes()));
+}
+
 void drawChecks(QPainter& painter, const QRect& rect) {
     constexpr int kCheck = 12;
     painter.fillRect(rect, QColor(200, 200, 200));
@@ -29,18 +36,19 @@ PictureView::PictureView(QWidget* parent) : QWidget(parent) {
 
 void PictureView::show(const PublishedRows& rows) {
     scaled_ = QImage();
-    if (rows.lowRes) {
+    if (rows.edited) {
+        putRows(rows.lowRes ? preview_ : full_, rows);
+    } else if (rows.lowRes) {
         preview_ = rows.pixels;
         fullRows_ = 0;
     } else {
         if (full_.size() != QSize(rows.pixels.width(), rows.height)) {
             full_ = QImage(rows.pixels.width(), rows.height, QImage::Format_RGBA8888);
         }
-        if (rows.firstRow == 0 && rows.rowCount == rows.height) {
+        if (rows.rowCount == rows.height) {
             full_ = rows.pixels;
         } else {
-            std::memcpy(full_.scanLine(rows.firstRow), rows.pixels.constBits(),
-                        static_cast<std::size_t>(rows.pixels.sizeInBytes()));
+            putRows(full_, rows);
         }
         fullRows_ = rows.firstRow + rows.rowCount;
     }

@@ -36,6 +36,9 @@ class WindowBridge : public QObject, public Interface {
     void controlsEnabled(bool enabled, bool hostApplication);
     void outputSized(int width, int height);
     void stateOpened(const QString& path);
+    void stateSaved(const QString& path);
+    /// A job of saving came to its end; when it is not done, an alert told why.
+    void saveEnded(const QString& path, bool done);
     void alerted(const QString& message, const QString& reason);
 
   private:

@@ -3,119 +3,21 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "batch/BatchEngine.h"
-#include "core/files/Places.h"
-#include "folders/BatchNames.h"
+#include "batch/BatchScene.h"
 #include "folders/HistoryFile.h"
 #include "formats/ImageState.h"
 #include "formats/SettingsFile.h"
-#include "pipeline/CombineThread.h"
+#include "pipeline/SaveImage.h"
 #include "session/OutputSizes.h"
 #include "support/Files.h"
-#include "support/Pictures.h"
-#include "support/TestData.h"
 
 namespace fs = std::filesystem;
 
 namespace tavrin {
 namespace {
 
-using Names = std::vector<std::string>;
-
-struct Panel : BatchView {
-    void showBatchCounts(const std::string& files, const std::string& processed) override {
-        counts = files + "/" + processed;
-    }
-    void enableBatchStart(bool on) override { start = on; }
-    void enableBatchStop(bool on) override { stop = on; }
-    std::optional<std::string> FindFolder() override { return chosen; }
-
-    std::string counts;
-    bool start = true, stop = false;
-    std::optional<std::string> chosen;
-};
-
-struct Alerts : Interface {
-    void showAlert(const std::string& message, const std::string& reason) override {
-        all.push_back(message + "|" + reason);
-    }
-    Names all;
-};
-
-class BatchEngineTest : public testing::Test {
-  protected:
-    BatchEngineTest() {
-        for (const char* name : {"fg", "bg", "qlx", "out"})
-            fs::create_directory(folder_.path() / name);
-        places_.setSharedFolder(folder_.file("home"));
-        fs::create_directories(places_.xmlFolder());
-        info_->pInterface = &alerts_;
-        settings_.sLastBatchForeground = folder_.file("fg");
-        settings_.sLastBatchBackground = folder_.file("bg");
-        settings_.sLastBatchQLX = folder_.file("qlx");
-        settings_.sLastBatchOutput = folder_.file("out");
-        settings_.bLastBatchCheckForNewFiles = false;
-        settings_.iLastBatchLastOutputFileType = 2;
-        settings_.iLastBatchLastOutputStyle = kCombineNames;
-        settings_.bAutoQLXSave = false;
-    }
-    ~BatchEngineTest() override { places_.setSharedFolder(home_); }
-
-    void portrait(const std::string& name, QColor color = QColor(200, 60, 50)) {
-        test::savePng(test::discOnScreen(60, 40, QColor(40, 160, 60), color), folder_.file(name));
-    }
-    void background(const std::string& name, QColor color) {
-        QImage image(60, 40, QImage::Format_RGB888);
-        image.fill(color);
-        test::savePng(image, folder_.file(name));
-    }
-    /// Makes the engine and serves it as the program does, until the run stops or `steps` turns of the loop are over.
-    BatchEngine& engine() {
-        if (!engine_) {
-            loop_.runUntilIdle();  // the pass of the start, with whatever it has to say
-            alerts_.all.clear();
-            engine_ = std::make_unique<BatchEngine>(*info_, &panel_);
-            engine_->pause = [this] { ++pauses_; };
-            loop_.addIdleWork([this] { engine_->nextBatchImageToProcess(); });
-        }
-        return *engine_;
-    }
-    void turn(int steps = 200) {
-        while (steps-- > 0 && !engine().bBatchProcessingStopped)
-            loop_.iterate();
-    }
-    void run() {
-        engine().clickedButtonStartBatch();
-        turn();
-        EXPECT_TRUE(engine().bBatchProcessingStopped);
-    }
-    Names made(const std::string& sub = "out") const {
-        Names names;
-        for (const auto& entry : fs::directory_iterator(folder_.path() / sub)) {
-            if (entry.is_regular_file() && entry.path().filename() != "ForegroundHistory.dat")
-                names.push_back(entry.path().filename().string());
-        }
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-    QColor corner(const std::string& name) const {
-        return QImage(QString::fromStdString(folder_.file(name))).pixelColor(1, 1);
-    }
-    QColor middle(const std::string& name) const {
-        return QImage(QString::fromStdString(folder_.file(name))).pixelColor(30, 20);
-    }
-
-    test::TempFolder folder_;
-    Places& places_ = Places::current();
-    const std::string home_ = places_.sharedFolder();
-    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(60, 40, 40);
-    QLXInfo& settings_ = *info_->oQLXInfo;
-    Panel panel_;
-    Alerts alerts_;
-    CombineThread loop_{*info_};
-    std::unique_ptr<BatchEngine> engine_;
-    int pauses_ = 0;
-};
+using test::Names;
+using BatchEngineTest = test::BatchScene;
 
 TEST_F(BatchEngineTest, EveryCombinationIsMadeOnceWithItsMaskAndItsNames) {
     portrait("fg/anna.png");
@@ -140,7 +42,7 @@ TEST_F(BatchEngineTest, EveryCombinationIsMadeOnceWithItsMaskAndItsNames) {
                      "ben.pngwood.pngUseCurrent"}));
     EXPECT_EQ(panel_.counts, "4/4");
     EXPECT_TRUE(panel_.start && !panel_.stop);
-    EXPECT_EQ(pauses_, 4);  // a second for each new foreground
+    EXPECT_EQ(looks_, 8);  // two at each new foreground, a second apart
 
     fs::remove(folder_.path() / "out" / "bensea.png");
     run();  // all of it is in the history
@@ -323,24 +225,90 @@ TEST_F(BatchEngineTest, WatchTakesWhatArrivesAndAStopSavesWhatIsPending) {
     EXPECT_EQ(readHistory(folder_.file("out/ForegroundHistory.dat"))->size(), 3u);
 }
 
-TEST_F(BatchEngineTest, AGrowingFileIsWaitedForUntilItRests) {
+TEST_F(BatchEngineTest, AGrowingFileIsLookedAtUntilItRestsForASecond) {
     test::writeFile(folder_.file("fg/a.png"), "1");
     portrait("fg/b.png");
     portrait("fg/c.png");
     background("bg/sea.png", QColor(20, 60, 200));
-    engine().pause = [this] {
-        if (++pauses_ <= 3) test::writeFile(folder_.file("fg/a.png"), std::string(10 * pauses_, 'x'));
-        if (pauses_ == 4) portrait("fg/a.png");
-        if (pauses_ == 5) fs::remove(folder_.path() / "fg" / "a.png");  // gone: keeps its last size
-    };
+    int milliseconds = 0;
+    engine().now = [&] { return BatchEngine::Time(std::chrono::milliseconds(milliseconds)); };
     engine().clickedButtonStartBatch();
-    for (int i = 0; i < 20 && !engine().bSaveNextImage; ++i)
+    const auto isTakenAfter = [&](int wait) {
+        milliseconds += wait;
         loop_.iterate();
-    EXPECT_EQ(pauses_, 5);
-    engine().endWaits();
-    engine().pause = [] {};
+        return engine().bSaveNextImage.load();
+    };
+    for (int i = 0; i < 10; ++i)
+        EXPECT_FALSE(isTakenAfter(99)) << "a rest of less than a second";
+    for (std::size_t i = 2; i < 5; ++i) {
+        test::writeFile(folder_.file("fg/a.png"), std::string(10 * i, 'x'));
+        EXPECT_FALSE(isTakenAfter(1000)) << "it has grown";
+    }
+    fs::remove(folder_.path() / "fg" / "a.png");  // gone: keeps its last size
+    EXPECT_FALSE(isTakenAfter(999));
+    EXPECT_TRUE(isTakenAfter(1));
+    engine().now = [&] { return BatchEngine::Time(std::chrono::seconds(++milliseconds)); };
     turn();
     EXPECT_EQ(made(), (Names{"bsea.png", "csea.png"})) << "the one that is gone has no picture";
+}
+
+TEST_F(BatchEngineTest, WhileAFileGrowsTheLoopIsFreeAndAStopStillMakesTheJob) {
+    portrait("fg/a.png");
+    portrait("fg/b.png");
+    background("bg/sea.png", QColor(20, 60, 200));
+    info_->pForegroundBitmapInfo->sSourceImageFullPath = folder_.file("fg/b.png");
+    info_->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file("bg/sea.png");
+    BatchEngine::Time time;
+    engine().now = [&] { return time; };
+    engine().clickedButtonStartBatch();
+    std::vector<double> steps;
+    for (int i = 0; i < 21; ++i) {
+        info_->pBackgroundBitmapInfo->iBrightness = i;
+        info_->StartUpdate();
+        while (info_->iCurrentThreadCount <= info_->iNewThreadCount && loop_.iterate() != CombineThread::Turn::idle) {
+        }
+        EXPECT_EQ(info_->whyNotFinished(1), "") << "a moved slider has its picture";
+        const auto start = std::chrono::steady_clock::now();
+        engine().step();
+        steps.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+    }
+    std::nth_element(steps.begin(), steps.begin() + 10, steps.end());
+    EXPECT_LT(steps[10], 5.0) << "milliseconds of a step that only looks";
+    EXPECT_FALSE(engine().bSaveNextImage);
+    engine().clickedButtonStopBatch();
+    turn(5);
+    EXPECT_FALSE(engine().bBatchProcessingStopped) << "the job was taken before the stop";
+    time += std::chrono::seconds(1);
+    turn();
+    EXPECT_TRUE(engine().bBatchProcessingStopped);
+    EXPECT_EQ(made(), Names{"asea.png"});
+}
+
+// The state of a job may bring another size. The buffers hold the picture before, of the old size, until the job's is
+// made.
+TEST_F(BatchEngineTest, NoPictureIsSavedAsOfANewSizeBeforeThereIsOne) {
+    portrait("fg/a.png");
+    portrait("fg/b.png");
+    background("bg/sea.png", QColor(20, 60, 200));
+    const auto other = test::stateForOutput(60, 40, 40);
+    chooseOwnSize(*other, "mine", 0.75, 0.5, 120);
+    ASSERT_EQ(saveImageStateToXML(*other, folder_.file("qlx/mine.qlx")), "");
+    BatchEngine::Time time;
+    engine().now = [&] { return time; };
+    engine().clickedButtonStartBatch();
+    loop_.iterate();
+    ASSERT_TRUE(info_->bChangeImageSize);
+    loop_.edit([this]() -> std::vector<ChangedRows> {
+        EXPECT_FALSE(saveImageToDisk(*info_, folder_.file("byHand.png"), 2, 1));
+        return {};
+    });
+    loop_.iterate();
+    EXPECT_FALSE(fs::exists(folder_.path() / "byHand.png"));
+    ASSERT_EQ(alerts_.all.size(), 1u);
+    EXPECT_TRUE(alerts_.all[0].starts_with("The picture is not saved."));
+    engine().now = [this] { return BatchEngine::Time(std::chrono::hours(++looks_)); };
+    turn();
+    EXPECT_EQ(made().size(), 2u);
 }
 
 TEST_F(BatchEngineTest, SubfoldersAreNamedLikeTheirBackgroundAndStrayPicturesAreRefusedOnce) {

@@ -40,6 +40,12 @@ class CountingInterface : public Interface {
     std::function<void(const PublishedRows&)> onRepaint;
 };
 
+struct IdleTurns : IdleJob {
+    bool isOn() const override { return true; }
+    void step() override { ++turns; }
+    std::atomic<int> turns = 0;
+};
+
 class CombineThreadTest : public testing::Test {
   protected:
     void SetUp() override {
@@ -247,9 +253,9 @@ TEST_F(CombineThreadTest, ANewerRequestAtAnyMomentLosesNothing) {
         CombineThread(*whole).runUntilIdle();
 
         info_->iGlobalSmoothingMode = smoothing;
-        std::atomic<int> idleTurns = 0;
+        IdleTurns idle;
         CombineThread loop(*info_);
-        loop.addIdleWork([&] { ++idleTurns; });
+        loop.addIdleJob(idle);
         loop.StartMainThread();
         for (int moment = 0; moment < 30; ++moment) {
             place(*info_, 1.3);
@@ -259,10 +265,10 @@ TEST_F(CombineThreadTest, ANewerRequestAtAnyMomentLosesNothing) {
             moment % 2 ? info_->StartUpdate() : loop.post([] {});
             pause(moment % 5 * 100);
             info_->StartUpdate();
-            const int before = idleTurns;
-            for (int wait = 0; wait < 30'000 && idleTurns == before; ++wait)
+            const int before = idle.turns;
+            for (int wait = 0; wait < 30'000 && idle.turns == before; ++wait)
                 pause(1000);
-            ASSERT_GT(idleTurns, before);
+            ASSERT_GT(idle.turns, before);
             ASSERT_EQ(fullBytes(*info_), fullBytes(*whole)) << moment << ", smoothing " << smoothing;
         }
     }
@@ -371,10 +377,10 @@ TEST_F(CombineThreadTest, APassThatCannotBeMadeLeavesNothingToSaveAndIsToldOnce)
 
 // For the thread sanitizer above all: settings change from another thread while passes run.
 TEST_F(CombineThreadTest, SettingsMayChangeWhilePassesRun) {
-    std::atomic<int> idleTurns = 0;
+    IdleTurns idle;
     {
         CombineThread loop(*info_);
-        loop.addIdleWork([&] { ++idleTurns; });
+        loop.addIdleJob(idle);
         loop.StartMainThread();
         for (int i = 0; i < 60; ++i) {
             info_->pForegroundBitmapInfo->iBrightness = i - 30;
@@ -387,11 +393,11 @@ TEST_F(CombineThreadTest, SettingsMayChangeWhilePassesRun) {
         }
         info_->sSilhouetteFileName = "";
         info_->StartUpdate();
-        const int before = idleTurns;
-        for (int wait = 0; wait < 3000 && idleTurns == before; ++wait) {
+        const int before = idle.turns;
+        for (int wait = 0; wait < 3000 && idle.turns == before; ++wait) {
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
-        EXPECT_GT(idleTurns, before);
+        EXPECT_GT(idle.turns, before);
     }
     EXPECT_GE(view_.passes(), 1);
 }

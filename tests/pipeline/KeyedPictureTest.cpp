@@ -200,10 +200,12 @@ bool isSize(const std::string& name) {
 }
 
 bool isFinishing(const std::string& name) {
-    const auto starts = [&](const char* prefix) { return name.starts_with(prefix); };
-    return starts("label") || starts("text") || starts("frame") || starts("iCartoon") || starts("iSliderCartoon") ||
-           starts("bHaveF") || starts("sF") || starts("iGlobalSmoothing") || starts("iMakeup") ||
-           starts("dSliderForegroundBlur");
+    const char* const starts[] = {
+        "label",        "text",        "frame",       "iCartoon",         "iSliderCartoon",
+        "bHaveF",       "sF",          "iMakeup",     "iGlobalSmoothing", "dSliderForegroundBlur",
+        "iSliderForeg", "iSmooth",     "iColorDelta", "iNumberOfSamples", "iRedRequired",
+        "bShowSkin",    "bSmoothBlend"};
+    return std::ranges::any_of(starts, [&](const char* start) { return name.starts_with(start); });
 }
 
 // Whatever a single setting does, a pass that could take the keyed picture up again shows the same as one that could

@@ -3,8 +3,8 @@
 namespace tavrin::test {
 
 /// The programs run under a checker, which takes terabytes of addresses and many times the time. What measures
-/// either, or has to hit a moment, is tested without. What tries many values tries that many times fewer: the checkers
-/// look for other faults than wrong values.
+/// either, or has to hit a moment, is tested without. What tries many values tries that many times fewer: the
+/// checkers look for other faults than wrong values.
 #if defined(__SANITIZE_ADDRESS__)
 inline constexpr bool kSanitized = true;
 inline constexpr int kTimesFewer = 5;

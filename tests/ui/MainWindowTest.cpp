@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <QColorSpace>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTest>
 
 #include "formats/ImageState.h"
@@ -40,6 +42,19 @@ class MainWindowTest : public testing::Test {
         EXPECT_TRUE(waitForPicture());
         return window_->view()->fullPicture();
     }
+    /// Has something saved and waits until the window has told how it ended.
+    /// @return whether it was saved
+    bool waitForSave(const QString& path) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
+        return window_->statusBar()->currentMessage() == "Saved " + path;
+    }
+    bool savePicture(const std::string& path) {
+        return window_->saveTo(QString::fromStdString(path)) && waitForSave(QString::fromStdString(path));
+    }
+    bool saveState(const std::string& path) {
+        window_->saveState(QString::fromStdString(path));
+        return waitForSave(QString::fromStdString(path));
+    }
     void drop(const QStringList& files, const QPoint& at) {
         QList<QUrl> urls;
         for (const QString& file : files)
@@ -67,7 +82,7 @@ TEST_F(MainWindowTest, ShowsThePictureAndSavesWhatItShows) {
     ASSERT_TRUE(waitForPicture());
     const QImage shown = window_->view()->fullPicture();
     ASSERT_EQ(shown.size(), QSize(240, 300));
-    ASSERT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("out.png"))));
+    ASSERT_TRUE(savePicture(folder_.file("out.png")));
     QImage saved(QString::fromStdString(folder_.file("out.png")));
     saved = saved.convertToFormat(QImage::Format_RGBA8888);
     saved.setColorSpace(QColorSpace());  // the file names sRGB, the view's copy nothing
@@ -99,17 +114,100 @@ TEST_F(MainWindowTest, NothingIsSavedOverWhatThePictureIsMadeFrom) {
                  other = bytes(folder_.file("other.png"));
     int told = 0;
     for (const std::string& path : {foreground_, background_, folder_.file("link.png")}) {
-        EXPECT_FALSE(window_->saveTo(QString::fromStdString(path))) << path;
-        EXPECT_FALSE(window_->saveState(QString::fromStdString(path))) << path;
-        QCoreApplication::processEvents();
+        EXPECT_FALSE(savePicture(path)) << path;
+        EXPECT_FALSE(saveState(path)) << path;
         told += 2;
         EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), told);
     }
-    EXPECT_FALSE(window_->saveState(QString::fromStdString(folder_.file("other.png"))));
+    EXPECT_FALSE(saveState(folder_.file("other.png")));
     EXPECT_EQ(bytes(foreground_), portrait);
     EXPECT_EQ(bytes(background_), background);
     EXPECT_EQ(bytes(folder_.file("other.png")), other);
-    EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("other.png"))));  // the dialog has asked
+    EXPECT_TRUE(savePicture(folder_.file("other.png")));  // the dialog has asked
+
+    // Nor when another portrait is opened before the save has its turn.
+    const std::string next = test::savePng(test::discOnScreen(240, 300), folder_.file("next.png"));
+    pictureAfter([&] {
+        window_->saveTo(QString::fromStdString(folder_.file("first.png")));
+        window_->saveTo(QString::fromStdString(foreground_));
+        window_->openForeground(QString::fromStdString(next));
+    });
+    EXPECT_TRUE(std::filesystem::exists(folder_.file("first.png")));
+    EXPECT_EQ(bytes(foreground_), portrait);
+    EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), told + 2);
+}
+
+TEST_F(MainWindowTest, SavesAreDoneInTheirOrderWhileTheWindowGoesOn) {
+    ASSERT_TRUE(waitForPicture());
+    const QImage shown = window_->view()->fullPicture();
+    QStringList told;
+    QObject::connect(window_->statusBar(), &QStatusBar::messageChanged, [&](const QString& message) {
+        if (message.startsWith("Saved ")) told.append(QFileInfo(message).fileName());
+    });
+    for (const char* name : {"a.tif", "b.jpg", "c.png"})
+        EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file(name))));
+    EXPECT_EQ(window_->savesUnderWay(), 3);
+    const QImage brighter = pictureAfter([&] {  // a request made later finds nothing to wait for but the saves
+        info_->pBackgroundBitmapInfo->iBrightness = 60;
+        info_->StartUpdate();
+    });
+    EXPECT_NE(brighter, shown);
+    EXPECT_EQ(told, (QStringList{"a.tif", "b.jpg", "c.png"}));
+    QImage saved = QImage(QString::fromStdString(folder_.file("c.png"))).convertToFormat(QImage::Format_RGBA8888);
+    saved.setColorSpace(QColorSpace());
+    EXPECT_EQ(saved, shown);
+    EXPECT_TRUE(window_->findChildren<QMessageBox*>().isEmpty());
+}
+
+TEST_F(MainWindowTest, AWindowThatIsClosedWaitsForItsSavesAndStaysWhenOneFails) {
+    ASSERT_TRUE(waitForPicture());
+    window_->saveTo(QString::fromStdString(folder_.file("no/folder.png")));
+    EXPECT_FALSE(window_->close());
+    EXPECT_FALSE(waitForSave({}));
+    EXPECT_TRUE(window_->isVisible());
+    ASSERT_EQ(window_->findChildren<QMessageBox*>().size(), 1);
+    delete window_->findChild<QMessageBox*>();
+
+    window_->saveTo(QString::fromStdString(folder_.file("a.png")));
+    window_->saveState(QString::fromStdString(folder_.file("a.qlx")));
+    EXPECT_FALSE(window_->close());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window_->isVisible(); }, 20000));
+    EXPECT_FALSE(QImage(QString::fromStdString(folder_.file("a.png"))).isNull());
+    EXPECT_TRUE(std::filesystem::exists(folder_.file("a.qlx")));
+
+    window_->saveTo(QString::fromStdString(folder_.file("b.png")));
+    window_.reset();
+    EXPECT_FALSE(QImage(QString::fromStdString(folder_.file("b.png"))).isNull());
+}
+
+// As the processing thread sends them.
+TEST_F(MainWindowTest, RowsOfAnEditChangeThePictureThatIsShown) {
+    ASSERT_TRUE(waitForPicture());
+    QImage expected = window_->view()->fullPicture();
+    PublishedRows rows;
+    rows.pixels = QImage(240, 2, QImage::Format_RGBA8888);
+    rows.pixels.fill(QColor(1, 2, 3));
+    rows.firstRow = 100;
+    rows.rowCount = 2;
+    rows.height = 300;
+    rows.edited = true;
+    window_->view()->show(rows);
+    EXPECT_TRUE(window_->view()->isFull()) << "the rows below still stand";
+    for (int x = 0; x < 240; ++x) {
+        expected.setPixelColor(x, 100, QColor(1, 2, 3));
+        expected.setPixelColor(x, 101, QColor(1, 2, 3));
+    }
+    EXPECT_EQ(window_->view()->fullPicture(), expected);
+    rows.height = 200;  // of a picture of another size
+    rows.firstRow = 0;
+    window_->view()->show(rows);
+    EXPECT_EQ(window_->view()->fullPicture(), expected);
+
+    WindowBridge bridge;
+    bridge.repaint(rows);
+    rows.rowCount = rows.height;
+    bridge.repaint(rows);
+    EXPECT_EQ(bridge.takePublished().size(), 2u) << "an edit replaces nothing that comes before it";
 }
 
 TEST_F(MainWindowTest, AFileWhoseNameIsNoTextCanBeDropped) {
@@ -140,7 +238,7 @@ TEST_F(MainWindowTest, AStateFileBringsEverySettingBack) {
     ASSERT_TRUE(waitForPicture());
     const QString file = QString::fromStdString(folder_.file("a.qlx"));
     const QImage before = window_->view()->fullPicture();
-    ASSERT_TRUE(window_->saveState(file));
+    ASSERT_TRUE(saveState(file.toStdString()));
     const QImage brighter = pictureAfter([&] {
         info_->pBackgroundBitmapInfo->iBrightness = 60;
         info_->StartUpdate();
@@ -192,7 +290,7 @@ TEST_F(MainWindowTest, AnUnreadableFileIsToldAndTheOldPictureStays) {
     const auto boxes = window_->findChildren<QMessageBox*>();
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0]->text(), "Cound not load file: missing.jpg, check your file permissions");
-    EXPECT_FALSE(window_->saveTo(QString::fromStdString(folder_.file("missing-combined.jpg"))));
+    EXPECT_FALSE(savePicture(folder_.file("missing-combined.jpg")));
     EXPECT_FALSE(std::filesystem::exists(folder_.file("missing-combined.jpg"))) << "it would be the old portrait's";
     QCoreApplication::processEvents();
     EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), 2);
@@ -211,7 +309,7 @@ TEST_F(MainWindowTest, AMissingOverlayIsToldOnceHoweverManyPicturesAreMadeAndSav
             info_->pForegroundBitmapInfo->iBrightness = i;
             info_->StartUpdate();
         });
-        EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("a.png"))));
+        EXPECT_TRUE(savePicture(folder_.file("a.png")));
     }
     const auto boxes = window_->findChildren<QMessageBox*>();
     ASSERT_EQ(boxes.size(), 1);

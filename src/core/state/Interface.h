@@ -14,6 +14,7 @@ struct PublishedRows {
     int firstRow = 0, rowCount = 0;  ///< where they belong
     int height = 0;                  ///< height of the whole picture; its width is that of `pixels`
     bool lowRes = false;             ///< the preview, not the full picture
+    bool edited = false;             ///< no pass made them: they change rows of the picture that stands
 };
 
 /// All that the engine asks of a window. Every operation may be called from the processing thread and must not
@@ -25,7 +26,7 @@ class Interface {
 
     /// False: `repaint` tells the rows only and leaves their pixels out, which saves the copy.
     virtual bool wantsPixels() const { return true; }
-    /// New rows to show; with `lowRes` always the whole preview.
+    /// New rows to show; a preview that a pass made is always whole.
     virtual void repaint(const PublishedRows&) {}
     /// A pass begins (false) or a full picture stands (true): save, print, sizes and freeze go with it. The save
     /// control is called "Return To Lightroom" when the program serves a host application, else "Save".

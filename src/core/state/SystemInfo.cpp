@@ -1,5 +1,8 @@
 #include "core/state/SystemInfo.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "core/Log.h"
 #include "core/raster/CopyPixels.h"
 
@@ -42,6 +45,14 @@ void SystemInfo::StartUpdate() {
     wake_.notify_one();
 }
 
+void SystemInfo::wakeLoop() {
+    {
+        std::lock_guard lock(wakeMutex_);
+        woken_ = true;
+    }
+    wake_.notify_one();
+}
+
 void SystemInfo::waitForUpdate(std::chrono::milliseconds limit) {
     std::unique_lock lock(wakeMutex_);
     wake_.wait_for(lock, limit, [this] { return woken_; });
@@ -61,31 +72,41 @@ RunContext SystemInfo::rowsWhileWanted() const {
 }
 
 void SystemInfo::publishFull(int firstRow, int lastRow) {
-    publish(*pCombinedBitmapInfo, false, firstRow, lastRow);
+    PublishedRows rows;
+    rows.firstRow = firstRow;
+    rows.rowCount = lastRow - firstRow;
+    publish(std::move(rows), rowsWhileCurrent());
 }
 
 void SystemInfo::publishLowRes() {
-    publish(*pCombinedBitmapInfo, true, 0, iOutputPixelLowResHeight);
+    PublishedRows rows;
+    rows.rowCount = iOutputPixelLowResHeight;
+    rows.lowRes = true;
+    publish(std::move(rows), {});
 }
 
-void SystemInfo::publish(BitmapInfo& record, bool lowRes, int firstRow, int lastRow) {
-    const std::uint8_t* bytes = lowRes ? record.pBitmapDataLowRes : record.pBitmapData;
-    const int width = lowRes ? iOutputPixelLowResWidth : iOutputPixelWidth;
-    const int height = lowRes ? iOutputPixelLowResHeight : iOutputPixelHeight;
-    if (!pInterface || !bytes || lastRow <= firstRow) return;
-
+void SystemInfo::publishEdited(int res, int firstRow, int lastRow) {
     PublishedRows rows;
-    const int count = lastRow - firstRow;
+    rows.firstRow = std::max(firstRow, 0);
+    rows.rowCount = std::min(lastRow, geometry(res).height) - rows.firstRow;
+    rows.lowRes = res != 1;
+    rows.edited = true;
+    publish(std::move(rows), {});
+}
+
+/// Fills in the rows' pixels, where they are wanted, and hands them over.
+void SystemInfo::publish(PublishedRows rows, const RunContext& run) {
+    const BitmapInfo& record = *pCombinedBitmapInfo;
+    const std::uint8_t* bytes = rows.lowRes ? record.pBitmapDataLowRes : record.pBitmapData;
+    const PassGeometry size = geometry(rows.lowRes ? 0 : 1);
+    if (!pInterface || !bytes || rows.rowCount < 1) return;
     if (pInterface->wantsPixels()) {
-        rows.pixels = newPicture(width, count, QImage::Format_RGBA8888);
+        rows.pixels = newPicture(size.width, rows.rowCount, QImage::Format_RGBA8888);
         if (rows.pixels.isNull()) return;
-        const RunContext run = lowRes ? RunContext() : rowsWhileCurrent();
-        if (!copyPixels(run, bytes + pixelOffset(width, 0, firstRow), rows.pixels.bits(), width, count)) return;
+        const std::uint8_t* from = bytes + pixelOffset(size.width, 0, rows.firstRow);
+        if (!copyPixels(run, from, rows.pixels.bits(), size.width, rows.rowCount)) return;
     }
-    rows.firstRow = firstRow;
-    rows.rowCount = count;
-    rows.height = height;
-    rows.lowRes = lowRes;
+    rows.height = size.height;
     pInterface->repaint(rows);
 }
 

@@ -76,7 +76,10 @@ class SystemInfo : public Settings,
 
     /// Asks for a new picture. Callable from any thread, never waits.
     void StartUpdate();
-    /// Waits until `StartUpdate` was called since the last wait, at most `limit`. For the processing thread.
+    /// Wakes the processing thread without asking for a picture. Callable from any thread, never waits.
+    void wakeLoop();
+    /// Waits until `StartUpdate` or `wakeLoop` was called since the last wait, at most `limit`. For the processing
+    /// thread.
     void waitForUpdate(std::chrono::milliseconds limit);
 
     /// A newer picture is wanted than the one under work, or the work has been overtaken.
@@ -93,6 +96,9 @@ class SystemInfo : public Settings,
     void publishFull(int firstRow, int lastRow);
     /// Hands the whole combined preview to the interface, if there is one.
     void publishLowRes();
+    /// Hands rows [first, last) of a combined picture (res 1: the full one, otherwise the preview), which stands and
+    /// was changed there, to the interface, if there is one. Rows that the picture does not have are left out.
+    void publishEdited(int res, int firstRow, int lastRow);
 
     /// Why the combined picture (res 1: the full one, otherwise the preview) must not go out as that of the present
     /// sources and settings, as one plain line without a full stop; empty when it may. Callable from any thread.
@@ -113,7 +119,7 @@ class SystemInfo : public Settings,
     const std::unique_ptr<ImageFrame> oFrame, oFrameOverlay;
 
   private:
-    void publish(BitmapInfo& record, bool lowRes, int firstRow, int lastRow);
+    void publish(PublishedRows rows, const RunContext& run);
 
     std::mutex wakeMutex_;
     std::condition_variable wake_;
