@@ -17,8 +17,8 @@ namespace {
 
 constexpr const char* kHistoryName = "ForegroundHistory.dat";
 
-BatchView& orSilent(BatchView* view) {
-    static BatchView silent;
+BatchInterface& orSilent(BatchInterface* view) {
+    static BatchInterface silent;
     return view ? *view : silent;
 }
 
@@ -34,7 +34,7 @@ std::int32_t totalOf(std::int64_t product) {
 
 }  // namespace
 
-BatchEngine::BatchEngine(SystemInfo& info, BatchView* view)
+BatchEngine::BatchEngine(SystemInfo& info, BatchInterface* view)
     : info_(info), settings_(*info.oQLXInfo), view_(orSilent(view)) {
     nextBatchForegroundFile.setFolderToCheck(settings_.sLastBatchForeground);
     nextBatchBackgroundFile.setFolderToCheck(settings_.sLastBatchBackground);

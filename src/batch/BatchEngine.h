@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "batch/BatchView.h"
+#include "batch/BatchInterface.h"
 #include "core/files/FileIdentity.h"
 #include "core/state/SystemInfo.h"
 #include "folders/BatchElement.h"
@@ -36,7 +36,7 @@ class BatchEngine : public IdleJob {
     static constexpr std::size_t kBatchElements = 500;
 
     /// @param view of the panel, not owned; null is fine
-    explicit BatchEngine(SystemInfo& info, BatchView* view = nullptr);
+    explicit BatchEngine(SystemInfo& info, BatchInterface* view = nullptr);
 
     void clickedButtonStartBatch();
     void clickedButtonStopBatch();
@@ -88,8 +88,8 @@ class BatchEngine : public IdleJob {
     std::function<Time()> now = std::chrono::steady_clock::now;
 
   private:
-    /// The next combination, by the names of the lists.
-    struct Job {
+    /// What is made next, by the names of the lists.
+    struct Selection {
         BatchSources names;
         std::string foregroundPath, backgroundPath, statePath;
         std::string historyKey;
@@ -117,16 +117,16 @@ class BatchEngine : public IdleJob {
     void drawMask();
     void stopRun();
     void takeJob();
-    void beginJob(const Job& job);
-    std::optional<Job> chooseJob();
-    std::optional<Job> chooseCombination();
-    std::optional<Job> chooseFromList();
+    void beginJob(const Selection& job);
+    std::optional<Selection> chooseJob();
+    std::optional<Selection> chooseCombination();
+    std::optional<Selection> chooseFromList();
     void refuseOnce(const std::string& problem);
-    void loadState(const Job& job);
-    void loadBackground(const Job& job);
-    void loadForeground(const Job& job);
-    bool isStable(const Job& job);
-    void nameOutput(const Job& job);
+    void loadState(const Selection& job);
+    void loadBackground(const Selection& job);
+    void loadForeground(const Selection& job);
+    bool isStable(const Selection& job);
+    void nameOutput(const Selection& job);
     std::string whyNotSaved();
     KnownFiles inputFiles();
 
@@ -137,9 +137,9 @@ class BatchEngine : public IdleJob {
 
     SystemInfo& info_;
     QLXInfo& settings_;
-    BatchView& view_;
-    std::recursive_mutex scanners_;  ///< the panel and a run both look into the folders
-    std::optional<Job> taken_;       ///< the job whose portrait is waited for, and what was seen of it
+    BatchInterface& view_;
+    std::recursive_mutex scanners_;   ///< the panel and a run both look into the folders
+    std::optional<Selection> taken_;  ///< the job whose portrait is waited for, and what was seen of it
     std::optional<Seen> seen_;
     std::optional<Searched> searchedInVain_;
     bool refused_ = false;  ///< a message about an entry that has no place was shown in this run

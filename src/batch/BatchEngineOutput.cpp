@@ -6,7 +6,7 @@
 
 namespace tavrin {
 
-void BatchEngine::nameOutput(const Job& job) {
+void BatchEngine::nameOutput(const Selection& job) {
     const std::string folder = settings_.sLastBatchOutput;
     switch (settings_.iLastBatchLastOutputStyle) {
         case kNumberFiles:

@@ -33,7 +33,7 @@ void BatchEngine::takeJob() {
     if (bSaveNextImage) saveFinishedJob();
     if (bStopBatchProcessing) return stopRun();
 
-    std::optional<Job> job = chooseJob();
+    std::optional<Selection> job = chooseJob();
     if (!job) {
         if (!watch) stopRun();
         return;
@@ -43,7 +43,7 @@ void BatchEngine::takeJob() {
     taken_ = std::move(job);  // last: what found no memory for these is chosen again
 }
 
-void BatchEngine::beginJob(const Job& job) {
+void BatchEngine::beginJob(const Selection& job) {
     loadForeground(job);
     if (!job.fromList) nameOutput(job);
     if (const std::string problem = whyNotSaved(); !problem.empty()) {
@@ -107,7 +107,7 @@ void BatchEngine::drawMask() {
     });
 }
 
-std::optional<BatchEngine::Job> BatchEngine::chooseJob() {
+std::optional<BatchEngine::Selection> BatchEngine::chooseJob() {
     std::lock_guard lock(scanners_);
     for (NextFileInFolder* scanner : {&nextBatchForegroundFile, &nextBatchBackgroundFile, &nextBatchQLXFile}) {
         // An empty slot counts once. A list that was not searched anew has it already.
@@ -128,25 +128,25 @@ std::optional<BatchEngine::Job> BatchEngine::chooseJob() {
 /// The first combination that is not in the history. With subfolders, one of the foreground folder is named like the
 /// background of its portraits, and state files play no part; the plain search never descends, so this mode has one
 /// that does. A portrait that lies in no subfolder has no background and is refused.
-std::optional<BatchEngine::Job> BatchEngine::chooseCombination() {
+std::optional<BatchEngine::Selection> BatchEngine::chooseCombination() {
     static const std::string kNoState = kUseCurrent;
     const std::vector<std::string>& history = nextBatchForegroundFile.oProcessedFiles;
     const std::unordered_set<std::string_view> done(history.begin(), history.end());
     BatchSlots slots = {nextBatchForegroundFile.oFilesInFolder, nextBatchBackgroundFile.oFilesInFolder,
                         nextBatchQLXFile.oFilesInFolder};
-    std::optional<Job> next;
+    std::optional<Selection> next;
     const auto take = [&](const Combination& at) {
         const std::string& entry = slots.foregrounds[at.foreground];
         const BatchSources names = {entry.substr(entry.find('/') + 1),  // behind its subfolder, or the whole
                                     slots.backgrounds[at.background], slots.states[at.state]};
         const std::string key = names.foreground + names.background + names.state;
         if (done.contains(key)) return true;
-        next = Job{names,
-                   nextBatchForegroundFile.sFolderToCheck + "/" + entry,
-                   nextBatchBackgroundFile.sFolderToCheck + "/" + names.background,
-                   nextBatchQLXFile.sFolderToCheck + "/" + names.state,
-                   key,
-                   entry};  // two folders may hold portraits of one name
+        next = Selection{names,
+                         nextBatchForegroundFile.sFolderToCheck + "/" + entry,
+                         nextBatchBackgroundFile.sFolderToCheck + "/" + names.background,
+                         nextBatchQLXFile.sFolderToCheck + "/" + names.state,
+                         key,
+                         entry};  // two folders may hold portraits of one name
         return false;
     };
     if (settings_.bUseBackgroundSubfolders) {
@@ -169,38 +169,40 @@ void BatchEngine::refuseOnce(const std::string& entry) {
                     "like its background");
 }
 
-std::optional<BatchEngine::Job> BatchEngine::chooseFromList() {
+std::optional<BatchEngine::Selection> BatchEngine::chooseFromList() {
     if (iNextXMLBatchElement >= iXMLBatchElements) return std::nullopt;
     const BatchElement& element = myBatchElements[static_cast<std::size_t>(iNextXMLBatchElement.load())];
     iNextXMLBatchElement = iNextXMLBatchElement + 1;
     settings_.iLastBatchLastOutputFileType = element.iOutputFileType;
     useSwitches(info_, {element.OutputTransparency, element.NoGreenScreenProcessing, element.BlueScreenProcessing});
     sSaveFileName = element.sOutputFile;
-    Job job{{element.sForegroundFile, element.sBackgroundFile, element.sQLXFile},
-            element.sForegroundFile,
-            element.sBackgroundFile,
-            nextBatchQLXFile.sFolderToCheck + "/" + element.sQLXFile,
-            ""};
+    Selection job{{element.sForegroundFile, element.sBackgroundFile, element.sQLXFile},
+                  element.sForegroundFile,
+                  element.sBackgroundFile,
+                  nextBatchQLXFile.sFolderToCheck + "/" + element.sQLXFile,
+                  ""};
     job.fromList = true;
     return job;
 }
 
-void BatchEngine::loadState(const Job& job) {
+void BatchEngine::loadState(const Selection& job) {
     if (job.names.state == sLastQLXFile.load()) return;
     if (const std::string problem = openState(info_, job.statePath, Portrait::stays); !problem.empty()) {
         logTrace(problem);  // the job runs with the state in force
         reloadSources(info_);
     }
+    // Until the job's picture is there, none of the size that is told now may be saved by hand.
+    if (info_.bChangeImageSize) info_.pictures.begin();
     sLastQLXFile = job.names.state;
 }
 
-void BatchEngine::loadBackground(const Job& job) {
+void BatchEngine::loadBackground(const Selection& job) {
     if (job.names.background == sLastBackgroundFile.load()) return;
     setBackground(info_, job.backgroundPath);
     sLastBackgroundFile = job.names.background;
 }
 
-void BatchEngine::loadForeground(const Job& job) {
+void BatchEngine::loadForeground(const Selection& job) {
     if (job.foregroundName == sLastForegroundFile.load()) return;
     setForeground(info_, job.foregroundPath);
     sLastForegroundFile = job.foregroundName;
@@ -208,7 +210,7 @@ void BatchEngine::loadForeground(const Job& job) {
 
 /// A camera or a copy over the network may still be writing a new portrait: two looks, a second apart, have to see
 /// one size. A file that goes away meanwhile keeps its last size, so that the waiting ends.
-bool BatchEngine::isStable(const Job& job) {
+bool BatchEngine::isStable(const Selection& job) {
     if (job.foregroundName == sLastForegroundFile.load()) return true;
     const Time time = now();
     if (seen_ && time - seen_->at < std::chrono::seconds(1)) return false;

@@ -284,8 +284,9 @@ TEST_F(BatchEngineTest, WhileAFileGrowsTheLoopIsFreeAndAStopStillMakesTheJob) {
     EXPECT_EQ(made(), Names{"asea.png"});
 }
 
-// The state of a job may bring another size. Its buffers stand empty until the job's picture is made.
-TEST_F(BatchEngineTest, BuffersOfANewSizeAreNotSavedBeforeThereIsAPictureInThem) {
+// The state of a job may bring another size. The buffers hold the picture before, of the old size, until the job's is
+// made.
+TEST_F(BatchEngineTest, NoPictureIsSavedAsOfANewSizeBeforeThereIsOne) {
     portrait("fg/a.png");
     portrait("fg/b.png");
     background("bg/sea.png", QColor(20, 60, 200));
@@ -298,7 +299,7 @@ TEST_F(BatchEngineTest, BuffersOfANewSizeAreNotSavedBeforeThereIsAPictureInThem)
     engine().now = [&] { return time; };
     engine().clickedButtonStartBatch();
     loop_.iterate();
-    ASSERT_EQ(info_->iOutputPixelWidth, 90);
+    ASSERT_TRUE(info_->bChangeImageSize);
     loop_.edit([this]() -> std::vector<ChangedRows> {
         EXPECT_FALSE(saveImageToDisk(*info_, folder_.file("byHand.png"), 2, 1));
         return {};

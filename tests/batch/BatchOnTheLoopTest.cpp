@@ -2,8 +2,8 @@
 
 #include "batch/BatchScene.h"
 #include "formats/ImageState.h"
-#include "session/OutputSizes.h"
 #include "pipeline/SaveImage.h"
+#include "session/OutputSizes.h"
 
 namespace tavrin {
 namespace {

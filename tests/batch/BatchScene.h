@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 using Names = std::vector<std::string>;
 
-struct Panel : BatchView {
+struct Panel : BatchInterface {
     void showBatchCounts(const std::string& files, const std::string& processed) override {
         counts = files + "/" + processed;
     }

@@ -7,9 +7,9 @@ namespace tavrin {
 
 /// What the batch engine asks of the batch panel. The first three may be called from the processing thread: they post
 /// and return at once. The default does nothing, so that a batch runs without a window.
-class BatchView {
+class BatchInterface {
   public:
-    virtual ~BatchView() = default;
+    virtual ~BatchInterface() = default;
 
     /// Texts of `textBatchFileCount` and `textBatchProcessedCount`.
     virtual void showBatchCounts(const std::string& /*files*/, const std::string& /*processed*/) {}
