@@ -120,7 +120,7 @@ std::optional<BatchEngine::Selection> BatchEngine::chooseJob() {
     const Searched now = {subfolders, nextBatchForegroundFile.changes() + nextBatchBackgroundFile.changes() +
                                           nextBatchQLXFile.changes()};
     if (searchedInVain_ == now) return std::nullopt;
-    std::optional<Job> job = chooseCombination();
+    std::optional<Selection> job = chooseCombination();
     if (!job) searchedInVain_ = now;
     return job;
 }
