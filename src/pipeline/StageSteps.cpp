@@ -19,6 +19,7 @@
 #include "key/skin/Skin.h"
 #include "pipeline/Stages.h"
 #include "pipeline/StartUp.h"
+#include "pipeline/SubjectBounds.h"
 
 namespace tavrin {
 
@@ -141,6 +142,11 @@ void drawSketch(SystemInfo& info, int res) {
 }
 
 void reflect(SystemInfo& info, int res) {
+    if (info.iSliderReflectionSkewBase == kReflectAtSubject) {
+        const PassGeometry g = info.geometry(res);
+        info.iSliderReflectionSkewBase =
+            percentBelowSubject(pixelsOf(*info.pBackgroundBitmapInfo, res), g.width, g.height);
+    }
     AddReflection(info, res, *info.pCombinedBitmapInfo, pixelsOf(*info.pForegroundBitmapInfo, res),
                   pixelsOf(*info.pBackgroundBitmapInfo, res), pixelsOf(*info.pCombinedBitmapInfo, res));
 }
@@ -177,6 +183,7 @@ void overlayFrame(SystemInfo& info, int res) {
 }
 
 void textFrameLayer(SystemInfo& info, int res) {
+    chooseLabelColors(info, pixelsOf(*info.pCombinedBitmapInfo, res), res);
     DrawTextAtLevel(info, contextOf(*info.pCombinedBitmapInfo, res), "Frame Layer", res, whileCurrent(info, res));
 }
 

@@ -11,6 +11,7 @@ struct LoadedStateFile {
     std::string problem;      ///< why it could not be read; the state is as it was then
     std::string sizeProblem;  ///< why its output size cannot be had; all the rest was taken, the size is the old one
     bool newSize = false;     ///< `ChangeImageSize` has to put another size into force
+    bool isStart = false;     ///< what every picture starts from; it places no portrait
 };
 
 /// Loads a whole state file and selects its output size (`selectStoredSize`). The pixel sizes of the file never come

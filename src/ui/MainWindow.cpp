@@ -18,12 +18,14 @@
 #include "pipeline/OutputSize.h"
 #include "pipeline/SaveImage.h"
 #include "pipeline/StateFile.h"
+#include "pipeline/SubjectPlace.h"
 
 namespace tavrin {
 
 namespace {
 
 constexpr const char* kRecentKey = "recentFiles";
+constexpr const char* kFrameKey = "framePortraits";
 
 bool isStateFile(const QString& path) {
     return QFileInfo(path).suffix().compare("qlx", Qt::CaseInsensitive) == 0;
@@ -80,8 +82,19 @@ void MainWindow::makeMenus() {
     saveAction_->setEnabled(false);
     file->addAction(tr("Save State &As..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T), this,
                     &MainWindow::askForStateToSave);
+    frameAction_ = file->addAction(tr("&Frame New Portraits"));
+    frameAction_->setCheckable(true);
+    frameAction_->setChecked(QSettings().value(kFrameKey, true).toBool());
+    connect(frameAction_, &QAction::toggled, this, &MainWindow::frameNewPortraits);
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+}
+
+/// Turned on it frames the present portrait, too, unless that was placed by hand or by a state.
+void MainWindow::frameNewPortraits(bool wanted) {
+    QSettings().setValue(kFrameKey, wanted);
+    wantPlace(info_, wanted ? PlaceRule::subject : PlaceRule::corner);
+    if (wanted) info_.StartUpdate();
 }
 
 void MainWindow::makeSizeBox() {
@@ -215,6 +228,8 @@ void MainWindow::openLayer(BitmapInfo& record, const QString& path) {
     remember(path);
     record.setSourceImageFullPath(nameOfText(path));
     record.bOrgFileChange = true;
+    if (&record == info_.pForegroundBitmapInfo.get() && frameAction_->isChecked())
+        wantPlace(info_, PlaceRule::subject);
     saveAction_->setEnabled(false);
     info_.StartUpdate();
 }

@@ -41,6 +41,8 @@ class MainWindow : public QMainWindow {
 
     PictureView* view() const { return view_; }
     QComboBox* sizeBox() const { return sizeBox_; }
+    /// Whether portraits that are opened are framed around their subject; kept for the next start.
+    QAction* frameAction() const { return frameAction_; }
 
   protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -51,6 +53,7 @@ class MainWindow : public QMainWindow {
   private:
     void makeMenus();
     void makeSizeBox();
+    void frameNewPortraits(bool wanted);
     void showSelectedSize();
     void chooseSize(int index);
     void refillRecentFiles();
@@ -71,6 +74,7 @@ class MainWindow : public QMainWindow {
     std::unique_ptr<CombineThread> loop_;
     PictureView* view_;
     QAction* saveAction_ = nullptr;
+    QAction* frameAction_ = nullptr;
     QMenu* recentMenu_ = nullptr;
     QComboBox* sizeBox_ = nullptr;
 };

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "apps/cli/EffectOptions.h"
+#include "apps/cli/PlaceOptions.h"
 #include "core/state/SystemInfo.h"
 #include "pipeline/StateFile.h"
 
@@ -16,7 +17,9 @@ struct PictureOptions {
     std::string sizeName, inches;
     int dpi = 0;
     EffectOptions effects;
+    PlaceOptions place;
     std::string title, note;
+    int titleSize = 0;  ///< points; 0: the usual size, or what fits
     std::string backgroundOverlay, foregroundOverlay, frameOverlay;
     std::vector<std::string> set;
     bool blue = false;
