@@ -172,6 +172,7 @@ void placeForeground(SystemInfo& info) {
     const LayerPlace present = placeOf(foreground);
     if (foreground.orgImage.isNull() || !foreground.oBitmapRepLowRes) return;
     if (!info.bPlaceForeground.exchange(false)) return;
+    if (!foreground.sSourceProblem.empty()) return;  // the old portrait stays, as it is
     if (present != LayerPlace() && present != info.placedLast) return;
     const LayerFit fit = fitSource(info, foreground, kFullRes);
     std::optional<SubjectBounds> subject;
