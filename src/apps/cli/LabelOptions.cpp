@@ -8,8 +8,6 @@ namespace tavrin::cli {
 
 namespace {
 
-constexpr int kNotePoints = 16;
-
 bool setsAny(const std::vector<std::string>& set, const std::string& start) {
     return std::any_of(set.begin(), set.end(),
                        [&start](const std::string& assignment) { return assignment.starts_with(start); });
@@ -19,13 +17,11 @@ bool setsAny(const std::vector<std::string>& set, const std::string& start) {
 
 void styleNote(SystemInfo& info, const std::string& text, const std::vector<std::string>& set) {
     FontObject& note = info.oFontLabelObject[1];
-
     const bool isStyled = note.sFontColor.load() != "Black" || note.bDropShadow ||
                           note.dFontFillRed + note.dFontFillGreen + note.dFontFillBlue > 0.0;
     note.sText = text;
     if (!isStyled && !setsAny(set, "label1.dFontFill") && !setsAny(set, "label1.bDropShadow"))
         note.sFontColor = kColorByGround;
-    if (!isStyled && note.sLabelSize.load() == "Small") note.iFontSize = kNotePoints;
 }
 
 void fitTitle(SystemInfo& info, int points, const std::vector<std::string>& set, double inches) {
