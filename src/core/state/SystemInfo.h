@@ -14,6 +14,7 @@
 #include "core/state/Interface.h"
 #include "core/state/KeySettings.h"
 #include "core/state/PageSettings.h"
+#include "core/state/PlaceState.h"
 #include "core/state/QLXInfo.h"
 #include "core/state/RunState.h"
 
@@ -63,6 +64,7 @@ class SystemInfo : public Settings,
                    public StageState,
                    public StartUpPictures,
                    public LoopState,
+                   public PlaceState,
                    public ReplayState,
                    public ModeState {
   public:
