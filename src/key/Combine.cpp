@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "key/CombineRow.h"
+#include "key/RefinedRun.h"
 #include "key/light/Lighting.h"
 #include "key/pixel/OnePixel.h"
 
@@ -50,12 +51,13 @@ void Combine(SystemInfo& info, int /*ignored*/, int hiRes) {
 
     const KeyJoins joins(info, params, hiRes != 0);
     if (joins.isSuperseded()) return;
-    const LightingRun light(info, size.width, size.height, hiRes);
-    params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
-
     const RunContext context = hiRes == 0 ? RunContext{} : fullRun(info, size.height);
     RunContext quiet = context;
     quiet.progress = nullptr;
+    if (refinesKey(info) && !refineRun(quiet, info, joins, params)) return;
+    const LightingRun light(info, size.width, size.height, hiRes);
+    params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
+
     if (!searchBrightGrey(quiet, params)) return;
     runRows(context, size.height, kGrainRows, [&](int y) { combineRow(params, joins, y); });
 }
