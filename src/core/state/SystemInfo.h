@@ -43,7 +43,8 @@ class Settings : public GuardSettings,
                  public SkinSettings,
                  public LightingSettings,
                  public SilhouetteSettings,
-                 public ReflectionSettings {
+                 public ReflectionSettings,
+                 public RefineSettings {
   public:
     /// The leaves of all groups, in the order of the state file.
     static std::span<const Leaf<Settings>> leaves();
