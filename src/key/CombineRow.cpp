@@ -67,7 +67,7 @@ class RowWorker {
 
     void decide() {
         key_.decide(run_);
-        joins_.correctHair(run_);
+        overrides_.correctHair(run_);
     }
 
     // What is beyond the run is written with it and read by nobody.
@@ -228,8 +228,8 @@ namespace tavrin {
 HWY_EXPORT(combineRowWide);
 HWY_EXPORT(keyAlphaRowWide);
 
-void keyAlphaRow(const CombineParams& params, const KeyJoins& joins, int y, std::uint8_t* to) {
-    HWY_DYNAMIC_DISPATCH(keyAlphaRowWide)(params, joins, y, to);
+void keyAlphaRow(const CombineParams& params, const KeyOverrides& overrides, int y, std::uint8_t* to) {
+    HWY_DYNAMIC_DISPATCH(keyAlphaRowWide)(params, overrides, y, to);
 }
 
 void combineRow(const CombineParams& params, const KeyOverrides& overrides, int y) {

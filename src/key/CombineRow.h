@@ -15,6 +15,6 @@ void combineRowPlain(const CombineParams& params, const KeyOverrides& overrides,
 
 /// The alpha that the key with its hair correction gives the pixels of row `y`, a byte each; nothing is written
 /// elsewhere.
-void keyAlphaRow(const CombineParams& params, const KeyJoins& joins, int y, std::uint8_t* to);
+void keyAlphaRow(const CombineParams& params, const KeyOverrides& overrides, int y, std::uint8_t* to);
 
 }  // namespace tavrin

@@ -39,22 +39,14 @@ KeyOverrides::KeyOverrides(const SystemInfo& info, const CombineParams& params, 
     caption_ = mode_ == 2 ? guard_.shirtColor() : meanHairColor(info);
 }
 
-<<<<<<< HEAD:src/key/KeyOverrides.cpp
-void KeyOverrides::overrule(KeyedRun& run) const {
-    if (hair_.active) {
-        for (int i = 0; i < run.count; ++i) {
-            if (run.hardBackground[i] == 0.0) correctHairAt(run, i);
-        }
-=======
-void KeyJoins::correctHair(KeyedRun& run) const {
+void KeyOverrides::correctHair(KeyedRun& run) const {
     if (!hair_.active) return;
     for (int i = 0; i < run.count; ++i) {
         if (run.hardBackground[i] == 0.0) correctHairAt(run, i);
->>>>>>> wE:src/key/KeyJoins.cpp
     }
 }
 
-void KeyJoins::guard(KeyedRun& run) const {
+void KeyOverrides::guard(KeyedRun& run) const {
     if (!guarded_) return;
     for (int i = 0; i < run.count; ++i) {
         if (guardMakesOpaque(guardByte(run.x + i, run.y), mode_, removeInside_)) takeRaw(run, i);

@@ -90,19 +90,11 @@ FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) 
 
 }  // namespace
 
-<<<<<<< HEAD
-=======
 bool refinesKey(const SystemInfo& info) {
     return info.bRefineKey && !info.bShowOrgImage && !info.pCombinedBitmapInfo->bShowSelectedAreas &&
            !(info.iGreenProtectMode != 0 && info.bShowGreenProtection);
 }
 
-RunSize runSize(const SystemInfo& info, int hiRes) {
-    if (hiRes == 0) return {info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight};
-    return {info.iOutputPixelWidth, info.iOutputPixelHeight};
-}
-
->>>>>>> wE
 KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen) {
     const BitmapInfo& sliders = *info.pCombinedBitmapInfo;
     const double tint = number(sliders.sliderGreenTintAreas);

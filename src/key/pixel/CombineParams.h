@@ -25,16 +25,10 @@ struct CombineParams {
     FinishConstants finish;
 };
 
-<<<<<<< HEAD
-=======
 /// The key gets a second look (`bRefineKey`) where its result is shown: not while the foreground, the selected areas
 /// or the guard are shown instead.
 bool refinesKey(const SystemInfo& info);
 
-/// Size of the preview (hiRes 0) or of the full output.
-RunSize runSize(const SystemInfo& info, int hiRes);
-
->>>>>>> wE
 /// The settings of the key. `localScreen`: measured against the grid of local screen colours, not the global one.
 KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen);
 
