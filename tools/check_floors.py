@@ -31,7 +31,7 @@ WINDOW_FLOOR = FLOORS["ui"]
 # The rooms of a folder from the lowest up; those of one line do not know each other.
 ROOMS = {
     "core": [["."], ["files"], ["raster"], ["image"], ["state"], ["text"]],
-    "key": [["pixel"], ["screen", "skin", "guard"], ["hair", "spill"], ["light"], ["."]],
+    "key": [["pixel"], ["screen", "skin", "guard", "refine"], ["hair", "spill"], ["light"], ["."]],
     "effects": [["."], ["frame", "shadow", "sketch", "smoothing", "star"]],
     "apps": [["cli", "desktop"]],
 }

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "core/state/ChangeFlags.h"
+#include "effects/Reflection.h"
 #include "formats/Installation.h"
 
 namespace tavrin {
@@ -60,7 +61,7 @@ constexpr Preset kReflections[] = {
          info.bHaveReflection = true;
          info.iSliderReflectionScale = 75;
          info.iSliderReflectionSkew = 50;
-         info.iSliderReflectionSkewBase = 25;
+         info.iSliderReflectionSkewBase = kReflectAtSubject;
          info.iSliderReflectionRippleHeight = 20;
          info.iSliderReflectionTransparency = 60;
      }},
@@ -99,7 +100,7 @@ constexpr Preset kLights[] = {
      }},
     {"glow", "a halo around the subject",
      [](SystemInfo& info) {
-         setLight(info, {4, 100, 100, 0, 60, 50, 66, kBoth});
+         setLight(info, {4, 100, 100, 0, 60, 50, 95, kBoth});
      }},
 };
 
@@ -134,24 +135,37 @@ void useTexture(SystemInfo& info, const std::string& path) {
     info.oImageTexture->bHaveTexture = true;
 }
 
+/// Fine enough for a face: what a texture moves about tears eyes and teeth, and at full strength it bruises skin.
+void useSurface(SystemInfo& info, const std::string& file, int percent) {
+    useTexture(info, shippedPicture("Texture/" + file));
+    info.oImageTexture->iTexturePercent = percent;
+    info.oImageTexture->iTextureOffsetPercent = 1;
+}
+
 constexpr Preset kTextures[] = {
     {"none", "no texture",
      [](SystemInfo& info) {
          info.oImageTexture->bHaveTexture = false;
          info.oImageTexture->sTextureFileName = "";
      }},
-    {"canvas", "a painter's canvas",
-     [](SystemInfo& info) { useTexture(info, shippedPicture("Texture/Canvas.jpg")); }},
-    {"linen", "finely woven linen", [](SystemInfo& info) { useTexture(info, shippedPicture("Texture/Linen.jpg")); }},
-    {"paper", "rough drawing paper", [](SystemInfo& info) { useTexture(info, shippedPicture("Texture/Paper.jpg")); }},
+    {"canvas", "a painter's canvas", [](SystemInfo& info) { useSurface(info, "Canvas.jpg", 50); }},
+    {"linen", "finely woven linen", [](SystemInfo& info) { useSurface(info, "Linen.jpg", 50); }},
+    {"paper", "rough drawing paper", [](SystemInfo& info) { useSurface(info, "Paper.jpg", 30); }},
 };
+
+/// The panel starts a sketch with broad grey shapes; finer lines leave a face its features.
+void sketch(SystemInfo& info, int type) {
+    chooseCartoon(info, type);
+    info.iSliderCartoonEffectWidth = 15;
+    info.iSliderCartoonEffectSmoothing = 60;
+}
 
 constexpr Preset kCartoons[] = {
     {"none", "no drawing", [](SystemInfo& info) { chooseCartoon(info, 0); }},
     {"cartoon", "black lines and strong colours", [](SystemInfo& info) { chooseCartoon(info, 1); }},
     {"grey", "a soft pencil sketch", [](SystemInfo& info) { chooseCartoon(info, 2); }},
-    {"pencil", "hatched with a pencil", [](SystemInfo& info) { chooseCartoon(info, 3); }},
-    {"parchment", "hatched on old parchment", [](SystemInfo& info) { chooseCartoon(info, 4); }},
+    {"pencil", "hatched with a pencil", [](SystemInfo& info) { sketch(info, 3); }},
+    {"parchment", "hatched on old parchment", [](SystemInfo& info) { sketch(info, 4); }},
 };
 
 constexpr Preset kFrames[] = {
@@ -159,7 +173,11 @@ constexpr Preset kFrames[] = {
     {"square", "along the four sides", [](SystemInfo& info) { info.oFrame->iFrameType = 1; }},
     {"oval", "around an oval", [](SystemInfo& info) { info.oFrame->iFrameType = 2; }},
     {"heart", "around a heart", [](SystemInfo& info) { info.oFrame->iFrameType = 3; }},
-    {"jagged", "with teeth like torn paper", [](SystemInfo& info) { info.oFrame->iFrameType = 4; }},
+    {"jagged", "with teeth like torn paper",
+     [](SystemInfo& info) {
+         info.oFrame->iFrameType = 4;
+         info.oFrame->iFrameFeather = 1;  // softer ones would blur the teeth away
+     }},
 };
 
 void useFramePicture(SystemInfo& info, const std::string& path) {
@@ -173,7 +191,11 @@ void useMaterial(SystemInfo& info, const std::string& file) {
 
 constexpr Preset kFrameFills[] = {
     {"colour", "one colour, black unless it is set", [](SystemInfo& info) { info.oFrame->iFrameMode = 1; }},
-    {"blur", "the picture itself, blurred", [](SystemInfo& info) { info.oFrame->iFrameMode = 2; }},
+    {"blur", "the picture itself, blurred",
+     [](SystemInfo& info) {
+         info.oFrame->iFrameMode = 2;
+         info.oFrame->iFrameBlur = 100;
+     }},
     {"background", "the background without the subject", [](SystemInfo& info) { info.oFrame->iFrameMode = 3; }},
     {"walnut", "dark wood", [](SystemInfo& info) { useMaterial(info, "Walnut.jpg"); }},
     {"gold", "brushed gold", [](SystemInfo& info) { useMaterial(info, "BrushedGold.jpg"); }},

@@ -79,8 +79,9 @@ SourceRow sourceRow(const ReflectionParams& params, int y) {
 // The subject's pixels, mirrored: solid ones with alpha 255, all others with alpha 0.
 class Mirror {
   public:
-    Mirror(const ReflectionParams& params, const SpillKey& key)
-        : params_(params), key_(key), pixels_(PixelBuffer::cleared(params.width, params.height)) {
+    /// @param refined the background's pixels, whose alpha is the refined key's; null: the key at one pixel decides
+    Mirror(const ReflectionParams& params, const SpillKey& key, const std::uint8_t* refined)
+        : params_(params), key_(key), refined_(refined), pixels_(PixelBuffer::cleared(params.width, params.height)) {
         if (pixels_.data()) first_ = findFirst();
     }
     const std::uint8_t* data() const { return pixels_.data(); }
@@ -93,8 +94,9 @@ class Mirror {
             int column;
             if (!subjectAt(source, x, column, color)) continue;
             const bool first = std::int64_t{y} * params_.width + x == first_;
-            const SpilledPixel pixel =
+            SpilledPixel pixel =
                 key_.spillAt(column, source.row, color, first ? SpillCall::kFirst : SpillCall::kLater);
+            if (refined_) pixel.amount = refined_[pixelOffset(params_.width, column, source.row) + 3] / 255.0;
             if (params_.textured && !(pixel.amount > kThin)) continue;
             write(out, pixel);
         }
@@ -137,6 +139,7 @@ class Mirror {
 
     const ReflectionParams& params_;
     const SpillKey& key_;
+    const std::uint8_t* const refined_;
     PixelBuffer pixels_;
     std::int64_t first_ = -1;
 };
@@ -245,7 +248,7 @@ void AddReflection(SystemInfo& info, int hiRes, const BitmapInfo& /*layer*/, con
 
     const SpillKey key(info, {foreground, background, params.width, params.height});
     if (!key.isReady()) return;
-    Mirror mirror(params, key);
+    Mirror mirror(params, key, refinesKey(info) ? background : nullptr);
     if (!mirror.data()) throw std::bad_alloc();
     if (!runRows(info.rowsWhileCurrent(), params.height, kGrainRows, [&](int y) { mirror.fillRow(y); })) return;
 

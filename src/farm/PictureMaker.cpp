@@ -38,6 +38,11 @@ std::string digestOfSettings(const SystemInfo& info) {
         text += std::to_string(size->dWidth) + "x" + std::to_string(size->dHeight) + " at " +
                 std::to_string(size->dotsPerInch) + "\n";
     }
+    if (info.bPlaceForeground) {
+        text += "place " + std::to_string(static_cast<int>(info.placeRule.load())) + " " +
+                std::to_string(info.placeScale) + " " + std::to_string(info.iPlaceXMove) + " " +
+                std::to_string(info.iPlaceYMove) + "\n";
+    }
     for (const auto& [name, value] : listFields(info)) {
         if (!isPlace(name)) text += name + "=" + value + "\n";
     }

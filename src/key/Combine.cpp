@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "key/CombineRow.h"
+#include "key/RefinedRun.h"
 #include "key/light/Lighting.h"
 #include "key/pixel/PixelSteps.h"
 
@@ -51,12 +52,13 @@ void Combine(SystemInfo& info, int /*ignored*/, int hiRes) {
 
     const KeyOverrides overrides(info, params, resolution);
     if (overrides.isSuperseded()) return;
-    const LightingRun light(info, resolution);
-    params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
-
     const RunContext context = resolution == Resolution::full ? fullRun(info, size.height) : RunContext();
     RunContext quiet = context;
     quiet.progress = nullptr;
+    if (refinesKey(info) && !refineRun(quiet, info, overrides, params)) return;
+    const LightingRun light(info, resolution);
+    params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
+
     if (!searchBrightGrey(quiet, params)) return;
     runRows(context, size.height, kGrainRows, [&](int y) { combineRow(params, overrides, y); });
 }

@@ -28,16 +28,20 @@ class RowWorker {
         run_.y = y;
     }
 
+    // The key's alpha alone, for the second look at it: `to` has a byte for each pixel of the row.
+    void keyAlpha(const ColumnRun& part, std::uint8_t* to) {
+        begin(part);
+        decide();
+        for (int i = 0; i < run_.count; ++i)
+            to[run_.x + i] = toByte(run_.alpha[i] * 255.0);
+    }
+
     void work(const ColumnRun& part) {
-        run_.x = part.x;
-        run_.count = part.count;
-        offset_ = pixelOffset(params_.size.width, run_.x, run_.y);
-        bytes_ = static_cast<std::size_t>(run_.count) * kPixelBytes;
-        load(params_.foreground, run_.foreground);
+        begin(part);
         load(params_.background, run_.background);
 
-        key_.decide(run_);
-        overrides_.overrule(run_);
+        params_.refined ? takeRefined() : decide();
+        overrides_.guard(run_);
         const bool plain = params_.finish.plainBackground && !params_.finish.transparent && !overrides_.showsGuard();
         if (plain && !anySubject()) {
             passBackground();
@@ -53,6 +57,33 @@ class RowWorker {
     }
 
   private:
+    void begin(const ColumnRun& part) {
+        run_.x = part.x;
+        run_.count = part.count;
+        offset_ = pixelOffset(params_.size.width, run_.x, run_.y);
+        bytes_ = static_cast<std::size_t>(run_.count) * kPixelBytes;
+        load(params_.foreground, run_.foreground);
+    }
+
+    void decide() {
+        key_.decide(run_);
+        overrides_.correctHair(run_);
+    }
+
+    // What is beyond the run is written with it and read by nobody.
+    void takeRefined() {
+        load(params_.combined, combined_);
+        const V whole = hn::Set(d_, 255.0);
+        for (int i = 0; i < run_.count; i += lanes()) {
+            const auto words = hn::Load(WordTag<D>(), combined_ + i);
+            const Colors c = key_.rawColor(words);
+            hn::Store(c.r, d_, run_.r + i);
+            hn::Store(c.g, d_, run_.g + i);
+            hn::Store(c.b, d_, run_.b + i);
+            hn::Store(hn::Div(channelOf<3>(d_, words), whole), d_, run_.alpha + i);
+        }
+    }
+
     int lanes() const { return static_cast<int>(hn::Lanes(d_)); }
 
     // The last vector of a run may reach beyond it; there it finds zeros.
@@ -177,6 +208,12 @@ void workRow(const CombineParams& params, const KeyOverrides& overrides, int y) 
         worker.work(part);
 }
 
+void keyAlphaRowWide(const CombineParams& params, const KeyOverrides& overrides, int y, std::uint8_t* to) {
+    RowWorker<WideLanes> worker(params, overrides, y);
+    for (const ColumnRun& part : params.key.screen.runs)
+        worker.keyAlpha(part, to);
+}
+
 void combineRowWide(const CombineParams& params, const KeyOverrides& overrides, int y) {
     workRow<WideLanes>(params, overrides, y);
 }
@@ -189,6 +226,11 @@ HWY_AFTER_NAMESPACE();
 namespace tavrin {
 
 HWY_EXPORT(combineRowWide);
+HWY_EXPORT(keyAlphaRowWide);
+
+void keyAlphaRow(const CombineParams& params, const KeyOverrides& overrides, int y, std::uint8_t* to) {
+    HWY_DYNAMIC_DISPATCH(keyAlphaRowWide)(params, overrides, y, to);
+}
 
 void combineRow(const CombineParams& params, const KeyOverrides& overrides, int y) {
     HWY_DYNAMIC_DISPATCH(combineRowWide)(params, overrides, y);

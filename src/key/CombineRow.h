@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "key/KeyOverrides.h"
 #include "key/pixel/CombineParams.h"
 
@@ -10,5 +12,9 @@ void combineRow(const CombineParams& params, const KeyOverrides& overrides, int 
 
 /// The same, one pixel at a time: what every vector form must equal, byte for byte.
 void combineRowPlain(const CombineParams& params, const KeyOverrides& overrides, int y);
+
+/// The alpha that the key with its hair correction gives the pixels of row `y`, a byte each; nothing is written
+/// elsewhere.
+void keyAlphaRow(const CombineParams& params, const KeyOverrides& overrides, int y, std::uint8_t* to);
 
 }  // namespace tavrin

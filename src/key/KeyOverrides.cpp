@@ -39,16 +39,17 @@ KeyOverrides::KeyOverrides(const SystemInfo& info, const CombineParams& params, 
     caption_ = mode_ == 2 ? guard_.shirtColor() : meanHairColor(info);
 }
 
-void KeyOverrides::overrule(KeyedRun& run) const {
-    if (hair_.active) {
-        for (int i = 0; i < run.count; ++i) {
-            if (run.hardBackground[i] == 0.0) correctHairAt(run, i);
-        }
+void KeyOverrides::correctHair(KeyedRun& run) const {
+    if (!hair_.active) return;
+    for (int i = 0; i < run.count; ++i) {
+        if (run.hardBackground[i] == 0.0) correctHairAt(run, i);
     }
-    if (guarded_) {
-        for (int i = 0; i < run.count; ++i) {
-            if (guardMakesOpaque(guardByte(run.x + i, run.y), mode_, removeInside_)) takeRaw(run, i);
-        }
+}
+
+void KeyOverrides::guard(KeyedRun& run) const {
+    if (!guarded_) return;
+    for (int i = 0; i < run.count; ++i) {
+        if (guardMakesOpaque(guardByte(run.x + i, run.y), mode_, removeInside_)) takeRaw(run, i);
     }
 }
 
@@ -58,7 +59,7 @@ void KeyOverrides::correctHairAt(KeyedRun& run, int i) const {
     HairPixel hair{run.x + i,       run.y,          raw[0],      raw[roles.green],
                    raw[roles.blue], run.largest[i], run.lift[i], {run.r[i], run.g[i], run.b[i]},
                    run.alpha[i]};
-    correctHair(hair_, hair);
+    tavrin::correctHair(hair_, hair);
     run.r[i] = hair.color.r;
     run.g[i] = hair.color.g;
     run.b[i] = hair.color.b;

@@ -16,8 +16,10 @@ class KeyOverrides {
     /// The run was overtaken while the guard was being built, and its pixel loop must not start.
     bool isSuperseded() const { return superseded_; }
 
-    /// May explain pixels as a mix of the screen and a hair colour, or make them opaque with the raw colour.
-    void overrule(KeyedRun& run) const;
+    /// May explain pixels as a mix of the screen and a hair colour.
+    void correctHair(KeyedRun& run) const;
+    /// May make pixels opaque with the raw colour.
+    void guard(KeyedRun& run) const;
     /// Where the guard's bitmap is shown instead of the subject: its colours, unless `alphaOnly`, and alpha 1.
     void showGuard(KeyedRun& run, bool alphaOnly) const;
     bool showsGuard() const { return showGuard_; }

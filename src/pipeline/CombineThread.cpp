@@ -8,6 +8,7 @@
 #include "core/state/NamedPictures.h"
 #include "pipeline/OutputSize.h"
 #include "pipeline/Stages.h"
+#include "pipeline/SubjectPlace.h"
 
 namespace tavrin {
 
@@ -144,12 +145,14 @@ bool CombineThread::updateLayers() {
             info_.pictures.fail("the output size \"" + info_.sImageSizeName.load() + "\" cannot be used");
             return false;
         }
+        placeForNewSize(info_);
         foreground.bOrgFileChange = true;
         background.bOrgFileChange = true;
         foreground.bHaveBitmap = false;
         info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
     }
     if (!updateSources()) return false;
+    if (!foreground.bOrgFileChange) placeForeground(info_);  // else a newer portrait is meant
     if (foreground.bScaleChange.exchange(false)) updateForegroundScale();
     if (info_.isStale()) return false;
     if (!info_.bBackgroundFrozen && background.bScaleChange.exchange(false)) {

@@ -9,6 +9,9 @@
 #include "core/Log.h"
 #include "core/raster/Rows.h"
 #include "key/screen/BaseGreen.h"
+#include "pipeline/LayerFit.h"
+#include "pipeline/SourceRim.h"
+#include "pipeline/Stages.h"
 
 namespace tavrin {
 
@@ -80,40 +83,6 @@ QImage turnedSource(const BitmapInfo& record, const QImage& pixels) {
     return std::move(turned).convertToFormat(QImage::Format_RGBX8888);  // nothing of it is transparent
 }
 
-/// How a layer fits one geometry: the drawn size before the user's scale, and the factor that gives it.
-struct Fit {
-    double width = 0.0, height = 0.0;
-    double scale = 1.0;
-};
-
-Fit fitSource(const BitmapInfo& record, int width, int height, bool outputIsPortrait) {
-    const double sx = static_cast<double>(width) / record.iOrgWidth;
-    const double sy = static_cast<double>(height) / record.iOrgHeight;
-    const bool sourceIsPortrait = record.iOrgHeight > record.iOrgWidth;
-    // A standing person in a wide picture is shown whole; everything else covers the output.
-    const bool wholePerson = record.iBitmapType == BitmapInfo::kForeground && sourceIsPortrait && !outputIsPortrait;
-    Fit fit;
-    fit.scale = wholePerson ? sy : std::max(sx, sy);
-    if (wholePerson || sy > sx) {
-        fit.width = static_cast<double>(truncated(sy / sx * width));
-        fit.height = height;
-    } else {
-        fit.width = width;
-        fit.height = static_cast<double>(truncated(sx / sy * height));
-    }
-    return fit;
-}
-
-/// Where the source goes, from the bottom left of the buffer.
-QRectF placedRect(const BitmapInfo& record, const Fit& fit, int width, int height) {
-    const double scale = finiteOr(record.fScale, 1.0);
-    double x = static_cast<double>(static_cast<std::int64_t>(width) * record.iOrgXoff / 1000);
-    double y = static_cast<double>(static_cast<std::int64_t>(height) * record.iOrgYoff / 1000);
-    x -= (fit.width * scale - fit.width) * 0.5;
-    y -= (fit.height * scale - fit.height) * 0.5;
-    return QRectF(x, y, scale * fit.width, scale * fit.height);
-}
-
 /// What a layer leaves empty has the colour of the screen, so that on the foreground it is keyed away. The base
 /// colour is held in roles: on a blue screen its green level is that of the third channel.
 LayerFill screenFill(const SystemInfo& info) {
@@ -130,13 +99,37 @@ bool isDrawable(const BitmapInfo& record) {
     return !record.orgImage.isNull() && record.iOrgWidth > 0 && record.iOrgHeight > 0;
 }
 
-Fit fitFor(const SystemInfo& info, const BitmapInfo& record, const BitmapContext& context) {
-    const bool portrait = info.iOutputPixelLowResHeight > info.iOutputPixelLowResWidth;
-    return fitSource(record, context.width(), context.height(), portrait);
+/// Where an edge of the portrait lies inside the picture, lines of the file that break off from the screen would show
+/// as a thin line beside the subject. They give way to the fill.
+/// Only for a place that the program found: what a person or a state has placed is drawn as it is.
+void coverRim(const SystemInfo& info, const QRectF& rect, BitmapContext& context, const LayerFill& fill) {
+    const QRectF output(0, 0, context.width(), context.height());
+    if (rect.contains(output)) return;
+    const BitmapInfo& record = *info.pForegroundBitmapInfo;
+    const SourceRim rim = findRim(record.orgImage, info.bUseBlueLogic);
+    const double sx = rect.width() / record.iOrgWidth, sy = rect.height() / record.iOrgHeight;
+    const auto cover = [&](const QRectF& strip) {
+        const QRectF whole = QRectF(strip.toAlignedRect()) & output;  // what is covered in part goes, too
+        context.fillRect(whole, fill.red / 255.0, fill.green / 255.0, fill.blue / 255.0, 1.0);
+    };
+    const auto deep = [](int lines, double scale) { return (lines + 1) * scale; };
+    // Coordinates grow upward, so the source's upper edge is the rectangle's "bottom".
+    if (rim.left > 0 && rect.left() > 0.0) cover({rect.left(), rect.top(), deep(rim.left, sx), rect.height()});
+    if (rim.right > 0 && rect.right() < output.right())
+        cover({rect.right() - deep(rim.right, sx), rect.top(), deep(rim.right, sx), rect.height()});
+    if (rim.bottom > 0 && rect.top() > 0.0) cover({rect.left(), rect.top(), rect.width(), deep(rim.bottom, sy)});
+    if (rim.top > 0 && rect.bottom() < output.bottom())
+        cover({rect.left(), rect.bottom() - deep(rim.top, sy), rect.width(), deep(rim.top, sy)});
 }
 
-bool drawSource(const BitmapInfo& record, BitmapContext& context, const Fit& fit, const RunContext& run) {
-    return context.drawImage(record.orgImage, placedRect(record, fit, context.width(), context.height()), 1.0, run);
+bool drawSource(const SystemInfo& info, const BitmapInfo& record, const LayerPlace& place, Resolution resolution,
+                const LayerFill& fill, const RunContext& run) {
+    BitmapContext& context = *record.context(resolution);
+    const QRectF rect = placedRect(place, fitSource(info, record, resolution));
+    if (!context.drawImage(record.orgImage, rect, 1.0, run)) return false;
+    const bool isFound = place == info.placedLast && place != LayerPlace();
+    if (isFound && record.iBitmapType == BitmapInfo::kForeground) coverRim(info, rect, context, fill);
+    return true;
 }
 
 ReadPicture readSourceOf(const SystemInfo& info, const BitmapInfo& record) {
@@ -188,15 +181,18 @@ bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record, ReadPicture picture) 
     return true;
 }
 
-LayerFill drawPreviewLayer(SystemInfo& info, BitmapInfo& record) {
+LayerFill drawPreviewAt(SystemInfo& info, BitmapInfo& record, const LayerPlace& place) {
     const LayerFill fill = screenFill(info);
     if (!record.oBitmapRep || !record.oBitmapRepLowRes) return fill;
-    BitmapContext& low = *record.oBitmapRepLowRes;
-    drawFill(low, fill, {});
-    if (isDrawable(record)) {
-        drawSource(record, low, fitFor(info, record, low), {});
-        record.fOrgScale = fitFor(info, record, *record.oBitmapRep).scale;
-    }
+    drawFill(*record.oBitmapRepLowRes, fill, {});
+    if (isDrawable(record)) drawSource(info, record, place, Resolution::preview, fill, {});
+    return fill;
+}
+
+LayerFill drawPreviewLayer(SystemInfo& info, BitmapInfo& record) {
+    const LayerFill fill = drawPreviewAt(info, record, placeOf(record));
+    if (!record.oBitmapRep || !record.oBitmapRepLowRes) return fill;
+    if (isDrawable(record)) record.fOrgScale = fitSource(info, record, Resolution::full).scale;
     if (info.pInterface) info.pInterface->updateScaleUI();
     return fill;
 }
@@ -205,7 +201,8 @@ bool drawFullLayer(const SystemInfo& info, BitmapInfo& record, const LayerFill& 
     if (!record.oBitmapRep) return true;
     BitmapContext& full = *record.oBitmapRep;
     if (!drawFill(full, fill, run)) return false;
-    return !isDrawable(record) || drawSource(record, full, fitFor(info, record, full), run);
+    return !isDrawable(record) ||
+           drawSource(info, record, placeOf(record), Resolution::full, fill, run);
 }
 
 void emptyFullLayer(BitmapInfo& record, const LayerFill& fill) {

@@ -37,7 +37,9 @@ struct LayerFill {
 LayerFill drawPreviewLayer(SystemInfo& info, BitmapInfo& record);
 /// @return false when the run was superseded, so that a part is missing
 bool drawFullLayer(const SystemInfo& info, BitmapInfo& record, const LayerFill& fill, const RunContext& run = {});
-/// In place of the latter while the mouse is held: the fill alone.
+/// The preview alone, at another place than the record's own, and with no word to the interface: for a look at it.
+LayerFill drawPreviewAt(SystemInfo& info, BitmapInfo& record, const LayerPlace& place);
+/// In place of the full layer while the mouse is held: the fill alone.
 void emptyFullLayer(BitmapInfo& record, const LayerFill& fill);
 
 }  // namespace tavrin

@@ -19,6 +19,7 @@
 #include "key/skin/SoftenMac.h"
 #include "pipeline/Stages.h"
 #include "pipeline/StartUpPictures.h"
+#include "pipeline/SubjectBounds.h"
 
 namespace tavrin {
 
@@ -133,6 +134,11 @@ void drawSketch(SystemInfo& info, Resolution resolution) {
 }
 
 void reflect(SystemInfo& info, Resolution resolution) {
+    if (info.iSliderReflectionSkewBase == kReflectAtSubject) {
+        const PassGeometry g = info.geometry(resolution);
+        info.iSliderReflectionSkewBase =
+            percentBelowSubject(info.pBackgroundBitmapInfo->bytes(resolution), g.width, g.height);
+    }
     AddReflection(info, numberOf(resolution), *info.pCombinedBitmapInfo,
                   info.pForegroundBitmapInfo->bytes(resolution), info.pBackgroundBitmapInfo->bytes(resolution),
                   info.pCombinedBitmapInfo->bytes(resolution));
@@ -172,6 +178,7 @@ void overlayFrame(SystemInfo& info, Resolution resolution) {
 }
 
 void textFrameLayer(SystemInfo& info, Resolution resolution) {
+    chooseLabelColors(info, info.pCombinedBitmapInfo->bytes(resolution), resolution);
     DrawTextAtLevel(info, info.pCombinedBitmapInfo->context(resolution), "Frame Layer", numberOf(resolution),
                     whileCurrent(info, resolution));
 }

@@ -6,6 +6,7 @@
 #include "key/screen/BaseGreen.h"
 #include "pipeline/Layers.h"
 #include "pipeline/Stages.h"
+#include "pipeline/SubjectPlace.h"
 
 namespace tavrin {
 
@@ -35,6 +36,7 @@ void loadAndCombine(SystemInfo& info) {
     BitmapInfo& background = *info.pBackgroundBitmapInfo;
     ReadSources read = readSources(info, true, true);
     ChangeOrgBitmap(info, foreground, std::move(read.foreground));
+    placeForeground(info);
     ChangeBitmapScale(info, foreground);
     ChangeOrgBitmap(info, background, std::move(read.background));
     ChangeBitmapScale(info, background);

@@ -34,9 +34,11 @@ LoadedState loadState(SystemInfo& info, const std::string& path) {
 
 LoadedState loadShippedState(SystemInfo& info) {
     const char* const name = "Default.qlx";
-    return loadAs(name, info, [&](StoredSize& stored) {
+    LoadedState loaded = loadAs(name, info, [&](StoredSize& stored) {
         return LoadImageStateFromBytes(info, name, shippedFile(name), &stored);
     });
+    loaded.isStart = true;
+    return loaded;
 }
 
 std::string openState(SystemInfo& info, const std::string& path, Portrait portrait) {

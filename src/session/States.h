@@ -10,6 +10,7 @@ namespace tavrin {
 struct LoadedState {
     std::string problem;      ///< why it could not be read; the state is as it was then
     std::string sizeProblem;  ///< why its output size cannot be had; all the rest was taken, the size is the old one
+    bool isStart = false;     ///< the state that the program ships, which places no portrait
 };
 
 /// Loads a whole state file, chooses its output size (`chooseStoredSize`) and flags what a pass must redo, which is

@@ -20,6 +20,7 @@
 #include "core/state/NamedFiles.h"
 #include "formats/ImageState.h"
 #include "pipeline/SaveImage.h"
+#include "pipeline/SubjectPlace.h"
 #include "session/OutputSizes.h"
 #include "session/Sources.h"
 #include "session/States.h"
@@ -29,6 +30,7 @@ namespace tavrin {
 namespace {
 
 constexpr const char* kRecentKey = "recentFiles";
+constexpr const char* kFrameKey = "framePortraits";
 
 QString windowFile() {
     return textOfName(Places::current().windowFile());
@@ -109,8 +111,19 @@ void MainWindow::makeMenus() {
     saveAction_->setEnabled(false);
     file->addAction(tr("Save State &As..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T), this,
                     &MainWindow::askForStateToSave);
+    frameAction_ = file->addAction(tr("&Frame New Portraits"));
+    frameAction_->setCheckable(true);
+    frameAction_->setChecked(QSettings(windowFile(), QSettings::IniFormat).value(kFrameKey, true).toBool());
+    connect(frameAction_, &QAction::toggled, this, &MainWindow::frameNewPortraits);
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+}
+
+/// Turned on it frames the present portrait, too, unless that was placed by hand or by a state.
+void MainWindow::frameNewPortraits(bool wanted) {
+    QSettings(windowFile(), QSettings::IniFormat).setValue(kFrameKey, wanted);
+    wantPlace(info_, wanted ? PlaceRule::subject : PlaceRule::corner);
+    if (wanted) info_.StartUpdate();
 }
 
 void MainWindow::makeSizeBox() {
@@ -242,6 +255,7 @@ void MainWindow::askForLayer(const BitmapInfo& record, const QString& title,
 
 void MainWindow::openForeground(const QString& path) {
     openPortrait(info_, nameOfText(path));
+    if (frameAction_->isChecked()) wantPlace(info_, PlaceRule::subject);
     showOpened(path);
 }
 

@@ -46,6 +46,8 @@ class MainWindow : public QMainWindow {
 
     PictureView* view() const { return view_; }
     QComboBox* sizeBox() const { return sizeBox_; }
+    /// Whether portraits that are opened are framed around their subject; kept for the next start.
+    QAction* frameAction() const { return frameAction_; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -57,6 +59,7 @@ class MainWindow : public QMainWindow {
   private:
     void makeMenus();
     void makeSizeBox();
+    void frameNewPortraits(bool wanted);
     void showSelectedSize();
     void chooseSize(int index);
     void refillRecentFiles();
@@ -81,6 +84,7 @@ class MainWindow : public QMainWindow {
     int saves_ = 0;
     bool closing_ = false;  // as soon as all is saved
     QAction* saveAction_ = nullptr;
+    QAction* frameAction_ = nullptr;
     QMenu* recentMenu_ = nullptr;
     QComboBox* sizeBox_ = nullptr;
 };

@@ -100,6 +100,36 @@ TEST_F(CliTest, WritesTitlesAndItems) {
     EXPECT_NE(render("e.png", {"--set", "text0.sText=Anna", "--set", "text0.xPos=1"}), plain);
 }
 
+TEST_F(CliTest, LongTitlesFitAndNotesAreLegibleOnEveryGround) {
+    TAVRIN_NEED_FONTS();
+    const QImage plain = render("a.png", {});
+    const QString title = "Anna Katharina Elisabeth, class of 2026, with all her friends";
+    const auto reachesEdge = [&plain](const QImage& picture) {
+        for (int y = 0; y < 40; ++y) {
+            if (picture.pixel(1, y) != plain.pixel(1, y)) return true;
+        }
+        return false;
+    };
+    EXPECT_FALSE(reachesEdge(render("b.png", {"--title", title})));
+    EXPECT_TRUE(reachesEdge(render("c.png", {"--title", title, "--title-size", "25"})));
+    EXPECT_TRUE(reachesEdge(render("d.png", {"--title", title, "--set", "label0.iFontSize=25"})));
+
+    QImage ground(240, 144, QImage::Format_RGB888);
+    const auto brightest = [&](const QColor& color, const QStringList& more) {
+        ground.fill(color);
+        const QString file = QString::fromStdString(test::savePng(ground, folder_.file("ground.png")));
+        const QImage noted = render("e.png", QStringList{"--overlay-background", file, "--note", "MMMM"} + more);
+        int most = 0;
+        for (int y = 100; y < 144; ++y)
+            for (int x = 160; x < 240; ++x)
+                most = std::max(most, qGreen(noted.pixel(x, y)));
+        return most;
+    };
+    EXPECT_GT(brightest(QColor(30, 30, 30), {}), 230);
+    EXPECT_LT(brightest(QColor(30, 30, 30), {"--set", "label1.sFontColor=Black"}), 60);
+    EXPECT_LE(brightest(QColor(200, 200, 200), {}), 205) << "black on light ground";
+}
+
 TEST_F(CliTest, LaysOverlaysOn) {
     QImage picture(4, 4, QImage::Format_ARGB32);
     picture.fill(QColor(250, 0, 250));

@@ -109,6 +109,47 @@ TEST_F(LayersTest, TiltGrowsTheBoxAndFillsCornersWithGreen) {
     EXPECT_NEAR(white, 300 * 200, 1200);
 }
 
+TEST_F(LayersTest, LinesThatTheFileHasAtItsEdgesDoNotShowInsideThePicture) {
+    const QColor screen(40, 160, 60);
+    QImage dirty(120, 160, QImage::Format_RGB888);
+    dirty.fill(screen);
+    for (int y = 0; y < 160; ++y)
+        for (int x = 0; x < 120; ++x)
+            if (x < 2 || x == 119) dirty.setPixelColor(x, y, QColor(20, 60, 30));
+    load(dirty);
+    info_->baseRed = screen.red();
+    info_->baseGreen = screen.green();
+    info_->baseBlue = screen.blue();
+    record().iOrgXoff = 100;
+    ChangeBitmapScale(*info_, record());  // shown whole, in columns 12 to 71 of 120
+    EXPECT_NE(fullPixel(12, 40), screen) << "where a person or a state put it";
+    info_->placedLast = placeOf(record());
+    ChangeBitmapScale(*info_, record());
+    for (int x = 0; x < 120; ++x)
+        EXPECT_EQ(fullPixel(x, 40), screen) << x;
+
+    record().fScale = 2.2;  // reaches beyond the picture's left edge, where it shows as it is
+    record().iOrgXoff = 302;
+    info_->placedLast = placeOf(record());
+    ChangeBitmapScale(*info_, record());
+    EXPECT_NE(fullPixel(0, 40), screen);
+
+    // A screen that darkens toward the edge is no such line, nor is a subject.
+    QImage shaded(120, 160, QImage::Format_RGB888);
+    for (int y = 0; y < 160; ++y)
+        for (int x = 0; x < 120; ++x)
+            shaded.setPixelColor(x, y, x > 95 && y > 80 ? QColor(Qt::red) : QColor(40, 100 + x / 2, 60));
+    record().fScale = 1.0;
+    record().iOrgXoff = 100;
+    info_->placedLast = placeOf(record());
+    load(shaded);
+    info_->baseGreen = 250.0;
+    ChangeBitmapScale(*info_, record());
+    EXPECT_NEAR(fullPixel(12, 30).green(), 100, 2);
+    EXPECT_EQ(fullPixel(71, 70), QColor(Qt::red));
+    EXPECT_EQ(fullPixel(73, 40).green(), 250);
+}
+
 TEST_F(LayersTest, CoverFitFillsAndAStandingPersonIsShownWhole) {
     QImage wide(400, 80, QImage::Format_RGB888);
     wide.fill(Qt::red);

@@ -13,6 +13,7 @@
 
 #include "core/files/Places.h"
 #include "formats/ImageState.h"
+#include "pipeline/LayerFit.h"
 #include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
@@ -252,6 +253,26 @@ TEST_F(MainWindowTest, TheSizeBoxChangesTheOutput) {
         emit window_->sizeBox()->activated(index);
     });
     EXPECT_EQ(picture.size(), QSize(100, 200));
+}
+
+TEST_F(MainWindowTest, NewPortraitsAreFramedUnlessThatIsTurnedOff) {
+    ASSERT_TRUE(waitForPicture());
+    const auto place = [this] { return placeOf(*info_->pForegroundBitmapInfo); };
+    QImage wide(600, 300, QImage::Format_RGB888);
+    wide.fill(QColor(40, 160, 60));
+    for (int y = 100; y < 200; ++y)
+        for (int x = 450; x < 530; ++x)
+            wide.setPixelColor(x, y, QColor(200, 60, 50));
+    const QString file = QString::fromStdString(test::savePng(wide, folder_.file("wide.png")));
+    window_->frameAction()->setChecked(false);
+    pictureAfter([&] { window_->openForeground(file); });
+    EXPECT_EQ(place(), LayerPlace());
+    const QImage framed = pictureAfter([&] { window_->frameAction()->setChecked(true); });
+    EXPECT_NE(place(), LayerPlace());
+    EXPECT_GT(framed.pixelColor(120, 180).red(), 150) << "the subject is not in the middle";
+    const LayerPlace first = place();
+    pictureAfter([&] { window_->openForeground(QString::fromStdString(foreground_)); });
+    EXPECT_NE(place(), first) << "the next portrait has a frame of its own";
 }
 
 TEST_F(MainWindowTest, AStateFileBringsEverySettingBack) {

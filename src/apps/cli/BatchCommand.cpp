@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "apps/cli/BatchConsole.h"
+#include "apps/cli/CommonPlace.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/PictureOptions.h"
 #include "apps/cli/Usage.h"
@@ -41,12 +42,19 @@ Refusal complete(CommandOptions& options) {
         return {kUsage, "--list names its foregrounds itself; --foregrounds does not go with it."};
     if (sources.listFile.empty() && sources.backgrounds.empty() && sources.states.empty())
         return {kUsage, "--backgrounds is missing, or --states that name their backgrounds."};
+    if (options.picture.place.isSame() && batch.watch)
+        return {kUsage, "--place same looks at the portraits beforehand; it does not go with --watch."};
     if (sources.subfolders && sources.backgrounds.empty())
         return {kUsage, "--subfolders needs --backgrounds: a subfolder is named like one of them."};
     if (options.shard.empty()) return {};
     ShardChoice choice = chooseShard(options.shard);
     batch.shard = choice.shard;
     return {choice.problem.empty() ? kDone : kUsage, choice.problem};
+}
+
+/// One frame for all, where that is wanted, before the settings of any picture are asked for.
+void placeAlike(CommandOptions& options, const PictureMaker& maker) {
+    if (options.picture.place.isSame()) options.picture.place.common = commonPlace(maker, options.batch.sources);
 }
 
 /// What is wrong with the settings shows before any picture is looked at. With states each of them has its own say.
@@ -72,11 +80,12 @@ int runBatch(CommandOptions options) {
         complain(refusal.line);
         return refusal.code;
     }
-    PictureMaker maker(
-        *base, [&options](SystemInfo& info) { return startSettings(info, options.picture.start); },
-        [&options](SystemInfo& info, const LoadedState& loaded) {
-            return applyPictureOptions(info, options.picture, loaded).line;
-        });
+    const StartSettings start = [&options](SystemInfo& info) { return startSettings(info, options.picture.start); };
+    const ApplySettings apply = [&options](SystemInfo& info, const LoadedState& loaded) {
+        return applyPictureOptions(info, options.picture, loaded).line;
+    };
+    placeAlike(options, PictureMaker(*base, start, apply));
+    PictureMaker maker(*base, start, apply);
     if (options.picture.choosesScreen()) maker.chooseScreens();
     for (const PictureWarning& warning : rangeWarnings(options.picture))
         warn(warning.text);

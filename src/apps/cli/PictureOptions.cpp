@@ -5,6 +5,7 @@
 
 #include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
+#include "apps/cli/LabelOptions.h"
 #include "core/NearestName.h"
 #include "core/state/SettingRanges.h"
 #include "core/text/TextLayers.h"
@@ -79,7 +80,7 @@ std::string applySettings(SystemInfo& info, const PictureOptions& options) {
     std::string problem = options.effects.apply(info);
     if (!problem.empty()) return problem;
     if (!options.title.empty()) info.oFontLabelObject[0].sText = options.title;
-    if (!options.note.empty()) info.oFontLabelObject[1].sText = options.note;
+    if (!options.note.empty()) styleNote(info, options.note, options.set);
     applyOverlays(info, options);
     problem = applyAssignments(info, options.set);
     if (!problem.empty()) return problem;
@@ -106,8 +107,13 @@ std::vector<PictureWarning> rangeWarnings(const PictureOptions& options) {
 }
 
 Refusal applyPictureOptions(SystemInfo& info, const PictureOptions& options, const LoadedState& loaded) {
-    const std::string problem = applySettings(info, options);
-    return problem.empty() ? applySize(info, options, loaded) : Refusal{kUsage, problem};
+    std::string problem = applySettings(info, options);
+    if (problem.empty()) problem = options.place.apply(info, options.set, !loaded.isStart);
+    if (!problem.empty()) return {kUsage, problem};
+    const Refusal refusal = applySize(info, options, loaded);
+    if (refusal.code == kDone && !options.title.empty())
+        fitTitle(info, options.titleSize, options.set, selectedSize(info).value_or(ImageSize()).dWidth);
+    return refusal;
 }
 
 void addPictureOptions(CLI::App& command, PictureOptions& options) {
@@ -117,8 +123,12 @@ void addPictureOptions(CLI::App& command, PictureOptions& options) {
         command.add_option("--inches", options.inches, "Output size, width x height")->excludes(size);
     CLI::Option* dpi = command.add_option("--dpi", options.dpi, "Dots an inch, with --inches")->needs(inches);
     inches->needs(dpi);
+    options.place.addTo(command);
     options.effects.addTo(command);
     command.add_option("--title", options.title, "Text of the title (label 0)");
+    command
+        .add_option("--title-size", options.titleSize, "Its size in points; without it a long title is made to fit")
+        ->check(CLI::Range(1, 1000));
     command.add_option("--note", options.note, "Text of the note (label 1)");
     command.add_option("--overlay-background", options.backgroundOverlay, "Picture over the background");
     command.add_option("--overlay-foreground", options.foregroundOverlay, "Picture over the subject");

@@ -6,6 +6,7 @@
 
 #include "apps/cli/EffectOptions.h"
 #include "apps/cli/KeyOptions.h"
+#include "apps/cli/PlaceOptions.h"
 #include "apps/cli/StartOptions.h"
 
 namespace tavrin::cli {
@@ -17,7 +18,9 @@ struct PictureOptions {
     std::string sizeName, inches;
     int dpi = 0;
     EffectOptions effects;
+    PlaceOptions place;
     std::string title, note;
+    int titleSize = 0;  ///< points; 0: the usual size, or what fits
     std::string backgroundOverlay, foregroundOverlay, frameOverlay;
     std::vector<std::string> set;
     KeyOptions key;

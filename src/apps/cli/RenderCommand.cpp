@@ -195,7 +195,7 @@ Refusal useStreams(RenderOptions& options, bool& sends) {
 }
 
 std::string sizeText(const SystemInfo& info, const RenderOptions& options) {
-    const PassGeometry size = info.geometry(options.preview ? 0 : 1);
+    const PassGeometry size = info.geometry(fullIf(!options.preview));
     return std::to_string(size.width) + " x " + std::to_string(size.height) + " pixels at " +
            std::to_string(size.dpi) + " dpi";
 }

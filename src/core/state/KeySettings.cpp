@@ -38,6 +38,17 @@ std::span<const Leaf<KeyOutputSettings>> KeyOutputSettings::leaves() {
     return table;
 }
 
+std::span<const Leaf<RefineSettings>> RefineSettings::leaves() {
+    using G = RefineSettings;
+    static const Leaf<G> table[] = {
+        TAVRIN_LEAF(G, bRefineKey),
+        TAVRIN_LEAF(G, iSliderRefineSoftness),
+        TAVRIN_LEAF(G, iSliderRefineDetail),
+        TAVRIN_LEAF(G, iSliderRefineOwnGreen),
+    };
+    return table;
+}
+
 std::span<const Leaf<OutputModeSettings>> OutputModeSettings::leaves() {
     using G = OutputModeSettings;
     static const Leaf<G> table[] = {

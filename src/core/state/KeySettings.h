@@ -64,6 +64,17 @@ struct KeyOutputSettings {
     static std::span<const Leaf<KeyOutputSettings>> leaves();
 };
 
+/// The second look at the key's alpha. Numbers run from -100 to 100 and are neutral at 0, which is also what a state
+/// file that does not name them gives.
+struct RefineSettings {
+    Field<bool> bRefineKey = false;
+    Field<std::int32_t> iSliderRefineSoftness = 0;  ///< edges: -100 hard, 100 blurred
+    Field<std::int32_t> iSliderRefineDetail = 0;    ///< fine detail from the brightness: -100 none, 100 twice as much
+    Field<std::int32_t> iSliderRefineOwnGreen = 0;  ///< the subject's own green: -100 none is kept, 100 twice as much
+
+    static std::span<const Leaf<RefineSettings>> leaves();
+};
+
 /// Colour treatment of a layer: 0 colour, 1 grey, 2 sepia; the foreground also 4, silhouette with transparency.
 struct OutputModeSettings {
     Field<std::int32_t> iBackgroundOutputMode = 0;

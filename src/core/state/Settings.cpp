@@ -18,7 +18,7 @@ std::span<const Leaf<Settings>> Settings::leaves() {
         joinLeaves<GuardSettings, GlobalSmoothingSettings, StarFilterSettings, OutputGeometry, EasySettings,
                    SelectionSettings, BlurSettings, ClipSettings, OutputModeSettings, ShadowSettings, OverlaySettings,
                    CartoonSettings, KeyOutputSettings, EventSettings, SkinSettings, LightingSettings,
-                   SilhouetteSettings, ReflectionSettings>();
+                   SilhouetteSettings, ReflectionSettings, RefineSettings>();
     return table;
 }
 

@@ -14,6 +14,7 @@
 #include "core/state/Interface.h"
 #include "core/state/KeySettings.h"
 #include "core/state/PageSettings.h"
+#include "core/state/PlaceState.h"
 #include "core/state/QLXInfo.h"
 #include "core/state/RunState.h"
 
@@ -42,7 +43,8 @@ class Settings : public GuardSettings,
                  public SkinSettings,
                  public LightingSettings,
                  public SilhouetteSettings,
-                 public ReflectionSettings {
+                 public ReflectionSettings,
+                 public RefineSettings {
   public:
     /// The leaves of all groups, in the order of the state file.
     static std::span<const Leaf<Settings>> leaves();
@@ -63,6 +65,7 @@ class SystemInfo : public Settings,
                    public StageState,
                    public StartUpPictures,
                    public LoopState,
+                   public PlaceState,
                    public ReplayState,
                    public ModeState {
   public:

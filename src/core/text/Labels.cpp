@@ -33,11 +33,13 @@ struct NamedSize {
     int points;
 };
 
+constexpr double kMarginInches = 0.25;
+
 constexpr NamedSize kSizes[] = {{"X-Large", 60}, {"Large", 40}, {"Medium", 25}, {"Small", 12}};
 
 // Where the base line of a label starts, in pixels from the bottom left of the picture.
 QPointF startOf(const FontObject& label, const PassGeometry& size, double textWidth, double capHeight) {
-    const double w = size.width, h = size.height, margin = size.dpi * 0.25;
+    const double w = size.width, h = size.height, margin = size.dpi * kMarginInches;
     const std::string location = label.sLocation;
     if (location == "ABSOLUTE") return {label.xPos * w, label.yPos * h};
     const auto* place =
@@ -51,7 +53,52 @@ QPointF startOf(const FontObject& label, const PassGeometry& size, double textWi
     return {x, y};
 }
 
+LaidOutText layOutLabel(const SystemInfo& info, const FontObject& label) {
+    TextSetting setting;
+    setting.fontName = label.sFontName;
+    setting.singleLine = true;
+    return layOutText(labelString(info, label), setting);
+}
+
+/// Whether what lies under a label is dark, by its mean brightness.
+bool isDarkUnder(const SystemInfo& info, const FontObject& label, const std::uint8_t* pixels, Resolution resolution) {
+    const PassGeometry size = info.geometry(resolution);
+    const LaidOutText text = layOutLabel(info, label);
+    const double scale = size.dpi / 72.0 * label.iFontSize / LaidOutText::kSize;
+    const QPointF start = startOf(label, size, text.width * scale, text.capHeight * scale);
+    const QRectF line(start.x(), size.height - start.y() - text.capHeight * scale, text.width * scale,
+                      text.capHeight * scale);
+    const QRect under = line.toAlignedRect() & QRect(0, 0, size.width, size.height);
+    double sum = 0.0;
+    for (int y = under.top(); y <= under.bottom(); ++y) {
+        for (int x = under.left(); x <= under.right(); ++x) {
+            const std::uint8_t* p = pixels + pixelOffset(size.width, x, y);
+            sum += 0.299 * p[0] + 0.587 * p[1] + 0.114 * p[2];
+        }
+    }
+    return sum < 128.0 * under.width() * under.height();
+}
+
 }  // namespace
+
+void chooseLabelColors(SystemInfo& info, const std::uint8_t* pixels, Resolution resolution) {
+    if (!pixels) return;
+    for (FontObject& label : info.oFontLabelObject) {
+        if (label.sFontColor.load() != kColorByGround || labelString(info, label).empty() || !canDrawText(info))
+            continue;
+        label.bDropShadow = isDarkUnder(info, label, pixels, resolution);
+        label.sFontColor = label.bDropShadow ? "White" : "Black";
+        useLabelColor(label);
+    }
+}
+
+void shrinkToFit(const SystemInfo& info, FontObject& label, double inches) {
+    constexpr int kSmallest = 6;
+    const double room = (inches - 2.0 * kMarginInches) * 72.0, width = layOutLabel(info, label).width;
+    if (width <= 0.0 || room <= 0.0) return;
+    const int largest = std::max(kSmallest, static_cast<int>(room * LaidOutText::kSize / width));
+    if (label.iFontSize > largest) label.iFontSize = largest;
+}
 
 std::string labelString(const SystemInfo& info, const FontObject& label) {
     if (label.iFontSize < 1) return "";
@@ -68,10 +115,7 @@ void DrawText(SystemInfo& info, BitmapContext* context, const FontObject& myFont
     const double pixels = size.dpi / 72.0 * myFontObject.iFontSize;
     const std::string string = labelString(info, myFontObject);
     if (!context || string.empty() || !(pixels > 0.0) || !canDrawText(info)) return;
-    TextSetting setting;
-    setting.fontName = myFontObject.sFontName;
-    setting.singleLine = true;
-    const LaidOutText text = layOutText(string, setting);
+    const LaidOutText text = layOutLabel(info, myFontObject);
     const double scale = pixels / LaidOutText::kSize;
     const QPointF start = startOf(myFontObject, size, text.width * scale, text.capHeight * scale);
     const double red = myFontObject.dFontFillRed, green = myFontObject.dFontFillGreen,

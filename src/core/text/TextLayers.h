@@ -34,6 +34,14 @@ void DrawOverlayImage(SystemInfo& info, BitmapContext* context, const std::strin
 /// Gives a label the size in points that its `sLabelSize` names, or the fill that its `sFontColor` names.
 void useLabelSize(FontObject& label);
 void useLabelColor(FontObject& label);
+/// As `sFontColor` of a label: white with a shadow on dark ground and black on light, chosen when it is first drawn.
+inline constexpr const char* kColorByGround = "Auto";
+/// Makes that choice for all labels that wait for it.
+/// @param pixels the picture that they will be drawn on, RGBA, of the size of `myRes`; null chooses nothing
+void chooseLabelColors(SystemInfo& info, const std::uint8_t* pixels, Resolution resolution);
+/// Makes a label smaller until its line fits a width with the margins of labels, but not below 6 points.
+/// @param inches width of the picture
+void shrinkToFit(const SystemInfo& info, FontObject& label, double inches);
 /// What a label shows: its text, or the name of the foreground's file for "@filename". "" when that is nothing.
 std::string labelString(const SystemInfo& info, const FontObject& label);
 

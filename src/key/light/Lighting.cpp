@@ -38,6 +38,18 @@ std::int32_t glowOfFirst(const SpillKey& key, const GlowParams& params, int x, i
     return amount > GlowParams::kSolid ? params.gain : before;
 }
 
+// A row of the shape by the alpha that the refined key left with the background.
+void glowOfRefined(const GlowParams& params, const std::uint8_t* background, int y, std::int32_t* row) {
+    const std::uint8_t* alpha = background + pixelOffset(params.key.width, 0, y) + 3;
+    for (int x = 0; x < params.key.width; ++x, alpha += kPixelBytes) {
+        if (distance(rawColor(params, x, y), params.screen) < GlowParams::kScreenDistance) {
+            row[x] = 0;
+        } else if (*alpha / 255.0 > GlowParams::kSolid) {
+            row[x] = params.gain;
+        }
+    }
+}
+
 }  // namespace
 
 void EffectsLighting(SystemInfo& info, std::int32_t* map, int width, int height, int hiRes) {
@@ -67,9 +79,11 @@ void EffectsLightingGlow(SystemInfo& info, std::int32_t* map, int width, int hei
                             toGain(info.iLightingSliderEndLight * 50.0 - 2500.0)};
     const std::int64_t radius = std::int64_t{info.iLightingSliderSize} * height / 800;
 
-    const std::int64_t first = firstKeyed(params, key);
+    const bool refined = refinesKey(info);
+    const std::int64_t first = refined ? -1 : firstKeyed(params, key);
     const bool finished = runRows(info.rowsWhileWanted(), height, 8, [&](int y) {
         std::int32_t* row = map + static_cast<std::ptrdiff_t>(y) * width;
+        if (refined) return glowOfRefined(params, key.pBOrg, y, row);
         const std::int64_t x = first - std::int64_t{y} * width;
         const bool hasFirst = x >= 0 && x < width;
         const std::int32_t before = hasFirst ? row[x] : 0;

@@ -90,6 +90,11 @@ FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) 
 
 }  // namespace
 
+bool refinesKey(const SystemInfo& info) {
+    return info.bRefineKey && !info.bShowOrgImage && !info.pCombinedBitmapInfo->bShowSelectedAreas &&
+           !(info.iGreenProtectMode != 0 && info.bShowGreenProtection);
+}
+
 KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen) {
     const BitmapInfo& sliders = *info.pCombinedBitmapInfo;
     const double tint = number(sliders.sliderGreenTintAreas);

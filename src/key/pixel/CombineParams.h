@@ -19,9 +19,15 @@ struct CombineParams {
     const std::uint8_t* foreground = nullptr;  ///< the three buffers: RGBA, rows packed, `size` each
     std::uint8_t* background = nullptr;        ///< only its alpha bytes are written
     std::uint8_t* combined = nullptr;
+    /// The combined buffer holds the subject's colours (real channels) and alpha already, and no pixel is decided on.
+    bool refined = false;
     KeyConstants key;
     FinishConstants finish;
 };
+
+/// The key gets a second look (`bRefineKey`) where its result is shown: not while the foreground, the selected areas
+/// or the guard are shown instead.
+bool refinesKey(const SystemInfo& info);
 
 /// The settings of the key. `localScreen`: measured against the grid of local screen colours, not the global one.
 KeyConstants makeKeyConstants(const SystemInfo& info, RunSize size, bool localScreen);

@@ -1,0 +1,124 @@
+// How well portraits are framed: makes each picture with the default settings, places the subject, and looks in the
+// result where it came to stand. docs/framing.md has the figures.
+
+#include <CLI/CLI.hpp>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "pipeline/CombineThread.h"
+#include "pipeline/SubjectPlace.h"
+#include "session/OutputSizes.h"
+#include "session/States.h"
+
+namespace {
+
+using namespace tavrin;
+
+struct Framed {
+    SubjectBounds source, picture;
+    LayerPlace place;
+    double milliseconds = 0.0;
+    double middle = 0.0;  ///< of the subject's from the picture's, percent of the width
+
+    bool cutsHead() const { return picture.cutTop && !source.cutTop; }
+    /// An edge of the source shows that cuts the subject.
+    bool showsCut(const QRectF& rect, const LayerFit& fit) const {
+        return (source.cutLeft && rect.left() > 0.0) || (source.cutRight && rect.right() < fit.outputWidth) ||
+               (source.cutBottom && rect.top() > 0.0) || (source.cutTop && rect.bottom() < fit.outputHeight);
+    }
+};
+
+std::unique_ptr<SystemInfo> stateFor(const std::string& picture, const std::string& background, ImageSize size,
+                                     const std::string& stateFile) {
+    auto info = std::make_unique<SystemInfo>();
+    if (!stateFile.empty() && !loadState(*info, stateFile).problem.empty()) return nullptr;
+    chooseOwnSize(*info, "framing", size.dWidth, size.dHeight, size.dotsPerInch);
+    if (!useChosenSize(*info)) return nullptr;
+    info->pForegroundBitmapInfo->sSourceImageFullPath = picture;
+    info->pBackgroundBitmapInfo->sSourceImageFullPath = background;
+    info->bUseBlueLogic = std::filesystem::path(picture).filename().string().find("blue") != std::string::npos;
+    return info;
+}
+
+/// @return false when the picture could not be made, or has no subject
+bool frame(SystemInfo& info, Framed& framed, bool& showsCut) {
+    wantPlace(info, PlaceRule::subject);
+    info.bSkipHiRes = true;
+    CombineThread(info).runUntilIdle();
+    if (!info.whyNotFinished(0).empty()) return false;
+    BitmapInfo& foreground = *info.pForegroundBitmapInfo;
+    framed.place = placeOf(foreground);
+    const LayerFit full = fitSource(info, foreground, 1);
+    const PassGeometry low = info.geometry(0);
+    const auto inPicture =
+        findSubject(info.pBackgroundBitmapInfo->pBitmapDataLowRes, low.width, QRect(0, 0, low.width, low.height));
+    const auto start = std::chrono::steady_clock::now();
+    const auto inSource = measureSubject(info);
+    const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
+    if (!inPicture || !inSource) return false;
+    framed.source = *inSource;
+    framed.picture = *inPicture;
+    framed.milliseconds = taken.count();
+    framed.middle = 50.0 * (inPicture->left + inPicture->right) - 50.0;
+    showsCut = framed.showsCut(placedRect(framed.place, full), full);
+    return true;
+}
+
+std::string sides(const SubjectBounds& s) {
+    return std::string(s.cutLeft ? "L" : "-") + (s.cutTop ? "T" : "-") + (s.cutRight ? "R" : "-") +
+           (s.cutBottom ? "B" : "-");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    CLI::App app{"Frames portraits and tells where they came to stand"};
+    std::vector<std::string> pictures;
+    std::string background, state;
+    ImageSize size;
+    size.dWidth = 5.0;
+    size.dHeight = 7.0;
+    size.dotsPerInch = 200;
+    app.add_option("pictures", pictures, "Portraits; those with \"blue\" in their names have a blue screen")
+        ->required();
+    app.add_option("--background", background, "What to put behind them")->required();
+    app.add_option("--state", state, "Settings of the key");
+    double width = 5.0, height = 7.0;
+    app.add_option("--width", width, "Inches (default 5)");
+    app.add_option("--height", height, "Inches (default 7)");
+    CLI11_PARSE(app, argc, argv);
+    size.dWidth = width;
+    size.dHeight = height;
+
+    int made = 0, headsCut = 0, edges = 0, offMiddle = 0;
+    double milliseconds = 0.0;
+    std::printf("%-36s cut   fScale     x     y  head%%  middle%%    ms\n", "");
+    for (const std::string& picture : pictures) {
+        const std::string name = std::filesystem::path(picture).filename().string();
+        const auto info = stateFor(picture, background, size, state);
+        Framed framed;
+        bool showsCut = false;
+        if (!info || !frame(*info, framed, showsCut)) {
+            std::printf("%-36s no subject\n", name.c_str());
+            continue;
+        }
+        ++made;
+        headsCut += framed.cutsHead();
+        edges += showsCut;
+        offMiddle += std::abs(framed.middle) > 3.0;
+        milliseconds += framed.milliseconds;
+        std::printf("%-36s %s %7.4f %5d %5d %6.1f %8.1f %5.0f%s%s\n", name.c_str(), sides(framed.source).c_str(),
+                    framed.place.scale, framed.place.x, framed.place.y, 100.0 * framed.picture.top, framed.middle,
+                    framed.milliseconds, framed.cutsHead() ? "  head cut" : "", showsCut ? "  edge shows" : "");
+    }
+    std::printf(
+        "%d framed, %d heads cut that the source does not cut, %d cut edges show, %d off the middle by more "
+        "than 3 percent, %.0f ms each for the look\n",
+        made, headsCut, edges, offMiddle, made > 0 ? milliseconds / made : 0.0);
+    return 0;
+}

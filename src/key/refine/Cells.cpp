@@ -1,0 +1,266 @@
+#include "key/refine/Cells.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+
+#include "key/refine/RowRing.h"
+
+namespace tavrin::refine {
+
+namespace {
+
+constexpr float kFullWeight = 0.25f;  // of a level that needs nothing from the coarser one
+constexpr int kFewCells = 2;
+constexpr int kGrainRows = 16;
+
+// Means of 2 x 2 cells; of those that are there at the right and lower end.
+Cells halved(const Cells& cells) {
+    Cells half((cells.columns() + 1) / 2, (cells.rows() + 1) / 2, cells.planes());
+    for (int plane = 0; plane < cells.planes(); ++plane) {
+        for (int y = 0; y < half.rows(); ++y) {
+            const float* const upper = cells.row(2 * y, plane);
+            const float* const lower = cells.row(std::min(2 * y + 1, cells.rows() - 1), plane);
+            float* const to = half.row(y, plane);
+            for (int x = 0; x < cells.columns() / 2; ++x)
+                to[x] = ((upper[2 * x] + upper[2 * x + 1]) + (lower[2 * x] + lower[2 * x + 1])) * 0.25f;
+            const int last = cells.columns() - 1;
+            if (cells.columns() % 2 != 0) to[last / 2] = (upper[last] + lower[last]) * 0.5f;
+        }
+    }
+    return half;
+}
+
+// One row of a level, from its own means and the finished coarser level.
+class PullRow {
+  public:
+    PullRow(const Cells& level, const Cells& coarser)
+        : level_(level),
+          coarse_(coarser, 2),
+          padded_(level.columns(), 5),
+          weight_(static_cast<std::size_t>(level.columns())),
+          sums_(weight_.size()),
+          far_(weight_.size()) {}
+
+    void work(int y, Cells& to) {
+        const int columns = level_.columns(), values = level_.planes() - 1;
+        boxSums(y, values, weight_.data());
+        for (int plane = 0; plane < values; ++plane) {
+            boxSums(y, plane, sums_.data());
+            coarse_.fill(y, plane, columns, far_.data());
+            float* const out = to.row(y, plane);
+            for (int x = 0; x < columns; ++x) {
+                const auto i = static_cast<std::size_t>(x);
+                const float weight = weight_[i] / 9.0f, own = std::min(weight / kFullWeight, 1.0f);
+                out[x] = far_[i] * (1.0f - own) + own * (sums_[i] / 9.0f) / std::max(weight, 1e-4f);
+            }
+        }
+    }
+
+  private:
+    void boxSums(int y, int plane, float* to) {
+        const float* rows[3];
+        for (int i = -1; i <= 1; ++i) {
+            float* const row = padded_.row(i + 1);
+            std::copy_n(level_.row(mirrored(y + i, level_.rows()), plane), level_.columns(), row);
+            padded_.pad(i + 1);
+            rows[i + 1] = row;
+        }
+        refine::boxSums(rows, 1, level_.columns(), padded_.row(3), to);
+    }
+
+    const Cells& level_;
+    CellRows coarse_;
+    PaddedRows padded_;
+    std::vector<float> weight_, sums_, far_;
+};
+
+// One cell of a value everywhere: the mean of all.
+Cells meanOf(const Cells& cells) {
+    Cells mean(1, 1, cells.planes() - 1);
+    const double weight = std::max(cells.sum(cells.planes() - 1), 1e-6);
+    for (int plane = 0; plane < mean.planes(); ++plane)
+        *mean.row(0, plane) = static_cast<float>(cells.sum(plane) / weight);
+    return mean;
+}
+
+}  // namespace
+
+Cells::Cells(int columns, int rows, int planes)
+    : columns_(columns), rows_(rows), planes_(planes), values_(count() * static_cast<std::size_t>(planes)) {}
+
+Cells Cells::over(int width, int height, int size, int planes) {
+    return Cells((width + size - 1) / size, (height + size - 1) / size, planes);
+}
+
+double Cells::sum(int plane) const {
+    double sum = 0.0;
+    const float* const values = row(0, plane);
+    for (std::size_t i = 0; i < count(); ++i)
+        sum += static_cast<double>(values[i]);
+    return sum;
+}
+
+CellRows::CellRows(const Cells& cells, int size)
+    : cells_(cells),
+      size_(size),
+      shares_(static_cast<std::size_t>(size)),
+      line_(static_cast<std::size_t>(cells.columns())) {
+    for (int i = 0; i < size; ++i)
+        shares_[static_cast<std::size_t>(i)] =
+            (static_cast<float>(size / 2 + i) + 0.5f) / static_cast<float>(size) - 0.5f;
+}
+
+void CellRows::fill(int y, int plane, int width, float* to) {
+    const int columns = cells_.columns();
+    const int next = (y - size_ / 2 + size_) / size_, last = cells_.rows() - 1;
+    const int above = std::clamp(next - 1, 0, last), below = std::min(next, last);
+    const float share = shares_[static_cast<std::size_t>((y - size_ / 2 + size_) % size_)];
+    const float *const a = cells_.row(above, plane), *const b = cells_.row(below, plane);
+    float* const line = line_.data();
+    for (int x = 0; x < columns; ++x)
+        line[x] = a[x] + (b[x] - a[x]) * share;
+
+    const float* const shares = shares_.data();
+    const int first = std::min(size_ / 2, width);
+    std::fill(to, to + first, line[0]);
+    int x = first;
+    for (int c = 0; c + 1 < columns; ++c, x += size_) {
+        const float from = line[c], step = line[c + 1] - from;
+        const int count = std::min(size_, width - x);
+        for (int i = 0; i < count; ++i)
+            to[x + i] = from + step * shares[i];
+    }
+    if (x < width) std::fill(to + x, to + width, line[columns - 1]);
+}
+
+Cells pushPull(const RunContext& context, const Cells& cells) {
+    std::vector<Cells> coarser;
+    const auto level = [&](std::size_t i) -> const Cells& { return i == 0 ? cells : coarser[i - 1]; };
+    while (std::min(level(coarser.size()).columns(), level(coarser.size()).rows()) > kFewCells) {
+        Cells half = halved(level(coarser.size()));
+        coarser.push_back(std::move(half));
+    }
+    Cells filled = meanOf(level(coarser.size()));
+    for (std::size_t i = coarser.size() + 1; i-- > 0;) {
+        const Cells& own = level(i);
+        Cells next(own.columns(), own.rows(), own.planes() - 1);
+        runRowRanges(context, own.rows(), kGrainRows, [&](int first, int last) {
+            PullRow row(own, filled);
+            for (int y = first; y < last; ++y)
+                row.work(y, next);
+        });
+        filled = std::move(next);
+    }
+    return filled;
+}
+
+Cells sharesOf(const RunContext& context, const Mask& mask, int size) {
+    Cells cells = Cells::over(mask.width(), mask.height(), size, 1);
+    runRows(context, cells.rows(), 4, [&](int row) {
+        std::vector<int> counts(static_cast<std::size_t>(cells.columns()));
+        const int first = row * size, last = std::min(first + size, mask.height());
+        for (int y = first; y < last; ++y) {
+            const std::uint64_t* const words = mask.row(y);
+            for (int c = 0; c < cells.columns(); ++c) {
+                int& count = counts[static_cast<std::size_t>(c)];
+                for (int x = c * size, end = std::min(x + size, mask.width()); x < end;) {
+                    const int bits = std::min(end - x, 64 - x % 64);
+                    const std::uint64_t part = words[x / 64] >> (x % 64);
+                    count += std::popcount(bits == 64 ? part : part & ((std::uint64_t{1} << bits) - 1));
+                    x += bits;
+                }
+            }
+        }
+        for (int c = 0; c < cells.columns(); ++c) {
+            const int pixels = (std::min((c + 1) * size, mask.width()) - c * size) * (last - first);
+            cells.row(row, 0)[c] =
+                static_cast<float>(counts[static_cast<std::size_t>(c)]) / static_cast<float>(pixels);
+        }
+    });
+    return cells;
+}
+
+Mask maskOf(int width, int height, int size, const std::function<bool(int, int)>& isSet) {
+    Mask mask(width, height);
+    const Cells grid = Cells::over(width, height, size, 0);
+    for (int row = 0; row < grid.rows(); ++row) {
+        std::uint64_t* const first = mask.row(row * size);
+        for (int c = 0; c < grid.columns(); ++c) {
+            if (!isSet(c, row)) continue;
+            for (int x = c * size, end = std::min(x + size, width); x < end; ++x)
+                first[x / 64] |= std::uint64_t{1} << (x % 64);
+        }
+        for (int y = row * size + 1; y < std::min((row + 1) * size, height); ++y)
+            std::copy_n(first, mask.words(), mask.row(y));
+    }
+    return mask;
+}
+
+Cells blurred(const Cells& cells, double reach) {
+    const int whole = static_cast<int>(reach);
+    const auto rest = static_cast<float>(reach - whole);
+    const auto blur = [&](int i, int count, const auto& at) {
+        float sum = rest * (at(mirrored(i - whole - 1, count)) + at(mirrored(i + whole + 1, count)));
+        for (int k = -whole; k <= whole; ++k)
+            sum += at(mirrored(i + k, count));
+        return sum / (static_cast<float>(2 * whole + 1) + 2.0f * rest);
+    };
+    Cells across(cells.columns(), cells.rows(), 1), result(across);
+    for (int y = 0; y < cells.rows(); ++y) {
+        for (int x = 0; x < cells.columns(); ++x)
+            across.row(y, 0)[x] = blur(x, cells.columns(), [&](int i) { return cells.row(y, 0)[i]; });
+    }
+    for (int y = 0; y < cells.rows(); ++y) {
+        for (int x = 0; x < cells.columns(); ++x)
+            result.row(y, 0)[x] = blur(y, cells.rows(), [&](int i) { return across.row(i, 0)[x]; });
+    }
+    return result;
+}
+
+Cells least5(const Cells& cells) {
+    Cells result(cells.columns(), cells.rows(), 1);
+    for (int y = 0; y < cells.rows(); ++y) {
+        for (int x = 0; x < cells.columns(); ++x) {
+            float least = cells.row(y, 0)[x];
+            for (int j = std::max(y - 2, 0); j <= std::min(y + 2, cells.rows() - 1); ++j) {
+                const float* const row = cells.row(j, 0);
+                for (int i = std::max(x - 2, 0); i <= std::min(x + 2, cells.columns() - 1); ++i)
+                    least = std::min(least, row[i]);
+            }
+            result.row(y, 0)[x] = least;
+        }
+    }
+    return result;
+}
+
+Parts findParts(int columns, int rows, const std::vector<std::uint8_t>& set, Neighbours neighbours) {
+    Parts parts;
+    parts.labels.resize(set.size());
+    std::vector<int> open;
+    const auto visit = [&](int i) {
+        const auto at = static_cast<std::size_t>(i);
+        if (!set[at] || parts.labels[at] != 0) return;
+        parts.labels[at] = parts.count;
+        open.push_back(i);
+    };
+    for (int start = 0; start < columns * rows; ++start) {
+        if (!set[static_cast<std::size_t>(start)] || parts.labels[static_cast<std::size_t>(start)] != 0) continue;
+        ++parts.count;
+        visit(start);
+        while (!open.empty()) {
+            const int i = open.back(), x = i % columns, y = i / columns;
+            open.pop_back();
+            for (int dy = -1; dy <= 1; ++dy) {
+                for (int dx = -1; dx <= 1; ++dx) {
+                    if (neighbours == Neighbours::four && dx != 0 && dy != 0) continue;
+                    if (x + dx < 0 || x + dx >= columns || y + dy < 0 || y + dy >= rows) continue;
+                    visit(i + dy * columns + dx);
+                }
+            }
+        }
+    }
+    return parts;
+}
+
+}  // namespace tavrin::refine

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <vector>
+
+#include "key/refine/FitAlpha.h"
+#include "key/refine/RowRing.h"
+
+namespace tavrin::refine {
+
+// Colour often has half the resolution (JPEG 4:2:0, a sensor's mosaic) while luma has all of it. What alpha lost by
+// that comes back from the luma, as far as both go together in a small window.
+
+/// Rows of a plane as they are after halving it and enlarging it again. For one thread.
+class HalfRows {
+    using Load = std::function<void(int, float*)>;
+
+  public:
+    /// @param load fills row `y` of the plane
+    HalfRows(int width, int height, Load load);
+    void fill(int y, float* to);
+
+  private:
+    int width_, height_;
+    Load load_;
+    std::vector<float> lines_;
+    RowRing<1, std::function<void(int, float**)>> coarse_;
+};
+
+/// What luma tells about alpha around each pixel. For one thread.
+class DetailRows {
+    using Maker = std::function<void(int, float**)>;
+
+  public:
+    /// @param sharpness how much alpha and luma are sharpened first, 0 to 1
+    DetailRows(const Shot& shot, const AlphaPlane& alpha, float sharpness);
+
+    /// @param mean mean of alpha in the window
+    /// @param detail what alpha lacks if the colour had half the luma's resolution
+    void fill(int y, float* mean, float* detail);
+    /// Alpha after sharpening, not limited.
+    const float* alpha(int y) { return ring_.at(y, 4); }
+    /// Rows y - 2 to y + 2 of alpha as it was.
+    const float* const* alphasAround(int y) { return plain_.around(y, 0, 2); }
+
+  private:
+    void sharpen(int y, int plane, float* to);
+
+    const Shot& shot_;
+    float sharpness_;
+    HalfRows luma_;
+    RowRing<2, Maker> plain_;
+    RowRing<5, Maker> ring_;
+    PaddedRows scratch_, blur_;
+};
+
+/// Row `y` of an alpha plane, 0 to 1.
+void loadAlpha(const AlphaPlane& plane, int width, int y, float* to);
+
+/// How much of the luma's detail alpha lacks: 0 where the colour has all of it, 1 where it has half of the
+/// resolution.
+float missingDetail(const RunContext& context, const Shot& shot, const AlphaPlane& alpha);
+
+}  // namespace tavrin::refine

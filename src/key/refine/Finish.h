@@ -1,0 +1,53 @@
+#pragma once
+
+#include "key/refine/Detail.h"
+#include "key/refine/RefineKey.h"
+
+namespace tavrin::refine {
+
+/// All that is known when the last pass begins.
+struct Findings {
+    const Shot& shot;
+    const Plate& plate;
+    const Separation& separation;
+    const Mask& solid;
+    const AlphaPlane& alpha;
+    RefineTaste taste;
+    float missingDetail = 0.0f;
+};
+
+/// Where the subject is not far: 1 there, 0 far away, on cells of `size` pixels. Elsewhere creases, marks and lines
+/// of the floor are held back unless the key has them too.
+struct Reach {
+    Cells near;
+    int size = 1;
+};
+Reach findReach(const RunContext& context, const Findings& findings);
+
+/// The final alpha of rows. For one thread.
+class FinishRows {
+  public:
+    FinishRows(const Findings& findings, const Reach& reach);
+
+    /// @param alpha 0 to 1
+    void fill(int y, float* alpha);
+
+  private:
+    using Maker = std::function<void(int, float**)>;
+
+    void quieten(const float* means, float* alpha) const;
+    void holdBack(int y, float* alpha);
+    void shape(const float* means, float* alpha) const;
+
+    const Findings& findings_;
+    float noise_;
+    DetailRows detail_;
+    RowRing<1, Maker> keys_;
+    CellRows near_;
+    PaddedRows scratch_;
+};
+
+/// Alpha before the detail: levels alone, and 1 inside.
+void plainAlpha(const Findings& findings, int y, float* alpha);
+
+}  // namespace tavrin::refine

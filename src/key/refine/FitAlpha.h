@@ -1,0 +1,51 @@
+#pragma once
+
+#include <vector>
+
+#include "key/refine/Core.h"
+
+namespace tavrin::refine {
+
+/// What tells the subject from the screen at each place: cells of `size` pixels.
+struct Separation {
+    int size = 1;
+    Cells weights;    ///< of the three channels, for the colour less the plate's: their sum is alpha
+    Cells subject;    ///< mean colour of the subject around, in roles
+    Cells certainty;  ///< how far the two colours lie apart, 0 to 1
+};
+
+/// Means and covariances of the subject's colours around each cell, from the sure pixels, and the direction in which
+/// they lie farthest from the screen's.
+Separation separate(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& sure);
+
+/// Where colours cannot tell: what lies nearer, the inside (1) or the screen (0). Cells of `kNearCell`.
+inline constexpr int kNearCell = 8;
+Cells nearerSide(const RunContext& context, const Mask& solid, const Mask& screen);
+
+/// Alpha of rows by the separation, not limited to 0 to 1. For one thread.
+class FitRows {
+  public:
+    FitRows(const Shot& shot, const Plate& plate, const Separation& separation, const Cells& nearer);
+    void fill(int y, float* alpha);
+
+  private:
+    float* line(std::size_t i) { return lines_.data() + i * static_cast<std::size_t>(width_); }
+
+    int width_;
+    StartRows start_;
+    CellRows weights_, certainty_, nearer_;
+    std::vector<float> lines_;
+};
+
+/// The pixels where that alpha is nearly whole, or inside: better samples than those of the simple alpha, which takes
+/// a colour opposite to the screen's for whole where half of it is screen.
+Mask surePixels(const RunContext& context, const Shot& shot, const Plate& plate, const Separation& separation,
+                const Cells& nearer, const Mask& solid);
+
+/// Alpha in steps of 1 / 65535, one for each pixel.
+using AlphaPlane = std::vector<std::uint16_t>;
+inline constexpr float kAlphaSteps = 65535.0f;
+AlphaPlane fitAlpha(const RunContext& context, const Shot& shot, const Plate& plate, const Separation& separation,
+                    const Cells& nearer);
+
+}  // namespace tavrin::refine

@@ -1,0 +1,155 @@
+#include "key/refine/Plate.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "core/raster/Pixels.h"
+#include "key/pixel/ChannelRoles.h"
+
+namespace tavrin::refine {
+
+namespace {
+
+constexpr double kSeedReach = 4.0;     // pixels of 5 megapixels, as all lengths without a name of their own
+constexpr double kLeastScreen = 0.02;  // of the picture
+constexpr int kLeastDifference = 15;   // of the screen's colour
+constexpr float kLeastShare = 0.3f;    // of the usual difference, for a plate that has lost its colour
+constexpr double kSamples = 200'000;   // of a median
+constexpr float kDeviation = 1.4826f;  // of a normal distribution, from the median of the distances
+
+// Every so many columns and rows, for measuring a middle.
+int sampleStep(const Shot& shot) {
+    return std::max(1, static_cast<int>(std::sqrt(static_cast<double>(shot.width) * shot.height / kSamples)));
+}
+
+// The lead of the screen's channel over the larger of the others.
+int colorDifference(const Shot& shot, int x, int y) {
+    const std::uint8_t* const p = shot.pixels + pixelOffset(shot.width, x, y);
+    const ChannelRoles roles(shot.blue);
+    return p[roles.green] - std::max(p[0], p[roles.blue]);
+}
+
+// The middle of the clear pixels' differences; 0 where there is none.
+int usualDifference(const Shot& shot) {
+    std::array<std::int64_t, 511> counts{};
+    std::int64_t all = 0;
+    const int step = sampleStep(shot);
+    for (int y = 0; y < shot.height; y += step) {
+        for (int x = y / step % step; x < shot.width; x += step) {
+            if (shot.keyRow(y)[x] != 0) continue;
+            ++counts[static_cast<std::size_t>(colorDifference(shot, x, y) + 255)];
+            ++all;
+        }
+    }
+    std::int64_t below = 0;
+    for (std::size_t i = 0; i < counts.size() && all > 0; ++i) {
+        below += counts[i];
+        if (2 * below > all) return static_cast<int>(i) - 255;
+    }
+    return 0;
+}
+
+float measureSpread(const Shot& shot, const Plate& plate) {
+    std::vector<float> distances, alpha(static_cast<std::size_t>(shot.width));
+    StartRows rows(shot, plate);
+    const int step = sampleStep(shot);
+    for (int y = 0; y < shot.height; y += step) {
+        rows.go(y);
+        rows.alpha(alpha.data());
+        for (int x = y / step % step; x < shot.width; x += step) {
+            if (plate.screen.at(x, y)) distances.push_back(std::abs(alpha[static_cast<std::size_t>(x)]));
+        }
+    }
+    if (distances.empty()) return 0.0f;
+    const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
+    std::nth_element(distances.begin(), middle, distances.end());
+    return kDeviation * *middle;
+}
+
+// Sums of the screen's pixels in one row of cells.
+void sumCells(const Shot& shot, const Mask& screen, int row, Cells& cells) {
+    const auto width = static_cast<std::size_t>(shot.width);
+    std::vector<float> lines(8 * width);
+    float *const color = lines.data(), *const sum = color + 4 * width;
+    const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
+    for (int y = first; y < last; ++y) {
+        loadColors(shot, y, color, color + width, color + 2 * width);
+        float* const weight = color + 3 * width;
+        screen.unpack(y, weight);
+        for (std::size_t x = 0; x < width; ++x) {
+            sum[x] += color[x] * weight[x];
+            sum[x + width] += color[x + width] * weight[x];
+            sum[x + 2 * width] += color[x + 2 * width] * weight[x];
+            sum[x + 3 * width] += weight[x];
+        }
+    }
+    for (int plane = 0; plane < 4; ++plane) {
+        const float* const from = sum + static_cast<std::size_t>(plane) * width;
+        for (int c = 0; c < cells.columns(); ++c) {
+            const int begin = c * kPlateCell, end = std::min(begin + kPlateCell, shot.width);
+            float all = 0.0f;
+            for (int x = begin; x < end; ++x)
+                all += from[x];
+            cells.row(row, plane)[c] = all / static_cast<float>((end - begin) * (last - first));
+        }
+    }
+}
+
+}  // namespace
+
+std::optional<Plate> findScreen(const RunContext& context, const Shot& shot) {
+    const int usual = usualDifference(shot);
+    if (usual < kLeastDifference) return std::nullopt;
+    Mask seeds(shot.width, shot.height);
+    const bool finished = runRowRanges(context, shot.height, 32, [&](int first, int last) {
+        const auto width = static_cast<std::size_t>(shot.width);
+        std::vector<float> lines(3 * width);
+        std::vector<std::uint8_t> flags(width + 8);
+        float *const r = lines.data(), *const g = r + width, *const b = g + width;
+        for (int y = first; y < last; ++y) {
+            loadColors(shot, y, r, g, b);
+            const std::uint8_t* const key = shot.keyRow(y);
+            for (std::size_t x = 0; x < width; ++x)
+                flags[x] = (key[x] == 0) & (g[x] - std::max(r[x], b[x]) > 0.5f * static_cast<float>(usual));
+            seeds.pack(y, flags.data());
+        }
+    });
+    if (!finished) return std::nullopt;
+    Plate plate;
+    plate.screen = shrunk(context, seeds, shot.px(kSeedReach));
+    plate.difference = static_cast<float>(usual);
+    if (static_cast<double>(plate.screen.count()) < kLeastScreen * shot.width * shot.height) return std::nullopt;
+    return plate;
+}
+
+void paintPlate(const RunContext& context, const Shot& shot, Plate& plate) {
+    Cells cells = Cells::over(shot.width, shot.height, kPlateCell, 4);
+    runRows(context, cells.rows(), 8, [&](int row) { sumCells(shot, plate.screen, row, cells); });
+    plate.colors = pushPull(context, cells);
+    plate.spread = measureSpread(shot, plate);
+}
+
+StartRows::StartRows(const Shot& shot, const Plate& plate)
+    : shot_(shot),
+      least_(kLeastShare * plate.difference),
+      plate_(plate.colors, kPlateCell),
+      lines_(6 * static_cast<std::size_t>(shot.width)) {}
+
+void StartRows::go(int y) {
+    loadColors(shot_, y, line(0), line(1), line(2));
+    for (int plane = 0; plane < 3; ++plane)
+        plate_.fill(y, plane, shot_.width, line(static_cast<std::size_t>(3 + plane)));
+}
+
+void StartRows::alpha(float* to) const {
+    const float *const red = r(), *const green = g(), *const blue = b();
+    const float *const screenR = plateR(), *const screenG = plateG(), *const screenB = plateB();
+    for (int x = 0; x < shot_.width; ++x) {
+        const float own = green[x] - std::max(red[x], blue[x]);
+        const float whole = std::max(screenG[x] - std::max(screenR[x], screenB[x]), least_);
+        to[x] = std::clamp(1.0f - own / whole, -0.3f, 1.0f);
+    }
+}
+
+}  // namespace tavrin::refine

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "key/refine/Cells.h"
+#include "key/refine/Mask.h"
+#include "key/refine/Shot.h"
+
+namespace tavrin::refine {
+
+/// Side of a cell of the plate, in pixels of every picture.
+inline constexpr int kPlateCell = 4;
+
+/// The empty screen as it must look behind the subject.
+struct Plate {
+    Mask screen;           ///< pixels that are surely screen
+    Cells colors;          ///< in roles, cells of `kPlateCell`
+    float difference = 0;  ///< the screen's usual lead of its channel over the larger of the others
+    float spread = 0;      ///< how far alpha strays from 0 on the screen, as a deviation
+};
+
+/// The pixels that the key made clear and that have over half the screen's usual colour difference, away from others.
+/// @return nothing where there is too little screen to go by, or it has hardly any colour
+std::optional<Plate> findScreen(const RunContext& context, const Shot& shot);
+
+/// Makes the colours from the screen's pixels, and measures `spread` anew.
+void paintPlate(const RunContext& context, const Shot& shot, Plate& plate);
+
+/// Takes out of the screen what differs from its plate (hair that the key took away), and takes in the smooth shadows
+/// that hang together with it.
+void mendScreen(const RunContext& context, const Shot& shot, Plate& plate);
+
+/// The rows of a shot beside its plate, and the simple alpha: one less the colour difference over the plate's.
+class StartRows {
+  public:
+    StartRows(const Shot& shot, const Plate& plate);
+
+    /// Goes to row `y`: all that follows is of this row.
+    void go(int y);
+    /// -0.3 to 1.
+    void alpha(float* to) const;
+    const float* r() const { return line(0); }
+    const float* g() const { return line(1); }
+    const float* b() const { return line(2); }
+    const float* plateR() const { return line(3); }
+    const float* plateG() const { return line(4); }
+    const float* plateB() const { return line(5); }
+
+  private:
+    const float* line(std::size_t i) const { return lines_.data() + i * static_cast<std::size_t>(shot_.width); }
+    float* line(std::size_t i) { return lines_.data() + i * static_cast<std::size_t>(shot_.width); }
+
+    const Shot& shot_;
+    float least_;
+    CellRows plate_;
+    std::vector<float> lines_;
+};
+
+}  // namespace tavrin::refine

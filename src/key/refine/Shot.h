@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/raster/Rows.h"
+
+namespace tavrin::refine {
+
+/// What the second look at the key goes by: the picture, and what the key made of it.
+struct Shot {
+    int width = 0, height = 0;             ///< at least 1
+    const std::uint8_t* pixels = nullptr;  ///< RGBA, rows packed
+    const std::uint8_t* key = nullptr;     ///< the key's alpha of each pixel, rows packed
+    bool blue = false;                     ///< the screen is blue
+
+    /// A length told for a picture of 5 megapixels, in pixels of this one; at least 1.
+    int px(double length) const;
+    const std::uint8_t* keyRow(int y) const { return key + std::int64_t{y} * width; }
+};
+
+/// The weights of the channels in the luma, in roles.
+struct LumaWeights {
+    float r, g, b;
+    explicit LumaWeights(bool blue) : r(0.299f), g(blue ? 0.114f : 0.587f), b(blue ? 0.587f : 0.114f) {}
+};
+
+/// The colours of row `y`, in roles, `width` numbers of 0 to 255 each.
+void loadColors(const Shot& shot, int y, float* r, float* g, float* b);
+/// The luma of row `y`, whole numbers of 0 to 255.
+void loadLuma(const Shot& shot, int y, float* luma);
+
+/// Runs `block(first, last)` for blocks of `blockRows` rows, always the same ones, so that what a block adds up does
+/// not depend on the threads. @return false when the run was superseded
+bool runBlocks(const RunContext& context, int rows, int blockRows, const std::function<void(int, int)>& block);
+
+}  // namespace tavrin::refine

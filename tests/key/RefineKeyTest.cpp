@@ -1,0 +1,239 @@
+// The second look at the key: on drawn pictures whose alpha is known.
+#include <cmath>
+#include <gtest/gtest.h>
+#include <random>
+
+#include "core/raster/Rows.h"
+#include "key/KeyScene.h"
+#include "key/refine/Cells.h"
+#include "key/refine/Mask.h"
+#include "key/refine/RefineKey.h"
+
+namespace tavrin {
+namespace {
+
+using test::KeyScene;
+using test::Pixel;
+
+constexpr int kWidth = 240, kHeight = 180;
+
+/// Share of a disc with a soft edge.
+double discAlpha(int x, int y) {
+    const double far = std::hypot(x - kWidth / 2 + 0.3, y - kHeight / 2 - 0.2);
+    return std::clamp((62.0 - far) / 4.0, 0.0, 1.0);
+}
+
+Pixel mixed(const Rgb& subject, const Rgb& screen, double alpha) {
+    const auto byte = [&](double s, double b) { return toByte(s * alpha + b * (1.0 - alpha) + 0.5); };
+    return {byte(subject.r, screen.r), byte(subject.g, screen.g), byte(subject.b, screen.b), 255};
+}
+
+/// A warm disc before a screen that grows darker to the right, with a little noise.
+struct DiscScene : KeyScene {
+    explicit DiscScene(bool blue = false) : KeyScene(kWidth, kHeight) {
+        std::mt19937 random(7);
+        info.bUseBlueLogic = blue;
+        for (int y = 0; y < kHeight; ++y) {
+            for (int x = 0; x < kWidth; ++x) {
+                const double light = 1.0 - 0.15 * x / kWidth, noise = static_cast<double>(random() % 5) - 2.0;
+                const Rgb screen{40.0 * light + noise, 200.0 * light + noise, 60.0 * light + noise};
+                Pixel& pixel = at(foreground, x, y) =
+                    mixed({170.0 + noise, 110.0 + noise, 90.0}, screen, discAlpha(x, y));
+                if (blue) std::swap(pixel[1], pixel[2]);
+            }
+        }
+    }
+
+    void key(bool refined) {
+        info.bRefineKey = refined;
+        Combine(info, 1, 1);
+    }
+    double alphaError() {
+        double sum = 0.0;
+        for (int y = 0; y < kHeight; ++y) {
+            for (int x = 0; x < kWidth; ++x)
+                sum += std::abs(alpha(x, y) / 255.0 - discAlpha(x, y));
+        }
+        return sum / (kWidth * kHeight);
+    }
+};
+
+TEST(RefineKey, IsNearerToTheTruthOnGreenAndOnBlue) {
+    for (const bool blue : {false, true}) {
+        DiscScene scene(blue);
+        scene.key(false);
+        const double plain = scene.alphaError();
+        scene.key(true);
+        EXPECT_LT(scene.alphaError(), 0.5 * plain) << blue;
+        EXPECT_LT(scene.alphaError(), 0.006) << blue;
+        EXPECT_EQ(scene.alpha(2, 2), 0);
+        EXPECT_EQ(scene.alpha(kWidth / 2, kHeight / 2), 255);
+        EXPECT_EQ(scene.at(scene.combined, 2, 2), (Pixel{90, 110, 70, 255}));
+        // No screen in what is left of the subject at its rim.
+        scene.info.bOutputTransparency = true;
+        scene.key(true);
+        const Pixel rim = scene.at(scene.combined, kWidth / 2 + 59, kHeight / 2);
+        EXPECT_NEAR(rim[0], 170, 25) << blue;
+        EXPECT_LT(rim[blue ? 2 : 1], 145) << blue;
+    }
+}
+
+TEST(RefineKey, GivesTheSameBytesForAnyNumberOfThreads) {
+    DiscScene one, many;
+    one.info.iSliderRefineSoftness = many.info.iSliderRefineSoftness = 30;
+    {
+        const ThreadLimit limit(1);
+        one.key(true);
+    }
+    const ThreadLimit limit(5);
+    many.key(true);
+    EXPECT_TRUE(one.combined == many.combined);
+    EXPECT_TRUE(one.background == many.background);
+}
+
+TEST(RefineKey, PreviewAndFullPictureOfOneSizeAreAlike) {
+    DiscScene full, preview;
+    full.key(true);
+    preview.info.bRefineKey = true;
+    Combine(preview.info, 1, 0);
+    EXPECT_TRUE(full.combined == preview.combined);
+}
+
+TEST(RefineKey, LeavesThePlainKeyWhereItHasNothingToGoBy) {
+    const Pixel screen{40, 200, 60, 255}, skin{220, 140, 110, 255};
+    const auto compare = [](KeyScene& scene, const char* what) {
+        Combine(scene.info, 1, 1);
+        const auto plain = scene.combined;
+        scene.info.bRefineKey = true;
+        Combine(scene.info, 1, 1);
+        EXPECT_TRUE(scene.combined == plain) << what;
+    };
+    KeyScene bare(64, 48, screen), covered(64, 48, skin);
+    compare(bare, "nothing but screen");
+    compare(covered, "no screen");
+    for (const auto& [width, height] : std::vector<std::pair<int, int>>{{1, 1}, {1, 9}, {9, 1}, {2, 2}, {5, 3}}) {
+        KeyScene tiny(width, height, screen);
+        tiny.at(tiny.foreground, width / 2, height / 2) = skin;
+        compare(tiny, "tiny");
+    }
+}
+
+TEST(RefineKey, WorksOnNarrowPicturesAndAtTheirEdges) {
+    for (const auto& [width, height] : std::vector<std::pair<int, int>>{{3, 400}, {400, 3}, {65, 63}, {1, 300}}) {
+        KeyScene scene(width, height);
+        // The lower right part is subject, up to the edges.
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < width; ++x) {
+                if (2 * x >= width - 1 && 2 * y >= height - 1)
+                    scene.at(scene.foreground, x, y) = {190, 120, 100, 255};
+            }
+        }
+        scene.info.bRefineKey = true;
+        Combine(scene.info, 1, 1);
+        EXPECT_EQ(scene.alpha(width - 1, height - 1), 255) << width;
+        EXPECT_EQ(scene.alpha(0, 0), 0) << width;
+    }
+}
+
+TEST(RefineKey, MarginsHaveTheLastWordAndViewsGoPast) {
+    DiscScene scene;
+    scene.info.iSliderClipLeft = 50;
+    scene.key(true);
+    EXPECT_EQ(scene.alpha(kWidth / 2 - 5, kHeight / 2), 0);
+    EXPECT_EQ(scene.alpha(kWidth / 2 + 5, kHeight / 2), 255);
+    const int soft = scene.alpha(kWidth / 2 + 60, kHeight / 2);
+    scene.info.iSliderClipLeft = 0;
+    scene.key(true);
+    EXPECT_EQ(scene.alpha(kWidth / 2 + 60, kHeight / 2), soft);
+
+    for (Field<bool>* view : {&scene.info.bShowOrgImage, &scene.sliders().bShowSelectedAreas}) {
+        *view = true;
+        scene.key(false);
+        const auto plain = scene.combined;
+        scene.key(true);
+        EXPECT_TRUE(scene.combined == plain);
+        *view = false;
+    }
+}
+
+TEST(RefineKey, EverySliderActs) {
+    DiscScene scene;
+    scene.key(true);
+    const auto neutral = scene.background;
+    const auto changes = [&](Field<std::int32_t>& slider, int value) {
+        const int before = slider;
+        slider = value;
+        scene.key(true);
+        slider = before;
+        return scene.background != neutral;
+    };
+    EXPECT_TRUE(changes(scene.info.iSliderRefineSoftness, -60));
+    EXPECT_TRUE(changes(scene.info.iSliderRefineSoftness, 60));
+    EXPECT_TRUE(changes(scene.sliders().sliderTransparentcyAdjustment, 110));
+    EXPECT_TRUE(changes(scene.sliders().sliderGreenTintAreas, 80));
+    EXPECT_FALSE(changes(scene.info.iSliderRefineSoftness, 0));
+}
+
+TEST(RefineKey, ANewerRequestEndsIt) {
+    DiscScene scene;
+    const auto before = scene.combined;
+    scene.info.iNewThreadCount = scene.info.iCurrentThreadCount + 1;
+    scene.key(true);
+    EXPECT_TRUE(scene.combined == before);
+}
+
+TEST(RefineMask, ShrinksAndGrowsBySquares) {
+    std::mt19937 random(3);
+    for (const auto& [width, height, r] :
+         std::vector<std::array<int, 3>>{{1, 1, 1}, {64, 5, 2}, {131, 40, 7}, {70, 9, 80}}) {
+        refine::Mask mask(width, height);
+        std::vector<std::uint8_t> flags(static_cast<std::size_t>(width) + 8);
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < width; ++x)
+                flags[static_cast<std::size_t>(x)] = random() % 60 != 0;
+            mask.pack(y, flags.data());
+        }
+        const refine::Mask shrunk = refine::shrunk({}, mask, r), grown = refine::grown({}, mask.inverted(), r);
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < width; ++x) {
+                bool all = true;
+                for (int j = std::max(y - r, 0); j <= std::min(y + r, height - 1); ++j) {
+                    for (int i = std::max(x - r, 0); i <= std::min(x + r, width - 1); ++i)
+                        all = all && mask.at(i, j);
+                }
+                ASSERT_EQ(shrunk.at(x, y), all) << x << ' ' << y;
+                ASSERT_EQ(grown.at(x, y), !all) << x << ' ' << y;
+            }
+        }
+    }
+}
+
+TEST(RefineCells, HolesTakeWhatLiesAroundAndRowsAreStraightLines) {
+    refine::Cells cells(20, 10, 2);
+    for (int y = 0; y < 10; ++y) {
+        for (int x = 0; x < 20; ++x) {
+            const bool known = x < 4 || x >= 16;
+            cells.row(y, 0)[x] = known ? (x < 4 ? 10.0f : 30.0f) : 0.0f;
+            cells.row(y, 1)[x] = known ? 1.0f : 0.0f;
+        }
+    }
+    const refine::Cells filled = refine::pushPull({}, cells);
+    EXPECT_FLOAT_EQ(filled.row(5, 0)[0], 10.0f);
+    EXPECT_FLOAT_EQ(filled.row(5, 0)[19], 30.0f);
+    for (int x = 1; x < 20; ++x)
+        EXPECT_GE(filled.row(5, 0)[x], filled.row(5, 0)[x - 1] - 0.01f);
+
+    refine::Cells ramp(5, 1, 1);
+    for (int x = 0; x < 5; ++x)
+        ramp.row(0, 0)[x] = static_cast<float>(x);
+    refine::CellRows rows(ramp, 3);
+    std::vector<float> row(14);
+    rows.fill(1, 0, 14, row.data());
+    EXPECT_FLOAT_EQ(row[0], 0.0f);
+    EXPECT_FLOAT_EQ(row[1], 0.0f);
+    EXPECT_NEAR(row[5], 4.0f / 3.0f, 1e-6);
+    EXPECT_FLOAT_EQ(row[13], 4.0f);
+}
+
+}  // namespace
+}  // namespace tavrin
