@@ -50,11 +50,11 @@ bool frame(SystemInfo& info, Framed& framed, bool& showsCut) {
     wantPlace(info, PlaceRule::subject);
     info.bSkipHiRes = true;
     CombineThread(info).runUntilIdle();
-    if (!info.whyNotFinished(0).empty()) return false;
+    if (!info.whyNotFinished(Resolution::preview).empty()) return false;
     BitmapInfo& foreground = *info.pForegroundBitmapInfo;
     framed.place = placeOf(foreground);
-    const LayerFit full = fitSource(info, foreground, 1);
-    const PassGeometry low = info.geometry(0);
+    const LayerFit full = fitSource(info, foreground, Resolution::full);
+    const PassGeometry low = info.geometry(Resolution::preview);
     const auto inPicture =
         findSubject(info.pBackgroundBitmapInfo->pBitmapDataLowRes, low.width, QRect(0, 0, low.width, low.height));
     const auto start = std::chrono::steady_clock::now();

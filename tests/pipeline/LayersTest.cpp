@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/image/ImageReader.h"
+#include "pipeline/LayerFit.h"
 #include "pipeline/Layers.h"
 #include "pipeline/OutputSize.h"
 #include "session/OutputSizes.h"

@@ -71,7 +71,10 @@ TEST_F(LoopJobsTest, AnEditRunsWithoutAPassAndShowsItsRowsAlone) {
     std::uint8_t* full = info_->pCombinedBitmapInfo->pBitmapData;
     loop_->edit([&]() -> Rows {
         std::fill_n(full + pixelOffset(240, 0, 40), pixelBytes(240, 3), std::uint8_t{77});
-        return {{1, 40, 43}, {0, -5, 2}, {1, 299, 400}, {1, 300, 310}};
+        return {{Resolution::full, 40, 43},
+                {Resolution::preview, -5, 2},
+                {Resolution::full, 299, 400},
+                {Resolution::full, 300, 310}};
     });
     EXPECT_EQ(loop_->iterate(), CombineThread::Turn::idle);
     ASSERT_EQ(view_.all.size(), 3u) << "no pass, and nothing for rows that are not there";
@@ -98,7 +101,7 @@ TEST_F(LoopJobsTest, APassAfterAnEditStartsFromWhatTheEditLeft) {
         BitmapInfo& portrait = *info_->pForegroundBitmapInfo;
         for (int x = 110; x < 130; ++x)
             portrait.pBitmapData[pixelOffset(240, x, 150)] = 90;
-        return {{1, 150, 151}};
+        return {{Resolution::full, 150, 151}};
     });
     info_->StartUpdate();
     loop_->runUntilIdle();
