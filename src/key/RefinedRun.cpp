@@ -39,14 +39,16 @@ void keepAlpha(const CombineParams& params, const std::uint8_t* alpha, std::size
 
 }  // namespace
 
-bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides, CombineParams& params) {
+bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
+               CombineParams& params) {
     const auto [width, height] = params.size;
     // What the margins cut away is screen and subject all the same.
     CombineParams whole = params;
     whole.key.clip = {};
     std::vector<std::uint8_t> alpha(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     const bool keyed = runRows(context, height, 4, [&](int y) {
-        keyAlphaRow(whole, overrides, y, alpha.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width));
+        keyAlphaRow(whole, overrides, y,
+                    alpha.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width));
     });
     if (!keyed) return false;
     const refine::Shot shot{width, height, params.foreground, alpha.data(), params.key.blueLogic};

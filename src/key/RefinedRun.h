@@ -10,6 +10,7 @@ namespace tavrin {
 /// subject's own colours and alpha, and `params.refined` tells so. Clip margins and guard play no part yet.
 /// Where there is too little screen or no subject to go by, the plain key stays.
 /// @return false when the run was superseded. Throws std::bad_alloc.
-bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides, CombineParams& params);
+bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
+               CombineParams& params);
 
 }  // namespace tavrin

@@ -201,8 +201,7 @@ bool drawFullLayer(const SystemInfo& info, BitmapInfo& record, const LayerFill& 
     if (!record.oBitmapRep) return true;
     BitmapContext& full = *record.oBitmapRep;
     if (!drawFill(full, fill, run)) return false;
-    return !isDrawable(record) ||
-           drawSource(info, record, placeOf(record), Resolution::full, fill, run);
+    return !isDrawable(record) || drawSource(info, record, placeOf(record), Resolution::full, fill, run);
 }
 
 void emptyFullLayer(BitmapInfo& record, const LayerFill& fill) {

@@ -53,7 +53,7 @@ class WarningsCliTest : public testing::Test {
 
 TEST_F(WarningsCliTest, StartsFromTheShippedStateTheDefaultsOrThoseOfTheAccount) {
     const QString anna = portrait("anna.png", QColor(70, 140, 60), QColor(90, 120, 80));
-    ASSERT_EQ(render(anna).code, 0);
+    ASSERT_EQ(render(anna, {"--place", "corner"}).code, 0);  // as a state places it
     const QImage shipped = made();
     ASSERT_EQ(render(anna, {"--state", QString(test::kSourceFolder) + "/data/Default.qlx"}).code, 0);
     EXPECT_EQ(made(), shipped);
@@ -72,7 +72,7 @@ TEST_F(WarningsCliTest, StartsFromTheShippedStateTheDefaultsOrThoseOfTheAccount)
 
     const QStringList batch = {"batch", "--foregrounds", anna,       "--backgrounds", background_,
                                "--out", file("batch"),   "--inches", "5x3",           "--dpi",
-                               "48",    "--type",        "png"};
+                               "48",    "--type",        "png",      "--place",       "corner"};
     ASSERT_EQ(test::runCli(batch).code, 0);
     EXPECT_EQ(QImage(file("batch/anna_bg.png")), shipped);
     const test::CliOutcome again = test::runCli(batch + QStringList{"--bare"});

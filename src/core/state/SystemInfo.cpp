@@ -101,8 +101,7 @@ void SystemInfo::publishEdited(Resolution resolution, int firstRow, int lastRow)
 
 /// Fills in the rows' pixels, where they are wanted, and hands them over.
 void SystemInfo::publish(PublishedRows rows, const RunContext& run) {
-    const PixelView picture =
-        pixels(*pCombinedBitmapInfo, rows.lowRes ? Resolution::preview : Resolution::full);
+    const PixelView picture = pixels(*pCombinedBitmapInfo, rows.lowRes ? Resolution::preview : Resolution::full);
     if (!pInterface || !picture.bytes || rows.rowCount < 1) return;
     if (pInterface->wantsPixels()) {
         rows.pixels = newPicture(picture.width, rows.rowCount, QImage::Format_RGBA8888);
