@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kHalf = 127;
 constexpr double kPartsThatCount = 1.0 / 4.0;
-constexpr double kSmallestSubject = 0.002;  // of the source's pixels
+constexpr double kSmallestSubject = 0.006;  // of the source's pixels; less is a blot on an empty screen
 
 /// A part of the subject: pixels that hang together.
 struct Part {

@@ -12,8 +12,9 @@ namespace tavrin {
 namespace {
 
 constexpr double kFootRoom = 0.04, kSideRoom = 0.04;
-constexpr double kLargest = 2.5;    // of a small subject, beside the fit
-constexpr double kToHide = 1.0045;  // for the whole thousandths and pixels of a place
+constexpr double kLargest = 2.5;       // of a small subject, beside the fit
+constexpr double kToHide = 1.0045;     // for the whole thousandths and pixels of a place
+constexpr double kLargestScale = 4.0;  // whatever is to be hidden
 
 /// The subject's extent, out to the source's edge where that cuts it, in fractions of the source from its top left.
 struct Extent {
@@ -121,7 +122,8 @@ LayerPlace placeOfWhole(const LayerFit& fit) {
 LayerPlace placeAround(const SubjectBounds& subject, const LayerFit& full, double headRoom) {
     const Extent extent(subject);
     LayerPlace place;
-    place.scale = std::ceil(chooseScale(subject, extent, full, headRoom) * 10000.0) / 10000.0;
+    const double scale = std::min(chooseScale(subject, extent, full, headRoom), kLargestScale);
+    place.scale = std::ceil(scale * 10000.0) / 10000.0;
     const double width = full.width * place.scale, height = full.height * place.scale;
     const double footRoom = subject.cutBottom ? 0.0 : kFootRoom;
     // From the lower end where there is room left above the head, from the head where the source's edges leave none.
