@@ -115,7 +115,7 @@ def leading_link(case):
     """A link in the folder of pictures leads to an original."""
     case.put_portraits(2)
     victim = case.put("original.png", case.bench.portraits[5])
-    (case.out / ("p0" + case.bench.background.stem + ".png")).symlink_to(victim)
+    (case.out / ("p0_" + case.bench.background.stem + ".png")).symlink_to(victim)
     case.freeze()
     done = case.run(*case.batch())
     case.want(done.code == 1, f"it ended with {done.code}")
