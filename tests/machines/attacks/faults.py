@@ -47,7 +47,8 @@ def unreadable(case):
         place.mkdir()
     place.chmod(0o555 if what in ("out folder", "temporary folder", "home") else 0)
     arguments = case.batch("--backgrounds", background)
-    del arguments[3:5]
+    at = arguments.index("--backgrounds")  # the first, which is that of all others
+    del arguments[at:at + 2]
     case.freeze()
     done = case.run(*arguments, shared_home=what != "home")
     count = len(case.people())
