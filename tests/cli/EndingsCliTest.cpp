@@ -120,7 +120,10 @@ TEST_F(EndingsCliTest, TheNextRunClearsWhatAKillLeftAndNothingOfTheLiving) {
 
     QProcess living;
     start(living, render("out/living.png"));
-    ASSERT_TRUE(test::waitUntil([&] { return !parts().empty() && parts()[0] != left; }));
+    ASSERT_TRUE(test::waitUntil([&] {
+        const std::vector<std::string> now = parts();
+        return !now.empty() && now[0] != left;
+    }));
     test::sendSignal(living, SIGSTOP);
     ASSERT_EQ(parts().size(), 1u);
     fs::last_write_time(folder_.file("out/" + parts()[0]), fs::file_time_type::clock::now() - std::chrono::hours(50));
