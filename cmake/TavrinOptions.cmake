@@ -14,8 +14,10 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 find_program(TAVRIN_CCACHE ccache)
 if(TAVRIN_CCACHE)
-  # What it has to overlook to keep results made with headers that were compiled once.
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${TAVRIN_CCACHE})
+  # What it has to overlook to keep results made with headers that were compiled once. A clone at another place takes
+  # what this one made.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros
+                                  CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${TAVRIN_CCACHE})
 endif()
 
 # tavrin_compile_once(TARGET HEADER...): headers of libraries that most of its files include are compiled once. A file
