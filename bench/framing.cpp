@@ -38,7 +38,7 @@ std::unique_ptr<SystemInfo> stateFor(const std::string& picture, const std::stri
     auto info = std::make_unique<SystemInfo>();
     if (!stateFile.empty() && !loadState(*info, stateFile).problem.empty()) return nullptr;
     chooseOwnSize(*info, "framing", size.dWidth, size.dHeight, size.dotsPerInch);
-    if (!useChosenSize(*info)) return nullptr;
+    if (!useChosenSize(*info).empty()) return nullptr;
     info->pForegroundBitmapInfo->sSourceImageFullPath = picture;
     info->pBackgroundBitmapInfo->sSourceImageFullPath = background;
     info->bUseBlueLogic = std::filesystem::path(picture).filename().string().find("blue") != std::string::npos;

@@ -115,9 +115,7 @@ Errors measure(const Scene& scene, const Variant& variant, const std::string& ba
     info->pBackgroundBitmapInfo->sSourceImageFullPath = background;
     const double width = scene.truth.width(), height = scene.truth.height();
     chooseOwnSize(*info, "scene", width / dpi, height / dpi, dpi);
-    if (!useChosenSize(*info)) {
-        throw std::runtime_error(scene.name + ": the picture's size cannot be used.");
-    }
+    if (const std::string size = useChosenSize(*info); !size.empty()) throw std::runtime_error(scene.name + ": " + size);
     CombineThread(*info).runUntilIdle();
 
     const BitmapInfo &foreground = *info->pForegroundBitmapInfo, &under = *info->pBackgroundBitmapInfo;

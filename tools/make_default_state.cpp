@@ -44,7 +44,7 @@ std::string writeDefaultState(const std::string& folder) {
     const std::string problem = loadImageSizes(sizes, folder + "ImageSize.xml", false);
     if (!problem.empty()) return problem;
     info.oImageSize = std::move(sizes);
-    if (!chooseSizeByName(info, "5x7 200 Vert") || !useChosenSize(info))
+    if (!chooseSizeByName(info, "5x7 200 Vert") || !useChosenSize(info).empty())
         return "The list lacks the size to start with.";
     chooseKey(info);
     chooseGuard(info);

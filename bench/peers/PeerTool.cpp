@@ -91,9 +91,7 @@ std::unique_ptr<SystemInfo> prepare(const KeyJob& job, QSize size) {
     info->pBackgroundBitmapInfo->sSourceImageFullPath = job.background;
     const double width = size.width(), height = size.height();
     chooseOwnSize(*info, "peers", width / kDpi, height / kDpi, kDpi);
-    if (!useChosenSize(*info)) {
-        throw std::runtime_error(job.foreground + ": the picture's size cannot be used.");
-    }
+    if (const std::string size = useChosenSize(*info); !size.empty()) throw std::runtime_error(job.foreground + ": " + size);
     CombineThread(*info).runUntilIdle();
     if (info->pForegroundBitmapInfo->orgImage.size() != size) {
         throw std::runtime_error(job.foreground + ": the picture was not read.");

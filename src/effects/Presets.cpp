@@ -55,13 +55,17 @@ constexpr Preset kShadows[] = {
 };
 
 constexpr Preset kReflections[] = {
-    {"none", "no reflection", [](SystemInfo& info) { info.bHaveReflection = false; }},
+    {"none", "no reflection",
+     [](SystemInfo& info) {
+         info.bHaveReflection = false;
+         info.bReflectAtSubject = false;
+     }},
     {"on", "as on calm water",
      [](SystemInfo& info) {
          info.bHaveReflection = true;
          info.iSliderReflectionScale = 75;
          info.iSliderReflectionSkew = 50;
-         info.iSliderReflectionSkewBase = kReflectAtSubject;
+         info.bReflectAtSubject = true;
          info.iSliderReflectionRippleHeight = 20;
          info.iSliderReflectionTransparency = 60;
      }},

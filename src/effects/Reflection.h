@@ -6,9 +6,6 @@
 
 namespace tavrin {
 
-/// As `iSliderReflectionSkewBase`: the line lies at the subject's lowest edge, which the preview's key tells.
-inline constexpr int kReflectAtSubject = -1;
-
 /// Mirrors the keyed subject below a base line, as on a polished floor or on water, with `oReflectionTexture` over
 /// it and a ripple along the line. All three buffers are RGBA of the run's size, rows packed. Below the line the
 /// combined picture becomes the adjusted background with the mirrored subject over it; alpha stays everywhere. A

@@ -43,6 +43,7 @@ std::string digestOfSettings(const SystemInfo& info) {
                 std::to_string(info.placeScale) + " " + std::to_string(info.iPlaceXMove) + " " +
                 std::to_string(info.iPlaceYMove) + "\n";
     }
+    if (info.bReflectAtSubject) text += "reflected at the subject\n";
     for (const auto& [name, value] : listFields(info)) {
         if (!isPlace(name)) text += name + "=" + value + "\n";
     }
@@ -131,10 +132,8 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     info->readSource = [&](const std::string& path) {
         return path == info->pForegroundBitmapInfo->sSourceImageFullPath.load() ? foreground : background;
     };
-    if (!useChosenSize(*info)) {
-        made.problem = "the output size cannot be used";
-        return made;
-    }
+    made.problem = useChosenSize(*info);
+    if (!made.problem.empty()) return made;
     CombineThread(*info).runUntilIdle();
     made.problem = info->whyNotFinished(Resolution::full);
     if (!made.problem.empty()) return made;

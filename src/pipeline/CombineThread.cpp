@@ -140,9 +140,9 @@ bool CombineThread::updateLayers() {
     if (info_.bChangeImageSize.exchange(false)) {
         keyedPreview_.release();
         keyedFull_.release();
-        if (!ChangeImageSize(info_)) {
+        if (const std::string problem = ChangeImageSize(info_); !problem.empty()) {
             info_.bChangeImageSize = true;  // until there is a size that can be used
-            info_.pictures.fail("the output size \"" + info_.sImageSizeName.load() + "\" cannot be used");
+            info_.pictures.fail(problem);
             return false;
         }
         placeForNewSize(info_);

@@ -68,15 +68,12 @@ std::string sizeProblem(const ImageSize& size) {
     return "";
 }
 
-bool ChangeImageSize(SystemInfo& info) {
+std::string ChangeImageSize(SystemInfo& info) {
     const std::optional<ImageSize> selected = selectedSize(info);
     const std::string problem =
         selected ? sizeProblem(*selected)
                  : "There is no output size number " + std::to_string(info.iSelecteImageSize) + " in the list.";
-    if (!problem.empty()) {
-        logError(problem);
-        return false;
-    }
+    if (!problem.empty()) return problem;
     const ImageSize& size = *selected;
     const Geometry full = fullGeometry(size), low = previewGeometry(size);
     info.dOutputImageWidthInInches = size.dWidth;
@@ -93,7 +90,7 @@ bool ChangeImageSize(SystemInfo& info) {
     }
     info.pForegroundBitmapInfo->bOrgFileChange = true;
     info.pBackgroundBitmapInfo->bOrgFileChange = true;
-    return true;
+    return "";
 }
 
 void ChangeOutputSize(SystemInfo& info, BitmapInfo& record) {

@@ -19,10 +19,8 @@ std::string sizeProblem(const ImageSize& size);
 
 /// Takes the size that is selected: works out both geometries, gives all three records new
 /// buffers, and asks for both sources to be loaded again. The preview holds about 300,000 pixels whatever the size.
-/// @return false, with a line on the standard error stream and nothing changed, when no such size is there or it
-/// makes
-///         no picture
-bool ChangeImageSize(SystemInfo& info);
+/// @return "" or why there is no such size or no picture of it, as one plain line; nothing is changed then
+std::string ChangeImageSize(SystemInfo& info);
 
 /// Gives one record buffers and contexts of the present geometry, with undefined contents, and the hair map its
 /// preview size. Says "Memory not allocated!" when memory is refused; the record then has no buffers.

@@ -134,7 +134,7 @@ void drawSketch(SystemInfo& info, Resolution resolution) {
 }
 
 void reflect(SystemInfo& info, Resolution resolution) {
-    if (info.iSliderReflectionSkewBase == kReflectAtSubject) {
+    if (info.bReflectAtSubject.exchange(false)) {
         const PassGeometry g = info.geometry(resolution);
         info.iSliderReflectionSkewBase =
             percentBelowSubject(info.pBackgroundBitmapInfo->bytes(resolution), g.width, g.height);

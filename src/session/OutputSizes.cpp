@@ -97,7 +97,7 @@ std::string chooseStoredSize(SystemInfo& info, const StoredSize& stored) {
     return "";
 }
 
-bool useChosenSize(SystemInfo& info) {
+std::string useChosenSize(SystemInfo& info) {
     info.bChangeImageSize = false;
     return ChangeImageSize(info);
 }

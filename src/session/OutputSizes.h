@@ -29,7 +29,7 @@ std::string chooseStoredSize(SystemInfo& info, const StoredSize& stored);
 
 /// Puts the chosen size into force at once (`ChangeImageSize`): for a state whose loop does not run yet, or that none
 /// serves.
-/// @return false when it makes no picture
-bool useChosenSize(SystemInfo& info);
+/// @return "" or why it makes no picture, as one plain line
+std::string useChosenSize(SystemInfo& info);
 
 }  // namespace tavrin

@@ -107,7 +107,7 @@ std::string startSystem(SystemInfo& info) {
     setForeground(info, standardizePath(info.oQLXInfo->sStartupFileForegroundPath));
     setBackground(info, standardizePath(info.oQLXInfo->sStartupFileBackgroundPath));
     selectUsableSize(info);
-    useChosenSize(info);
+    addLine(problems, useChosenSize(info));
     loadTextIcons(info);
     loadSketchPictures(info);
     info.bNewOutputSize = true;

@@ -32,7 +32,7 @@ class LayersTest : public testing::Test {
 
 TEST_F(LayersTest, SizesFollowTheList) {
     chooseOwnSize(*info_, "5x7 200 Vert", 5, 7, 200);
-    ASSERT_TRUE(ChangeImageSize(*info_));
+    ASSERT_EQ(ChangeImageSize(*info_), "");
     EXPECT_EQ(info_->iOutputPixelWidth, 1000);
     EXPECT_EQ(info_->iOutputPixelHeight, 1400);
     EXPECT_EQ(info_->iOutputImageLowResDPI, 92);
@@ -50,10 +50,10 @@ TEST_F(LayersTest, UnusableSizesLeaveTheOldOne) {
                                              {1e-9, 1e-9, 300},
                                              {std::nan(""), 7.0, 200}}) {
         chooseOwnSize(*info_, "bad", width, height, dpi);
-        EXPECT_FALSE(ChangeImageSize(*info_));
+        EXPECT_NE(ChangeImageSize(*info_).find("\"bad\""), std::string::npos);
     }
     info_->iSelecteImageSize = 99;
-    EXPECT_FALSE(ChangeImageSize(*info_));
+    EXPECT_NE(ChangeImageSize(*info_).find("99"), std::string::npos);
     EXPECT_EQ(info_->iOutputPixelWidth, 120);
     EXPECT_EQ(record().pBitmapData, old);
 }

@@ -24,7 +24,7 @@ TEST(OutputSizes, AChoiceBringsItsPageAndNewBuffersWhereTheOldAreOfAnotherSize) 
     EXPECT_EQ(info->oQLXInfo->iSelectedPrinterTemplate, 1);
     EXPECT_EQ(info->oQLXInfo->sSelectedPrinterTemplate.load(), "Small");
     EXPECT_EQ(info->iOutputPixelWidth, 60) << "until the loop takes it";
-    EXPECT_TRUE(useChosenSize(*info));
+    EXPECT_EQ(useChosenSize(*info), "");
     EXPECT_EQ(info->iOutputPixelWidth, 20);
     EXPECT_FALSE(choose([&] { return chooseSize(*info, 1); })) << "that is in force";
 

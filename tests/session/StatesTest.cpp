@@ -35,7 +35,7 @@ class StatesTest : public testing::Test {
         EXPECT_EQ(loaded.problem, "");
         problem_ = loaded.sizeProblem;
         if (!problem_.empty()) return "";
-        EXPECT_TRUE(useChosenSize(*info_));
+        EXPECT_EQ(useChosenSize(*info_), "");
         return std::to_string(info_->iOutputPixelWidth) + "x" + std::to_string(info_->iOutputPixelHeight) + " " +
                std::to_string(info_->iSelecteImageSize);
     }
@@ -69,7 +69,7 @@ TEST_F(StatesTest, OwnSizesEnterNoListAndComeBack) {
         ASSERT_NE(sizeAfter(stateOf("mine", 52, 1.0 / 3.0, 0.5, dpi)), "");
     EXPECT_EQ(info_->iImageSizeCount(), 4);
     ASSERT_EQ(saveImageStateToXML(*info_, folder_.file("own.qlx")), "");
-    ASSERT_TRUE(chooseSizeByName(*info_, "test") && useChosenSize(*info_));
+    ASSERT_TRUE(chooseSizeByName(*info_, "test") && useChosenSize(*info_).empty());
     EXPECT_TRUE(asksForSize(folder_.file("own.qlx")));
     EXPECT_EQ(sizeAfter(folder_.file("own.qlx")), "83x125 -1");
     EXPECT_FALSE(asksForSize(folder_.file("own.qlx")));

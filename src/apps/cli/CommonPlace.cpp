@@ -17,7 +17,7 @@ constexpr std::size_t kEnough = 50;
 std::optional<LayerPlace> placeOfJob(const PictureMaker& maker, const BatchJob& job) {
     std::string ignored;
     const auto info = maker.prepare(job, ignored);
-    if (!info || !useChosenSize(*info)) return std::nullopt;
+    if (!info || !useChosenSize(*info).empty()) return std::nullopt;
     BitmapInfo& foreground = *info->pForegroundBitmapInfo;
     ReadPicture picture = readPicture(job.foreground);
     if (!picture.error.empty() || !ChangeOrgBitmap(*info, foreground, std::move(picture))) return std::nullopt;

@@ -59,19 +59,19 @@ void applyOverlays(SystemInfo& info, const PictureOptions& options) {
     use("FrameOverlay", options.frameOverlay);
 }
 
-/// Whether the command line sets this field of this label.
-bool sets(const PictureOptions& options, std::size_t label, const char* field) {
-    const std::string start = "label" + std::to_string(label) + "." + field + "=";
+/// Whether `--set` names this setting.
+bool sets(const PictureOptions& options, const std::string& name) {
     return std::any_of(options.set.begin(), options.set.end(),
-                       [&](const std::string& assignment) { return assignment.starts_with(start); });
+                       [&](const std::string& assignment) { return assignment.starts_with(name + "="); });
 }
 
 /// A size or a colour that was given by its name gives the label its points or its fill. All else stays: a state file
 /// may have styled the label in another way.
 void applyLabelNames(SystemInfo& info, const PictureOptions& options) {
     for (std::size_t i = 0; i < info.oFontLabelObject.size(); ++i) {
-        if (sets(options, i, "sLabelSize")) useLabelSize(info.oFontLabelObject[i]);
-        if (sets(options, i, "sFontColor")) useLabelColor(info.oFontLabelObject[i]);
+        const std::string label = "label" + std::to_string(i);
+        if (sets(options, label + ".sLabelSize")) useLabelSize(info.oFontLabelObject[i]);
+        if (sets(options, label + ".sFontColor")) useLabelColor(info.oFontLabelObject[i]);
     }
 }
 
@@ -84,6 +84,7 @@ std::string applySettings(SystemInfo& info, const PictureOptions& options) {
     applyOverlays(info, options);
     problem = applyAssignments(info, options.set);
     if (!problem.empty()) return problem;
+    if (sets(options, "iSliderReflectionSkewBase")) info.bReflectAtSubject = false;
     applyLabelNames(info, options);
     return applyAssignments(info, options.set);  // a number that was given beside a name wins
 }
@@ -91,8 +92,7 @@ std::string applySettings(SystemInfo& info, const PictureOptions& options) {
 }  // namespace
 
 bool PictureOptions::choosesScreen() const {
-    const auto setsScreen = [](const std::string& assignment) { return assignment.starts_with("bUseBlueLogic="); };
-    if (key.screen.empty()) return !start.bare && std::none_of(set.begin(), set.end(), setsScreen);
+    if (key.screen.empty()) return !start.bare && !sets(*this, "bUseBlueLogic");
     return key.screen == "auto";
 }
 

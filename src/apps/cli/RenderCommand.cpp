@@ -104,7 +104,7 @@ Refusal prepare(SystemInfo& info, const RenderOptions& options) {
     const std::string left = options.picture.effects.leftOut(options.fast, options.preview);
     if (!left.empty()) return {kUsage, left};
     if (Refusal refusal = applyPictureOptions(info, options.picture, loaded); refusal.code != kDone) return refusal;
-    if (!useChosenSize(info)) return {kUsage, "The output size cannot be used."};
+    if (const std::string problem = useChosenSize(info); !problem.empty()) return {kUsage, problem};
     if (const std::string problem = textProblem(info); !problem.empty()) return {kFailed, problem};
     info.bSkipHiRes = options.preview;
     return checkOutputs(info, options);

@@ -20,13 +20,15 @@ struct LayerPlace {
     bool operator==(const LayerPlace&) const = default;
 };
 
-/// A place for the portrait that the loop works out once it has the source and the size. It writes the place into the
-/// foreground's record, where it is a setting like any other, and no wish is left.
+/// Places that depend on the subject, which the loop works out once it has the source and the size. It writes the
+/// portrait's into the foreground's record and the reflection's into `iSliderReflectionSkewBase`, where they are
+/// settings like any other, and no wish is left.
 struct PlaceState {
     Field<bool> bPlaceForeground = false;  ///< request to the loop
     Field<PlaceRule> placeRule = PlaceRule::corner;
     Field<double> placeScale = 1.0;                        ///< beside the rule: larger by this factor
     Field<std::int32_t> iPlaceXMove = 0, iPlaceYMove = 0;  ///< and moved by thousandths, right and up
+    Field<bool> bReflectAtSubject = false;  ///< request to the loop: reflect at the subject's lowest edge
     LayerPlace placedLast;  ///< what the program wrote last; not a person's, nor a state's
 };
 

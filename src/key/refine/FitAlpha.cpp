@@ -90,11 +90,6 @@ std::array<double, kSums> overallMeans(const Cells& cells) {
     return means;
 }
 
-float smoothStep(float value, float low, float high) {
-    const float t = std::clamp((value - low) / (high - low), 0.0f, 1.0f);
-    return t * t * (3.0f - 2.0f * t);
-}
-
 }  // namespace
 
 Separation separate(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& sure) {

@@ -19,11 +19,6 @@ constexpr double kFewCells = 20.0;
 constexpr float kMostOwn = 0.45f;  // of the screen's difference
 constexpr int kGrownRows = 64;
 
-float smoothStep(float value, float low, float high) {
-    const float t = std::clamp((value - low) / (high - low), 0.0f, 1.0f);
-    return t * t * (3.0f - 2.0f * t);
-}
-
 // Means over the deep inside of how far the screen's channel is above the mean of the others.
 Cells ownGreen(const RunContext& context, const Findings& findings) {
     const Shot& shot = findings.shot;

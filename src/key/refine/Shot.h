@@ -18,6 +18,12 @@ struct Shot {
     const std::uint8_t* keyRow(int y) const { return key + std::int64_t{y} * width; }
 };
 
+/// 0 up to `low`, 1 from `high`, and a smooth way between.
+inline float smoothStep(float value, float low, float high) {
+    const float t = std::clamp((value - low) / (high - low), 0.0f, 1.0f);
+    return t * t * (3.0f - 2.0f * t);
+}
+
 /// The weights of the channels in the luma, in roles.
 struct LumaWeights {
     float r, g, b;
