@@ -7,6 +7,7 @@
 #include "apps/cli/EffectOptions.h"
 #include "apps/cli/KeyOptions.h"
 #include "apps/cli/PlaceOptions.h"
+#include "apps/cli/Refusal.h"
 #include "apps/cli/StartOptions.h"
 
 namespace tavrin::cli {
@@ -27,12 +28,6 @@ struct PictureOptions {
 
     /// Whether the portrait may say which screen it has, since nobody else did.
     bool choosesScreen() const;
-};
-
-/// Why a command cannot be carried out as it was given; `code` is the exit code.
-struct Refusal {
-    int code = 0;
-    std::string line;
 };
 
 /// Tells of numbers that were set beyond their settings' bounds.

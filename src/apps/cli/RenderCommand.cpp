@@ -15,6 +15,7 @@
 #include "apps/cli/Console.h"
 #include "apps/cli/Output.h"
 #include "apps/cli/PictureOptions.h"
+#include "apps/cli/Refusal.h"
 #include "apps/cli/Streams.h"
 #include "apps/cli/Usage.h"
 #include "core/files/AtomicFile.h"
@@ -54,14 +55,6 @@ Refusal applySources(SystemInfo& info, const RenderOptions& options) {
     if (!options.background.empty()) setBackground(info, options.background);
     if (info.pForegroundBitmapInfo->sSourceImageFullPath.empty()) return {kUsage, "--foreground is missing."};
     if (info.pBackgroundBitmapInfo->sSourceImageFullPath.empty()) return {kUsage, "--background is missing."};
-    return {};
-}
-
-Refusal checkTarget(const std::string& path) {
-    const fs::path folder = fs::absolute(path).parent_path();
-    std::error_code ignored;
-    if (!fs::is_directory(folder, ignored)) return {kFailed, path + ": there is no folder " + folder.string() + "."};
-    if (fs::is_directory(path, ignored)) return {kFailed, path + ": that is a folder."};
     return {};
 }
 

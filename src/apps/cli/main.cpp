@@ -12,6 +12,7 @@
 #include "apps/cli/InfoCommand.h"
 #include "apps/cli/ListCommands.h"
 #include "apps/cli/Output.h"
+#include "apps/cli/PrintCommand.h"
 #include "apps/cli/RenderCommand.h"
 #include "apps/cli/StateCommand.h"
 #include "apps/cli/Usage.h"
@@ -72,6 +73,7 @@ int main(int argc, char** argv) {
     cli::addRenderCommand(app, result);
     cli::addBatchCommand(app, result);
     cli::addReportCommand(app, result);
+    cli::addPrintCommand(app, result);
     cli::addInfoCommand(app, result);
     cli::addStateCommand(app, result);
     cli::addListCommands(app, result);
@@ -79,8 +81,10 @@ int main(int argc, char** argv) {
     cli::addCompletionCommand(app, result);
     addCommonOptions(app);
     std::unique_ptr<QCoreApplication> application;
-    app.parse_complete_callback(
-        [&] { application = startLibraries(app.got_subcommand("render") || app.got_subcommand("batch")); });
+    app.parse_complete_callback([&] {
+        const bool draws = app.got_subcommand("render") || app.got_subcommand("batch") || app.got_subcommand("print");
+        application = startLibraries(draws);
+    });
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -1,0 +1,65 @@
+#include "delivery/PrintSheet.h"
+
+#include <algorithm>
+
+#include "core/image/ImageWriter.h"
+#include "core/raster/BitmapContext.h"
+#include "core/state/SystemInfo.h"
+#include "pipeline/SaveImage.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr double kRightAngle = 1.5707963267948966;
+
+void drawSlot(BitmapContext& sheet, const SheetSlot& slot, const QImage& picture, SlotFit fit) {
+    const QRect part = partFor(picture.size(), slot.frame(), fit).toAlignedRect().intersected(picture.rect());
+    const QImage seen = part == picture.rect() ? picture : picture.copy(part);
+    sheet.saveState();
+    sheet.translate(slot.area.x(), slot.area.y() + (slot.turned ? slot.area.height() : 0.0));
+    if (slot.turned) sheet.rotate(-kRightAngle);
+    sheet.drawImage(seen, placeIn(slot.frame(), seen.size(), fit));
+    sheet.restoreState();
+}
+
+void drawMarks(BitmapContext& sheet, const std::vector<SheetSlot>& places, int dpi) {
+    for (const SheetSlot& slot : places) {
+        for (const QRectF& mark : cutMarks(slot, dpi))
+            sheet.fillRect(mark, 0.0, 0.0, 0.0, 1.0);
+    }
+}
+
+void mirror(PixelView sheet) {
+    for (int y = 0; y < sheet.height; ++y) {
+        auto* row = reinterpret_cast<std::uint32_t*>(sheet.at(0, y));
+        std::reverse(row, row + sheet.width);
+    }
+}
+
+}  // namespace
+
+void drawSheet(SystemInfo& info, const QImage& picture, double proportion, const SheetLook& look) {
+    const std::int32_t index = info.iCurrentTemplateIndex;
+    if (!info.oBitmapTemplateRep || index < 0 || index >= info.iPrinterPageCount()) return;
+    BitmapContext& sheet = *info.oBitmapTemplateRep;
+    const std::vector<SheetSlot> places =
+        slotsOf(info.oPrinterPages[static_cast<std::size_t>(index)], info.iTemplateImageDPI, proportion);
+    sheet.fillRect(QRectF(0, 0, sheet.width(), sheet.height()), kSheetGround, kSheetGround, kSheetGround, 1.0);
+    if (look.cutMarks) drawMarks(sheet, places, info.iTemplateImageDPI);
+    for (const SheetSlot& slot : places)
+        drawSlot(sheet, slot, picture, look.fit);
+    if (look.mirrored) mirror({info.pBitmapTemplateData, sheet.width(), sheet.height()});
+}
+
+std::string writeSheet(const SystemInfo& info, const std::string& path) {
+    if (!info.pBitmapTemplateData) return "There is no print sheet.";
+    return writePicture(path, {info.pBitmapTemplateData,
+                               info.iTemplatePixelWidth,
+                               info.iTemplatePixelHeight,
+                               fileTypeForPath(path),
+                               info.iTemplateImageDPI,
+                               {}});
+}
+
+}  // namespace tavrin

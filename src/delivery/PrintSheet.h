@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include <QImage>
+
+#include "delivery/SheetLayout.h"
+
+namespace tavrin {
+
+class SystemInfo;
+
+/// Draws one picture into every slot of the sheet that `ChangeTemplateBitmap` made for page `iCurrentTemplateIndex`;
+/// the rest of the sheet becomes grey. Whether it is turned follows from `proportion`, the width of the output
+/// divided by its height. Without a sheet nothing is drawn.
+/// @param picture opaque, or RGBA with premultiplied alpha
+void drawSheet(SystemInfo& info, const QImage& picture, double proportion, const SheetLook& look = {});
+
+/// Writes the sheet of the state as it stands to a PNG, JPEG or TIFF file.
+/// @return "" or one plain line
+std::string writeSheet(const SystemInfo& info, const std::string& path);
+
+}  // namespace tavrin
