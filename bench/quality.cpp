@@ -115,7 +115,8 @@ Errors measure(const Scene& scene, const Variant& variant, const std::string& ba
     info->pBackgroundBitmapInfo->sSourceImageFullPath = background;
     const double width = scene.truth.width(), height = scene.truth.height();
     chooseOwnSize(*info, "scene", width / dpi, height / dpi, dpi);
-    if (const std::string size = useChosenSize(*info); !size.empty()) throw std::runtime_error(scene.name + ": " + size);
+    if (const std::string size = useChosenSize(*info); !size.empty())
+        throw std::runtime_error(scene.name + ": " + size);
     CombineThread(*info).runUntilIdle();
 
     const BitmapInfo &foreground = *info->pForegroundBitmapInfo, &under = *info->pBackgroundBitmapInfo;

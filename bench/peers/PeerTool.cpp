@@ -91,7 +91,8 @@ std::unique_ptr<SystemInfo> prepare(const KeyJob& job, QSize size) {
     info->pBackgroundBitmapInfo->sSourceImageFullPath = job.background;
     const double width = size.width(), height = size.height();
     chooseOwnSize(*info, "peers", width / kDpi, height / kDpi, kDpi);
-    if (const std::string size = useChosenSize(*info); !size.empty()) throw std::runtime_error(job.foreground + ": " + size);
+    if (const std::string size = useChosenSize(*info); !size.empty())
+        throw std::runtime_error(job.foreground + ": " + size);
     CombineThread(*info).runUntilIdle();
     if (info->pForegroundBitmapInfo->orgImage.size() != size) {
         throw std::runtime_error(job.foreground + ": the picture was not read.");

@@ -99,9 +99,8 @@ void ChangeOutputSize(SystemInfo& info, BitmapInfo& record) {
     info.hairDetectPixels = PixelBuffer();
     info.hairDetectPixels = PixelBuffer(lowWidth, lowHeight);
     info.pHairDetectBitmap = info.hairDetectPixels.data();
-    const bool allocated =
-        record.allocateBuffers(info.iOutputPixelWidth, info.iOutputPixelHeight, lowWidth, lowHeight);
-    if (!allocated || !info.pHairDetectBitmap) logError("Memory not allocated!");
+    record.allocateBuffers(info.iOutputPixelWidth, info.iOutputPixelHeight, lowWidth, lowHeight);
+    if (!record.pBitmapData || !info.pHairDetectBitmap) logError("Memory not allocated!");
 }
 
 void ChangeTemplateBitmap(SystemInfo& info, int page) {

@@ -22,20 +22,26 @@ namespace tavrin {
 namespace {
 
 /// Works with folders of this process, which go away with it.
-bool useOwnFolders(Places& places) {
-    if (!places.usePrivateTempFiles()) return false;
+/// @return "" or why there are none
+std::string useOwnFolders(Places& places) {
+    const std::string problem = places.usePrivateTempFiles();
+    if (!problem.empty()) return problem;
     places.setSharedFolder(places.tempFilesFolder() + "Tavrin/");
     places.setPicturesFolder(places.tempFilesFolder() + "Pictures/");
-    return true;
+    return "";
 }
 
 /// Puts what is missing into the account. Where that has no settings and takes none, the program works all the same.
 std::string prepareAccount() {
     Places& places = Places::current();
     std::string problems = installMissingFiles();
-    if (problems.empty() || safeFileExists(places.settingsFile()) || !useOwnFolders(places)) return problems;
-    addLine(problems, "Until it ends the program works in a temporary folder; no settings are kept.");
-    addLine(problems, installMissingFiles());
+    if (problems.empty() || safeFileExists(places.settingsFile())) return problems;
+    if (const std::string none = useOwnFolders(places); !none.empty()) {
+        addLine(problems, none);
+    } else {
+        addLine(problems, "Until it ends the program works in a temporary folder; no settings are kept.");
+        addLine(problems, installMissingFiles());
+    }
     return problems;
 }
 
@@ -119,12 +125,10 @@ std::string startSystem(SystemInfo& info) {
 void startCommandLine(SystemInfo& info) {
     const Interruption::Hold hold;  // or the folder would be filled while it is removed
     Places& places = Places::current();
-    if (safeFileExists(places.imageSizeFile())) {
-        places.usePrivateTempFiles();
-    } else {
-        useOwnFolders(places);
-    }
-    if (const std::string problems = loadLists(info); !problems.empty()) logError(problems);
+    std::string problems =
+        safeFileExists(places.imageSizeFile()) ? places.usePrivateTempFiles() : useOwnFolders(places);
+    addLine(problems, loadLists(info));
+    if (!problems.empty()) logError(problems);
 }
 
 void startLike(SystemInfo& info, const SystemInfo& other) {

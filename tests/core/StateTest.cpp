@@ -46,8 +46,9 @@ TEST(State, SettingNamesAreUniqueAndStatesShareNothing) {
     for (const auto& leaf : Settings::leaves())
         EXPECT_TRUE(keys.insert(leaf.key).second) << leaf.key;
     SystemInfo one, two;
-    ASSERT_TRUE(one.pForegroundBitmapInfo->allocateBuffers(4, 3, 2, 1));
-    ASSERT_TRUE(two.pForegroundBitmapInfo->allocateBuffers(4, 3, 2, 1));
+    one.pForegroundBitmapInfo->allocateBuffers(4, 3, 2, 1);
+    two.pForegroundBitmapInfo->allocateBuffers(4, 3, 2, 1);
+    ASSERT_TRUE(one.pForegroundBitmapInfo->pBitmapData);
     EXPECT_NE(one.pForegroundBitmapInfo->pBitmapData, two.pForegroundBitmapInfo->pBitmapData);
 }
 

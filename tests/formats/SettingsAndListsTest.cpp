@@ -274,13 +274,23 @@ TEST_F(InstallationTest, PrivateTemporaryFolderGoesWithItsOwner) {
     {
         Places places;
         const std::string shared = places.tempFilesFolder();
-        ASSERT_TRUE(places.usePrivateTempFiles());
+        ASSERT_EQ(places.usePrivateTempFiles(), "");
         mine = places.tempFilesFolder();
         EXPECT_NE(mine, shared);
         writeFile(mine + "x", "x");
         EXPECT_EQ(modeOf(mine), 0700U);
     }
     EXPECT_FALSE(fs::exists(mine));
+}
+
+TEST_F(InstallationTest, WithoutRoomForTemporaryFilesTheReasonIsToldAndTheSharedFolderStays) {
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc/nowhere");
+    Places places;
+    const std::string shared = places.tempFilesFolder();
+    EXPECT_THAT(places.usePrivateTempFiles(), HasSubstr("TMPDIR"));
+    EXPECT_EQ(places.tempFilesFolder(), shared);
+    qputenv("TMPDIR", before);
 }
 
 }  // namespace

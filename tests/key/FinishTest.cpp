@@ -70,7 +70,7 @@ template <class Change>
 ToneConstants tone(ToneLayer layer, Change change) {
     BitmapInfo record;
     change(record);
-    return makeTone(record, layer, nullptr, 1, 1);
+    return makeTone(record, layer, {nullptr, 1, 1});
 }
 
 TEST(Tone, NeutralBackgroundPassesByteForByte) {
@@ -132,7 +132,7 @@ TEST(Tone, SharpenComparesWithTheNeighboursInThePicture) {
     }
     BitmapInfo record;
     record.iBrightnessSharpen = 25;
-    const ToneConstants t = makeTone(record, ToneLayer::kForeground, pixels.front().data(), 6, 6);
+    const ToneConstants t = makeTone(record, ToneLayer::kForeground, {pixels.front().data(), 6, 6});
     Rgb corner{200.0, 180.0, 180.0};
     adjustTone(t, corner, 0, 0, 1.0);
     expectNear(corner, 225.0, 190.0, 185.0);  // eight neighbours, all alike
@@ -153,7 +153,7 @@ TEST(Tone, NeighbourSumsAreSumsOverTheBlockWithoutItsCentre) {
         const int x = width / 3, count = std::min(width - x, 100);
         for (int y = 0; y < height; ++y) {
             NeighbourSums around;
-            sumNeighbours(pixels.front().data(), width, height, x, y, count, around);
+            sumNeighbours({pixels.front().data(), width, height}, x, y, count, around);
             for (int i = 0; i < count; ++i) {
                 int sums[4] = {};
                 for (int row = std::max(y - 2, 0); row <= std::min(y + 2, height - 1); ++row) {

@@ -212,7 +212,7 @@ TEST(Lanes, TheBackgroundsCurveIsThatOfItsChain) {
         scene.background[0] = {0, 0, 0, 255};
         BitmapInfo& back = *scene.info.pBackgroundBitmapInfo;
         set(back);
-        const ToneConstants tone = makeTone(back, ToneLayer::kBackground, back.pBitmapData, 64, 64);
+        const ToneConstants tone = makeTone(back, ToneLayer::kBackground, {back.pBitmapData, 64, 64});
         std::vector<Pixel> plain;
         for (const Pixel& p : scene.background) {
             Rgb c{clampTo(p[0] + back.iRedDelta, 0.0, 255.0), clampTo(p[1] + back.iGreenDelta, 0.0, 255.0),

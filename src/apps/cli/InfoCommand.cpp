@@ -65,7 +65,12 @@ QJsonObject describe(const std::string& name, const PictureFacts& facts) {
 
 /// All files that can be read are told; the others make it a failure.
 int info(const std::vector<std::string>& names, bool json) {
-    if (std::find(names.begin(), names.end(), kStream) != names.end()) Places::current().usePrivateTempFiles();
+    if (std::find(names.begin(), names.end(), kStream) != names.end()) {
+        if (const std::string problem = Places::current().usePrivateTempFiles(); !problem.empty()) {
+            complain(problem);
+            return kFailed;
+        }
+    }
     QJsonArray all;
     int result = kDone;
     for (const std::string& name : names) {

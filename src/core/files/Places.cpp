@@ -2,7 +2,6 @@
 
 #include <filesystem>
 
-#include <QDir>
 #include <QStandardPaths>
 
 #include "core/files/AtomicFile.h"
@@ -50,14 +49,17 @@ void Places::setPicturesFolder(const std::string& folder) {
     pictures_ = withSlash(folder);
 }
 
-bool Places::usePrivateTempFiles() {
-    const std::string place = QDir::tempPath().toStdString();
+std::string Places::usePrivateTempFiles() {
+    // Asked for one that is not there, QDir would name the root of the disk.
+    std::error_code failed;
+    const std::string place = std::filesystem::temp_directory_path(failed).string();
+    if (failed) return "There is no folder for temporary files (TMPDIR).";
     PrivateFolder::removeAbandoned(place);
     auto folder = std::make_unique<PrivateFolder>(place);
-    if (folder->path().empty()) return false;
+    if (folder->path().empty()) return "No folder for temporary files can be made in " + place + ".";
     privateTempFiles_ = std::move(folder);
     tempFiles_ = withSlash(privateTempFiles_->path());
-    return true;
+    return "";
 }
 
 std::string Places::createFolders() const {

@@ -41,8 +41,8 @@ class Places {
 
     /// Keeps temporary files in a new folder of this process, which goes away with it, so that a second program never
     /// clears or reads those of the first. Folders of programs that were killed on this machine are removed first.
-    /// @return false when no such folder can be made; the shared one stays in use then
-    bool usePrivateTempFiles();
+    /// @return "" or one line that says why there is none; the shared one stays in use then
+    std::string usePrivateTempFiles();
 
     /// Makes the folders that are missing.
     /// @return "" or one line that names the folder that cannot be made

@@ -67,7 +67,8 @@ bool readRows(Decoder& decoder, const UprightPixels& pixels) {
         if (pixels.rowInPlace(0)) continue;
         // The rows of a strip lie one after the other, as far apart as the library likes.
         const std::ptrdiff_t step = rows > 1 ? strip[1] - strip[0] : line;
-        pixels.place<4>(strip[0], kPixelBytes, step, 0, static_cast<int>(top), width, static_cast<int>(rows));
+        pixels.place<4>({strip[0], kPixelBytes, step},
+                        QRect(0, static_cast<int>(top), width, static_cast<int>(rows)));
     }
     jpeg_finish_decompress(&codec);
     return decoder.isClean();

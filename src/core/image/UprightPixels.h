@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include <QImage>
+#include <QRect>
 
 namespace tavrin {
 
@@ -27,20 +28,26 @@ class UprightPixels {
     /// Where a stored row of four bytes a pixel may be written as it is; null when it would not lie in one piece.
     std::uint8_t* rowInPlace(int y) const { return stepX_ == 4 ? first_ + y * stepY_ : nullptr; }
 
-    /// Stored pixels of `Bands` channels (grey, grey and alpha, RGB, RGBA), `pel` bytes from one to the next and
-    /// `line` bytes from row to row, whose first one stands at (left, top) of the stored picture.
+    /// Stored pixels: the first of them, and the bytes from one to the next and from row to row.
+    struct Stored {
+        const std::uint8_t* first;
+        std::ptrdiff_t pel, line;
+    };
+
+    /// Lays pixels of `Bands` channels (grey, grey and alpha, RGB, RGBA) where they belong that fill `area` of the
+    /// stored picture.
     template <int Bands>
-    void place(const std::uint8_t* from, std::ptrdiff_t pel, std::ptrdiff_t line, int left, int top, int width,
-               int height) const {
-        std::uint8_t* to = first_ + left * stepX_ + top * stepY_;
+    void place(const Stored& from, const QRect& area) const {
+        const int width = area.width(), height = area.height();
+        std::uint8_t* to = first_ + area.left() * stepX_ + area.top() * stepY_;
         // The inner loop runs along the rows of the result, so that a turned picture is not written byte by byte
         // all over its memory.
         const bool turned = stepY_ == 4 || stepY_ == -4;
         const int outer = turned ? width : height, inner = turned ? height : width;
-        const std::ptrdiff_t fromOuter = turned ? pel : line, fromInner = turned ? line : pel;
+        const std::ptrdiff_t fromOuter = turned ? from.pel : from.line, fromInner = turned ? from.line : from.pel;
         const std::ptrdiff_t toOuter = turned ? stepX_ : stepY_, toInner = turned ? stepY_ : stepX_;
         for (int o = 0; o < outer; ++o) {
-            const std::uint8_t* in = from + o * fromOuter;
+            const std::uint8_t* in = from.first + o * fromOuter;
             std::uint8_t* out = to + o * toOuter;
             if (fromInner == Bands && toInner == 4) {  // as most pictures are, and faster with constant steps
                 for (int i = 0; i < inner; ++i)

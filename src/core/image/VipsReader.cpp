@@ -125,10 +125,10 @@ struct RowSink {
 
     template <int Bands>
     void place(VipsRegion* region, const VipsRect& area) const {
-        pixels.place<Bands>(VIPS_REGION_ADDR(region, area.left, area.top),
-                            static_cast<std::ptrdiff_t>(VIPS_IMAGE_SIZEOF_PEL(region->im)),
-                            static_cast<std::ptrdiff_t>(VIPS_REGION_LSKIP(region)), area.left, area.top, area.width,
-                            area.height);
+        pixels.place<Bands>({VIPS_REGION_ADDR(region, area.left, area.top),
+                             static_cast<std::ptrdiff_t>(VIPS_IMAGE_SIZEOF_PEL(region->im)),
+                             static_cast<std::ptrdiff_t>(VIPS_REGION_LSKIP(region))},
+                            QRect(area.left, area.top, area.width, area.height));
     }
 };
 

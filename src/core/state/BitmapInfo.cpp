@@ -23,7 +23,7 @@ void BitmapInfo::setSourceImageFullPath(const std::string& path) {
     logTrace("Path file inside " + path + ".");
 }
 
-bool BitmapInfo::allocateBuffers(int fullWidth, int fullHeight, int lowWidth, int lowHeight) {
+void BitmapInfo::allocateBuffers(int fullWidth, int fullHeight, int lowWidth, int lowHeight) {
     oBitmapRep.reset();
     oBitmapRepLowRes.reset();
     fullPixels_ = PixelBuffer();
@@ -36,11 +36,10 @@ bool BitmapInfo::allocateBuffers(int fullWidth, int fullHeight, int lowWidth, in
         fullPixels_ = PixelBuffer();
         lowPixels_ = PixelBuffer();
         pBitmapData = pBitmapDataLowRes = nullptr;
-        return false;
+        return;
     }
     oBitmapRep = std::make_unique<BitmapContext>(pBitmapData, fullWidth, fullHeight);
     oBitmapRepLowRes = std::make_unique<BitmapContext>(pBitmapDataLowRes, lowWidth, lowHeight);
-    return true;
 }
 
 PixelBuffer BitmapInfo::takeFullPixels() {

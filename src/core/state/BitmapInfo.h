@@ -28,9 +28,9 @@ class BitmapInfo : public LayerSettings {
     void BitmapDisplayInfoReset();
     void setSourceImageFullPath(const std::string& path);
 
-    /// Gives both buffers new sizes, with undefined contents and contexts of their own.
-    /// @return false when memory was refused; the record then has no buffers
-    bool allocateBuffers(int fullWidth, int fullHeight, int lowWidth, int lowHeight);
+    /// Gives both buffers new sizes, with undefined contents and contexts of their own. Where memory is refused the
+    /// record has no buffers.
+    void allocateBuffers(int fullWidth, int fullHeight, int lowWidth, int lowHeight);
     /// Hands the memory of the full picture over to the caller; the record has none then, until `allocateBuffers`.
     PixelBuffer takeFullPixels();
     /// The buffer of a resolution and the context over it; null where there is none.

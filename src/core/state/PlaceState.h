@@ -29,7 +29,7 @@ struct PlaceState {
     Field<double> placeScale = 1.0;                        ///< beside the rule: larger by this factor
     Field<std::int32_t> iPlaceXMove = 0, iPlaceYMove = 0;  ///< and moved by thousandths, right and up
     Field<bool> bReflectAtSubject = false;  ///< request to the loop: reflect at the subject's lowest edge
-    LayerPlace placedLast;  ///< what the program wrote last; not a person's, nor a state's
+    LayerPlace placedLast;                  ///< what the program wrote last; not a person's, nor a state's
 };
 
 }  // namespace tavrin

@@ -136,8 +136,9 @@ class StarRun {
         }
         if (!painter_) {
             if (!copyPicture()) return false;
-            painter_ = std::make_unique<StarPainter>(picture_, source_.data(), params_.width, params_.height,
-                                                     params_.armWidth, params_.points, params_.startAngle);
+            painter_ =
+                std::make_unique<StarPainter>(PixelView{picture_, params_.width, params_.height}, source_.data(),
+                                              params_.armWidth, params_.points, params_.startAngle);
         }
         const std::int64_t length = std::max<std::int64_t>(dy, static_cast<std::int64_t>(dy) * params_.size * 3 / 50);
         if (context_.isSuperseded()) return false;

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/raster/Pixels.h"
-
 namespace tavrin {
 
 namespace {
@@ -15,15 +13,12 @@ constexpr double kPointsPerPixel = 512.0;
 
 }  // namespace
 
-StarPainter::StarPainter(std::uint8_t* picture, const std::uint8_t* source, int width, int height, int widthPercent,
-                         int points, int startAngle)
+StarPainter::StarPainter(PixelView picture, const std::uint8_t* source, int widthPercent, int points, int startAngle)
     : picture_(picture),
       source_(source),
-      width_(width),
-      height_(height),
       widthPercent_(widthPercent),
-      far_(2 * (static_cast<std::int64_t>(width) + height)),
-      workLeft_(kPointsPerPixel * width * height) {
+      far_(2 * (static_cast<std::int64_t>(picture.width) + picture.height)),
+      workLeft_(kPointsPerPixel * picture.width * picture.height) {
     points = std::min(points, kMostArms);
     for (int k = 1; k <= points; ++k) {
         const double angle = (startAngle + k * 360.0 / points) * kRadians;
@@ -38,7 +33,7 @@ bool StarPainter::DrawStar(const StarLight& light) {
     workLeft_ -= (4.0 * half + 1.0) * steps * static_cast<double>(arms_.size());
     if (workLeft_ < 0.0) return false;
 
-    const std::uint8_t* centre = source_ + pixelOffset(width_, light.cx, light.cy);
+    const std::uint8_t* centre = source_ + pixelOffset(picture_.width, light.cx, light.cy);
     Ink ink = {light.cx, light.cy, 0, {centre[0], centre[1], centre[2]}};
     for (int i = -2 * half; i <= 2 * half; ++i) {
         const double offset = i * 0.5;
@@ -74,17 +69,17 @@ void StarPainter::DrawStarPoints(const Ink& ink, double x, double y) {
     for (const Arm& arm : arms_) {
         const int column = static_cast<int>(x * arm.cosine - y * arm.sine + 0.5) + ink.cx;
         const int row = static_cast<int>(x * arm.sine + y * arm.cosine + 0.5) + ink.cy;
-        if (column < 0 || row < 0 || column >= width_ || row >= height_) continue;
-        const std::size_t at = pixelOffset(width_, column, row);
+        if (column < 0 || row < 0 || column >= picture_.width || row >= picture_.height) continue;
+        const std::size_t at = pixelOffset(picture_.width, column, row);
         std::array<int, 3> mixed;
         bool brighter = true;
         for (std::size_t c = 0; c < 3; ++c) {
             mixed[c] = (255 - ink.opacity) * source_[at + c] / 255 + ink.opacity * ink.colour[c] / 255;
-            brighter = brighter && mixed[c] > picture_[at + c];
+            brighter = brighter && mixed[c] > picture_.bytes[at + c];
         }
         if (!brighter) continue;
         for (std::size_t c = 0; c < 3; ++c)
-            picture_[at + c] = static_cast<std::uint8_t>(mixed[c]);
+            picture_.bytes[at + c] = static_cast<std::uint8_t>(mixed[c]);
     }
 }
 

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "core/raster/Pixels.h"
+
 namespace tavrin {
 
 /// The light that a star is drawn over.
@@ -17,11 +19,10 @@ struct StarLight {
 /// the brighter one stays.
 class StarPainter {
   public:
-    /// `picture` and `source`, its copy from before the first star, are RGBA. An arm is `widthPercent` of a light's
+    /// `source` is a copy of the picture from before the first star. An arm is `widthPercent` of a light's
     /// width to each side; the first of `points` arms stands at `startAngle` + 360 / `points` degrees, measured from
     /// straight down and turning to the left. No points, no star.
-    StarPainter(std::uint8_t* picture, const std::uint8_t* source, int width, int height, int widthPercent,
-                int points, int startAngle);
+    StarPainter(PixelView picture, const std::uint8_t* source, int widthPercent, int points, int startAngle);
 
     /// Draws one star: arms that are thin triangles and fade from their middle line sideways.
     /// @return false when all stars so far would need more work than a picture of this size is worth (settings far
@@ -40,9 +41,9 @@ class StarPainter {
     void DrawStarLine(const Ink& ink, double x0, double length);
     void DrawStarPoints(const Ink& ink, double x, double y);
 
-    std::uint8_t* picture_;
+    const PixelView picture_;
     const std::uint8_t* source_;
-    int width_, height_, widthPercent_;
+    int widthPercent_;
     std::int64_t far_;  // what lies farther from a light is outside the picture
     double workLeft_;   // points that may still be drawn
     std::vector<Arm> arms_;

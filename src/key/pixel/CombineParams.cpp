@@ -64,8 +64,8 @@ FinishConstants makeFinish(const SystemInfo& info, const CombineParams& params) 
 
     FinishConstants finish;
     finish.blueLogic = info.bUseBlueLogic;
-    finish.foregroundTone = makeTone(foreground, ToneLayer::kForeground, params.foreground, width, height);
-    finish.backgroundTone = makeTone(background, ToneLayer::kBackground, params.background, width, height);
+    finish.foregroundTone = makeTone(foreground, ToneLayer::kForeground, {params.foreground, width, height});
+    finish.backgroundTone = makeTone(background, ToneLayer::kBackground, {params.background, width, height});
     finish.white = makeWhiteAdjust(info);
     finish.foregroundMode = info.iForegroundOutputMode;
     finish.backgroundMode = info.iBackgroundOutputMode;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "core/raster/Pixels.h"
 #include "key/pixel/KeyedRun.h"
 
 namespace tavrin {
@@ -13,9 +14,8 @@ struct NeighbourSums {
     alignas(64) std::int32_t pixels[KeyedRun::kMaxPixels];
 };
 
-/// Sums up around `count` pixels from (x, y) on, all of them in the picture of width x height RGBA pixels. Alphas are
-/// not read. The last vector's places beyond the pixels become 0.
-void sumNeighbours(const std::uint8_t* picture, int width, int height, int x, int y, int count,
-                   NeighbourSums& around);
+/// Sums up around `count` pixels from (x, y) on, all of them in the picture. Alphas are not read. The last vector's
+/// places beyond the pixels become 0.
+void sumNeighbours(ConstPixelView picture, int x, int y, int count, NeighbourSums& around);
 
 }  // namespace tavrin

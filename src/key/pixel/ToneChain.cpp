@@ -41,7 +41,7 @@ void restoreEnds(Rgb& c, double ends) {
 void sharpenTone(const ToneConstants& tone, Rgb& c, int x, int y) {
     if (tone.sharpen < 1.0) return;
     NeighbourSums around;
-    sumNeighbours(tone.pixels, tone.width, tone.height, x, y, 1, around);
+    sumNeighbours(tone.picture, x, y, 1, around);
     c = gather(Tone(One(), tone).sharpened(spread(c), around, 0));
 }
 
@@ -60,7 +60,7 @@ void setGain(ToneConstants& tone, double gain, double saturation) {
     tone.floor = (tone.brightness - 128.0) * gain / 50.0 + 128.0 - saturation;
 }
 
-ToneConstants makeTone(const BitmapInfo& record, ToneLayer layer, const std::uint8_t* pixels, int width, int height) {
+ToneConstants makeTone(const BitmapInfo& record, ToneLayer layer, ConstPixelView picture) {
     const std::int64_t shadows = record.iEnhanseShadows, contrast = record.iContrast;
     const std::int64_t brightness = record.iBrightness, saturation = record.iBrightnessSat;
     const std::int64_t highlights = record.iReduceHighlights, sharpening = record.iBrightnessSharpen;
@@ -68,9 +68,7 @@ ToneConstants makeTone(const BitmapInfo& record, ToneLayer layer, const std::uin
 
     ToneConstants tone;
     tone.layer = layer;
-    tone.pixels = pixels;
-    tone.width = width;
-    tone.height = height;
+    tone.picture = picture;
     tone.cools = cooling != 0;
     tone.warms = warming != 0;
     tone.cooling = cooling / 255.0;

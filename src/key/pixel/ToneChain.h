@@ -1,8 +1,7 @@
 #pragma once
 
-#include <cstdint>
-
 #include "core/raster/ColorMath.h"
+#include "core/raster/Pixels.h"
 
 namespace tavrin {
 
@@ -19,9 +18,8 @@ struct ToneConstants {
     bool cools = false, warms = false;
     double cooling = 0.0, warming = 0.0;  ///< strength of the photo filters, 0 to 1
 
-    double sharpen = 0.0;                  ///< below 1 is off; 50 doubles a pixel's distance from its surroundings
-    const std::uint8_t* pixels = nullptr;  ///< the layer's buffer, read for the surroundings; RGBA, rows packed
-    int width = 0, height = 0;
+    double sharpen = 0.0;    ///< below 1 is off; 50 doubles a pixel's distance from its surroundings
+    ConstPixelView picture;  ///< the layer's buffer, read for the surroundings
 
     double shadowRate = 0.0, shadowNorm = 1.0;  ///< of the curve that lifts the darks
     double gain = 50.0;                         ///< contrast, 50 is neutral
@@ -30,9 +28,8 @@ struct ToneConstants {
     double highlights = 1.0;  ///< slope of the brights
 };
 
-/// The constants for a layer whose buffer has `pixels` of width x height. Its chain is active where a setting is
-/// away from neutral.
-ToneConstants makeTone(const BitmapInfo& record, ToneLayer layer, const std::uint8_t* pixels, int width, int height);
+/// The constants for a layer with the pixels `picture`. Its chain is active where a setting is away from neutral.
+ToneConstants makeTone(const BitmapInfo& record, ToneLayer layer, ConstPixelView picture);
 
 /// Photo filters, sharpen, shadow lift, contrast and highlight reduction of a colour at (x, y): real channels for
 /// the background, roles for the foreground. `light` is a factor for the background's lighting, 1 where there is

@@ -195,7 +195,7 @@ class RunTone {
 
   private:
     const NeighbourSums& neighbours() {
-        if (!summed_) sumNeighbours(tone_.pixels, tone_.width, tone_.height, run_.x, run_.y, run_.count, around_);
+        if (!summed_) sumNeighbours(tone_.picture, run_.x, run_.y, run_.count, around_);
         summed_ = true;
         return around_;
     }

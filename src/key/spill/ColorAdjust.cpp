@@ -37,19 +37,18 @@ void applyLight(const ColorAdjust& adjust, Rgb& c, std::size_t index) {
 
 }  // namespace
 
-ColorAdjust makeColorAdjust(const SystemInfo& info, ToneLayer layer, const std::uint8_t* foreground, int width,
-                            int height) {
+ColorAdjust makeColorAdjust(const SystemInfo& info, ToneLayer layer, ConstPixelView foreground) {
     const bool front = layer == ToneLayer::kForeground;
     const BitmapInfo& record = front ? *info.pForegroundBitmapInfo : *info.pBackgroundBitmapInfo;
     const std::int32_t mode = info.iLightingMode, applyTo = info.iLightingApplyTo;
     const std::int64_t contrast = record.iContrast, brightness = record.iBrightness;
 
     ColorAdjust adjust;
-    adjust.tone = makeTone(record, layer, foreground, width, height);
+    adjust.tone = makeTone(record, layer, foreground);
     setGain(adjust.tone, static_cast<double>(contrast + brightness / 4), record.iBrightnessSat);
     adjust.active = record.bHaveColorChange || adjust.tone.warms || adjust.tone.cools || mode != 0;
-    const bool mapFits =
-        info.oLightingMap.size() == static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    const bool mapFits = info.oLightingMap.size() ==
+                         static_cast<std::size_t>(foreground.width) * static_cast<std::size_t>(foreground.height);
     if (mode != 0 && mapFits) adjust.light = info.oLightingMap.data();
     adjust.lit = front ? applyTo != 2 && mode != 4 : applyTo != 1;
     return adjust;
@@ -59,9 +58,9 @@ Rgb adjustLayerColor(const ColorAdjust& adjust, const Rgb& color, int x, int y) 
     if (!adjust.active) return color;
     Rgb c = color;
     if (adjustKeyedColor(adjust.tone, c, x, y) && adjust.light) {
-        applyLight(
-            adjust, c,
-            static_cast<std::size_t>(y) * static_cast<std::size_t>(adjust.tone.width) + static_cast<std::size_t>(x));
+        applyLight(adjust, c,
+                   static_cast<std::size_t>(y) * static_cast<std::size_t>(adjust.tone.picture.width) +
+                       static_cast<std::size_t>(x));
     }
     return {clampTo(c.r, 0.0, 255.0), clampTo(c.g, 0.0, 255.0), clampTo(c.b, 0.0, 255.0)};
 }

@@ -18,9 +18,8 @@ struct ColorAdjust {
     bool lit = false;                     ///< the light falls on this layer
 };
 
-/// The adjustments of a layer. Sharpening compares with `foreground` (RGBA, width x height) for either layer.
-ColorAdjust makeColorAdjust(const SystemInfo& info, ToneLayer layer, const std::uint8_t* foreground, int width,
-                            int height);
+/// The adjustments of a layer. Sharpening compares with `foreground` for either layer.
+ColorAdjust makeColorAdjust(const SystemInfo& info, ToneLayer layer, ConstPixelView foreground);
 
 /// A layer's colour at (x, y), in real channels, after its adjustments: each channel 0 to 255.
 Rgb adjustLayerColor(const ColorAdjust& adjust, const Rgb& color, int x, int y);
