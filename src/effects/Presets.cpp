@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "core/NearestName.h"
 #include "core/state/ChangeFlags.h"
 #include "effects/Reflection.h"
 #include "formats/Installation.h"
@@ -244,6 +245,19 @@ constexpr PresetGroup kGroups[] = {
     {"overlays", "Pictures laid over the background, the subject and the whole", kOverlays, nullptr, true, true},
 };
 
+std::string unknownLook(const PresetGroup& group, const std::string& name) {
+    std::vector<std::string> names;
+    std::string all;
+    for (const Preset& preset : group.presets) {
+        names.push_back(preset.name);
+        all += (all.empty() ? "" : ", ") + names.back();
+    }
+    const bool isFile = group.applyFile && name.find_first_of("./") != std::string::npos;
+    return "There is no " + std::string(group.name) + " \"" + name + "\"" +
+           (isFile ? ". " : "; did you mean " + nearestName(name, names) + "? ") + "It takes " + all +
+           (group.applyFile ? ", or a picture file." : ".");
+}
+
 }  // namespace
 
 void buttonWall(SystemInfo& info) {
@@ -301,11 +315,7 @@ std::string applyPreset(SystemInfo& info, const PresetGroup& group, const std::s
         group.applyFile(info, name);
         return "";
     }
-    std::string problem = "There is no " + std::string(group.name) + " \"" + name + "\"; there are ";
-    for (const Preset& preset : group.presets)
-        problem += std::string(preset.name) + ", ";
-    problem.resize(problem.size() - 2);
-    return problem + (group.applyFile ? ", and any picture file." : ".");
+    return unknownLook(group, name);
 }
 
 }  // namespace tavrin
