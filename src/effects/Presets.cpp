@@ -101,7 +101,7 @@ constexpr Preset kLights[] = {
      }},
     {"cone", "a beam from above",
      [](SystemInfo& info) {
-         setLight(info, {3, 50, 0, 90, 180, 60, 50, kBoth});
+         setLight(info, {3, 50, 0, 90, 180, 55, 50, kBoth});
      }},
     {"glow", "a halo around the subject",
      [](SystemInfo& info) {
@@ -168,7 +168,7 @@ void sketch(SystemInfo& info, int type) {
 constexpr Preset kCartoons[] = {
     {"none", "no drawing", [](SystemInfo& info) { chooseCartoon(info, 0); }},
     {"cartoon", "black lines and strong colours", [](SystemInfo& info) { chooseCartoon(info, 1); }},
-    {"grey", "a soft pencil sketch", [](SystemInfo& info) { chooseCartoon(info, 2); }},
+    {"grey", "a soft pencil sketch", [](SystemInfo& info) { sketch(info, 2); }},
     {"pencil", "hatched with a pencil", [](SystemInfo& info) { sketch(info, 3); }},
     {"parchment", "hatched on old parchment", [](SystemInfo& info) { sketch(info, 4); }},
 };
