@@ -113,16 +113,22 @@ Cost floorOf(const std::vector<std::string>& paths, const QImage& picture, const
 }
 
 /// A whole process of the command line.
-Cost runBatch(const fs::path& folder, const fs::path& out, int inHand) {
+/// @param start what the pictures start from, and where the portraits stand
+Cost runBatch(const fs::path& folder, const fs::path& out, const char* inHand, std::vector<const char*> start) {
     std::fflush(stdout);
     const Clock::time_point start = Clock::now();
     const pid_t child = fork();
     if (child == 0) {
-        const std::string jobs = std::to_string(inHand);
         if (!std::freopen("/dev/null", "w", stdout)) std::_Exit(1);
-        execl(TAVRIN_CLI, "tavrin-cli", "batch", "--bare", "--foregrounds", folder.c_str(), "--backgrounds",
-              TAVRIN_SOURCE_DIR "/data/sample/background.jpg", "--out", out.c_str(), "--inches", "8x10", "--dpi",
-              "300", "--jobs", jobs.c_str(), static_cast<char*>(nullptr));
+        std::vector<const char*> words = {
+            "tavrin-cli",   "batch",         "--foregrounds",
+            folder.c_str(), "--backgrounds", TAVRIN_SOURCE_DIR "/data/sample/background.jpg",
+            "--out",        out.c_str(),     "--inches",
+            "8x10",         "--dpi",         "300",
+            "--jobs",       inHand};
+        words.insert(words.end(), start.begin(), start.end());
+        words.push_back(nullptr);
+        execv(TAVRIN_CLI, const_cast<char**>(words.data()));
         std::_Exit(1);
     }
     int status = 0;
@@ -162,12 +168,21 @@ int main(int count, char** arguments) {
     // The batch first: one of its pictures is what the floor encodes.
     std::printf("%d portraits of %d x %d to %d x %d, %d cores, load %.1f at the start\n", pictures, kPortraitWidth,
                 kPortraitHeight, kOutWidth, kOutHeight, cores, load());
+    const struct {
+        const char *what, *inHand;
+        std::vector<const char*> start;
+    } runs[] = {
+        {"batch as it comes, the subject framed", "3", {}},
+        {"batch, --place corner", "3", {"--place", "corner"}},
+        {"batch, --bare, one picture in hand", "1", {"--bare"}},
+        {"batch, --bare, three in hand", "3", {"--bare"}},
+    };
     std::vector<Cost> batches;
-    for (const int inHand : {1, 3}) {
+    for (const auto& run : runs) {
         fs::remove_all(out);
-        batches.push_back(runBatch(folder / ("portraits" + std::to_string(pictures)), out, inHand));
+        batches.push_back(runBatch(folder / ("portraits" + std::to_string(pictures)), out, run.inHand, run.start));
     }
-    const QImage picture = tavrin::readPicture((out / "portrait10000background.jpg").string()).pixels;
+    const QImage picture = tavrin::readPicture((out / "portrait10000_background.jpg").string()).pixels;
     if (picture.width() != kOutWidth || picture.height() != kOutHeight) return 1;
     fs::remove_all(out);
     fs::create_directories(out);
@@ -175,8 +190,8 @@ int main(int count, char** arguments) {
     fs::remove_all(out);
     tell("floor: decode and encode, one after the other", serial, paths.size(), serial, parallel);
     tell("floor: decode and encode, on all cores", parallel, paths.size(), serial, parallel);
-    tell("batch, one picture in hand", batches[0], paths.size(), serial, parallel);
-    tell("batch, three in hand", batches[1], paths.size(), serial, parallel);
+    for (std::size_t i = 0; i < batches.size(); ++i)
+        tell(runs[i].what, batches[i], paths.size(), serial, parallel);
     std::printf("load %.1f at the end\n", load());
     return 0;
 }

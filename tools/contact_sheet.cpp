@@ -16,6 +16,7 @@
 #include "effects/Presets.h"
 #include "formats/Installation.h"
 #include "pipeline/CombineThread.h"
+#include "pipeline/SubjectPlace.h"
 #include "session/OutputSizes.h"
 #include "session/StartUp.h"
 
@@ -126,6 +127,7 @@ QImage take(const Shot& shot, const Sources& sources) {
     updateLabelSettings(*info);
     chooseOwnSize(*info, "sheet", kWidthInches, kHeightInches, kDpi);
     useChosenSize(*info);
+    wantPlace(*info, PlaceRule::subject);  // which leaves a place alone that a shot chose
     CombineThread(*info).runUntilIdle();
     const QImage picture = info->pCombinedBitmapInfo->oBitmapRep->snapshot();
     return picture.convertToFormat(QImage::Format_RGB32)

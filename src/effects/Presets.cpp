@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "core/NearestName.h"
 #include "core/state/ChangeFlags.h"
 #include "effects/Reflection.h"
 #include "formats/Installation.h"
@@ -100,7 +101,7 @@ constexpr Preset kLights[] = {
      }},
     {"cone", "a beam from above",
      [](SystemInfo& info) {
-         setLight(info, {3, 50, 0, 90, 180, 60, 50, kBoth});
+         setLight(info, {3, 50, 0, 90, 180, 55, 50, kBoth});
      }},
     {"glow", "a halo around the subject",
      [](SystemInfo& info) {
@@ -167,7 +168,7 @@ void sketch(SystemInfo& info, int type) {
 constexpr Preset kCartoons[] = {
     {"none", "no drawing", [](SystemInfo& info) { chooseCartoon(info, 0); }},
     {"cartoon", "black lines and strong colours", [](SystemInfo& info) { chooseCartoon(info, 1); }},
-    {"grey", "a soft pencil sketch", [](SystemInfo& info) { chooseCartoon(info, 2); }},
+    {"grey", "a soft pencil sketch", [](SystemInfo& info) { sketch(info, 2); }},
     {"pencil", "hatched with a pencil", [](SystemInfo& info) { sketch(info, 3); }},
     {"parchment", "hatched on old parchment", [](SystemInfo& info) { sketch(info, 4); }},
 };
@@ -244,6 +245,19 @@ constexpr PresetGroup kGroups[] = {
     {"overlays", "Pictures laid over the background, the subject and the whole", kOverlays, nullptr, true, true},
 };
 
+std::string unknownLook(const PresetGroup& group, const std::string& name) {
+    std::vector<std::string> names;
+    std::string all;
+    for (const Preset& preset : group.presets) {
+        names.push_back(preset.name);
+        all += (all.empty() ? "" : ", ") + names.back();
+    }
+    const bool isFile = group.applyFile && name.find_first_of("./") != std::string::npos;
+    return "There is no " + std::string(group.name) + " \"" + name + "\"" +
+           (isFile ? ". " : "; did you mean " + nearestName(name, names) + "? ") + "It takes " + all +
+           (group.applyFile ? ", or a picture file." : ".");
+}
+
 }  // namespace
 
 void buttonWall(SystemInfo& info) {
@@ -301,11 +315,7 @@ std::string applyPreset(SystemInfo& info, const PresetGroup& group, const std::s
         group.applyFile(info, name);
         return "";
     }
-    std::string problem = "There is no " + std::string(group.name) + " \"" + name + "\"; there are ";
-    for (const Preset& preset : group.presets)
-        problem += std::string(preset.name) + ", ";
-    problem.resize(problem.size() - 2);
-    return problem + (group.applyFile ? ", and any picture file." : ".");
+    return unknownLook(group, name);
 }
 
 }  // namespace tavrin

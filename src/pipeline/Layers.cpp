@@ -134,7 +134,10 @@ bool drawSource(const SystemInfo& info, const BitmapInfo& record, const LayerPla
 
 ReadPicture readSourceOf(const SystemInfo& info, const BitmapInfo& record) {
     const std::string path = record.sSourceImageFullPath;
-    return info.readSource ? info.readSource(path) : readPicture(path);
+    if (info.readSource) return info.readSource(path);
+    ReadPicture picture = readPicture(path);
+    if (!picture.damage.empty()) logWarning(path + ": " + picture.damage + ".");
+    return picture;
 }
 
 }  // namespace
@@ -175,6 +178,7 @@ bool ChangeOrgBitmap(SystemInfo& info, BitmapInfo& record, ReadPicture picture) 
     }
     picture.pixels = QImage();
     record.sSourceProblem = "";
+    record.sSourceDamage = std::move(picture.damage);
     record.setSource(std::move(source));
     record.sourceExif = std::move(picture.exif);
     if (record.iBitmapType == BitmapInfo::kForeground) ComputeBaseColor(info, 2);

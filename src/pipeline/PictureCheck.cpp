@@ -50,6 +50,11 @@ void tellEnlarged(const SystemInfo& info, const BitmapInfo& record, double most,
     warnings.push_back({"small-source", nameOf(record) + text});
 }
 
+void tellDamage(const BitmapInfo& record, std::vector<PictureWarning>& warnings) {
+    const std::string damage = record.sSourceDamage;
+    if (!damage.empty()) warnings.push_back({"damaged", nameOf(record) + ": " + damage + "."});
+}
+
 /// Families that the state's texts ask for and that the system does not have.
 void tellFonts(const SystemInfo& info, std::vector<PictureWarning>& warnings) {
     std::set<std::string> names;
@@ -113,6 +118,8 @@ std::vector<PictureWarning> PictureCheck::warnings(const SystemInfo& info, Resol
                                                " has the screen's hue and may have holes."});
         }
     }
+    tellDamage(portrait, warnings);
+    tellDamage(*info.pBackgroundBitmapInfo, warnings);
     tellEnlarged(info, portrait, kSoftPortrait, warnings);
     tellEnlarged(info, *info.pBackgroundBitmapInfo, kSoftBackground, warnings);
     tellFonts(info, warnings);

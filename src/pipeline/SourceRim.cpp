@@ -11,7 +11,7 @@ namespace tavrin {
 namespace {
 
 constexpr int kDeepest = 8, kNear = 11, kFar = 21;  // steps from the edge
-constexpr int kSteps = 1000;                        // along the longer side, at least a pixel each
+constexpr int kSteps = 1000;                        // along the longer side, in either direction, a pixel or more
 constexpr double kBreak = 6.0;                      // levels, of a mean over the line
 constexpr int kScreenExcess = 20;                   // of the screen's channel over both others
 
@@ -42,7 +42,7 @@ using Means = std::array<double, 3>;
 Means meanOf(const Side& side, int line, bool blue) {
     Means sum{};
     int count = 0;
-    for (int along = 0; along < side.length(); ++along) {
+    for (int along = 0; along < side.length(); along += side.step()) {
         if (!isScreen(side.pixel(kNear, along), blue) || !isScreen(side.pixel(kFar, along), blue)) continue;
         ++count;
         for (std::size_t c = 0; c < 3; ++c)
@@ -55,9 +55,9 @@ Means meanOf(const Side& side, int line, bool blue) {
 
 bool showsScreen(const Side& side, bool blue) {
     int count = 0;
-    for (int along = 0; along < side.length(); ++along)
+    for (int along = 0; along < side.length(); along += side.step())
         count += isScreen(side.pixel(kNear, along), blue) && isScreen(side.pixel(kFar, along), blue);
-    return 3 * count > side.length();
+    return 3 * count > side.length() / side.step();
 }
 
 int rimOf(const Side& side, bool blue) {

@@ -44,11 +44,13 @@ double scaleToHeight(const SubjectBounds& subject, const Extent& extent, const L
 }
 
 double chooseScale(const SubjectBounds& subject, const Extent& extent, const LayerFit& fit, double headRoom) {
-    double scale = scaleToHeight(subject, extent, fit, headRoom);
-    if (!subject.cutLeft && !subject.cutRight)
-        scale =
-            std::min(scale, (1.0 - 2.0 * kSideRoom) * fit.outputWidth / ((extent.right - extent.left) * fit.width));
-    scale = std::min(scale, kLargest);
+    // Of one that a side of the source cuts more may go, but no head.
+    const bool isCut = subject.cutLeft || subject.cutRight;
+    const double reach =
+        isCut ? std::max({extent.middle() - subject.headLeft, subject.headRight - extent.middle(), 0.01})
+              : (extent.right - extent.left) / 2.0;
+    const double widest = (0.5 - kSideRoom) * fit.outputWidth / (reach * fit.width);
+    const double scale = std::min({scaleToHeight(subject, extent, fit, headRoom), widest, kLargest});
     return std::max(scale, scaleToHide(subject, extent, fit));
 }
 
@@ -117,6 +119,33 @@ LayerPlace placeOfWhole(const LayerFit& fit) {
     return place;
 }
 
+/// The rows of the preview, out of those that hold the source, that the picture shows with the source at this place.
+QRect rowsSeen(const QRect& source, const QRectF& rect, const LayerFit& full) {
+    const double above = std::max((rect.bottom() - full.outputHeight) / rect.height(), 0.0);
+    const double below = std::min(rect.bottom() / rect.height(), 1.0);
+    const int first = static_cast<int>(above * source.height()), last = static_cast<int>(below * source.height());
+    return QRect(source.left(), source.top() + first, source.width(), std::max(last - first, 1));
+}
+
+/// Where a part of a subject lies above or below the picture, what is seen of it may have another middle.
+LayerPlace placeAsSeen(const SystemInfo& info, const SubjectBounds& whole, const LayerFit& full, double headRoom) {
+    const LayerFit low = fitSource(info, *info.pForegroundBitmapInfo, Resolution::preview);
+    const QRect source = insideOf(placedRect(placeOfWhole(low), low), low);
+    LayerPlace place = placeAround(whole, full, headRoom);
+    const auto found = findSubject(info.pBackgroundBitmapInfo->pBitmapDataLowRes, low.outputWidth,
+                                   rowsSeen(source, placedRect(place, full), full));
+    if (!found) return place;
+    const double width = full.width * place.scale;
+    double left = full.outputWidth * 0.5 - Extent(*found).middle() * width;
+    if (found->cutLeft) left = std::min(left, 0.0);
+    if (found->cutRight) left = std::max(left, full.outputWidth - width);
+    place.x = offsetFor(left, place.scale, full.width, full.outputWidth);
+    SubjectBounds seen = whole;
+    seen.cutLeft = found->cutLeft, seen.cutRight = found->cutRight;
+    hideEdges(place, seen, full);
+    return place;
+}
+
 }  // namespace
 
 LayerPlace placeAround(const SubjectBounds& subject, const LayerFit& full, double headRoom) {
@@ -182,8 +211,9 @@ void placeForeground(SystemInfo& info) {
     const LayerFit fit = fitSource(info, foreground, Resolution::full);
     std::optional<SubjectBounds> subject;
     if (info.placeRule == PlaceRule::subject) subject = measureSubject(info);
-    const LayerPlace place = subject ? adjusted(placeAround(*subject, fit, headRoomOf(info)), fit, info, 0.5, 0.0)
-                                     : adjusted(placeInMiddle(fit), fit, info, 0.5, 0.5);
+    const LayerPlace place = subject
+                                 ? adjusted(placeAsSeen(info, *subject, fit, headRoomOf(info)), fit, info, 0.5, 0.0)
+                                 : adjusted(placeInMiddle(fit), fit, info, 0.5, 0.5);
     setPlace(foreground, place);
     info.placedLast = place;
     foreground.bScaleChange = true;

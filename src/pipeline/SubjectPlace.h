@@ -13,7 +13,8 @@ inline constexpr double kHeadRoom = 0.08;
 
 /// The place that frames a subject: its middle in the middle of the width, that much room above its head or more, its
 /// lower end on the picture's lower edge where the source cuts it, and whole. Where the source cuts it at another
-/// side, that edge of the source does not show; the subject then is as large as that takes.
+/// side, that edge of the source does not show; the subject is as large as that takes, and may lose more of its width
+/// to fill the picture's height, but heads and raised hands.
 /// @param full fit of the source to the full picture
 LayerPlace placeAround(const SubjectBounds& subject, const LayerFit& full, double headRoom = kHeadRoom);
 

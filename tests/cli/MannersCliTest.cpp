@@ -67,7 +67,19 @@ TEST_F(MannersCliTest, AWrongWordIsAnsweredWithTheNearestRightOne) {
         {renderTo(out, {"--size", "5x7"}), "--size and --inches do not go together."},
         {{"render", "--foreground", foreground_, "--background", background_, "--out", out, "--size", "5x7 200 Vrt"},
          "There is no output size \"5x7 200 Vrt\"; did you mean \"5x7 200 Vert\"?"},
-        {renderTo(out, {"--frame", "ovale"}), "There is no frame \"ovale\""},
+        {renderTo(out, {"--set", "a=1"}), "There is no field a; did you mean "},
+        {renderTo(out, {"--set", "iBlendEdges"}), "A setting is written field=value, not \"iBlendEdges\"."},
+        {renderTo(out, {"--set", "iBlendEdges=many"}), "iBlendEdges"},
+        {renderTo(out, {"--frame", "ovale"}), "There is no frame \"ovale\"; did you mean oval?"},
+        {renderTo(out, {"--texture", "canvs"}), "There is no texture \"canvs\"; did you mean canvas?"},
+        {renderTo(out, {"--texture", "gone.png"}), "There is no texture \"gone.png\". It takes none, canvas,"},
+        {renderTo(out, {"--screen", "gren"}), "--screen: there is no \"gren\"; did you mean green?"},
+        {renderTo(out, {"--protect-clothes", "shrit"}),
+         "--protect-clothes: there is no \"shrit\"; did you mean shirt?"},
+        {renderTo(out, {"--place", "subjct"}), "--place: there is no \"subjct\"; did you mean subject?"},
+        {renderTo(out, {"--scale", "0"}), "--scale: it takes a number from 0.01 to 100, not \"0\"."},
+        {renderTo(out, {"--title-size", "0"}), "--title-size: it takes a whole number from 1 to 1000, not \"0\"."},
+        {renderTo(out, {"--move", "5"}), "--move takes thousandths to the right and up"},
         {renderTo(out, {"--seed", "x"}), "--seed takes a number, not \"x\"."},
         {{"render", "--out"}, "--out needs a value."},
         {{"render", "--out", out, "--dpi", "300"}, "--dpi needs --inches."},
@@ -101,17 +113,37 @@ TEST_F(MannersCliTest, TheReasonStandsWhereAPictureCannotBeRead) {
         EXPECT_EQ(outcome.code, 1);
         EXPECT_TRUE(outcome.err.startsWith(QString("tavrin-cli: ") + line)) << outcome.err.toStdString();
         EXPECT_FALSE(outcome.err.contains("Cound") || outcome.err.contains("Vips")) << outcome.err.toStdString();
+        const test::CliOutcome facts = test::runCli({"info", file(name)});
+        EXPECT_EQ(facts.code, 1);
+        EXPECT_TRUE(facts.err.contains(line)) << facts.err.toStdString();
     }
+    EXPECT_TRUE(test::runCli({"info", file("cut.jpg")}).out.contains("800 x 600"));
+}
+
+TEST_F(MannersCliTest, DamageThatWasReadOverIsAWarningForPeopleAndPrograms) {
+    ASSERT_TRUE(test::noisePicture(800, 600, 7).save(file("torn.jpg"), "JPG", 95));
     // A place in the pixels that no decoder can make sense of, in a file that is whole.
-    std::string torn = jpeg;
+    std::string torn = test::readFile(folder_.file("torn.jpg"));
     for (std::size_t i = torn.size() / 2; i < torn.size() / 2 + 40; ++i)
         torn[i] = static_cast<char>(i % 2 ? 0x5a : 0x01);
     test::writeFile(folder_.file("torn.jpg"), torn);
-    const test::CliOutcome outcome = test::runCli(
-        {"render", "--foreground", foreground_, "--background", file("torn.jpg"), "--out", file("o.png")});
-    EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
-    EXPECT_TRUE(outcome.err.contains("tavrin-cli: warning: ") && outcome.err.contains("read as far as it goes"))
-        << outcome.err.toStdString();
+    const QString torn_ = file("torn.jpg");
+    const QStringList size = {"--inches", "5x3", "--dpi", "48", "--json"};
+    const QStringList calls[] = {
+        QStringList{"render", "--foreground", foreground_, "--background", torn_, "--out", file("o.png")} + size,
+        QStringList{"render", "--fast", "--foreground", foreground_, "--background", torn_, "--out", file("o.png")} +
+            size,
+        QStringList{"batch", "--foregrounds", foreground_, "--backgrounds", torn_, "--out", file("o")} + size,
+        {"info", "--json", torn_},
+    };
+    for (const QStringList& call : calls) {
+        const test::CliOutcome outcome = test::runCli(call);
+        EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.err.startsWith("tavrin-cli: warning: ")) << outcome.err.toStdString();
+        EXPECT_EQ(outcome.err.count("torn.jpg: it is damaged, and was read as far as it goes."), 1)
+            << outcome.err.toStdString();
+        EXPECT_EQ(QString(outcome.out).remove(' ').count("\"kind\":\"damaged\""), 1) << outcome.out.toStdString();
+    }
 }
 
 TEST_F(MannersCliTest, PicturesComeAndGoThroughPipes) {

@@ -75,8 +75,9 @@ TEST_F(PresetsTest, ShippedTexturesLieInTheUsersFolderAndOwnFilesAreTaken) {
 TEST_F(PresetsTest, AnUnknownNameChangesNothingAndTellsWhatThereIs) {
     SystemInfo info;
     const auto before = listFields(info);
-    EXPECT_EQ(apply(info, "shadow", "flor"), "There is no shadow \"flor\"; there are none, wall, floor, floor-wall.");
-    EXPECT_NE(apply(info, "texture", folder_.file("gone.jpg")).find("any picture file"), std::string::npos);
+    EXPECT_EQ(apply(info, "shadow", "flor"),
+              "There is no shadow \"flor\"; did you mean floor? It takes none, wall, floor, floor-wall.");
+    EXPECT_NE(apply(info, "texture", folder_.file("gone.jpg")).find("or a picture file"), std::string::npos);
     EXPECT_NE(apply(info, "frame", folder_.path().string()), "");
     EXPECT_EQ(listFields(info), before);
     EXPECT_EQ(findPresetGroup("shadows"), nullptr);

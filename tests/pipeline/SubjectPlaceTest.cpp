@@ -69,6 +69,38 @@ TEST(SubjectPlaceTest, NoEdgeOfTheSourceShowsThatCutsTheSubject) {
     }
 }
 
+TEST(SubjectPlaceTest, OfAGroupThatReachesTheEdgeOfTheSourceNoHeadIsLost) {
+    const LayerFit fit{1000, 1400, 1050.0, 1400.0, 1.0};
+    SubjectBounds group{0.0, 0.36, 0.95, 0.97};
+    group.cutLeft = true;
+    group.headLeft = 0.1;
+    group.headRight = 0.9;
+    const LayerPlace place = placeAround(group, fit);
+    EXPECT_GE(placed(place, fit, 0.1, 0.5).x(), 0.02);
+    EXPECT_LE(placed(place, fit, 0.9, 0.5).x(), 0.98);
+    SubjectBounds bust = group;  // of one person whose shoulders are cut the face may fill the picture
+    bust.headLeft = 0.35;
+    bust.headRight = 0.6;
+    EXPECT_GT(placeAround(bust, fit).scale, 1.3 * place.scale);
+}
+
+TEST(SubjectPlaceTest, APersonWhomAGreenShirtPartsCountsBesideAnother) {
+    constexpr int kWidth = 200, kHeight = 150;
+    std::vector<std::uint8_t> pixels(pixelBytes(kWidth, kHeight), 0);
+    const auto fill = [&pixels](int left, int top, int right, int bottom) {
+        for (int y = top; y < bottom; ++y)
+            for (int x = left; x < right; ++x)
+                pixels[pixelOffset(kWidth, x, y) + 3] = 255;
+    };
+    fill(40, 50, 90, 150);
+    fill(135, 20, 165, 55);  // a head
+    const QRect all(0, 0, kWidth, kHeight);
+    EXPECT_DOUBLE_EQ(findSubject(pixels.data(), kWidth, all)->right, 90.0 / kWidth);
+    fill(132, 110, 168, 150);  // and the legs below it
+    EXPECT_DOUBLE_EQ(findSubject(pixels.data(), kWidth, all)->right, 168.0 / kWidth);
+    EXPECT_DOUBLE_EQ(findSubject(pixels.data(), kWidth, all)->top, 20.0 / kHeight);
+}
+
 TEST(SubjectPlaceTest, SpecksStandsAndStrandsAreNotTheSubject) {
     constexpr int kWidth = 200, kHeight = 150;
     std::vector<std::uint8_t> pixels(pixelBytes(kWidth, kHeight), 0);
@@ -118,6 +150,21 @@ class PlacedPictureTest : public testing::Test {
     test::TempFolder folder_;
     std::unique_ptr<SystemInfo> info_ = test::stateForOutput(200, 280);
 };
+
+TEST_F(PlacedPictureTest, TheMiddleIsThatOfWhatThePictureShows) {
+    QImage seated(480, 240, QImage::Format_RGB888);
+    seated.fill(QColor(40, 160, 60));
+    for (int y = 60; y < 240; ++y)
+        for (int x = y < 236 ? 200 : 0; x < 260; ++x)
+            seated.setPixelColor(x, y, QColor(200, 60, 50));  // feet that reach out to the edge, below the picture
+    info_ = test::stateForOutput(280, 200);
+    info_->pForegroundBitmapInfo->sSourceImageFullPath = test::savePng(seated, folder_.file("seated.png"));
+    info_->pBackgroundBitmapInfo->sSourceImageFullPath = folder_.file("bg.png");
+    wantPlace(*info_, PlaceRule::subject);
+    CombineThread(*info_).runUntilIdle();
+    ASSERT_TRUE(inPicture());
+    EXPECT_NEAR(inPicture()->left + inPicture()->right, 1.0, 0.03);
+}
 
 TEST_F(PlacedPictureTest, TheLoopFramesOnceAndThePlaceAloneGivesTheSamePicture) {
     CombineThread(*info_).runUntilIdle();

@@ -1,5 +1,7 @@
 #include "apps/cli/Assignments.h"
 
+#include <algorithm>
+
 #include "session/SettingChanges.h"
 
 namespace tavrin::cli {
@@ -12,6 +14,11 @@ std::string applyAssignments(SystemInfo& info, const std::vector<std::string>& a
         if (!problem.empty()) return problem;
     }
     return "";
+}
+
+bool setsAny(const std::vector<std::string>& assignments, const std::string& start) {
+    return std::any_of(assignments.begin(), assignments.end(),
+                       [&start](const std::string& assignment) { return assignment.starts_with(start); });
 }
 
 }  // namespace tavrin::cli

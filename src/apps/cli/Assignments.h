@@ -11,4 +11,7 @@ namespace tavrin::cli {
 /// @return "" when done; otherwise one plain line about the first that cannot be
 std::string applyAssignments(SystemInfo& info, const std::vector<std::string>& assignments);
 
+/// Whether one of these settings begins so: "label1.bDropShadow=" is that one, "label1." any of the label.
+bool setsAny(const std::vector<std::string>& assignments, const std::string& start);
+
 }  // namespace tavrin::cli

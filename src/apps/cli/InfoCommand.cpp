@@ -15,6 +15,7 @@
 #include "core/files/NameText.h"
 #include "core/files/Places.h"
 #include "core/image/ImageReader.h"
+#include "farm/BatchReport.h"
 
 namespace tavrin::cli {
 
@@ -44,7 +45,14 @@ void printFacts(const PictureFacts& facts) {
     printFact("taken", facts.taken);
 }
 
-QJsonObject describe(const std::string& name, const PictureFacts& facts) {
+/// What is wrong with the pixels behind a good header, as `render` will find it. A raw file would be developed for
+/// seconds, and its reader mends nothing.
+ReadPicture lookInto(const std::string& path, const PictureFacts& facts) {
+    const bool isLookedInto = facts.error.empty() && facts.colourSpace != "camera";
+    return isLookedInto ? readPicture(path) : ReadPicture{{}, {}, facts.error, {}};
+}
+
+QJsonObject describe(const std::string& name, const PictureFacts& facts, const ReadPicture& picture) {
     if (!facts.error.empty()) return {{"file", textOfName(name)}, {"error", textOfName(facts.error)}};
     QJsonObject object{{"file", textOfName(name)},
                        {"format", textOfName(facts.format)},
@@ -60,6 +68,10 @@ QJsonObject describe(const std::string& name, const PictureFacts& facts) {
     if (facts.dpi > 0.0) object["dpi"] = facts.dpi;
     if (!facts.camera.empty()) object["camera"] = textOfName(facts.camera);
     if (!facts.taken.empty()) object["taken"] = textOfName(facts.taken);
+    if (!picture.error.empty()) object["error"] = textOfName(picture.error);
+    std::vector<PictureWarning> warnings;
+    if (!picture.damage.empty()) warnings.push_back({"damaged", name + ": " + picture.damage + "."});
+    object["warnings"] = describeWarnings(warnings);
     return object;
 }
 
@@ -80,14 +92,16 @@ int info(const std::vector<std::string>& names, bool json) {
             return kFailed;
         }
         const PictureFacts facts = readPictureFacts(path);
-        all.append(describe(name, facts));
-        if (!facts.error.empty()) {
-            complain(name + ": " + facts.error + ".");
-            result = kFailed;
-        } else if (!json) {
+        const ReadPicture picture = lookInto(path, facts);
+        all.append(describe(name, facts, picture));
+        if (!json && facts.error.empty()) {
             if (names.size() > 1) std::printf("%s%s\n", all.size() > 1 ? "\n" : "", printable(name + ":").c_str());
             printFacts(facts);
         }
+        if (!picture.damage.empty()) warn(name + ": " + picture.damage + ".");
+        if (picture.error.empty()) continue;
+        complain(name + ": " + picture.error + ".");
+        result = kFailed;
     }
     if (json) printJson(QJsonDocument(all), false);
     return result;

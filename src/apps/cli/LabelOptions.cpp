@@ -1,19 +1,9 @@
 #include "apps/cli/LabelOptions.h"
 
-#include <algorithm>
-
+#include "apps/cli/Assignments.h"
 #include "core/text/TextLayers.h"
 
 namespace tavrin::cli {
-
-namespace {
-
-bool setsAny(const std::vector<std::string>& set, const std::string& start) {
-    return std::any_of(set.begin(), set.end(),
-                       [&start](const std::string& assignment) { return assignment.starts_with(start); });
-}
-
-}  // namespace
 
 void styleNote(SystemInfo& info, const std::string& text, const std::vector<std::string>& set) {
     FontObject& note = info.oFontLabelObject[1];

@@ -1,11 +1,11 @@
 #include "apps/cli/PictureOptions.h"
 
-#include <algorithm>
 #include <charconv>
 
 #include "apps/cli/Assignments.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/LabelOptions.h"
+#include "apps/cli/Usage.h"
 #include "core/NearestName.h"
 #include "core/state/SettingRanges.h"
 #include "core/text/TextLayers.h"
@@ -59,19 +59,13 @@ void applyOverlays(SystemInfo& info, const PictureOptions& options) {
     use("FrameOverlay", options.frameOverlay);
 }
 
-/// Whether `--set` names this setting.
-bool sets(const PictureOptions& options, const std::string& name) {
-    return std::any_of(options.set.begin(), options.set.end(),
-                       [&](const std::string& assignment) { return assignment.starts_with(name + "="); });
-}
-
 /// A size or a colour that was given by its name gives the label its points or its fill. All else stays: a state file
 /// may have styled the label in another way.
 void applyLabelNames(SystemInfo& info, const PictureOptions& options) {
     for (std::size_t i = 0; i < info.oFontLabelObject.size(); ++i) {
         const std::string label = "label" + std::to_string(i);
-        if (sets(options, label + ".sLabelSize")) useLabelSize(info.oFontLabelObject[i]);
-        if (sets(options, label + ".sFontColor")) useLabelColor(info.oFontLabelObject[i]);
+        if (setsAny(options.set, label + ".sLabelSize=")) useLabelSize(info.oFontLabelObject[i]);
+        if (setsAny(options.set, label + ".sFontColor=")) useLabelColor(info.oFontLabelObject[i]);
     }
 }
 
@@ -84,7 +78,7 @@ std::string applySettings(SystemInfo& info, const PictureOptions& options) {
     applyOverlays(info, options);
     problem = applyAssignments(info, options.set);
     if (!problem.empty()) return problem;
-    if (sets(options, "iSliderReflectionSkewBase")) info.bReflectAtSubject = false;
+    if (setsAny(options.set, "iSliderReflectionSkewBase=")) info.bReflectAtSubject = false;
     applyLabelNames(info, options);
     return applyAssignments(info, options.set);  // a number that was given beside a name wins
 }
@@ -92,7 +86,7 @@ std::string applySettings(SystemInfo& info, const PictureOptions& options) {
 }  // namespace
 
 bool PictureOptions::choosesScreen() const {
-    if (key.screen.empty()) return !start.bare && !sets(*this, "bUseBlueLogic");
+    if (key.screen.empty()) return !start.bare && !setsAny(set, "bUseBlueLogic=");
     return key.screen == "auto";
 }
 
@@ -128,7 +122,7 @@ void addPictureOptions(CLI::App& command, PictureOptions& options) {
     command.add_option("--title", options.title, "Text of the title (label 0)");
     command
         .add_option("--title-size", options.titleSize, "Its size in points; without it a long title is made to fit")
-        ->check(CLI::Range(1, 1000));
+        ->check(within(1, 1000));
     command.add_option("--note", options.note, "Text of the note (label 1)");
     command.add_option("--overlay-background", options.backgroundOverlay, "Picture over the background");
     command.add_option("--overlay-foreground", options.foregroundOverlay, "Picture over the subject");

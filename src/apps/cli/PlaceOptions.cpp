@@ -1,8 +1,10 @@
 #include "apps/cli/PlaceOptions.h"
 
-#include <algorithm>
 #include <charconv>
+#include <cstdlib>
 
+#include "apps/cli/Assignments.h"
+#include "apps/cli/Usage.h"
 #include "pipeline/SubjectPlace.h"
 
 namespace tavrin::cli {
@@ -19,10 +21,8 @@ bool parseMove(const std::string& text, int& x, int& y) {
 }
 
 bool placesBySetting(const std::vector<std::string>& set) {
-    return std::any_of(set.begin(), set.end(), [](const std::string& assignment) {
-        return assignment.starts_with("foreground.fScale=") || assignment.starts_with("foreground.iOrgXoff=") ||
-               assignment.starts_with("foreground.iOrgYoff=");
-    });
+    return setsAny(set, "foreground.fScale=") || setsAny(set, "foreground.iOrgXoff=") ||
+           setsAny(set, "foreground.iOrgYoff=");
 }
 
 }  // namespace
@@ -36,9 +36,9 @@ void PlaceOptions::addTo(CLI::App& command) {
                     std::string("Where the portrait stands: subject (framed), centre, corner (as the settings say)") +
                         (batch ? ", same (one frame for all)" : "") +
                         "; default subject, corner with a state or bare fields")
-        ->check(CLI::IsMember(rules).description(""))
+        ->check(oneOf(rules))
         ->type_name("NAME");
-    command.add_option("--scale", scale, "Beside --place: larger by this factor")->check(CLI::Range(0.01, 100.0));
+    command.add_option("--scale", scale, "Beside --place: larger by this factor")->check(within(0.01, 100.0));
     command.add_option("--move", move, "Beside --place: thousandths to the right and up, for example 20,-15")
         ->type_name("X,Y");
 }

@@ -110,6 +110,27 @@ std::string wrongWord(const std::string& word, const std::vector<std::string>& w
     return "there is no " + inQuotes(word) + "; did you mean " + nearestName(word, words) + "? It takes " + all + ".";
 }
 
+template <class Number>
+std::string written(Number number) {
+    std::ostringstream text;
+    text << number;
+    return text.str();
+}
+
+template <class Number>
+CLI::Validator numberWithin(Number low, Number high, const char* kind) {
+    return CLI::Validator(
+        [low, high, kind](std::string& text) {
+            Number number{};
+            const char* const last = text.data() + text.size();
+            const auto [end, problem] = std::from_chars(text.data(), last, number);
+            if (problem == std::errc() && end == last && number >= low && number <= high) return std::string();
+            return std::string("it takes ") + kind + " from " + written(low) + " to " + written(high) + ", not " +
+                   inQuotes(text) + ".";
+        },
+        "");
+}
+
 }  // namespace
 
 CLI::Validator oneOf(std::vector<std::string> words) {
@@ -133,17 +154,11 @@ CLI::Validator numberedWords(std::vector<std::string> words, int first) {
 }
 
 CLI::Validator within(int low, int high) {
-    return CLI::Validator(
-        [low, high](std::string& text) {
-            int number = 0;
-            const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), number);
-            const bool good =
-                problem == std::errc() && end == text.data() + text.size() && number >= low && number <= high;
-            return good ? std::string()
-                        : "it takes a whole number from " + std::to_string(low) + " to " + std::to_string(high) +
-                              ", not " + inQuotes(text) + ".";
-        },
-        "");
+    return numberWithin(low, high, "a whole number");
+}
+
+CLI::Validator within(double low, double high) {
+    return numberWithin(low, high, "a number");
 }
 
 std::vector<std::string> namesOf(const CLI::Option& option) {

@@ -15,8 +15,9 @@ int explain(const CLI::App& app, const CLI::ParseError& error);
 CLI::Validator oneOf(std::vector<std::string> words);
 /// The same for an option with numbers; the first word stands for `first`, those behind it go on from there.
 CLI::Validator numberedWords(std::vector<std::string> words, int first);
-/// A whole number within these bounds.
+/// A whole number, or any number, within these bounds.
 CLI::Validator within(int low, int high);
+CLI::Validator within(double low, double high);
 
 /// The long names of an option, with their hyphens, or its name where it has no hyphens.
 std::vector<std::string> namesOf(const CLI::Option& option);

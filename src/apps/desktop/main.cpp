@@ -57,6 +57,7 @@ void nameProgram() {
     QCoreApplication::setApplicationName("Tavrin");
     QCoreApplication::setOrganizationName("Tavrin");
     QCoreApplication::setApplicationVersion(TAVRIN_VERSION);
+    QGuiApplication::setDesktopFileName("org.tavrin.Tavrin");  // the entry that names its icon
 }
 
 /// As if they were dropped on the window: a state file by its name, the first picture as the portrait, the next as

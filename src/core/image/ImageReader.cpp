@@ -102,7 +102,7 @@ void decode(const std::string& path, FileKind kind, VipsImage* image, ReadPictur
         if (!picture.pixels.isNull()) return;
     }
     picture.pixels = decodeWithVips(image, picture.error);
-    if (damaged && picture.error.empty()) logWarning(path + ": it is damaged, and was read as far as it goes.");
+    if (damaged && picture.error.empty()) picture.damage = "it is damaged, and was read as far as it goes";
 }
 
 ReadPicture readAny(const std::string& path) {

@@ -14,6 +14,7 @@ struct ReadPicture {
                     ///< alpha; null on failure
     std::vector<std::uint8_t> exif;  ///< the file's camera data as it stands (may be empty), for carrying over
     std::string error;               ///< what is wrong, as one plain line; empty when the picture was read
+    std::string damage;              ///< what was mended in it, as one plain line; empty for a file that is whole
 };
 
 /// Reads the first picture of a JPEG, PNG, TIFF, GIF, WebP, HEIF, BMP, PSD or camera raw file. Safe on any thread.
@@ -26,7 +27,7 @@ struct ReadPicture {
 /// What a file is, is told by its first bytes and never by its name, and decoders are picked from a fixed list, so
 /// that a script dressed as a picture is not run. A file of more than 400 megapixels is refused from its header.
 /// A file that ends before its last row is refused, since it would leave a grey band in the picture; a complete
-/// file with a damaged place in its data is read as far as its decoder can mend it.
+/// file with a damaged place in its data is read as far as its decoder can mend it; whoever asked tells of that.
 ReadPicture readPicture(const std::string& path);
 
 /// What a file says about itself.

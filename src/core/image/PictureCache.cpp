@@ -5,6 +5,7 @@
 #include <mutex>
 #include <tuple>
 
+#include "core/Log.h"
 #include "core/image/ImageReader.h"
 
 namespace tavrin {
@@ -87,6 +88,7 @@ bool describe(const std::string& path, PictureKey& key) {
 QImage decode(const std::string& path, std::string* problem) {
     ReadPicture picture = readPicture(path);
     if (problem) *problem = picture.error;
+    if (!picture.damage.empty()) logWarning(path + ": " + picture.damage + ".");
     return picture.error.empty() ? std::move(picture.pixels) : QImage();
 }
 

@@ -55,6 +55,8 @@ class BitmapInfo : public LayerSettings {
 
     /// Why the source picture is not that of `sSourceImageFullPath`, with the file's name; empty when it is.
     Field<std::string> sSourceProblem;
+    /// What the reader mended in that file, as a plain line without a full stop; empty for one that is whole.
+    Field<std::string> sSourceDamage;
 
     Field<std::int32_t> iBitmapType = kForeground;
     Field<bool> bHaveBitmap = false;
