@@ -1,9 +1,9 @@
 #include "key/refine/Cells.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 
+#include "key/refine/RowLoops.h"
 #include "key/refine/RowRing.h"
 
 namespace tavrin::refine {
@@ -36,7 +36,7 @@ class PullRow {
   public:
     PullRow(const Cells& level, const Cells& coarser)
         : level_(level),
-          coarse_(coarser, 2),
+          coarse_(coarser, 2, 0, level.columns()),
           padded_(level.columns(), 5),
           weight_(static_cast<std::size_t>(level.columns())),
           sums_(weight_.size()),
@@ -47,7 +47,7 @@ class PullRow {
         boxSums(y, values, weight_.data());
         for (int plane = 0; plane < values; ++plane) {
             boxSums(y, plane, sums_.data());
-            coarse_.fill(y, plane, columns, far_.data());
+            coarse_.fill(y, plane, far_.data());
             float* const out = to.row(y, plane);
             for (int x = 0; x < columns; ++x) {
                 const auto i = static_cast<std::size_t>(x);
@@ -66,7 +66,7 @@ class PullRow {
             padded_.pad(i + 1);
             rows[i + 1] = row;
         }
-        refine::boxSums(rows, 1, level_.columns(), padded_.row(3), to);
+        rowLoops().boxSums(rows, 1, level_.columns(), padded_.row(3), to);
     }
 
     const Cells& level_;
@@ -101,37 +101,35 @@ double Cells::sum(int plane) const {
     return sum;
 }
 
-CellRows::CellRows(const Cells& cells, int size)
-    : cells_(cells),
-      size_(size),
-      shares_(static_cast<std::size_t>(size)),
-      line_(static_cast<std::size_t>(cells.columns())) {
+// The strip begins in the middle of a segment between two cells, and may begin or end beyond them all.
+CellRows::CellRows(const Cells& cells, int size, int left, int width)
+    : cells_(cells), size_(size), width_(width), shares_(static_cast<std::size_t>(size + 3)) {
+    const int start = left - size / 2 + size;  // from the segment before the first cell's middle on
+    first_ = start / size - 1;
+    before_ = start % size;
+    count_ = (before_ + width + size - 1) / size;
+    line_.resize(static_cast<std::size_t>(count_) + 2);
+    row_.resize(static_cast<std::size_t>(count_ * size) + 8);
     for (int i = 0; i < size; ++i)
         shares_[static_cast<std::size_t>(i)] =
             (static_cast<float>(size / 2 + i) + 0.5f) / static_cast<float>(size) - 0.5f;
 }
 
-void CellRows::fill(int y, int plane, int width, float* to) {
-    const int columns = cells_.columns();
-    const int next = (y - size_ / 2 + size_) / size_, last = cells_.rows() - 1;
-    const int above = std::clamp(next - 1, 0, last), below = std::min(next, last);
-    const float share = shares_[static_cast<std::size_t>((y - size_ / 2 + size_) % size_)];
+void CellRows::fill(int y, int plane, float* to) {
+    const int next = (y - size_ / 2 + size_) / size_, lowest = cells_.rows() - 1, last = cells_.columns() - 1;
+    const int above = std::clamp(next - 1, 0, lowest), below = std::min(next, lowest);
+    const auto at = static_cast<std::size_t>((y - size_ / 2 + size_) % size_);
+    const float share = (static_cast<float>(static_cast<std::size_t>(size_ / 2) + at) + 0.5f) / static_cast<float>(size_) - 0.5f;
     const float *const a = cells_.row(above, plane), *const b = cells_.row(below, plane);
-    float* const line = line_.data();
-    for (int x = 0; x < columns; ++x)
-        line[x] = a[x] + (b[x] - a[x]) * share;
-
-    const float* const shares = shares_.data();
-    const int first = std::min(size_ / 2, width);
-    std::fill(to, to + first, line[0]);
-    int x = first;
-    for (int c = 0; c + 1 < columns; ++c, x += size_) {
-        const float from = line[c], step = line[c + 1] - from;
-        const int count = std::min(size_, width - x);
-        for (int i = 0; i < count; ++i)
-            to[x + i] = from + step * shares[i];
-    }
-    if (x < width) std::fill(to + x, to + width, line[columns - 1]);
+    // Cells first_ to first_ + count_, of which the first and the last may not be there.
+    const int from = std::clamp(first_, 0, last), end = std::min(first_ + count_, last) + 1;
+    float* const values = line_.data();
+    rowLoops().mix(a + from, b + from, share, end - from, values + (from - first_));
+    if (from > first_) std::fill(values, values + (from - first_), values[from - first_]);
+    for (int c = end; c <= first_ + count_; ++c)
+        values[c - first_] = values[end - 1 - first_];
+    rowLoops().spread(values, shares_.data(), size_, count_, row_.data());
+    std::copy_n(row_.data() + before_, width_, to);
 }
 
 Cells pushPull(const RunContext& context, const Cells& cells) {
@@ -161,16 +159,7 @@ Cells sharesOf(const RunContext& context, const Mask& mask, int size) {
         std::vector<int> counts(static_cast<std::size_t>(cells.columns()));
         const int first = row * size, last = std::min(first + size, mask.height());
         for (int y = first; y < last; ++y) {
-            const std::uint64_t* const words = mask.row(y);
-            for (int c = 0; c < cells.columns(); ++c) {
-                int& count = counts[static_cast<std::size_t>(c)];
-                for (int x = c * size, end = std::min(x + size, mask.width()); x < end;) {
-                    const int bits = std::min(end - x, 64 - x % 64);
-                    const std::uint64_t part = words[x / 64] >> (x % 64);
-                    count += std::popcount(bits == 64 ? part : part & ((std::uint64_t{1} << bits) - 1));
-                    x += bits;
-                }
-            }
+            rowLoops().countBits(mask.row(y), size, mask.width(), counts.data());
         }
         for (int c = 0; c < cells.columns(); ++c) {
             const int pixels = (std::min((c + 1) * size, mask.width()) - c * size) * (last - first);
@@ -181,10 +170,10 @@ Cells sharesOf(const RunContext& context, const Mask& mask, int size) {
     return cells;
 }
 
-Mask maskOf(int width, int height, int size, const std::function<bool(int, int)>& isSet) {
+Mask maskOf(const RunContext& context, int width, int height, int size, const std::function<bool(int, int)>& isSet) {
     Mask mask(width, height);
     const Cells grid = Cells::over(width, height, size, 0);
-    for (int row = 0; row < grid.rows(); ++row) {
+    runRows(context, grid.rows(), 4, [&](int row) {
         std::uint64_t* const first = mask.row(row * size);
         for (int c = 0; c < grid.columns(); ++c) {
             if (!isSet(c, row)) continue;
@@ -193,7 +182,7 @@ Mask maskOf(int width, int height, int size, const std::function<bool(int, int)>
         }
         for (int y = row * size + 1; y < std::min((row + 1) * size, height); ++y)
             std::copy_n(first, mask.words(), mask.row(y));
-    }
+    });
     return mask;
 }
 

@@ -6,6 +6,8 @@
 
 #include "core/raster/Pixels.h"
 #include "key/pixel/ChannelRoles.h"
+#include "key/refine/Areas.h"
+#include "key/refine/MatteLoops.h"
 
 namespace tavrin::refine {
 
@@ -52,7 +54,7 @@ int usualDifference(const Shot& shot) {
 
 float measureSpread(const Shot& shot, const Plate& plate) {
     std::vector<float> distances, alpha(static_cast<std::size_t>(shot.width));
-    StartRows rows(shot, plate);
+    StartRows rows({shot, 0, shot.width}, plate);
     const int step = sampleStep(shot);
     for (int y = 0; y < shot.height; y += step) {
         rows.go(y);
@@ -67,33 +69,37 @@ float measureSpread(const Shot& shot, const Plate& plate) {
     return kDeviation * *middle;
 }
 
-// Sums of the screen's pixels in one row of cells.
-void sumCells(const Shot& shot, const Mask& screen, int row, Cells& cells) {
-    const auto width = static_cast<std::size_t>(shot.width);
-    std::vector<float> lines(8 * width);
-    float *const color = lines.data(), *const sum = color + 4 * width;
+// Sums of the screen's pixels in some words of one row of cells.
+void sumCells(const Shot& shot, const Mask& screen, int row, int word, int words, Cells& cells) {
+    const int left = word * 64, count = std::min(words * 64, shot.width - left);
+    const auto length = static_cast<std::size_t>(count);
+    std::vector<float> lines(8 * length, 0.0f);
+    float *const color = lines.data(), *const weight = color + 3 * length, *const sum = color + 4 * length;
     const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
     for (int y = first; y < last; ++y) {
-        loadColors(shot, y, color, color + width, color + 2 * width);
-        float* const weight = color + 3 * width;
-        screen.unpack(y, weight);
-        for (std::size_t x = 0; x < width; ++x) {
-            sum[x] += color[x] * weight[x];
-            sum[x + width] += color[x + width] * weight[x];
-            sum[x + 2 * width] += color[x + 2 * width] * weight[x];
-            sum[x + 3 * width] += weight[x];
-        }
+        loadColors({shot, left, count}, y, color, color + length, color + 2 * length);
+        screen.unpack(y, left, count, weight);
+        for (std::size_t plane = 0; plane < 3; ++plane)
+            rowLoops().add(color + plane * length, weight, count, sum + plane * length);
+        rowLoops().add(weight, weight, count, sum + 3 * length);
     }
     for (int plane = 0; plane < 4; ++plane) {
-        const float* const from = sum + static_cast<std::size_t>(plane) * width;
-        for (int c = 0; c < cells.columns(); ++c) {
-            const int begin = c * kPlateCell, end = std::min(begin + kPlateCell, shot.width);
+        const float* const from = sum + static_cast<std::size_t>(plane) * length;
+        float* const to = cells.row(row, plane) + left / kPlateCell;
+        for (int begin = 0; begin < count; begin += kPlateCell) {
+            const int end = std::min(begin + kPlateCell, count);
             float all = 0.0f;
             for (int x = begin; x < end; ++x)
                 all += from[x];
-            cells.row(row, plane)[c] = all / static_cast<float>((end - begin) * (last - first));
+            to[begin / kPlateCell] = all / static_cast<float>((end - begin) * (last - first));
         }
     }
+}
+
+// The same, for all words that have any of the screen.
+void sumCells(const Shot& shot, const Mask& screen, int row, Cells& cells) {
+    const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
+    forWords(screen, first, last, [&](int word, int words) { sumCells(shot, screen, row, word, words, cells); });
 }
 
 }  // namespace
@@ -103,15 +109,9 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot) {
     if (usual < kLeastDifference) return std::nullopt;
     Mask seeds(shot.width, shot.height);
     const bool finished = runRowRanges(context, shot.height, 32, [&](int first, int last) {
-        const auto width = static_cast<std::size_t>(shot.width);
-        std::vector<float> lines(3 * width);
-        std::vector<std::uint8_t> flags(width + 8);
-        float *const r = lines.data(), *const g = r + width, *const b = g + width;
-        for (int y = first; y < last; ++y) {
-            loadColors(shot, y, r, g, b);
-            const std::uint8_t* const key = shot.keyRow(y);
-            for (std::size_t x = 0; x < width; ++x)
-                flags[x] = (key[x] == 0) & (g[x] - std::max(r[x], b[x]) > 0.5f * static_cast<float>(usual));
+        std::vector<std::uint8_t> flags(static_cast<std::size_t>(shot.width) + 8);
+        for (int y = first; y < last && !(y != first && context.isSuperseded()); ++y) {
+            rowLoops().seeds(shot.pixelRow(y), shot.keyRow(y), shot.width, shot.blue, usual, flags.data());
             seeds.pack(y, flags.data());
         }
     });
@@ -130,26 +130,20 @@ void paintPlate(const RunContext& context, const Shot& shot, Plate& plate) {
     plate.spread = measureSpread(shot, plate);
 }
 
-StartRows::StartRows(const Shot& shot, const Plate& plate)
-    : shot_(shot),
+StartRows::StartRows(const Strip& strip, const Plate& plate)
+    : strip_(strip),
       least_(kLeastShare * plate.difference),
-      plate_(plate.colors, kPlateCell),
-      lines_(6 * static_cast<std::size_t>(shot.width)) {}
+      plate_(plate.colors, kPlateCell, strip.left, strip.width),
+      lines_(6 * static_cast<std::size_t>(strip.width)) {}
 
 void StartRows::go(int y) {
-    loadColors(shot_, y, line(0), line(1), line(2));
+    loadColors(strip_, y, line(0), line(1), line(2));
     for (int plane = 0; plane < 3; ++plane)
-        plate_.fill(y, plane, shot_.width, line(static_cast<std::size_t>(3 + plane)));
+        plate_.fill(y, plane, line(static_cast<std::size_t>(3 + plane)));
 }
 
 void StartRows::alpha(float* to) const {
-    const float *const red = r(), *const green = g(), *const blue = b();
-    const float *const screenR = plateR(), *const screenG = plateG(), *const screenB = plateB();
-    for (int x = 0; x < shot_.width; ++x) {
-        const float own = green[x] - std::max(red[x], blue[x]);
-        const float whole = std::max(screenG[x] - std::max(screenR[x], screenB[x]), least_);
-        to[x] = std::clamp(1.0f - own / whole, -0.3f, 1.0f);
-    }
+    matteLoops().startAlpha(own(), screen(), least_, strip_.width, to);
 }
 
 }  // namespace tavrin::refine
