@@ -3,31 +3,29 @@
 #include <algorithm>
 #include <cmath>
 
-#include "key/refine/RowLoops.h"
+#include "key/refine/MatteLoops.h"
 #include "key/refine/RowRing.h"
 
 namespace tavrin::refine {
 
 namespace {
 
-constexpr float kFullWeight = 0.25f;  // of a level that needs nothing from the coarser one
 constexpr int kFewCells = 2;
 constexpr int kGrainRows = 16;
 
 // Means of 2 x 2 cells; of those that are there at the right and lower end.
-Cells halved(const Cells& cells) {
+Cells halved(const RunContext& context, const Cells& cells) {
     Cells half((cells.columns() + 1) / 2, (cells.rows() + 1) / 2, cells.planes());
-    for (int plane = 0; plane < cells.planes(); ++plane) {
-        for (int y = 0; y < half.rows(); ++y) {
+    runRows(context, half.rows(), kGrainRows, [&](int y) {
+        for (int plane = 0; plane < cells.planes(); ++plane) {
             const float* const upper = cells.row(2 * y, plane);
             const float* const lower = cells.row(std::min(2 * y + 1, cells.rows() - 1), plane);
             float* const to = half.row(y, plane);
-            for (int x = 0; x < cells.columns() / 2; ++x)
-                to[x] = ((upper[2 * x] + upper[2 * x + 1]) + (lower[2 * x] + lower[2 * x + 1])) * 0.25f;
+            matteLoops().halve(upper, lower, cells.columns() / 2, to);
             const int last = cells.columns() - 1;
             if (cells.columns() % 2 != 0) to[last / 2] = (upper[last] + lower[last]) * 0.5f;
         }
-    }
+    });
     return half;
 }
 
@@ -39,21 +37,18 @@ class PullRow {
           coarse_(coarser, 2, 0, level.columns()),
           padded_(level.columns(), 5),
           weight_(static_cast<std::size_t>(level.columns())),
+          rest_(weight_.size()),
           sums_(weight_.size()),
           far_(weight_.size()) {}
 
     void work(int y, Cells& to) {
         const int columns = level_.columns(), values = level_.planes() - 1;
-        boxSums(y, values, weight_.data());
+        boxSums(y, values, sums_.data());
+        matteLoops().shares(sums_.data(), columns, weight_.data(), rest_.data());
         for (int plane = 0; plane < values; ++plane) {
             boxSums(y, plane, sums_.data());
             coarse_.fill(y, plane, far_.data());
-            float* const out = to.row(y, plane);
-            for (int x = 0; x < columns; ++x) {
-                const auto i = static_cast<std::size_t>(x);
-                const float weight = weight_[i] / 9.0f, own = std::min(weight / kFullWeight, 1.0f);
-                out[x] = far_[i] * (1.0f - own) + own * (sums_[i] / 9.0f) / std::max(weight, 1e-4f);
-            }
+            matteLoops().blend(sums_.data(), weight_.data(), far_.data(), rest_.data(), columns, to.row(y, plane));
         }
     }
 
@@ -72,7 +67,7 @@ class PullRow {
     const Cells& level_;
     CellRows coarse_;
     PaddedRows padded_;
-    std::vector<float> weight_, sums_, far_;
+    std::vector<float> weight_, rest_, sums_, far_;
 };
 
 // One cell of a value everywhere: the mean of all.
@@ -136,7 +131,7 @@ Cells pushPull(const RunContext& context, const Cells& cells) {
     std::vector<Cells> coarser;
     const auto level = [&](std::size_t i) -> const Cells& { return i == 0 ? cells : coarser[i - 1]; };
     while (std::min(level(coarser.size()).columns(), level(coarser.size()).rows()) > kFewCells) {
-        Cells half = halved(level(coarser.size()));
+        Cells half = halved(context, level(coarser.size()));
         coarser.push_back(std::move(half));
     }
     Cells filled = meanOf(level(coarser.size()));

@@ -114,7 +114,7 @@ float middleOn(const Cells& values, const Cells& screen) {
 
 // Connected parts of `far` that are as calm as cloth, not hair.
 Mask calmParts(const RunContext& context, const Shot& shot, const Mask& far, const Mask& screen) {
-    const int size = shot.px(kPartCell);
+    const int size = shot.cell(kPartCell);
     const Cells shares = sharesOf(context, far, size),
                 smooth = blurred(roughness(context, shot, size), static_cast<double>(shot.px(kRoughReach)) / size);
     const float most = kCalm + kCalmFactor * middleOn(smooth, sharesOf(context, screen, size));
@@ -170,7 +170,7 @@ Gaps findGaps(const Cells& solid, int size) {
 
 // Gaps of the solid inside that hold no screen: embroidery, reflections in glasses, prints.
 Mask enclosedGaps(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& solid) {
-    const int size = shot.px(kGapCell);
+    const int size = std::max(2, shot.px(kGapCell));
     const Gaps gaps = findGaps(sharesOf(context, solid, size), size);
     std::vector<std::uint8_t> fill(static_cast<std::size_t>(gaps.parts.count) + 1, 1);
     fill[0] = fill[static_cast<std::size_t>(gaps.parts.labels[0])] = 0;

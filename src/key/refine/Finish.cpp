@@ -18,7 +18,7 @@ constexpr float kHardest = 4.0f;  // how much steeper the hardest edge is
 
 Reach findReach(const RunContext& context, const Findings& findings) {
     Reach reach;
-    reach.size = findings.shot.px(kReachCell);
+    reach.size = findings.shot.cell(kReachCell);
     const Cells shares = sharesOf(context, findings.solid, reach.size);
     Mask inside(shares.columns(), shares.rows());
     std::vector<std::uint8_t> flags(static_cast<std::size_t>(shares.columns()) + 8);

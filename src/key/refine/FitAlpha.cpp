@@ -14,17 +14,12 @@ namespace {
 
 constexpr double kCell = 8.0;
 constexpr double kGlobalShare = 0.1, kNoise = 100.0;  // of the covariance
-constexpr double kAlike = 5.0;  // distance of two colours, in deviations squared, that says little
 constexpr float kSureAlpha = 0.95f;
 constexpr int kSums = 9;  // of colours and their products
 constexpr int kHalo = 4;  // columns beyond an area that its windows look at
 
 // The six different products of three channels.
 constexpr int kPairs[6][2] = {{0, 0}, {0, 1}, {0, 2}, {1, 1}, {1, 2}, {2, 2}};
-
-int cellSize(const Shot& shot) {
-    return std::max(2, shot.px(kCell));
-}
 
 // Sums of the sure pixels' colours and products, column by column.
 class ColumnSums {
@@ -76,7 +71,6 @@ void sumColors(const Shot& shot, const Mask& sure, int size, int row, const Stri
     }
 }
 
-using Vector3 = std::array<double, 3>;
 using Symmetric3 = std::array<double, 6>;  // as kPairs
 
 Symmetric3 covariance(const std::array<double, kSums>& means) {
@@ -87,16 +81,6 @@ Symmetric3 covariance(const std::array<double, kSums>& means) {
     return result;
 }
 
-// Solves s x = d by the adjoint; s is positive definite.
-Vector3 solve(const Symmetric3& s, const Vector3& d) {
-    const auto [a, b, c, e, f, i] = s;
-    const double aa = e * i - f * f, ab = c * f - b * i, ac = b * f - c * e;
-    const double bb = a * i - c * c, bc = b * c - a * f, cc = a * e - b * b;
-    const double whole = a * aa + b * ab + c * ac;
-    return {(aa * d[0] + ab * d[1] + ac * d[2]) / whole, (ab * d[0] + bb * d[1] + bc * d[2]) / whole,
-            (ac * d[0] + bc * d[1] + cc * d[2]) / whole};
-}
-
 std::array<double, kSums> overallMeans(const Cells& cells) {
     const double weight = std::max(cells.sum(kSums), 1e-6);
     std::array<double, kSums> means;
@@ -105,68 +89,54 @@ std::array<double, kSums> overallMeans(const Cells& cells) {
     return means;
 }
 
-// The direction in which a cell's subject lies farthest from its screen.
-struct Direction {
-    Vector3 weights;
-    double certainty;
-};
-
-Direction directionOf(const std::array<double, kSums>& mean, const Symmetric3& overall, const Vector3& screen) {
-    Symmetric3 s = covariance(mean);
-    for (std::size_t i = 0; i < 6; ++i)
-        s[i] = (1.0 - kGlobalShare) * s[i] + kGlobalShare * overall[i] +
-               (kPairs[i][0] == kPairs[i][1] ? kNoise : 0.0);
-    Vector3 apart;
-    for (std::size_t i = 0; i < 3; ++i)
-        apart[i] = mean[i] - screen[i];
-    const Vector3 y = solve(s, apart);
-    const double squared = std::max(y[0] * apart[0] + y[1] * apart[1] + y[2] * apart[2], 1e-6);
-    return {{y[0] / squared, y[1] / squared, y[2] / squared}, squared * squared / (squared * squared + kAlike * kAlike)};
-}
-
-// The plate at the middle of each cell of a row.
-std::vector<Vector3> screenColors(const Shot& shot, const Plate& plate, int size, int row, int columns) {
-    std::vector<Vector3> colors(static_cast<std::size_t>(columns));
+// The plate at the middle of each cell of a row, three planes.
+std::vector<float> screenColors(const Shot& shot, const Plate& plate, int size, int row, int columns) {
+    std::vector<float> colors(3 * static_cast<std::size_t>(columns)), line(static_cast<std::size_t>(shot.width));
     CellRows rows(plate.colors, kPlateCell, 0, shot.width);
-    std::vector<float> line(static_cast<std::size_t>(shot.width));
     for (int plane = 0; plane < 3; ++plane) {
         rows.fill(std::min(row * size + size / 2, shot.height - 1), plane, line.data());
         for (int c = 0; c < columns; ++c)
-            colors[static_cast<std::size_t>(c)][static_cast<std::size_t>(plane)] =
-                static_cast<double>(line[static_cast<std::size_t>(std::min(c * size + size / 2, shot.width - 1))]);
+            colors[static_cast<std::size_t>(plane * columns + c)] =
+                line[static_cast<std::size_t>(std::min(c * size + size / 2, shot.width - 1))];
     }
     return colors;
+}
+
+// What is added to the covariance of every cell.
+Symmetric3 commonCovariance(const Cells& cells) {
+    Symmetric3 common = covariance(overallMeans(cells));
+    for (std::size_t i = 0; i < 6; ++i)
+        common[i] = kGlobalShare * common[i] + (kPairs[i][0] == kPairs[i][1] ? kNoise : 0.0);
+    return common;
 }
 
 }  // namespace
 
 Separation separate(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& sure) {
     Separation result;
-    const int size = result.size = cellSize(shot);
+    const int size = result.size = shot.cell(kCell);
     Cells cells = Cells::over(shot.width, shot.height, size, kSums + 1);
     runRows(context, cells.rows(), 2, [&](int row) {
         forWords(sure, row * size, std::min((row + 1) * size, shot.height), [&](int word, int words) {
             sumColors(shot, sure, size, row, {shot, word * 64, std::min(words * 64, shot.width - word * 64)}, cells);
         });
     });
-    const Symmetric3 overall = covariance(overallMeans(cells));
+    const Symmetric3 common = commonCovariance(cells);
     const Cells means = pushPull(context, cells);
-    result.weights = Cells(cells.columns(), cells.rows(), 3);
-    result.subject = result.weights;
+    result.weights = result.subject = Cells(cells.columns(), cells.rows(), 3);
     result.certainty = Cells(cells.columns(), cells.rows(), 1);
     runRows(context, cells.rows(), 4, [&](int row) {
-        const std::vector<Vector3> screen = screenColors(shot, plate, size, row, cells.columns());
-        for (int c = 0; c < cells.columns(); ++c) {
-            std::array<double, kSums> mean;
-            for (int i = 0; i < kSums; ++i)
-                mean[static_cast<std::size_t>(i)] = static_cast<double>(means.row(row, i)[c]);
-            const Direction direction = directionOf(mean, overall, screen[static_cast<std::size_t>(c)]);
-            for (std::size_t i = 0; i < 3; ++i) {
-                result.weights.row(row, static_cast<int>(i))[c] = static_cast<float>(direction.weights[i]);
-                result.subject.row(row, static_cast<int>(i))[c] = static_cast<float>(mean[i]);
-            }
-            result.certainty.row(row, 0)[c] = static_cast<float>(direction.certainty);
-        }
+        const int columns = cells.columns();
+        const std::vector<float> screen = screenColors(shot, plate, size, row, columns);
+        const float* from[kSums];
+        for (int i = 0; i < kSums; ++i)
+            from[i] = means.row(row, i);
+        float* const to[] = {result.weights.row(row, 0), result.weights.row(row, 1), result.weights.row(row, 2),
+                             result.certainty.row(row, 0)};
+        matteLoops().directions(from, {screen.data(), screen.data() + columns, screen.data() + 2 * columns},
+                                common.data(), columns, to);
+        for (int i = 0; i < 3; ++i)
+            std::copy_n(from[i], columns, result.subject.row(row, i));
     });
     return result;
 }

@@ -58,6 +58,38 @@ void fit(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* cer
     }
 }
 
+// By the adjoint of the covariance, which is positive definite.
+void directions(const float* const* means, ChannelRow screen, const double* common, int count, float* const* to) {
+    constexpr double kOwnShare = 0.9;
+    constexpr double kAlike = 5.0;  // distance of two colours, in deviations squared, that says little
+    const float *const rs = means[0], *const gs = means[1], *const bs = means[2], *const rr = means[3],
+                *const rg = means[4], *const rb = means[5], *const gg = means[6], *const gb = means[7],
+                *const bb = means[8];
+    float *const HWY_RESTRICT wr = to[0], *const HWY_RESTRICT wg = to[1], *const HWY_RESTRICT wb = to[2],
+                              *const HWY_RESTRICT certain = to[3];
+    const auto number = [](float value) { return static_cast<double>(value); };
+    for (int x = 0; x < count; ++x) {
+        const double r = number(rs[x]), g = number(gs[x]), b = number(bs[x]);
+        const double a = kOwnShare * (number(rr[x]) - r * r) + common[0];
+        const double ab = kOwnShare * (number(rg[x]) - r * g) + common[1];
+        const double ac = kOwnShare * (number(rb[x]) - r * b) + common[2];
+        const double e = kOwnShare * (number(gg[x]) - g * g) + common[3];
+        const double ec = kOwnShare * (number(gb[x]) - g * b) + common[4];
+        const double i = kOwnShare * (number(bb[x]) - b * b) + common[5];
+        const double aa = e * i - ec * ec, ba = ac * ec - ab * i, ca = ab * ec - ac * e;
+        const double bc = ab * ac - a * ec, ee = a * i - ac * ac, cc = a * e - ab * ab;
+        const double dr = r - number(screen.r[x]), dg = g - number(screen.g[x]), db = b - number(screen.b[x]);
+        const double whole = a * aa + ab * ba + ac * ca;
+        const double yr = (aa * dr + ba * dg + ca * db) / whole, yg = (ba * dr + ee * dg + bc * db) / whole,
+                     yb = (ca * dr + bc * dg + cc * db) / whole;
+        const double squared = std::max(yr * dr + yg * dg + yb * db, 1e-6), far = squared * squared;
+        wr[x] = static_cast<float>(yr / squared);
+        wg[x] = static_cast<float>(yg / squared);
+        wb[x] = static_cast<float>(yb / squared);
+        certain[x] = static_cast<float>(far / (far + kAlike * kAlike));
+    }
+}
+
 void loadAlpha(const std::uint16_t* HWY_RESTRICT steps, int count, float* HWY_RESTRICT to) {
     for (int x = 0; x < count; ++x)
         to[x] = static_cast<float>(static_cast<std::int32_t>(steps[x])) * (1.0f / 65535.0f);
@@ -77,6 +109,21 @@ void halve(const float* HWY_RESTRICT upper, const float* HWY_RESTRICT lower, int
 void nearMix(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b, int count, float* HWY_RESTRICT to) {
     for (int i = 0; i < count; ++i)
         to[i] = 0.75f * a[i] + 0.25f * b[i];
+}
+
+void shares(const float* HWY_RESTRICT weights, int count, float* HWY_RESTRICT factor, float* HWY_RESTRICT rest) {
+    constexpr float kFullWeight = 0.25f;
+    for (int x = 0; x < count; ++x) {
+        const float weight = weights[x] / 9.0f, own = std::min(weight / kFullWeight, 1.0f);
+        factor[x] = own / (9.0f * std::max(weight, 1e-4f));
+        rest[x] = 1.0f - own;
+    }
+}
+
+void blend(const float* HWY_RESTRICT a, const float* HWY_RESTRICT factorA, const float* HWY_RESTRICT b,
+           const float* HWY_RESTRICT factorB, int count, float* HWY_RESTRICT to) {
+    for (int x = 0; x < count; ++x)
+        to[x] = a[x] * factorA[x] + b[x] * factorB[x];
 }
 
 void widen(const float* HWY_RESTRICT values, int pairs, float* HWY_RESTRICT to) {
@@ -137,8 +184,8 @@ void slope(float* const* sums, const float* HWY_RESTRICT rest, int count, float*
 }  // namespace
 
 const refine::MatteLoops& matteLoopsHere() {
-    static constexpr refine::MatteLoops loops{&startAlpha, &ratio,   &distance, &fit,   &loadAlpha, &storeAlpha,
-                                              &halve,      &nearMix, &widen,    &sharpen, &products, &slope};
+    static constexpr refine::MatteLoops loops{&startAlpha, &ratio,   &distance, &fit, &directions, &loadAlpha, &storeAlpha,
+                                              &halve,      &nearMix, &shares, &blend, &widen,    &sharpen, &products, &slope};
     return loops;
 }
 

@@ -15,6 +15,11 @@ struct MatteLoops {
     /// alpha: in the simple one, out the one along `weights`, as far as `certain`; else the simple one or `near`.
     void (*fit)(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* certain, const float* near,
                 int count, float* alpha);
+    /// For cells with `means` of three channels and of their six products: the weights of the direction in which the
+    /// subject lies farthest from the screen, and how sure it is. `common` is what all covariances have besides nine
+    /// tenths of their own.
+    void (*directions)(const float* const* means, ChannelRow screen, const double* common, int count,
+                       float* const* to);
     /// Alpha of steps of 1 / 65535.
     void (*loadAlpha)(const std::uint16_t* steps, int count, float* to);
     void (*storeAlpha)(const float* alpha, int count, std::uint16_t* steps);
@@ -22,6 +27,11 @@ struct MatteLoops {
     void (*halve)(const float* upper, const float* lower, int pairs, float* to);
     /// to = 0.75 a + 0.25 b
     void (*nearMix)(const float* a, const float* b, int count, float* to);
+    /// From the weights of nine cells: the factor of their values' sum, and the share that is left for what lies
+    /// around; none from a mean weight of a quarter on.
+    void (*shares)(const float* weights, int count, float* factor, float* rest);
+    /// to = a (factor of a) + b (factor of b)
+    void (*blend)(const float* a, const float* factorA, const float* b, const float* factorB, int count, float* to);
     /// Doubles `pairs` of values, which have one before and one after them.
     void (*widen)(const float* values, int pairs, float* to);
     /// A row after what a Gaussian of 1.2 pixels takes from it was added, `strength` times; from 9 padded rows.

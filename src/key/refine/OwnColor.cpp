@@ -102,15 +102,14 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
 ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, const Strip& strip)
     : findings_(findings),
       strip_(strip),
-      around_(strip, findings.plate),
-      here_(strip, findings.plate),
+      start_(strip, findings.plate),
       scratch_(strip.width, 12),
       shares_(strip.width, findings.shot.height, 1,
               [this](int y, float** planes) {
-                  around_.go(y);
+                  start_.load(y, planes + 4);
                   plainAlpha(findings_, strip_, y, scratch_.row(10), planes[3]);
-                  finishLoops().remainder(around_.own(), around_.screen(), planes[3], strip_.width, planes[0],
-                                          planes[1], planes[2]);
+                  finishLoops().remainder({planes[4], planes[5], planes[6]}, {planes[7], planes[8], planes[9]},
+                                          planes[3], strip_.width, planes[0], planes[1], planes[2]);
               }),
       subject_(findings.separation.subject, findings.separation.size, strip.left, strip.width),
       own_(limits.own, GreenLimits::kOwnCell, strip.left, strip.width),
@@ -125,9 +124,11 @@ void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
     own_.fill(y, 0, scratch_.row(7));
     inner_.fill(y, 0, scratch_.row(8));
     loadLuma(strip_, y, scratch_.row(9));
-    here_.go(y);
+    const auto here = [&](int plane) -> ChannelRow {
+        return {shares_.at(y, plane), shares_.at(y, plane + 1), shares_.at(y, plane + 2)};
+    };
     const LumaWeights luma(strip_.shot.blue);
-    finishLoops().colors({here_.own(), here_.screen(), rowsFrom(0), scratch_.row(3), rowsFrom(4), scratch_.row(7),
+    finishLoops().colors({here(4), here(7), rowsFrom(0), scratch_.row(3), rowsFrom(4), scratch_.row(7),
                           scratch_.row(8), scratch_.row(9), alpha, luma.r, luma.g, luma.b},
                          strip_.shot.blue, width, to);
 }

@@ -30,9 +30,9 @@ class ColorRows {
 
     const Findings& findings_;
     Strip strip_;
-    StartRows around_, here_;
+    StartRows start_;
     PaddedRows scratch_;
-    RowRing<4, Maker> shares_;
+    RowRing<10, Maker> shares_;  // the remainder, alpha, the picture, the plate
     CellRows subject_, own_, inner_;
 };
 

@@ -136,10 +136,15 @@ StartRows::StartRows(const Strip& strip, const Plate& plate)
       plate_(plate.colors, kPlateCell, strip.left, strip.width),
       lines_(6 * static_cast<std::size_t>(strip.width)) {}
 
-void StartRows::go(int y) {
-    loadColors(strip_, y, line(0), line(1), line(2));
+void StartRows::load(int y, float* const* planes) {
+    loadColors(strip_, y, planes[0], planes[1], planes[2]);
     for (int plane = 0; plane < 3; ++plane)
-        plate_.fill(y, plane, line(static_cast<std::size_t>(3 + plane)));
+        plate_.fill(y, plane, planes[3 + plane]);
+}
+
+void StartRows::go(int y) {
+    float* const planes[] = {line(0), line(1), line(2), line(3), line(4), line(5)};
+    load(y, planes);
 }
 
 void StartRows::alpha(float* to) const {

@@ -37,6 +37,8 @@ class StartRows {
   public:
     StartRows(const Strip& strip, const Plate& plate);
 
+    /// Row `y` of the picture's three channels and of the plate's.
+    void load(int y, float* const* planes);
     /// Goes to row `y`: all that follows is of this row.
     void go(int y);
     /// -0.3 to 1.

@@ -108,7 +108,7 @@ void mendScreen(const RunContext& context, const Shot& shot, Plate& plate) {
     Mask open = thinPixels(context, shot);
     open &= plate.screen.inverted();
     runAreas(context, open, [&](const Area& area) { findSoft(context, shot, plate, area, soft); });
-    Mask shadows = reachable(context, plate.screen, soft, shot.px(kReachCell));
+    Mask shadows = reachable(context, plate.screen, soft, shot.cell(kReachCell));
     shadows &= soft;
     plate.screen |= shadows;
 }

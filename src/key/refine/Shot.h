@@ -9,6 +9,8 @@ namespace tavrin::refine {
 
 /// What the second look at the key goes by: the picture, and what the key made of it.
 struct Shot {
+    static constexpr int kLeastCell = 4;
+
     int width = 0, height = 0;             ///< at least 1
     const std::uint8_t* pixels = nullptr;  ///< RGBA, rows packed
     const std::uint8_t* key = nullptr;     ///< the key's alpha of each pixel, rows packed
@@ -16,6 +18,8 @@ struct Shot {
 
     /// A length told for a picture of 5 megapixels, in pixels of this one; at least 1.
     int px(double length) const;
+    /// The same for the side of a cell: small pictures have no more cells for their pixels than others.
+    int cell(double length) const { return std::max(kLeastCell, px(length)); }
     const std::uint8_t* keyRow(int y) const { return key + std::int64_t{y} * width; }
     const std::uint32_t* pixelRow(int y) const;
 };
