@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "key/refine/MatteLoops.h"
 #include "key/refine/RowRing.h"
@@ -58,7 +59,7 @@ class PullRow {
         for (int i = -1; i <= 1; ++i) {
             float* const row = padded_.row(i + 1);
             std::copy_n(level_.row(mirrored(y + i, level_.rows()), plane), level_.columns(), row);
-            padded_.pad(i + 1);
+            padded_.pad(i + 1, 1);
             rows[i + 1] = row;
         }
         rowLoops().boxSums(rows, 1, level_.columns(), padded_.row(3), to);
@@ -98,33 +99,40 @@ double Cells::sum(int plane) const {
 
 // The strip begins in the middle of a segment between two cells, and may begin or end beyond them all.
 CellRows::CellRows(const Cells& cells, int size, int left, int width)
-    : cells_(cells), size_(size), width_(width), shares_(static_cast<std::size_t>(size + 3)) {
+    : cells_(cells),
+      size_(size),
+      width_(width),
+      spreadRows_(2 * static_cast<std::size_t>(cells.planes()), -1),
+      shares_(static_cast<std::size_t>(size + 3)) {
     const int start = left - size / 2 + size;  // from the segment before the first cell's middle on
     first_ = start / size - 1;
     before_ = start % size;
     count_ = (before_ + width + size - 1) / size;
     line_.resize(static_cast<std::size_t>(count_) + 2);
-    row_.resize(static_cast<std::size_t>(count_ * size) + 8);
+    rows_.resize(spreadRows_.size() * static_cast<std::size_t>(count_ * size + 8));
     for (int i = 0; i < size; ++i)
         shares_[static_cast<std::size_t>(i)] =
             (static_cast<float>(size / 2 + i) + 0.5f) / static_cast<float>(size) - 0.5f;
 }
 
-void CellRows::fill(int y, int plane, float* to) {
-    const int next = (y - size_ / 2 + size_) / size_, lowest = cells_.rows() - 1, last = cells_.columns() - 1;
-    const int above = std::clamp(next - 1, 0, lowest), below = std::min(next, lowest);
-    const auto at = static_cast<std::size_t>((y - size_ / 2 + size_) % size_);
-    const float share = (static_cast<float>(static_cast<std::size_t>(size_ / 2) + at) + 0.5f) / static_cast<float>(size_) - 0.5f;
-    const float *const a = cells_.row(above, plane), *const b = cells_.row(below, plane);
+// A row of cells as a row of pixels.
+const float* CellRows::spread(int cellRow, int plane) {
+    const auto slot = static_cast<std::size_t>(2 * plane + (cellRow & 1));
+    float* const to = rows_.data() + slot * static_cast<std::size_t>(count_ * size_ + 8);
+    if (std::exchange(spreadRows_[slot], cellRow) == cellRow) return to + before_;
     // Cells first_ to first_ + count_, of which the first and the last may not be there.
-    const int from = std::clamp(first_, 0, last), end = std::min(first_ + count_, last) + 1;
-    float* const values = line_.data();
-    rowLoops().mix(a + from, b + from, share, end - from, values + (from - first_));
-    if (from > first_) std::fill(values, values + (from - first_), values[from - first_]);
-    for (int c = end; c <= first_ + count_; ++c)
-        values[c - first_] = values[end - 1 - first_];
-    rowLoops().spread(values, shares_.data(), size_, count_, row_.data());
-    std::copy_n(row_.data() + before_, width_, to);
+    const float* const cells = cells_.row(cellRow, plane);
+    for (int i = 0; i <= count_; ++i)
+        line_[static_cast<std::size_t>(i)] = cells[std::clamp(first_ + i, 0, cells_.columns() - 1)];
+    rowLoops().spread(line_.data(), shares_.data(), size_, count_, to);
+    return to + before_;
+}
+
+void CellRows::fill(int y, int plane, float* to) {
+    const int next = (y - size_ / 2 + size_) / size_, last = cells_.rows() - 1;
+    const int above = std::clamp(next - 1, 0, last), below = std::min(next, last);
+    const float share = shares_[static_cast<std::size_t>((y - size_ / 2 + size_) % size_)];
+    rowLoops().mix(spread(above, plane), spread(below, plane), share, width_, to);
 }
 
 Cells pushPull(const RunContext& context, const Cells& cells) {

@@ -46,9 +46,12 @@ class CellRows {
     void fill(int y, int plane, float* to);
 
   private:
+    const float* spread(int cellRow, int plane);
+
     const Cells& cells_;
     int size_, before_, first_, count_, width_;
-    std::vector<float> shares_, line_, row_;
+    std::vector<int> spreadRows_;  // of each plane: the two rows of cells that were spread last, the even one first
+    std::vector<float> shares_, line_, rows_;
 };
 
 /// Fills what has no weight from what lies around: halves the cells until few are left, and coming back keeps a

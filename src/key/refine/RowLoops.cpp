@@ -149,13 +149,36 @@ void windowRange(const float* const* rows, int r, int count, float* least, float
     joinRange(r, all, low, high);
 }
 
+// Most words are empty or full.
 void countBits(const std::uint64_t* words, int size, int width, int* counts) {
+    constexpr std::uint64_t kAll = ~std::uint64_t{0};
     for (int c = 0; c * size < width; ++c) {
-        for (int x = c * size, end = std::min(x + size, width); x < end;) {
+        int x = c * size;
+        const std::uint64_t word = words[x / 64];
+        if (word == 0 || word == kAll) {
+            for (const int end = std::min(x / 64 * 64 + 64, width); x + size <= end; x += size)
+                counts[c++] += word == 0 ? 0 : size;
+            if (c * size >= width) return;
+        }
+        for (const int end = std::min((c + 1) * size, width); x < end;) {
             const int bits = std::min(end - x, 64 - x % 64);
-            counts[c] += std::popcount((words[x / 64] >> (x % 64)) & (~std::uint64_t{0} >> (64 - bits)));
+            counts[c] += std::popcount((words[x / 64] >> (x % 64)) & (kAll >> (64 - bits)));
             x += bits;
         }
+    }
+}
+
+void sumGroups(const float* HWY_RESTRICT values, int size, int count, float* HWY_RESTRICT to) {
+    if (size == 4) {
+        for (int c = 0; c < count; ++c)
+            to[c] = (values[4 * c] + values[4 * c + 1]) + (values[4 * c + 2] + values[4 * c + 3]);
+        return;
+    }
+    for (int c = 0; c < count; ++c) {
+        float sum = 0.0f;
+        for (int i = 0; i < size; ++i)
+            sum += values[c * size + i];
+        to[c] = sum;
     }
 }
 
@@ -163,7 +186,7 @@ void countBits(const std::uint64_t* words, int size, int width, int* counts) {
 
 const refine::RowLoops& rowLoopsHere() {
     static constexpr refine::RowLoops loops{&loadColors, &loadLuma,   &seeds, &mix,   &spread,     &boxSums,
-                                            &add,        &addProduct, &above, &below, &windowRange, &countBits};
+                                            &add,        &addProduct, &above, &below, &windowRange, &countBits, &sumGroups};
     return loops;
 }
 

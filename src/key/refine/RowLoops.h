@@ -38,6 +38,8 @@ struct RowLoops {
     void (*windowRange)(const float* const* rows, int r, int count, float* least, float* greatest);
     /// counts += the bits that are set in each `size` columns of the first `width`
     void (*countBits)(const std::uint64_t* words, int size, int width, int* counts);
+    /// Sums of each `size` values, whole numbers; `count` of them.
+    void (*sumGroups)(const float* values, int size, int count, float* to);
 };
 
 /// The loops of this machine.

@@ -28,16 +28,10 @@ class PaddedRows {
 
     float* row(int index) { return values_.data() + stride_ * static_cast<std::size_t>(index) + kRowPad; }
 
-    void pad(int index) {
+    /// Mirrors `reach` columns at both ends of a row.
+    void pad(int index, int reach) {
         float* const values = row(index);
-        if (width_ > kRowPad) {
-            for (int i = 1; i <= kRowPad; ++i) {
-                values[-i] = values[i];
-                values[width_ - 1 + i] = values[width_ - 1 - i];
-            }
-            return;
-        }
-        for (int i = 1; i <= kRowPad; ++i) {
+        for (int i = 1; i <= reach; ++i) {
             values[-i] = values[mirrored(-i, width_)];
             values[width_ - 1 + i] = values[mirrored(width_ - 1 + i, width_)];
         }
@@ -54,9 +48,10 @@ class PaddedRows {
 template <int kPlanes, class Make>
 class RowRing {
   public:
-    /// @param reach rows asked for at a time to either side of the one under work
+    /// @param reach rows and columns asked for at a time to either side of those under work
     RowRing(int width, int height, int reach, Make make)
         : height_(height),
+          reach_(reach),
           kept_(std::bit_ceil(static_cast<std::size_t>(2 * reach + 1)), -1),
           rows_(width, kPlanes * static_cast<int>(kept_.size())),
           window_(static_cast<std::size_t>(2 * reach + 1)),
@@ -82,13 +77,13 @@ class RowRing {
                 planes[p] = rows_.row(index * kPlanes + p);
             make_(row, planes);
             for (int p = 0; p < kPlanes; ++p)
-                rows_.pad(index * kPlanes + p);
+                rows_.pad(index * kPlanes + p, reach_);
             kept = row;
         }
         return index;
     }
 
-    int height_;
+    int height_, reach_;
     std::vector<int> kept_;
     PaddedRows rows_;
     std::vector<const float*> window_;
