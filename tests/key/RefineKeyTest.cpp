@@ -226,13 +226,19 @@ TEST(RefineCells, HolesTakeWhatLiesAroundAndRowsAreStraightLines) {
     refine::Cells ramp(5, 1, 1);
     for (int x = 0; x < 5; ++x)
         ramp.row(0, 0)[x] = static_cast<float>(x);
-    refine::CellRows rows(ramp, 3);
+    refine::CellRows rows(ramp, 3, 0, 14);
     std::vector<float> row(14);
-    rows.fill(1, 0, 14, row.data());
+    rows.fill(1, 0, row.data());
     EXPECT_FLOAT_EQ(row[0], 0.0f);
     EXPECT_FLOAT_EQ(row[1], 0.0f);
     EXPECT_NEAR(row[5], 4.0f / 3.0f, 1e-6);
     EXPECT_FLOAT_EQ(row[13], 4.0f);
+    for (int left = 0; left < 14; ++left) {
+        refine::CellRows part(ramp, 3, left, 14 - left);
+        std::vector<float> rest(row.size() - static_cast<std::size_t>(left));
+        part.fill(1, 0, rest.data());
+        EXPECT_TRUE(std::equal(rest.begin(), rest.end(), row.begin() + left)) << left;
+    }
 }
 
 }  // namespace

@@ -1,33 +1,32 @@
 #include "key/refine/Cells.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
+#include <utility>
 
+#include "key/refine/MatteLoops.h"
 #include "key/refine/RowRing.h"
 
 namespace tavrin::refine {
 
 namespace {
 
-constexpr float kFullWeight = 0.25f;  // of a level that needs nothing from the coarser one
 constexpr int kFewCells = 2;
 constexpr int kGrainRows = 16;
 
 // Means of 2 x 2 cells; of those that are there at the right and lower end.
-Cells halved(const Cells& cells) {
+Cells halved(const RunContext& context, const Cells& cells) {
     Cells half((cells.columns() + 1) / 2, (cells.rows() + 1) / 2, cells.planes());
-    for (int plane = 0; plane < cells.planes(); ++plane) {
-        for (int y = 0; y < half.rows(); ++y) {
+    runRows(context, half.rows(), kGrainRows, [&](int y) {
+        for (int plane = 0; plane < cells.planes(); ++plane) {
             const float* const upper = cells.row(2 * y, plane);
             const float* const lower = cells.row(std::min(2 * y + 1, cells.rows() - 1), plane);
             float* const to = half.row(y, plane);
-            for (int x = 0; x < cells.columns() / 2; ++x)
-                to[x] = ((upper[2 * x] + upper[2 * x + 1]) + (lower[2 * x] + lower[2 * x + 1])) * 0.25f;
+            matteLoops().halve(upper, lower, cells.columns() / 2, to);
             const int last = cells.columns() - 1;
             if (cells.columns() % 2 != 0) to[last / 2] = (upper[last] + lower[last]) * 0.5f;
         }
-    }
+    });
     return half;
 }
 
@@ -36,24 +35,21 @@ class PullRow {
   public:
     PullRow(const Cells& level, const Cells& coarser)
         : level_(level),
-          coarse_(coarser, 2),
+          coarse_(coarser, 2, 0, level.columns()),
           padded_(level.columns(), 5),
           weight_(static_cast<std::size_t>(level.columns())),
+          rest_(weight_.size()),
           sums_(weight_.size()),
           far_(weight_.size()) {}
 
     void work(int y, Cells& to) {
         const int columns = level_.columns(), values = level_.planes() - 1;
-        boxSums(y, values, weight_.data());
+        boxSums(y, values, sums_.data());
+        matteLoops().shares(sums_.data(), columns, weight_.data(), rest_.data());
         for (int plane = 0; plane < values; ++plane) {
             boxSums(y, plane, sums_.data());
-            coarse_.fill(y, plane, columns, far_.data());
-            float* const out = to.row(y, plane);
-            for (int x = 0; x < columns; ++x) {
-                const auto i = static_cast<std::size_t>(x);
-                const float weight = weight_[i] / 9.0f, own = std::min(weight / kFullWeight, 1.0f);
-                out[x] = far_[i] * (1.0f - own) + own * (sums_[i] / 9.0f) / std::max(weight, 1e-4f);
-            }
+            coarse_.fill(y, plane, far_.data());
+            matteLoops().blend(sums_.data(), weight_.data(), far_.data(), rest_.data(), columns, to.row(y, plane));
         }
     }
 
@@ -63,16 +59,16 @@ class PullRow {
         for (int i = -1; i <= 1; ++i) {
             float* const row = padded_.row(i + 1);
             std::copy_n(level_.row(mirrored(y + i, level_.rows()), plane), level_.columns(), row);
-            padded_.pad(i + 1);
+            padded_.pad(i + 1, 1);
             rows[i + 1] = row;
         }
-        refine::boxSums(rows, 1, level_.columns(), padded_.row(3), to);
+        rowLoops().boxSums(rows, 1, level_.columns(), padded_.row(3), to);
     }
 
     const Cells& level_;
     CellRows coarse_;
     PaddedRows padded_;
-    std::vector<float> weight_, sums_, far_;
+    std::vector<float> weight_, rest_, sums_, far_;
 };
 
 // One cell of a value everywhere: the mean of all.
@@ -101,44 +97,49 @@ double Cells::sum(int plane) const {
     return sum;
 }
 
-CellRows::CellRows(const Cells& cells, int size)
+// The strip begins in the middle of a segment between two cells, and may begin or end beyond them all.
+CellRows::CellRows(const Cells& cells, int size, int left, int width)
     : cells_(cells),
       size_(size),
-      shares_(static_cast<std::size_t>(size)),
-      line_(static_cast<std::size_t>(cells.columns())) {
+      width_(width),
+      spreadRows_(2 * static_cast<std::size_t>(cells.planes()), -1),
+      shares_(static_cast<std::size_t>(size + 3)) {
+    const int start = left - size / 2 + size;  // from the segment before the first cell's middle on
+    first_ = start / size - 1;
+    before_ = start % size;
+    count_ = (before_ + width + size - 1) / size;
+    line_.resize(static_cast<std::size_t>(count_) + 2);
+    rows_.resize(spreadRows_.size() * static_cast<std::size_t>(count_ * size + 8));
     for (int i = 0; i < size; ++i)
         shares_[static_cast<std::size_t>(i)] =
             (static_cast<float>(size / 2 + i) + 0.5f) / static_cast<float>(size) - 0.5f;
 }
 
-void CellRows::fill(int y, int plane, int width, float* to) {
-    const int columns = cells_.columns();
+// A row of cells as a row of pixels.
+const float* CellRows::spread(int cellRow, int plane) {
+    const auto slot = static_cast<std::size_t>(2 * plane + (cellRow & 1));
+    float* const to = rows_.data() + slot * static_cast<std::size_t>(count_ * size_ + 8);
+    if (std::exchange(spreadRows_[slot], cellRow) == cellRow) return to + before_;
+    // Cells first_ to first_ + count_, of which the first and the last may not be there.
+    const float* const cells = cells_.row(cellRow, plane);
+    for (int i = 0; i <= count_; ++i)
+        line_[static_cast<std::size_t>(i)] = cells[std::clamp(first_ + i, 0, cells_.columns() - 1)];
+    rowLoops().spread(line_.data(), shares_.data(), size_, count_, to);
+    return to + before_;
+}
+
+void CellRows::fill(int y, int plane, float* to) {
     const int next = (y - size_ / 2 + size_) / size_, last = cells_.rows() - 1;
     const int above = std::clamp(next - 1, 0, last), below = std::min(next, last);
     const float share = shares_[static_cast<std::size_t>((y - size_ / 2 + size_) % size_)];
-    const float *const a = cells_.row(above, plane), *const b = cells_.row(below, plane);
-    float* const line = line_.data();
-    for (int x = 0; x < columns; ++x)
-        line[x] = a[x] + (b[x] - a[x]) * share;
-
-    const float* const shares = shares_.data();
-    const int first = std::min(size_ / 2, width);
-    std::fill(to, to + first, line[0]);
-    int x = first;
-    for (int c = 0; c + 1 < columns; ++c, x += size_) {
-        const float from = line[c], step = line[c + 1] - from;
-        const int count = std::min(size_, width - x);
-        for (int i = 0; i < count; ++i)
-            to[x + i] = from + step * shares[i];
-    }
-    if (x < width) std::fill(to + x, to + width, line[columns - 1]);
+    rowLoops().mix(spread(above, plane), spread(below, plane), share, width_, to);
 }
 
 Cells pushPull(const RunContext& context, const Cells& cells) {
     std::vector<Cells> coarser;
     const auto level = [&](std::size_t i) -> const Cells& { return i == 0 ? cells : coarser[i - 1]; };
     while (std::min(level(coarser.size()).columns(), level(coarser.size()).rows()) > kFewCells) {
-        Cells half = halved(level(coarser.size()));
+        Cells half = halved(context, level(coarser.size()));
         coarser.push_back(std::move(half));
     }
     Cells filled = meanOf(level(coarser.size()));
@@ -161,16 +162,7 @@ Cells sharesOf(const RunContext& context, const Mask& mask, int size) {
         std::vector<int> counts(static_cast<std::size_t>(cells.columns()));
         const int first = row * size, last = std::min(first + size, mask.height());
         for (int y = first; y < last; ++y) {
-            const std::uint64_t* const words = mask.row(y);
-            for (int c = 0; c < cells.columns(); ++c) {
-                int& count = counts[static_cast<std::size_t>(c)];
-                for (int x = c * size, end = std::min(x + size, mask.width()); x < end;) {
-                    const int bits = std::min(end - x, 64 - x % 64);
-                    const std::uint64_t part = words[x / 64] >> (x % 64);
-                    count += std::popcount(bits == 64 ? part : part & ((std::uint64_t{1} << bits) - 1));
-                    x += bits;
-                }
-            }
+            rowLoops().countBits(mask.row(y), size, mask.width(), counts.data());
         }
         for (int c = 0; c < cells.columns(); ++c) {
             const int pixels = (std::min((c + 1) * size, mask.width()) - c * size) * (last - first);
@@ -181,10 +173,10 @@ Cells sharesOf(const RunContext& context, const Mask& mask, int size) {
     return cells;
 }
 
-Mask maskOf(int width, int height, int size, const std::function<bool(int, int)>& isSet) {
+Mask maskOf(const RunContext& context, int width, int height, int size, const std::function<bool(int, int)>& isSet) {
     Mask mask(width, height);
     const Cells grid = Cells::over(width, height, size, 0);
-    for (int row = 0; row < grid.rows(); ++row) {
+    runRows(context, grid.rows(), 4, [&](int row) {
         std::uint64_t* const first = mask.row(row * size);
         for (int c = 0; c < grid.columns(); ++c) {
             if (!isSet(c, row)) continue;
@@ -193,7 +185,7 @@ Mask maskOf(int width, int height, int size, const std::function<bool(int, int)>
         }
         for (int y = row * size + 1; y < std::min((row + 1) * size, height); ++y)
             std::copy_n(first, mask.words(), mask.row(y));
-    }
+    });
     return mask;
 }
 

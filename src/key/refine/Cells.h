@@ -36,18 +36,22 @@ class Cells {
     std::vector<float> values_;
 };
 
-/// Row `y` of a picture of `width` columns made of a plane by linear interpolation; each cell covers `size` pixels.
-/// Beyond the middles of the outer cells their values go on.
+/// Rows of a picture made of a plane by linear interpolation; each cell covers `size` pixels. Beyond the middles of
+/// the outer cells their values go on. For one thread.
 class CellRows {
   public:
-    CellRows(const Cells& cells, int size);
+    /// Columns `left` to `left + width` of the picture.
+    CellRows(const Cells& cells, int size, int left, int width);
 
-    void fill(int y, int plane, int width, float* to);
+    void fill(int y, int plane, float* to);
 
   private:
+    const float* spread(int cellRow, int plane);
+
     const Cells& cells_;
-    int size_;
-    std::vector<float> shares_, line_;
+    int size_, before_, first_, count_, width_;
+    std::vector<int> spreadRows_;  // of each plane: the two rows of cells that were spread last, the even one first
+    std::vector<float> shares_, line_, rows_;
 };
 
 /// Fills what has no weight from what lies around: halves the cells until few are left, and coming back keeps a
@@ -59,7 +63,7 @@ Cells pushPull(const RunContext& context, const Cells& cells);
 /// Shares of set pixels in cells of `size` pixels, 0 to 1.
 Cells sharesOf(const RunContext& context, const Mask& mask, int size);
 /// All pixels of the cells of `size` pixels for which `isSet(column, row)`.
-Mask maskOf(int width, int height, int size, const std::function<bool(int, int)>& isSet);
+Mask maskOf(const RunContext& context, int width, int height, int size, const std::function<bool(int, int)>& isSet);
 
 /// Means of one plane over squares of `reach` cells (0 or more) beyond each cell, mirrored at the ends; parts of
 /// cells count by their share.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "key/refine/Areas.h"
 #include "key/refine/RowRing.h"
 #include "key/refine/ScreenRatio.h"
 
@@ -10,6 +11,7 @@ namespace tavrin::refine {
 
 namespace {
 
+constexpr int kHalo = 4;  // columns beyond an area that its windows look at
 constexpr double kCoreReach = 20.0, kCoreNear = 10.0;  // looked at around a pixel; left between it and lower ones
 constexpr double kFirstReach = 3.0, kDepthReach = 60.0, kRoughReach = 10.0, kPartCell = 8.0, kGapCell = 4.0;
 constexpr float kCoreAlpha = 0.65f, kSureAlpha = 0.92f;
@@ -19,100 +21,84 @@ constexpr float kCalm = 2.5f, kCalmFactor = 1.2f;
 constexpr double kLeastPart = 0.005;  // of all cells
 constexpr float kWholeCell = 0.999f;
 
-// What one look at every pixel finds.
+// Where the simple alpha is high, and where it is surely whole.
 struct Look {
-    Mask high;        // alpha over `kCoreAlpha`
-    Mask sure;        // alpha over `kSureAlpha`
-    Mask cloth;       // may be cloth, were it far from the screen
-    Mask screenlike;  // has nearly the plate's colour
-    Cells rough;      // how much the luma strays from its mean of 5 x 5 pixels, cells of `kPartCell`
-
-    Look(const Shot& shot)
-        : high(shot.width, shot.height),
-          sure(high),
-          cloth(high),
-          screenlike(high),
-          rough(Cells::over(shot.width, shot.height, shot.px(kPartCell), 1)) {}
+    Mask high, sure;
 };
 
-class LookRows {
-    using Maker = std::function<void(int, float**)>;
-
-  public:
-    LookRows(const Shot& shot, const Plate& plate, Look& look)
-        : shot_(shot),
-          screenColor_(8.0f + 150.0f * plate.spread),
-          look_(look),
-          start_(shot, plate),
-          ratio_(shot, plate),
-          alphas_(shot.width, shot.height, 1,
-                  [this](int y, float** planes) {
-                      start_.go(y);
-                      start_.alpha(planes[0]);
-                      for (int x = 0; x < shot_.width; ++x)
-                          planes[0][x] = std::max(planes[0][x], 0.0f);
-                  }),
-          lumas_(shot.width, shot.height, 2, [this](int y, float** planes) { loadLuma(shot_, y, planes[0]); }),
-          scratch_(shot.width, 5),
-          flags_(static_cast<std::size_t>(shot.width) + 8) {}
-
-    void work(int y) {
-        float *const mean = scratch_.row(0), *const light = scratch_.row(1), *const off = scratch_.row(2),
-                     *const columns = scratch_.row(3);
-        const int width = shot_.width;
-        std::uint8_t* const flags = flags_.data();
-        const std::uint8_t* const key = shot_.keyRow(y);
-        boxSums(alphas_.around(y, 0, 1), 1, width, columns, mean);
-        for (int x = 0; x < width; ++x) {
-            mean[x] /= 9.0f;
-            flags[x] = mean[x] > kCoreAlpha;
-        }
-        look_.high.pack(y, flags);
-        const float* const alpha = alphas_.at(y, 0);
-        for (int x = 0; x < width; ++x)
-            flags[x] = alpha[x] > kSureAlpha;
-        look_.sure.pack(y, flags);
-        ratio_.fill(y, light, off);
-        for (int x = 0; x < width; ++x)
-            flags[x] =
-                (mean[x] > kDepthAlpha) & (key[x] >= kDepthKey) & (light[x] < kDepthLight) & (off[x] > kOtherRatio);
-        look_.cloth.pack(y, flags);
-        ratio_.distance(off);
-        for (int x = 0; x < width; ++x)
-            flags[x] = off[x] < screenColor_;
-        look_.screenlike.pack(y, flags);
-        addRoughness(y);
+void lookAt(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Look& look) {
+    const Strip strip = area.strip(shot, kHalo);
+    StartRows start(strip, plate);
+    RowRing<1, std::function<void(int, float**)>> alphas(strip.width, shot.height, 1, [&](int y, float** planes) {
+        start.go(y);
+        start.alpha(planes[0]);
+        for (int x = 0; x < strip.width; ++x)
+            planes[0][x] = std::max(planes[0][x], 0.0f);
+    });
+    PaddedRows scratch(strip.width, 2);
+    std::vector<std::uint8_t> flags(static_cast<std::size_t>(strip.width) + 8);
+    const std::uint8_t* const own = flags.data() + (area.left - strip.left);
+    for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+        rowLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
+        rowLoops().above(scratch.row(1), kCoreAlpha * 9.0f, strip.width, flags.data());
+        look.high.pack(y, area.word(), area.width(), own);
+        rowLoops().above(alphas.at(y, 0), kSureAlpha, strip.width, flags.data());
+        look.sure.pack(y, area.word(), area.width(), own);
     }
+}
 
-  private:
-    // Rows of a cell come one after the other.
-    void addRoughness(int y) {
-        float *const mean = scratch_.row(4), *const columns = scratch_.row(3);
-        const int width = shot_.width, size = shot_.px(kPartCell);
-        boxSums(lumas_.around(y, 0, 2), 2, width, columns, mean);
-        const float* const luma = lumas_.at(y, 0);
-        for (int x = 0; x < width; ++x)
-            mean[x] = std::abs(luma[x] - mean[x] / 25.0f);
-        float* const cells = look_.rough.row(y / size, 0);
-        const int rows = std::min((y / size + 1) * size, shot_.height) - y / size * size;
-        for (int c = 0; c < look_.rough.columns(); ++c) {
-            float sum = 0.0f;
-            const int end = std::min((c + 1) * size, width);
-            for (int x = c * size; x < end; ++x)
-                sum += mean[x];
-            cells[c] += sum / static_cast<float>((end - c * size) * rows);
-        }
+// Leaves of `far` what may be cloth: its colour ratio is one that no shade of the screen has.
+void findCloth(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& far) {
+    const Strip strip = area.strip(shot, kHalo);
+    StartRows start(strip, plate);
+    RowRing<1, std::function<void(int, float**)>> alphas(strip.width, shot.height, 1, [&](int y, float** planes) {
+        start.go(y);
+        start.alpha(planes[0]);
+    });
+    ScreenRatio ratio(strip, plate);
+    PaddedRows scratch(strip.width, 4);
+    std::vector<std::uint8_t> flags(static_cast<std::size_t>(area.width()) + 8);
+    const int inset = area.left - strip.left;
+    const float *const sum = scratch.row(1) + inset, *const light = scratch.row(2) + inset,
+                *const off = scratch.row(3) + inset;
+    for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+        rowLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
+        ratio.fill(y, scratch.row(2), scratch.row(3));
+        const std::uint8_t* const key = shot.keyRow(y) + area.left;
+        for (int x = 0; x < area.width(); ++x)
+            flags[static_cast<std::size_t>(x)] = far.at(area.left + x, y) & (sum[x] > kDepthAlpha * 9.0f) &
+                                                 (key[x] >= kDepthKey) & (light[x] < kDepthLight) &
+                                                 (off[x] > kOtherRatio);
+        far.pack(y, area.word(), area.width(), flags.data());
     }
+}
 
-    const Shot& shot_;
-    float screenColor_;
-    Look& look_;
-    StartRows start_;
-    ScreenRatio ratio_;
-    RowRing<1, Maker> alphas_, lumas_;
-    PaddedRows scratch_;
-    std::vector<std::uint8_t> flags_;
-};
+// How much the luma strays from its mean of 5 x 5 pixels, on cells.
+Cells roughness(const RunContext& context, const Shot& shot, int size) {
+    Cells rough = Cells::over(shot.width, shot.height, size, 1);
+    runRows(context, rough.rows(), 4, [&](int row) {
+        const Strip strip{shot, 0, shot.width};
+        RowRing<1, std::function<void(int, float**)>> lumas(
+            shot.width, shot.height, 2, [&](int y, float** planes) { loadLuma(strip, y, planes[0]); });
+        PaddedRows scratch(shot.width, 2);
+        float* const mean = scratch.row(1);
+        const int first = row * size, last = std::min(first + size, shot.height);
+        for (int y = first; y < last; ++y) {
+            rowLoops().boxSums(lumas.around(y, 0, 2), 2, shot.width, scratch.row(0), mean);
+            const float* const luma = lumas.at(y, 0);
+            for (int x = 0; x < shot.width; ++x)
+                mean[x] = std::abs(luma[x] - mean[x] / 25.0f);
+            for (int c = 0; c < rough.columns(); ++c) {
+                float sum = 0.0f;
+                const int end = std::min((c + 1) * size, shot.width);
+                for (int x = c * size; x < end; ++x)
+                    sum += mean[x];
+                rough.row(row, 0)[c] += sum / static_cast<float>((end - c * size) * (last - first));
+            }
+        }
+    });
+    return rough;
+}
 
 // The middle of the cells that are mostly screen.
 float middleOn(const Cells& values, const Cells& screen) {
@@ -127,9 +113,10 @@ float middleOn(const Cells& values, const Cells& screen) {
 }
 
 // Connected parts of `far` that are as calm as cloth, not hair.
-Mask calmParts(const RunContext& context, const Mask& far, const Mask& screen, const Cells& rough, int size,
-               double roughReach) {
-    const Cells shares = sharesOf(context, far, size), smooth = blurred(rough, roughReach / size);
+Mask calmParts(const RunContext& context, const Shot& shot, const Mask& far, const Mask& screen) {
+    const int size = shot.cell(kPartCell);
+    const Cells shares = sharesOf(context, far, size),
+                smooth = blurred(roughness(context, shot, size), static_cast<double>(shot.px(kRoughReach)) / size);
     const float most = kCalm + kCalmFactor * middleOn(smooth, sharesOf(context, screen, size));
     std::vector<std::uint8_t> set(shares.count());
     for (std::size_t i = 0; i < set.size(); ++i)
@@ -142,54 +129,90 @@ Mask calmParts(const RunContext& context, const Mask& far, const Mask& screen, c
         counts[part] += 1.0;
     }
     const double least = kLeastPart * static_cast<double>(shares.count());
-    return maskOf(far.width(), far.height(), size, [&](int c, int row) {
+    return maskOf(context, far.width(), far.height(), size, [&](int c, int row) {
         const auto part =
             static_cast<std::size_t>(parts.labels[static_cast<std::size_t>(row * shares.columns() + c)]);
         return part != 0 && counts[part] > least && sums[part] < static_cast<double>(most) * counts[part];
     });
 }
 
-// Gaps of the solid inside that hold no screen: embroidery, reflections in glasses, prints.
-Mask enclosedGaps(const RunContext& context, const Mask& solid, const Mask& screenlike, int size) {
-    const Cells shares = sharesOf(context, solid, size), bare = sharesOf(context, screenlike, size);
-    // A frame of gap around the picture, so that what reaches its border is one part.
-    const int columns = shares.columns() + 2, rows = shares.rows() + 2;
-    std::vector<std::uint8_t> gap(static_cast<std::size_t>(columns * rows), 1);
-    const auto framed = [columns](int c, int row) { return static_cast<std::size_t>((row + 1) * columns + c + 1); };
-    for (int row = 0; row < shares.rows(); ++row) {
-        for (int c = 0; c < shares.columns(); ++c)
-            gap[framed(c, row)] = shares.row(row, 0)[c] < kWholeCell;
+// The pixels of an area whose surroundings have nearly the plate's colour.
+void findBare(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& bare) {
+    const Strip strip = area.strip(shot, kHalo);
+    ScreenRatio ratio(strip, plate);
+    std::vector<float> far(static_cast<std::size_t>(strip.width));
+    std::vector<std::uint8_t> flags(far.size() + 8);
+    for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+        ratio.distance(y, far.data());
+        rowLoops().below(far.data(), 8.0f + 150.0f * plate.spread, strip.width, flags.data());
+        bare.pack(y, area.word(), area.width(), flags.data() + (area.left - strip.left));
     }
-    const Parts parts = findParts(columns, rows, gap, Neighbours::eight);
-    std::vector<std::uint8_t> fill(static_cast<std::size_t>(parts.count) + 1, 1);
-    fill[0] = fill[static_cast<std::size_t>(parts.labels[0])] = 0;
+}
+
+// The parts of cells that are not wholly solid, each with a frame of gap around the picture, so that what reaches its
+// border is one part.
+struct Gaps {
+    int columns, size;
+    Parts parts;
+
+    int at(int c, int row) const { return parts.labels[static_cast<std::size_t>((row + 1) * columns + c + 1)]; }
+};
+
+Gaps findGaps(const Cells& solid, int size) {
+    const int columns = solid.columns() + 2, rows = solid.rows() + 2;
+    std::vector<std::uint8_t> gap(static_cast<std::size_t>(columns * rows), 1);
+    for (int row = 0; row < solid.rows(); ++row) {
+        for (int c = 0; c < solid.columns(); ++c)
+            gap[static_cast<std::size_t>((row + 1) * columns + c + 1)] = solid.row(row, 0)[c] < kWholeCell;
+    }
+    return {columns, size, findParts(columns, rows, gap, Neighbours::eight)};
+}
+
+// Gaps of the solid inside that hold no screen: embroidery, reflections in glasses, prints.
+Mask enclosedGaps(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& solid) {
+    const int size = std::max(2, shot.px(kGapCell));
+    const Gaps gaps = findGaps(sharesOf(context, solid, size), size);
+    std::vector<std::uint8_t> fill(static_cast<std::size_t>(gaps.parts.count) + 1, 1);
+    fill[0] = fill[static_cast<std::size_t>(gaps.parts.labels[0])] = 0;
+    const auto filled = [&] {
+        return maskOf(context, shot.width, shot.height, size,
+                      [&](int c, int row) { return fill[static_cast<std::size_t>(gaps.at(c, row))] != 0; });
+    };
+    const Mask inside = filled();
+    Mask bare(shot.width, shot.height);
+    runAreas(context, inside, [&](const Area& area) { findBare(context, shot, plate, area, bare); });
+    bare &= inside;
+    const Cells shares = sharesOf(context, bare, size);
     for (int row = 0; row < shares.rows(); ++row) {
         for (int c = 0; c < shares.columns(); ++c) {
-            if (bare.row(row, 0)[c] > 0.0f) fill[static_cast<std::size_t>(parts.labels[framed(c, row)])] = 0;
+            if (shares.row(row, 0)[c] > 0.0f) fill[static_cast<std::size_t>(gaps.at(c, row))] = 0;
         }
     }
-    return maskOf(solid.width(), solid.height(), size,
-                  [&](int c, int row) { return fill[static_cast<std::size_t>(parts.labels[framed(c, row)])] != 0; });
+    return filled();
+}
+
+// Calm parts far from any bare screen.
+Mask deepCloth(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& solid) {
+    Mask far = shrunk(context, plate.screen.inverted(), shot.px(kDepthReach));
+    far &= solid.inverted();
+    runAreas(context, far, [&](const Area& area) { findCloth(context, shot, plate, area, far); });
+    // A part that counts has more than half of its cells' pixels.
+    const double pixels = static_cast<double>(shot.width) * shot.height;
+    if (static_cast<double>(far.count()) < 0.4 * kLeastPart * pixels) return Mask(shot.width, shot.height);
+    return calmParts(context, shot, far, plate.screen);
 }
 
 }  // namespace
 
 Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
-    Look look(shot);
-    const int cell = shot.px(kPartCell);
-    runBlocks(context, shot.height, cell * std::max(1, 64 / cell), [&](int first, int last) {
-        LookRows rows(shot, plate, look);
-        for (int y = first; y < last && !(y != first && context.isSuperseded()); ++y)
-            rows.work(y);
-    });
+    const Mask open = plate.screen.inverted();
+    Look look{Mask(shot.width, shot.height), Mask(shot.width, shot.height)};
+    runAreas(context, open, [&](const Area& area) { lookAt(context, shot, plate, area, look); });
     const int reach = shot.px(kCoreReach);
     Core core{shrunk(context, look.high, reach), shrunk(context, look.sure, shot.px(kFirstReach))};
-    Mask far = shrunk(context, plate.screen.inverted(), shot.px(kDepthReach));
-    far &= look.cloth;
-    far &= core.solid.inverted();
-    core.solid |= calmParts(context, far, plate.screen, look.rough, cell, shot.px(kRoughReach));
+    core.solid |= deepCloth(context, shot, plate, core.solid);
     core.solid = grown(context, core.solid, std::max(1, reach - shot.px(kCoreNear)));
-    core.solid |= enclosedGaps(context, core.solid, look.screenlike, shot.px(kGapCell));
+    core.solid |= enclosedGaps(context, shot, plate, core.solid);
     core.sure |= core.solid;
     return core;
 }

@@ -26,13 +26,13 @@ class HalfRows {
     RowRing<1, std::function<void(int, float**)>> coarse_;
 };
 
-/// What luma tells about alpha around each pixel. For one thread.
+/// What luma tells about alpha around each pixel of a strip, which begins at an even column. For one thread.
 class DetailRows {
     using Maker = std::function<void(int, float**)>;
 
   public:
     /// @param sharpness how much alpha and luma are sharpened first, 0 to 1
-    DetailRows(const Shot& shot, const AlphaPlane& alpha, float sharpness);
+    DetailRows(const Strip& strip, const AlphaPlane& alpha, float sharpness);
 
     /// @param mean mean of alpha in the window
     /// @param detail what alpha lacks if the colour had half the luma's resolution
@@ -45,7 +45,7 @@ class DetailRows {
   private:
     void sharpen(int y, int plane, float* to);
 
-    const Shot& shot_;
+    Strip strip_;
     float sharpness_;
     HalfRows luma_;
     RowRing<2, Maker> plain_;
@@ -53,11 +53,15 @@ class DetailRows {
     PaddedRows scratch_, blur_;
 };
 
-/// Row `y` of an alpha plane, 0 to 1.
-void loadAlpha(const AlphaPlane& plane, int width, int y, float* to);
+/// Columns beyond an area that the windows of the detail look at.
+inline constexpr int kDetailHalo = 16;
+
+/// Row `y` of a strip of an alpha plane, 0 to 1.
+void loadAlpha(const AlphaPlane& plane, const Strip& strip, int y, float* to);
 
 /// How much of the luma's detail alpha lacks: 0 where the colour has all of it, 1 where it has half of the
 /// resolution.
-float missingDetail(const RunContext& context, const Shot& shot, const AlphaPlane& alpha);
+/// @param open the pixels to look at
+float missingDetail(const RunContext& context, const Shot& shot, const AlphaPlane& alpha, const Mask& open);
 
 }  // namespace tavrin::refine

@@ -11,6 +11,7 @@ struct Findings {
     const Plate& plate;
     const Separation& separation;
     const Mask& solid;
+    const Mask& open;  ///< neither well inside nor well on the screen
     const AlphaPlane& alpha;
     RefineTaste taste;
     float missingDetail = 0.0f;
@@ -24,10 +25,10 @@ struct Reach {
 };
 Reach findReach(const RunContext& context, const Findings& findings);
 
-/// The final alpha of rows. For one thread.
+/// The final alpha of a strip's rows. For one thread.
 class FinishRows {
   public:
-    FinishRows(const Findings& findings, const Reach& reach);
+    FinishRows(const Findings& findings, const Reach& reach, const Strip& strip);
 
     /// @param alpha 0 to 1
     void fill(int y, float* alpha);
@@ -35,11 +36,11 @@ class FinishRows {
   private:
     using Maker = std::function<void(int, float**)>;
 
-    void quieten(const float* means, float* alpha) const;
     void holdBack(int y, float* alpha);
     void shape(const float* means, float* alpha) const;
 
     const Findings& findings_;
+    Strip strip_;
     float noise_;
     DetailRows detail_;
     RowRing<1, Maker> keys_;
@@ -47,7 +48,7 @@ class FinishRows {
     PaddedRows scratch_;
 };
 
-/// Alpha before the detail: levels alone, and 1 inside.
-void plainAlpha(const Findings& findings, int y, float* alpha);
+/// Alpha before the detail: levels alone, and 1 inside. `scratch` has room for a row.
+void plainAlpha(const Findings& findings, const Strip& strip, int y, float* scratch, float* alpha);
 
 }  // namespace tavrin::refine

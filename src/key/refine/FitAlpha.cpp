@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "key/refine/Areas.h"
+#include "key/refine/MatteLoops.h"
 #include "key/refine/RowRing.h"
 
 namespace tavrin::refine {
@@ -12,56 +14,63 @@ namespace {
 
 constexpr double kCell = 8.0;
 constexpr double kGlobalShare = 0.1, kNoise = 100.0;  // of the covariance
-constexpr double kAlike = 5.0;  // distance of two colours, in deviations squared, that says little
 constexpr float kSureAlpha = 0.95f;
 constexpr int kSums = 9;  // of colours and their products
-constexpr int kBlockRows = 64;
+constexpr int kHalo = 4;  // columns beyond an area that its windows look at
 
 // The six different products of three channels.
 constexpr int kPairs[6][2] = {{0, 0}, {0, 1}, {0, 2}, {1, 1}, {1, 2}, {2, 2}};
 
-int cellSize(const Shot& shot) {
-    return std::max(2, shot.px(kCell));
-}
+// Sums of the sure pixels' colours and products, column by column.
+class ColumnSums {
+  public:
+    ColumnSums(const Strip& strip, const Mask& sure)
+        : strip_(strip), sure_(sure), length_(static_cast<std::size_t>(strip.width)), lines_((4 + kSums + 1) * length_) {}
 
-// Sums of the sure pixels' colours and products in one row of cells, over all of a cell's pixels.
-void sumColors(const Shot& shot, const Mask& sure, int size, int row, Cells& cells) {
-    const auto width = static_cast<std::size_t>(shot.width);
-    std::vector<float> lines(4 * width), sums((kSums + 1) * width);
+    void addRow(int y) {
+        float* const weight = line(3);
+        const int count = strip_.width;
+        loadColors(strip_, y, line(0), line(1), line(2));
+        sure_.unpack(y, strip_.left, count, weight);
+        for (std::size_t c = 0; c < 3; ++c)
+            rowLoops().add(line(c), weight, count, sum(c));
+        for (std::size_t pair = 0; pair < 6; ++pair)
+            rowLoops().addProduct(line(static_cast<std::size_t>(kPairs[pair][0])),
+                                  line(static_cast<std::size_t>(kPairs[pair][1])), weight, count, sum(3 + pair));
+        rowLoops().add(weight, weight, count, sum(kSums));
+    }
+
+    float* sum(std::size_t i) { return line(4 + i); }
+
+  private:
+    float* line(std::size_t i) { return lines_.data() + i * length_; }
+
+    Strip strip_;
+    const Mask& sure_;
+    std::size_t length_;
+    std::vector<float> lines_;
+};
+
+// Adds some words of one row of cells to these, over all of a cell's pixels.
+void sumColors(const Shot& shot, const Mask& sure, int size, int row, const Strip& strip, Cells& cells) {
     const int first = row * size, last = std::min(first + size, shot.height);
-    float *const r = lines.data(), *const g = r + width, *const b = g + width, *const weight = b + width;
-    const float* const channels[3] = {r, g, b};
-    for (int y = first; y < last; ++y) {
-        loadColors(shot, y, r, g, b);
-        sure.unpack(y, weight);
-        for (std::size_t pair = 0; pair < 6; ++pair) {
-            const float *const one = channels[kPairs[pair][0]], *const other = channels[kPairs[pair][1]];
-            float* const sum = sums.data() + (3 + pair) * width;
-            for (std::size_t x = 0; x < width; ++x)
-                sum[x] += weight[x] * one[x] * other[x];
-        }
-        for (std::size_t c = 0; c < 3; ++c) {
-            float* const sum = sums.data() + c * width;
-            for (std::size_t x = 0; x < width; ++x)
-                sum[x] += weight[x] * channels[c][x];
-        }
-        float* const sum = sums.data() + kSums * width;
-        for (std::size_t x = 0; x < width; ++x)
-            sum[x] += weight[x];
-    }
-    for (int plane = 0; plane <= kSums; ++plane) {
-        const float* const from = sums.data() + static_cast<std::size_t>(plane) * width;
-        for (int c = 0; c < cells.columns(); ++c) {
-            const int begin = c * size, end = std::min(begin + size, shot.width);
+    ColumnSums sums(strip, sure);
+    for (int y = first; y < last; ++y)
+        sums.addRow(y);
+    for (std::size_t plane = 0; plane <= kSums; ++plane) {
+        const float* const from = sums.sum(plane);
+        float* const to = cells.row(row, static_cast<int>(plane));
+        for (int x = 0; x < strip.width;) {
+            const int cell = (strip.left + x) / size, columns = std::min((cell + 1) * size, shot.width) - cell * size;
+            const int end = std::min((cell + 1) * size - strip.left, strip.width);
             float all = 0.0f;
-            for (int x = begin; x < end; ++x)
+            for (; x < end; ++x)
                 all += from[x];
-            cells.row(row, plane)[c] = all / static_cast<float>((end - begin) * (last - first));
+            to[cell] += all / static_cast<float>(columns * (last - first));
         }
     }
 }
 
-using Vector3 = std::array<double, 3>;
 using Symmetric3 = std::array<double, 6>;  // as kPairs
 
 Symmetric3 covariance(const std::array<double, kSums>& means) {
@@ -72,16 +81,6 @@ Symmetric3 covariance(const std::array<double, kSums>& means) {
     return result;
 }
 
-// Solves s x = d by the adjoint; s is positive definite.
-Vector3 solve(const Symmetric3& s, const Vector3& d) {
-    const auto [a, b, c, e, f, i] = s;
-    const double aa = e * i - f * f, ab = c * f - b * i, ac = b * f - c * e;
-    const double bb = a * i - c * c, bc = b * c - a * f, cc = a * e - b * b;
-    const double whole = a * aa + b * ab + c * ac;
-    return {(aa * d[0] + ab * d[1] + ac * d[2]) / whole, (ab * d[0] + bb * d[1] + bc * d[2]) / whole,
-            (ac * d[0] + bc * d[1] + cc * d[2]) / whole};
-}
-
 std::array<double, kSums> overallMeans(const Cells& cells) {
     const double weight = std::max(cells.sum(kSums), 1e-6);
     std::array<double, kSums> means;
@@ -90,51 +89,54 @@ std::array<double, kSums> overallMeans(const Cells& cells) {
     return means;
 }
 
+// The plate at the middle of each cell of a row, three planes.
+std::vector<float> screenColors(const Shot& shot, const Plate& plate, int size, int row, int columns) {
+    std::vector<float> colors(3 * static_cast<std::size_t>(columns)), line(static_cast<std::size_t>(shot.width));
+    CellRows rows(plate.colors, kPlateCell, 0, shot.width);
+    for (int plane = 0; plane < 3; ++plane) {
+        rows.fill(std::min(row * size + size / 2, shot.height - 1), plane, line.data());
+        for (int c = 0; c < columns; ++c)
+            colors[static_cast<std::size_t>(plane * columns + c)] =
+                line[static_cast<std::size_t>(std::min(c * size + size / 2, shot.width - 1))];
+    }
+    return colors;
+}
+
+// What is added to the covariance of every cell.
+Symmetric3 commonCovariance(const Cells& cells) {
+    Symmetric3 common = covariance(overallMeans(cells));
+    for (std::size_t i = 0; i < 6; ++i)
+        common[i] = kGlobalShare * common[i] + (kPairs[i][0] == kPairs[i][1] ? kNoise : 0.0);
+    return common;
+}
+
 }  // namespace
 
 Separation separate(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& sure) {
     Separation result;
-    const int size = result.size = cellSize(shot);
+    const int size = result.size = shot.cell(kCell);
     Cells cells = Cells::over(shot.width, shot.height, size, kSums + 1);
-    runRows(context, cells.rows(), 2, [&](int row) { sumColors(shot, sure, size, row, cells); });
-    const Symmetric3 overall = covariance(overallMeans(cells));
+    runRows(context, cells.rows(), 2, [&](int row) {
+        forWords(sure, row * size, std::min((row + 1) * size, shot.height), [&](int word, int words) {
+            sumColors(shot, sure, size, row, {shot, word * 64, std::min(words * 64, shot.width - word * 64)}, cells);
+        });
+    });
+    const Symmetric3 common = commonCovariance(cells);
     const Cells means = pushPull(context, cells);
-    result.weights = Cells(cells.columns(), cells.rows(), 3);
-    result.subject = result.weights;
+    result.weights = result.subject = Cells(cells.columns(), cells.rows(), 3);
     result.certainty = Cells(cells.columns(), cells.rows(), 1);
     runRows(context, cells.rows(), 4, [&](int row) {
-        std::vector<float> screen(3 * static_cast<std::size_t>(cells.columns()));
-        // The plate at the middle of each cell.
-        CellRows plateRows(plate.colors, kPlateCell);
-        std::vector<float> line(static_cast<std::size_t>(shot.width));
-        for (int plane = 0; plane < 3; ++plane) {
-            plateRows.fill(std::min(row * size + size / 2, shot.height - 1), plane, shot.width, line.data());
-            for (int c = 0; c < cells.columns(); ++c)
-                screen[static_cast<std::size_t>(plane * cells.columns() + c)] =
-                    line[static_cast<std::size_t>(std::min(c * size + size / 2, shot.width - 1))];
-        }
-        for (int c = 0; c < cells.columns(); ++c) {
-            std::array<double, kSums> mean;
-            for (int i = 0; i < kSums; ++i)
-                mean[static_cast<std::size_t>(i)] = static_cast<double>(means.row(row, i)[c]);
-            Symmetric3 s = covariance(mean);
-            for (std::size_t i = 0; i < 6; ++i)
-                s[i] = (1.0 - kGlobalShare) * s[i] + kGlobalShare * overall[i] +
-                       (kPairs[i][0] == kPairs[i][1] ? kNoise : 0.0);
-            Vector3 apart;
-            for (std::size_t i = 0; i < 3; ++i)
-                apart[i] = mean[i] -
-                           static_cast<double>(
-                               screen[i * static_cast<std::size_t>(cells.columns()) + static_cast<std::size_t>(c)]);
-            const Vector3 y = solve(s, apart);
-            const double squared = std::max(y[0] * apart[0] + y[1] * apart[1] + y[2] * apart[2], 1e-6);
-            for (int i = 0; i < 3; ++i) {
-                result.weights.row(row, i)[c] = static_cast<float>(y[static_cast<std::size_t>(i)] / squared);
-                result.subject.row(row, i)[c] = static_cast<float>(mean[static_cast<std::size_t>(i)]);
-            }
-            result.certainty.row(row, 0)[c] =
-                static_cast<float>(squared * squared / (squared * squared + kAlike * kAlike));
-        }
+        const int columns = cells.columns();
+        const std::vector<float> screen = screenColors(shot, plate, size, row, columns);
+        const float* from[kSums];
+        for (int i = 0; i < kSums; ++i)
+            from[i] = means.row(row, i);
+        float* const to[] = {result.weights.row(row, 0), result.weights.row(row, 1), result.weights.row(row, 2),
+                             result.certainty.row(row, 0)};
+        matteLoops().directions(from, {screen.data(), screen.data() + columns, screen.data() + 2 * columns},
+                                common.data(), columns, to);
+        for (int i = 0; i < 3; ++i)
+            std::copy_n(from[i], columns, result.subject.row(row, i));
     });
     return result;
 }
@@ -152,47 +154,37 @@ Cells nearerSide(const RunContext& context, const Mask& solid, const Mask& scree
     return nearer;
 }
 
-FitRows::FitRows(const Shot& shot, const Plate& plate, const Separation& separation, const Cells& nearer)
-    : width_(shot.width),
-      start_(shot, plate),
-      weights_(separation.weights, separation.size),
-      certainty_(separation.certainty, separation.size),
-      nearer_(nearer, kNearCell),
-      lines_(5 * static_cast<std::size_t>(shot.width)) {}
+FitRows::FitRows(const Fit& fit, const Strip& strip)
+    : width_(strip.width),
+      start_(strip, fit.plate),
+      weights_(fit.separation.weights, fit.separation.size, strip.left, strip.width),
+      certainty_(fit.separation.certainty, fit.separation.size, strip.left, strip.width),
+      nearer_(fit.nearer, kNearCell, strip.left, strip.width),
+      lines_(5 * static_cast<std::size_t>(strip.width)) {}
 
 void FitRows::fill(int y, float* alpha) {
     start_.go(y);
     for (int i = 0; i < 3; ++i)
-        weights_.fill(y, i, width_, line(static_cast<std::size_t>(i)));
-    certainty_.fill(y, 0, width_, line(3));
-    nearer_.fill(y, 0, width_, line(4));
+        weights_.fill(y, i, line(static_cast<std::size_t>(i)));
+    certainty_.fill(y, 0, line(3));
+    nearer_.fill(y, 0, line(4));
     start_.alpha(alpha);
-    const float *const r = start_.r(), *const g = start_.g(), *const b = start_.b();
-    const float *const pr = start_.plateR(), *const pg = start_.plateG(), *const pb = start_.plateB();
-    const float *const wr = line(0), *const wg = line(1), *const wb = line(2), *const sure = line(3),
-                       *const near = line(4);
-    for (int x = 0; x < width_; ++x) {
-        const float fit = (r[x] - pr[x]) * wr[x] + (g[x] - pg[x]) * wg[x] + (b[x] - pb[x]) * wb[x];
-        const float simple = std::max(std::max(alpha[x], 0.0f), near[x]);
-        alpha[x] = sure[x] * fit + (1.0f - sure[x]) * simple;
-    }
+    matteLoops().fit(start_.own(), start_.screen(), {line(0), line(1), line(2)}, line(3), line(4), width_, alpha);
 }
 
-Mask surePixels(const RunContext& context, const Shot& shot, const Plate& plate, const Separation& separation,
-                const Cells& nearer, const Mask& solid) {
-    Mask whole(shot.width, shot.height);
-    runBlocks(context, shot.height, kBlockRows, [&](int first, int last) {
-        FitRows fit(shot, plate, separation, nearer);
-        RowRing<1, std::function<void(int, float**)>> ring(shot.width, shot.height, 1,
-                                                           [&](int y, float** planes) { fit.fill(y, planes[0]); });
-        PaddedRows scratch(shot.width, 2);
-        std::vector<std::uint8_t> flags(static_cast<std::size_t>(shot.width) + 8);
-        float* const sums = scratch.row(1);
-        for (int y = first; y < last && !(y != first && context.isSuperseded()); ++y) {
-            boxSums(ring.around(y, 0, 1), 1, shot.width, scratch.row(0), sums);
-            for (int x = 0; x < shot.width; ++x)
-                flags[static_cast<std::size_t>(x)] = sums[x] / 9.0f > kSureAlpha;
-            whole.pack(y, flags.data());
+Mask surePixels(const RunContext& context, const Fit& fit, const Mask& solid, const Mask& open) {
+    Mask whole = solid;
+    runAreas(context, open, [&](const Area& area) {
+        const Strip strip = area.strip(fit.shot, kHalo);
+        FitRows rows(fit, strip);
+        RowRing<1, std::function<void(int, float**)>> ring(strip.width, fit.shot.height, 1,
+                                                           [&](int y, float** planes) { rows.fill(y, planes[0]); });
+        PaddedRows scratch(strip.width, 2);
+        std::vector<std::uint8_t> flags(static_cast<std::size_t>(strip.width) + 8);
+        for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+            rowLoops().boxSums(ring.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
+            rowLoops().above(scratch.row(1), kSureAlpha * 9.0f, strip.width, flags.data());
+            whole.pack(y, area.word(), area.width(), flags.data() + (area.left - strip.left));
         }
     });
     Mask sure = shrunk(context, whole, 1);
@@ -200,18 +192,22 @@ Mask surePixels(const RunContext& context, const Shot& shot, const Plate& plate,
     return sure;
 }
 
-AlphaPlane fitAlpha(const RunContext& context, const Shot& shot, const Plate& plate, const Separation& separation,
-                    const Cells& nearer) {
-    AlphaPlane plane(static_cast<std::size_t>(shot.width) * static_cast<std::size_t>(shot.height));
-    runBlocks(context, shot.height, kBlockRows, [&](int first, int last) {
-        FitRows fit(shot, plate, separation, nearer);
-        std::vector<float> alpha(static_cast<std::size_t>(shot.width));
-        for (int y = first; y < last && !(y != first && context.isSuperseded()); ++y) {
-            fit.fill(y, alpha.data());
-            std::uint16_t* const to = plane.data() + static_cast<std::size_t>(y) * alpha.size();
-            for (std::size_t x = 0; x < alpha.size(); ++x)
-                to[x] = static_cast<std::uint16_t>(
-                    static_cast<int>(std::clamp(alpha[x], 0.0f, 1.0f) * kAlphaSteps + 0.5f));
+AlphaPlane fitAlpha(const RunContext& context, const Fit& fit, const Mask& solid, const Mask& open) {
+    const auto width = static_cast<std::size_t>(fit.shot.width);
+    AlphaPlane plane(width * static_cast<std::size_t>(fit.shot.height));
+    runRows(context, fit.shot.height, 16, [&](int y) {
+        std::uint16_t* const to = plane.data() + static_cast<std::size_t>(y) * width;
+        for (std::size_t x = 0; x < width; x += 64) {
+            if (solid.row(y)[x / 64] != 0) std::fill(to + x, to + std::min(x + 64, width), std::uint16_t{65535});
+        }
+    });
+    runAreas(context, open, [&](const Area& area) {
+        FitRows rows(fit, area.strip(fit.shot, 0));
+        std::vector<float> alpha(static_cast<std::size_t>(area.width()));
+        for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+            rows.fill(y, alpha.data());
+            matteLoops().storeAlpha(alpha.data(), area.width(),
+                                    plane.data() + static_cast<std::size_t>(y) * width + area.left);
         }
     });
     return plane;

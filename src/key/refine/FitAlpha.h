@@ -22,10 +22,18 @@ Separation separate(const RunContext& context, const Shot& shot, const Plate& pl
 inline constexpr int kNearCell = 8;
 Cells nearerSide(const RunContext& context, const Mask& solid, const Mask& screen);
 
-/// Alpha of rows by the separation, not limited to 0 to 1. For one thread.
+/// What the fit of alpha goes by.
+struct Fit {
+    const Shot& shot;
+    const Plate& plate;
+    const Separation& separation;
+    const Cells& nearer;
+};
+
+/// Alpha of a strip's rows by the separation, not limited to 0 to 1. For one thread.
 class FitRows {
   public:
-    FitRows(const Shot& shot, const Plate& plate, const Separation& separation, const Cells& nearer);
+    FitRows(const Fit& fit, const Strip& strip);
     void fill(int y, float* alpha);
 
   private:
@@ -39,13 +47,12 @@ class FitRows {
 
 /// The pixels where that alpha is nearly whole, or inside: better samples than those of the simple alpha, which takes
 /// a colour opposite to the screen's for whole where half of it is screen.
-Mask surePixels(const RunContext& context, const Shot& shot, const Plate& plate, const Separation& separation,
-                const Cells& nearer, const Mask& solid);
+/// @param open the pixels that are neither inside nor surely screen
+Mask surePixels(const RunContext& context, const Fit& fit, const Mask& solid, const Mask& open);
 
 /// Alpha in steps of 1 / 65535, one for each pixel.
 using AlphaPlane = std::vector<std::uint16_t>;
-inline constexpr float kAlphaSteps = 65535.0f;
-AlphaPlane fitAlpha(const RunContext& context, const Shot& shot, const Plate& plate, const Separation& separation,
-                    const Cells& nearer);
+/// Alpha around the open pixels; elsewhere 1 inside and 0 on the screen.
+AlphaPlane fitAlpha(const RunContext& context, const Fit& fit, const Mask& solid, const Mask& open);
 
 }  // namespace tavrin::refine

@@ -56,29 +56,34 @@ Mask::Mask(int width, int height)
       words_((width + 63) / 64),
       bits_(static_cast<std::size_t>(words_) * static_cast<std::size_t>(height)) {}
 
-void Mask::pack(int y, const std::uint8_t* flags) {
-    std::uint64_t* const to = row(y);
-    std::fill(to, to + words_, std::uint64_t{0});
-    for (int x = 0; x < width_; x += 8) {
-        std::uint64_t eight;
-        std::memcpy(&eight, flags + x, 8);
-        if (width_ - x < 8) eight &= kAll >> (8 * (8 - (width_ - x)));
-        // One product gathers the lowest bits of eight bytes.
-        to[x / 64] |= (eight * 0x0102040810204080u >> 56) << (x % 64);
+void Mask::pack(int y, int word, int count, const std::uint8_t* flags) {
+    std::uint64_t* const to = row(y) + word;
+    for (int x = 0; x < count; x += 64) {
+        std::uint64_t bits = 0;
+        for (int i = 0; i < 64 && x + i < count; i += 8) {
+            std::uint64_t eight;
+            std::memcpy(&eight, flags + x + i, 8);
+            if (count - x - i < 8) eight &= kAll >> (8 * (8 - (count - x - i)));
+            // One product gathers the lowest bits of eight bytes.
+            bits |= (eight * 0x0102040810204080u >> 56) << i;
+        }
+        to[x / 64] = bits;
     }
 }
 
-void Mask::unpack(int y, float* values) const {
+void Mask::unpack(int y, int left, int count, float* values) const {
     const std::uint64_t* const from = row(y);
-    for (int x = 0; x < width_; x += 64) {
-        const std::uint64_t word = from[x / 64];
-        const int count = std::min(64, width_ - x);
-        if (word == 0 || word == kAll) {
-            std::fill(values + x, values + x + count, word == 0 ? 0.0f : 1.0f);
-            continue;
+    for (int x = left, end = left + count; x < end;) {
+        const int bits = std::min(64 - x % 64, end - x);
+        const std::uint64_t word = from[x / 64] >> (x % 64), all = kAll >> (64 - bits);
+        if ((word & all) == 0 || (word & all) == all) {
+            std::fill(values, values + bits, (word & all) == 0 ? 0.0f : 1.0f);
+        } else {
+            for (int i = 0; i < bits; ++i)
+                values[i] = static_cast<float>(static_cast<int>(word >> i & 1));
         }
-        for (int i = 0; i < count; ++i)
-            values[x + i] = static_cast<float>(static_cast<int>(word >> i & 1));
+        values += bits;
+        x += bits;
     }
 }
 

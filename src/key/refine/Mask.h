@@ -24,10 +24,12 @@ class Mask {
     const std::uint64_t* row(int y) const { return const_cast<Mask*>(this)->row(y); }
 
     bool at(int x, int y) const { return (row(y)[x / 64] >> (x % 64) & 1) != 0; }
-    /// Sets row `y` from bytes of 0 and 1; there must be room to read a multiple of 8 of them.
-    void pack(int y, const std::uint8_t* flags);
-    /// The row as numbers, 0 and 1.
-    void unpack(int y, float* values) const;
+    /// Sets `count` pixels of row `y` from the start of a word on, from bytes of 0 and 1; there must be room to read a
+    /// multiple of 8 of them. The rest of the last word becomes 0.
+    void pack(int y, int word, int count, const std::uint8_t* flags);
+    void pack(int y, const std::uint8_t* flags) { pack(y, 0, width_, flags); }
+    /// `count` pixels of the row from column `left` on as numbers, 0 and 1.
+    void unpack(int y, int left, int count, float* values) const;
     /// How many pixels are set.
     std::int64_t count() const;
 

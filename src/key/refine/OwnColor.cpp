@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <numeric>
 
 #include "core/raster/Pixels.h"
-#include "key/pixel/ChannelRoles.h"
+#include "key/refine/FinishLoops.h"
 
 namespace tavrin::refine {
 
@@ -12,12 +14,32 @@ namespace {
 
 constexpr double kDeepReach = 10.0, kInnerReach = 8.0;
 constexpr float kWhole = 0.98f;
-constexpr float kPull = 0.1f;  // of the subject's mean colour, where little of a pixel's own is there
-constexpr float kLumaPull = 0.05f;
-constexpr float kLeastGain = 0.4f, kMostGain = 2.5f;
 constexpr double kFewCells = 20.0;
 constexpr float kMostOwn = 0.45f;  // of the screen's difference
-constexpr int kGrownRows = 64;
+
+// Adds some words of one row of cells.
+void sumGreen(const Mask& deep, int row, const Strip& strip, Cells& cells) {
+    constexpr int kSize = GreenLimits::kOwnCell;
+    const auto length = static_cast<std::size_t>(strip.width);
+    std::vector<float> lines(6 * length);
+    float *const r = lines.data(), *const g = r + length, *const b = g + length, *const weight = b + length;
+    float *const excess = weight + length, *const weights = excess + length;
+    const int first = row * kSize, last = std::min(first + kSize, deep.height());
+    for (int y = first; y < last; ++y) {
+        loadColors(strip, y, r, g, b);
+        deep.unpack(y, strip.left, strip.width, weight);
+        for (std::size_t x = 0; x < length; ++x) {
+            excess[x] += weight[x] * std::max(g[x] - (r[x] + b[x]) * 0.5f, 0.0f);
+            weights[x] += weight[x];
+        }
+    }
+    for (int begin = 0; begin < strip.width; begin += kSize) {
+        const int end = std::min(begin + kSize, strip.width), cell = (strip.left + begin) / kSize;
+        const auto pixels = static_cast<float>((end - begin) * (last - first));
+        cells.row(row, 0)[cell] = std::accumulate(excess + begin, excess + end, 0.0f) / pixels;
+        cells.row(row, 1)[cell] = std::accumulate(weights + begin, weights + end, 0.0f) / pixels;
+    }
+}
 
 // Means over the deep inside of how far the screen's channel is above the mean of the others.
 Cells ownGreen(const RunContext& context, const Findings& findings) {
@@ -26,31 +48,28 @@ Cells ownGreen(const RunContext& context, const Findings& findings) {
     const Mask deep = shrunk(context, findings.solid, shot.px(kDeepReach));
     Cells cells = Cells::over(shot.width, shot.height, kSize, 2);
     runRows(context, cells.rows(), 4, [&](int row) {
-        const auto width = static_cast<std::size_t>(shot.width);
-        std::vector<float> lines(4 * width), excess(width), weights(width);
-        float *const r = lines.data(), *const g = r + width, *const b = g + width, *const weight = b + width;
-        const int first = row * kSize, last = std::min(first + kSize, shot.height);
-        for (int y = first; y < last; ++y) {
-            loadColors(shot, y, r, g, b);
-            deep.unpack(y, weight);
-            for (std::size_t x = 0; x < width; ++x) {
-                excess[x] += weight[x] * std::max(g[x] - (r[x] + b[x]) * 0.5f, 0.0f);
-                weights[x] += weight[x];
-            }
-        }
-        for (int c = 0; c < cells.columns(); ++c) {
-            const int begin = c * kSize, end = std::min(begin + kSize, shot.width);
-            float sum = 0.0f, weightSum = 0.0f;
-            for (int x = begin; x < end; ++x) {
-                sum += excess[static_cast<std::size_t>(x)];
-                weightSum += weights[static_cast<std::size_t>(x)];
-            }
-            const auto pixels = static_cast<float>((end - begin) * (last - first));
-            cells.row(row, 0)[c] = sum / pixels;
-            cells.row(row, 1)[c] = weightSum / pixels;
-        }
+        forWords(deep, row * kSize, std::min((row + 1) * kSize, shot.height), [&](int word, int words) {
+            sumGreen(deep, row, {shot, word * 64, std::min(words * 64, shot.width - word * 64)}, cells);
+        });
     });
     return cells;
+}
+
+// The pixels that are nearly whole before the detail.
+Mask wholePixels(const RunContext& context, const Findings& findings) {
+    const Shot& shot = findings.shot;
+    Mask whole = findings.solid;
+    runAreas(context, findings.open, [&](const Area& area) {
+        const Strip strip = area.strip(shot, 0);
+        std::vector<float> alpha(static_cast<std::size_t>(strip.width)), scratch(alpha);
+        std::vector<std::uint8_t> flags(alpha.size() + 8);
+        for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+            plainAlpha(findings, strip, y, scratch.data(), alpha.data());
+            rowLoops().above(alpha.data(), kWhole, strip.width, flags.data());
+            whole.pack(y, area.word(), area.width(), flags.data());
+        }
+    });
+    return whole;
 }
 
 }  // namespace
@@ -73,101 +92,59 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
         limits.own = blurred(least, 3.0);
     }
 
-    Mask whole(shot.width, shot.height);
-    runRowRanges(context, shot.height, kGrownRows, [&](int first, int last) {
-        std::vector<float> alpha(static_cast<std::size_t>(shot.width));
-        std::vector<std::uint8_t> flags(alpha.size() + 8);
-        for (int y = first; y < last; ++y) {
-            plainAlpha(findings, y, alpha.data());
-            for (std::size_t x = 0; x < alpha.size(); ++x)
-                flags[x] = alpha[x] > kWhole;
-            whole.pack(y, flags.data());
-        }
-    });
     const int reach = std::max(2, shot.px(kInnerReach));
     constexpr int kSize = GreenLimits::kInnerCell;
-    limits.inner = blurred(sharesOf(context, shrunk(context, whole, reach), kSize),
+    limits.inner = blurred(sharesOf(context, shrunk(context, wholePixels(context, findings), reach), kSize),
                            std::max(0.0, (2.0 * reach + 1.0) / kSize - 1.0) / 2.0);
     return limits;
 }
 
-ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits)
+ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, const Strip& strip)
     : findings_(findings),
-      around_(findings.shot, findings.plate),
-      here_(findings.shot, findings.plate),
-      shares_(findings.shot.width, findings.shot.height, 1,
+      strip_(strip),
+      start_(strip, findings.plate),
+      scratch_(strip.width, 12),
+      shares_(strip.width, findings.shot.height, 1,
               [this](int y, float** planes) {
-                  around_.go(y);
-                  plainAlpha(findings_, y, planes[3]);
-                  const float* const own[3] = {around_.r(), around_.g(), around_.b()};
-                  const float* const screen[3] = {around_.plateR(), around_.plateG(), around_.plateB()};
-                  for (int c = 0; c < 3; ++c) {
-                      for (int x = 0; x < findings_.shot.width; ++x)
-                          planes[c][x] = std::max(own[c][x] - (1.0f - planes[3][x]) * screen[c][x], 0.0f);
-                  }
+                  start_.load(y, planes + 4);
+                  plainAlpha(findings_, strip_, y, scratch_.row(10), planes[3]);
+                  finishLoops().remainder({planes[4], planes[5], planes[6]}, {planes[7], planes[8], planes[9]},
+                                          planes[3], strip_.width, planes[0], planes[1], planes[2]);
               }),
-      subject_(findings.separation.subject, findings.separation.size),
-      own_(limits.own, GreenLimits::kOwnCell),
-      inner_(limits.inner, GreenLimits::kInnerCell),
-      scratch_(findings.shot.width, 10) {}
+      subject_(findings.separation.subject, findings.separation.size, strip.left, strip.width),
+      own_(limits.own, GreenLimits::kOwnCell, strip.left, strip.width),
+      inner_(limits.inner, GreenLimits::kInnerCell, strip.left, strip.width) {}
 
-// The colour without the screen's share, from a small window: rows 0 to 2.
-void ColorRows::unmix(int y) {
-    float *const weight = scratch_.row(3), *const columns = scratch_.row(4), *const subject = scratch_.row(5);
-    const int width = findings_.shot.width;
-    boxSums(shares_.around(y, 3, 1), 1, width, columns, weight);
-    for (int x = 0; x < width; ++x)
-        weight[x] = 1.0f / (weight[x] / 9.0f + kPull);
-    for (int c = 0; c < 3; ++c) {
-        float* const color = scratch_.row(c);
-        boxSums(shares_.around(y, c, 1), 1, width, columns, color);
-        subject_.fill(y, c, width, subject);
-        for (int x = 0; x < width; ++x)
-            color[x] = std::clamp((color[x] / 9.0f + kPull * subject[x]) * weight[x], 0.0f, 255.0f);
-    }
+void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
+    const int width = strip_.width;
+    for (int plane = 0; plane < 4; ++plane)
+        rowLoops().boxSums(shares_.around(y, plane, 1), 1, width, scratch_.row(11), scratch_.row(plane));
+    for (int c = 0; c < 3; ++c)
+        subject_.fill(y, c, scratch_.row(4 + c));
+    own_.fill(y, 0, scratch_.row(7));
+    inner_.fill(y, 0, scratch_.row(8));
+    loadLuma(strip_, y, scratch_.row(9));
+    const auto here = [&](int plane) -> ChannelRow {
+        return {shares_.at(y, plane), shares_.at(y, plane + 1), shares_.at(y, plane + 2)};
+    };
+    const LumaWeights luma(strip_.shot.blue);
+    finishLoops().colors({here(4), here(7), rowsFrom(0), scratch_.row(3), rowsFrom(4), scratch_.row(7),
+                          scratch_.row(8), scratch_.row(9), alpha, luma.r, luma.g, luma.b},
+                         strip_.shot.blue, width, to);
 }
 
-// The screen's channel, limited: row 6.
-void ColorRows::limitGreen(int y) {
-    const float *const r = scratch_.row(0), *const g = scratch_.row(1), *const b = scratch_.row(2);
-    float *const limited = scratch_.row(6), *const own = scratch_.row(7), *const inner = scratch_.row(8);
-    const int width = findings_.shot.width;
-    own_.fill(y, 0, width, own);
-    inner_.fill(y, 0, width, inner);
-    for (int x = 0; x < width; ++x) {
-        const float mean = (r[x] + b[x]) * 0.5f;
-        // Reddish cloth is green's neighbour, bluish cloth is not.
-        const float most = b[x] > r[x] ? mean + inner[x] * (b[x] - mean) : mean;
-        limited[x] = std::min(g[x], most + own[x]);
-    }
-}
-
-void ColorRows::write(int y, const float* alpha, std::uint8_t* to) {
-    const Shot& shot = findings_.shot;
-    const LumaWeights weights(shot.blue);
-    const ChannelRoles roles(shot.blue);
-    unmix(y);
-    limitGreen(y);
-    here_.go(y);
-    float* const luma = scratch_.row(9);
-    loadLuma(shot, y, luma);
-    const float *const r = scratch_.row(0), *const g = scratch_.row(1), *const b = scratch_.row(2),
-                       *const limited = scratch_.row(6);
-    const float *const pr = here_.plateR(), *const pg = here_.plateG(), *const pb = here_.plateB();
-    for (int x = 0; x < shot.width; ++x, to += kPixelBytes) {
-        const float a = alpha[x];
-        const float own = weights.r * r[x] + weights.g * g[x] + weights.b * b[x];
-        const float screen = weights.r * pr[x] + weights.g * pg[x] + weights.b * pb[x];
-        const float wanted = std::clamp(luma[x] - (1.0f - a) * screen, 0.0f, 255.0f * a);
-        const float gain =
-            std::clamp((wanted + kLumaPull * own) / std::max((a + kLumaPull) * own, 1.0f), kLeastGain, kMostGain);
-        const auto byte = [](float value) {
-            return static_cast<std::uint8_t>(static_cast<int>(std::min(value, 255.0f) + 0.5f));
-        };
-        to[0] = byte(r[x] * gain);
-        to[roles.green] = byte(limited[x] * gain);
-        to[roles.blue] = byte(b[x] * gain);
-        to[3] = byte(a * 255.0f);
+void writeSolid(const Shot& shot, const GreenLimits& limits, const Area& area, std::uint8_t* picture) {
+    CellRows own(limits.own, GreenLimits::kOwnCell, area.left, area.width()),
+        inner(limits.inner, GreenLimits::kInnerCell, area.left, area.width());
+    const auto width = static_cast<std::size_t>(area.width());
+    std::vector<float> lines(2 * width);
+    std::vector<std::uint32_t> pixels(width);
+    for (int y = area.top; y < area.bottom; ++y) {
+        own.fill(y, 0, lines.data());
+        inner.fill(y, 0, lines.data() + width);
+        finishLoops().solid(shot.pixelRow(y) + area.left, lines.data(), lines.data() + width, shot.blue, area.width(),
+                            pixels.data());
+        std::memcpy(picture + pixelOffset(shot.width, area.left, y), pixels.data(), width * kPixelBytes);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "key/refine/Areas.h"
 #include "key/refine/Finish.h"
 
 namespace tavrin::refine {
@@ -12,27 +13,34 @@ struct GreenLimits {
 };
 GreenLimits findLimits(const RunContext& context, const Findings& findings);
 
-/// The subject's own colour in rows. For one thread.
+/// The subject's own colour in rows of a strip. For one thread.
 class ColorRows {
   public:
-    ColorRows(const Findings& findings, const GreenLimits& limits);
+    ColorRows(const Findings& findings, const GreenLimits& limits, const Strip& strip);
 
-    /// Writes row `y` of a picture.
-    /// @param alpha the final alpha, 0 to 1
-    /// @param to RGBA, real channels; nothing but zeros where alpha comes to 0
-    void write(int y, const float* alpha, std::uint8_t* to);
+    /// Makes row `y`.
+    /// @param alpha the final alpha of the strip, 0 to 1
+    /// @param to RGBA of the strip, real channels; the colours mean nothing where alpha comes to 0
+    void fill(int y, const float* alpha, std::uint32_t* to);
 
   private:
     using Maker = std::function<void(int, float**)>;
 
-    void unmix(int y);
-    void limitGreen(int y);
+    ChannelRow rowsFrom(int row) { return {scratch_.row(row), scratch_.row(row + 1), scratch_.row(row + 2)}; }
 
     const Findings& findings_;
-    StartRows around_, here_;
-    RowRing<4, Maker> shares_;
-    CellRows subject_, own_, inner_;
+    Strip strip_;
+    StartRows start_;
     PaddedRows scratch_;
+    RowRing<10, Maker> shares_;  // the remainder, alpha, the picture, the plate
+    CellRows subject_, own_, inner_;
 };
+
+/// Columns beyond an area that the windows of the colours look at.
+inline constexpr int kColorHalo = 2;
+
+/// The same for an area that lies wholly inside: alpha is 1, and a pixel keeps its colour but for the screen's tint.
+/// @param picture the RGBA rows of the whole picture to write to
+void writeSolid(const Shot& shot, const GreenLimits& limits, const Area& area, std::uint8_t* picture);
 
 }  // namespace tavrin::refine

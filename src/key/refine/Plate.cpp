@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
 
 #include "core/raster/Pixels.h"
 #include "key/pixel/ChannelRoles.h"
+#include "key/refine/Areas.h"
+#include "key/refine/MatteLoops.h"
 
 namespace tavrin::refine {
 
@@ -15,7 +18,7 @@ constexpr double kSeedReach = 4.0;     // pixels of 5 megapixels, as all lengths
 constexpr double kLeastScreen = 0.02;  // of the picture
 constexpr int kLeastDifference = 15;   // of the screen's colour
 constexpr float kLeastShare = 0.3f;    // of the usual difference, for a plate that has lost its colour
-constexpr double kSamples = 200'000;   // of a median
+constexpr double kSamples = 40'000;   // of a median
 constexpr float kDeviation = 1.4826f;  // of a normal distribution, from the median of the distances
 
 // Every so many columns and rows, for measuring a middle.
@@ -52,7 +55,7 @@ int usualDifference(const Shot& shot) {
 
 float measureSpread(const Shot& shot, const Plate& plate) {
     std::vector<float> distances, alpha(static_cast<std::size_t>(shot.width));
-    StartRows rows(shot, plate);
+    StartRows rows({shot, 0, shot.width}, plate);
     const int step = sampleStep(shot);
     for (int y = 0; y < shot.height; y += step) {
         rows.go(y);
@@ -67,33 +70,36 @@ float measureSpread(const Shot& shot, const Plate& plate) {
     return kDeviation * *middle;
 }
 
-// Sums of the screen's pixels in one row of cells.
-void sumCells(const Shot& shot, const Mask& screen, int row, Cells& cells) {
-    const auto width = static_cast<std::size_t>(shot.width);
-    std::vector<float> lines(8 * width);
-    float *const color = lines.data(), *const sum = color + 4 * width;
+// Sums of the screen's pixels in some words of one row of cells.
+void sumCells(const Shot& shot, const Mask& screen, int row, int word, int words, Cells& cells) {
+    const int left = word * 64, count = std::min(words * 64, shot.width - left);
+    const auto length = static_cast<std::size_t>(count);
+    std::vector<float> lines(8 * length, 0.0f);
+    float *const color = lines.data(), *const weight = color + 3 * length, *const sum = color + 4 * length;
     const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
     for (int y = first; y < last; ++y) {
-        loadColors(shot, y, color, color + width, color + 2 * width);
-        float* const weight = color + 3 * width;
-        screen.unpack(y, weight);
-        for (std::size_t x = 0; x < width; ++x) {
-            sum[x] += color[x] * weight[x];
-            sum[x + width] += color[x + width] * weight[x];
-            sum[x + 2 * width] += color[x + 2 * width] * weight[x];
-            sum[x + 3 * width] += weight[x];
-        }
+        loadColors({shot, left, count}, y, color, color + length, color + 2 * length);
+        screen.unpack(y, left, count, weight);
+        for (std::size_t plane = 0; plane < 3; ++plane)
+            rowLoops().add(color + plane * length, weight, count, sum + plane * length);
+        rowLoops().add(weight, weight, count, sum + 3 * length);
     }
-    for (int plane = 0; plane < 4; ++plane) {
-        const float* const from = sum + static_cast<std::size_t>(plane) * width;
-        for (int c = 0; c < cells.columns(); ++c) {
-            const int begin = c * kPlateCell, end = std::min(begin + kPlateCell, shot.width);
-            float all = 0.0f;
-            for (int x = begin; x < end; ++x)
-                all += from[x];
-            cells.row(row, plane)[c] = all / static_cast<float>((end - begin) * (last - first));
-        }
+    const int whole = count / kPlateCell, rest = count % kPlateCell;
+    for (std::size_t plane = 0; plane < 4; ++plane) {
+        const float* const from = sum + plane * length;
+        float* const to = cells.row(row, static_cast<int>(plane)) + left / kPlateCell;
+        rowLoops().sumGroups(from, kPlateCell, whole, to);
+        for (int c = 0; c < whole; ++c)
+            to[c] /= static_cast<float>(kPlateCell * (last - first));
+        if (rest > 0)
+            to[whole] = std::accumulate(from + whole * kPlateCell, from + count, 0.0f) / static_cast<float>(rest * (last - first));
     }
+}
+
+// The same, for all words that have any of the screen.
+void sumCells(const Shot& shot, const Mask& screen, int row, Cells& cells) {
+    const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
+    forWords(screen, first, last, [&](int word, int words) { sumCells(shot, screen, row, word, words, cells); });
 }
 
 }  // namespace
@@ -103,15 +109,9 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot) {
     if (usual < kLeastDifference) return std::nullopt;
     Mask seeds(shot.width, shot.height);
     const bool finished = runRowRanges(context, shot.height, 32, [&](int first, int last) {
-        const auto width = static_cast<std::size_t>(shot.width);
-        std::vector<float> lines(3 * width);
-        std::vector<std::uint8_t> flags(width + 8);
-        float *const r = lines.data(), *const g = r + width, *const b = g + width;
-        for (int y = first; y < last; ++y) {
-            loadColors(shot, y, r, g, b);
-            const std::uint8_t* const key = shot.keyRow(y);
-            for (std::size_t x = 0; x < width; ++x)
-                flags[x] = (key[x] == 0) & (g[x] - std::max(r[x], b[x]) > 0.5f * static_cast<float>(usual));
+        std::vector<std::uint8_t> flags(static_cast<std::size_t>(shot.width) + 8);
+        for (int y = first; y < last && !(y != first && context.isSuperseded()); ++y) {
+            rowLoops().seeds(shot.pixelRow(y), shot.keyRow(y), shot.width, shot.blue, usual, flags.data());
             seeds.pack(y, flags.data());
         }
     });
@@ -130,26 +130,25 @@ void paintPlate(const RunContext& context, const Shot& shot, Plate& plate) {
     plate.spread = measureSpread(shot, plate);
 }
 
-StartRows::StartRows(const Shot& shot, const Plate& plate)
-    : shot_(shot),
+StartRows::StartRows(const Strip& strip, const Plate& plate)
+    : strip_(strip),
       least_(kLeastShare * plate.difference),
-      plate_(plate.colors, kPlateCell),
-      lines_(6 * static_cast<std::size_t>(shot.width)) {}
+      plate_(plate.colors, kPlateCell, strip.left, strip.width),
+      lines_(6 * static_cast<std::size_t>(strip.width)) {}
+
+void StartRows::load(int y, float* const* planes) {
+    loadColors(strip_, y, planes[0], planes[1], planes[2]);
+    for (int plane = 0; plane < 3; ++plane)
+        plate_.fill(y, plane, planes[3 + plane]);
+}
 
 void StartRows::go(int y) {
-    loadColors(shot_, y, line(0), line(1), line(2));
-    for (int plane = 0; plane < 3; ++plane)
-        plate_.fill(y, plane, shot_.width, line(static_cast<std::size_t>(3 + plane)));
+    float* const planes[] = {line(0), line(1), line(2), line(3), line(4), line(5)};
+    load(y, planes);
 }
 
 void StartRows::alpha(float* to) const {
-    const float *const red = r(), *const green = g(), *const blue = b();
-    const float *const screenR = plateR(), *const screenG = plateG(), *const screenB = plateB();
-    for (int x = 0; x < shot_.width; ++x) {
-        const float own = green[x] - std::max(red[x], blue[x]);
-        const float whole = std::max(screenG[x] - std::max(screenR[x], screenB[x]), least_);
-        to[x] = std::clamp(1.0f - own / whole, -0.3f, 1.0f);
-    }
+    matteLoops().startAlpha(own(), screen(), least_, strip_.width, to);
 }
 
 }  // namespace tavrin::refine

@@ -5,6 +5,7 @@
 
 #include "key/refine/Cells.h"
 #include "key/refine/Mask.h"
+#include "key/refine/RowLoops.h"
 #include "key/refine/Shot.h"
 
 namespace tavrin::refine {
@@ -31,27 +32,26 @@ void paintPlate(const RunContext& context, const Shot& shot, Plate& plate);
 /// that hang together with it.
 void mendScreen(const RunContext& context, const Shot& shot, Plate& plate);
 
-/// The rows of a shot beside its plate, and the simple alpha: one less the colour difference over the plate's.
+/// The rows of a strip beside its plate, and the simple alpha: one less the colour difference over the plate's.
 class StartRows {
   public:
-    StartRows(const Shot& shot, const Plate& plate);
+    StartRows(const Strip& strip, const Plate& plate);
 
+    /// Row `y` of the picture's three channels and of the plate's.
+    void load(int y, float* const* planes);
     /// Goes to row `y`: all that follows is of this row.
     void go(int y);
     /// -0.3 to 1.
     void alpha(float* to) const;
-    const float* r() const { return line(0); }
-    const float* g() const { return line(1); }
-    const float* b() const { return line(2); }
-    const float* plateR() const { return line(3); }
-    const float* plateG() const { return line(4); }
-    const float* plateB() const { return line(5); }
+    /// The picture's colours and the plate's.
+    ChannelRow own() const { return {line(0), line(1), line(2)}; }
+    ChannelRow screen() const { return {line(3), line(4), line(5)}; }
 
   private:
-    const float* line(std::size_t i) const { return lines_.data() + i * static_cast<std::size_t>(shot_.width); }
-    float* line(std::size_t i) { return lines_.data() + i * static_cast<std::size_t>(shot_.width); }
+    const float* line(std::size_t i) const { return lines_.data() + i * static_cast<std::size_t>(strip_.width); }
+    float* line(std::size_t i) { return lines_.data() + i * static_cast<std::size_t>(strip_.width); }
 
-    const Shot& shot_;
+    Strip strip_;
     float least_;
     CellRows plate_;
     std::vector<float> lines_;

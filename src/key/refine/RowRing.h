@@ -1,6 +1,6 @@
 #pragma once
 
-#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <vector>
 
@@ -11,6 +11,7 @@ inline constexpr int kRowPad = 32;
 
 /// Place `i` of a line of `count`, mirrored at the ends without repeating these.
 inline int mirrored(int i, int count) {
+    if (i >= 0 && i < count) return i;
     if (count == 1) return 0;
     const int period = 2 * (count - 1);
     i = ((i % period) + period) % period;
@@ -27,9 +28,10 @@ class PaddedRows {
 
     float* row(int index) { return values_.data() + stride_ * static_cast<std::size_t>(index) + kRowPad; }
 
-    void pad(int index) {
+    /// Mirrors `reach` columns at both ends of a row.
+    void pad(int index, int reach) {
         float* const values = row(index);
-        for (int i = 1; i <= kRowPad; ++i) {
+        for (int i = 1; i <= reach; ++i) {
             values[-i] = values[mirrored(-i, width_)];
             values[width_ - 1 + i] = values[mirrored(width_ - 1 + i, width_)];
         }
@@ -46,12 +48,12 @@ class PaddedRows {
 template <int kPlanes, class Make>
 class RowRing {
   public:
-    /// @param reach rows asked for at a time to either side of the one under work
+    /// @param reach rows and columns asked for at a time to either side of those under work
     RowRing(int width, int height, int reach, Make make)
         : height_(height),
           reach_(reach),
-          kept_(static_cast<std::size_t>(2 * reach + 1), -1),
-          rows_(width, kPlanes * (2 * reach + 1)),
+          kept_(std::bit_ceil(static_cast<std::size_t>(2 * reach + 1)), -1),
+          rows_(width, kPlanes * static_cast<int>(kept_.size())),
           window_(static_cast<std::size_t>(2 * reach + 1)),
           make_(std::move(make)) {}
 
@@ -67,7 +69,7 @@ class RowRing {
 
   private:
     int slot(int y) {
-        const int row = mirrored(y, height_), index = row % (2 * reach_ + 1);
+        const int row = mirrored(y, height_), index = row & static_cast<int>(kept_.size() - 1);
         int& kept = kept_[static_cast<std::size_t>(index)];
         if (kept != row) {
             float* planes[kPlanes];
@@ -75,7 +77,7 @@ class RowRing {
                 planes[p] = rows_.row(index * kPlanes + p);
             make_(row, planes);
             for (int p = 0; p < kPlanes; ++p)
-                rows_.pad(index * kPlanes + p);
+                rows_.pad(index * kPlanes + p, reach_);
             kept = row;
         }
         return index;
@@ -87,23 +89,5 @@ class RowRing {
     std::vector<const float*> window_;
     Make make_;
 };
-
-/// Sums of the squares of 2r + 1 pixels around each of `width` columns, from 2r + 1 padded rows.
-/// @param columns room for a padded row
-inline void boxSums(const float* const* rows, int r, int width, float* columns, float* sums) {
-    for (int x = -r; x < width + r; ++x)
-        columns[x] = rows[0][x];
-    for (int i = 1; i <= 2 * r; ++i) {
-        const float* const row = rows[i];
-        for (int x = -r; x < width + r; ++x)
-            columns[x] += row[x];
-    }
-    for (int x = 0; x < width; ++x)
-        sums[x] = columns[x - r];
-    for (int i = 1 - r; i <= r; ++i) {
-        for (int x = 0; x < width; ++x)
-            sums[x] += columns[x + i];
-    }
-}
 
 }  // namespace tavrin::refine

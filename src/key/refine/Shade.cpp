@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "key/refine/Areas.h"
 #include "key/refine/Plate.h"
 #include "key/refine/RowRing.h"
 #include "key/refine/ScreenRatio.h"
@@ -9,6 +10,7 @@ namespace tavrin::refine {
 
 namespace {
 
+constexpr int kHalo = 4;  // columns beyond an area that its windows look at
 constexpr double kSmoothReach = 6.0, kReachCell = 8.0;
 constexpr float kFarSpreads = 3.0f, kLeastSpread = 0.008f;
 constexpr float kLeastLight = 0.4f, kMostLight = 1.15f;  // of the plate's
@@ -16,65 +18,63 @@ constexpr std::uint8_t kMostKey = 89;                    // the key's alpha belo
 constexpr float kSoftShare = 0.9f;                       // of a cell that a shadow is followed through
 constexpr double kLargeArea = 0.02;                      // of the picture
 
-// Least or greatest of 2r + 1 rows and columns.
-template <class Choose>
-void windowOf(const float* const* rows, int r, int width, Choose choose, float* columns, float* to) {
-    for (int x = -r; x < width + r; ++x)
-        columns[x] = rows[0][x];
-    for (int i = 1; i <= 2 * r; ++i) {
-        const float* const row = rows[i];
-        for (int x = -r; x < width + r; ++x)
-            columns[x] = choose(columns[x], row[x]);
-    }
-    // Joined to itself in steps that double, until it spans the window.
-    int have = 1;
-    for (; have < 2 * r + 1;) {
-        const int step = std::min(have, 2 * r + 1 - have);
-        for (int x = -r; x < width + r - (have + step - 1); ++x)
-            columns[x] = choose(columns[x], columns[x + step]);
-        have += step;
-    }
-    for (int x = 0; x < width; ++x)
-        to[x] = columns[x - r];
-}
-
-// Which pixels of a block are near their plate, and which may be smooth shadow on it.
-void lookAt(const Shot& shot, const Plate& plate, int first, int last, Mask& near, Mask& soft) {
-    const auto width = static_cast<std::size_t>(shot.width);
-    const int reach = std::min(shot.px(kSmoothReach), kRowPad - 1);
-    const float spread = plate.spread, limit = kFarSpreads * std::max(spread, kLeastSpread);
-    StartRows rows(shot, plate);
-    RowRing<1, std::function<void(int, float**)>> strays(shot.width, shot.height, 2, [&](int y, float** planes) {
+// Which pixels of an area are near their plate.
+void findNear(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& near) {
+    const Strip strip = area.strip(shot, kHalo);
+    StartRows rows(strip, plate);
+    RowRing<1, std::function<void(int, float**)>> strays(strip.width, shot.height, 2, [&](int y, float** planes) {
         rows.go(y);
         rows.alpha(planes[0]);
-        for (std::size_t x = 0; x < width; ++x)
+        for (int x = 0; x < strip.width; ++x)
             planes[0][x] = std::abs(planes[0][x]);
     });
-    ScreenRatio ratio(shot, plate);
-    RowRing<2, std::function<void(int, float**)>> ratios(
-        shot.width, shot.height, reach, [&](int y, float** planes) { ratio.fill(y, planes[0], planes[1]); });
-
-    PaddedRows scratch(shot.width, 4);
-    float *const columns = scratch.row(0), *const low = scratch.row(1), *const high = scratch.row(2);
-    std::vector<std::uint8_t> flags(width + 8);
-    for (int y = first; y < last; ++y) {
-        boxSums(strays.around(y, 0, 2), 2, shot.width, columns, low);
-        for (std::size_t x = 0; x < width; ++x)
-            flags[x] = low[x] / 25.0f < limit;
-        near.pack(y, flags.data());
-
-        const float* const* window = ratios.around(y, 0, reach);
-        windowOf(
-            window, reach, shot.width, [](float a, float b) { return b < a ? b : a; }, columns, low);
-        windowOf(
-            window, reach, shot.width, [](float a, float b) { return a < b ? b : a; }, columns, high);
-        const float *const light = ratios.at(y, 0), *const off = ratios.at(y, 1);
-        const std::uint8_t* const key = shot.keyRow(y);
-        for (std::size_t x = 0; x < width; ++x)
-            flags[x] = (off[x] < 4.0f + 300.0f * spread) & (light[x] > kLeastLight) & (light[x] < kMostLight) &
-                       (key[x] <= kMostKey) & (high[x] - low[x] < 0.12f + 3.0f * spread);
-        soft.pack(y, flags.data());
+    PaddedRows scratch(strip.width, 2);
+    std::vector<std::uint8_t> flags(static_cast<std::size_t>(strip.width) + 8);
+    const float limit = kFarSpreads * std::max(plate.spread, kLeastSpread) * 25.0f;
+    for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+        rowLoops().boxSums(strays.around(y, 0, 2), 2, strip.width, scratch.row(0), scratch.row(1));
+        rowLoops().below(scratch.row(1), limit, strip.width, flags.data());
+        near.pack(y, area.word(), area.width(), flags.data() + (area.left - strip.left));
     }
+}
+
+// Which pixels of an area may be smooth shadow on the screen.
+void findSoft(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& soft) {
+    const int reach = std::min(shot.px(kSmoothReach), kRowPad - 1);
+    const Strip strip = area.strip(shot, reach + kHalo);
+    ScreenRatio ratio(strip, plate);
+    RowRing<2, std::function<void(int, float**)>> ratios(
+        strip.width, shot.height, reach, [&](int y, float** planes) { ratio.fill(y, planes[0], planes[1]); });
+    PaddedRows scratch(strip.width, 2);
+    std::vector<std::uint8_t> flags(static_cast<std::size_t>(area.width()) + 8);
+    const float offLimit = 4.0f + 300.0f * plate.spread, rangeLimit = 0.12f + 3.0f * plate.spread;
+    const int inset = area.left - strip.left;
+    const float *const low = scratch.row(0) + inset - reach, *const high = scratch.row(1) + inset - reach;
+    for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+        rowLoops().windowRange(ratios.around(y, 0, reach), reach, strip.width, scratch.row(0), scratch.row(1));
+        const float *const light = ratios.at(y, 0) + inset, *const off = ratios.at(y, 1) + inset;
+        const std::uint8_t* const key = shot.keyRow(y) + area.left;
+        for (int x = 0; x < area.width(); ++x)
+            flags[static_cast<std::size_t>(x)] = (off[x] < offLimit) & (light[x] > kLeastLight) &
+                                                 (light[x] < kMostLight) & (key[x] <= kMostKey) &
+                                                 (high[x] - low[x] < rangeLimit);
+        soft.pack(y, area.word(), area.width(), flags.data());
+    }
+}
+
+// The pixels that the key made thin.
+Mask thinPixels(const RunContext& context, const Shot& shot) {
+    Mask thin(shot.width, shot.height);
+    runRowRanges(context, shot.height, 32, [&](int first, int last) {
+        std::vector<std::uint8_t> flags(static_cast<std::size_t>(shot.width) + 8);
+        for (int y = first; y < last; ++y) {
+            const std::uint8_t* const key = shot.keyRow(y);
+            for (int x = 0; x < shot.width; ++x)
+                flags[static_cast<std::size_t>(x)] = key[x] <= kMostKey;
+            thin.pack(y, flags.data());
+        }
+    });
+    return thin;
 }
 
 // Where one gets from the large areas of the screen through soft cells only: a shadow fades, but cloth of the
@@ -92,7 +92,7 @@ Mask reachable(const RunContext& context, const Mask& screen, const Mask& soft, 
         areas[static_cast<std::size_t>(parts.labels[i])] += static_cast<double>(seeds.row(0, 0)[i]) * cell * cell;
     areas[0] = 0.0;
     const double least = kLargeArea * screen.width() * screen.height();
-    const Mask cells = maskOf(screen.width(), screen.height(), cell, [&](int c, int row) {
+    const Mask cells = maskOf(context, screen.width(), screen.height(), cell, [&](int c, int row) {
         const auto i = static_cast<std::size_t>(row * open.columns() + c);
         return areas[static_cast<std::size_t>(parts.labels[i])] > least;
     });
@@ -103,9 +103,12 @@ Mask reachable(const RunContext& context, const Mask& screen, const Mask& soft, 
 
 void mendScreen(const RunContext& context, const Shot& shot, Plate& plate) {
     Mask near(shot.width, shot.height), soft(shot.width, shot.height);
-    runBlocks(context, shot.height, 64, [&](int first, int last) { lookAt(shot, plate, first, last, near, soft); });
+    runAreas(context, plate.screen, [&](const Area& area) { findNear(context, shot, plate, area, near); });
     plate.screen &= near;
-    Mask shadows = reachable(context, plate.screen, soft, shot.px(kReachCell));
+    Mask open = thinPixels(context, shot);
+    open &= plate.screen.inverted();
+    runAreas(context, open, [&](const Area& area) { findSoft(context, shot, plate, area, soft); });
+    Mask shadows = reachable(context, plate.screen, soft, shot.cell(kReachCell));
     shadows &= soft;
     plate.screen |= shadows;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "core/raster/Rows.h"
@@ -8,6 +9,8 @@ namespace tavrin::refine {
 
 /// What the second look at the key goes by: the picture, and what the key made of it.
 struct Shot {
+    static constexpr int kLeastCell = 4;
+
     int width = 0, height = 0;             ///< at least 1
     const std::uint8_t* pixels = nullptr;  ///< RGBA, rows packed
     const std::uint8_t* key = nullptr;     ///< the key's alpha of each pixel, rows packed
@@ -15,7 +18,17 @@ struct Shot {
 
     /// A length told for a picture of 5 megapixels, in pixels of this one; at least 1.
     int px(double length) const;
+    /// The same for the side of a cell: small pictures have no more cells for their pixels than others.
+    int cell(double length) const { return std::max(kLeastCell, px(length)); }
     const std::uint8_t* keyRow(int y) const { return key + std::int64_t{y} * width; }
+    const std::uint32_t* pixelRow(int y) const;
+};
+
+/// Columns of a shot that are worked off by themselves, as if the picture ended there: the outer ones are there for
+/// the windows of those between, which alone are used.
+struct Strip {
+    const Shot& shot;
+    int left = 0, width = 0;
 };
 
 /// 0 up to `low`, 1 from `high`, and a smooth way between.
@@ -30,13 +43,9 @@ struct LumaWeights {
     explicit LumaWeights(bool blue) : r(0.299f), g(blue ? 0.114f : 0.587f), b(blue ? 0.587f : 0.114f) {}
 };
 
-/// The colours of row `y`, in roles, `width` numbers of 0 to 255 each.
-void loadColors(const Shot& shot, int y, float* r, float* g, float* b);
+/// The colours of row `y` of a strip, in roles, `width` numbers of 0 to 255 each.
+void loadColors(const Strip& strip, int y, float* r, float* g, float* b);
 /// The luma of row `y`, whole numbers of 0 to 255.
-void loadLuma(const Shot& shot, int y, float* luma);
-
-/// Runs `block(first, last)` for blocks of `blockRows` rows, always the same ones, so that what a block adds up does
-/// not depend on the threads. @return false when the run was superseded
-bool runBlocks(const RunContext& context, int rows, int blockRows, const std::function<void(int, int)>& block);
+void loadLuma(const Strip& strip, int y, float* luma);
 
 }  // namespace tavrin::refine

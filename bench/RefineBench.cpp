@@ -1,0 +1,68 @@
+#include <benchmark/benchmark.h>
+
+#include <QImage>
+
+#include "core/raster/Rows.h"
+#include "key/Combine.h"
+#include "key/screen/BaseGreen.h"
+
+// The refined key beside the plain one, on the sample portrait.
+
+namespace tavrin {
+namespace {
+
+void fillLayer(BitmapInfo& record, const char* path, int width, int height) {
+    const QImage image = QImage(path)
+                             .scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                             .convertToFormat(QImage::Format_RGBA8888);
+    for (int y = 0; y < height; ++y) {
+        const std::uint8_t* const row = image.constScanLine(y);
+        std::copy_n(row, std::ptrdiff_t{width} * kPixelBytes, record.pBitmapData + pixelOffset(width, 0, y));
+    }
+}
+
+// Arguments: width, height, threads.
+void refineSample(benchmark::State& state, bool refined) {
+    const int width = static_cast<int>(state.range(0)), height = static_cast<int>(state.range(1));
+    SystemInfo info;
+    info.iOutputPixelWidth = width;
+    info.iOutputPixelHeight = height;
+    for (BitmapInfo* record :
+         {info.pForegroundBitmapInfo.get(), info.pBackgroundBitmapInfo.get(), info.pCombinedBitmapInfo.get()}) {
+        record->allocateBuffers(width, height, 1, 1);
+    }
+    BitmapInfo& front = *info.pForegroundBitmapInfo;
+    fillLayer(front, TAVRIN_SOURCE_DIR "/data/sample/portrait.jpg", width, height);
+    fillLayer(*info.pBackgroundBitmapInfo, TAVRIN_SOURCE_DIR "/data/sample/background.jpg", width, height);
+    front.iOrgWidth = width;
+    front.iOrgHeight = height;
+    front.orgBitmapData = front.pBitmapData;
+    info.iNewThreadCount = info.iCurrentThreadCount.load();
+    ComputeBaseColor(info, 2);
+    ComputeBaseGreen(info, 1, 2);
+    info.bRefineKey = refined;
+    const ThreadLimit limit(static_cast<int>(state.range(2)));
+    for (auto _ : state)
+        Combine(info, 1, 1);
+    state.counters["per_pixel"] =
+        benchmark::Counter(static_cast<double>(width) * height,
+                           benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+void plainKey(benchmark::State& state) {
+    refineSample(state, false);
+}
+void refinedKey(benchmark::State& state) {
+    refineSample(state, true);
+}
+
+void sampleSizes(benchmark::internal::Benchmark* bench) {
+    for (const int threads : {1, 2})
+        bench->Args({460, 575, threads})->Args({2400, 3000, threads})->Args({4000, 6000, threads});
+    bench->UseRealTime()->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+}
+BENCHMARK(plainKey)->Apply(sampleSizes);
+BENCHMARK(refinedKey)->Apply(sampleSizes);
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,142 @@
+#include "key/refine/FinishLoops.h"
+
+#include <algorithm>
+
+// This file is compiled once for each vector target.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "key/refine/FinishLoops.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace tavrin {
+namespace HWY_NAMESPACE {
+
+namespace {
+
+using refine::ChannelRow;
+using refine::ColorSources;
+using refine::EdgeShape;
+
+constexpr float kLow = 0.03f, kHigh = 0.97f;  // levels that become 0 and 1
+constexpr float kTopNoise = 0.03f, kKeyGain = 4.0f;
+constexpr float kPull = 0.1f;  // of the subject's usual colour, where little of a pixel's own is there
+constexpr float kLumaPull = 0.05f;
+constexpr float kLeastGain = 0.4f, kMostGain = 2.5f;
+
+float limited(float value) {
+    return std::min(std::max(value, 0.0f), 1.0f);
+}
+
+std::uint32_t byteOf(float value) {
+    return static_cast<std::uint32_t>(static_cast<std::int32_t>(std::min(value, 255.0f) + 0.5f));
+}
+
+// The most of the screen's channel that the subject may have: reddish cloth is green's neighbour, bluish cloth is not.
+float mostGreen(float r, float b, float green, float cyan) {
+    const float mean = (r + b) * 0.5f;
+    return (b > r ? mean + cyan * (b - mean) : mean) + green;
+}
+
+void levels(const float* HWY_RESTRICT alpha, const float* HWY_RESTRICT detail, float strength, int count,
+            float* HWY_RESTRICT to) {
+    for (int x = 0; x < count; ++x)
+        to[x] = limited((alpha[x] + strength * detail[x] - kLow) / (kHigh - kLow));
+}
+
+void quieten(const float* HWY_RESTRICT means, float noise, int count, float* HWY_RESTRICT alpha) {
+    for (int x = 0; x < count; ++x) {
+        const float low = alpha[x] * limited(means[x] / noise - 1.0f);
+        alpha[x] = 1.0f - (1.0f - low) * limited((1.0f - means[x]) / kTopNoise - 1.0f);
+    }
+}
+
+void holdBack(const float* HWY_RESTRICT near, const float* HWY_RESTRICT keySums, int count,
+              float* HWY_RESTRICT alpha) {
+    for (int x = 0; x < count; ++x)
+        alpha[x] *= std::max(near[x], std::min(keySums[x] / 25.0f * kKeyGain, 1.0f));
+}
+
+void shape(const EdgeShape& shape, const float* HWY_RESTRICT means, int count, float* HWY_RESTRICT alpha) {
+    for (int x = 0; x < count; ++x) {
+        float a = alpha[x] + shape.blur * (means[x] - alpha[x]);
+        a = limited(0.5f + (a - 0.5f) * shape.slope);
+        a += shape.tint * a * (1.0f - a);
+        alpha[x] = a > 0.01f && a < 1.0f ? limited(a + shape.shift) : a;
+    }
+}
+
+void raise(const float* HWY_RESTRICT floor, int count, float* HWY_RESTRICT alpha) {
+    for (int x = 0; x < count; ++x)
+        alpha[x] = std::max(alpha[x], floor[x]);
+}
+
+void remainder(ChannelRow own, ChannelRow screen, const float* alpha, int count, float* HWY_RESTRICT r,
+               float* HWY_RESTRICT g, float* HWY_RESTRICT b) {
+    for (int x = 0; x < count; ++x) {
+        const float rest = 1.0f - alpha[x];
+        r[x] = std::max(own.r[x] - rest * screen.r[x], 0.0f);
+        g[x] = std::max(own.g[x] - rest * screen.g[x], 0.0f);
+        b[x] = std::max(own.b[x] - rest * screen.b[x], 0.0f);
+    }
+}
+
+void colors(const ColorSources& from, bool blue, int count, std::uint32_t* HWY_RESTRICT to) {
+    const auto [own, screen, sums, weights, subject, green, cyan, luma, alpha, lumaR, lumaG, lumaB] = from;
+    const int greenBits = blue ? 16 : 8, blueBits = blue ? 8 : 16;
+    for (int x = 0; x < count; ++x) {
+        const bool whole = weights[x] >= 9.0f;
+        const float share = 1.0f / (weights[x] / 9.0f + kPull), a = alpha[x];
+        const auto unmixed = [&](float sum, float usual) {
+            return std::min(std::max((sum / 9.0f + kPull * usual) * share, 0.0f), 255.0f);
+        };
+        const float ur = unmixed(sums.r[x], subject.r[x]), ug = unmixed(sums.g[x], subject.g[x]),
+                    ub = unmixed(sums.b[x], subject.b[x]);
+        const float bright = lumaR * ur + lumaG * ug + lumaB * ub;
+        const float behind = lumaR * screen.r[x] + lumaG * screen.g[x] + lumaB * screen.b[x];
+        const float wanted = std::min(std::max(luma[x] - (1.0f - a) * behind, 0.0f), 255.0f * a);
+        const float measured = std::min(
+            std::max((wanted + kLumaPull * bright) / std::max((a + kLumaPull) * bright, 1.0f), kLeastGain), kMostGain);
+        const float gain = whole ? 1.0f : measured;
+        const float r = whole ? own.r[x] : ur, g = whole ? own.g[x] : ug, b = whole ? own.b[x] : ub;
+        const float kept = std::min(g, mostGreen(r, b, green[x], cyan[x]));
+        to[x] = byteOf(r * gain) | byteOf(kept * gain) << greenBits | byteOf(b * gain) << blueBits |
+                byteOf(a * 255.0f) << 24;
+    }
+}
+
+void solid(const std::uint32_t* HWY_RESTRICT pixels, const float* HWY_RESTRICT green, const float* HWY_RESTRICT cyan,
+           bool blue, int count, std::uint32_t* HWY_RESTRICT to) {
+    const int greenBits = blue ? 16 : 8, blueBits = blue ? 8 : 16;
+    for (int x = 0; x < count; ++x) {
+        const auto at = [&](int bits) {
+            return static_cast<float>(static_cast<std::int32_t>(pixels[x] >> bits & 255));
+        };
+        const float kept = std::min(at(greenBits), mostGreen(at(0), at(blueBits), green[x], cyan[x]));
+        to[x] = (pixels[x] & ~(std::uint32_t{255} << greenBits)) | byteOf(kept) << greenBits | 0xFF000000u;
+    }
+}
+
+}  // namespace
+
+const refine::FinishLoops& finishLoopsHere() {
+    static constexpr refine::FinishLoops loops{&levels, &quieten,   &holdBack, &shape,
+                                               &raise,  &remainder, &colors,   &solid};
+    return loops;
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace tavrin
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace tavrin::refine {
+
+HWY_EXPORT(finishLoopsHere);
+
+const FinishLoops& finishLoops() {
+    return HWY_DYNAMIC_DISPATCH(finishLoopsHere)();
+}
+
+}  // namespace tavrin::refine
+#endif

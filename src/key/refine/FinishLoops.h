@@ -1,0 +1,47 @@
+#pragma once
+
+#include "key/refine/RowLoops.h"
+
+namespace tavrin::refine {
+
+/// What a setting makes of the edges.
+struct EdgeShape {
+    float blur = 0.0f;   ///< share of the mean around
+    float slope = 1.0f;  ///< around one half
+    float tint = 0.0f, shift = 0.0f;
+};
+
+/// What the colours of the subject are made of, row by row. In roles, 0 to 255.
+struct ColorSources {
+    ChannelRow own, screen;     ///< the picture and the plate
+    ChannelRow sums;            ///< of what nine pixels have without the screen's share
+    const float* weights;       ///< sums of those pixels' alpha
+    ChannelRow subject;         ///< its usual colour around
+    const float *green, *cyan;  ///< its own green, and how much of a bluish cloth's cyan stays
+    const float *luma, *alpha;
+    float lumaR, lumaG, lumaB;  ///< the luma's weights
+};
+
+/// The last steps of alpha and the subject's colour, compiled as `RowLoops` are.
+struct FinishLoops {
+    /// alpha + strength detail, stretched so that faint and nearly whole become 0 and 1.
+    void (*levels)(const float* alpha, const float* detail, float strength, int count, float* to);
+    /// Takes flat noise out near 0 and 1; `means` are of alpha around.
+    void (*quieten)(const float* means, float noise, int count, float* alpha);
+    /// Holds alpha back to `near`, but for what 25 sums of the key have.
+    void (*holdBack)(const float* near, const float* keySums, int count, float* alpha);
+    void (*shape)(const EdgeShape& shape, const float* means, int count, float* alpha);
+    /// alpha = the larger of alpha and floor
+    void (*raise)(const float* floor, int count, float* alpha);
+    /// What is left of the colours without the screen's share.
+    void (*remainder)(ChannelRow own, ChannelRow screen, const float* alpha, int count, float* r, float* g, float* b);
+    /// The subject's colour and alpha as RGBA; what is whole around keeps its own colour, but for the screen's tint.
+    void (*colors)(const ColorSources& from, bool blue, int count, std::uint32_t* to);
+    /// The same well inside.
+    void (*solid)(const std::uint32_t* pixels, const float* green, const float* cyan, bool blue, int count,
+                  std::uint32_t* to);
+};
+
+const FinishLoops& finishLoops();
+
+}  // namespace tavrin::refine

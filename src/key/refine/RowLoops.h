@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+
+namespace tavrin::refine {
+
+/// Three channels of a row, in roles.
+struct ChannelRow {
+    const float *r, *g, *b;
+};
+
+/// Loops over the numbers of a row, compiled for every vector target. All go element by element, so the bytes are
+/// those of the plain form. What is read and what is written lie apart.
+struct RowLoops {
+    /// Colours and luma (whole numbers) of `count` RGBA pixels, 0 to 255; `blue`: a blue screen's roles.
+    void (*loadColors)(const std::uint32_t* pixels, int count, bool blue, float* r, float* g, float* b);
+    void (*loadLuma)(const std::uint32_t* pixels, int count, float* luma);
+    /// 1 where the key is 0 and the screen's channel leads by over half of `usual`; else 0.
+    void (*seeds)(const std::uint32_t* pixels, const std::uint8_t* key, int count, bool blue, int usual,
+                  std::uint8_t* flags);
+    /// a + (b - a) share
+    void (*mix)(const float* a, const float* b, float share, int count, float* to);
+    /// `size` steps from each of `count` values to the one after it; a multiple of 4 is written, 4 to 7 elements
+    /// beyond the last. `shares` has that many.
+    void (*spread)(const float* values, const float* shares, int size, int count, float* to);
+    /// Sums of the squares of 2r + 1 pixels around each of `count` columns, from 2r + 1 padded rows. `columns` has
+    /// room for a padded row.
+    void (*boxSums)(const float* const* rows, int r, int count, float* columns, float* sums);
+    /// to += a weight
+    void (*add)(const float* a, const float* weight, int count, float* to);
+    /// to += a b weight
+    void (*addProduct)(const float* a, const float* b, const float* weight, int count, float* to);
+    /// 1 where a value is above / below the limit, else 0.
+    void (*above)(const float* values, float limit, int count, std::uint8_t* flags);
+    void (*below)(const float* values, float limit, int count, std::uint8_t* flags);
+    /// Least and greatest of the 2r + 1 columns of 2r + 1 padded rows around column x, in the element x - r of two
+    /// padded rows.
+    void (*windowRange)(const float* const* rows, int r, int count, float* least, float* greatest);
+    /// counts += the bits that are set in each `size` columns of the first `width`
+    void (*countBits)(const std::uint64_t* words, int size, int width, int* counts);
+    /// Sums of each `size` values, whole numbers; `count` of them.
+    void (*sumGroups)(const float* values, int size, int count, float* to);
+};
+
+/// The loops of this machine.
+const RowLoops& rowLoops();
+
+}  // namespace tavrin::refine
