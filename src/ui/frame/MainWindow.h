@@ -1,20 +1,26 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 
-#include <QComboBox>
 #include <QMainWindow>
 
-#include "core/state/SystemInfo.h"
 #include "pipeline/CombineThread.h"
-#include "ui/PictureView.h"
 #include "ui/WindowBridge.h"
+#include "ui/bind/Binder.h"
+#include "ui/frame/Commands.h"
+#include "ui/frame/MessageBar.h"
+#include "ui/frame/PictureFiles.h"
+#include "ui/frame/SidePanel.h"
+#include "ui/frame/SizeBox.h"
+#include "ui/views/PictureView.h"
+
+class QLabel;
+class QProgressBar;
 
 namespace tavrin {
 
-/// The main window: the running picture, and the way for pictures in and out of it. It owns the processing thread
-/// of the state it shows, which ends with it.
+/// The main window: the running picture, the controls beside it, and the way for pictures in and out. It owns the
+/// processing thread of the state it shows, which ends with it.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -25,29 +31,28 @@ class MainWindow : public QMainWindow {
     /// Makes a file the source of a layer and asks for a new picture.
     void openForeground(const QString& path);
     void openBackground(const QString& path);
-    /// Loads every setting and both pictures from a state file, between two passes of the loop. A file that cannot
-    /// be read shows an alert and changes nothing.
+    /// Loads every setting and both pictures from a state file. One that cannot be read is told and changes nothing.
     void openState(const QString& path);
-    /// Saves every setting into a state file, as soon as no pass is under work. The window tells when it is done;
-    /// after an alert the old file is as it was.
     void saveState(const QString& path);
     /// Opens a file by its kind: a state file, or a picture for the portrait.
     void openFile(const QString& path);
-    /// Has the full picture that stands saved on the loop's thread, after what was to be saved before; the type
-    /// follows the name's extension, JPEG where there is none. The window tells when it is done, or why it is not.
+    /// Has the full picture that stands saved. The window tells when it is done, or why it is not.
     /// @return false when there is no finished picture
-    bool saveTo(QString path);
+    bool saveTo(const QString& path);
     /// Pictures and states that are still to be saved. A window that is closed meanwhile goes when they are, and
     /// stays when one cannot be.
-    int savesUnderWay() const { return saves_; }
-
-    /// Shows what went wrong at the start, one line for each thing; work goes on beneath. "" shows nothing.
+    int savesUnderWay() const { return files_->savesUnderWay(); }
+    /// Shows what went wrong at the start, one line for each thing. "" shows nothing.
     void tellStartProblems(const std::string& lines);
 
     PictureView* view() const { return view_; }
-    QComboBox* sizeBox() const { return sizeBox_; }
+    SizeBox* sizeBox() const { return sizeBox_; }
+    SidePanel* panel() const { return panel_; }
+    MessageBar* messages() const { return messages_; }
+    Binder& binder() { return binder_; }
+    Commands& commands() { return *commands_; }
     /// Whether portraits that are opened are framed around their subject; kept for the next start.
-    QAction* frameAction() const { return frameAction_; }
+    QAction* frameAction() const { return commands_->action("FramePortraits"); }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -57,36 +62,49 @@ class MainWindow : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
   private:
-    void makeMenus();
-    void makeSizeBox();
-    void frameNewPortraits(bool wanted);
-    void showSelectedSize();
-    void chooseSize(int index);
+    friend std::vector<Command> commandTable(MainWindow& window);
+
+    void layOut();
+    void makeToolBar();
+    void makeStatusLine();
+    QWidget* makeViewBar();
+    void connectParts();
+    void connectBridge();
+    void comeBack();
     void refillRecentFiles();
-    void remember(const QString& path);
+    void frameNewPortraits(bool wanted);
+    void askForLayer(const BitmapInfo& record, const QString& title, void (MainWindow::*open)(const QString& path));
     void askForStateToOpen();
     void askForStateToSave();
-    void connectBridge();
-    void askForLayer(const BitmapInfo& record, const QString& title, void (MainWindow::*open)(const QString& path));
-    void showOpened(const QString& path);
     void askForSave();
-    void saveInTurn(const QString& path, std::function<bool()> save);
     void endSave(const QString& path, bool done);
     void takePublished();
+    void showState();
     void showAlert(const QString& message, const QString& reason);
-    void fitToOutput(int outputWidth, int outputHeight);
-    bool loopRests() const;
+    void showOriginal(bool on);
+    void sizeToOutput(int outputWidth, int outputHeight);
+    void setFullScreen(bool on);
+    void tellProgress();
 
     SystemInfo& info_;
     WindowBridge bridge_;
     std::unique_ptr<CombineThread> loop_;
+    SettingEditor editor_;
+    Binder binder_;
+    PictureFiles* files_;
     PictureView* view_;
-    int saves_ = 0;
-    bool closing_ = false;  // as soon as all is saved
-    QAction* saveAction_ = nullptr;
-    QAction* frameAction_ = nullptr;
-    QMenu* recentMenu_ = nullptr;
-    QComboBox* sizeBox_ = nullptr;
+    MessageBar* messages_;
+    SidePanel* panel_;
+    SizeBox* sizeBox_;
+    Commands* commands_ = nullptr;
+    QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;
+    QProgressBar* progress_ = nullptr;
+    bool closing_ = false;   // as soon as all is saved
+    bool finished_ = false;  // a full picture stands
+    bool cameBack_ = false, originalHeld_ = false;
 };
+
+/// Everything that the window does by itself, in the order of its menus.
+std::vector<Command> commandTable(MainWindow& window);
 
 }  // namespace tavrin
