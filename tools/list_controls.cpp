@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QJsonDocument>
 
-#include "session/StartUp.h"
+#include "SampleState.h"
 #include "ui/frame/ControlList.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     const auto info = std::make_unique<tavrin::SystemInfo>();
-    tavrin::startCommandLine(*info);  // the account stays as it is
+    tavrin::startWithSample(*info);
     tavrin::useTheme(tavrin::Theme::light);
     tavrin::MainWindow window(*info);
     std::fputs(QJsonDocument(tavrin::listControls(window)).toJson().constData(), stdout);

@@ -8,11 +8,7 @@
 #include <QLineEdit>
 #include <QProcess>
 
-#include "core/state/SystemInfo.h"
-#include "session/OutputSizes.h"
-#include "session/Sources.h"
-#include "session/StartUp.h"
-#include "session/States.h"
+#include "SampleState.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
 
@@ -45,17 +41,13 @@ bool shootAll(const QString& folder, const QString& scale) {
     for (const bool dark : {false, true}) {
         useTheme(dark ? Theme::dark : Theme::light);
         const auto info = std::make_unique<SystemInfo>();
-        startCommandLine(*info);
-        static_cast<void>(loadShippedState(*info));
-        chooseSizeByName(*info, "8x10 200 Vert");
-        setForeground(*info, QString(TAVRIN_SOURCE_DIR "/data/sample/portrait.jpg").toStdString());
-        setBackground(*info, QString(TAVRIN_SOURCE_DIR "/data/sample/background.jpg").toStdString());
+        startWithSample(*info);
         MainWindow window(*info);
         window.resize(kWidth, kHeight);
         window.show();
         const QString end = QString("-%1-x%2.png").arg(dark ? "dark" : "light", scale);
         const auto save = [&](const char* name) { all = shoot(window, *info, folder + '/' + name + end) && all; };
-        QCoreApplication::processEvents();
+        settle(window, *info);  // the first picture gives the window its shape
         window.resize(kWidth, kHeight);
         save("adjust");
         window.panel()->searchField()->setText("green");

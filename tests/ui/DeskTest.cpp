@@ -1,9 +1,11 @@
 // The window around the controls: what is named, what keys do, what comes back at the next start.
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QMenu>
@@ -11,7 +13,7 @@
 #include <QWheelEvent>
 
 #include "core/files/Places.h"
-#include "pipeline/LayerFit.h"
+#include "formats/SettingsFile.h"
 #include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
@@ -25,6 +27,7 @@ namespace {
 class DeskTest : public testing::Test {
   protected:
     void SetUp() override {
+        std::filesystem::create_directories(folder_.file("shared/QLXXML"));
         Places::current().setSharedFolder(folder_.file("shared"));
         chooseSizeByName(*info_, "test");
         info_->pForegroundBitmapInfo->sSourceImageFullPath =
@@ -203,6 +206,34 @@ TEST_F(DeskTest, AHeldKeyShowsThePortraitAsItWasTaken) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return middleOfFrame(0.02, 0.5) == screen; }, 5000));
     QTest::keyRelease(view, Qt::Key_B);
     EXPECT_NE(middleOfFrame(0.02, 0.5), screen);
+}
+
+TEST_F(DeskTest, TheAlphaIsShownUntilItIsTurnedOffAndFollowsThePicture) {
+    PictureView* view = window_->view();
+    const auto shown = [&](double x, double y) {
+        const QRectF frame = view->zoom().frame();
+        return view->grab().toImage().pixelColor(
+            (frame.topLeft() + QPointF(x * frame.width(), y * frame.height())).toPoint());
+    };
+    action("ShowAlpha")->setChecked(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(0, 0, 0); }, 5000)) << "the subject";
+    EXPECT_EQ(shown(0.02, 0.5), QColor(255, 255, 255)) << "the screen";
+    window_->panel()->findChild<Groove*>("sliderClipTop")->setValue(90);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(255, 255, 255); }, 5000));
+    action("ShowAlpha")->setChecked(false);
+    EXPECT_NE(shown(0.5, 0.5), QColor(255, 255, 255));
+}
+
+TEST_F(DeskTest, AStateIsSavedWithThePictureWhenThatIsWanted) {
+    action("AutoState")->setChecked(true);
+    ASSERT_TRUE(waitForPicture());
+    EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("out.png"))));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
+    EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(folder_.file("out.png"))));
+    EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(folder_.file("out.qlx"))));
+    QLXInfo kept;
+    EXPECT_EQ(LoadQLXFile(kept), "");
+    EXPECT_TRUE(kept.bAutoQLXSave) << "for the next start";
 }
 
 TEST_F(DeskTest, TransparentPartsShowTheGrid) {

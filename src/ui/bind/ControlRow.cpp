@@ -42,7 +42,7 @@ QToolButton* ControlRow::makeDot(QWidget* parent) {
 }
 
 QWidget* ControlRow::makeLabel(QWidget* buddy) {
-    auto* holder = new QWidget(this);
+    auto* holder = labelHolder_ = new QWidget(this);
     auto* layout = new QHBoxLayout(holder);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
@@ -55,6 +55,14 @@ QWidget* ControlRow::makeLabel(QWidget* buddy) {
     layout->addWidget(makeDot(holder));
     layout->addStretch();
     return holder;
+}
+
+int ControlRow::labelWidth() const {
+    return labelHolder_ ? labelHolder_->sizeHint().width() : 0;
+}
+
+void ControlRow::setLabelWidth(int width) {
+    if (labelHolder_) labelHolder_->setFixedWidth(width);
 }
 
 bool ControlRow::eventFilter(QObject* watched, QEvent* event) {
@@ -110,8 +118,8 @@ ChoiceRow::ChoiceRow(const Binding& binding, QWidget* parent)
     }
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makeLabel(buttons_->button(0)), 3);
-    layout->addWidget(segments_, 7);
+    layout->addWidget(makeLabel(buttons_->button(0)));
+    layout->addWidget(segments_, 1);
     connect(buttons_, &QButtonGroup::idToggled, this, [this](int id, bool on) {
         if (on) emit changed(binding_.choices[static_cast<std::size_t>(id)].value);
     });

@@ -21,6 +21,9 @@ class ControlRow : public QWidget {
     const Binding& binding() const { return binding_; }
     /// Shows a value of the setting.
     void showSetting(double setting);
+    /// Room that the label takes, so that the rows of a panel can be made to stand in line; 0 without one of its own.
+    int labelWidth() const;
+    void setLabelWidth(int width);
     /// The widget that has the control's name.
     virtual QWidget* control() const = 0;
 
@@ -47,7 +50,7 @@ class ControlRow : public QWidget {
 
   private:
     QToolButton* dot_ = nullptr;
-    QWidget* label_ = nullptr;
+    QWidget *label_ = nullptr, *labelHolder_ = nullptr;
     double setting_ = 0.0;
 };
 

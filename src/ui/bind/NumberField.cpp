@@ -29,7 +29,8 @@ QString NumberField::shown() const {
 
 void NumberField::setNumber(double number) {
     number_ = number == 0.0 ? 0.0 : number;  // which knows no minus
-    if (!isModified() || !hasFocus()) setText(shown());
+    // A text that stays is not painted again, which counts while a slider is dragged.
+    if (const QString now = shown(); now != text() && (!isModified() || !hasFocus())) setText(now);
 }
 
 /// With a comma or a full stop, whatever the locale: both are on every keyboard.

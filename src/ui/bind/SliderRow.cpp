@@ -26,8 +26,8 @@ SliderRow::SliderRow(const Binding& binding, QWidget* parent)
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makeLabel(groove_), 3);
-    layout->addWidget(groove_, 5);
+    layout->addWidget(makeLabel(groove_));
+    layout->addWidget(groove_, 1);
     layout->addWidget(field_);
 
     connect(groove_, &Groove::valueChanged, this, &SliderRow::moveGroove);

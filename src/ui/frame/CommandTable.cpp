@@ -35,7 +35,7 @@ std::vector<Command> commandTable(MainWindow& w) {
          QKeySequence::Open,
          {},
          [&w](bool) {
-             w.askForLayer(*w.info_.pForegroundBitmapInfo, MainWindow::tr("Select Foreground File"),
+             w.askForLayer(w.info_.oQLXInfo->sForegroundPath, MainWindow::tr("Select Foreground File"),
                            &MainWindow::openForeground);
          }},
         {"loadBackground",
@@ -46,7 +46,7 @@ std::vector<Command> commandTable(MainWindow& w) {
          QKeySequence(Qt::CTRL | Qt::Key_B),
          {},
          [&w](bool) {
-             w.askForLayer(*w.info_.pBackgroundBitmapInfo, MainWindow::tr("Select Background File"),
+             w.askForLayer(w.info_.oQLXInfo->sBackgroundPath, MainWindow::tr("Select Background File"),
                            &MainWindow::openBackground);
          }},
         {"OpenState",
@@ -136,6 +136,27 @@ std::vector<Command> commandTable(MainWindow& w) {
          [&w](bool) { w.view_->zoomBy(0.8); }},
         {"ShowOriginal", "|&View", tr("Before (hold the key)"), tr("The portrait as it was taken"), "",
          QKeySequence(Qt::Key_B), [&w] { return w.finished_; }, [&w](bool on) { w.showOriginal(on); }, Kind::held},
+        {"ShowAlpha",
+         "&View",
+         tr("&Alpha"),
+         tr("What the key leaves of the portrait: dark stays, light goes"),
+         "",
+         QKeySequence(Qt::Key_A),
+         {},
+         [&w](bool on) { w.showAlpha(on); },
+         Kind::checked},
+        {"AutoState",
+         "|&File",
+         tr("Save the State with Every &Picture"),
+         tr("Writes a state file of the same name beside each saved picture"),
+         "",
+         {},
+         {},
+         [&w](bool on) {
+             w.info_.oQLXInfo->bAutoQLXSave = on;
+             w.keepSettings();
+         },
+         Kind::checked},
         {"ShowPanel",
          "|&View",
          tr("&Controls"),

@@ -8,8 +8,11 @@
 #include <QMimeData>
 
 #include "core/files/NameText.h"
+#include "core/files/StandardPath.h"
+#include "formats/SettingsFile.h"
 #include "pipeline/SubjectPlace.h"
 #include "ui/WindowSettings.h"
+#include "ui/views/LayerPictures.h"
 
 namespace tavrin {
 
@@ -76,9 +79,9 @@ void MainWindow::connectBridge() {
     connect(&bridge_, &WindowBridge::outputSized, this, &MainWindow::sizeToOutput, queued);
     connect(&bridge_, &WindowBridge::placed, &binder_, &Binder::UpdateAllUI, queued);
     connect(
-        &bridge_, &WindowBridge::originalTaken, this,
-        [this](const QImage& picture) {
-            if (originalHeld_) view_->showInstead(picture, tr("Before"));
+        &bridge_, &WindowBridge::otherTaken, this,
+        [this](const QImage& picture, const QString& word) {
+            if (originalHeld_ || info_.bShowAlpha) view_->showInstead(picture, word);
         },
         queued);
     connect(
@@ -95,6 +98,7 @@ void MainWindow::connectBridge() {
             commands_->action("Save")->setText(hostApplication ? "Return To Lightroom" : "Save");
             commands_->refresh();
             tellProgress();
+            if (enabled && info_.bShowAlpha) showOther();  // that of the new picture
         },
         queued);
 }
@@ -147,11 +151,20 @@ void MainWindow::frameNewPortraits(bool wanted) {
     if (wanted) info_.StartUpdate();
 }
 
-void MainWindow::askForLayer(const BitmapInfo& record, const QString& title,
+/// @param last the setting that keeps what was opened last, where the dialog begins
+void MainWindow::askForLayer(Field<std::string>& last, const QString& title,
                              void (MainWindow::*open)(const QString& path)) {
-    const QString folder = QFileInfo(textOfName(record.sSourceImageFullPath)).path();
+    const QString folder = QFileInfo(textOfName(standardizePath(last))).path();
     const QString path = QFileDialog::getOpenFileName(this, title, folder, pictureFilter());
-    if (!path.isEmpty()) (this->*open)(path);
+    if (path.isEmpty()) return;
+    last = nameOfText(path);
+    keepSettings();
+    (this->*open)(path);
+}
+
+void MainWindow::keepSettings() {
+    const std::string problem = SaveQLXFile(*info_.oQLXInfo);
+    if (!problem.empty()) messages_->fail(tr("The settings cannot be saved."), QString::fromStdString(problem));
 }
 
 void MainWindow::askForStateToOpen() {
@@ -166,17 +179,30 @@ void MainWindow::askForStateToSave() {
     saveState(path);
 }
 
-void MainWindow::askForSave() {
+QString MainWindow::suggestedName() const {
     const QFileInfo source(textOfName(info_.pForegroundBitmapInfo->sSourceImageFullPath));
-    const QString kind = info_.bOutputTransparency ? ".png" : ".jpg";
-    const QString suggestion = source.completeBaseName() + "-combined" + kind;
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), suggestion, saveFilter());
-    if (!path.isEmpty()) saveTo(path);
+    const QString folder = textOfName(standardizePath(info_.oQLXInfo->sSavePath));
+    const QString name = QString::fromStdString(info_.oQLXInfo->sPrefix) + source.completeBaseName() + "-combined" +
+                         (info_.bOutputTransparency ? ".png" : ".jpg");
+    return folder.isEmpty() ? name : folder + '/' + name;
+}
+
+void MainWindow::askForSave() {
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), suggestedName(), saveFilter());
+    if (path.isEmpty()) return;
+    info_.oQLXInfo->sSavePath = nameOfText(QFileInfo(path).path());
+    keepSettings();
+    saveTo(path);
 }
 
 bool MainWindow::saveTo(const QString& path) {
     const bool taken = files_->savePicture(path);
-    if (!taken) messages_->tell(tr("The picture is not finished yet."));
+    if (!taken) {
+        messages_->tell(tr("The picture is not finished yet."));
+    } else if (info_.oQLXInfo->bAutoQLXSave) {
+        const QFileInfo file(path);
+        files_->saveState(file.path() + '/' + file.completeBaseName() + ".qlx");
+    }
     tellProgress();
     return taken;
 }
@@ -206,16 +232,27 @@ void MainWindow::takePublished() {
     tellProgress();
 }
 
-/// The portrait lies at its place in the foreground's buffer, which is the loop's.
-void MainWindow::showOriginal(bool on) {
-    originalHeld_ = on;
-    if (!on) return view_->showInstead({}, {});
-    loop_->edit([this]() -> std::vector<ChangedRows> {
-        const PassGeometry size = info_.geometry(Resolution::preview);
-        if (const std::uint8_t* bytes = info_.pForegroundBitmapInfo->bytes(Resolution::preview))
-            emit bridge_.originalTaken(QImage(bytes, size.width, size.height, QImage::Format_RGBX8888).copy());
+/// What the view shows instead of the combined picture: the portrait while its key is held, or the alpha.
+void MainWindow::showOther() {
+    const bool original = originalHeld_, alpha = info_.bShowAlpha;
+    if (!original && !alpha) return view_->showInstead({}, {});
+    const QSize most = (view_->zoom().frame().size() * devicePixelRatioF()).toSize();
+    // The buffers are the loop's.
+    loop_->edit([this, original, most]() -> std::vector<ChangedRows> {
+        emit bridge_.otherTaken(original ? originalPicture(info_, most) : alphaPicture(info_, most),
+                                original ? tr("Before") : tr("Alpha"));
         return {};
     });
+}
+
+void MainWindow::showOriginal(bool on) {
+    originalHeld_ = on;
+    showOther();
+}
+
+void MainWindow::showAlpha(bool on) {
+    info_.bShowAlpha = on;
+    showOther();
 }
 
 void MainWindow::showAlert(const QString& message, const QString& reason) {

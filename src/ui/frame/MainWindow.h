@@ -73,7 +73,9 @@ class MainWindow : public QMainWindow {
     void comeBack();
     void refillRecentFiles();
     void frameNewPortraits(bool wanted);
-    void askForLayer(const BitmapInfo& record, const QString& title, void (MainWindow::*open)(const QString& path));
+    void askForLayer(Field<std::string>& last, const QString& title, void (MainWindow::*open)(const QString& path));
+    void keepSettings();
+    QString suggestedName() const;
     void askForStateToOpen();
     void askForStateToSave();
     void askForSave();
@@ -81,7 +83,9 @@ class MainWindow : public QMainWindow {
     void takePublished();
     void showState();
     void showAlert(const QString& message, const QString& reason);
+    void showOther();
     void showOriginal(bool on);
+    void showAlpha(bool on);
     void sizeToOutput(int outputWidth, int outputHeight);
     void setFullScreen(bool on);
     void tellProgress();

@@ -48,6 +48,7 @@ void MainWindow::layOut() {
     column->addWidget(makeViewBar());
     makeToolBar();
     makeStatusLine();
+    view_->setFocus();
 }
 
 void MainWindow::makeToolBar() {
@@ -86,6 +87,7 @@ QWidget* MainWindow::makeViewBar() {
     connect(before, &QToolButton::pressed, this, [this] { showOriginal(true); });
     connect(before, &QToolButton::released, this, [this] { showOriginal(false); });
     line->addWidget(before);
+    line->addWidget(buttonOf(commands_->action("ShowAlpha"), bar));
     line->addStretch();
     return bar;
 }
@@ -95,6 +97,8 @@ void MainWindow::makeStatusLine() {
     zoomText_ = new QLabel(this);
     stateText_ = new QLabel(this);
     progress_ = new QProgressBar(this);
+    stateText_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Full picture %1 %").arg(100)));  // nothing moves
+    stateText_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     progress_->setObjectName("fullPictureProgress");
     progress_->setAccessibleName(tr("Progress of the full picture"));
     progress_->setFixedWidth(120);
@@ -115,7 +119,6 @@ void MainWindow::tellProgress() {
     zoomText_->setText(tr("%1 %").arg(qRound(100.0 * view_->zoom().pixelScale())));
     const int percent = finished_ ? 100 : static_cast<int>(100.0 * view_->progress());
     progress_->setValue(percent);
-    progress_->setVisible(!finished_);
     stateText_->setText(savesUnderWay() > 0 ? tr("Saving...")
                         : finished_         ? tr("Ready")
                                             : tr("Full picture %1 %").arg(percent));
@@ -126,6 +129,8 @@ void MainWindow::comeBack() {
     const QSettings settings = windowSettings();
     const QSignalBlocker quiet(frameAction());  // what was wanted last is nothing new to want
     frameAction()->setChecked(settings.value("framePortraits", true).toBool());
+    const QSignalBlocker quietToo(commands_->action("AutoState"));
+    commands_->action("AutoState")->setChecked(info_.oQLXInfo->bAutoQLXSave);
     cameBack_ = restoreGeometry(settings.value("geometry").toByteArray());
     if (cameBack_) restoreState(settings.value("layout").toByteArray());
     showState();

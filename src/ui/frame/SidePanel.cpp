@@ -1,5 +1,7 @@
 #include "ui/frame/SidePanel.h"
 
+#include <algorithm>
+
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -37,6 +39,11 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
         groups_.push_back(new GroupBox(group, binder, panel));
         rows->addWidget(groups_.back());
     }
+    int labels = 0;
+    for (const ControlRow* row : binder.rows())
+        labels = std::max(labels, row->labelWidth());
+    for (ControlRow* row : binder.rows())
+        row->setLabelWidth(labels);
     nothing_->setText(tr("No control has these words."));
     nothing_->hide();
     rows->addWidget(nothing_);

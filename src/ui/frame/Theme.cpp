@@ -1,8 +1,10 @@
 #include "ui/frame/Theme.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
-#include <QStyle>
+#include <QProxyStyle>
+#include <QStyleOption>
 
 #include "ui/WindowSettings.h"
 
@@ -27,6 +29,7 @@ QPalette paletteOf(const Colours& c) {
     palette.setColor(QPalette::AlternateBase, c.window);
     palette.setColor(QPalette::Button, c.button);
     palette.setColor(QPalette::Mid, c.line);
+    palette.setColor(QPalette::Light, c.button);  // lines of bars
     palette.setColor(QPalette::Highlight, c.accent);
     palette.setColor(QPalette::HighlightedText, c.accentText);
     palette.setColor(QPalette::Link, c.accent);
@@ -63,6 +66,34 @@ QLineEdit:focus { border: 2px solid palette(highlight); padding: 1px; }
 QFrame#messageBar { background: palette(button); border-bottom: 1px solid palette(mid); }
 )";
 
+/// Boxes whose outline can be seen on any ground.
+class DeskStyle : public QProxyStyle {
+  public:
+    DeskStyle() : QProxyStyle("Fusion") {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        if (element != PE_IndicatorCheckBox) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const QPalette& palette = option->palette;
+        const QRectF box = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        const bool on = option->state.testFlag(State_On);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(palette.color(on ? QPalette::Highlight : QPalette::PlaceholderText));
+        painter->setBrush(palette.color(on ? QPalette::Highlight : QPalette::Base));
+        painter->drawRoundedRect(box, 2, 2);
+        if (on) {
+            painter->setPen(QPen(palette.color(QPalette::HighlightedText), 2));
+            const auto at = [&](double x, double y) {
+                return QPointF(box.x() + x * box.width(), box.y() + y * box.height());
+            };
+            const QPointF tick[] = {at(0.22, 0.52), at(0.42, 0.72), at(0.78, 0.28)};
+            painter->drawPolyline(tick, 3);
+        }
+        painter->restore();
+    }
+};
+
 /// The desktop's own colours, before a theme took their place.
 bool desktopIsDark() {
     static const bool dark = [] {
@@ -76,7 +107,7 @@ bool desktopIsDark() {
 
 void useTheme(Theme theme) {
     const bool dark = desktopIsDark();
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new DeskStyle);
     QApplication::setPalette(paletteOf(theme == Theme::dark || (theme == Theme::desktop && dark) ? kDark : kLight));
     qApp->setStyleSheet(kStyleSheet);
 }

@@ -13,7 +13,8 @@ namespace tavrin {
 
 namespace {
 
-const QColor kSurround(58, 58, 58);  // no colour near a picture that is judged for colour
+// No colour near a picture that is judged for colour.
+const QColor kSurround(58, 58, 58), kFocus(150, 150, 150);
 
 /// Rows of a picture of another size are none of this one's.
 void putRows(QImage& picture, const PublishedRows& rows) {
@@ -73,8 +74,7 @@ void PictureView::takeRows(const PublishedRows& rows) {
 }
 
 void PictureView::setOutputSize(QSize pixels) {
-    zoom_.setPicture(pixels);
-    zoomChanged();
+    if (zoom_.setPicture(pixels)) zoomChanged();
 }
 
 void PictureView::setTransparent(bool transparent) {
@@ -187,6 +187,7 @@ void PictureView::paintDropZones(QPainter& painter) {
 }
 
 void PictureView::paintEvent(QPaintEvent*) {
+    zoom_.setView(size(), devicePixelRatioF());  // the window may have gone to another screen
     QPainter painter(this);
     painter.fillRect(rect(), kSurround);
     if (preview_.isNull() && fullRows_ < 1) {
@@ -195,7 +196,7 @@ void PictureView::paintEvent(QPaintEvent*) {
         paintPicture(painter);
     }
     if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setPen(QPen(kFocus, 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
     if (dropZone_ != DropZone::none) paintDropZones(painter);

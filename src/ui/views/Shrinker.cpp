@@ -13,7 +13,7 @@ Shrinker::~Shrinker() {
 }
 
 void Shrinker::want(const QImage& picture, QSize size) {
-    if (wanted_.cacheKey() == picture.cacheKey() && size_ == size) return;
+    if (busy_ && wanted_.cacheKey() == picture.cacheKey() && size_ == size) return;
     wanted_ = picture;
     size_ = size;
     again_ = busy_;
@@ -30,8 +30,12 @@ void Shrinker::start() {
             this,
             [this, small = std::move(small), key = picture.cacheKey()] {
                 busy_ = false;
+                if (std::exchange(again_, false)) {
+                    start();
+                } else {
+                    wanted_ = QImage();  // or whoever writes into the picture next would have to copy it
+                }
                 emit done(small, key);
-                if (std::exchange(again_, false)) start();
             },
             Qt::QueuedConnection);
     });

@@ -25,10 +25,11 @@ void Zoom::setView(QSizeF points, double devicePixelRatio) {
     origin_ += middle() - viewAt(seen);
 }
 
-void Zoom::setPicture(QSize pixels) {
-    if (pixels == picture_ || pixels.isEmpty()) return;
+bool Zoom::setPicture(QSize pixels) {
+    if (pixels == picture_ || pixels.isEmpty()) return false;
     picture_ = pixels;
     setZoomHome();
+    return true;
 }
 
 void Zoom::setZoomHome() {

@@ -18,8 +18,9 @@ class Zoom {
     /// The view has another size, or lies on another screen. A fitted picture is fitted again, another keeps its size
     /// and the place that is in the middle.
     void setView(QSizeF points, double devicePixelRatio);
-    /// A picture of another size is fitted, one of the same shape stays where it is.
-    void setPicture(QSize pixels);
+    /// A picture of another size is fitted.
+    /// @return whether it is of another size
+    bool setPicture(QSize pixels);
 
     /// Times the fitted size.
     double dZoom() const { return dZoom_; }
