@@ -37,6 +37,10 @@ void WindowBridge::sizeWindow(int outputWidth, int outputHeight) {
     emit outputSized(outputWidth, outputHeight);
 }
 
+void WindowBridge::updateScaleUI() {
+    emit placed();
+}
+
 void WindowBridge::showAlert(const std::string& message, const std::string& reason) {
     logError(reason);
     emit alerted(QString::fromStdString(message), QString::fromStdString(reason));

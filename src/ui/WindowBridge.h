@@ -21,6 +21,7 @@ class WindowBridge : public QObject, public Interface {
     void repaint(const PublishedRows& rows) override;
     void enableControls(bool enabled, bool hostApplication) override;
     void sizeWindow(int outputWidth, int outputHeight) override;
+    void updateScaleUI() override;
     void showAlert(const std::string& message, const std::string& reason) override;
     void performAndWait(const std::function<void()>& job) override;
     bool mouseDown() const override { return mouseDown_.load(std::memory_order_relaxed); }
@@ -40,6 +41,12 @@ class WindowBridge : public QObject, public Interface {
     /// A job of saving came to its end; when it is not done, an alert told why.
     void saveEnded(const QString& path, bool done);
     void alerted(const QString& message, const QString& reason);
+    /// Something was not done; no alert of the system's, but a message in the window.
+    void failed(const QString& message, const QString& reason);
+    /// The loop worked out where a layer lies.
+    void placed();
+    /// A picture that the view is to show instead of the combined one, and the word for it.
+    void otherTaken(const QImage& picture, const QString& word);
 
   private:
     std::mutex mutex_;

@@ -8,7 +8,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QStatusBar>
 #include <QTest>
 
 #include "core/files/Places.h"
@@ -17,7 +16,7 @@
 #include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
-#include "ui/MainWindow.h"
+#include "ui/frame/MainWindow.h"
 
 namespace tavrin {
 namespace {
@@ -49,7 +48,7 @@ class MainWindowTest : public testing::Test {
     /// @return whether it was saved
     bool waitForSave(const QString& path) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
-        return window_->statusBar()->currentMessage() == "Saved " + path;
+        return window_->messages()->message() == "Saved " + path;
     }
     bool savePicture(const std::string& path) {
         return window_->saveTo(QString::fromStdString(path)) && waitForSave(QString::fromStdString(path));
@@ -118,9 +117,10 @@ TEST_F(MainWindowTest, NothingIsSavedOverWhatThePictureIsMadeFrom) {
     int told = 0;
     for (const std::string& path : {foreground_, background_, folder_.file("link.png")}) {
         EXPECT_FALSE(savePicture(path)) << path;
+        EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), ++told);
         EXPECT_FALSE(saveState(path)) << path;
-        told += 2;
-        EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), told);
+        EXPECT_EQ(window_->messages()->message(), "The state file cannot be saved.");
+        EXPECT_FALSE(window_->messages()->details().isEmpty());
     }
     EXPECT_FALSE(saveState(folder_.file("other.png")));
     EXPECT_EQ(bytes(foreground_), portrait);
@@ -137,15 +137,15 @@ TEST_F(MainWindowTest, NothingIsSavedOverWhatThePictureIsMadeFrom) {
     });
     EXPECT_TRUE(std::filesystem::exists(folder_.file("first.png")));
     EXPECT_EQ(bytes(foreground_), portrait);
-    EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), told + 2);
+    EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), told + 1);
 }
 
 TEST_F(MainWindowTest, SavesAreDoneInTheirOrderWhileTheWindowGoesOn) {
     ASSERT_TRUE(waitForPicture());
     const QImage shown = window_->view()->fullPicture();
     QStringList told;
-    QObject::connect(window_->statusBar(), &QStatusBar::messageChanged, [&](const QString& message) {
-        if (message.startsWith("Saved ")) told.append(QFileInfo(message).fileName());
+    QObject::connect(window_->findChild<PictureFiles*>(), &PictureFiles::saved, [&](const QString& path, bool done) {
+        if (done) told.append(QFileInfo(path).fileName());
     });
     for (const char* name : {"a.tif", "b.jpg", "c.png"})
         EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file(name))));
@@ -313,13 +313,11 @@ TEST_F(MainWindowTest, ASizeOfThePicturesOwnHasAnEntryWhileItIsInForce) {
 
 TEST_F(MainWindowTest, ProblemsOfTheStartAreShownAndHoldNothingUp) {
     window_->tellStartProblems("");
-    EXPECT_TRUE(window_->findChildren<QMessageBox*>().isEmpty());
+    EXPECT_EQ(window_->messages()->message(), "");
     window_->tellStartProblems("The list is damaged.\nThe state too.");
     ASSERT_TRUE(waitForPicture());
-    const auto boxes = window_->findChildren<QMessageBox*>();
-    ASSERT_EQ(boxes.size(), 1);
-    EXPECT_TRUE(boxes[0]->isVisible());
-    EXPECT_EQ(boxes[0]->informativeText(), "The list is damaged.\n\nThe state too.");
+    EXPECT_TRUE(window_->messages()->isVisible());
+    EXPECT_EQ(window_->messages()->details(), "The list is damaged.\nThe state too.");
 }
 
 TEST_F(MainWindowTest, AnUnreadableFileIsToldAndTheOldPictureStays) {
@@ -338,7 +336,7 @@ TEST_F(MainWindowTest, AnUnreadableFileIsToldAndTheOldPictureStays) {
     const QImage still =
         pictureAfter([&] { window_->openState(QString::fromStdString(folder_.file("missing.qlx"))); });
     EXPECT_EQ(still, before);
-    EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), 3);
+    EXPECT_EQ(window_->messages()->message(), "The state file cannot be opened.");
 }
 
 TEST_F(MainWindowTest, AMissingOverlayIsToldOnceHoweverManyPicturesAreMadeAndSaved) {
@@ -359,10 +357,3 @@ TEST_F(MainWindowTest, AMissingOverlayIsToldOnceHoweverManyPicturesAreMadeAndSav
 
 }  // namespace
 }  // namespace tavrin
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    QApplication application(argc, argv);
-    QApplication::setOrganizationName("TavrinTest");
-    return RUN_ALL_TESTS();
-}

@@ -12,7 +12,8 @@
 #include "core/raster/PixelMemory.h"
 #include "core/state/SystemInfo.h"
 #include "session/StartUp.h"
-#include "ui/MainWindow.h"
+#include "ui/frame/MainWindow.h"
+#include "ui/frame/Theme.h"
 
 namespace {
 
@@ -85,6 +86,7 @@ int main(int argc, char** argv) {
     // A pass takes the memory that the last one gave back.
     tavrin::keepPixelMemory(std::size_t{1} << 28);
 
+    tavrin::useTheme(tavrin::chosenTheme());
     const auto info = std::make_unique<tavrin::SystemInfo>();
     const std::string problems = tavrin::startSystem(*info);
     tavrin::MainWindow window(*info);

@@ -123,4 +123,14 @@ std::vector<std::pair<std::string, std::string>> listFields(const SystemInfo& in
     return fields;
 }
 
+std::optional<std::string> fieldValue(const SystemInfo& info, const std::string& name) {
+    std::optional<std::string> value;
+    visitObjects(info, [&](const std::string& prefix, const auto& object, auto leaves) {
+        if (value || !name.starts_with(prefix)) return;
+        if (const auto* leaf = findLeaf(leaves, name.substr(prefix.size())))
+            std::visit([&](auto member) { value = show((object.*member).load()); }, leaf->member);
+    });
+    return value;
+}
+
 }  // namespace tavrin

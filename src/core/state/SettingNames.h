@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,5 +26,8 @@ std::string setField(SystemInfo& info, const std::string& name, const std::strin
 /// Every setting with its value, in the order of the state file; the ones that the file does not hold included. What
 /// stands there is what `setField` takes: decimals have as many digits as they need.
 std::vector<std::pair<std::string, std::string>> listFields(const SystemInfo& info);
+
+/// The value of one setting, as `listFields` has it; nothing when there is no such setting.
+std::optional<std::string> fieldValue(const SystemInfo& info, const std::string& name);
 
 }  // namespace tavrin

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <vector>
+
+#include <QObject>
+
+#include "ui/bind/ControlRow.h"
+
+namespace tavrin {
+
+/// Ties rows of controls to settings: reads a control into its setting, shows settings in their controls, resets
+/// them, and makes one step of undo of one drag. Every change asks the loop for a picture.
+class Binder : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit Binder(SettingEditor& editor, QObject* parent = nullptr);
+
+    SettingEditor& editor() const { return editor_; }
+    /// Ties a row to the setting of its binding; both live as long as the binder.
+    void bind(ControlRow* row);
+    const std::vector<ControlRow*>& rows() const { return rows_; }
+
+    /// Puts the defaults of a group back, as one step.
+    void resetGroup(const BindingGroup& group);
+    /// Shows every setting in its control.
+    void UpdateAllUI();
+    /// As an action changes several settings: one step, a new picture, and every control shows what became of it.
+    void run(const QString& label, const std::function<void(SettingEditor&)>& action);
+    void undo();
+    void redo();
+
+    std::string settingOf(const Binding& binding) const;
+
+  signals:
+    /// A setting was changed, done again or taken back.
+    void changed();
+    void told(const QString& line);
+
+  private:
+    void change(const Binding& binding, double setting);
+    void reset(const Binding& binding);
+    void finish();
+
+    SettingEditor& editor_;
+    std::vector<ControlRow*> rows_;
+};
+
+/// A value of a setting as text, whole where the mapping says so.
+std::string settingText(const Mapping& mapping, double setting);
+
+}  // namespace tavrin

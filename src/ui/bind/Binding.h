@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "session/SettingEditor.h"
+#include "ui/bind/Mapping.h"
+
+namespace tavrin {
+
+/// Whose setting a control drives. `active` is the layer that the panels edit (`iActiveBitmap`).
+enum class Owner { state, active, combined };
+
+/// What a change of a control is called, and what it does besides writing the setting.
+struct Handler {
+    const char* name;
+    /// @param owner what the names of the owner's settings begin with, such as "foreground."
+    void (*then)(SettingEditor& editor, const std::string& owner) = nullptr;
+};
+
+/// One of a few values to choose from, a button.
+struct Choice {
+    const char* control;  ///< name of the button
+    const char* key;      ///< its key equivalent
+    double value;         ///< of the setting
+    const char* label;
+};
+
+/// A control that drives one setting. Texts are translated in the context "Panel". What must be made anew follows
+/// from the setting (ChangeFlags.h).
+struct Binding {
+    const char* control;  ///< name of the control, for which people search
+    const Handler* handler;
+    Owner owner;
+    const char* setting;  ///< key of its leaf
+    const Mapping* mapping;
+    double minimum, maximum;  ///< of the control
+    double reset;             ///< of the setting
+    const char *label, *toolTip;
+    std::vector<Choice> choices = {};
+};
+
+/// Controls that belong together and fold away together.
+struct BindingGroup {
+    const char* name;
+    const char* title;
+    const Handler* reset;  ///< null: the group has no reset
+    std::vector<Binding> bindings;
+    bool foldedAtFirst = false;
+};
+
+inline std::string ownerPrefix(const SystemInfo& info, Owner owner) {
+    if (owner == Owner::state) return "";
+    if (owner == Owner::combined) return "combined.";
+    return info.iActiveBitmap == 0 ? "foreground." : "background.";
+}
+
+}  // namespace tavrin

@@ -1,0 +1,105 @@
+#include "ui/bind/GroupBox.h"
+
+#include <algorithm>
+
+#include <QHBoxLayout>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "ui/WindowSettings.h"
+
+namespace tavrin {
+
+namespace {
+
+bool matches(const BindingGroup& group, const Binding& binding, const QStringList& words) {
+    QString text = ControlRow::translated(group.title) + ' ' + ControlRow::translated(binding.label) + ' ' +
+                   ControlRow::translated(binding.toolTip) + ' ' + binding.control + ' ' + binding.setting;
+    for (const Choice& choice : binding.choices)
+        text += ' ' + ControlRow::translated(choice.label);
+    return std::all_of(words.begin(), words.end(),
+                       [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
+}
+
+QString foldKey(const BindingGroup& group) {
+    return QString("folded/") + group.name;
+}
+
+}  // namespace
+
+GroupBox::GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent)
+    : QWidget(parent), group_(group), body_(new QWidget(this)) {
+    setObjectName(group.name);
+    auto* rows = new QVBoxLayout(body_);
+    rows->setContentsMargins(0, 0, 0, 6);
+    rows->setSpacing(4);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(makeHeader(binder));
+    layout->addWidget(body_);
+    for (const Binding& binding : group.bindings) {
+        rows_.push_back(makeRow(binding, body_));
+        rows->addWidget(rows_.back());
+        binder.bind(rows_.back());
+    }
+    setFolded(windowSettings().value(foldKey(group), group.foldedAtFirst).toBool());
+}
+
+QWidget* GroupBox::makeHeader(Binder& binder) {
+    auto* line = new QWidget(this);
+    auto* layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    header_ = new QToolButton(line);
+    header_->setObjectName(QString(group_.name) + "Fold");
+    header_->setProperty("groupTitle", true);
+    header_->setProperty("handler", "fold");
+    header_->setText(ControlRow::translated(group_.title));
+    header_->setAccessibleName(header_->text());
+    header_->setToolTip(tr("Fold the group away, or open it"));
+    header_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    header_->setFocusPolicy(Qt::TabFocus);
+    header_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(header_, &QToolButton::clicked, this, [this] {
+        setFolded(!isFolded());
+        windowSettings().setValue(foldKey(group_), isFolded());
+    });
+    layout->addWidget(header_, 1);
+    if (!group_.reset) return line;
+    auto* reset = new QToolButton(line);
+    reset->setObjectName(group_.reset->name);
+    reset->setProperty("quiet", true);
+    reset->setProperty("handler", group_.reset->name);
+    reset->setText(tr("reset"));
+    reset->setAccessibleName(tr("Reset %1").arg(header_->text()));
+    reset->setToolTip(tr("Put all defaults of this group back"));
+    reset->setFocusPolicy(Qt::TabFocus);
+    connect(reset, &QToolButton::clicked, &binder, [this, &binder] { binder.resetGroup(group_); });
+    layout->addWidget(reset);
+    return line;
+}
+
+bool GroupBox::isFolded() const {
+    return body_->isHidden();
+}
+
+void GroupBox::setFolded(bool folded) {
+    body_->setHidden(folded);
+    header_->setArrowType(folded ? (layoutDirection() == Qt::RightToLeft ? Qt::LeftArrow : Qt::RightArrow)
+                                 : Qt::DownArrow);
+    header_->setAccessibleDescription(folded ? tr("folded") : tr("open"));
+}
+
+bool GroupBox::showMatching(const QStringList& words) {
+    bool any = false;
+    for (ControlRow* row : rows_) {
+        const bool shown = matches(group_, row->binding(), words);
+        row->setVisible(shown);
+        any = any || shown;
+    }
+    setVisible(any);
+    setFolded(words.isEmpty() ? windowSettings().value(foldKey(group_), group_.foldedAtFirst).toBool() : false);
+    return any;
+}
+
+}  // namespace tavrin

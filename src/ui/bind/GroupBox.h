@@ -1,0 +1,38 @@
+#pragma once
+
+#include <vector>
+
+#include <QWidget>
+
+#include "ui/bind/Binder.h"
+
+class QToolButton;
+
+namespace tavrin {
+
+/// The controls of a group under a title that folds them away, with a reset for all of them. Folded or not is
+/// remembered.
+class GroupBox : public QWidget {
+    Q_OBJECT
+
+  public:
+    GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent = nullptr);
+
+    const BindingGroup& group() const { return group_; }
+    bool isFolded() const;
+    void setFolded(bool folded);
+    /// Shows the rows that have all these words in their names, tips or settings, unfolded; without words all rows,
+    /// folded as they were.
+    /// @return whether there are any
+    bool showMatching(const QStringList& words);
+
+  private:
+    QWidget* makeHeader(Binder& binder);
+
+    const BindingGroup& group_;
+    QToolButton* header_ = nullptr;
+    QWidget* body_;
+    std::vector<ControlRow*> rows_;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,198 @@
+#include <QLineEdit>
+
+#include "ui/adjust/Rotation.h"
+#include "ui/frame/MainWindow.h"
+#include "ui/frame/Theme.h"
+
+namespace tavrin {
+
+namespace {
+
+using Kind = Command::Kind;
+
+/// A quarter turn of a layer, by the key of its button.
+Command turn(MainWindow& window, const char* id, const char* menu, const QString& text, char key) {
+    return {id, menu, text, MainWindow::tr("Turns the whole layer"), "", {}, {}, [&window, key, text](bool) {
+                window.binder().run(text, [key](SettingEditor& editor) { clickedRotationRadiobutton(editor, key); });
+            }};
+}
+
+Command theme(const char* id, const char* menu, const QString& text, Theme theme) {
+    return {id, menu, text, MainWindow::tr("The colours of the window"),
+            "", {},   {},   [theme](bool) { chooseTheme(theme); }};
+}
+
+}  // namespace
+
+std::vector<Command> commandTable(MainWindow& w) {
+    const auto tr = [](const char* text) { return MainWindow::tr(text); };
+    return {
+        {"loadForeground",
+         "&File",
+         tr("Open &Portrait..."),
+         tr("Opens a portrait in front of a green or blue screen"),
+         "document-open",
+         QKeySequence::Open,
+         {},
+         [&w](bool) {
+             w.askForLayer(w.info_.oQLXInfo->sForegroundPath, MainWindow::tr("Select Foreground File"),
+                           &MainWindow::openForeground);
+         }},
+        {"loadBackground",
+         "&File",
+         tr("Open &Background..."),
+         tr("Lays another picture behind the portrait"),
+         "",
+         QKeySequence(Qt::CTRL | Qt::Key_B),
+         {},
+         [&w](bool) {
+             w.askForLayer(w.info_.oQLXInfo->sBackgroundPath, MainWindow::tr("Select Background File"),
+                           &MainWindow::openBackground);
+         }},
+        {"OpenState",
+         "&File",
+         tr("Open S&tate..."),
+         tr("Brings every setting and both pictures back"),
+         "",
+         QKeySequence(Qt::CTRL | Qt::Key_T),
+         {},
+         [&w](bool) { w.askForStateToOpen(); }},
+        {"Save", "|&File", tr("&Save"), tr("Saves the finished picture"), "document-save", QKeySequence::Save,
+         [&w] { return w.finished_; }, [&w](bool) { w.askForSave(); }},
+        {"SaveState",
+         "&File",
+         tr("Save State &As..."),
+         tr("Saves every setting, to go on with later"),
+         "",
+         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T),
+         {},
+         [&w](bool) { w.askForStateToSave(); }},
+        {"FramePortraits",
+         "|&File",
+         tr("&Frame New Portraits"),
+         tr("Places portraits around their subject"),
+         "",
+         {},
+         {},
+         [&w](bool on) { w.frameNewPortraits(on); },
+         Kind::checked},
+        {"Quit", "|&File", tr("&Quit"), {}, "application-exit", QKeySequence::Quit, {}, [&w](bool) { w.close(); }},
+        {"UndoButton", "&Edit", tr("&Undo"), tr("Takes the last change of a setting back"), "edit-undo",
+         QKeySequence::Undo, [&w] { return w.editor_.stepsDone() > 0; }, [&w](bool) { w.binder_.undo(); }},
+        {"RedoButton", "&Edit", tr("&Redo"), tr("Does again what was taken back"), "edit-redo",
+         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+         [&w] { return w.editor_.stepsDone() < w.editor_.steps().size(); }, [&w](bool) { w.binder_.redo(); }},
+        {"FindControl",
+         "|&Edit",
+         tr("&Find a Control"),
+         tr("Searches the controls by words"),
+         "edit-find",
+         QKeySequence::Find,
+         {},
+         [&w](bool) {
+             w.panel_->show();
+             w.panel_->searchField()->setFocus();
+             w.panel_->searchField()->selectAll();
+         }},
+        {"setZoomHome",
+         "&View",
+         tr("&Fit"),
+         tr("Shows the whole picture"),
+         "zoom-fit-best",
+         QKeySequence(Qt::Key_F),
+         {},
+         [&w](bool) { w.view_->setZoomHome(); }},
+        {"setZoomMagnify",
+         "&View",
+         tr("A Little &Larger"),
+         tr("A tenth larger"),
+         "",
+         QKeySequence(Qt::Key_S),
+         {},
+         [&w](bool) { w.view_->setZoomMagnify(); }},
+        {"ZoomPixels",
+         "&View",
+         tr("&100 %"),
+         tr("A pixel of the picture on a pixel of the screen"),
+         "zoom-original",
+         QKeySequence(Qt::Key_1),
+         {},
+         [&w](bool) { w.view_->zoomToPixels(); }},
+        {"ZoomIn",
+         "&View",
+         tr("Zoom &In"),
+         tr("Larger"),
+         "zoom-in",
+         QKeySequence::ZoomIn,
+         {},
+         [&w](bool) { w.view_->zoomBy(1.25); }},
+        {"ZoomOut",
+         "&View",
+         tr("Zoom &Out"),
+         tr("Smaller"),
+         "zoom-out",
+         QKeySequence::ZoomOut,
+         {},
+         [&w](bool) { w.view_->zoomBy(0.8); }},
+        {"ShowOriginal", "|&View", tr("Before (hold the key)"), tr("The portrait as it was taken"), "",
+         QKeySequence(Qt::Key_B), [&w] { return w.finished_; }, [&w](bool on) { w.showOriginal(on); }, Kind::held},
+        {"ShowAlpha",
+         "&View",
+         tr("&Alpha"),
+         tr("What the key leaves of the portrait: dark stays, light goes"),
+         "",
+         QKeySequence(Qt::Key_A),
+         {},
+         [&w](bool on) { w.showAlpha(on); },
+         Kind::checked},
+        {"AutoState",
+         "|&File",
+         tr("Save the State with Every &Picture"),
+         tr("Writes a state file of the same name beside each saved picture"),
+         "",
+         {},
+         {},
+         [&w](bool on) {
+             w.info_.oQLXInfo->bAutoQLXSave = on;
+             w.keepSettings();
+         },
+         Kind::checked},
+        {"ShowPanel",
+         "|&View",
+         tr("&Controls"),
+         tr("Folds the controls away, or shows them"),
+         "",
+         QKeySequence(Qt::Key_Tab),
+         {},
+         [&w](bool) { w.panel_->setVisible(w.panel_->isHidden()); },
+         Kind::onPicture},
+        {"FullScreen",
+         "&View",
+         tr("Full &Screen"),
+         tr("Nothing but the program on the screen"),
+         "view-fullscreen",
+         QKeySequence(Qt::Key_F11),
+         {},
+         [&w](bool on) { w.setFullScreen(on); },
+         Kind::checked},
+        theme("ThemeDesktop", "|&View", tr("Colours of the &Desktop"), Theme::desktop),
+        theme("ThemeLight", "&View", tr("L&ight Colours"), Theme::light),
+        theme("ThemeDark", "&View", tr("&Dark Colours"), Theme::dark),
+        turn(w, "RotateForeground1", "&Picture", tr("Portrait: Upright"), '1'),
+        turn(w, "RotateForeground2", "&Picture", tr("Portrait: 90 Degrees"), '2'),
+        turn(w, "RotateForeground3", "&Picture", tr("Portrait: 270 Degrees"), '3'),
+        turn(w, "RotateBackground4", "|&Picture", tr("Background: Upright"), '4'),
+        turn(w, "RotateBackground5", "&Picture", tr("Background: 90 Degrees"), '5'),
+        turn(w, "RotateBackground6", "&Picture", tr("Background: 270 Degrees"), '6'),
+        {"Shortcuts",
+         "&Help",
+         tr("&Keyboard Shortcuts"),
+         tr("Every key and what it does"),
+         "",
+         QKeySequence(Qt::CTRL | Qt::Key_F1),
+         {},
+         [&w](bool) { w.commands_->showShortcuts(); }},
+    };
+}
+
+}  // namespace tavrin

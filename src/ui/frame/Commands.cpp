@@ -1,0 +1,121 @@
+#include "ui/frame/Commands.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace tavrin {
+
+Commands::Commands(QMainWindow& window, std::vector<Command> table)
+    : QObject(&window), window_(window), table_(std::move(table)) {
+    for (const Command& command : table_)
+        add(command);
+    window_.installEventFilter(this);
+    refresh();
+}
+
+QMenu* Commands::menuFor(const QString& title) {
+    QMenu*& menu = menus_[title];
+    if (!menu) {
+        menu = window_.menuBar()->addMenu(QCoreApplication::translate("Menu", title.toUtf8()));
+        menu->setToolTipsVisible(true);
+        connect(menu, &QMenu::aboutToShow, this, &Commands::refresh);
+    }
+    return menu;
+}
+
+void Commands::add(const Command& command) {
+    const QString title = command.menu;
+    QMenu* menu = menuFor(title.startsWith('|') ? title.mid(1) : title);
+    if (title.startsWith('|')) menu->addSeparator();
+    auto* action = new QAction(command.text, &window_);
+    action->setObjectName(command.id);
+    if (*command.icon) action->setIcon(QIcon::fromTheme(command.icon));
+    if (!command.toolTip.isEmpty()) action->setToolTip(command.toolTip);
+    action->setCheckable(command.kind == Command::Kind::checked);
+    if (command.kind == Command::Kind::held) {
+        // A shortcut knows no release; here the key stands for people to read.
+        action->setText(command.text + '\t' + command.shortcut.toString(QKeySequence::NativeText));
+    } else {
+        action->setShortcut(command.shortcut);
+        const auto run = command.run;
+        if (action->isCheckable()) {
+            connect(action, &QAction::toggled, this, run);
+        } else {
+            connect(action, &QAction::triggered, this, [run] { run(true); });
+        }
+    }
+    menu->addAction(action);
+    if (command.kind == Command::Kind::onPicture) {
+        action->setShortcutContext(Qt::WidgetShortcut);
+        window_.findChild<QWidget*>("mainQLXView")->addAction(action);
+    } else {
+        window_.addAction(action);  // the shortcut holds also where the menu bar is hidden
+    }
+    actions_[command.id] = action;
+}
+
+QAction* Commands::action(const QString& id) const {
+    const auto found = actions_.find(id);
+    return found == actions_.end() ? nullptr : found->second;
+}
+
+QMenu* Commands::menu(const QString& title) const {
+    const auto found = menus_.find(title);
+    return found == menus_.end() ? nullptr : found->second;
+}
+
+void Commands::refresh() {
+    for (const Command& command : table_)
+        if (command.enabledWhen) action(command.id)->setEnabled(command.enabledWhen());
+}
+
+bool Commands::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->isAutoRepeat() || key->modifiers() != Qt::NoModifier) return QObject::eventFilter(watched, event);
+    for (const Command& command : table_) {
+        if (command.kind != Command::Kind::held || command.shortcut != QKeySequence(key->key())) continue;
+        command.run(event->type() == QEvent::KeyPress);
+        return true;
+    }
+    return false;
+}
+
+void Commands::showShortcuts() {
+    auto* dialog = new QDialog(&window_);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setObjectName("shortcuts");
+    dialog->setWindowTitle(tr("Keyboard Shortcuts"));
+    auto* list = new QTableWidget(0, 2, dialog);
+    list->setAccessibleName(dialog->windowTitle());
+    list->setHorizontalHeaderLabels({tr("Key"), tr("What it does")});
+    list->horizontalHeader()->setStretchLastSection(true);
+    list->verticalHeader()->hide();
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    const auto line = [list](const QString& key, const QString& text) {
+        const int row = list->rowCount();
+        list->insertRow(row);
+        list->setItem(row, 0, new QTableWidgetItem(key));
+        list->setItem(row, 1, new QTableWidgetItem(QString(text).remove('&')));
+    };
+    for (const Command& command : table_)
+        if (!command.shortcut.isEmpty()) line(command.shortcut.toString(QKeySequence::NativeText), command.text);
+    line(tr("Arrows"), tr("Move a slider; with Shift finer, with Ctrl coarser"));
+    line(tr("Delete"), tr("Put the default of a slider back"));
+    line(tr("Wheel"), tr("Zoom about the pointer"));
+    line(tr("Space or middle button"), tr("Hold and drag to move the picture"));
+    list->resizeColumnToContents(0);
+    auto* layout = new QVBoxLayout(dialog);
+    layout->addWidget(list);
+    dialog->resize(520, 560);
+    dialog->show();
+}
+
+}  // namespace tavrin

@@ -1,0 +1,302 @@
+#include "ui/frame/MainWindow.h"
+
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+
+#include "core/files/NameText.h"
+#include "core/files/StandardPath.h"
+#include "formats/SettingsFile.h"
+#include "pipeline/SubjectPlace.h"
+#include "ui/WindowSettings.h"
+#include "ui/views/LayerPictures.h"
+
+namespace tavrin {
+
+namespace {
+
+QStringList localFiles(const QMimeData* data) {
+    QStringList files;
+    for (const QUrl& url : data->urls()) {
+        // The path of a link is written in bytes, which need not be text.
+        if (url.isLocalFile())
+            files.append(
+                textOfName(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString()));
+    }
+    return files;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
+    : QMainWindow(parent),
+      info_(info),
+      loop_(std::make_unique<CombineThread>(info)),
+      editor_(info),
+      binder_(editor_),
+      files_(new PictureFiles(info, *loop_, bridge_, this)),
+      view_(new PictureView),
+      messages_(new MessageBar),
+      panel_(new SidePanel(binder_, this)),
+      sizeBox_(new SizeBox(info)) {
+    setObjectName("MainDisplay");
+    setWindowTitle(tr("Main Window - Adjust/Load Mode"));
+    setAcceptDrops(true);
+    layOut();
+    connectParts();
+    connectBridge();
+    comeBack();
+    info_.pInterface = &bridge_;
+    loop_->StartMainThread();
+}
+
+MainWindow::~MainWindow() {
+    loop_.reset();  // the thread ends before the bridge it talks to
+    info_.pInterface = nullptr;
+}
+
+void MainWindow::connectParts() {
+    connect(&binder_, &Binder::told, messages_, &MessageBar::tell);
+    connect(&binder_, &Binder::changed, this, [this] {
+        view_->setTransparent(info_.bOutputTransparency);
+        commands_->refresh();
+    });
+    connect(sizeBox_, &SizeBox::sizeChosen, this, &MainWindow::showState);
+    connect(view_, &PictureView::zoomed, this, &MainWindow::tellProgress);
+    connect(files_, &PictureFiles::opened, this, &MainWindow::showState);
+    connect(files_, &PictureFiles::saved, this, &MainWindow::endSave);
+    connect(findChild<QMenu*>("recentFiles"), &QMenu::aboutToShow, this, &MainWindow::refillRecentFiles);
+}
+
+void MainWindow::connectBridge() {
+    const auto queued = Qt::QueuedConnection;
+    connect(&bridge_, &WindowBridge::published, this, &MainWindow::takePublished, queued);
+    connect(&bridge_, &WindowBridge::alerted, this, &MainWindow::showAlert, queued);
+    connect(&bridge_, &WindowBridge::failed, messages_, &MessageBar::fail, queued);
+    connect(&bridge_, &WindowBridge::outputSized, this, &MainWindow::sizeToOutput, queued);
+    connect(&bridge_, &WindowBridge::placed, &binder_, &Binder::UpdateAllUI, queued);
+    connect(
+        &bridge_, &WindowBridge::otherTaken, this,
+        [this](const QImage& picture, const QString& word) {
+            if (originalHeld_ || info_.bShowAlpha) view_->showInstead(picture, word);
+        },
+        queued);
+    connect(
+        &bridge_, &WindowBridge::stateOpened, this,
+        [this] {
+            editor_.forgetSteps();  // they do not rest on what was loaded
+            showState();
+        },
+        queued);
+    connect(
+        &bridge_, &WindowBridge::controlsEnabled, this,
+        [this](bool enabled, bool hostApplication) {
+            finished_ = enabled;
+            commands_->action("Save")->setText(hostApplication ? "Return To Lightroom" : "Save");
+            commands_->refresh();
+            tellProgress();
+            if (enabled && info_.bShowAlpha) showOther();  // that of the new picture
+        },
+        queued);
+}
+
+/// Every control shows the state that is there now; it has no finished picture yet.
+void MainWindow::showState() {
+    finished_ = false;
+    binder_.UpdateAllUI();
+    sizeBox_->updateComboBoxImageSize();
+    view_->setTransparent(info_.bOutputTransparency);
+    commands_->refresh();
+    tellProgress();
+}
+
+void MainWindow::refillRecentFiles() {
+    QMenu* menu = findChild<QMenu*>("recentFiles");
+    menu->clear();
+    for (const QString& path : PictureFiles::recentFiles())
+        menu->addAction(QFileInfo(path).fileName(), this, [this, path] { openFile(path); })->setToolTip(path);
+    if (menu->isEmpty()) menu->addAction(tr("Nothing yet"))->setEnabled(false);
+}
+
+void MainWindow::openFile(const QString& path) {
+    isStateFile(path) ? openState(path) : openForeground(path);
+}
+
+void MainWindow::openForeground(const QString& path) {
+    files_->openForeground(path, frameAction()->isChecked());
+}
+
+void MainWindow::openBackground(const QString& path) {
+    files_->openBackground(path);
+}
+
+void MainWindow::openState(const QString& path) {
+    finished_ = false;
+    commands_->refresh();
+    files_->openState(path);
+}
+
+void MainWindow::saveState(const QString& path) {
+    files_->saveState(path);
+    tellProgress();
+}
+
+/// Turned on it frames the present portrait, too, unless that was placed by hand or by a state.
+void MainWindow::frameNewPortraits(bool wanted) {
+    windowSettings().setValue("framePortraits", wanted);
+    wantPlace(info_, wanted ? PlaceRule::subject : PlaceRule::corner);
+    if (wanted) info_.StartUpdate();
+}
+
+/// @param last the setting that keeps what was opened last, where the dialog begins
+void MainWindow::askForLayer(Field<std::string>& last, const QString& title,
+                             void (MainWindow::*open)(const QString& path)) {
+    const QString folder = QFileInfo(textOfName(standardizePath(last))).path();
+    const QString path = QFileDialog::getOpenFileName(this, title, folder, pictureFilter());
+    if (path.isEmpty()) return;
+    last = nameOfText(path);
+    keepSettings();
+    (this->*open)(path);
+}
+
+void MainWindow::keepSettings() {
+    const std::string problem = SaveQLXFile(*info_.oQLXInfo);
+    if (!problem.empty()) messages_->fail(tr("The settings cannot be saved."), QString::fromStdString(problem));
+}
+
+void MainWindow::askForStateToOpen() {
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open State"), QString(), stateFilter());
+    if (!path.isEmpty()) openState(path);
+}
+
+void MainWindow::askForStateToSave() {
+    QString path = QFileDialog::getSaveFileName(this, tr("Save State"), QString(), stateFilter());
+    if (path.isEmpty()) return;
+    if (QFileInfo(path).suffix().isEmpty()) path += ".qlx";
+    saveState(path);
+}
+
+QString MainWindow::suggestedName() const {
+    const QFileInfo source(textOfName(info_.pForegroundBitmapInfo->sSourceImageFullPath));
+    const QString folder = textOfName(standardizePath(info_.oQLXInfo->sSavePath));
+    const QString name = QString::fromStdString(info_.oQLXInfo->sPrefix) + source.completeBaseName() + "-combined" +
+                         (info_.bOutputTransparency ? ".png" : ".jpg");
+    return folder.isEmpty() ? name : folder + '/' + name;
+}
+
+void MainWindow::askForSave() {
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), suggestedName(), saveFilter());
+    if (path.isEmpty()) return;
+    info_.oQLXInfo->sSavePath = nameOfText(QFileInfo(path).path());
+    keepSettings();
+    saveTo(path);
+}
+
+bool MainWindow::saveTo(const QString& path) {
+    const bool taken = files_->savePicture(path);
+    if (!taken) {
+        messages_->tell(tr("The picture is not finished yet."));
+    } else if (info_.oQLXInfo->bAutoQLXSave) {
+        const QFileInfo file(path);
+        files_->saveState(file.path() + '/' + file.completeBaseName() + ".qlx");
+    }
+    tellProgress();
+    return taken;
+}
+
+void MainWindow::endSave(const QString& path, bool done) {
+    tellProgress();
+    if (done) {
+        messages_->tell(tr("Saved %1").arg(path));
+    } else {
+        closing_ = false;
+    }
+    if (closing_ && savesUnderWay() == 0) close();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    closing_ = savesUnderWay() > 0;
+    event->setAccepted(!closing_);
+    if (closing_) return messages_->tell(tr("The window closes when everything is saved."));
+    QSettings settings = windowSettings();
+    settings.setValue("geometry", saveGeometry());
+    settings.setValue("layout", QMainWindow::saveState());
+}
+
+void MainWindow::takePublished() {
+    for (const PublishedRows& rows : bridge_.takePublished())
+        view_->show(rows);
+    tellProgress();
+}
+
+/// What the view shows instead of the combined picture: the portrait while its key is held, or the alpha.
+void MainWindow::showOther() {
+    const bool original = originalHeld_, alpha = info_.bShowAlpha;
+    if (!original && !alpha) return view_->showInstead({}, {});
+    const QSize most = (view_->zoom().frame().size() * devicePixelRatioF()).toSize();
+    // The buffers are the loop's.
+    loop_->edit([this, original, most]() -> std::vector<ChangedRows> {
+        emit bridge_.otherTaken(original ? originalPicture(info_, most) : alphaPicture(info_, most),
+                                original ? tr("Before") : tr("Alpha"));
+        return {};
+    });
+}
+
+void MainWindow::showOriginal(bool on) {
+    originalHeld_ = on;
+    showOther();
+}
+
+void MainWindow::showAlpha(bool on) {
+    info_.bShowAlpha = on;
+    showOther();
+}
+
+void MainWindow::showAlert(const QString& message, const QString& reason) {
+    auto* box = new QMessageBox(QMessageBox::Warning, "Tavrin", message, QMessageBox::Ok, this);
+    box->setInformativeText(reason);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+void MainWindow::tellStartProblems(const std::string& lines) {
+    if (lines.empty()) return;
+    messages_->fail(tr("Not everything is as it should be at the start."), QString::fromStdString(lines));
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (localFiles(event->mimeData()).isEmpty()) return;
+    event->acceptProposedAction();
+    view_->setDropZone(view_->zoneAt(view_->mapFrom(this, event->position().toPoint())));
+}
+
+void MainWindow::dragMoveEvent(QDragMoveEvent* event) {
+    event->acceptProposedAction();
+    view_->setDropZone(view_->zoneAt(view_->mapFrom(this, event->position().toPoint())));
+}
+
+void MainWindow::dragLeaveEvent(QDragLeaveEvent*) {
+    view_->setDropZone(PictureView::DropZone::none);
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    view_->setDropZone(PictureView::DropZone::none);
+    const QStringList files = localFiles(event->mimeData());
+    if (files.isEmpty()) return;
+    event->acceptProposedAction();
+    // Two files are a pair: portrait and background.
+    if (files.size() >= 2) {
+        openForeground(files[0]);
+        openBackground(files[1]);
+    } else if (isStateFile(files[0]) || view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) ==
+                                            PictureView::DropZone::foreground) {
+        openFile(files[0]);
+    } else {
+        openBackground(files[0]);
+    }
+}
+
+}  // namespace tavrin

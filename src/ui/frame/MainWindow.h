@@ -1,0 +1,114 @@
+#pragma once
+
+#include <memory>
+
+#include <QMainWindow>
+
+#include "pipeline/CombineThread.h"
+#include "ui/WindowBridge.h"
+#include "ui/bind/Binder.h"
+#include "ui/frame/Commands.h"
+#include "ui/frame/MessageBar.h"
+#include "ui/frame/PictureFiles.h"
+#include "ui/frame/SidePanel.h"
+#include "ui/frame/SizeBox.h"
+#include "ui/views/PictureView.h"
+
+class QLabel;
+class QProgressBar;
+
+namespace tavrin {
+
+/// The main window: the running picture, the controls beside it, and the way for pictures in and out. It owns the
+/// processing thread of the state it shows, which ends with it.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit MainWindow(SystemInfo& info, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Makes a file the source of a layer and asks for a new picture.
+    void openForeground(const QString& path);
+    void openBackground(const QString& path);
+    /// Loads every setting and both pictures from a state file. One that cannot be read is told and changes nothing.
+    void openState(const QString& path);
+    void saveState(const QString& path);
+    /// Opens a file by its kind: a state file, or a picture for the portrait.
+    void openFile(const QString& path);
+    /// Has the full picture that stands saved. The window tells when it is done, or why it is not.
+    /// @return false when there is no finished picture
+    bool saveTo(const QString& path);
+    /// Pictures and states that are still to be saved. A window that is closed meanwhile goes when they are, and
+    /// stays when one cannot be.
+    int savesUnderWay() const { return files_->savesUnderWay(); }
+    /// Shows what went wrong at the start, one line for each thing. "" shows nothing.
+    void tellStartProblems(const std::string& lines);
+
+    PictureView* view() const { return view_; }
+    SizeBox* sizeBox() const { return sizeBox_; }
+    SidePanel* panel() const { return panel_; }
+    MessageBar* messages() const { return messages_; }
+    Binder& binder() { return binder_; }
+    Commands& commands() { return *commands_; }
+    /// Whether portraits that are opened are framed around their subject; kept for the next start.
+    QAction* frameAction() const { return commands_->action("FramePortraits"); }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    friend std::vector<Command> commandTable(MainWindow& window);
+
+    void layOut();
+    void makeToolBar();
+    void makeStatusLine();
+    QWidget* makeViewBar();
+    void connectParts();
+    void connectBridge();
+    void comeBack();
+    void refillRecentFiles();
+    void frameNewPortraits(bool wanted);
+    void askForLayer(Field<std::string>& last, const QString& title, void (MainWindow::*open)(const QString& path));
+    void keepSettings();
+    QString suggestedName() const;
+    void askForStateToOpen();
+    void askForStateToSave();
+    void askForSave();
+    void endSave(const QString& path, bool done);
+    void takePublished();
+    void showState();
+    void showAlert(const QString& message, const QString& reason);
+    void showOther();
+    void showOriginal(bool on);
+    void showAlpha(bool on);
+    void sizeToOutput(int outputWidth, int outputHeight);
+    void setFullScreen(bool on);
+    void tellProgress();
+
+    SystemInfo& info_;
+    WindowBridge bridge_;
+    std::unique_ptr<CombineThread> loop_;
+    SettingEditor editor_;
+    Binder binder_;
+    PictureFiles* files_;
+    PictureView* view_;
+    MessageBar* messages_;
+    SidePanel* panel_;
+    SizeBox* sizeBox_;
+    Commands* commands_ = nullptr;
+    QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;
+    QProgressBar* progress_ = nullptr;
+    bool closing_ = false;   // as soon as all is saved
+    bool finished_ = false;  // a full picture stands
+    bool cameBack_ = false, originalHeld_ = false;
+};
+
+/// Everything that the window does by itself, in the order of its menus.
+std::vector<Command> commandTable(MainWindow& window);
+
+}  // namespace tavrin

@@ -1,0 +1,158 @@
+// How the main window is laid out, and what its status line says.
+#include <QButtonGroup>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QProgressBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "ui/WindowSettings.h"
+#include "ui/frame/MainWindow.h"
+
+namespace tavrin {
+
+namespace {
+
+QToolButton* buttonOf(QAction* action, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setDefaultAction(action);
+    button->setObjectName(action->objectName());
+    button->setAccessibleName(QString(action->text()).remove('&'));
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    return button;
+}
+
+}  // namespace
+
+void MainWindow::layOut() {
+    auto* middle = new QWidget(this);
+    auto* column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(messages_);
+    column->addWidget(view_, 1);
+    setCentralWidget(middle);
+    addDockWidget(Qt::RightDockWidgetArea, panel_);
+    commands_ = new Commands(*this, commandTable(*this));
+    auto* recent = new QMenu(tr("Open &Recent"), this);
+    recent->setObjectName("recentFiles");
+    recent->setToolTipsVisible(true);
+    commands_->menu("&File")->insertMenu(commands_->action("Save"), recent);
+    column->addWidget(makeViewBar());
+    makeToolBar();
+    makeStatusLine();
+    view_->setFocus();
+}
+
+void MainWindow::makeToolBar() {
+    QToolBar* bar = addToolBar(tr("Tools"));
+    bar->setObjectName("mainTools");
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);  // it has no other way back
+    auto* space = new QWidget(bar);
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    for (const char* id : {"loadForeground", "loadBackground", "UndoButton", "RedoButton"})
+        bar->addWidget(buttonOf(commands_->action(id), bar));
+    bar->addWidget(space);
+    auto* label = new QLabel(tr("Output size "), bar);
+    label->setBuddy(sizeBox_);
+    bar->addWidget(label);
+    bar->addWidget(sizeBox_);
+    bar->addWidget(buttonOf(commands_->action("Save"), bar));
+}
+
+/// Below the picture, so that it covers none of it.
+QWidget* MainWindow::makeViewBar() {
+    auto* bar = new QWidget(this);
+    auto* line = new QHBoxLayout(bar);
+    line->setContentsMargins(8, 2, 8, 2);
+    line->addStretch();
+    for (const char* id : {"setZoomHome", "ZoomPixels", "ZoomOut", "ZoomIn"})
+        line->addWidget(buttonOf(commands_->action(id), bar));
+    auto* before = new QToolButton(bar);
+    before->setObjectName("buttonBefore");
+    before->setProperty("handler", "ShowOriginal");
+    before->setText(tr("Before"));
+    before->setAccessibleName(tr("Before, as long as it is held"));
+    before->setToolTip(tr("Hold it to see the portrait as it was taken; the key B does the same"));
+    before->setAutoRaise(true);
+    before->setFocusPolicy(Qt::TabFocus);
+    connect(before, &QToolButton::pressed, this, [this] { showOriginal(true); });
+    connect(before, &QToolButton::released, this, [this] { showOriginal(false); });
+    line->addWidget(before);
+    line->addWidget(buttonOf(commands_->action("ShowAlpha"), bar));
+    line->addStretch();
+    return bar;
+}
+
+void MainWindow::makeStatusLine() {
+    sizeText_ = new QLabel(this);
+    zoomText_ = new QLabel(this);
+    stateText_ = new QLabel(this);
+    progress_ = new QProgressBar(this);
+    stateText_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Full picture %1 %").arg(100)));  // nothing moves
+    stateText_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    progress_->setObjectName("fullPictureProgress");
+    progress_->setAccessibleName(tr("Progress of the full picture"));
+    progress_->setFixedWidth(120);
+    progress_->setTextVisible(false);
+    progress_->setMaximumHeight(8);
+    statusBar()->addWidget(sizeText_);
+    statusBar()->addWidget(zoomText_);
+    statusBar()->addPermanentWidget(stateText_);
+    statusBar()->addPermanentWidget(progress_);
+}
+
+void MainWindow::tellProgress() {
+    if (!sizeText_) return;
+    sizeText_->setText(tr("%1 x %2, %3 dpi")
+                           .arg(info_.iOutputPixelWidth.load())
+                           .arg(info_.iOutputPixelHeight.load())
+                           .arg(info_.iOutputImageDPI.load()));
+    zoomText_->setText(tr("%1 %").arg(qRound(100.0 * view_->zoom().pixelScale())));
+    const int percent = finished_ ? 100 : static_cast<int>(100.0 * view_->progress());
+    progress_->setValue(percent);
+    stateText_->setText(savesUnderWay() > 0 ? tr("Saving...")
+                        : finished_         ? tr("Ready")
+                                            : tr("Full picture %1 %").arg(percent));
+}
+
+/// Size, place and folded panels are those of the last time, on the screens that there are now.
+void MainWindow::comeBack() {
+    const QSettings settings = windowSettings();
+    const QSignalBlocker quiet(frameAction());  // what was wanted last is nothing new to want
+    frameAction()->setChecked(settings.value("framePortraits", true).toBool());
+    const QSignalBlocker quietToo(commands_->action("AutoState"));
+    commands_->action("AutoState")->setChecked(info_.oQLXInfo->bAutoQLXSave);
+    cameBack_ = restoreGeometry(settings.value("geometry").toByteArray());
+    if (cameBack_) restoreState(settings.value("layout").toByteArray());
+    showState();
+}
+
+/// The first time the window takes the shape of the output, with the controls beside it; later it stays as people
+/// made it, and shows the whole picture.
+void MainWindow::sizeToOutput(int outputWidth, int outputHeight) {
+    if (outputWidth < 1 || outputHeight < 1) return;
+    view_->setOutputSize(QSize(outputWidth, outputHeight));
+    view_->setZoomHome();
+    if (cameBack_ || isMaximized() || isFullScreen()) return;
+    cameBack_ = true;
+    const QRect available = screen()->availableGeometry();
+    const double height = 0.95 * available.height();
+    const double width = height * outputWidth / outputHeight + panel_->sizeHint().width();
+    resize(static_cast<int>(std::min(width, 0.95 * available.width())), static_cast<int>(height));
+    move(available.topLeft());
+}
+
+void MainWindow::setFullScreen(bool on) {
+    setWindowState(on ? windowState() | Qt::WindowFullScreen : windowState() & ~Qt::WindowFullScreen);
+}
+
+}  // namespace tavrin

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QThreadPool>
+
+namespace tavrin {
+
+/// Makes a picture smaller for the screen on a thread of its own, so that the window never waits for it. Of requests
+/// that come meanwhile only the last one is done.
+class Shrinker : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit Shrinker(QObject* parent = nullptr);
+    ~Shrinker() override;
+
+    /// Wants this picture at a size in device pixels; `done` follows unless the same is already under work.
+    void want(const QImage& picture, QSize size);
+
+  signals:
+    /// @param key `cacheKey` of the picture that was wanted
+    void done(const QImage& small, qint64 key);
+
+  private:
+    void start();
+
+    QThreadPool pool_;
+    QImage wanted_;
+    QSize size_;
+    bool busy_ = false, again_ = false;
+};
+
+}  // namespace tavrin

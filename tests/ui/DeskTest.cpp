@@ -1,0 +1,274 @@
+// The window around the controls: what is named, what keys do, what comes back at the next start.
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QWheelEvent>
+
+#include "core/files/Places.h"
+#include "formats/SettingsFile.h"
+#include "session/OutputSizes.h"
+#include "support/Pictures.h"
+#include "support/TestData.h"
+#include "ui/bind/Groove.h"
+#include "ui/frame/ControlList.h"
+#include "ui/frame/MainWindow.h"
+
+namespace tavrin {
+namespace {
+
+class DeskTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::filesystem::create_directories(folder_.file("shared/QLXXML"));
+        Places::current().setSharedFolder(folder_.file("shared"));
+        chooseSizeByName(*info_, "test");
+        info_->pForegroundBitmapInfo->sSourceImageFullPath =
+            test::savePng(test::discOnScreen(240, 300), folder_.file("fg.png"));
+        info_->pBackgroundBitmapInfo->sSourceImageFullPath =
+            test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
+        open();
+    }
+    void TearDown() override {
+        window_.reset();
+        Places::current().setSharedFolder(shared_);
+    }
+    void open() {
+        window_.reset();
+        window_ = std::make_unique<MainWindow>(*info_);
+        window_->resize(1200, 800);
+        window_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        ASSERT_TRUE(waitForPicture());
+    }
+    bool waitForPicture() {
+        return QTest::qWaitFor(
+            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
+    }
+    QAction* action(const char* id) { return window_->commands().action(id); }
+
+    const std::string shared_ = Places::current().sharedFolder();
+    test::TempFolder folder_;
+    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
+    std::unique_ptr<MainWindow> window_;
+};
+
+TEST_F(DeskTest, EveryControlDrivesSomethingAndHasANameOfItsOwn) {
+    std::map<QString, int> names;
+    const QJsonArray controls = listControls(*window_);
+    EXPECT_GT(controls.size(), 100);
+    for (const auto& value : controls) {
+        const QJsonObject control = value.toObject();
+        const QString name = control["objectName"].toString();
+        SCOPED_TRACE(name.toStdString() + " in " + control["panel"].toString().toStdString());
+        EXPECT_FALSE(name.isEmpty());
+        EXPECT_FALSE(control["handler"].toString().isEmpty()) << "it drives nothing";
+        EXPECT_FALSE(control["accessibleName"].toString().trimmed().isEmpty());
+        EXPECT_FALSE(control["toolTip"].toString().isEmpty() && control["class"] != "QAction" &&
+                     !name.endsWith("Number"));
+        if (control["class"] != "QAction") ++names[name];
+    }
+    for (const char* name : {"sliderBrightness",
+                             "sliderContrast",
+                             "sliderBrightnessSat",
+                             "sliderEnhanseShadows",
+                             "sliderReduceHighlights",
+                             "sliderBrightnessSharpen",
+                             "sliderRedDelta",
+                             "sliderGreenDelta",
+                             "sliderBlueDelta",
+                             "sliderCooling",
+                             "sliderWarming",
+                             "sliderScale",
+                             "sliderTilt",
+                             "sliderClipTop",
+                             "sliderClipBottom",
+                             "sliderClipRight",
+                             "sliderClipLeft",
+                             "sliderRemoveGreenAreas",
+                             "sliderRestoredDarkAreas",
+                             "sliderWhiteAdjust",
+                             "sliderGreenTintAreas",
+                             "sliderTransparentcyAdjustment",
+                             "sliderWhiteBalance",
+                             "sliderAdjustBaseGreen",
+                             "bShowOrgImage",
+                             "bShowBright",
+                             "bShowSelectedAreas",
+                             "checkboxOutputTransparency",
+                             "checkboxBlueLogic",
+                             "buttonHighSpeed",
+                             "buttonHighQuility",
+                             "sliderBlendEdges",
+                             "checkboxNoGreenScreenProcessing",
+                             "checkboxAVPShadowRemoval",
+                             "checkboxAdvancedHairProcessing",
+                             "buttonHairRed",
+                             "buttonHairBlack",
+                             "buttonHairBlond",
+                             "buttonHairBrown",
+                             "buttonHairGray",
+                             "buttonHairAuto",
+                             "buttonTransparencyLess",
+                             "buttonTransparencyNormal",
+                             "buttonTransparencyMore",
+                             "buttonShadowsNone",
+                             "buttonShadowsSome",
+                             "buttonShadowsDark",
+                             "comboBoxImageSize"})
+        EXPECT_EQ(names[name], 1) << name;
+}
+
+TEST_F(DeskTest, NoTwoActionsHaveOneShortcut) {
+    std::set<QString> keys;
+    for (const Command& command : window_->commands().table()) {
+        const QString key = command.shortcut.toString();
+        EXPECT_TRUE(key.isEmpty() || keys.insert(key).second) << key.toStdString() << ' ' << command.id;
+    }
+    window_->commands().showShortcuts();
+    EXPECT_TRUE(window_->findChild<QWidget*>("shortcuts")->isVisible());
+}
+
+TEST_F(DeskTest, UndoAndRedoStepThroughSettingsAndEndWithAState) {
+    auto* brightness = window_->panel()->findChild<Groove*>("sliderBrightness");
+    EXPECT_FALSE(action("UndoButton")->isEnabled());
+    brightness->setValue(140);
+    EXPECT_TRUE(action("UndoButton")->isEnabled());
+    action("UndoButton")->trigger();
+    EXPECT_EQ(brightness->value(), 100);
+    EXPECT_FALSE(action("UndoButton")->isEnabled());
+    action("RedoButton")->trigger();
+    EXPECT_EQ(info_->pForegroundBitmapInfo->iBrightness, 40);
+    ASSERT_TRUE(waitForPicture());
+
+    const QString file = QString::fromStdString(folder_.file("a.qlx"));
+    window_->saveState(file);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
+    brightness->setValue(80);
+    window_->openState(file);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return brightness->value() == 140; }, 20000))
+        << "controls show what was loaded";
+    EXPECT_FALSE(action("UndoButton")->isEnabled());
+}
+
+TEST_F(DeskTest, KeysZoomTheViewAndLeaveTypingAlone) {
+    PictureView* view = window_->view();
+    window_->activateWindow();
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_S);
+    EXPECT_NEAR(view->zoom().dZoom(), 1.1, 1e-9);
+    QTest::keyClick(view, Qt::Key_F);
+    EXPECT_EQ(view->zoom().dZoom(), 1.0);
+    QTest::keyClick(view, Qt::Key_1);
+    EXPECT_NEAR(view->zoom().pixelScale(), 1.0, 1e-6);
+    QTest::keyClick(view, Qt::Key_F);
+    const QPointF at(50, 70);
+    const QPointF held = view->zoom().pictureAt(at);
+    QWheelEvent wheel(at, view->mapToGlobal(at), {}, {0, 240}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(view, &wheel);
+    EXPECT_GT(view->zoom().dZoom(), 1.2);
+    EXPECT_NEAR(view->zoom().viewAt(held).x(), 50, 1e-6);
+    const QRectF frame = view->zoom().frame();
+    QTest::mousePress(view, Qt::MiddleButton, {}, {100, 100});
+    QTest::mouseMove(view, {130, 90});
+    QTest::mouseRelease(view, Qt::MiddleButton, {}, {130, 90});
+    EXPECT_NEAR(view->zoom().frame().x(), frame.x() + 30, 1e-6);
+
+    QTest::keyClick(view, Qt::Key_F);
+    QTest::keyClick(view, Qt::Key_Tab);
+    EXPECT_TRUE(window_->panel()->isHidden());
+    QTest::keyClick(view, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(window_->panel()->isVisible());
+    QTest::keyClicks(QApplication::focusWidget(), "sf");
+    EXPECT_EQ(window_->panel()->searchField()->text(), "sf");
+    EXPECT_EQ(view->zoom().dZoom(), 1.0);
+}
+
+TEST_F(DeskTest, AHeldKeyShowsThePortraitAsItWasTaken) {
+    PictureView* view = window_->view();
+    view->setFocus();
+    const auto middleOfFrame = [&](double x, double y) {
+        const QRectF frame = view->zoom().frame();
+        return view->grab().toImage().pixelColor(
+            (frame.topLeft() + QPointF(x * frame.width(), y * frame.height())).toPoint());
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return action("ShowOriginal")->isEnabled(); }, 5000));
+    QTest::keyPress(view, Qt::Key_B);
+    const QColor screen = test::discOnScreen(240, 300).pixelColor(5, 150);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return middleOfFrame(0.02, 0.5) == screen; }, 5000));
+    QTest::keyRelease(view, Qt::Key_B);
+    EXPECT_NE(middleOfFrame(0.02, 0.5), screen);
+}
+
+TEST_F(DeskTest, TheAlphaIsShownUntilItIsTurnedOffAndFollowsThePicture) {
+    PictureView* view = window_->view();
+    const auto shown = [&](double x, double y) {
+        const QRectF frame = view->zoom().frame();
+        return view->grab().toImage().pixelColor(
+            (frame.topLeft() + QPointF(x * frame.width(), y * frame.height())).toPoint());
+    };
+    action("ShowAlpha")->setChecked(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(0, 0, 0); }, 5000)) << "the subject";
+    EXPECT_EQ(shown(0.02, 0.5), QColor(255, 255, 255)) << "the screen";
+    window_->panel()->findChild<Groove*>("sliderClipTop")->setValue(90);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(255, 255, 255); }, 5000));
+    action("ShowAlpha")->setChecked(false);
+    EXPECT_NE(shown(0.5, 0.5), QColor(255, 255, 255));
+}
+
+TEST_F(DeskTest, AStateIsSavedWithThePictureWhenThatIsWanted) {
+    action("AutoState")->setChecked(true);
+    ASSERT_TRUE(waitForPicture());
+    EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("out.png"))));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
+    EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(folder_.file("out.png"))));
+    EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(folder_.file("out.qlx"))));
+    QLXInfo kept;
+    EXPECT_EQ(LoadQLXFile(kept), "");
+    EXPECT_TRUE(kept.bAutoQLXSave) << "for the next start";
+}
+
+TEST_F(DeskTest, TransparentPartsShowTheGrid) {
+    PictureView* view = window_->view();
+    window_->binder().run("", [](SettingEditor& editor) { editor.set("bOutputTransparency", "1"); });
+    ASSERT_TRUE(waitForPicture());
+    std::set<QRgb> colours;
+    const QRect frame = view->zoom().frame().toRect();
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            colours.clear();
+            const QImage shown = view->grab().toImage();
+            for (int x = 0; x < 12; ++x)
+                for (int y = 0; y < 12; ++y)
+                    colours.insert(shown.pixel(frame.left() + 8 + x, frame.top() + 8 + y));
+            return colours.size() == 2;
+        },
+        5000));
+    EXPECT_EQ(colours, (std::set<QRgb>{0xffcccccc, 0xffffffff}));
+}
+
+TEST_F(DeskTest, TheWindowComesBackAsItWas) {
+    window_->resize(1000, 700);
+    window_->addDockWidget(Qt::LeftDockWidgetArea, window_->panel());
+    window_->panel()->hide();
+    for (QToolButton* header : window_->panel()->findChildren<QToolButton*>("groupKeyFold"))
+        header->click();
+    const bool folded = window_->panel()->groups()[1]->isFolded();
+    ASSERT_TRUE(window_->close());
+    open();
+    EXPECT_EQ(window_->dockWidgetArea(window_->panel()), Qt::LeftDockWidgetArea);
+    EXPECT_TRUE(window_->panel()->isHidden());
+    EXPECT_EQ(window_->panel()->groups()[1]->isFolded(), folded);
+    EXPECT_TRUE(folded);
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,84 @@
+// Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1 and 2, with the
+// groups as they are at first, all open, and a message; file names say which is which.
+#include <cstdio>
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QProcess>
+
+#include "SampleState.h"
+#include "ui/frame/MainWindow.h"
+#include "ui/frame/Theme.h"
+
+namespace {
+
+using namespace tavrin;
+
+constexpr int kWidth = 1440, kHeight = 900;
+
+void settle(MainWindow& window, SystemInfo& info) {
+    QElapsedTimer time;
+    time.start();
+    int rests =
+        0;  // rows that were sent before the loop fell idle may still wait, and the small picture is made after
+    while (time.elapsed() < 30000 && rests < 20) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        rests = window.view()->isFull() && info.iCurrentThreadCount > info.iNewThreadCount ? rests + 1 : 0;
+        QThread::msleep(5);
+    }
+}
+
+bool shoot(MainWindow& window, SystemInfo& info, const QString& path) {
+    settle(window, info);
+    return window.grab().save(path);
+}
+
+/// @return whether every picture was written
+bool shootAll(const QString& folder, const QString& scale) {
+    bool all = true;
+    for (const bool dark : {false, true}) {
+        useTheme(dark ? Theme::dark : Theme::light);
+        const auto info = std::make_unique<SystemInfo>();
+        startWithSample(*info);
+        MainWindow window(*info);
+        window.resize(kWidth, kHeight);
+        window.show();
+        const QString end = QString("-%1-x%2.png").arg(dark ? "dark" : "light", scale);
+        const auto save = [&](const char* name) { all = shoot(window, *info, folder + '/' + name + end) && all; };
+        settle(window, *info);  // the first picture gives the window its shape
+        window.resize(kWidth, kHeight);
+        save("adjust");
+        window.panel()->searchField()->setText("green");
+        save("search");
+        window.panel()->searchField()->clear();
+        for (GroupBox* group : window.panel()->groups())
+            group->setFolded(group->group().name != std::string_view("groupPlace") &&
+                             group->group().name != std::string_view("groupTurn") &&
+                             group->group().name != std::string_view("groupColour"));
+        window.messages()->fail("The state file cannot be opened.", "wedding.qlx is no state file.");
+        window.view()->zoomToPixels();
+        save("pixels");
+    }
+    return all;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2 || !QDir().mkpath(argv[1])) {
+        std::fputs("usage: screenshots FOLDER\n", stderr);
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (argc == 2) {  // the scale is one for a whole process
+        for (const char* scale : {"1", "2"}) {
+            qputenv("QT_SCALE_FACTOR", scale);
+            if (QProcess::execute(argv[0], {argv[1], scale}) != 0) return 1;
+        }
+        return 0;
+    }
+    QApplication application(argc, argv);
+    return shootAll(argv[1], argv[2]) ? 0 : 1;
+}
