@@ -33,7 +33,7 @@ using namespace tavrin;
 struct Scene {
     std::string name, picture;
     bool blue = false;
-    QImage truth;
+    QImage truth, subject;
 };
 
 /// One column of the tables: a state file, or the built-in defaults without one, and changes to it.
@@ -43,7 +43,9 @@ struct Variant {
 };
 
 struct Errors {
+    double megapixels = 1.0;
     quality::AlphaErrors alpha;
+    double grad = 0.0;
     quality::CompositeErrors composite;
 };
 
@@ -54,6 +56,8 @@ struct Measure {
 
 constexpr Measure kMeasures[] = {
     {"SAD of alpha, thousands", [](const Errors& e) { return e.alpha.sad; }},
+    {"SAD of alpha, thousands a megapixel", [](const Errors& e) { return e.alpha.sad / e.megapixels; }},
+    {"gradient error, thousands a megapixel", [](const Errors& e) { return e.grad / e.megapixels; }},
     {"mean alpha error, percent", [](const Errors& e) { return e.alpha.mean * 100.0; }},
     {"mean alpha error near edges, percent", [](const Errors& e) { return e.alpha.edges * 100.0; }},
     {"mean alpha error in the solid subject (holes), percent", [](const Errors& e) { return e.alpha.holes * 100.0; }},
@@ -61,12 +65,20 @@ constexpr Measure kMeasures[] = {
      [](const Errors& e) { return e.alpha.residue * 100.0; }},
     {"composite RMSE, levels of 255", [](const Errors& e) { return e.composite.rmse; }},
     {"composite RMSE near edges, levels of 255", [](const Errors& e) { return e.composite.edges; }},
+    {"composite PSNR near edges, dB", [](const Errors& e) { return e.composite.psnrEdges(); }},
+    {"composite colour difference near edges, CIEDE2000", [](const Errors& e) { return e.composite.color; }},
 };
 
 /// `scenes.json` says which screens are blue; a scene that it does not tell of goes by its name.
 bool isBlue(const QJsonObject& facts, const std::string& name) {
     const QJsonValue told = facts[QString::fromStdString(name)].toObject()["blue"];
     return told.toBool(name.find("blue") != std::string::npos);
+}
+
+/// The subject's own colours as RGBA, rows packed; null where there is no such file.
+QImage readSubject(const std::string& path) {
+    const QImage image(QString::fromStdString(path));
+    return image.isNull() ? image : image.convertToFormat(QImage::Format_RGBA8888);
 }
 
 std::vector<Scene> findScenes(const fs::path& folder) {
@@ -79,8 +91,12 @@ std::vector<Scene> findScenes(const fs::path& folder) {
         if (extension != ".jpg" && extension != ".png") continue;
         const fs::path truth = folder / (name + "_alpha.png");
         if (!fs::exists(truth)) continue;
-        scenes.push_back({name, entry.path().string(), isBlue(facts, name), quality::readTruth(truth.string())});
-        if (scenes.back().truth.isNull()) throw std::runtime_error(truth.string() + ": this is no grey picture.");
+        scenes.push_back({name, entry.path().string(), isBlue(facts, name), quality::readTruth(truth.string()),
+                          readSubject((folder / (name + "_foreground.png")).string())});
+        const Scene& scene = scenes.back();
+        if (scene.truth.isNull()) throw std::runtime_error(truth.string() + ": this is no grey picture.");
+        if (!scene.subject.isNull() && scene.subject.size() != scene.truth.size())
+            throw std::runtime_error(name + "_foreground.png and the alpha differ in size.");
     }
     std::sort(scenes.begin(), scenes.end(), [](const Scene& a, const Scene& b) { return a.name < b.name; });
     return scenes;
@@ -123,9 +139,12 @@ Errors measure(const Scene& scene, const Variant& variant, const std::string& ba
     if (foreground.orgImage.size() != scene.truth.size()) {
         throw std::runtime_error(scene.name + ": picture and alpha differ in size, or the picture was not read.");
     }
-    return {quality::measureAlpha(under.pBitmapData, scene.truth),
-            quality::measureComposite(
-                {foreground.pBitmapData, under.pBitmapData, info->pCombinedBitmapInfo->pBitmapData}, scene.truth)};
+    return {
+        width * height / 1e6, quality::measureAlpha(under.pBitmapData, scene.truth),
+        quality::gradientError(under.pBitmapData, scene.truth),
+        quality::measureComposite({foreground.pBitmapData, under.pBitmapData, info->pCombinedBitmapInfo->pBitmapData,
+                                   scene.subject.isNull() ? nullptr : scene.subject.constBits()},
+                                  scene.truth)};
 }
 
 /// Rows are scenes, columns are variants.

@@ -26,6 +26,12 @@ QImage readTruth(const std::string& path);
 /// 0.98.
 std::vector<std::uint8_t> nearEdges(const QImage& truth);
 
+/// How much softer or harder the edges are than the true ones: the sum of the squared differences of the lengths of
+/// both gradients, in thousands. A gradient is what the derivatives of a Gaussian of 1.4 pixels give, as kernels of
+/// 9 x 9 whose squares add up to 1; beyond the picture its last pixels go on.
+/// @param rgba  as below
+double gradientError(const std::uint8_t* rgba, const QImage& truth);
+
 /// @param rgba  buffer of the truth's size whose fourth bytes are the key's alpha
 AlphaErrors measureAlpha(const std::uint8_t* rgba, const QImage& truth);
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "quality/AlphaErrors.h"
+#include "quality/ColorDifference.h"
 
 namespace tavrin::quality {
 
@@ -110,14 +111,21 @@ class ScreenColors {
     std::vector<Cell> cells_;
 };
 
-/// Squared distance of a pixel's result from the ideal, over three channels.
-double squaredError(const Composite& at, double alpha, const Color& screen) {
-    double sum = 0.0;
+Color idealColor(const Composite& at, double alpha, const Color& screen) {
+    Color ideal;
     for (std::size_t c = 0; c < 3; ++c) {
-        const double ideal = at.source[c] + (1.0 - alpha) * (at.background[c] - screen[c]);
-        const double error = at.result[c] - std::clamp(ideal, 0.0, 255.0);
-        sum += error * error;
+        const double mixed = at.subject ? alpha * at.subject[c] + (1.0 - alpha) * at.background[c]
+                                        : at.source[c] + (1.0 - alpha) * (at.background[c] - screen[c]);
+        ideal[c] = std::clamp(mixed, 0.0, 255.0);
     }
+    return ideal;
+}
+
+/// Squared distance over three channels.
+double squaredError(const Color& one, const Color& other) {
+    double sum = 0.0;
+    for (std::size_t c = 0; c < 3; ++c)
+        sum += (one[c] - other[c]) * (one[c] - other[c]);
     return sum;
 }
 
@@ -127,23 +135,32 @@ double rootMean(double sum, double pixels) {
 
 }  // namespace
 
+double CompositeErrors::psnrEdges() const {
+    return edges > 0.0 ? std::min(20.0 * std::log10(255.0 / edges), 99.0) : 99.0;
+}
+
 CompositeErrors measureComposite(const Composite& composite, const QImage& truth) {
     const ScreenColors screen(composite.source, truth);
     const std::vector<std::uint8_t> near = nearEdges(truth);
-    double all = 0.0, edges = 0.0, edgePixels = 0.0;
+    double all = 0.0, edges = 0.0, colors = 0.0, edgePixels = 0.0;
     std::size_t i = 0;
     for (int y = 0; y < truth.height(); ++y) {
         const std::uint8_t* alpha = truth.constScanLine(y);
         for (int x = 0; x < truth.width(); ++x, ++i) {
-            const Composite at = {composite.source + 4 * i, composite.background + 4 * i, composite.result + 4 * i};
-            const double error = squaredError(at, alpha[x] / 255.0, screen.at(x, y));
+            const Composite at = {composite.source + 4 * i, composite.background + 4 * i, composite.result + 4 * i,
+                                  composite.subject ? composite.subject + 4 * i : nullptr};
+            const Color ideal = idealColor(at, alpha[x] / 255.0, screen.at(x, y));
+            const Color made = {double(at.result[0]), double(at.result[1]), double(at.result[2])};
+            const double error = squaredError(made, ideal);
             all += error;
             if (!near[i]) continue;
             edges += error;
+            colors += colorDifference(labOf(made), labOf(ideal));
             edgePixels += 1.0;
         }
     }
-    return {rootMean(all, static_cast<double>(i)), rootMean(edges, edgePixels)};
+    return {rootMean(all, static_cast<double>(i)), rootMean(edges, edgePixels),
+            edgePixels > 0.0 ? colors / edgePixels : 0.0};
 }
 
 }  // namespace tavrin::quality

@@ -56,31 +56,5 @@ TEST(ShippedState, KeysTheSamplePortraitWell) {
     }
 }
 
-// One soft pixel in a picture of 40 x 3, the left half of it subject; a key that is 51 levels off everywhere.
-TEST(AlphaErrors, CountsEachPixelWhereItBelongs) {
-    QImage truth(40, 3, QImage::Format_Grayscale8);
-    truth.fill(0);
-    for (int y = 0; y < 3; ++y)
-        std::fill_n(truth.scanLine(y), 20, std::uint8_t{255});
-    truth.scanLine(1)[20] = 128;
-
-    const std::vector<std::uint8_t> near = quality::nearEdges(truth);
-    for (int i = 0; i < 120; ++i)
-        EXPECT_EQ(near[static_cast<std::size_t>(i)], i % 40 >= 15 && i % 40 <= 25) << i;
-
-    std::vector<std::uint8_t> rgba(480);
-    for (int i = 0; i < 120; ++i) {
-        const int alpha = truth.constScanLine(i / 40)[i % 40];
-        rgba[static_cast<std::size_t>(4 * i + 3)] = static_cast<std::uint8_t>(alpha > 127 ? alpha - 51 : alpha + 51);
-    }
-    rgba[4 * 18 + 3] = 255;  // a subject pixel near the edge that is right
-    const quality::AlphaErrors errors = quality::measureAlpha(rgba.data(), truth);
-    EXPECT_NEAR(errors.sad, 119 * 0.2 / 1000.0, 1e-9);
-    EXPECT_NEAR(errors.mean, 0.2 * 119 / 120, 1e-9);
-    EXPECT_NEAR(errors.edges, 0.2 * 32 / 33, 1e-9);
-    EXPECT_NEAR(errors.holes, 0.2 * 59 / 60, 1e-9);
-    EXPECT_NEAR(errors.residue, 0.2, 1e-9);
-}
-
 }  // namespace
 }  // namespace tavrin
