@@ -6,10 +6,10 @@ set -euo pipefail
 [ $# -ge 1 ] && [ -f "$1" ] || { echo "Usage: $0 PACKAGE [FOLDER]" >&2; exit 2; }
 package=$1
 fresh=${2:-$(mktemp -d)}
-mirror=${MIRROR:-http://deb.debian.org/debian}
+mirror=${MIRROR:-}
 system=$fresh.tried
 
-[ -e "$fresh/etc/debian_version" ] || debootstrap --variant=minbase bookworm "$fresh" "$mirror"
+[ -e "$fresh/etc/debian_version" ] || debootstrap --variant=minbase bookworm "$fresh" ${mirror:+"$mirror"}
 rm -rf "$system"
 cp -a "$fresh" "$system"
 trap 'umount "$system/proc" "$system/dev" 2>/dev/null || true; rm -rf "$system"' EXIT
