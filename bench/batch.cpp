@@ -113,8 +113,8 @@ Cost floorOf(const std::vector<std::string>& paths, const QImage& picture, const
 }
 
 /// A whole process of the command line.
-/// @param start what the pictures start from, and where the portraits stand
-Cost runBatch(const fs::path& folder, const fs::path& out, const char* inHand, std::vector<const char*> start) {
+/// @param more words that say what the pictures start from, and where the portraits stand
+Cost runBatch(const fs::path& folder, const fs::path& out, const char* inHand, const std::vector<const char*>& more) {
     std::fflush(stdout);
     const Clock::time_point start = Clock::now();
     const pid_t child = fork();
@@ -126,7 +126,7 @@ Cost runBatch(const fs::path& folder, const fs::path& out, const char* inHand, s
             "--out",        out.c_str(),     "--inches",
             "8x10",         "--dpi",         "300",
             "--jobs",       inHand};
-        words.insert(words.end(), start.begin(), start.end());
+        words.insert(words.end(), more.begin(), more.end());
         words.push_back(nullptr);
         execv(TAVRIN_CLI, const_cast<char**>(words.data()));
         std::_Exit(1);
@@ -170,7 +170,7 @@ int main(int count, char** arguments) {
                 kPortraitHeight, kOutWidth, kOutHeight, cores, load());
     const struct {
         const char *what, *inHand;
-        std::vector<const char*> start;
+        std::vector<const char*> more;
     } runs[] = {
         {"batch as it comes, the subject framed", "3", {}},
         {"batch, --place corner", "3", {"--place", "corner"}},
@@ -180,7 +180,7 @@ int main(int count, char** arguments) {
     std::vector<Cost> batches;
     for (const auto& run : runs) {
         fs::remove_all(out);
-        batches.push_back(runBatch(folder / ("portraits" + std::to_string(pictures)), out, run.inHand, run.start));
+        batches.push_back(runBatch(folder / ("portraits" + std::to_string(pictures)), out, run.inHand, run.more));
     }
     const QImage picture = tavrin::readPicture((out / "portrait10000_background.jpg").string()).pixels;
     if (picture.width() != kOutWidth || picture.height() != kOutHeight) return 1;
