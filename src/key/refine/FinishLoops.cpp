@@ -51,6 +51,16 @@ void quieten(const float* HWY_RESTRICT means, float noise, int count, float* HWY
     }
 }
 
+void heedKey(const std::uint8_t* HWY_RESTRICT key, const float* HWY_RESTRICT means, const float* HWY_RESTRICT trust,
+             int count, float* HWY_RESTRICT alpha) {
+    constexpr float kFaint = 0.1f, kClear = 0.4f;
+    for (int x = 0; x < count; ++x) {
+        const float more = static_cast<float>(static_cast<std::int32_t>(key[x])) / 255.0f - alpha[x];
+        const float t = limited((means[x] - kFaint) / (kClear - kFaint));
+        alpha[x] += t * t * (3.0f - 2.0f * t) * trust[x] * std::max(more, 0.0f);
+    }
+}
+
 void holdBack(const float* HWY_RESTRICT near, const float* HWY_RESTRICT keySums, int count,
               float* HWY_RESTRICT alpha) {
     for (int x = 0; x < count; ++x)
@@ -120,7 +130,7 @@ void solid(const std::uint32_t* HWY_RESTRICT pixels, const float* HWY_RESTRICT g
 }  // namespace
 
 const refine::FinishLoops& finishLoopsHere() {
-    static constexpr refine::FinishLoops loops{&levels, &quieten,   &holdBack, &shape,
+    static constexpr refine::FinishLoops loops{&levels, &quieten, &heedKey, &holdBack, &shape,
                                                &raise,  &remainder, &colors,   &solid};
     return loops;
 }
