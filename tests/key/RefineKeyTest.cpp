@@ -8,6 +8,7 @@
 #include "key/refine/Cells.h"
 #include "key/refine/Mask.h"
 #include "key/refine/RefineKey.h"
+#include "support/VectorTargets.h"
 
 namespace tavrin {
 namespace {
@@ -26,6 +27,10 @@ double discAlpha(int x, int y) {
 Pixel mixed(const Rgb& subject, const Rgb& screen, double alpha) {
     const auto byte = [&](double s, double b) { return toByte(s * alpha + b * (1.0 - alpha) + 0.5); };
     return {byte(subject.r, screen.r), byte(subject.g, screen.g), byte(subject.b, screen.b), 255};
+}
+
+Rgb rgbOf(const Pixel& pixel) {
+    return {static_cast<double>(pixel[0]), static_cast<double>(pixel[1]), static_cast<double>(pixel[2])};
 }
 
 /// A warm disc before a screen that grows darker to the right, with a little noise.
@@ -79,16 +84,32 @@ TEST(RefineKey, IsNearerToTheTruthOnGreenAndOnBlue) {
 }
 
 TEST(RefineKey, GivesTheSameBytesForAnyNumberOfThreads) {
-    DiscScene one, many;
-    one.info.iSliderRefineSoftness = many.info.iSliderRefineSoftness = 30;
-    {
-        const ThreadLimit limit(1);
-        one.key(true);
+    std::vector<std::vector<Pixel>> results;
+    for (const int threads : {1, 2, 5}) {
+        const ThreadLimit limit(threads);
+        DiscScene scene;
+        scene.info.iSliderRefineSoftness = 30;
+        scene.key(true);
+        scene.combined.insert(scene.combined.end(), scene.background.begin(), scene.background.end());
+        results.push_back(scene.combined);
     }
-    const ThreadLimit limit(5);
-    many.key(true);
-    EXPECT_TRUE(one.combined == many.combined);
-    EXPECT_TRUE(one.background == many.background);
+    EXPECT_TRUE(results[1] == results[0]);
+    EXPECT_TRUE(results[2] == results[0]);
+}
+
+TEST(RefineKey, GivesTheSameBytesOnEveryVectorTarget) {
+    for (const bool blue : {false, true}) {
+        DiscScene plain(blue);
+        plain.info.iSliderRefineSoftness = -20;
+        plain.key(true);
+        test::onEveryTarget([&] {
+            DiscScene scene(blue);
+            scene.info.iSliderRefineSoftness = -20;
+            scene.key(true);
+            EXPECT_TRUE(scene.combined == plain.combined) << blue;
+            EXPECT_TRUE(scene.background == plain.background) << blue;
+        });
+    }
 }
 
 TEST(RefineKey, PreviewAndFullPictureOfOneSizeAreAlike) {
@@ -172,6 +193,152 @@ TEST(RefineKey, EverySliderActs) {
     EXPECT_TRUE(changes(scene.sliders().sliderTransparentcyAdjustment, 110));
     EXPECT_TRUE(changes(scene.sliders().sliderGreenTintAreas, 80));
     EXPECT_FALSE(changes(scene.info.iSliderRefineSoftness, 0));
+}
+
+TEST(RefineKey, ARimOfAColourThatTheInsideLacksIsNoScreen) {
+    // Brown hair whose last pixels brought the grey light of an old backdrop along and take up the screen's.
+    const Rgb screen{50.0, 145.0, 72.0}, hair{80.0, 48.0, 14.0}, rim{95.0, 105.0, 80.0};
+    KeyScene scene(400, 300, {50, 145, 72, 255});
+    scene.info.baseRed = screen.r;
+    scene.info.baseGreen = screen.g;
+    scene.info.baseBlue = screen.b;
+    const auto truth = [](int x) { return std::clamp((x - 197.5) / 5.0, 0.0, 1.0); };
+    for (int y = 0; y < 300; ++y) {
+        for (int x = 198; x < 400; ++x) {
+            const double lit = std::clamp((208.0 - x) / 8.0, 0.0, 1.0);
+            const Pixel own = mixed(rim, hair, lit);
+            scene.at(scene.foreground, x, y) = mixed(rgbOf(own), screen, truth(x));
+        }
+    }
+    const auto error = [&](bool refined) {
+        scene.info.bRefineKey = refined;
+        Combine(scene.info, 1, 1);
+        double sum = 0.0;
+        for (int x = 0; x < 400; ++x)
+            sum += std::abs(scene.alpha(x, 150) / 255.0 - truth(x));
+        return sum;
+    };
+    const double plain = error(false), refined = error(true);
+    EXPECT_LT(refined, 1.4 * plain) << "the fit alone is at 1.7";
+}
+
+TEST(RefineKey, TheGuardHasTheLastWordAndAnEvenGridChangesNothing) {
+    DiscScene scene;
+    const auto alphas = [&scene](bool refined, int guard) {
+        scene.info.iGreenProtectMode = guard;
+        scene.key(refined);
+        std::vector<int> alpha;
+        for (const Pixel& pixel : scene.background)
+            alpha.push_back(pixel[3]);
+        return alpha;
+    };
+    scene.info.iSliderProtectionRadius = 2;
+    const auto plain = alphas(false, 0), guarded = alphas(false, 1), refined = alphas(true, 0),
+               both = alphas(true, 1);
+    int held = 0;
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        const bool holds = guarded[i] == 255 && plain[i] != 255;
+        held += holds;
+        if (holds) {
+            ASSERT_EQ(both[i], 255) << i;
+        } else if (plain[i] != 255) {
+            ASSERT_EQ(both[i], refined[i]) << i;
+        }
+    }
+    EXPECT_GT(held, 0);
+
+    scene.info.iGreenProtectMode = 0;
+    scene.key(true);
+    const auto neutral = scene.background;
+    DiscScene adaptive;
+    adaptive.info.bUseAdaptiveBackgroundGreen = true;
+    adaptive.info.iBaseRedArray.fill(40.0);
+    adaptive.info.iBaseGreenArray.fill(200.0);
+    adaptive.info.iBaseBlueArray.fill(60.0);
+    adaptive.key(true);
+    EXPECT_TRUE(adaptive.background == neutral);
+}
+
+TEST(RefineKey, KeepsTheSubjectsOwnGreenAsFarAsItsSliderSays) {
+    KeyScene scene(400, 300);
+    for (int y = 100; y < 300; ++y) {
+        for (int x = 120; x < 280; ++x)
+            scene.at(scene.foreground, x, y) = {100, 140, 60, 255};
+    }
+    for (int y = 100; y < 140; ++y) {
+        for (int x = 120; x < 280; ++x)
+            scene.at(scene.foreground, x, y) = {190, 130, 110, 255};
+    }
+    scene.info.bRefineKey = true;
+    scene.info.iGreenProtectMode = 0;
+    const auto green = [&](int slider) {
+        scene.info.iSliderRefineOwnGreen = slider;
+        Combine(scene.info, 1, 1);
+        return int{scene.at(scene.combined, 200, 220)[1]};
+    };
+    const int none = green(-100), usual = green(0);
+    EXPECT_GT(usual, none + 20);
+    EXPECT_GE(green(100), usual);
+}
+
+TEST(RefineKey, TakesFineDetailFromTheBrightness) {
+    // Dark hairs of two pixels whose colour has half the resolution, as JPEG files have it.
+    DiscScene scene;
+    for (int y = 20; y < kHeight - 20; ++y) {
+        for (int x = 20; x < kWidth - 20; ++x) {
+            Pixel& pixel = scene.at(scene.foreground, x, y);
+            const double light = x / 2 % 3 == 0 ? 0.7 : 1.1;
+            const double alpha = discAlpha(x, y);
+            if (alpha > 0.0 && alpha < 1.0)
+                for (std::size_t c = 0; c < 3; ++c)
+                    pixel[c] = toByte(pixel[c] * light);
+        }
+    }
+    scene.key(true);
+    const auto usual = scene.background;
+    scene.info.iSliderRefineDetail = -100;
+    scene.key(true);
+    EXPECT_FALSE(scene.background == usual);
+}
+
+TEST(RefineKey, GlowAndReflectionTakeItsAlpha) {
+    DiscScene scene;
+    scene.info.iLightingMode = 4;
+    scene.info.iLightingSliderSize = 30;
+    scene.info.iLightingSliderEndLight = 90;
+    scene.key(true);
+    const auto refined = scene.combined;
+    // The alpha left for the glow is that of the picture without it.
+    const auto alpha = scene.background;
+    scene.info.iLightingMode = 0;
+    scene.key(true);
+    EXPECT_TRUE(scene.background == alpha);
+    EXPECT_FALSE(scene.combined == refined);
+}
+
+TEST(RefineKey, ANewerRequestEndsItWithinARow) {
+    // The state is overtaken at one moment after the other; what a run leaves is either untouched or not announced.
+    DiscScene whole;
+    whole.key(true);
+    int asked = 0;
+    for (int stop = 1; stop < 4000; stop += 97) {
+        DiscScene scene;
+        asked = 0;
+        RunContext context;
+        context.superseded = [&] { return ++asked >= stop; };
+        const ThreadLimit limit(1);
+        const refine::Shot shot{kWidth, kHeight, scene.foreground.front().data(), whole.background.front().data(),
+                                false};
+        std::vector<std::uint8_t> key(static_cast<std::size_t>(kWidth * kHeight));
+        for (std::size_t i = 0; i < key.size(); ++i)
+            key[i] = whole.background[i][3];
+        refine::Shot keyed = shot;
+        keyed.key = key.data();
+        const refine::Refined result = refine::refineKey(context, keyed, {}, scene.combined.front().data());
+        if (asked < stop) break;
+        EXPECT_EQ(result, refine::Refined::superseded) << stop;
+        EXPECT_LT(asked, stop + 40) << "it went on for many rows";
+    }
 }
 
 TEST(RefineKey, ANewerRequestEndsIt) {

@@ -251,6 +251,12 @@ TEST_F(KeyedPictureTest, AnySettingWithHairLightAndStars) {
     changeEachSetting();
 }
 
+TEST_F(KeyedPictureTest, AnySettingWithTheRefinedKey) {
+    setAll(
+        {{"bRefineKey", "1"}, {"bHaveReflection", "1"}, {"iSliderReflectionScale", "100"}, {"iLightingMode", "4"}});
+    changeEachSetting();
+}
+
 TEST_F(KeyedPictureTest, AnySettingWithReflectionGuardAndSilhouette) {
     setAll({{"bHaveReflection", "1"},
             {"iSliderReflectionScale", "100"},

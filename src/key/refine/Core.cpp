@@ -11,7 +11,7 @@ namespace tavrin::refine {
 
 namespace {
 
-constexpr int kHalo = 4;  // columns beyond an area that its windows look at
+constexpr int kHalo = 4;                               // columns beyond an area that its windows look at
 constexpr double kCoreReach = 20.0, kCoreNear = 10.0;  // looked at around a pixel; left between it and lower ones
 constexpr double kFirstReach = 3.0, kDepthReach = 60.0, kRoughReach = 10.0, kPartCell = 8.0, kGapCell = 4.0;
 constexpr float kCoreAlpha = 0.65f, kSureAlpha = 0.92f;
@@ -60,7 +60,7 @@ void findCloth(const RunContext& context, const Shot& shot, const Plate& plate, 
     std::vector<std::uint8_t> flags(static_cast<std::size_t>(area.width()) + 8);
     const int inset = area.left - strip.left;
     const float *const sum = scratch.row(1) + inset, *const light = scratch.row(2) + inset,
-                *const off = scratch.row(3) + inset;
+                       *const off = scratch.row(3) + inset;
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         rowLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
         ratio.fill(y, scratch.row(2), scratch.row(3));

@@ -11,6 +11,7 @@ namespace {
 
 constexpr float kNoiseFactor = 1.5f, kLeastNoise = 0.012f, kMostNoise = 0.1f;  // of alpha on the screen
 constexpr double kReachShare = 0.22, kReachCell = 8.0;                         // of the width
+constexpr float kHeed = 0.6f;  // of what the key has more, on a neutral subject
 constexpr float kSharpness = 0.6f;
 constexpr float kHardest = 4.0f;  // how much steeper the hardest edge is
 
@@ -36,6 +37,19 @@ Reach findReach(const RunContext& context, const Findings& findings) {
     return reach;
 }
 
+Cells trustInKey(const Findings& findings) {
+    const Cells& subject = findings.separation.subject;
+    Cells trust(subject.columns(), subject.rows(), 1);
+    for (int y = 0; y < trust.rows(); ++y) {
+        const float *const r = subject.row(y, 0), *const g = subject.row(y, 1), *const b = subject.row(y, 2);
+        for (int x = 0; x < trust.columns(); ++x) {
+            const float lead = g[x] - std::max(r[x], b[x]);
+            trust.row(y, 0)[x] = kHeed * std::clamp(1.0f + lead / findings.plate.difference, 0.0f, 1.0f);
+        }
+    }
+    return trust;
+}
+
 void plainAlpha(const Findings& findings, const Strip& strip, int y, float* scratch, float* alpha) {
     loadAlpha(findings.alpha, strip, y, scratch);
     finishLoops().levels(scratch, scratch, 0.0f, strip.width, alpha);
@@ -43,7 +57,7 @@ void plainAlpha(const Findings& findings, const Strip& strip, int y, float* scra
     finishLoops().raise(scratch, strip.width, alpha);
 }
 
-FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Strip& strip)
+FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Cells& trust, const Strip& strip)
     : findings_(findings),
       strip_(strip),
       noise_(std::clamp(kNoiseFactor * findings.plate.spread, kLeastNoise, kMostNoise)),
@@ -55,6 +69,7 @@ FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Strip
                     planes[0][x] = static_cast<float>(static_cast<int>(key[x])) / 255.0f;
             }),
       near_(reach.near, reach.size, strip.left, strip.width),
+      trust_(trust, findings.separation.size, strip.left, strip.width),
       scratch_(strip.width, 4) {}
 
 void FinishRows::fill(int y, float* alpha) {
@@ -66,6 +81,8 @@ void FinishRows::fill(int y, float* alpha) {
     for (int x = 0; x < width; ++x)
         mean[x] /= 25.0f;
     finishLoops().quieten(mean, noise_, width, alpha);
+    trust_.fill(y, 0, detail);
+    finishLoops().heedKey(findings_.shot.keyRow(y) + strip_.left, mean, detail, width, alpha);
     holdBack(y, alpha);
     shape(mean, alpha);
     findings_.solid.unpack(y, strip_.left, width, detail);

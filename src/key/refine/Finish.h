@@ -25,10 +25,15 @@ struct Reach {
 };
 Reach findReach(const RunContext& context, const Findings& findings);
 
+/// How far the key's alpha is to be trusted where it has more than the fit, on the separation's cells: a rim that the
+/// screen has tinted is of no colour that the inside has, and the fit takes it for screen. A subject of the opposite
+/// colour the key takes for whole too early.
+Cells trustInKey(const Findings& findings);
+
 /// The final alpha of a strip's rows. For one thread.
 class FinishRows {
   public:
-    FinishRows(const Findings& findings, const Reach& reach, const Strip& strip);
+    FinishRows(const Findings& findings, const Reach& reach, const Cells& trust, const Strip& strip);
 
     /// @param alpha 0 to 1
     void fill(int y, float* alpha);
@@ -44,7 +49,7 @@ class FinishRows {
     float noise_;
     DetailRows detail_;
     RowRing<1, Maker> keys_;
-    CellRows near_;
+    CellRows near_, trust_;
     PaddedRows scratch_;
 };
 

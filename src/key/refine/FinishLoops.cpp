@@ -32,7 +32,8 @@ std::uint32_t byteOf(float value) {
     return static_cast<std::uint32_t>(static_cast<std::int32_t>(std::min(value, 255.0f) + 0.5f));
 }
 
-// The most of the screen's channel that the subject may have: reddish cloth is green's neighbour, bluish cloth is not.
+// The most of the screen's channel that the subject may have: reddish cloth is green's neighbour, bluish cloth is
+// not.
 float mostGreen(float r, float b, float green, float cyan) {
     const float mean = (r + b) * 0.5f;
     return (b > r ? mean + cyan * (b - mean) : mean) + green;
@@ -48,6 +49,16 @@ void quieten(const float* HWY_RESTRICT means, float noise, int count, float* HWY
     for (int x = 0; x < count; ++x) {
         const float low = alpha[x] * limited(means[x] / noise - 1.0f);
         alpha[x] = 1.0f - (1.0f - low) * limited((1.0f - means[x]) / kTopNoise - 1.0f);
+    }
+}
+
+void heedKey(const std::uint8_t* HWY_RESTRICT key, const float* HWY_RESTRICT means, const float* HWY_RESTRICT trust,
+             int count, float* HWY_RESTRICT alpha) {
+    constexpr float kFaint = 0.1f, kClear = 0.4f;
+    for (int x = 0; x < count; ++x) {
+        const float more = static_cast<float>(static_cast<std::int32_t>(key[x])) / 255.0f - alpha[x];
+        const float t = limited((means[x] - kFaint) / (kClear - kFaint));
+        alpha[x] += t * t * (3.0f - 2.0f * t) * trust[x] * std::max(more, 0.0f);
     }
 }
 
@@ -95,8 +106,9 @@ void colors(const ColorSources& from, bool blue, int count, std::uint32_t* HWY_R
         const float bright = lumaR * ur + lumaG * ug + lumaB * ub;
         const float behind = lumaR * screen.r[x] + lumaG * screen.g[x] + lumaB * screen.b[x];
         const float wanted = std::min(std::max(luma[x] - (1.0f - a) * behind, 0.0f), 255.0f * a);
-        const float measured = std::min(
-            std::max((wanted + kLumaPull * bright) / std::max((a + kLumaPull) * bright, 1.0f), kLeastGain), kMostGain);
+        const float measured =
+            std::min(std::max((wanted + kLumaPull * bright) / std::max((a + kLumaPull) * bright, 1.0f), kLeastGain),
+                     kMostGain);
         const float gain = whole ? 1.0f : measured;
         const float r = whole ? own.r[x] : ur, g = whole ? own.g[x] : ug, b = whole ? own.b[x] : ub;
         const float kept = std::min(g, mostGreen(r, b, green[x], cyan[x]));
@@ -120,8 +132,8 @@ void solid(const std::uint32_t* HWY_RESTRICT pixels, const float* HWY_RESTRICT g
 }  // namespace
 
 const refine::FinishLoops& finishLoopsHere() {
-    static constexpr refine::FinishLoops loops{&levels, &quieten,   &holdBack, &shape,
-                                               &raise,  &remainder, &colors,   &solid};
+    static constexpr refine::FinishLoops loops{&levels, &quieten,   &heedKey, &holdBack, &shape,
+                                               &raise,  &remainder, &colors,  &solid};
     return loops;
 }
 

@@ -28,6 +28,9 @@ struct FinishLoops {
     void (*levels)(const float* alpha, const float* detail, float strength, int count, float* to);
     /// Takes flat noise out near 0 and 1; `means` are of alpha around.
     void (*quieten)(const float* means, float noise, int count, float* alpha);
+    /// Where the key has more than alpha, on what is no bare screen by the `means` of alpha around: part of the way
+    /// to it, as far as it is to be trusted.
+    void (*heedKey)(const std::uint8_t* key, const float* means, const float* trust, int count, float* alpha);
     /// Holds alpha back to `near`, but for what 25 sums of the key have.
     void (*holdBack)(const float* near, const float* keySums, int count, float* alpha);
     void (*shape)(const EdgeShape& shape, const float* means, int count, float* alpha);

@@ -25,7 +25,10 @@ constexpr int kPairs[6][2] = {{0, 0}, {0, 1}, {0, 2}, {1, 1}, {1, 2}, {2, 2}};
 class ColumnSums {
   public:
     ColumnSums(const Strip& strip, const Mask& sure)
-        : strip_(strip), sure_(sure), length_(static_cast<std::size_t>(strip.width)), lines_((4 + kSums + 1) * length_) {}
+        : strip_(strip),
+          sure_(sure),
+          length_(static_cast<std::size_t>(strip.width)),
+          lines_((4 + kSums + 1) * length_) {}
 
     void addRow(int y) {
         float* const weight = line(3);

@@ -42,8 +42,9 @@ void ratio(ChannelRow sums, ChannelRow screen, int count, float* HWY_RESTRICT li
 
 void distance(ChannelRow sums, ChannelRow screen, int count, float* HWY_RESTRICT to) {
     for (int x = 0; x < count; ++x)
-        to[x] = std::max(std::max(distanceOf(sums.r[x] / 9.0f, screen.r[x]), distanceOf(sums.g[x] / 9.0f, screen.g[x])),
-                         distanceOf(sums.b[x] / 9.0f, screen.b[x]));
+        to[x] =
+            std::max(std::max(distanceOf(sums.r[x] / 9.0f, screen.r[x]), distanceOf(sums.g[x] / 9.0f, screen.g[x])),
+                     distanceOf(sums.b[x] / 9.0f, screen.b[x]));
 }
 
 void fit(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* certain, const float* near, int count,
@@ -63,8 +64,8 @@ void directions(const float* const* means, ChannelRow screen, const double* comm
     constexpr double kOwnShare = 0.9;
     constexpr double kAlike = 5.0;  // distance of two colours, in deviations squared, that says little
     const float *const rs = means[0], *const gs = means[1], *const bs = means[2], *const rr = means[3],
-                *const rg = means[4], *const rb = means[5], *const gg = means[6], *const gb = means[7],
-                *const bb = means[8];
+                       *const rg = means[4], *const rb = means[5], *const gg = means[6], *const gb = means[7],
+                       *const bb = means[8];
     float *const HWY_RESTRICT wr = to[0], *const HWY_RESTRICT wg = to[1], *const HWY_RESTRICT wb = to[2],
                               *const HWY_RESTRICT certain = to[3];
     const auto number = [](float value) { return static_cast<double>(value); };
@@ -139,7 +140,7 @@ constexpr float kGauss[] = {0.3324903f, 0.2349537f, 0.0829072f, 0.0146086f, 0.00
 void sharpen(const float* const* rows, float strength, int count, float* HWY_RESTRICT columns,
              float* HWY_RESTRICT to) {
     const float *const a = rows[0], *const b = rows[1], *const c = rows[2], *const d = rows[3], *const e = rows[4],
-                *const f = rows[5], *const g = rows[6], *const h = rows[7], *const i = rows[8];
+                       *const f = rows[5], *const g = rows[6], *const h = rows[7], *const i = rows[8];
     for (int x = -4; x < count + 4; ++x) {
         float sum = kGauss[0] * e[x];
         sum += kGauss[1] * (d[x] + f[x]);
@@ -172,7 +173,7 @@ void slope(float* const* sums, const float* HWY_RESTRICT rest, int count, float*
     constexpr float kShare = 1.0f / 81.0f, kLumaNoise = 10.0f;
     float* const HWY_RESTRICT mean = sums[0];
     const float *const HWY_RESTRICT lumas = sums[1], *const HWY_RESTRICT both = sums[2],
-                *const HWY_RESTRICT squares = sums[3];
+                                    *const HWY_RESTRICT squares = sums[3];
     for (int x = 0; x < count; ++x) {
         mean[x] *= kShare;
         const float luma = lumas[x] * kShare;
@@ -184,8 +185,9 @@ void slope(float* const* sums, const float* HWY_RESTRICT rest, int count, float*
 }  // namespace
 
 const refine::MatteLoops& matteLoopsHere() {
-    static constexpr refine::MatteLoops loops{&startAlpha, &ratio,   &distance, &fit, &directions, &loadAlpha, &storeAlpha,
-                                              &halve,      &nearMix, &shares, &blend, &widen,    &sharpen, &products, &slope};
+    static constexpr refine::MatteLoops loops{&startAlpha, &ratio,      &distance, &fit,      &directions,
+                                              &loadAlpha,  &storeAlpha, &halve,    &nearMix,  &shares,
+                                              &blend,      &widen,      &sharpen,  &products, &slope};
     return loops;
 }
 

@@ -4,7 +4,8 @@
 
 namespace tavrin::refine {
 
-/// What turns rows of colours into rows of alpha, compiled as `RowLoops` are. Colours and plates are in roles, 0 to 255.
+/// What turns rows of colours into rows of alpha, compiled as `RowLoops` are. Colours and plates are in roles, 0 to
+/// 255.
 struct MatteLoops {
     /// The simple alpha, -0.3 to 1: one less the lead of the screen's channel over the plate's, at least `least`.
     void (*startAlpha)(ChannelRow own, ChannelRow screen, float least, int count, float* to);

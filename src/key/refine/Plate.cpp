@@ -18,7 +18,7 @@ constexpr double kSeedReach = 4.0;     // pixels of 5 megapixels, as all lengths
 constexpr double kLeastScreen = 0.02;  // of the picture
 constexpr int kLeastDifference = 15;   // of the screen's colour
 constexpr float kLeastShare = 0.3f;    // of the usual difference, for a plate that has lost its colour
-constexpr double kSamples = 40'000;   // of a median
+constexpr double kSamples = 40'000;    // of a median
 constexpr float kDeviation = 1.4826f;  // of a normal distribution, from the median of the distances
 
 // Every so many columns and rows, for measuring a middle.
@@ -92,7 +92,8 @@ void sumCells(const Shot& shot, const Mask& screen, int row, int word, int words
         for (int c = 0; c < whole; ++c)
             to[c] /= static_cast<float>(kPlateCell * (last - first));
         if (rest > 0)
-            to[whole] = std::accumulate(from + whole * kPlateCell, from + count, 0.0f) / static_cast<float>(rest * (last - first));
+            to[whole] = std::accumulate(from + whole * kPlateCell, from + count, 0.0f) /
+                        static_cast<float>(rest * (last - first));
     }
 }
 

@@ -12,12 +12,19 @@ namespace {
 constexpr std::int64_t kFewestSure = 100;  // pixels to learn the subject's colours from
 constexpr int kMargin = 3;                 // of what is decided, so that small windows need nothing beyond
 
-void writeArea(const RunContext& context, const Findings& findings, const Reach& reach, const GreenLimits& limits,
-               const Area& area, std::uint8_t* result) {
+// What the last pass goes by besides the findings.
+struct Limits {
+    Reach reach;
+    GreenLimits green;
+    Cells trust;
+};
+
+void writeArea(const RunContext& context, const Findings& findings, const Limits& limits, const Area& area,
+               std::uint8_t* result) {
     const Shot& shot = findings.shot;
     const Strip wide = area.strip(shot, kDetailHalo), strip = area.strip(shot, kColorHalo);
-    FinishRows finish(findings, reach, wide);
-    ColorRows colors(findings, limits, strip);
+    FinishRows finish(findings, limits.reach, limits.trust, wide);
+    ColorRows colors(findings, limits.green, strip);
     std::vector<float> alpha(static_cast<std::size_t>(wide.width));
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(strip.width));
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
@@ -37,13 +44,12 @@ void clearRows(const RunContext& context, const Shot& shot, std::uint8_t* result
 }
 
 bool writeResult(const RunContext& context, const Findings& findings, std::uint8_t* result) {
-    const Reach reach = findReach(context, findings);
-    const GreenLimits limits = findLimits(context, findings);
+    const Limits limits{findReach(context, findings), findLimits(context, findings), trustInKey(findings)};
     clearRows(context, findings.shot, result);
     runAreas(context, findings.solid,
-             [&](const Area& area) { writeSolid(findings.shot, limits, area, result); });
+             [&](const Area& area) { writeSolid(findings.shot, limits.green, area, result); });
     return runAreas(context, findings.open,
-                    [&](const Area& area) { writeArea(context, findings, reach, limits, area, result); });
+                    [&](const Area& area) { writeArea(context, findings, limits, area, result); });
 }
 
 // What is neither well inside nor well on the screen.

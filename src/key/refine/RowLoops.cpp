@@ -69,7 +69,7 @@ void boxSums(const float* const* rows, int r, int count, float* HWY_RESTRICT col
     float* const HWY_RESTRICT first = columns - r;
     if (r == 1) {
         const float *const HWY_RESTRICT a = rows[0] - r, *const HWY_RESTRICT b = rows[1] - r,
-                    *const HWY_RESTRICT c = rows[2] - r;
+                                        *const HWY_RESTRICT c = rows[2] - r;
         for (int x = 0; x < all; ++x)
             first[x] = (a[x] + b[x]) + c[x];
     } else {
@@ -185,8 +185,8 @@ void sumGroups(const float* HWY_RESTRICT values, int size, int count, float* HWY
 }  // namespace
 
 const refine::RowLoops& rowLoopsHere() {
-    static constexpr refine::RowLoops loops{&loadColors, &loadLuma,   &seeds, &mix,   &spread,     &boxSums,
-                                            &add,        &addProduct, &above, &below, &windowRange, &countBits, &sumGroups};
+    static constexpr refine::RowLoops loops{&loadColors, &loadLuma, &seeds, &mix,         &spread,    &boxSums,  &add,
+                                            &addProduct, &above,    &below, &windowRange, &countBits, &sumGroups};
     return loops;
 }
 
