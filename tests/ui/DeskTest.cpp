@@ -268,6 +268,12 @@ TEST_F(DeskTest, ALayerGoesWithThePointerAndComesBackWithOneUndo) {
         QTest::mousePress(view, Qt::LeftButton, {}, from);
         for (int i = 1; i <= 10; ++i)
             QTest::mouseMove(view, from + by * i / 10);
+        // The last move is shown while the layer is held, so only the release can have it drawn in full.
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] {
+                return !info_->pForegroundBitmapInfo->bScaleChange && !info_->pBackgroundBitmapInfo->bScaleChange;
+            },
+            20000));
         QTest::mouseRelease(view, Qt::LeftButton, {}, from + by);
         EXPECT_TRUE(waitForPicture());
     };
