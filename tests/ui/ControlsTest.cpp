@@ -109,6 +109,15 @@ TEST_F(ControlsTest, ADragMovesTheSettingAndIsOneStepOfUndo) {
     }
 }
 
+TEST_F(ControlsTest, ADragWhosePanelGoesEndsItsStep) {
+    auto* groove = find<Groove>("sliderBrightness");
+    QTest::mousePress(groove, Qt::LeftButton, {}, {groove->width() / 4, groove->height() / 2});
+    panel_.hide();
+    EXPECT_EQ(editor_.steps().size(), 1u);
+    EXPECT_TRUE(editor_.undo());
+    EXPECT_EQ(info_.pForegroundBitmapInfo->iBrightness, 0);
+}
+
 TEST_F(ControlsTest, NumbersAreTypedHeldAtTheEndsAndSaid) {
     QSignalSpy told(&binder_, &Binder::told);
     for (SliderRow* row : sliders()) {

@@ -14,6 +14,7 @@
 
 #include "core/files/Places.h"
 #include "formats/SettingsFile.h"
+#include "pipeline/LayerFit.h"
 #include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
@@ -141,6 +142,7 @@ TEST_F(DeskTest, UndoAndRedoStepThroughSettingsAndEndWithAState) {
     EXPECT_FALSE(action("UndoButton")->isEnabled());
     brightness->setValue(140);
     EXPECT_TRUE(action("UndoButton")->isEnabled());
+    EXPECT_EQ(action("UndoButton")->toolTip(), "Take back: Brightness");
     action("UndoButton")->trigger();
     EXPECT_EQ(brightness->value(), 100);
     EXPECT_FALSE(action("UndoButton")->isEnabled());
@@ -200,11 +202,16 @@ TEST_F(DeskTest, AHeldKeyShowsThePortraitAsItWasTaken) {
         return view->grab().toImage().pixelColor(
             (frame.topLeft() + QPointF(x * frame.width(), y * frame.height())).toPoint());
     };
-    ASSERT_TRUE(QTest::qWaitFor([&] { return action("ShowOriginal")->isEnabled(); }, 5000));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return action("ShowOriginal")->isEnabled(); }, 20000));
     QTest::keyPress(view, Qt::Key_B);
     const QColor screen = test::discOnScreen(240, 300).pixelColor(5, 150);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return middleOfFrame(0.02, 0.5) == screen; }, 5000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return middleOfFrame(0.02, 0.5) == screen; }, 20000));
     QTest::keyRelease(view, Qt::Key_B);
+    EXPECT_NE(middleOfFrame(0.02, 0.5), screen);
+    QTest::keyPress(view, Qt::Key_B);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return middleOfFrame(0.02, 0.5) == screen; }, 20000));
+    QEvent elsewhere(QEvent::WindowDeactivate);  // where the key is let go
+    QApplication::sendEvent(window_.get(), &elsewhere);
     EXPECT_NE(middleOfFrame(0.02, 0.5), screen);
 }
 
@@ -216,10 +223,10 @@ TEST_F(DeskTest, TheAlphaIsShownUntilItIsTurnedOffAndFollowsThePicture) {
             (frame.topLeft() + QPointF(x * frame.width(), y * frame.height())).toPoint());
     };
     action("ShowAlpha")->setChecked(true);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(0, 0, 0); }, 5000)) << "the subject";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(0, 0, 0); }, 20000)) << "the subject";
     EXPECT_EQ(shown(0.02, 0.5), QColor(255, 255, 255)) << "the screen";
     window_->panel()->findChild<Groove*>("sliderClipTop")->setValue(90);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(255, 255, 255); }, 5000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(255, 255, 255); }, 20000));
     action("ShowAlpha")->setChecked(false);
     EXPECT_NE(shown(0.5, 0.5), QColor(255, 255, 255));
 }
@@ -251,8 +258,55 @@ TEST_F(DeskTest, TransparentPartsShowTheGrid) {
                     colours.insert(shown.pixel(frame.left() + 8 + x, frame.top() + 8 + y));
             return colours.size() == 2;
         },
-        5000));
+        20000));
     EXPECT_EQ(colours, (std::set<QRgb>{0xffcccccc, 0xffffffff}));
+}
+
+TEST_F(DeskTest, ALayerGoesWithThePointerAndComesBackWithOneUndo) {
+    PictureView* view = window_->view();
+    const auto drag = [&](const QPoint& from, const QPoint& by) {
+        QTest::mousePress(view, Qt::LeftButton, {}, from);
+        for (int i = 1; i <= 10; ++i)
+            QTest::mouseMove(view, from + by * i / 10);
+        // The last move is shown while the layer is held, so only the release can have it drawn in full.
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] {
+                return !info_->pForegroundBitmapInfo->bScaleChange && !info_->pBackgroundBitmapInfo->bScaleChange;
+            },
+            20000));
+        QTest::mouseRelease(view, Qt::LeftButton, {}, from + by);
+        EXPECT_TRUE(waitForPicture());
+    };
+    const auto choose = [&](const char* name) { window_->findChild<QToolButton*>(name)->click(); };
+    const BitmapInfo &portrait = *info_->pForegroundBitmapInfo, &background = *info_->pBackgroundBitmapInfo;
+    const QRectF frame = view->zoom().frame();
+    const QPoint middle = frame.center().toPoint();
+    const LayerPlace before = placeOf(portrait);
+    QTest::mouseClick(view, Qt::LeftButton, {}, middle);
+    EXPECT_EQ(placeOf(portrait), before) << "a click moves nothing";
+    drag(middle, {100, 60});
+    EXPECT_EQ(portrait.iOrgXoff, static_cast<int>(before.x + 1000.0 * 100 / frame.width()));
+    EXPECT_EQ(portrait.iOrgYoff, static_cast<int>(before.y - 1000.0 * 60 / frame.height()));
+    EXPECT_FALSE(portrait.bScaleChange) << "the full layer was drawn";
+    const QImage moved = view->fullPicture();
+    EXPECT_GT(
+        moved.pixelColor(120 + 240 * 100 / qRound(frame.width()), 150 + 300 * 60 / qRound(frame.height())).red(),
+        150);
+    action("UndoButton")->trigger();
+    EXPECT_EQ(placeOf(portrait), before);
+    choose("radioEventScale");
+    choose("radioEventBackground");
+    drag(middle, {0, -100});
+    EXPECT_NEAR(background.fScale, 1.0 + 100 / frame.height(), 1e-9);
+    EXPECT_EQ(placeOf(portrait), before);
+    for (int i = 0; i < 2; ++i)
+        drag({middle.x(), 20}, {0, 700});
+    EXPECT_LT(background.fScale, 0.01);
+    EXPECT_EQ(portrait.fScale, 0.01);
+    for (int i = 0; i < 3; ++i)
+        action("UndoButton")->trigger();
+    EXPECT_EQ(background.fScale, 1.0);
+    EXPECT_EQ(portrait.fScale, before.scale);
 }
 
 TEST_F(DeskTest, TheWindowComesBackAsItWas) {

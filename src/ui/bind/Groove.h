@@ -24,6 +24,8 @@ class Groove : public QSlider {
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    /// A slider that goes while it is held gets no release, and its step of undo would never end.
+    void hideEvent(QHideEvent*) override { setSliderDown(false); }
 
   private:
     int valueAt(double x) const;

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QTableWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace tavrin {
@@ -42,6 +43,10 @@ void Commands::add(const Command& command) {
     if (command.kind == Command::Kind::held) {
         // A shortcut knows no release; here the key stands for people to read.
         action->setText(command.text + '\t' + command.shortcut.toString(QKeySequence::NativeText));
+        connect(action, &QAction::triggered, this, [this, run = command.run] {  // which nobody holds
+            run(true);
+            QTimer::singleShot(2000, this, [run] { run(false); });
+        });
     } else {
         action->setShortcut(command.shortcut);
         const auto run = command.run;
@@ -77,6 +82,10 @@ void Commands::refresh() {
 }
 
 bool Commands::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::WindowDeactivate) {  // the release goes to another window
+        for (const Command& command : table_)
+            if (command.kind == Command::Kind::held) command.run(false);
+    }
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->isAutoRepeat() || key->modifiers() != Qt::NoModifier) return QObject::eventFilter(watched, event);

@@ -37,6 +37,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       loop_(std::make_unique<CombineThread>(info)),
       editor_(info),
       binder_(editor_),
+      drag_(editor_),
       files_(new PictureFiles(info, *loop_, bridge_, this)),
       view_(new PictureView),
       messages_(new MessageBar),
@@ -63,9 +64,12 @@ void MainWindow::connectParts() {
     connect(&binder_, &Binder::changed, this, [this] {
         view_->setTransparent(info_.bOutputTransparency);
         commands_->refresh();
+        tellUndo();
     });
     connect(sizeBox_, &SizeBox::sizeChosen, this, &MainWindow::showState);
     connect(view_, &PictureView::zoomed, this, &MainWindow::tellProgress);
+    connect(view_, &PictureView::dragged, this, &MainWindow::dragLayer);
+    connect(view_, &PictureView::dragEnded, this, &MainWindow::endDrag);
     connect(files_, &PictureFiles::opened, this, &MainWindow::showState);
     connect(files_, &PictureFiles::saved, this, &MainWindow::endSave);
     connect(findChild<QMenu*>("recentFiles"), &QMenu::aboutToShow, this, &MainWindow::refillRecentFiles);
@@ -103,6 +107,17 @@ void MainWindow::connectBridge() {
         queued);
 }
 
+/// The tips of both buttons say what they would do.
+void MainWindow::tellUndo() {
+    const auto& steps = editor_.steps();
+    const std::size_t done = editor_.stepsDone();
+    const auto label = [&](std::size_t i) { return QString::fromStdString(steps[i].label); };
+    commands_->action("UndoButton")
+        ->setToolTip(done == 0 ? tr("Nothing to take back") : tr("Take back: %1").arg(label(done - 1)));
+    commands_->action("RedoButton")
+        ->setToolTip(done == steps.size() ? tr("Nothing to do again") : tr("Do again: %1").arg(label(done)));
+}
+
 /// Every control shows the state that is there now; it has no finished picture yet.
 void MainWindow::showState() {
     finished_ = false;
@@ -110,6 +125,7 @@ void MainWindow::showState() {
     sizeBox_->updateComboBoxImageSize();
     view_->setTransparent(info_.bOutputTransparency);
     commands_->refresh();
+    tellUndo();
     tellProgress();
 }
 
@@ -230,6 +246,27 @@ void MainWindow::takePublished() {
     for (const PublishedRows& rows : bridge_.takePublished())
         view_->show(rows);
     tellProgress();
+}
+
+/// While it lasts the loop shows a plain mix of both layers.
+void MainWindow::dragLayer(const QPointF& share) {
+    if (!drag_.isUnderWay()) {
+        const int mode = LayerDrag::mouseMode(mouseMode_->scales(), mouseMode_->background());
+        drag_.begin(
+            mode,
+            (mouseMode_->background() ? tr("Place of the background") : tr("Place of the portrait")).toStdString());
+        bridge_.setMouse(true, mode);
+    }
+    drag_.dragTo(share);
+    info_.StartUpdate();
+    binder_.UpdateAllUI();
+}
+
+void MainWindow::endDrag() {
+    bridge_.setMouse(false, 0);
+    drag_.end();
+    info_.StartUpdate();
+    emit binder_.changed();
 }
 
 /// What the view shows instead of the combined picture: the portrait while its key is held, or the alpha.

@@ -6,9 +6,11 @@
 
 #include "pipeline/CombineThread.h"
 #include "ui/WindowBridge.h"
+#include "ui/adjust/LayerDrag.h"
 #include "ui/bind/Binder.h"
 #include "ui/frame/Commands.h"
 #include "ui/frame/MessageBar.h"
+#include "ui/frame/MouseMode.h"
 #include "ui/frame/PictureFiles.h"
 #include "ui/frame/SidePanel.h"
 #include "ui/frame/SizeBox.h"
@@ -83,18 +85,22 @@ class MainWindow : public QMainWindow {
     void takePublished();
     void showState();
     void showAlert(const QString& message, const QString& reason);
+    void dragLayer(const QPointF& share);
+    void endDrag();
     void showOther();
     void showOriginal(bool on);
     void showAlpha(bool on);
     void sizeToOutput(int outputWidth, int outputHeight);
     void setFullScreen(bool on);
     void tellProgress();
+    void tellUndo();
 
     SystemInfo& info_;
     WindowBridge bridge_;
     std::unique_ptr<CombineThread> loop_;
     SettingEditor editor_;
     Binder binder_;
+    LayerDrag drag_;
     PictureFiles* files_;
     PictureView* view_;
     MessageBar* messages_;
@@ -103,6 +109,7 @@ class MainWindow : public QMainWindow {
     Commands* commands_ = nullptr;
     QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;
     QProgressBar* progress_ = nullptr;
+    MouseMode* mouseMode_ = nullptr;
     bool closing_ = false;   // as soon as all is saved
     bool finished_ = false;  // a full picture stands
     bool cameBack_ = false, originalHeld_ = false;

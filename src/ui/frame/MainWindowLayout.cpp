@@ -73,6 +73,7 @@ QWidget* MainWindow::makeViewBar() {
     auto* bar = new QWidget(this);
     auto* line = new QHBoxLayout(bar);
     line->setContentsMargins(8, 2, 8, 2);
+    line->addWidget(mouseMode_ = new MouseMode(bar));
     line->addStretch();
     for (const char* id : {"setZoomHome", "ZoomPixels", "ZoomOut", "ZoomIn"})
         line->addWidget(buttonOf(commands_->action(id), bar));

@@ -2,7 +2,9 @@
 
 #include <cmath>
 #include <cstring>
+#include <utility>
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
@@ -228,19 +230,26 @@ void PictureView::wheelEvent(QWheelEvent* event) {
 
 void PictureView::mousePressEvent(QMouseEvent* event) {
     panning_ = event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && spaceHeld_);
-    panFrom_ = event->position();
+    pressed_ = event->button() == Qt::LeftButton && !spaceHeld_;
+    panFrom_ = pressedAt_ = event->position();
     if (panning_) setCursor(Qt::ClosedHandCursor);
 }
 
 void PictureView::mouseMoveEvent(QMouseEvent* event) {
-    if (!panning_) return;
-    zoom_.pan(event->position() - panFrom_);
-    panFrom_ = event->position();
-    zoomChanged();
+    if (panning_) {
+        zoom_.pan(event->position() - panFrom_);
+        panFrom_ = event->position();
+        zoomChanged();
+    }
+    const QPointF way = event->position() - pressedAt_;
+    dragging_ = dragging_ || (pressed_ && way.manhattanLength() >= QApplication::startDragDistance());
+    const QRectF frame = zoom_.frame();
+    if (dragging_) emit dragged({way.x() / frame.width(), -way.y() / frame.height()});
 }
 
 void PictureView::mouseReleaseEvent(QMouseEvent*) {
-    panning_ = false;
+    panning_ = pressed_ = false;
+    if (std::exchange(dragging_, false)) emit dragEnded();
     spaceHeld_ ? setCursor(Qt::OpenHandCursor) : unsetCursor();
 }
 

@@ -46,6 +46,10 @@ class PictureView : public QWidget {
 
   signals:
     void zoomed();
+    /// The left button drags on the picture: how far since the press, to the right and up, in parts of its width and
+    /// height. A click by itself is none.
+    void dragged(const QPointF& share);
+    void dragEnded();
 
   protected:
     bool event(QEvent* event) override;
@@ -75,7 +79,8 @@ class PictureView : public QWidget {
     QImage small_;        // `full_` at the size of its frame
     qint64 smallOf_ = 0;  // and of which `full_`
     bool transparent_ = false, spaceHeld_ = false, panning_ = false;
-    QPointF panFrom_;
+    bool pressed_ = false, dragging_ = false;
+    QPointF panFrom_, pressedAt_;
     DropZone dropZone_ = DropZone::none;
 };
 
