@@ -79,8 +79,10 @@ int main(int argc, char** argv) {
     cli::addCompletionCommand(app, result);
     addCommonOptions(app);
     std::unique_ptr<QCoreApplication> application;
-    app.parse_complete_callback(
-        [&] { application = startLibraries(app.got_subcommand("render") || app.got_subcommand("batch")); });
+    app.parse_complete_callback([&] {
+        const bool drawsSheet = app.get_subcommand("report")->got_subcommand("sheet");
+        application = startLibraries(app.got_subcommand("render") || app.got_subcommand("batch") || drawsSheet);
+    });
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
