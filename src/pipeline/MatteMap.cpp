@@ -9,7 +9,7 @@ namespace tavrin {
 
 namespace {
 
-constexpr int kLongerSide = 400;  // samples
+constexpr int kLongerSide = 200;  // samples
 
 /// Samples that lie wholly within the source as it was drawn.
 QRect sourceSamples(const SystemInfo& info, Resolution resolution, const MatteMap& map) {

@@ -14,11 +14,11 @@ namespace {
 constexpr int kHalf = 128, kSolid = 235, kClear = 20;
 constexpr int kDarkest = 20;                      // below it a hue means nothing
 constexpr double kAlike = 0.15, kStrange = 0.30;  // ratios to the screen's channel
-constexpr int kEdge = 2;                          // samples beside an edge, which hold some of both
-constexpr int kFar = 5;                           // samples from here on no edge reaches
-constexpr int kWindow = 40;                       // samples: side of the square that shows what is wrong
+constexpr int kEdge = 1;                          // samples beside an edge, which hold some of both
+constexpr int kFar = 3;                           // samples from here on no edge reaches
+constexpr int kWindow = 20;                       // samples: side of the square that shows what is wrong
 constexpr int kBlack = 5, kWhite = 252;
-constexpr int kPatch = 4;                          // samples to each side that make a surface rough or smooth
+constexpr int kPatch = 3;                          // samples to each side that make a surface rough or smooth
 constexpr double kRough = 2.0, kLeastRough = 1.0;  // times the screen's middle, and levels on top
 
 /// How a sample stands to the screen that was keyed.
@@ -144,6 +144,8 @@ class Measurer {
     bool isAmidRemoved(int x, int y) const {
         return removed_.around(x, y, kEdge) >= (2 * kEdge + 1) * (2 * kEdge + 1);
     }
+    /// Farther from the subject than the finest ends of its hair.
+    bool isAmidClear(int x, int y) const { return clear_.around(x, y, kFar) >= (2 * kFar + 1) * (2 * kFar + 1); }
     bool isAmidKept(int x, int y) const { return removed_.around(x, y, kEdge) == 0; }
 
     void tellColors() {
@@ -174,7 +176,7 @@ class Measurer {
     std::vector<double> roughness() const {
         Marks changes(map_.width, map_.height), counted(changes);
         forEach([&](int x, int y) {
-            if (x < 1 || y < 1 || x + 1 >= map_.width || y + 1 >= map_.height || !isAmidRemoved(x, y)) return;
+            if (x < 1 || y < 1 || x + 1 >= map_.width || y + 1 >= map_.height || !isAmidClear(x, y)) return;
             const auto level = [this](int column, int row) { return int{map_.at(column, row)[map_.greenByte()]}; };
             const int twice = 2 * level(x, y);
             changes.add(x, y,
@@ -188,8 +190,7 @@ class Measurer {
         roughness.reserve(map_.count());
         forEach([&](int x, int y) {
             const int count = counted.around(x, y, kPatch);
-            roughness.push_back(count > 0 && isAmidRemoved(x, y) ? changes.around(x, y, kPatch) / (4.0 * count)
-                                                                 : -1.0);
+            roughness.push_back(count > 0 && isAmidClear(x, y) ? changes.around(x, y, kPatch) / (4.0 * count) : -1.0);
         });
         return roughness;
     }
@@ -206,7 +207,7 @@ class Measurer {
         const double most = known.empty() ? 0.0 : kRough * *middle + kLeastRough;
         Marks shades(map_.width, map_.height);
         forEach([&](int x, int y) {
-            if (!isAmidRemoved(x, y)) return;
+            if (!isAmidClear(x, y)) return;
             const bool isRough = roughness[static_cast<std::size_t>(y * map_.width + x)] > most;
             if (isRough || isOffLight(rolesAt(x, y).green, light.at(x, y))) shades.set(x, y);
         });

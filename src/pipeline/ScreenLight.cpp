@@ -8,7 +8,7 @@ namespace tavrin {
 namespace {
 
 constexpr int kRemoved = 20;        // alpha of what is surely screen
-constexpr int kFewest = 200;        // samples that make a surface
+constexpr int kFewest = 100;        // samples that make a surface
 constexpr int kStep = 2;            // every second sample of every second row is enough
 constexpr double kOff = 0.1;        // of the light
 constexpr double kLeastOff = 10.0;  // levels, above the noise of a dark screen
