@@ -6,6 +6,7 @@
 #include "core/image/ImageReader.h"
 #include "core/image/ImageWriter.h"
 #include "pipeline/CombineThread.h"
+#include "pipeline/PictureCheck.h"
 #include "pipeline/SaveImage.h"
 #include "pipeline/WholePicture.h"
 
@@ -113,6 +114,20 @@ void textEditInView(benchmark::State& state) {
     });
 }
 
+// What is said of a finished picture, screen and warnings included.
+void judgePicture(benchmark::State& state) {
+    const auto info = newJob();
+    useChosenSize(*info);
+    CombineThread(*info).runUntilIdle();
+    const QImage portrait = readPicture(foregroundPath()).pixels;
+    for (auto _ : state) {
+        PictureCheck check(true);
+        check.lookAtPortrait(*info, portrait);
+        benchmark::DoNotOptimize(check.warnings(*info, check.judge(*info, Resolution::full)));
+    }
+}
+
+BENCHMARK(judgePicture)->Unit(benchmark::kMillisecond);
 BENCHMARK(decodeScaleEncode)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime()->MeasureProcessCPUTime();
 BENCHMARK(jobByShortPath)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime()->MeasureProcessCPUTime();
 BENCHMARK(jobByLoop)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime()->MeasureProcessCPUTime();

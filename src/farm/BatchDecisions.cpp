@@ -20,6 +20,7 @@ bool BatchRun::isBegun(const BatchJob& job) {
         {
             std::lock_guard lock(mutex_);
             result.reason = whyNot(job, failedBefore);
+            if (!result.reason.empty() && !failedBefore) result.judgement = journal_.find(job.name)->judgement;
         }
         result.status = failedBefore ? Status::failed : Status::skipped;
         if (result.reason.empty()) {

@@ -99,6 +99,7 @@ class Stages {
         const BatchJob& job = hand.result.job;
         MadePicture& made = hand.made;
         hand.result.warnings = std::move(made.warnings);
+        hand.result.judgement = std::move(made.judgement);
         std::string problem = tasks_.beforeWrite ? tasks_.beforeWrite(job) : std::string();
         hand.result.diskFull = problem == kDiskFull;
         if (!problem.empty()) return hand.fail(problem, false);

@@ -28,6 +28,7 @@ struct JobResult {
     bool incomplete = false;               ///< it failed, but a picture that lacks something was written
     std::string badFile;                   ///< the source that could not be read
     std::vector<PictureWarning> warnings;  ///< of a picture that was made
+    std::optional<Judgement> judgement;  ///< of its matte; for one that was skipped, as it was told when it was made
     bool diskFull = false;
     int width = 0, height = 0;
     double seconds = 0.0;  ///< from the first look at its files to the end

@@ -1,8 +1,8 @@
 #include "farm/BatchReport.h"
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
 #include <set>
 
 #include <QDateTime>
@@ -14,14 +14,14 @@
 #include "core/files/FileIdentity.h"
 #include "core/files/NameText.h"
 #include "core/image/FileKind.h"
+#include "farm/JudgementText.h"
+#include "farm/ReportFile.h"
 
 namespace fs = std::filesystem;
 
 namespace tavrin {
 
 namespace {
-
-constexpr const char* kKind = "tavrin-batch";
 
 const char* statusName(JobResult::Status status) {
     switch (status) {
@@ -70,45 +70,36 @@ std::string writtenName(const std::string& outFolder, const std::string& out) {
     return failed ? out : relativeTo(folder.ends_with('/') ? folder.substr(0, folder.size() - 1) : folder, path);
 }
 
-/// Whether a run can have written such a name: no way out of its folder, and nothing that is no name at all.
-bool isWrittenName(const std::string& name, bool isMade) {
-    if (name.empty()) return !isMade;
-    const fs::path path(name);
-    return name.find('\0') == std::string::npos && path == path.lexically_normal() && path.has_filename() &&
-           *path.begin() != ".." && *path.begin() != ".";
+bool isSooner(const QJsonObject& one, const QJsonObject& other) {
+    return urgencyOf(one) < urgencyOf(other);
 }
 
 /// All reports that are to be joined, read into one.
 class Merger {
   public:
     std::string read(const std::string& path) {
-        std::ifstream file;
-        if (isPlainFile(path)) file.open(path, std::ios::binary);
-        if (!file.is_open()) return path + " cannot be read.";
-        bool isReport = false;
-        for (std::string line; std::getline(file, line);) {
-            const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
-            if (object["report"].toString() == kKind) {
-                isReport = true;
-                readHead(object);
-            } else if (isReport && object.contains("n")) {
-                const std::string out = nameOfText(object["out"].toString());
-                if (!isWrittenName(out, object["status"].toString() == "done"))
-                    return path + " is damaged: no run calls a picture \"" + out + "\".";
-                readJob(object);
-            }
-        }
-        return isReport ? std::string() : path + " is no report of a batch.";
+        const ReportFile report = readReport(path);
+        if (!report.problem.empty()) return report.problem;
+        for (const QJsonObject& head : report.heads)
+            readHead(head);
+        for (const QJsonObject& job : report.jobs)
+            readJob(job);
+        return "";
     }
 
     MergedReport write(const std::string& out) {
         MergedReport merged;
         merged.counts.jobs = total_;
         std::vector<std::string> lines;
-        QJsonObject head{{"report", kKind}, {"jobs", total_}, {"shards", QJsonArray::fromStringList(shards_)}};
+        QJsonObject head{{"report", kReportKind}, {"jobs", total_}, {"shards", QJsonArray::fromStringList(shards_)}};
         if (lists_.size() == 1) head["list"] = *lists_.begin();
+        if (folders_.size() == 1) head["folder"] = *folders_.begin();
         lines.push_back(lineOf(head));
-        for (const auto& [number, job] : jobs_) {
+        std::vector<QJsonObject> jobs;
+        for (const auto& [number, job] : jobs_)
+            jobs.push_back(job);
+        std::stable_sort(jobs.begin(), jobs.end(), isSooner);
+        for (const QJsonObject& job : jobs) {
             lines.push_back(lineOf(job));
             count(job, merged);
         }
@@ -126,6 +117,7 @@ class Merger {
     void readHead(const QJsonObject& head) {
         total_ = std::max(total_, head["jobs"].toInt());
         if (head.contains("list")) lists_.insert(head["list"].toString());
+        if (head.contains("folder")) folders_.insert(head["folder"].toString());
         if (head.contains("shard")) shards_.append(head["shard"].toString());
         for (const auto& shard : head["shards"].toArray())
             shards_.append(shard.toString());
@@ -151,9 +143,29 @@ class Merger {
     int total_ = 0;
     double seconds_ = 0.0;
     QStringList shards_;
-    std::set<QString> lists_;
+    std::set<QString> lists_, folders_;
     std::map<int, QJsonObject> jobs_;
 };
+
+QJsonObject objectOf(const JobResult& result, const std::string& outFolder) {
+    const BatchJob& job = result.job;
+    QJsonObject object{{"n", job.number},
+                       {"foreground", textOfName(job.foreground)},
+                       {"out", textOfName(writtenName(outFolder, job.out))},
+                       {"status", statusName(result.status)}};
+    if (!job.background.empty()) object["background"] = textOfName(job.background);
+    if (!job.state.empty()) object["state"] = textOfName(job.state);
+    if (!result.reason.empty()) object["reason"] = textOfName(result.reason);
+    if (!result.warnings.empty()) object["warnings"] = describeWarnings(result.warnings);
+    if (result.judgement) addJudgement(object, *result.judgement);
+    if (result.status == JobResult::Status::done) {
+        object["width"] = result.width;
+        object["height"] = result.height;
+        object["seconds"] = rounded(result.seconds);
+        object["at"] = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
+    }
+    return object;
+}
 
 }  // namespace
 
@@ -165,36 +177,33 @@ QJsonArray describeWarnings(const std::vector<PictureWarning>& warnings) {
 }
 
 std::string describeResult(const JobResult& result, const std::string& outFolder) {
-    const BatchJob& job = result.job;
-    QJsonObject object{{"n", job.number},
-                       {"foreground", textOfName(job.foreground)},
-                       {"out", textOfName(writtenName(outFolder, job.out))},
-                       {"status", statusName(result.status)}};
-    if (!job.background.empty()) object["background"] = textOfName(job.background);
-    if (!job.state.empty()) object["state"] = textOfName(job.state);
-    if (!result.reason.empty()) object["reason"] = textOfName(result.reason);
-    if (!result.warnings.empty()) object["warnings"] = describeWarnings(result.warnings);
-    if (result.status == JobResult::Status::done) {
-        object["width"] = result.width;
-        object["height"] = result.height;
-        object["seconds"] = rounded(result.seconds);
-        object["at"] = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
-    }
-    return lineOf(object);
+    return lineOf(objectOf(result, outFolder));
 }
 
-void BatchReport::begin(const std::string& shard, int total, const std::string& list) {
-    head_ = lineOf({{"report", kKind}, {"shard", textOfName(shard)}, {"jobs", total}, {"list", textOfName(list)}});
+void BatchReport::begin(const std::string& shard, int total, const std::string& list, const std::string& outFolder) {
+    std::error_code failed;
+    const fs::path folder = fs::absolute(outFolder, failed).lexically_normal();
+    head_ = lineOf({{"report", kReportKind},
+                    {"shard", textOfName(shard)},
+                    {"jobs", total},
+                    {"list", textOfName(list)},
+                    {"folder", textOfName(failed ? outFolder : folder.string())}});
 }
 
 void BatchReport::add(const JobResult& result, const std::string& outFolder) {
-    lines_[result.job.number] = describeResult(result, outFolder);
+    const QJsonObject object = objectOf(result, outFolder);
+    lines_[result.job.number] = {urgencyOf(object), lineOf(object)};
 }
 
 std::string BatchReport::write(const std::string& path, const BatchCounts& counts, double seconds) const {
-    std::vector<std::string> lines{head_};
+    std::vector<Line> sorted;
     for (const auto& [number, line] : lines_)
-        lines.push_back(line);
+        sorted.push_back(line);
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const Line& one, const Line& other) { return one.urgency < other.urgency; });
+    std::vector<std::string> lines{head_};
+    for (Line& line : sorted)
+        lines.push_back(std::move(line.text));
     QJsonObject end = sums(counts);
     end["seconds"] = rounded(seconds);
     lines.push_back(lineOf({{"summary", end}}));

@@ -27,15 +27,20 @@ std::string describeResult(const JobResult& result, const std::string& outFolder
 class BatchReport {
   public:
     /// @param list digest of the whole list, of `total` jobs
-    void begin(const std::string& shard, int total, const std::string& list);
+    /// @param outFolder of the pictures
+    void begin(const std::string& shard, int total, const std::string& list, const std::string& outFolder);
     void add(const JobResult& result, const std::string& outFolder);
-    /// The file appears whole.
+    /// The pictures that a person should look at come first (`urgencyOf`). The file appears whole.
     /// @return "" or one plain line
     std::string write(const std::string& path, const BatchCounts& counts, double seconds) const;
 
   private:
+    struct Line {
+        int urgency = 0;
+        std::string text;
+    };
     std::string head_;
-    std::map<int, std::string> lines_;  ///< by the job's number; of several runs over a job the last counts
+    std::map<int, Line> lines_;  ///< by the job's number; of several runs over a job the last counts
 };
 
 /// Whether a report can be written there, which is better known before hours of work than after them. It takes no
@@ -51,8 +56,8 @@ struct MergedReport {
     std::string problem;                ///< why nothing was written; one plain line
 };
 
-/// Joins the reports of shards into one: each picture once, in the order of the list. Where several tell of one
-/// picture, one that says it is there counts.
+/// Joins the reports of shards into one: each picture once, those first that a person should look at. Where several
+/// tell of one picture, one that says it is there counts.
 MergedReport mergeReports(const std::vector<std::string>& paths, const std::string& out);
 
 }  // namespace tavrin

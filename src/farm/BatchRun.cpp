@@ -80,7 +80,7 @@ std::string BatchRun::run() {
     tellPassedOver(list.passedOver);
     const Shard& shard = options_.shard;
     report_.begin(std::to_string(shard.index) + "/" + std::to_string(shard.count), static_cast<int>(list.jobs.size()),
-                  digestOfList(list.jobs));
+                  digestOfList(list.jobs), options_.sources.out);
     std::erase_if(list.jobs, [&shard](const BatchJob& job) { return !shard.has(job.number); });
     counts_.jobs = static_cast<int>(list.jobs.size());
     if (options_.dryRun) {
@@ -218,6 +218,7 @@ void BatchRun::record(const JobResult& result) {
     record.inputs = result.inputs;
     record.reason = result.reason;
     record.warnings = result.warnings;
+    record.judgement = result.judgement;
     const std::string problem = journal_.add(record);
     if (!problem.empty())
         observer_.note(record.out + " is not in the journal, so a later run makes it again: " + problem + ".");

@@ -76,7 +76,7 @@ void BatchRun::watchFolders() {
         const Clock::time_point soonest = Clock::now() + std::min<Clock::duration>(lookPause, kPoll);
         waitForNews(*watch, std::max(arrivals_.nextMoment(Clock::now() + pause), soonest));
     }
-    report_.begin("1/1", counts_.done + counts_.skipped + counts_.failed, "");
+    report_.begin("1/1", counts_.done + counts_.skipped + counts_.failed, "", options_.sources.out);
 }
 
 std::string BatchRun::missingPlace() const {

@@ -20,6 +20,7 @@
 #include "core/files/FileIdentity.h"
 #include "core/files/NameText.h"
 #include "farm/BatchReport.h"
+#include "farm/JudgementText.h"
 
 namespace fs = std::filesystem;
 
@@ -67,6 +68,7 @@ std::string lineOf(const JobRecord& record) {
                        {"inputs", inputs}};
     if (!record.reason.empty()) object["reason"] = textOfName(record.reason);
     if (!record.warnings.empty()) object["warnings"] = describeWarnings(record.warnings);
+    if (record.judgement) addJudgement(object, *record.judgement);
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString() + "\n";
 }
 
@@ -92,6 +94,7 @@ std::optional<JobRecord> recordOf(const std::string& line) {
         const QJsonObject told = warning.toObject();
         record.warnings.push_back({nameOfText(told["kind"].toString()), nameOfText(told["text"].toString())});
     }
+    record.judgement = judgementOf(object);
     return record;
 }
 

@@ -31,6 +31,7 @@ struct JobRecord {
     std::vector<InputFile> inputs;
     std::string reason;                    ///< why it failed
     std::vector<PictureWarning> warnings;  ///< what was said of the picture
+    std::optional<Judgement> judgement;    ///< without its measures
     std::int64_t order = 0;  ///< of two records the later counts; 0 in records of old versions, which come first
     std::int64_t time = 0;   ///< of the record, milliseconds; decides where the order does not
 };

@@ -138,7 +138,8 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     made.problem = info->whyNotFinished(Resolution::full);
     if (!made.problem.empty()) return made;
     made.leftOut = alerts.all;
-    made.warnings = check.warnings(*info, Resolution::full);
+    made.judgement = check.judge(*info, Resolution::full);
+    made.warnings = check.warnings(*info, made.judgement);
     const PassGeometry size = info->geometry(Resolution::full);
     made.width = size.width;
     made.height = size.height;

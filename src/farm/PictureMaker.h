@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,7 @@ struct MadePicture {
     std::string problem;  ///< empty when there is a picture
     std::string leftOut;  ///< what is missing in it, empty for nothing
     std::vector<PictureWarning> warnings;
+    std::optional<Judgement> judgement;
 };
 
 /// Makes the picture of one job after another, each from a state of its own, by the whole pass of the processing

@@ -7,34 +7,18 @@
 
 #include "core/text/Fonts.h"
 #include "core/text/TextLayers.h"
-#include "key/guard/GreenClothes.h"
 
 namespace tavrin {
 
 namespace {
 
 // Where they lie between pictures that are fine and pictures that are not is told in docs/key-quality.md.
-constexpr double kDarkScreen = 90.0, kUnevenScreen = 0.75, kWashedOutScreen = 0.1;
+constexpr double kDarkScreen = 165.0, kUnevenScreen = 0.75, kWashedOutScreen = 0.1;
 constexpr double kClothes = 0.03;                             // of the picture
-constexpr double kNearlyEmpty = 0.006;                        // of the picture
 constexpr double kSoftPortrait = 2.0, kSoftBackground = 4.0;  // times enlarged
-constexpr std::uint8_t kHalf = 128;
 
 std::string nameOf(const BitmapInfo& record) {
     return std::filesystem::path(record.sSourceImageFullPath.load()).filename().string();
-}
-
-/// Share of the picture that the key left, in some of its rows.
-double shareOfSubject(const SystemInfo& info, Resolution resolution) {
-    const auto picture = info.pixels(*info.pBackgroundBitmapInfo, resolution);
-    if (!picture.bytes || picture.width < 1 || picture.height < 1) return 1.0;
-    const int step = std::max(1, picture.height / 400);
-    std::size_t subject = 0, all = 0;
-    for (int y = 0; y < picture.height; y += step) {
-        for (int x = 0; x < picture.width; ++x, ++all)
-            subject += picture.at(x, y)[3] >= kHalf;
-    }
-    return static_cast<double>(subject) / static_cast<double>(all);
 }
 
 void tellEnlarged(const SystemInfo& info, const BitmapInfo& record, double most,
@@ -81,7 +65,8 @@ void PictureCheck::lookAtPortrait(SystemInfo& info, const QImage& portrait) {
     changedScreen_ = true;
 }
 
-void PictureCheck::tellScreen(const SystemInfo& info, std::vector<PictureWarning>& warnings) const {
+void PictureCheck::tellScreen(const SystemInfo& info, const MatteMeasures& measures,
+                              std::vector<PictureWarning>& warnings) const {
     const std::string name = nameOf(*info.pForegroundBitmapInfo);
     const char* const color = look_.kind == ScreenKind::blue ? "blue" : "green";
     const char* const other = look_.kind == ScreenKind::blue ? "green" : "blue";
@@ -92,28 +77,37 @@ void PictureCheck::tellScreen(const SystemInfo& info, std::vector<PictureWarning
     if (changedScreen_) {
         warnings.push_back({"other-screen", "The screen of " + name + " is " + color + ", not " + other +
                                                 "; it is taken as " + color + "."});
-    } else if (info.bUseBlueLogic != (look_.kind == ScreenKind::blue)) {
+    } else if (measures[MatteMeasure::otherScreen] > 0.0) {
         warnings.push_back(
             {"other-screen", "The screen of " + name + " is " + color + ", and it is keyed as " + other + "."});
     }
-    if (look_.level < kDarkScreen) warnings.push_back({"dark-screen", "The screen of " + name + " is very dark."});
-    if (look_.washedOut > kWashedOutScreen)
+    if (measures[MatteMeasure::darkScreen] > kDarkScreen)
+        warnings.push_back({"dark-screen", "The screen of " + name + " is very dark."});
+    if (measures[MatteMeasure::overexposed] > kWashedOutScreen)
         warnings.push_back({"overexposed-screen", "The screen of " + name + " is overexposed."});
-    if (look_.spread > kUnevenScreen)
+    if (measures[MatteMeasure::uneven] > kUnevenScreen)
         warnings.push_back({"uneven-screen", "The screen of " + name + " is lit very unevenly."});
 }
 
-std::vector<PictureWarning> PictureCheck::warnings(const SystemInfo& info, Resolution resolution) const {
+std::optional<Judgement> PictureCheck::judge(const SystemInfo& info, Resolution resolution) const {
+    const PassGeometry size = info.geometry(resolution);
+    const std::optional<MatteMap> map = info.bShowOrgImage ? std::nullopt : mapMatte(info, resolution);
+    if (!map) return std::nullopt;
+    return tavrin::judge(measureMatte(info, *map, look_), QSize(size.width, size.height), map->step);
+}
+
+std::vector<PictureWarning> PictureCheck::warnings(const SystemInfo& info,
+                                                   const std::optional<Judgement>& judgement) const {
     std::vector<PictureWarning> warnings;
-    const bool isKeyed = !info.bShowOrgImage;
     const BitmapInfo& portrait = *info.pForegroundBitmapInfo;
-    if (isKeyed) {
-        tellScreen(info, warnings);
-        const double subject = shareOfSubject(info, resolution);
-        if (subject < kNearlyEmpty) {
-            warnings.push_back({"empty", subject > 0.0 ? "Next to nothing of " + nameOf(portrait) + " is left."
-                                                       : "Nothing of " + nameOf(portrait) + " is left."});
-        } else if (look_.isScreen() && info.iGreenProtectMode == 0 && greenClothes(info) > kClothes) {
+    if (judgement) {
+        const MatteMeasures& measures = judgement->measures;
+        tellScreen(info, measures, warnings);
+        if (measures[MatteMeasure::nothing] > 0.0) {
+            warnings.push_back({"empty", measures.subject > 0.0
+                                             ? "Next to nothing of " + nameOf(portrait) + " is left."
+                                             : "Nothing of " + nameOf(portrait) + " is left."});
+        } else if (measures[MatteMeasure::clothes] > kClothes) {
             warnings.push_back({"clothes", "Something on the subject of " + nameOf(portrait) +
                                                " has the screen's hue and may have holes."});
         }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/state/SystemInfo.h"
 #include "key/screen/ScreenLook.h"
+#include "pipeline/Judgement.h"
 
 namespace tavrin {
 
@@ -24,12 +26,17 @@ class PictureCheck {
     /// To be called when the portrait's file was read, before its screen is measured.
     void lookAtPortrait(SystemInfo& info, const QImage& portrait);
 
-    /// What there is to say of a finished picture.
+    /// How sure it is that the matte of a finished picture is good; nothing when no key ran.
     /// @param resolution of the picture. Its key must have run on the preview too for a word about clothes.
-    std::vector<PictureWarning> warnings(const SystemInfo& info, Resolution resolution) const;
+    std::optional<Judgement> judge(const SystemInfo& info, Resolution resolution) const;
+
+    /// What there is to say of a finished picture.
+    /// @param judgement of `judge`
+    std::vector<PictureWarning> warnings(const SystemInfo& info, const std::optional<Judgement>& judgement) const;
 
   private:
-    void tellScreen(const SystemInfo& info, std::vector<PictureWarning>& warnings) const;
+    void tellScreen(const SystemInfo& info, const MatteMeasures& measures,
+                    std::vector<PictureWarning>& warnings) const;
 
     const bool mayChooseScreen_;
     bool changedScreen_ = false;

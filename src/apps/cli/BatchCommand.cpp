@@ -8,6 +8,7 @@
 #include "apps/cli/CommonPlace.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/PictureOptions.h"
+#include "apps/cli/SheetCommand.h"
 #include "apps/cli/Usage.h"
 #include "core/Interruption.h"
 #include "core/files/FileIdentity.h"
@@ -228,6 +229,7 @@ void addReportCommand(CLI::App& app, int& result) {
         "\nExample:\n  tavrin-cli report merge --out all.jsonl part-*.jsonl\n\n"
         "Exit codes: 0 every picture is there, 1 some failed or are left, 2 wrong usage.");
     merge->callback([=, &result] { result = mergeCommand(*out, *reports); });
+    addSheetCommand(*report, result);
 }
 
 }  // namespace tavrin::cli

@@ -26,6 +26,7 @@
 #include "core/state/SystemInfo.h"
 #include "core/text/TextLayers.h"
 #include "farm/BatchReport.h"
+#include "farm/JudgementText.h"
 #include "formats/ImageState.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/SaveImage.h"
@@ -121,10 +122,15 @@ void compute(SystemInfo& info, const RenderOptions& options) {
     }
 }
 
-QJsonObject describe(const SystemInfo& info, const RenderOptions& options,
-                     const std::vector<PictureWarning>& warnings, double seconds) {
+/// What there is to say about a picture that stands.
+struct Said {
+    std::vector<PictureWarning> warnings;
+    std::optional<Judgement> judgement;
+};
+
+QJsonObject describe(const SystemInfo& info, const RenderOptions& options, const Said& said, double seconds) {
     const bool full = !options.preview;
-    return {
+    QJsonObject object{
         {"out", textOfName(options.out)},
         {"width", full ? info.iOutputPixelWidth.load() : info.iOutputPixelLowResWidth.load()},
         {"height", full ? info.iOutputPixelHeight.load() : info.iOutputPixelLowResHeight.load()},
@@ -133,8 +139,10 @@ QJsonObject describe(const SystemInfo& info, const RenderOptions& options,
         {"baseGreen", info.baseGreen.load()},
         {"baseBlue", info.baseBlue.load()},
         {"seconds", seconds},
-        {"warnings", describeWarnings(warnings)},
+        {"warnings", describeWarnings(said.warnings)},
     };
+    if (said.judgement) addJudgement(object, *said.judgement);
+    return object;
 }
 
 /// What renders left that were killed while they wrote beside these files.
@@ -147,15 +155,13 @@ void removeAbandonedParts(const std::set<std::string>& targets) {
         AtomicFile::removeAbandonedParts(folder);
 }
 
-/// What there is to say about a picture that stands.
-std::vector<PictureWarning> tellWarnings(const SystemInfo& info, const RenderOptions& options,
-                                         const PictureCheck& check) {
-    std::vector<PictureWarning> warnings = rangeWarnings(options.picture);
-    for (PictureWarning& warning : check.warnings(info, fullIf(!options.preview)))
-        warnings.push_back(std::move(warning));
-    for (const PictureWarning& warning : warnings)
+Said tellWarnings(const SystemInfo& info, const RenderOptions& options, const PictureCheck& check) {
+    Said said{rangeWarnings(options.picture), check.judge(info, fullIf(!options.preview))};
+    for (PictureWarning& warning : check.warnings(info, said.judgement))
+        said.warnings.push_back(std::move(warning));
+    for (const PictureWarning& warning : said.warnings)
         warn(withAdvice(warning));
-    return warnings;
+    return said;
 }
 
 /// @return whether all files of the picture were written; what could not be was told
@@ -194,10 +200,9 @@ std::string sizeText(const SystemInfo& info, const RenderOptions& options) {
 }
 
 /// What was made, for a program or for people.
-void tellMade(const SystemInfo& info, const RenderOptions& options, const std::vector<PictureWarning>& warnings,
-              double seconds) {
+void tellMade(const SystemInfo& info, const RenderOptions& options, const Said& said, double seconds) {
     if (options.json) {
-        printJson(QJsonDocument(describe(info, options, warnings, seconds)), true);
+        printJson(QJsonDocument(describe(info, options, said, seconds)), true);
     } else if (!isQuiet()) {
         char took[32];
         std::snprintf(took, sizeof took, ", in %.1f s", seconds);
@@ -232,11 +237,11 @@ int render(RenderOptions options) {
         if (!console.hadAlert()) complain(problem + ".");
         return kFailed;
     }
-    const std::vector<PictureWarning> warnings = tellWarnings(*info, options, check);
+    const Said said = tellWarnings(*info, options, check);
     if (!save(*info, options)) return kFailed;
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
     if (sends && !sendFile(options.out)) return kFailed;
-    if (!sends) tellMade(*info, options, warnings, taken.count());
+    if (!sends) tellMade(*info, options, said, taken.count());
     return console.hadAlert() ? kFailed : kDone;  // the picture is saved, but something in it is missing
 }
 

@@ -82,8 +82,8 @@ int main(int argc, char** argv) {
     addCommonOptions(app);
     std::unique_ptr<QCoreApplication> application;
     app.parse_complete_callback([&] {
-        const bool draws = app.got_subcommand("render") || app.got_subcommand("batch") || app.got_subcommand("print");
-        application = startLibraries(draws);
+        const bool drawsSheet = app.got_subcommand("print") || app.get_subcommand("report")->got_subcommand("sheet");
+        application = startLibraries(app.got_subcommand("render") || app.got_subcommand("batch") || drawsSheet);
     });
     try {
         app.parse(argc, argv);
