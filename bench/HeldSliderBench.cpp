@@ -36,7 +36,7 @@ class WaitingView : public Interface {
         previewUnderWork_ = true;
     }
     void repaint(const PublishedRows& rows) override {
-        if (!rows.lowRes) return;
+        if (!rows.isPreview()) return;
         const auto now = Clock::now();
         ++previews;
         longestPass = std::max(longestPass, Milliseconds(now - passBegan_));

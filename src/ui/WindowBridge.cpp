@@ -18,7 +18,7 @@ void WindowBridge::repaint(const PublishedRows& rows) {
         std::lock_guard lock(mutex_);
         first = pending_.empty();
         // A new preview, or the whole full picture, makes everything before it stale; rows of an edit belong to it.
-        if (!rows.edited && (rows.lowRes || rows.rowCount == rows.height)) pending_.clear();
+        if (!rows.edited && (rows.isPreview() || rows.rowCount == rows.height)) pending_.clear();
         pending_.push_back(rows);
     }
     if (first) emit published();

@@ -19,7 +19,7 @@ class CountingInterface : public Interface {
   public:
     void enableControls(bool enabled, bool) override { ++(enabled ? enabled_ : disabled_); }
     void repaint(const PublishedRows& rows) override {
-        if (rows.lowRes) {
+        if (rows.isPreview()) {
             ++previews_;
         } else if (rows.rowCount == rows.height) {
             ++fulls_;
@@ -120,7 +120,7 @@ TEST_F(CombineThreadTest, ANewerRequestStopsTheFullPicture) {
     const int fulls = view_.fulls_;
     bool asked = false;
     view_.onRepaint = [&](const PublishedRows& rows) {
-        if (rows.lowRes || asked) return;
+        if (rows.isPreview() || asked) return;
         asked = true;
         info_->StartUpdate();
     };

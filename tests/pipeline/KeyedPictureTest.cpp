@@ -22,7 +22,7 @@ class View : public Interface {
     explicit View(bool keeps) : keeps_(keeps) {}
     bool wantsPixels() const override { return keeps_; }
     void repaint(const PublishedRows& rows) override {
-        if (!rows.lowRes && rows.rowCount < rows.height) ++parts;
+        if (!rows.isPreview() && rows.rowCount < rows.height) ++parts;
         if (onRepaint) onRepaint(rows);
     }
     void showAlert(const std::string& message, const std::string&) override { alerts.push_back(message); }
@@ -373,7 +373,7 @@ TEST_F(KeyedPictureTest, AKeyThatWasGivenUpIsNotTakenUp) {
     for (const int last : {1, 4, 8}) {
         int seen = 0;
         reusing_.view.onRepaint = [&](const PublishedRows& rows) {
-            if (rows.lowRes || rows.rowCount == rows.height || ++seen != last) return;
+            if (rows.isPreview() || rows.rowCount == rows.height || ++seen != last) return;
             reusing_.info->pCombinedBitmapInfo->sliderTransparentcyAdjustment = 100;
             reusing_.info->StartUpdate();
         };
@@ -394,7 +394,7 @@ TEST_F(KeyedPictureTest, EveryMoveOfAHeldSliderGetsAPreview) {
     int previews = 0, shown = 0, moves = 0;
     Field<std::int32_t>& slider = reusing_.info->pForegroundBitmapInfo->iBrightness;
     reusing_.view.onRepaint = [&](const PublishedRows& rows) {
-        ASSERT_TRUE(rows.lowRes) << "a full picture that was no longer wanted";
+        ASSERT_TRUE(rows.isPreview()) << "a full picture that was no longer wanted";
         ++previews;
         shown = slider;
         if (moves == 20) return reusing_.view.onRepaint = nullptr, void();

@@ -79,12 +79,12 @@ TEST_F(LoopJobsTest, AnEditRunsWithoutAPassAndShowsItsRowsAlone) {
     EXPECT_EQ(loop_->iterate(), CombineThread::Turn::idle);
     ASSERT_EQ(view_.all.size(), 3u) << "no pass, and nothing for rows that are not there";
     const PublishedRows& rows = view_.all[0];
-    EXPECT_TRUE(rows.edited && !rows.lowRes);
+    EXPECT_TRUE(rows.edited && !rows.isPreview());
     EXPECT_EQ(rows.firstRow, 40);
     EXPECT_EQ(rows.height, 300);
     EXPECT_EQ(rows.pixels.size(), QSize(240, 3));
     EXPECT_EQ(rows.pixels.pixelColor(239, 2), QColor(77, 77, 77, 77));
-    EXPECT_TRUE(view_.all[1].edited && view_.all[1].lowRes);
+    EXPECT_TRUE(view_.all[1].edited && view_.all[1].isPreview());
     EXPECT_EQ(view_.all[1].firstRow, 0);
     EXPECT_EQ(view_.all[1].rowCount, 2);
     EXPECT_EQ(view_.all[2].rowCount, 1);
@@ -182,7 +182,7 @@ TEST_F(LoopJobsTest, OneIdleJobRunsAtATimeAndARequestComesBetweenItsSteps) {
     };
     second.onStep = [&] { order += '2'; };
     view_.onRepaint = [&] {
-        if (view_.all.back().lowRes) order += 'p';
+        if (view_.all.back().isPreview()) order += 'p';
     };
     for (int i = 0; i < 8; ++i)
         loop_->iterate();

@@ -64,7 +64,7 @@ Console::~Console() {
 
 void Console::repaint(const PublishedRows& rows) {
     if (!isTerminal_ || rows.height < 1) return;
-    if (rows.lowRes) {
+    if (rows.isPreview()) {
         std::fputs("\r\033[Kpreview done", stderr);
     } else {
         std::fprintf(stderr, "\r\033[K%3d %%", (rows.firstRow + rows.rowCount) * 100 / rows.height);

@@ -5,6 +5,8 @@
 
 #include <QImage>
 
+#include "core/state/Resolution.h"
+
 namespace tavrin {
 
 /// A part of the picture for the view. The pixels are the receiver's own copy: the engine goes on writing to its
@@ -13,8 +15,10 @@ struct PublishedRows {
     QImage pixels;                   ///< the rows, RGBA, alpha as the buffer holds it
     int firstRow = 0, rowCount = 0;  ///< where they belong
     int height = 0;                  ///< height of the whole picture; its width is that of `pixels`
-    bool lowRes = false;             ///< the preview, not the full picture
-    bool edited = false;             ///< no pass made them: they change rows of the picture that stands
+    Resolution resolution = Resolution::full;
+    bool edited = false;  ///< no pass made them: they change rows of the picture that stands
+
+    bool isPreview() const { return resolution == Resolution::preview; }
 };
 
 /// All that the engine asks of a window. Every operation may be called from the processing thread and must not

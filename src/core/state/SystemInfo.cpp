@@ -86,7 +86,7 @@ void SystemInfo::publishFull(int firstRow, int lastRow) {
 void SystemInfo::publishLowRes() {
     PublishedRows rows;
     rows.rowCount = iOutputPixelLowResHeight;
-    rows.lowRes = true;
+    rows.resolution = Resolution::preview;
     publish(std::move(rows), {});
 }
 
@@ -94,14 +94,14 @@ void SystemInfo::publishEdited(Resolution resolution, int firstRow, int lastRow)
     PublishedRows rows;
     rows.firstRow = std::max(firstRow, 0);
     rows.rowCount = std::min(lastRow, geometry(resolution).height) - rows.firstRow;
-    rows.lowRes = resolution == Resolution::preview;
+    rows.resolution = resolution;
     rows.edited = true;
     publish(std::move(rows), {});
 }
 
 /// Fills in the rows' pixels, where they are wanted, and hands them over.
 void SystemInfo::publish(PublishedRows rows, const RunContext& run) {
-    const PixelView picture = pixels(*pCombinedBitmapInfo, rows.lowRes ? Resolution::preview : Resolution::full);
+    const PixelView picture = pixels(*pCombinedBitmapInfo, rows.resolution);
     if (!pInterface || !picture.bytes || rows.rowCount < 1) return;
     if (pInterface->wantsPixels()) {
         rows.pixels = newPicture(picture.width, rows.rowCount, QImage::Format_RGBA8888);

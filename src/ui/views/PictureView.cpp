@@ -58,8 +58,8 @@ void PictureView::show(const PublishedRows& rows) {
 }
 
 void PictureView::takeRows(const PublishedRows& rows) {
-    if (rows.edited) return putRows(rows.lowRes ? preview_ : full_, rows);
-    if (rows.lowRes) {
+    if (rows.edited) return putRows(rows.isPreview() ? preview_ : full_, rows);
+    if (rows.isPreview()) {
         preview_ = rows.pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied);
         fullRows_ = 0;
         return;
