@@ -24,23 +24,27 @@ namespace tavrin {
 namespace {
 
 constexpr int kCell = 400, kGap = 12, kLine = 18, kCaption = 4 * kLine, kColumns = 4, kDpi = 100;
+constexpr std::size_t kReasons = 3;
 
 struct Entry {
     std::string path, name;
     Judgement judgement;
 };
 
-/// Name and number, and as many reasons as there is room for.
+/// Name and number, and the heaviest reasons.
 void writeCaption(QPainter& painter, const QRect& cell, const Entry& entry) {
     const QRect first(cell.left(), cell.bottom() + 4, cell.width(), kLine);
     const QString name = painter.fontMetrics().elidedText(textOfName(entry.name), Qt::ElideMiddle, kCell - 50);
     painter.drawText(first, Qt::AlignLeft, name);
     painter.drawText(first, Qt::AlignRight, QString::number(entry.judgement.confidence));
     QString reasons;
-    for (const Doubt& doubt : entry.judgement.doubts)
-        reasons += (reasons.isEmpty() ? "" : "; ") + textOfName(doubt.text);
-    painter.drawText(QRect(first.left(), first.bottom() + 1, kCell, kCaption - kLine),
-                     Qt::AlignLeft | Qt::TextWordWrap, reasons);
+    const std::vector<Doubt>& doubts = entry.judgement.doubts;
+    for (std::size_t i = 0; i < std::min(doubts.size(), kReasons); ++i)
+        reasons += (i == 0 ? "" : "; ") + textOfName(doubts[i].text);
+    const QRect below(first.left(), first.bottom() + 1, kCell, kCaption - kLine);
+    painter.setClipRect(below);
+    painter.drawText(below, Qt::AlignLeft | Qt::TextWordWrap, reasons);
+    painter.setClipping(false);
 }
 
 /// The place in doubt, one to one; all of the picture, smaller, where it is everywhere.

@@ -75,7 +75,8 @@ Judgement judge(const MatteMeasures& measures, QSize size, int step) {
         if (loss <= heaviest) continue;
         heaviest = loss;
         const QPoint middle = measures.places[static_cast<std::size_t>(rule.measure)] * step;
-        judgement.place = rule.hasPlace ? squareAround(middle, size) : QRect(QPoint(0, 0), size);
+        const bool hasPlace = rule.hasPlace && !middle.isNull();
+        judgement.place = hasPlace ? squareAround(middle, size) : QRect(QPoint(0, 0), size);
     }
     std::stable_sort(judgement.doubts.begin(), judgement.doubts.end(),
                      [](const Doubt& a, const Doubt& b) { return a.loss > b.loss; });

@@ -328,8 +328,12 @@ class Measurer {
 
 MatteMeasures measureMatte(const SystemInfo& info, const MatteMap& map, const ScreenLook& look) {
     MatteMeasures found = Measurer(info, map).measure(look);
-    if (look.isScreen() && info.iGreenProtectMode == 0 && found.subject >= kNearlyEmpty)
+    if (look.isScreen() && info.iGreenProtectMode == 0 && found.subject >= kNearlyEmpty) {
         found[MatteMeasure::clothes] = greenClothes(info);
+        // Clothes are half transparent more often than gone.
+        found.place(MatteMeasure::clothes) =
+            found.place(found[MatteMeasure::undecided] > 0.0 ? MatteMeasure::undecided : MatteMeasure::unlike);
+    }
     return found;
 }
 

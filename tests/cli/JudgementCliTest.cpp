@@ -59,11 +59,11 @@ QList<QJsonObject> linesOf(const QString& text) {
 class JudgementCliTest : public testing::Test {
   protected:
     QString file(const std::string& name) const { return QString::fromStdString(folder_.file(name)); }
-    QJsonObject judged(const QImage& image, const QStringList& more = {}) const {
+    QJsonObject judged(const QImage& image, const QStringList& more = {}, const QString& dpi = "64") const {
         test::savePng(image, folder_.file("portrait.png"));
         const test::CliOutcome done = test::runCli(
             QStringList{"render", "--foreground", file("portrait.png"), "--background", background_, "--out",
-                        file("out.png"), "--inches", "5x6", "--dpi", "64", "--place", "corner", "--json"} +
+                        file("out.png"), "--inches", "5x6", "--dpi", dpi, "--place", "corner", "--json"} +
             more);
         EXPECT_EQ(done.code, 0) << done.err.toStdString();
         return QJsonDocument::fromJson(done.out.toUtf8()).object();
@@ -132,6 +132,16 @@ TEST_F(JudgementCliTest, PointsAtThePlace) {
     });
     ASSERT_NE(dark, doubts.end()) << QJsonDocument(line).toJson().toStdString();
     EXPECT_EQ(dark->toObject()["text"].toString(), "the screen is very dark in the lower left corner");
+
+    // A shirt in the screen's hue, seen at four times the size: the place is on it.
+    const QJsonObject shirt =
+        judged(portrait(kGreen, QColor(30, 115, 45)).scaled(4 * kWidth, 4 * kHeight), {}, "256");
+    const QJsonObject place = shirt["place"].toObject();
+    const QRect rect(place["x"].toInt(), place["y"].toInt(), place["width"].toInt(), place["height"].toInt());
+    EXPECT_EQ(rect.size(), QSize(400, 400));
+    EXPECT_TRUE(rect.intersects(QRect(240, 780, 4 * kWidth - 480, 756)))
+        << QJsonDocument(shirt).toJson().toStdString();
+    EXPECT_GT(rect.center().y(), 2 * kHeight);
 }
 
 TEST_F(JudgementCliTest, ABatchRemembersAndReportsTheWorstFirst) {

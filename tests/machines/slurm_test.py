@@ -174,7 +174,7 @@ def check(cli, work):
                             capture_output=True, text=True)
     print(merged.stdout.strip(), merged.stderr.strip())
     lines = [json.loads(line) for line in (work / "report.jsonl").read_text().splitlines()]
-    numbers = [line["n"] for line in lines if "n" in line]
+    numbers = sorted(line["n"] for line in lines if "n" in line)  # the worst come first
     made = [json.loads(line)["name"] for path in (work / "array" / ".tavrin-batch").glob("*.jsonl")
             for line in path.read_text().splitlines() if '"done"' in line]
     print(f"{len(made)} times a picture was made, {len(left)} half-written file(s) of the killed task are hidden.")
