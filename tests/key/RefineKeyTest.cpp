@@ -301,7 +301,7 @@ TEST(RefineKey, TakesFineDetailFromTheBrightness) {
     EXPECT_FALSE(scene.background == usual);
 }
 
-TEST(RefineKey, GlowAndReflectionTakeItsAlpha) {
+TEST(RefineKey, GlowTakesItsAlpha) {
     DiscScene scene;
     scene.info.iLightingMode = 4;
     scene.info.iLightingSliderSize = 30;
