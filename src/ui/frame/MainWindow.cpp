@@ -11,6 +11,7 @@
 #include "core/files/StandardPath.h"
 #include "formats/SettingsFile.h"
 #include "pipeline/SubjectPlace.h"
+#include "session/Freeze.h"
 #include "ui/WindowSettings.h"
 #include "ui/views/LayerPictures.h"
 
@@ -221,6 +222,24 @@ bool MainWindow::saveTo(const QString& path) {
     }
     tellProgress();
     return taken;
+}
+
+void MainWindow::freeze() {
+    loop_->edit([this]() -> std::vector<ChangedRows> {
+        if (const std::string problem = freezeBackground(info_); !problem.empty()) {
+            emit bridge_.failed(tr("The picture is not frozen."), QString::fromStdString(problem));
+            return {};
+        }
+        info_.StartUpdate();
+        emit bridge_.placed();
+        return {};
+    });
+}
+
+void MainWindow::clearFreeze() {
+    tavrin::clearFreeze(info_);
+    info_.StartUpdate();
+    showState();
 }
 
 void MainWindow::endSave(const QString& path, bool done) {

@@ -81,6 +81,8 @@ class MainWindow : public QMainWindow {
     void askForStateToOpen();
     void askForStateToSave();
     void askForSave();
+    void freeze();
+    void clearFreeze();
     void endSave(const QString& path, bool done);
     void takePublished();
     void showState();
