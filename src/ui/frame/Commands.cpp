@@ -13,6 +13,16 @@
 
 namespace tavrin {
 
+namespace {
+
+// The menus as the tables name them.
+[[maybe_unused]] constexpr const char* kMenus[] = {
+    QT_TRANSLATE_NOOP("Menu", "&File"),    QT_TRANSLATE_NOOP("Menu", "&Edit"), QT_TRANSLATE_NOOP("Menu", "&View"),
+    QT_TRANSLATE_NOOP("Menu", "&Picture"), QT_TRANSLATE_NOOP("Menu", "&Help"),
+};
+
+}  // namespace
+
 Commands::Commands(QMainWindow& window, std::vector<Command> table)
     : QObject(&window), window_(window), table_(std::move(table)) {
     for (const Command& command : table_)

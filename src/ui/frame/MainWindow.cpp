@@ -100,7 +100,7 @@ void MainWindow::connectBridge() {
         &bridge_, &WindowBridge::controlsEnabled, this,
         [this](bool enabled, bool hostApplication) {
             finished_ = enabled;
-            commands_->action("Save")->setText(hostApplication ? "Return To Lightroom" : "Save");
+            commands_->action("Save")->setText(hostApplication ? tr("Return To Lightroom") : tr("Save"));
             commands_->refresh();
             tellProgress();
             if (enabled && info_.bShowAlpha) showOther();  // that of the new picture
