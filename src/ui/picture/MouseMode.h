@@ -1,28 +1,34 @@
 #pragma once
 
+#include <QButtonGroup>
 #include <QWidget>
+
+#include "core/state/SystemInfo.h"
 
 namespace tavrin {
 
-/// What a drag on the picture does: move or scale, the portrait or the background.
+/// What a drag on the picture does: moves or scales the portrait, the background, or a selected text or picture. The
+/// choice is the state's `iEventMouseMode`.
 class MouseMode : public QWidget {
     Q_OBJECT
 
   public:
-    explicit MouseMode(QWidget* parent = nullptr);
-    bool scales() const { return scales_; }
-    bool background() const { return background_; }
+    static constexpr int kPortrait = 1, kBackground = 2, kText = 3;
+
+    explicit MouseMode(SystemInfo& info, QWidget* parent = nullptr);
+    int iEventMouseAction() const { return action_.checkedId(); }  ///< 1 move, 2 scale
+    int iEventMouseTarget() const { return target_.checkedId(); }
+    /// 1 and 2 move and scale the portrait, 3 and 4 the background, 5 and 6 a text.
+    int iEventMouseMode() const { return 2 * (iEventMouseTarget() - 1) + iEventMouseAction(); }
 
   private:
     struct Button {
-        const char* name;
+        const char *name, *key;
         QString text, toolTip;
-        bool* value;
-        bool on;
     };
-    void addPair(const Button& first, const Button& second);
+    void addButton(QButtonGroup& group, const Button& entry);
 
-    bool scales_ = false, background_ = false;
+    QButtonGroup action_, target_;
 };
 
 }  // namespace tavrin
