@@ -61,7 +61,9 @@ void Commands::add(const Command& command) {
         action->setShortcut(command.shortcut);
         const auto run = command.run;
         if (action->isCheckable()) {
-            connect(action, &QAction::toggled, this, run);
+            connect(action, &QAction::toggled, this, [this, run](bool on) {
+                if (!refreshing_) run(on);
+            });
         } else {
             connect(action, &QAction::triggered, this, [run] { run(true); });
         }
@@ -87,8 +89,12 @@ QMenu* Commands::menu(const QString& title) const {
 }
 
 void Commands::refresh() {
-    for (const Command& command : table_)
+    refreshing_ = true;
+    for (const Command& command : table_) {
         if (command.enabledWhen) action(command.id)->setEnabled(command.enabledWhen());
+        if (command.checkedWhen) action(command.id)->setChecked(command.checkedWhen());
+    }
+    refreshing_ = false;
 }
 
 bool Commands::eventFilter(QObject* watched, QEvent* event) {
@@ -128,6 +134,8 @@ void Commands::showShortcuts() {
         if (!command.shortcut.isEmpty()) line(command.shortcut.toString(QKeySequence::NativeText), command.text);
     line(tr("Arrows"), tr("Move a slider; with Shift finer, with Ctrl coarser"));
     line(tr("Delete"), tr("Put the default of a slider back"));
+    line(tr("Arrows on the picture"), tr("Move what is shown; with Shift by a point"));
+    line(tr("Arrows on the line between before and after"), tr("Move the line"));
     line(tr("Wheel"), tr("Zoom about the pointer"));
     line(tr("Space or middle button"), tr("Hold and drag to move the picture"));
     list->resizeColumnToContents(0);
