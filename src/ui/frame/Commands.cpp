@@ -119,6 +119,7 @@ void Commands::showShortcuts() {
     line(tr("Arrows"), tr("Move a slider; with Shift finer, with Ctrl coarser"));
     line(tr("Delete"), tr("Put the default of a slider back"));
     line(tr("Wheel"), tr("Zoom about the pointer"));
+    line(tr("Left, Right"), tr("On the picture or the strip: open the portrait before, or the next one"));
     line(tr("Space or middle button"), tr("Hold and drag to move the picture"));
     list->resizeColumnToContents(0);
     auto* layout = new QVBoxLayout(dialog);

@@ -1,4 +1,7 @@
 // How the main window is laid out, and what its status line says.
+#include <algorithm>
+#include <iterator>
+
 #include <QButtonGroup>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -40,12 +43,15 @@ void MainWindow::layOut() {
     column->addWidget(view_, 1);
     setCentralWidget(middle);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
-    commands_ = new Commands(*this, commandTable(*this));
+    std::vector<Command> table = commandTable(*this);
+    std::ranges::move(stripCommands(*this), std::back_inserter(table));
+    commands_ = new Commands(*this, std::move(table));
     auto* recent = new QMenu(tr("Open &Recent"), this);
     recent->setObjectName("recentFiles");
     recent->setToolTipsVisible(true);
     commands_->menu("&File")->insertMenu(commands_->action("Save"), recent);
     column->addWidget(makeViewBar());
+    column->addWidget(strip_);
     makeToolBar();
     makeStatusLine();
     view_->setFocus();
