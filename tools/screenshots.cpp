@@ -1,12 +1,15 @@
 // Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1 and 2, with the
-// groups as they are at first, all open, and a message; file names say which is which.
+// groups as they are at first, all open, a message, and a folder in the strip; file names say which is which.
 #include <cstdio>
 
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLineEdit>
+#include <QPainter>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include "SampleState.h"
 #include "ui/frame/MainWindow.h"
@@ -45,6 +48,42 @@ FontObject title() {
     text.xPos = 2.0;
     text.yPos = 4.2;
     return text;
+}
+
+/// A folder of portraits and one of backgrounds, told apart by their light.
+void fillFolders(const QString& portraits, const QString& backgrounds) {
+    const auto fill = [](const QString& folder, const char* sample, int count) {
+        QDir().mkpath(folder);
+        const QImage picture = QImage(sample).scaled(600, 600, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        for (int i = 0; i < count; ++i) {
+            QImage other = picture;
+            QPainter painter(&other);
+            painter.fillRect(other.rect(), QColor::fromHsv(30 * i % 360, 120, 255, 18 * (i % 4)));
+            painter.end();
+            other.save(QString("%1/IMG_%2.jpg").arg(folder).arg(i + 1, 4, 10, QChar('0')));
+        }
+    };
+    fill(portraits, TAVRIN_SOURCE_DIR "/data/sample/portrait.jpg", 30);
+    fill(backgrounds, TAVRIN_SOURCE_DIR "/data/sample/background.jpg", 6);
+}
+
+/// A folder that is looked through: some portraits marked, one that cannot be read.
+void showFolder(MainWindow& window, SystemInfo& info, const QString& folder) {
+    fillFolders(folder + "/portraits", folder + "/backgrounds");
+    QFile(folder + "/portraits/IMG_0006.jpg").resize(9);
+    info.oQLXInfo->sPickDirectory = (folder + "/backgrounds").toStdString();
+    window.openFolder(folder + "/portraits");
+    QElapsedTimer time;
+    for (time.start(); window.strip()->portraits()->list().paths().size() != 30 && time.elapsed() < 10000;)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    const auto marks = {PictureMark::keep, PictureMark::keep, PictureMark::lookAgain, PictureMark::reject};
+    for (const PictureMark mark : marks) {
+        window.strip()->mark(mark);
+        if (mark != PictureMark::reject) window.strip()->walk(1);
+    }
+    window.openBackground(folder + "/backgrounds/IMG_0002.jpg");
+    for (time.restart(); time.elapsed() < 1500;)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
 }
 
 /// @return whether every picture was written
@@ -99,6 +138,10 @@ bool shootAll(const QString& folder, const QString& scale) {
         for (GroupBox* group : window.panel()->groups())
             group->setFolded(group->group().name != std::string_view("groupPlace"));
         save("item");
+        info->oFontObject.clear();
+        const QTemporaryDir pictures;
+        showFolder(window, *info, pictures.path());
+        save("strip");
     }
     return all;
 }

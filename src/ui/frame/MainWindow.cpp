@@ -39,6 +39,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       binder_(editor_),
       files_(new PictureFiles(info, *loop_, bridge_, this)),
       view_(new PictureView),
+      strip_(new Strip(info, this)),
       messages_(new MessageBar),
       panel_(new SidePanel(binder_, this)),
       sizeBox_(new SizeBox(info)),
@@ -49,6 +50,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     layOut();
     connectParts();
     connectBridge();
+    connectStrip();
     comeBack();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
@@ -130,6 +132,7 @@ void MainWindow::showState() {
     finished_ = false;
     binder_.UpdateAllUI();
     sizeBox_->updateComboBoxImageSize();
+    strip_->follow();
     view_->setTransparent(info_.bOutputTransparency);
     commands_->refresh();
     tellUndo();
@@ -145,6 +148,7 @@ void MainWindow::refillRecentFiles() {
 }
 
 void MainWindow::openFile(const QString& path) {
+    if (isFolder(path)) return openFolder(path);
     isStateFile(path) ? openState(path) : openForeground(path);
 }
 
@@ -305,12 +309,17 @@ void MainWindow::dropEvent(QDropEvent* event) {
     const QStringList files = localFiles(event->mimeData());
     if (files.isEmpty()) return;
     event->acceptProposedAction();
+    const bool onPortrait = view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) ==
+                            PictureView::DropZone::foreground;
     // Two files are a pair: portrait and background.
-    if (files.size() >= 2) {
+    if (isFolder(files[0])) {
+        dropFolder(files[0], !onPortrait);
+    } else if (files.size() > 2) {
+        openPictures(files);
+    } else if (files.size() == 2) {
         openForeground(files[0]);
         openBackground(files[1]);
-    } else if (isStateFile(files[0]) || view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) ==
-                                            PictureView::DropZone::foreground) {
+    } else if (isStateFile(files[0]) || onPortrait) {
         openFile(files[0]);
     } else {
         openBackground(files[0]);

@@ -13,6 +13,7 @@
 #include "ui/frame/SidePanel.h"
 #include "ui/frame/SizeBox.h"
 #include "ui/picture/PictureTools.h"
+#include "ui/strip/Strip.h"
 #include "ui/views/PictureView.h"
 
 class QLabel;
@@ -35,8 +36,11 @@ class MainWindow : public QMainWindow {
     /// Loads every setting and both pictures from a state file. One that cannot be read is told and changes nothing.
     void openState(const QString& path);
     void saveState(const QString& path);
-    /// Opens a file by its kind: a state file, or a picture for the portrait.
+    /// Opens a file by its kind: a state file, a picture for the portrait, or a folder of portraits.
     void openFile(const QString& path);
+    /// Fills the strip with a folder's pictures, or with these, and opens the first one.
+    void openFolder(const QString& folder);
+    void openPictures(const QStringList& paths);
     /// Has the full picture that stands saved. The window tells when it is done, or why it is not.
     /// @return false when there is no finished picture
     bool saveTo(const QString& path);
@@ -50,6 +54,7 @@ class MainWindow : public QMainWindow {
     SizeBox* sizeBox() const { return sizeBox_; }
     SidePanel* panel() const { return panel_; }
     PictureTools* pictureTools() const { return tools_; }
+    Strip* strip() const { return strip_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
     Commands& commands() { return *commands_; }
@@ -65,6 +70,7 @@ class MainWindow : public QMainWindow {
 
   private:
     friend std::vector<Command> commandTable(MainWindow& window);
+    friend std::vector<Command> stripCommands(MainWindow& window);
 
     void layOut();
     void makeToolBar();
@@ -72,6 +78,10 @@ class MainWindow : public QMainWindow {
     void connectParts();
     void connectMaps();
     void connectBridge();
+    void connectStrip();
+    void askForFolder();
+    void askForPickDirectory();
+    void dropFolder(const QString& folder, bool onBackground);
     void comeBack();
     void refillRecentFiles();
     void frameNewPortraits(bool wanted);
@@ -99,6 +109,7 @@ class MainWindow : public QMainWindow {
     Binder binder_;
     PictureFiles* files_;
     PictureView* view_;
+    Strip* strip_;
     MessageBar* messages_;
     SidePanel* panel_;
     SizeBox* sizeBox_;
@@ -113,5 +124,7 @@ class MainWindow : public QMainWindow {
 
 /// Everything that the window does by itself, in the order of its menus.
 std::vector<Command> commandTable(MainWindow& window);
+/// What the strip below the picture adds to it.
+std::vector<Command> stripCommands(MainWindow& window);
 
 }  // namespace tavrin

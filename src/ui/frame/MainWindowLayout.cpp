@@ -1,4 +1,7 @@
 // How the main window is laid out, and what its status line says.
+#include <algorithm>
+#include <iterator>
+
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -26,15 +29,16 @@ void MainWindow::layOut() {
     column->addWidget(view_, 1);
     setCentralWidget(middle);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
-    std::vector<Command> commands = commandTable(*this);
-    for (Command& command : pictureCommands(*tools_, binder_, [this] { return finished_; }))
-        commands.push_back(std::move(command));
-    commands_ = new Commands(*this, std::move(commands));
+    std::vector<Command> table = commandTable(*this);
+    std::ranges::move(pictureCommands(*tools_, binder_, [this] { return finished_; }), std::back_inserter(table));
+    std::ranges::move(stripCommands(*this), std::back_inserter(table));
+    commands_ = new Commands(*this, std::move(table));
     auto* recent = new QMenu(tr("Open &Recent"), this);
     recent->setObjectName("recentFiles");
     recent->setToolTipsVisible(true);
     commands_->menu("&File")->insertMenu(commands_->action("Save"), recent);
     column->addWidget(new ViewBar(*commands_, view_, this));  // below the picture, so that it covers none of it
+    column->addWidget(strip_);
     makeToolBar();
     makeStatusLine();
     view_->setFocus();
