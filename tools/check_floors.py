@@ -33,7 +33,7 @@ ROOMS = {
     "core": [["."], ["files"], ["raster"], ["image"], ["state"], ["text"]],
     "key": [["pixel"], ["screen", "skin", "guard", "refine"], ["hair", "spill"], ["light"], ["."]],
     "effects": [["."], ["frame", "shadow", "sketch", "smoothing", "star"]],
-    "ui": [["."], ["bind", "views"], ["adjust"], ["frame"]],
+    "ui": [["."], ["bind", "views"], ["adjust"], ["look"], ["frame"]],
     "apps": [["cli", "desktop"]],
 }
 

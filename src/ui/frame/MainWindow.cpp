@@ -1,6 +1,6 @@
 #include "ui/frame/MainWindow.h"
 
-#include <QCloseEvent>
+#include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
@@ -40,6 +40,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       binder_(editor_),
       drag_(editor_),
       files_(new PictureFiles(info, *loop_, bridge_, this)),
+      keeping_(new Safekeeping(editor_, *loop_, this)),
       view_(new PictureView),
       messages_(new MessageBar),
       panel_(new SidePanel(binder_, this)),
@@ -50,6 +51,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     layOut();
     connectParts();
     connectBridge();
+    connectKeeping();
     comeBack();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
@@ -143,7 +145,16 @@ void MainWindow::openFile(const QString& path) {
 }
 
 void MainWindow::openForeground(const QString& path) {
-    files_->openForeground(path, frameAction()->isChecked());
+    keeping_->leavePortrait();
+    std::optional<Recipe> known = keeping_->knownOf(path);
+    files_->openForeground(path, !known && frameAction()->isChecked());
+    if (known) {
+        keeping_->takeUp(std::move(*known));
+    } else {
+        editor_.forgetSteps();  // they belong to the portrait before
+        tellUndo();
+        commands_->refresh();
+    }
 }
 
 void MainWindow::openBackground(const QString& path) {
@@ -153,7 +164,9 @@ void MainWindow::openBackground(const QString& path) {
 void MainWindow::openState(const QString& path) {
     finished_ = false;
     commands_->refresh();
+    keeping_->leavePortrait();
     files_->openState(path);
+    keeping_->waitForState();
 }
 
 void MainWindow::saveState(const QString& path) {
@@ -240,25 +253,6 @@ void MainWindow::clearFreeze() {
     tavrin::clearFreeze(info_);
     info_.StartUpdate();
     showState();
-}
-
-void MainWindow::endSave(const QString& path, bool done) {
-    tellProgress();
-    if (done) {
-        messages_->tell(tr("Saved %1").arg(path));
-    } else {
-        closing_ = false;
-    }
-    if (closing_ && savesUnderWay() == 0) close();
-}
-
-void MainWindow::closeEvent(QCloseEvent* event) {
-    closing_ = savesUnderWay() > 0;
-    event->setAccepted(!closing_);
-    if (closing_) return messages_->tell(tr("The window closes when everything is saved."));
-    QSettings settings = windowSettings();
-    settings.setValue("geometry", saveGeometry());
-    settings.setValue("layout", QMainWindow::saveState());
 }
 
 void MainWindow::takePublished() {
