@@ -1,6 +1,6 @@
 #include "ui/frame/MainWindow.h"
 
-#include <QCloseEvent>
+#include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
@@ -38,6 +38,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       editor_(info),
       binder_(editor_),
       files_(new PictureFiles(info, *loop_, bridge_, this)),
+      keeping_(new Safekeeping(editor_, *loop_, this)),
       view_(new PictureView),
       strip_(new Strip(info, this)),
       messages_(new MessageBar),
@@ -51,6 +52,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectParts();
     connectBridge();
     connectStrip();
+    connectKeeping();
     comeBack();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
@@ -153,7 +155,16 @@ void MainWindow::openFile(const QString& path) {
 }
 
 void MainWindow::openForeground(const QString& path) {
-    files_->openForeground(path, frameAction()->isChecked());
+    keeping_->leavePortrait();
+    std::optional<Recipe> known = keeping_->knownOf(path);
+    files_->openForeground(path, !known && frameAction()->isChecked());
+    if (known) {
+        keeping_->takeUp(std::move(*known));
+    } else {
+        editor_.forgetSteps();  // they belong to the portrait before
+        tellUndo();
+        commands_->refresh();
+    }
 }
 
 void MainWindow::openBackground(const QString& path) {
@@ -163,7 +174,9 @@ void MainWindow::openBackground(const QString& path) {
 void MainWindow::openState(const QString& path) {
     finished_ = false;
     commands_->refresh();
+    keeping_->leavePortrait();
     files_->openState(path);
+    keeping_->waitForState();
 }
 
 void MainWindow::saveState(const QString& path) {
@@ -252,25 +265,6 @@ void MainWindow::clearFreeze() {
     showState();
 }
 
-void MainWindow::endSave(const QString& path, bool done) {
-    tellProgress();
-    if (done) {
-        messages_->tell(tr("Saved %1").arg(path));
-    } else {
-        closing_ = false;
-    }
-    if (closing_ && savesUnderWay() == 0) close();
-}
-
-void MainWindow::closeEvent(QCloseEvent* event) {
-    closing_ = savesUnderWay() > 0;
-    event->setAccepted(!closing_);
-    if (closing_) return messages_->tell(tr("The window closes when everything is saved."));
-    QSettings settings = windowSettings();
-    settings.setValue("geometry", saveGeometry());
-    settings.setValue("layout", QMainWindow::saveState());
-}
-
 void MainWindow::takePublished() {
     for (const PublishedRows& rows : bridge_.takePublished())
         view_->show(rows);
@@ -309,8 +303,8 @@ void MainWindow::dropEvent(QDropEvent* event) {
     const QStringList files = localFiles(event->mimeData());
     if (files.isEmpty()) return;
     event->acceptProposedAction();
-    const bool onPortrait = view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) ==
-                            PictureView::DropZone::foreground;
+    const bool onPortrait =
+        view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) == PictureView::DropZone::foreground;
     // Two files are a pair: portrait and background.
     if (isFolder(files[0])) {
         dropFolder(files[0], !onPortrait);
