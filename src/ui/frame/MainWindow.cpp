@@ -347,8 +347,8 @@ void MainWindow::dropEvent(QDropEvent* event) {
     const QStringList files = localFiles(event->mimeData());
     if (files.isEmpty()) return;
     event->acceptProposedAction();
-    const bool onPortrait = view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) ==
-                            PictureView::DropZone::foreground;
+    const bool onPortrait =
+        view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) == PictureView::DropZone::foreground;
     // Two files are a pair: portrait and background.
     if (isFolder(files[0])) {
         dropFolder(files[0], !onPortrait);

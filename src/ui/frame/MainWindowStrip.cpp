@@ -15,7 +15,8 @@ using Kind = Command::Kind;
 
 Command markCommand(MainWindow& window, const char* id, const char* menu, const QString& text, const QString& toolTip,
                     Qt::Key key, PictureMark mark) {
-    return {id, menu, text, toolTip, "", QKeySequence(key), {}, [&window, mark](bool) { window.strip()->mark(mark); }};
+    return {
+        id, menu, text, toolTip, "", QKeySequence(key), {}, [&window, mark](bool) { window.strip()->mark(mark); }};
 }
 
 }  // namespace
