@@ -38,6 +38,18 @@ bool shoot(MainWindow& window, SystemInfo& info, const QString& path) {
     return window.grab().save(path);
 }
 
+/// A text across the middle of the sample.
+FontObject title() {
+    FontObject text;
+    text.sText = "Tavrin";
+    text.iFontSize = 90;
+    text.rectSizeWidth = 300;
+    text.rectSizeHeight = 120;
+    text.xPos = 2.0;
+    text.yPos = 4.2;
+    return text;
+}
+
 /// A folder of portraits and one of backgrounds, told apart by their light.
 void fillFolders(const QString& portraits, const QString& backgrounds) {
     const auto fill = [](const QString& folder, const char* sample, int count) {
@@ -89,6 +101,23 @@ bool shootAll(const QString& folder, const QString& scale) {
         settle(window, *info);  // the first picture gives the window its shape
         window.resize(kWidth, kHeight);
         save("adjust");
+        const auto action = [&](const char* id) { return window.commands().action(id); };
+        const auto shoots = [&](const char* id, const char* name) {
+            action(id)->setChecked(true);
+            settle(window, *info);
+            save(name);
+            action(id)->setChecked(false);
+        };
+        shoots("ShowSplit", "split");
+        shoots("ShowAlpha", "alpha");
+        shoots("ShowScreen", "screen");
+        settle(window, *info);
+        window.view()->setAsking(true);
+        emit window.view()->asked({520, 900});
+        settle(window, *info);
+        save("story");
+        window.pictureTools()->story()->hide();
+        window.view()->setAsking(false);
         window.panel()->searchField()->setText("green");
         save("search");
         window.panel()->searchField()->clear();
@@ -101,6 +130,15 @@ bool shootAll(const QString& folder, const QString& scale) {
         save("pixels");
         window.messages()->hide();
         window.view()->setZoomHome();
+        info->oFontObject.push_back(title());
+        info->StartUpdate();
+        settle(window, *info);
+        window.pictureTools()->items().press(window.view()->fromLowerLeft(window.view()->zoom().frame().center()),
+                                             true);
+        for (GroupBox* group : window.panel()->groups())
+            group->setFolded(group->group().name != std::string_view("groupPlace"));
+        save("item");
+        info->oFontObject.clear();
         const QTemporaryDir pictures;
         showFolder(window, *info, pictures.path());
         save("strip");

@@ -27,6 +27,7 @@ struct Command {
     /// `on` is the new state of a checked one, and whether the key of a held one is down.
     std::function<void(bool on)> run;
     Kind kind = Kind::plain;
+    std::function<bool()> checkedWhen = {};  ///< for a checked one that shows something of the state
 };
 
 /// The actions of a window, made from its table.
@@ -56,6 +57,7 @@ class Commands : public QObject {
     const std::vector<Command> table_;
     std::map<QString, QMenu*> menus_;
     std::map<QString, QAction*> actions_;
+    bool refreshing_ = false;
 };
 
 }  // namespace tavrin

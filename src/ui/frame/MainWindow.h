@@ -6,14 +6,13 @@
 
 #include "pipeline/CombineThread.h"
 #include "ui/WindowBridge.h"
-#include "ui/adjust/LayerDrag.h"
 #include "ui/bind/Binder.h"
 #include "ui/frame/Commands.h"
 #include "ui/frame/MessageBar.h"
-#include "ui/frame/MouseMode.h"
 #include "ui/frame/PictureFiles.h"
 #include "ui/frame/SidePanel.h"
 #include "ui/frame/SizeBox.h"
+#include "ui/picture/PictureTools.h"
 #include "ui/strip/Strip.h"
 #include "ui/views/PictureView.h"
 
@@ -54,6 +53,7 @@ class MainWindow : public QMainWindow {
     PictureView* view() const { return view_; }
     SizeBox* sizeBox() const { return sizeBox_; }
     SidePanel* panel() const { return panel_; }
+    PictureTools* pictureTools() const { return tools_; }
     Strip* strip() const { return strip_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
@@ -75,8 +75,8 @@ class MainWindow : public QMainWindow {
     void layOut();
     void makeToolBar();
     void makeStatusLine();
-    QWidget* makeViewBar();
     void connectParts();
+    void connectMaps();
     void connectBridge();
     void connectStrip();
     void askForFolder();
@@ -97,11 +97,6 @@ class MainWindow : public QMainWindow {
     void takePublished();
     void showState();
     void showAlert(const QString& message, const QString& reason);
-    void dragLayer(const QPointF& share);
-    void endDrag();
-    void showOther();
-    void showOriginal(bool on);
-    void showAlpha(bool on);
     void sizeToOutput(int outputWidth, int outputHeight);
     void setFullScreen(bool on);
     void tellProgress();
@@ -112,20 +107,19 @@ class MainWindow : public QMainWindow {
     std::unique_ptr<CombineThread> loop_;
     SettingEditor editor_;
     Binder binder_;
-    LayerDrag drag_;
     PictureFiles* files_;
     PictureView* view_;
     Strip* strip_;
     MessageBar* messages_;
     SidePanel* panel_;
     SizeBox* sizeBox_;
+    PictureTools* tools_;
     Commands* commands_ = nullptr;
     QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;
     QProgressBar* progress_ = nullptr;
-    MouseMode* mouseMode_ = nullptr;
     bool closing_ = false;   // as soon as all is saved
     bool finished_ = false;  // a full picture stands
-    bool cameBack_ = false, originalHeld_ = false;
+    bool cameBack_ = false;
 };
 
 /// Everything that the window does by itself, in the order of its menus.

@@ -4,6 +4,7 @@
 
 #include <QDockWidget>
 
+#include "ui/adjust/ScaleView.h"
 #include "ui/bind/GroupBox.h"
 
 class QLineEdit;
@@ -21,7 +22,12 @@ class SidePanel : public QDockWidget {
     QLineEdit* searchField() const { return search_; }
     const std::vector<GroupBox*>& groups() const { return groups_; }
 
+    /// The small maps of the layer and of the selected item.
+    ScaleView* scaleView() const { return scaleView_; }
+    TextScaleView* textScaleView() const { return textScaleView_; }
+
   private:
+    void addMaps(GroupBox& place);
     QWidget* makeLayerSwitch();
     void find(const QString& text);
     void chooseLayer(int layer);
@@ -30,6 +36,8 @@ class SidePanel : public QDockWidget {
     QLineEdit* search_;
     QLabel* nothing_;
     QWidget* layerSwitch_ = nullptr;
+    ScaleView* scaleView_ = nullptr;
+    TextScaleView* textScaleView_ = nullptr;
     std::vector<GroupBox*> groups_;
 };
 
