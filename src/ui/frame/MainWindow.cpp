@@ -41,9 +41,12 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       drag_(editor_),
       files_(new PictureFiles(info, *loop_, bridge_, this)),
       keeping_(new Safekeeping(editor_, *loop_, this)),
+      looks_(new LookDesk(binder_, *keeping_, this)),
       view_(new PictureView),
       messages_(new MessageBar),
       panel_(new SidePanel(binder_, this)),
+      history_(new HistoryPanel(binder_, this)),
+      looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)) {
     setObjectName("MainDisplay");
     setWindowTitle(tr("Main Window - Adjust/Load Mode"));
@@ -128,6 +131,7 @@ void MainWindow::showState() {
     sizeBox_->updateComboBoxImageSize();
     view_->setTransparent(info_.bOutputTransparency);
     commands_->refresh();
+    history_->refresh();
     tellUndo();
     tellProgress();
 }
@@ -147,17 +151,17 @@ void MainWindow::openFile(const QString& path) {
 void MainWindow::openForeground(const QString& path) {
     keeping_->leavePortrait();
     std::optional<Recipe> known = keeping_->knownOf(path);
-    files_->openForeground(path, !known && frameAction()->isChecked());
+    files_->openForeground(path, (!known || known->settings.empty()) && frameAction()->isChecked());
     if (known) {
         keeping_->takeUp(std::move(*known));
     } else {
         editor_.forgetSteps();  // they belong to the portrait before
-        tellUndo();
-        commands_->refresh();
+        showState();
     }
 }
 
 void MainWindow::openBackground(const QString& path) {
+    keeping_->chooseBackground(nameOfText(path));
     files_->openBackground(path);
 }
 

@@ -15,6 +15,8 @@
 #include "ui/frame/PictureFiles.h"
 #include "ui/frame/SidePanel.h"
 #include "ui/frame/SizeBox.h"
+#include "ui/look/HistoryPanel.h"
+#include "ui/look/LooksPanel.h"
 #include "ui/look/Safekeeping.h"
 #include "ui/views/PictureView.h"
 
@@ -57,6 +59,10 @@ class MainWindow : public QMainWindow {
     PictureView* view() const { return view_; }
     SizeBox* sizeBox() const { return sizeBox_; }
     SidePanel* panel() const { return panel_; }
+    HistoryPanel* history() const { return history_; }
+    LooksPanel* looksPanel() const { return looksPanel_; }
+    /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
+    LookDesk& looks() { return *looks_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
     Commands& commands() { return *commands_; }
@@ -106,6 +112,7 @@ class MainWindow : public QMainWindow {
     void setFullScreen(bool on);
     void tellProgress();
     void tellUndo();
+    void findAction();
 
     SystemInfo& info_;
     WindowBridge bridge_;
@@ -115,9 +122,12 @@ class MainWindow : public QMainWindow {
     LayerDrag drag_;
     PictureFiles* files_;
     Safekeeping* keeping_;
+    LookDesk* looks_;
     PictureView* view_;
     MessageBar* messages_;
     SidePanel* panel_;
+    HistoryPanel* history_;
+    LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
     Commands* commands_ = nullptr;
     QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;

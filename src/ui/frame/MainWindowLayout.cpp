@@ -40,7 +40,15 @@ void MainWindow::layOut() {
     column->addWidget(view_, 1);
     setCentralWidget(middle);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
+    tabifyDockWidget(panel_, history_);
+    tabifyDockWidget(panel_, looksPanel_);
+    history_->hide();
+    looksPanel_->hide();
     commands_ = new Commands(*this, commandTable(*this));
+    std::vector<QAction*> actions;
+    for (const Command& command : commands_->table())
+        actions.push_back(commands_->action(command.id));
+    panel_->setActions(std::move(actions));
     auto* recent = new QMenu(tr("Open &Recent"), this);
     recent->setObjectName("recentFiles");
     recent->setToolTipsVisible(true);

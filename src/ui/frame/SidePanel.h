@@ -5,9 +5,12 @@
 #include <QDockWidget>
 
 #include "ui/bind/GroupBox.h"
+#include "ui/look/Chips.h"
 
-class QLineEdit;
+class QAction;
 class QLabel;
+class QLineEdit;
+class QScrollArea;
 
 namespace tavrin {
 
@@ -20,15 +23,26 @@ class SidePanel : public QDockWidget {
 
     QLineEdit* searchField() const { return search_; }
     const std::vector<GroupBox*>& groups() const { return groups_; }
+    /// Shows a control, whatever is folded or searched for, and gives it the focus.
+    void reveal(const ControlRow* row);
+    /// What the search finds besides controls.
+    void setActions(std::vector<QAction*> actions) { actions_ = std::move(actions); }
+    /// Puts every default of both layers back, as one step.
+    void resetAll();
 
   private:
     QWidget* makeLayerSwitch();
     void find(const QString& text);
     void chooseLayer(int layer);
+    bool showActions(const QStringList& words, Slips slips);
+    void goToFirstFound();
 
     Binder& binder_;
     QLineEdit* search_;
     QLabel* nothing_;
+    QWidget* found_;  ///< buttons of the actions that were found
+    QScrollArea* scroll_;
+    std::vector<QAction*> actions_;
     QWidget* layerSwitch_ = nullptr;
     std::vector<GroupBox*> groups_;
 };
