@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>Chips</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Menu</name>
     <message>
         <source>&amp;File</source>
@@ -494,76 +501,71 @@
 <context>
     <name>tavrin</name>
     <message>
-        <source>Open F&amp;older...</source>
-        <translation>Abrir &amp;carpeta...</translation>
+        <source>&amp;Copy the Look</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Fills the strip with a folder&apos;s portraits and opens the first</source>
-        <translation>Llena la tira con los retratos de una carpeta y abre el primero</translation>
+        <source>Takes the look of this portrait, to paste it on others</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>S&amp;trip of Pictures</source>
-        <translation>&amp;Tira de imágenes</translation>
+        <source>&amp;Paste the Look...</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Shows the pictures of the strip, or folds them away</source>
-        <translation>Muestra u oculta las imágenes de la tira</translation>
+        <source>Shows what the copied look changes here, and pastes what is ticked</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Next Portrait</source>
-        <translation>Retrato &amp;siguiente</translation>
+        <source>Paste the Look on P&amp;ortraits...</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Opens the portrait that comes next in the strip</source>
-        <translation>Abre el retrato siguiente de la tira</translation>
+        <source>Pastes the copied look on many portraits at once</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Previous Portrait</source>
-        <translation>Retrato &amp;anterior</translation>
+        <source>Save as My &amp;Look...</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Opens the portrait before this one in the strip</source>
-        <translation>Abre el retrato anterior de la tira</translation>
+        <source>Keeps all settings under a name</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Mark: &amp;Keep</source>
-        <translation>Marcar: &amp;Conservar</translation>
+        <source>&amp;Import a Look...</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This portrait is good</source>
-        <translation>Este retrato está bien</translation>
+        <source>Takes a look or a state file into my looks</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ActionSearch</name>
+    <message>
+        <source>Find an Action</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Mark: &amp;Reject</source>
-        <translation>Marcar: &amp;Descartar</translation>
+        <source>What to do, or which control</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This portrait goes out; the next one is opened</source>
-        <translation>Este retrato se descarta; se abre el siguiente</translation>
+        <source>Words in any order; arrows choose, Enter takes</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Mark: &amp;Look Again</source>
-        <translation>Marcar: &amp;Volver a mirar</translation>
+        <source>Commands and controls</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This portrait needs another look</source>
-        <translation>Este retrato necesita otra mirada</translation>
+        <source>%1   (%2)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Unmark</source>
-        <translation>&amp;Quitar la marca</translation>
-    </message>
-    <message>
-        <source>Takes the mark from this portrait</source>
-        <translation>Quita la marca de este retrato</translation>
-    </message>
-    <message>
-        <source>Take the Last &amp;Mark Back</source>
-        <translation>Deshacer la última &amp;marca</translation>
-    </message>
-    <message>
-        <source>Gives the portrait that was marked last the mark it had, and opens it</source>
-        <translation>Devuelve al último retrato marcado la marca que tenía, y lo abre</translation>
+        <source>Nothing has these words.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -571,6 +573,33 @@
     <message>
         <source>Reset %1</source>
         <translation>Restablecer %1</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Chips</name>
+    <message>
+        <source>Set here; a click leads to the control</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the default back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>Restablecer %1</translation>
+    </message>
+    <message>
+        <source>fewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what else is set here, or only the first</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -690,6 +719,29 @@
     </message>
 </context>
 <context>
+    <name>tavrin::HistoryPanel</name>
+    <message>
+        <source>History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Steps of this portrait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A click goes back or forth to that step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, taken back</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tavrin::ItemTool</name>
     <message>
         <source>Place of an item</source>
@@ -730,6 +782,283 @@
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LookDesk</name>
+    <message>
+        <source>Looks and state files (*.qlx)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Imágenes (%1)</translation>
+    </message>
+    <message>
+        <source>The look is copied. Ctrl+Shift+V pastes it on another portrait.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Portrait: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Background: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This portrait has that look already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No look was copied yet. Ctrl+Shift+C copies the present one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste a Look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste a look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste a Look on %1 Portraits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Portraits for the Look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the look:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a look %1 already. Replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The look is not saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved the look %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The look cannot be taken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the Look %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename Look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New name of %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The look keeps its name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The look is not deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete the look %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The look does not come back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deleted the look %1. Undo brings it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a look %1 already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Skip It</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import under &amp;Another Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Replace the Old One</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the look %1 is the old one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The look is not imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported %1 as the look %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The look is not exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exported the look %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LookDialog</name>
+    <message>
+        <source>Key</source>
+        <translation>Croma</translation>
+    </message>
+    <message>
+        <source>Hair</source>
+        <translation>Pelo</translation>
+    </message>
+    <message>
+        <source>Light and colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skin and smoothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place and size</source>
+        <translation>Posición y tamaño</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the look changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take What Is Ticked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One step of undo brings all of it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LooksPanel</name>
+    <message>
+        <source>My Looks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A double click or Enter takes the look; the pictures stay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what the look changes, and takes what is ticked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps the present settings under a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives the look another name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supr</translation>
+    </message>
+    <message>
+        <source>Deletes the look; undo brings it back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes a look or a state file into the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the look to a file, for another machine</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1098,6 +1427,121 @@
         <source>Folder of the Backgrounds</source>
         <translation>Carpeta de los fondos</translation>
     </message>
+    <message>
+        <source>Key</source>
+        <translation>Croma</translation>
+    </message>
+    <message>
+        <source>Find an &amp;Action...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finds every command and control by words, and does or shows it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset All Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts every default of both layers back, as one step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every step of this portrait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;My Looks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks by name: take, save, rename, delete, import, export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The look waits on %n portrait(s), and is there when they are opened.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open F&amp;older...</source>
+        <translation>Abrir &amp;carpeta...</translation>
+    </message>
+    <message>
+        <source>Fills the strip with a folder&apos;s portraits and opens the first</source>
+        <translation>Llena la tira con los retratos de una carpeta y abre el primero</translation>
+    </message>
+    <message>
+        <source>S&amp;trip of Pictures</source>
+        <translation>&amp;Tira de imágenes</translation>
+    </message>
+    <message>
+        <source>Shows the pictures of the strip, or folds them away</source>
+        <translation>Muestra u oculta las imágenes de la tira</translation>
+    </message>
+    <message>
+        <source>&amp;Next Portrait</source>
+        <translation>Retrato &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Opens the portrait that comes next in the strip</source>
+        <translation>Abre el retrato siguiente de la tira</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Portrait</source>
+        <translation>Retrato &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Opens the portrait before this one in the strip</source>
+        <translation>Abre el retrato anterior de la tira</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Keep</source>
+        <translation>Marcar: &amp;Conservar</translation>
+    </message>
+    <message>
+        <source>This portrait is good</source>
+        <translation>Este retrato está bien</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Reject</source>
+        <translation>Marcar: &amp;Descartar</translation>
+    </message>
+    <message>
+        <source>This portrait goes out; the next one is opened</source>
+        <translation>Este retrato se descarta; se abre el siguiente</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Look Again</source>
+        <translation>Marcar: &amp;Volver a mirar</translation>
+    </message>
+    <message>
+        <source>This portrait needs another look</source>
+        <translation>Este retrato necesita otra mirada</translation>
+    </message>
+    <message>
+        <source>&amp;Unmark</source>
+        <translation>&amp;Quitar la marca</translation>
+    </message>
+    <message>
+        <source>Takes the mark from this portrait</source>
+        <translation>Quita la marca de este retrato</translation>
+    </message>
+    <message>
+        <source>Take the Last &amp;Mark Back</source>
+        <translation>Deshacer la última &amp;marca</translation>
+    </message>
+    <message>
+        <source>Gives the portrait that was marked last the mark it had, and opens it</source>
+        <translation>Devuelve al último retrato marcado la marca que tenía, y lo abre</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -1271,6 +1715,10 @@ o ábralos desde el menú Archivo.</translation>
         <source>The present settings cannot be kept for a next start.</source>
         <translation>Los ajustes actuales no se pueden guardar para el próximo arranque.</translation>
     </message>
+    <message>
+        <source>%1 on %2 portraits</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ScaleView</name>
@@ -1321,10 +1769,6 @@ o ábralos desde el menú Archivo.</translation>
         <translation>Buscar los controles</translation>
     </message>
     <message>
-        <source>Finds a control by words of its name, its tip or its setting</source>
-        <translation>Encuentra un control por palabras de su nombre, su ayuda o su ajuste</translation>
-    </message>
-    <message>
         <source>No control has these words.</source>
         <translation>Ningún control tiene estas palabras.</translation>
     </message>
@@ -1347,6 +1791,14 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>The controls below change the background</source>
         <translation>Los controles de abajo cambian el fondo</translation>
+    </message>
+    <message>
+        <source>Finds controls and commands by words in any order; Enter goes to the first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

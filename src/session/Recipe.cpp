@@ -20,7 +20,7 @@ namespace tavrin {
 namespace {
 
 constexpr std::string_view kPortrait = "foreground.sSourceImageFullPath";
-constexpr std::string_view kBackground = "background.sSourceImageFullPath";
+constexpr std::string_view kItemCount = "iFontObjectCount";
 
 /// Found out with the source and the size.
 bool isMeasured(std::string_view name) {
@@ -30,24 +30,10 @@ bool isMeasured(std::string_view name) {
     return std::find(kMeasured.begin(), kMeasured.end(), name) != kMeasured.end();
 }
 
-/// Number of the item that a setting belongs to.
-std::optional<std::size_t> itemOf(std::string_view name) {
-    constexpr std::string_view kItem = "text";
-    if (!name.starts_with(kItem)) return {};
-    std::size_t item = 0;
-    const auto [end, error] = std::from_chars(name.data() + kItem.size(), name.data() + name.size(), item);
-    if (error != std::errc() || *end != '.' || item >= TextState::kMaxFontObjects) return {};
-    return item;
-}
-
-void resizeItems(SystemInfo& info, const SettingValues& settings) {
+void resizeItems(SystemInfo& info, const std::string& count) {
     std::size_t items = 0;
-    bool whole = false;
-    for (const auto& [name, value] : settings) {
-        whole = whole || name == kBackground;
-        if (const auto item = itemOf(name)) items = std::max(items, *item + 1);
-    }
-    if (!whole && items == 0) return;  // a part that does not speak of items
+    std::from_chars(count.data(), count.data() + count.size(), items);
+    items = std::min(items, TextState::kMaxFontObjects);
     if (items == info.oFontObject.size()) return;
     raiseFlags(info, kRedoBackgroundLayer);  // one of them may lie there
     info.oFontObject.resize(items);
@@ -125,15 +111,24 @@ std::string Recipe::portrait() const {
     return found == settings.end() ? "" : found->second;
 }
 
+SettingValues settingsOf(const SystemInfo& info) {
+    SettingValues settings = listFields(info);
+    settings.emplace_back(kItemCount, std::to_string(info.iFontObjectCount()));
+    return settings;
+}
+
 Recipe presentRecipe(const SettingEditor& editor) {
-    return {listFields(editor.info()), editor.history(), {}};
+    return {settingsOf(editor.info()), editor.history(), {}};
 }
 
 std::string useSettings(SystemInfo& info, const SettingValues& settings) {
-    resizeItems(info, settings);
+    for (const auto& [name, value] : settings)
+        if (name == kItemCount) resizeItems(info, value);
     std::string problems;
     for (const auto& [name, value] : settings) {
-        if (isMeasured(name) || findLeaf(OutputGeometry::leaves(), name) || fieldValue(info, name) == value) continue;
+        if (name == kItemCount || isMeasured(name) || findLeaf(OutputGeometry::leaves(), name) ||
+            fieldValue(info, name) == value)
+            continue;
         addLine(problems, changeSetting(info, name, value));
         if (name == kPortrait) info.pCombinedBitmapInfo->bHaveBaseGreen = false;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -40,6 +41,8 @@ class RecipeKeeper {
     /// @param instead removed when it is kept: what it was taken from
     void keep(Recipe recipe, std::optional<LeftRecipe> instead = {});
     void keepPortrait(std::string portrait, Recipe recipe);
+    /// Runs other work with recipes in turn with the keeping.
+    void run(std::function<void()> work) { pool_.start(std::move(work)); }
     /// Until all is on the disk.
     void wait();
     /// The program ends as it should: nothing is left for the next start.

@@ -97,7 +97,9 @@ void SettingEditor::goTo(std::size_t done) {
 }
 
 std::uint64_t SettingEditor::position() const {
-    return history_.done == 0 ? 0 : history_.steps[history_.done - 1].number;
+    for (std::size_t i = history_.done; i > 0; --i)
+        if (const Step& step = history_.steps[i - 1]; !step.changes.empty()) return step.number;
+    return 0;
 }
 
 void SettingEditor::setHistory(History history) {

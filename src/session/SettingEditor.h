@@ -52,7 +52,7 @@ class SettingEditor {
     std::string set(const std::string& setting, const std::string& value);
     /// Runs something that writes these settings and no other, and raises the flags that follow.
     void apply(const std::vector<std::string>& settings, const std::function<void(SystemInfo&)>& write);
-    /// Adds what was done elsewhere to the step that is open; it counts as a change.
+    /// Adds what was done elsewhere to the step that is open. It makes a step, and no change of the picture.
     void note(Elsewhere elsewhere);
 
     /// Takes the last step back, or does the one that was taken back again. Nothing happens inside a step.
@@ -63,7 +63,8 @@ class SettingEditor {
     void goTo(std::size_t done);
     const std::vector<Step>& steps() const { return history_.steps; }
     std::size_t stepsDone() const { return history_.done; }
-    /// Number of the last step in force, 0 for none: tells whether anything was changed in between.
+    /// Number of the last step in force that changed a setting, 0 for none: tells whether the picture was changed in
+    /// between.
     std::uint64_t position() const;
     /// The picture was saved as it was at a position.
     void markSaved(std::uint64_t position) { history_.saved = position; }

@@ -39,10 +39,13 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       binder_(editor_),
       files_(new PictureFiles(info, *loop_, bridge_, this)),
       keeping_(new Safekeeping(editor_, *loop_, this)),
+      looks_(new LookDesk(binder_, *keeping_, this)),
       view_(new PictureView),
       strip_(new Strip(info, this)),
       messages_(new MessageBar),
       panel_(new SidePanel(binder_, this)),
+      history_(new HistoryPanel(binder_, this)),
+      looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
       tools_(new PictureTools(binder_, *loop_, bridge_, view_)) {
     setObjectName("MainDisplay");
@@ -137,6 +140,7 @@ void MainWindow::showState() {
     strip_->follow();
     view_->setTransparent(info_.bOutputTransparency);
     commands_->refresh();
+    history_->refresh();
     tellUndo();
     tellProgress();
 }
@@ -157,17 +161,17 @@ void MainWindow::openFile(const QString& path) {
 void MainWindow::openForeground(const QString& path) {
     keeping_->leavePortrait();
     std::optional<Recipe> known = keeping_->knownOf(path);
-    files_->openForeground(path, !known && frameAction()->isChecked());
+    files_->openForeground(path, (!known || known->settings.empty()) && frameAction()->isChecked());
     if (known) {
         keeping_->takeUp(std::move(*known));
     } else {
         editor_.forgetSteps();  // they belong to the portrait before
-        tellUndo();
-        commands_->refresh();
+        showState();
     }
 }
 
 void MainWindow::openBackground(const QString& path) {
+    keeping_->chooseBackground(nameOfText(path));
     files_->openBackground(path);
 }
 

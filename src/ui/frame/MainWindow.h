@@ -13,6 +13,8 @@
 #include "ui/frame/PictureFiles.h"
 #include "ui/frame/SidePanel.h"
 #include "ui/frame/SizeBox.h"
+#include "ui/look/HistoryPanel.h"
+#include "ui/look/LooksPanel.h"
 #include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
 #include "ui/strip/Strip.h"
@@ -62,6 +64,10 @@ class MainWindow : public QMainWindow {
     SidePanel* panel() const { return panel_; }
     PictureTools* pictureTools() const { return tools_; }
     Strip* strip() const { return strip_; }
+    HistoryPanel* history() const { return history_; }
+    LooksPanel* looksPanel() const { return looksPanel_; }
+    /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
+    LookDesk& looks() { return *looks_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
     Commands& commands() { return *commands_; }
@@ -111,6 +117,7 @@ class MainWindow : public QMainWindow {
     void setFullScreen(bool on);
     void tellProgress();
     void tellUndo();
+    void findAction();
 
     SystemInfo& info_;
     WindowBridge bridge_;
@@ -119,10 +126,13 @@ class MainWindow : public QMainWindow {
     Binder binder_;
     PictureFiles* files_;
     Safekeeping* keeping_;
+    LookDesk* looks_;
     PictureView* view_;
     Strip* strip_;
     MessageBar* messages_;
     SidePanel* panel_;
+    HistoryPanel* history_;
+    LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
     PictureTools* tools_;
     Commands* commands_ = nullptr;

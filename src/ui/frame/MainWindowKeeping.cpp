@@ -21,6 +21,17 @@ void MainWindow::connectKeeping() {
         showState();
         if (!problems.isEmpty()) messages_->fail(tr("Not every setting could be taken up."), problems);
     });
+    connect(keeping_, &Safekeeping::pasted, this, [this](std::size_t portraits, const QString& problems) {
+        history_->refresh();
+        commands_->refresh();
+        tellUndo();
+        const QString line = tr("The look waits on %n portrait(s), and is there when they are opened.", nullptr,
+                                static_cast<int>(portraits));
+        problems.isEmpty() ? messages_->tell(line) : messages_->fail(line, problems);
+    });
+    connect(looks_, &LookDesk::told, messages_, &MessageBar::tell);
+    connect(looks_, &LookDesk::failed, messages_, &MessageBar::fail);
+    looks_->setPicture([this] { return finished_ ? view_->fullPicture() : QImage(); });
     connect(files_, &PictureFiles::saving, this, [this] { savedPositions_.push_back(editor_.position()); });
     connect(files_, &PictureFiles::saved, this, [this](const QString&, bool done) {
         const std::uint64_t position = savedPositions_.front();

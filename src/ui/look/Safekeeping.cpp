@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "core/files/NameText.h"
+#include "session/Looks.h"
 #include "session/RecipeStore.h"
+#include "session/Sources.h"
 
 namespace tavrin {
 
@@ -54,6 +56,7 @@ std::optional<Recipe> Safekeeping::knownOf(const QString& portrait) const {
 void Safekeeping::takeUp(Recipe recipe, std::optional<LeftRecipe> from) {
     const int mine = ++opened_;
     ++underWay_;
+    background_.clear();
     editor_.forgetSteps();
     loop_.post([this, mine, recipe = std::move(recipe), from = std::move(from)] {
         const bool due = mine == opened_;
@@ -77,10 +80,47 @@ void Safekeeping::finishTaking(Recipe recipe, std::optional<LeftRecipe> from, co
             editor_.set(setting, value);
         editor_.endStep();
     }
-    if (!recipe.pasted.empty()) editor_.info().StartUpdate();
+    if (!background_.empty()) openBackground(editor_.info(), background_);
+    if (!recipe.pasted.empty() || !background_.empty()) editor_.info().StartUpdate();
     instead_ = std::move(from);
     touch();
     emit tookUp(problems);
+}
+
+void Safekeeping::giveToLoop(const SettingValues& settings) {
+    ++underWay_;
+    loop_.post([this, mine = opened_.load(), settings] {
+        const std::string problems = mine == opened_ ? useSettings(editor_.info(), settings) : "";
+        QMetaObject::invokeMethod(
+            this,
+            [this, problems] {
+                --underWay_;
+                touch();
+                emit tookUp(QString::fromStdString(problems));
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void Safekeeping::pasteOn(std::vector<std::string> portraits, const QString& label, const SettingValues& look) {
+    const auto paste = std::make_shared<PortraitPaste>(std::move(portraits), label.toStdString(), look);
+    keeper_.run([this, paste, label] {
+        const std::string problems = paste->paste();
+        QMetaObject::invokeMethod(
+            this,
+            [this, paste, label, problems] {
+                editor_.beginStep(tr("%1 on %2 portraits").arg(label).arg(paste->changed()).toStdString());
+                editor_.note({[this, paste] { keeper_.run([paste] { paste->takeBack(); }); },
+                              [this, paste] { keeper_.run([paste] { paste->paste(); }); }});
+                editor_.endStep();
+                emit pasted(paste->changed(), QString::fromStdString(problems));
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void Safekeeping::chooseBackground(const std::string& path) {
+    if (underWay_ > 0) background_ = path;
 }
 
 void Safekeeping::waitForState() {

@@ -33,6 +33,12 @@ class Safekeeping : public QObject {
     /// Gives the state a recipe, on the loop's thread, and then the editor its history. `tookUp` follows, unless
     /// something else was opened meanwhile.
     void takeUp(Recipe recipe, std::optional<LeftRecipe> from = {});
+    /// Gives the state settings that only the loop may change: the list of items.
+    void giveToLoop(const SettingValues& settings);
+    /// Pastes a look on other portraits, off the main thread; `pasted` follows, and the editor has a step for it.
+    void pasteOn(std::vector<std::string> portraits, const QString& label, const SettingValues& look);
+    /// A background was opened, perhaps before the loop has given the state a recipe: it holds all the same.
+    void chooseBackground(const std::string& path);
     /// After a state was given to the loop for opening: from then on its settings are those to keep.
     void waitForState();
 
@@ -43,6 +49,7 @@ class Safekeeping : public QObject {
 
   signals:
     void tookUp(const QString& problems);
+    void pasted(std::size_t portraits, const QString& problems);
     void failed(const QString& line, const QString& reason);
 
   private:
@@ -57,6 +64,7 @@ class Safekeeping : public QObject {
     std::atomic<int> opened_ = 0;  ///< counts what was opened, so that an older job steps back
     int underWay_ = 0;             ///< jobs that may replace settings and lists
     bool touched_ = false;
+    std::string background_;  ///< chosen while a recipe is under way
     std::optional<LeftRecipe> instead_;
 };
 
