@@ -499,73 +499,30 @@
     </message>
 </context>
 <context>
-    <name>tavrin</name>
-    <message>
-        <source>&amp;Copy the Look</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Takes the look of this portrait, to paste it on others</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Paste the Look...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shows what the copied look changes here, and pastes what is ticked</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Paste the Look on P&amp;ortraits...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pastes the copied look on many portraits at once</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save as My &amp;Look...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keeps all settings under a name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Import a Look...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Takes a look or a state file into my looks</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>tavrin::ActionSearch</name>
     <message>
         <source>Find an Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl suchen</translation>
     </message>
     <message>
         <source>What to do, or which control</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu tun ist, oder welcher Regler</translation>
     </message>
     <message>
         <source>Words in any order; arrows choose, Enter takes</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter in beliebiger Reihenfolge; Pfeile wählen, die Eingabetaste nimmt</translation>
     </message>
     <message>
         <source>Commands and controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehle und Regler</translation>
     </message>
     <message>
         <source>%1   (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1   (%2)</translation>
     </message>
     <message>
         <source>Nothing has these words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts hat diese Wörter.</translation>
     </message>
 </context>
 <context>
@@ -579,11 +536,11 @@
     <name>tavrin::Chips</name>
     <message>
         <source>Set here; a click leads to the control</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier gesetzt; ein Klick führt zum Regler</translation>
     </message>
     <message>
         <source>Put the default back</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabewert zurückholen</translation>
     </message>
     <message>
         <source>Reset %1</source>
@@ -591,15 +548,15 @@
     </message>
     <message>
         <source>fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>weniger</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mehr</translation>
     </message>
     <message>
         <source>Shows what else is set here, or only the first</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was hier noch gesetzt ist, oder nur das erste</translation>
     </message>
 </context>
 <context>
@@ -722,23 +679,23 @@
     <name>tavrin::HistoryPanel</name>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Steps of this portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritte dieses Porträts</translation>
     </message>
     <message>
         <source>A click goes back or forth to that step</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick geht zu diesem Schritt zurück oder vor</translation>
     </message>
     <message>
         <source>At the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Anfang</translation>
     </message>
     <message>
         <source>%1, taken back</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, zurückgenommen</translation>
     </message>
 </context>
 <context>
@@ -788,7 +745,7 @@
     <name>tavrin::LookDesk</name>
     <message>
         <source>Looks and state files (*.qlx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Looks und Standdateien (*.qlx)</translation>
     </message>
     <message>
         <source>Pictures (%1)</source>
@@ -796,147 +753,187 @@
     </message>
     <message>
         <source>The look is copied. Ctrl+Shift+V pastes it on another portrait.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look ist kopiert. Strg+Umschalt+V fügt ihn auf einem anderen Porträt ein.</translation>
     </message>
     <message>
         <source>Portrait: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Porträt: %1</translation>
     </message>
     <message>
         <source>Background: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund: %1</translation>
     </message>
     <message>
         <source>This portrait has that look already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Porträt hat diesen Look schon.</translation>
     </message>
     <message>
         <source>No look was copied yet. Ctrl+Shift+C copies the present one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Look kopiert. Strg+Umschalt+C kopiert den jetzigen.</translation>
     </message>
     <message>
         <source>Paste a Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Look einfügen</translation>
     </message>
     <message>
         <source>Paste a look</source>
-        <translation type="unfinished"></translation>
+        <translation>Look einfügen</translation>
     </message>
     <message>
         <source>Paste a Look on %1 Portraits</source>
-        <translation type="unfinished"></translation>
+        <translation>Look auf %1 Porträts einfügen</translation>
     </message>
     <message>
         <source>Select Portraits for the Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Porträts für den Look wählen</translation>
     </message>
     <message>
         <source>Save Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Look speichern</translation>
     </message>
     <message>
         <source>Name of the look:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Looks:</translation>
     </message>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Look</translation>
     </message>
     <message>
         <source>There is a look %1 already. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon einen Look %1. Ersetzen?</translation>
     </message>
     <message>
         <source>The look is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look ist nicht gespeichert.</translation>
     </message>
     <message>
         <source>Saved the look %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look %1 ist gespeichert</translation>
     </message>
     <message>
         <source>The look cannot be taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look kann nicht übernommen werden.</translation>
     </message>
     <message>
         <source>Take the Look %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Look %1 übernehmen</translation>
     </message>
     <message>
         <source>Look %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Look %1</translation>
     </message>
     <message>
         <source>Rename Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Look umbenennen</translation>
     </message>
     <message>
         <source>New name of %1:</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Name von %1:</translation>
     </message>
     <message>
         <source>The look keeps its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look behält seinen Namen.</translation>
     </message>
     <message>
         <source>The look is not deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look ist nicht gelöscht.</translation>
     </message>
     <message>
         <source>Delete the look %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Look %1 löschen</translation>
     </message>
     <message>
         <source>The look does not come back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look kommt nicht zurück.</translation>
     </message>
     <message>
         <source>Deleted the look %1. Undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look %1 ist gelöscht. Rückgängig holt ihn zurück.</translation>
     </message>
     <message>
         <source>Import Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Look importieren</translation>
     </message>
     <message>
         <source>There is a look %1 already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon einen Look %1.</translation>
     </message>
     <message>
         <source>&amp;Skip It</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auslassen</translation>
     </message>
     <message>
         <source>Import under &amp;Another Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter &amp;anderem Namen importieren</translation>
     </message>
     <message>
         <source>&amp;Replace the Old One</source>
-        <translation type="unfinished"></translation>
+        <translation>Alten &amp;ersetzen</translation>
     </message>
     <message>
         <source>Nothing was imported; the look %1 is the old one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts importiert; der Look %1 ist der alte.</translation>
     </message>
     <message>
         <source>The look is not imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look ist nicht importiert.</translation>
     </message>
     <message>
         <source>Imported %1 as the look %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist als Look %2 importiert</translation>
     </message>
     <message>
         <source>Export Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Look exportieren</translation>
     </message>
     <message>
         <source>The look is not exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look ist nicht exportiert.</translation>
     </message>
     <message>
         <source>Exported the look %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Look %1 ist nach %2 exportiert</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the Look</source>
+        <translation>Look &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Takes the look of this portrait, to paste it on others</source>
+        <translation>Nimmt den Look dieses Porträts, um ihn auf andere einzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Paste the Look...</source>
+        <translation>Look &amp;einfügen...</translation>
+    </message>
+    <message>
+        <source>Shows what the copied look changes here, and pastes what is ticked</source>
+        <translation>Zeigt, was der kopierte Look hier ändert, und fügt ein, was angehakt ist</translation>
+    </message>
+    <message>
+        <source>Paste the Look on P&amp;ortraits...</source>
+        <translation>Look auf P&amp;orträts einfügen...</translation>
+    </message>
+    <message>
+        <source>Pastes the copied look on many portraits at once</source>
+        <translation>Fügt den kopierten Look auf vielen Porträts zugleich ein</translation>
+    </message>
+    <message>
+        <source>Save as My &amp;Look...</source>
+        <translation>Als meinen &amp;Look speichern...</translation>
+    </message>
+    <message>
+        <source>Keeps all settings under a name</source>
+        <translation>Bewahrt alle Einstellungen unter einem Namen</translation>
+    </message>
+    <message>
+        <source>&amp;Import a Look...</source>
+        <translation>Look &amp;importieren...</translation>
+    </message>
+    <message>
+        <source>Takes a look or a state file into my looks</source>
+        <translation>Nimmt einen Look oder eine Standdatei in meine Looks auf</translation>
     </message>
 </context>
 <context>
@@ -951,19 +948,19 @@
     </message>
     <message>
         <source>Light and colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht und Farbe</translation>
     </message>
     <message>
         <source>Skin and smoothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut und Glättung</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte</translation>
     </message>
     <message>
         <source>Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Place and size</source>
@@ -971,70 +968,70 @@
     </message>
     <message>
         <source>Clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschnitt</translation>
     </message>
     <message>
         <source>What the look changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Look ändert</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Was</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt</translation>
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Dann</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Take What Is Ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehaktes übernehmen</translation>
     </message>
     <message>
         <source>One step of undo brings all of it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Schritt Rückgängig holt alles zurück.</translation>
     </message>
 </context>
 <context>
     <name>tavrin::LooksPanel</name>
     <message>
         <source>My Looks</source>
-        <translation type="unfinished"></translation>
+        <translation>Meine Looks</translation>
     </message>
     <message>
         <source>A double click or Enter takes the look; the pictures stay</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Doppelklick oder die Eingabetaste übernimmt den Look; die Bilder bleiben</translation>
     </message>
     <message>
         <source>Take...</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen...</translation>
     </message>
     <message>
         <source>Shows what the look changes, and takes what is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was der Look ändert, und übernimmt, was angehakt ist</translation>
     </message>
     <message>
         <source>Save as...</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern als...</translation>
     </message>
     <message>
         <source>Keeps the present settings under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrt die jetzigen Einstellungen unter einem Namen</translation>
     </message>
     <message>
         <source>Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen...</translation>
     </message>
     <message>
         <source>Gives the look another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt dem Look einen anderen Namen</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1042,23 +1039,23 @@
     </message>
     <message>
         <source>Deletes the look; undo brings it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht den Look; Rückgängig holt ihn zurück</translation>
     </message>
     <message>
         <source>Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren...</translation>
     </message>
     <message>
         <source>Takes a look or a state file into the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt einen Look oder eine Standdatei in die Liste auf</translation>
     </message>
     <message>
         <source>Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren...</translation>
     </message>
     <message>
         <source>Writes the look to a file, for another machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Look in eine Datei, für einen anderen Rechner</translation>
     </message>
 </context>
 <context>
@@ -1433,42 +1430,35 @@
     </message>
     <message>
         <source>Find an &amp;Action...</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl &amp;suchen...</translation>
     </message>
     <message>
         <source>Finds every command and control by words, and does or shows it</source>
-        <translation type="unfinished"></translation>
+        <translation>Findet jeden Befehl und Regler nach Wörtern und führt ihn aus oder zeigt ihn</translation>
     </message>
     <message>
         <source>&amp;Reset All Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einstellungen &amp;zurücksetzen</translation>
     </message>
     <message>
         <source>Puts every default of both layers back, as one step</source>
-        <translation type="unfinished"></translation>
+        <translation>Holt alle Vorgabewerte beider Ebenen zurück, als ein Schritt</translation>
     </message>
     <message>
         <source>&amp;History</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verlauf</translation>
     </message>
     <message>
         <source>Every step of this portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Schritt dieses Porträts</translation>
     </message>
     <message>
         <source>&amp;My Looks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Meine Looks</translation>
     </message>
     <message>
         <source>Looks by name: take, save, rename, delete, import, export</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>The look waits on %n portrait(s), and is there when they are opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
+        <translation>Looks nach Namen: übernehmen, speichern, umbenennen, löschen, importieren, exportieren</translation>
     </message>
     <message>
         <source>Open F&amp;older...</source>
@@ -1541,6 +1531,10 @@
     <message>
         <source>Gives the portrait that was marked last the mark it had, and opens it</source>
         <translation>Gibt dem zuletzt markierten Porträt seine alte Markierung und öffnet es</translation>
+    </message>
+    <message>
+        <source>The look waits, and is there when these portraits are opened: %1</source>
+        <translation>Der Look wartet und ist da, wenn diese Porträts geöffnet werden: %1</translation>
     </message>
 </context>
 <context>
@@ -1717,7 +1711,7 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
     <message>
         <source>%1 on %2 portraits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 auf %2 Porträts</translation>
     </message>
 </context>
 <context>
@@ -1794,11 +1788,11 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
     <message>
         <source>Finds controls and commands by words in any order; Enter goes to the first</source>
-        <translation type="unfinished"></translation>
+        <translation>Findet Regler und Befehle nach Wörtern in beliebiger Reihenfolge; die Eingabetaste geht zum ersten</translation>
     </message>
     <message>
         <source>Reset all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles zurücksetzen</translation>
     </message>
 </context>
 <context>

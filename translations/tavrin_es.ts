@@ -499,73 +499,30 @@
     </message>
 </context>
 <context>
-    <name>tavrin</name>
-    <message>
-        <source>&amp;Copy the Look</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Takes the look of this portrait, to paste it on others</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Paste the Look...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shows what the copied look changes here, and pastes what is ticked</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Paste the Look on P&amp;ortraits...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pastes the copied look on many portraits at once</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save as My &amp;Look...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keeps all settings under a name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Import a Look...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Takes a look or a state file into my looks</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>tavrin::ActionSearch</name>
     <message>
         <source>Find an Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar una acción</translation>
     </message>
     <message>
         <source>What to do, or which control</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hacer, o qué control</translation>
     </message>
     <message>
         <source>Words in any order; arrows choose, Enter takes</source>
-        <translation type="unfinished"></translation>
+        <translation>Palabras en cualquier orden; las flechas eligen, Intro toma</translation>
     </message>
     <message>
         <source>Commands and controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Órdenes y controles</translation>
     </message>
     <message>
         <source>%1   (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1   (%2)</translation>
     </message>
     <message>
         <source>Nothing has these words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada tiene estas palabras.</translation>
     </message>
 </context>
 <context>
@@ -579,11 +536,11 @@
     <name>tavrin::Chips</name>
     <message>
         <source>Set here; a click leads to the control</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustado aquí; un clic lleva al control</translation>
     </message>
     <message>
         <source>Put the default back</source>
-        <translation type="unfinished"></translation>
+        <translation>Devolver el valor inicial</translation>
     </message>
     <message>
         <source>Reset %1</source>
@@ -591,15 +548,15 @@
     </message>
     <message>
         <source>fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>menos</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 más</translation>
     </message>
     <message>
         <source>Shows what else is set here, or only the first</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra lo demás ajustado aquí, o solo lo primero</translation>
     </message>
 </context>
 <context>
@@ -722,23 +679,23 @@
     <name>tavrin::HistoryPanel</name>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial</translation>
     </message>
     <message>
         <source>Steps of this portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasos de este retrato</translation>
     </message>
     <message>
         <source>A click goes back or forth to that step</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic va atrás o adelante hasta ese paso</translation>
     </message>
     <message>
         <source>At the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Al principio</translation>
     </message>
     <message>
         <source>%1, taken back</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, deshecho</translation>
     </message>
 </context>
 <context>
@@ -788,7 +745,7 @@
     <name>tavrin::LookDesk</name>
     <message>
         <source>Looks and state files (*.qlx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspectos y archivos de estado (*.qlx)</translation>
     </message>
     <message>
         <source>Pictures (%1)</source>
@@ -796,147 +753,187 @@
     </message>
     <message>
         <source>The look is copied. Ctrl+Shift+V pastes it on another portrait.</source>
-        <translation type="unfinished"></translation>
+        <translation>El aspecto está copiado. Ctrl+Mayús+V lo pega en otro retrato.</translation>
     </message>
     <message>
         <source>Portrait: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Retrato: %1</translation>
     </message>
     <message>
         <source>Background: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo: %1</translation>
     </message>
     <message>
         <source>This portrait has that look already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este retrato ya tiene ese aspecto.</translation>
     </message>
     <message>
         <source>No look was copied yet. Ctrl+Shift+C copies the present one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se ha copiado ningún aspecto. Ctrl+Mayús+C copia el actual.</translation>
     </message>
     <message>
         <source>Paste a Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar un aspecto</translation>
     </message>
     <message>
         <source>Paste a look</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar un aspecto</translation>
     </message>
     <message>
         <source>Paste a Look on %1 Portraits</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar un aspecto en %1 retratos</translation>
     </message>
     <message>
         <source>Select Portraits for the Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir los retratos para el aspecto</translation>
     </message>
     <message>
         <source>Save Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar aspecto</translation>
     </message>
     <message>
         <source>Name of the look:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del aspecto:</translation>
     </message>
     <message>
         <source>Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspecto</translation>
     </message>
     <message>
         <source>There is a look %1 already. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay un aspecto %1. ¿Sustituirlo?</translation>
     </message>
     <message>
         <source>The look is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>El aspecto no se ha guardado.</translation>
     </message>
     <message>
         <source>Saved the look %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha guardado el aspecto %1</translation>
     </message>
     <message>
         <source>The look cannot be taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede tomar el aspecto.</translation>
     </message>
     <message>
         <source>Take the Look %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar el aspecto %1</translation>
     </message>
     <message>
         <source>Look %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspecto %1</translation>
     </message>
     <message>
         <source>Rename Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Renombrar aspecto</translation>
     </message>
     <message>
         <source>New name of %1:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre nuevo de %1:</translation>
     </message>
     <message>
         <source>The look keeps its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>El aspecto conserva su nombre.</translation>
     </message>
     <message>
         <source>The look is not deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>El aspecto no se ha borrado.</translation>
     </message>
     <message>
         <source>Delete the look %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar el aspecto %1</translation>
     </message>
     <message>
         <source>The look does not come back.</source>
-        <translation type="unfinished"></translation>
+        <translation>El aspecto no vuelve.</translation>
     </message>
     <message>
         <source>Deleted the look %1. Undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha borrado el aspecto %1. Deshacer lo recupera.</translation>
     </message>
     <message>
         <source>Import Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar aspecto</translation>
     </message>
     <message>
         <source>There is a look %1 already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay un aspecto %1.</translation>
     </message>
     <message>
         <source>&amp;Skip It</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Omitirlo</translation>
     </message>
     <message>
         <source>Import under &amp;Another Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar con &amp;otro nombre</translation>
     </message>
     <message>
         <source>&amp;Replace the Old One</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sustituir el antiguo</translation>
     </message>
     <message>
         <source>Nothing was imported; the look %1 is the old one.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha importado nada; el aspecto %1 es el antiguo.</translation>
     </message>
     <message>
         <source>The look is not imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>El aspecto no se ha importado.</translation>
     </message>
     <message>
         <source>Imported %1 as the look %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha importado %1 como el aspecto %2</translation>
     </message>
     <message>
         <source>Export Look</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar aspecto</translation>
     </message>
     <message>
         <source>The look is not exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>El aspecto no se ha exportado.</translation>
     </message>
     <message>
         <source>Exported the look %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha exportado el aspecto %1 a %2</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the Look</source>
+        <translation>&amp;Copiar el aspecto</translation>
+    </message>
+    <message>
+        <source>Takes the look of this portrait, to paste it on others</source>
+        <translation>Toma el aspecto de este retrato para pegarlo en otros</translation>
+    </message>
+    <message>
+        <source>&amp;Paste the Look...</source>
+        <translation>&amp;Pegar el aspecto...</translation>
+    </message>
+    <message>
+        <source>Shows what the copied look changes here, and pastes what is ticked</source>
+        <translation>Muestra lo que cambia aquí el aspecto copiado y pega lo marcado</translation>
+    </message>
+    <message>
+        <source>Paste the Look on P&amp;ortraits...</source>
+        <translation>Pegar el aspecto en re&amp;tratos...</translation>
+    </message>
+    <message>
+        <source>Pastes the copied look on many portraits at once</source>
+        <translation>Pega el aspecto copiado en muchos retratos a la vez</translation>
+    </message>
+    <message>
+        <source>Save as My &amp;Look...</source>
+        <translation>Guardar como mi &amp;aspecto...</translation>
+    </message>
+    <message>
+        <source>Keeps all settings under a name</source>
+        <translation>Conserva todos los ajustes con un nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Import a Look...</source>
+        <translation>&amp;Importar un aspecto...</translation>
+    </message>
+    <message>
+        <source>Takes a look or a state file into my looks</source>
+        <translation>Incorpora un aspecto o un archivo de estado a mis aspectos</translation>
     </message>
 </context>
 <context>
@@ -951,19 +948,19 @@
     </message>
     <message>
         <source>Light and colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Luz y color</translation>
     </message>
     <message>
         <source>Skin and smoothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Piel y suavizado</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Efectos</translation>
     </message>
     <message>
         <source>Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos</translation>
     </message>
     <message>
         <source>Place and size</source>
@@ -971,70 +968,70 @@
     </message>
     <message>
         <source>Clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorte</translation>
     </message>
     <message>
         <source>What the look changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que cambia el aspecto</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora</translation>
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Después</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Take What Is Ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar lo marcado</translation>
     </message>
     <message>
         <source>One step of undo brings all of it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paso de deshacer lo recupera todo.</translation>
     </message>
 </context>
 <context>
     <name>tavrin::LooksPanel</name>
     <message>
         <source>My Looks</source>
-        <translation type="unfinished"></translation>
+        <translation>Mis aspectos</translation>
     </message>
     <message>
         <source>A double click or Enter takes the look; the pictures stay</source>
-        <translation type="unfinished"></translation>
+        <translation>Un doble clic o Intro toma el aspecto; las imágenes quedan</translation>
     </message>
     <message>
         <source>Take...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar...</translation>
     </message>
     <message>
         <source>Shows what the look changes, and takes what is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra lo que cambia el aspecto y toma lo marcado</translation>
     </message>
     <message>
         <source>Save as...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como...</translation>
     </message>
     <message>
         <source>Keeps the present settings under a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserva los ajustes actuales con un nombre</translation>
     </message>
     <message>
         <source>Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>Renombrar...</translation>
     </message>
     <message>
         <source>Gives the look another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Da otro nombre al aspecto</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1042,23 +1039,23 @@
     </message>
     <message>
         <source>Deletes the look; undo brings it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Borra el aspecto; deshacer lo recupera</translation>
     </message>
     <message>
         <source>Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar...</translation>
     </message>
     <message>
         <source>Takes a look or a state file into the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorpora un aspecto o un archivo de estado a la lista</translation>
     </message>
     <message>
         <source>Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar...</translation>
     </message>
     <message>
         <source>Writes the look to a file, for another machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe el aspecto en un archivo, para otro equipo</translation>
     </message>
 </context>
 <context>
@@ -1433,42 +1430,35 @@
     </message>
     <message>
         <source>Find an &amp;Action...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar una &amp;acción...</translation>
     </message>
     <message>
         <source>Finds every command and control by words, and does or shows it</source>
-        <translation type="unfinished"></translation>
+        <translation>Encuentra cada orden y control por palabras, y lo ejecuta o lo muestra</translation>
     </message>
     <message>
         <source>&amp;Reset All Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restablecer todos los ajustes</translation>
     </message>
     <message>
         <source>Puts every default of both layers back, as one step</source>
-        <translation type="unfinished"></translation>
+        <translation>Devuelve los valores iniciales de ambas capas, en un solo paso</translation>
     </message>
     <message>
         <source>&amp;History</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Historial</translation>
     </message>
     <message>
         <source>Every step of this portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada paso de este retrato</translation>
     </message>
     <message>
         <source>&amp;My Looks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mis aspectos</translation>
     </message>
     <message>
         <source>Looks by name: take, save, rename, delete, import, export</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>The look waits on %n portrait(s), and is there when they are opened.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
+        <translation>Aspectos por nombre: tomar, guardar, renombrar, borrar, importar, exportar</translation>
     </message>
     <message>
         <source>Open F&amp;older...</source>
@@ -1541,6 +1531,10 @@
     <message>
         <source>Gives the portrait that was marked last the mark it had, and opens it</source>
         <translation>Devuelve al último retrato marcado la marca que tenía, y lo abre</translation>
+    </message>
+    <message>
+        <source>The look waits, and is there when these portraits are opened: %1</source>
+        <translation>El aspecto espera y estará al abrir estos retratos: %1</translation>
     </message>
 </context>
 <context>
@@ -1717,7 +1711,7 @@ o ábralos desde el menú Archivo.</translation>
     </message>
     <message>
         <source>%1 on %2 portraits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2 retratos</translation>
     </message>
 </context>
 <context>
@@ -1794,11 +1788,11 @@ o ábralos desde el menú Archivo.</translation>
     </message>
     <message>
         <source>Finds controls and commands by words in any order; Enter goes to the first</source>
-        <translation type="unfinished"></translation>
+        <translation>Encuentra controles y órdenes por palabras en cualquier orden; Intro va al primero</translation>
     </message>
     <message>
         <source>Reset all</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer todo</translation>
     </message>
 </context>
 <context>
