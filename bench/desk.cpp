@@ -181,6 +181,9 @@ int main(int argc, char** argv) {
         drag(window, *info, application, name, seconds);
     window.view()->setFixedSize(1600, 1000);
     paint(window, *info, "fitted");
+    window.commands().action("ShowSplit")->setChecked(true);
+    paint(window, *info, "fitted, before and after");
+    window.commands().action("ShowSplit")->setChecked(false);
     window.view()->zoomToPixels();
     paint(window, *info, "at 100 percent");
     window.view()->zoomBy(3.0);

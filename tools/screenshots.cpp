@@ -93,6 +93,8 @@ bool shootAll(const QString& folder, const QString& scale) {
         useTheme(dark ? Theme::dark : Theme::light);
         const auto info = std::make_unique<SystemInfo>();
         startWithSample(*info);
+        for (auto [icon, name] : {std::pair(&info->TextEditIcon, "Edit"), std::pair(&info->TextDeleteIcon, "Delete")})
+            icon->Image = QImage(QString(":/shipped/Pictures/EditTextIcons/%1.png").arg(name));
         MainWindow window(*info);
         window.resize(kWidth, kHeight);
         window.show();

@@ -53,6 +53,16 @@ TEST(ZoomTest, AHundredPercentIsAPixelOnADevicePixel) {
     EXPECT_NEAR(zoom.dZoom(), Zoom::kLeast, 1e-9);
 }
 
+TEST(ZoomTest, APictureThatIsLessThanFittedStaysSoWhileTheViewStaysAsItIs) {
+    Zoom zoom = zoomOf({800, 700}, {240, 300});
+    zoom.setPixelScale({400, 350}, 1.0);
+    EXPECT_LT(zoom.dZoom(), 1.0);
+    zoom.setView({800, 700}, 1.0);  // as before every paint
+    EXPECT_TRUE(zoom.isActualPixels());
+    zoom.setView({800, 701}, 1.0);
+    EXPECT_EQ(zoom.dZoom(), 1.0);
+}
+
 TEST(ZoomTest, MagnifyAddsATenthAndAResizeKeepsIt) {
     Zoom zoom = zoomOf({800, 700}, {2400, 3000});
     const double fitted = zoom.frame().width();

@@ -62,6 +62,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
 }
 
 MainWindow::~MainWindow() {
+    hide();         // ends what is held, while there is a loop to tell
     loop_.reset();  // the thread ends before the bridge it talks to
     info_.pInterface = nullptr;
 }

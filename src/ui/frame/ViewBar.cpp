@@ -60,6 +60,8 @@ ViewBar::ViewBar(const Commands& commands, PictureView* view, QWidget* parent) :
         line->addWidget(rule);
         line->addSpacing(6);
     };
+    commands.action("ZoomOut")->setIconText(QChar(0x2212));
+    commands.action("ZoomIn")->setIconText("+");
     line->addStretch();
     add({"setZoomHome", "ZoomPixels", "ZoomOut"});
     line->addWidget(new ZoomSlider(view, this));

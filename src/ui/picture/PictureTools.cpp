@@ -92,8 +92,7 @@ void PictureTools::take(Other other, const QImage& picture) {
 }
 
 void PictureTools::showOriginal(bool on) {
-    originalHeld_ = on;
-    showOthers();
+    if (std::exchange(originalHeld_, on) != on) showOthers();
 }
 
 void PictureTools::showAlpha(bool on) {

@@ -43,7 +43,7 @@ void PictureView::paintEvent(QPaintEvent*) {
 }
 
 void PictureView::paintPicture(QPainter& painter) {
-    const QRectF frame = zoom_.frame();
+    const QRectF frame = zoom_.shownFrame();
     painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom_.pixelScale() < 2.0);
     if (isSplit() && !before_.isNull()) {
         paintBefore(painter, frame);
@@ -83,13 +83,7 @@ void PictureView::paintBefore(QPainter& painter, const QRectF& frame) {
 
 /// A picture of the same place as the combined one, whatever its size.
 void PictureView::paintOther(QPainter& painter, const QImage& picture, const QRectF& frame) {
-    const double ratio = devicePixelRatioF();
-    if (picture.size() == (frame.size() * ratio).toSize()) {
-        QImage exact = picture;  // shares the pixels
-        exact.setDevicePixelRatio(ratio);
-        painter.drawImage(QPointF(std::round(frame.x() * ratio), std::round(frame.y() * ratio)) / ratio, exact);
-        return;
-    }
+    if (picture.size() == zoom_.shownSize()) return paintExactly(painter, picture, frame);
     const QRectF seen = frame.intersected(QRectF(rect()));
     const double x = picture.width() / frame.width(), y = picture.height() / frame.height();
     painter.drawImage(
@@ -99,20 +93,23 @@ void PictureView::paintOther(QPainter& painter, const QImage& picture, const QRe
 
 /// What is smaller on the screen is made so elsewhere; until it is there the preview stands in.
 void PictureView::paintFull(QPainter& painter, const QRectF& frame) {
-    const double ratio = devicePixelRatioF();
-    if (zoom_.pixelScale() >= 1.0) {
-        const QRectF seen = frame.intersected(QRectF(rect()));
-        painter.drawImage(seen, full_, QRectF(zoom_.pictureAt(seen.topLeft()), zoom_.pictureAt(seen.bottomRight())));
-        return;
-    }
-    const QSize size = (frame.size() * ratio).toSize();
-    if (smallOf_ == full_.cacheKey() && small_.size() == size) {
-        small_.setDevicePixelRatio(ratio);
-        painter.drawImage(QPointF(std::round(frame.x() * ratio), std::round(frame.y() * ratio)) / ratio, small_);
-        return;
-    }
+    if (zoom_.pixelScale() >= 1.0 || zoom_.isActualPixels()) return paintOther(painter, full_, frame);
+    const QSize size = zoom_.shownSize();
+    if (smallOf_ == full_.cacheKey() && small_.size() == size) return paintExactly(painter, small_, frame);
     shrinker_.want(full_, size);
     painter.drawImage(frame, preview_.isNull() ? full_ : preview_);
+}
+
+/// Pixel by device pixel. The painter is scaled, not the picture: a ratio of its own would copy it.
+void PictureView::paintExactly(QPainter& painter, const QImage& picture, const QRectF& frame) {
+    const double ratio = devicePixelRatioF();
+    painter.save();
+    painter.scale(1.0 / ratio, 1.0 / ratio);
+    const QPoint origin = (frame.topLeft() * ratio).toPoint();
+    const QRect room(QPoint(), (QSizeF(size()) * ratio).toSize());
+    const QRect seen = QRect(origin, picture.size()).intersected(room.adjusted(-1, -1, 1, 1));
+    painter.drawImage(seen.topLeft(), picture, seen.translated(-origin));
+    painter.restore();
 }
 
 /// @param at the corner of its plate that lies on `side`

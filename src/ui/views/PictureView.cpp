@@ -4,12 +4,15 @@
 #include <cstring>
 #include <utility>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QPainter>
 #include <QWheelEvent>
+
+#include "ui/views/PictureAccess.h"
 
 namespace tavrin {
 
@@ -27,6 +30,7 @@ void putRows(QImage& picture, const PublishedRows& rows) {
 PictureView::PictureView(QWidget* parent) : QWidget(parent), splitLine_(new SplitLine(this)) {
     setObjectName("mainQLXView");
     setAccessibleName(tr("Picture"));
+    makePictureAccessible();
     setMinimumSize(240, 240);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -60,6 +64,7 @@ void PictureView::takeRows(const PublishedRows& rows) {
     }
     fullRows_ = rows.firstRow + rows.rowCount;
     setOutputSize(full_.size());
+    if (isFull()) speak();
 }
 
 void PictureView::setOutputSize(QSize pixels) {
@@ -74,6 +79,7 @@ void PictureView::showInstead(const QImage& picture, const QString& word) {
     instead_ = picture;
     insteadWord_ = word;
     update();
+    speak();
 }
 
 void PictureView::setBefore(const QImage& picture) {
@@ -84,11 +90,32 @@ void PictureView::setBefore(const QImage& picture) {
 void PictureView::setSplit(bool on) {
     splitLine_->setVisible(on);
     placeSplit();
+    speak();
 }
 
 void PictureView::placeSplit() {
-    splitLine_->placeOn(zoom_.frame());
+    splitLine_->placeOn(zoom_.shownFrame());
     update();
+}
+
+QString PictureView::description() const {
+    const QString shown = full_.isNull() && preview_.isNull() ? tr("nothing")
+                          : isSplit()                         ? tr("before and after")
+                          : !instead_.isNull()                ? insteadWord_
+                          : isFull()                          ? tr("result")
+                                                              : tr("preview");
+    return tr("%1 x %2 pixels, %3 percent, %4")
+        .arg(zoom_.picture().width())
+        .arg(zoom_.picture().height())
+        .arg(qRound(100.0 * zoom_.pixelScale()))
+        .arg(shown);
+}
+
+/// Those who do not see the picture hear what became of it.
+void PictureView::speak() {
+    if (!QAccessible::isActive()) return;
+    QAccessibleValueChangeEvent event(this, description());
+    QAccessible::updateAccessibility(&event);
 }
 
 void PictureView::setItemIcons(const QImage& edit, const QImage& remove) {
@@ -113,6 +140,7 @@ PictureView::DropZone PictureView::zoneAt(const QPoint& position) const {
 
 void PictureView::zoomChanged() {
     placeSplit();
+    speak();
     emit zoomed();
 }
 
@@ -188,7 +216,7 @@ void PictureView::beginPress(const QPointF& at) {
 }
 
 QPoint PictureView::fromLowerLeft(const QPointF& view) const {
-    const QRectF frame = zoom_.frame();
+    const QRectF frame = zoom_.shownFrame();
     return QPointF(view.x() - frame.x(), frame.bottom() - view.y()).toPoint();
 }
 
@@ -212,8 +240,7 @@ void PictureView::mouseReleaseEvent(QMouseEvent*) {
 }
 
 void PictureView::point(const QPointF& at) {
-    const QPointF place = zoom_.pictureAt(at);
-    QPoint pixel(static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y())));
+    QPoint pixel = zoom_.pixelAt(at);
     if (!QRect(QPoint(), full_.size()).contains(pixel)) pixel = {-1, -1};
     if (std::exchange(pointed_, pixel) != pixel) emit pointed(pixel);
 }

@@ -100,6 +100,7 @@ class PictureView : public QWidget {
     QPointF pointer() const;
     void zoomChanged();
     void placeSplit();
+    void speak();
     void takeRows(const PublishedRows& rows);
     void point(const QPointF& at);
     void beginPress(const QPointF& at);
@@ -108,6 +109,7 @@ class PictureView : public QWidget {
     void paintAfter(QPainter& painter, const QRectF& frame);
     void paintBefore(QPainter& painter, const QRectF& frame);
     void paintOther(QPainter& painter, const QImage& picture, const QRectF& frame);
+    void paintExactly(QPainter& painter, const QImage& picture, const QRectF& frame);
     void paintFull(QPainter& painter, const QRectF& frame);
     void paintWord(QPainter& painter, const QString& word, const QPointF& at, Qt::Alignment side);
     void paintSelection(QPainter& painter, const QRectF& frame);

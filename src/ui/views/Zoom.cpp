@@ -14,7 +14,24 @@ double Zoom::pixelScale() const {
     return frame().width() * ratio_ / picture_.width();
 }
 
+bool Zoom::isActualPixels() const {
+    return std::abs(pixelScale() - 1.0) < 1e-6;
+}
+
+QRectF Zoom::shownFrame() const {
+    const QRectF exact = frame();
+    if (pixelScale() > 1.0 && !isActualPixels()) return exact;
+    return {QPointF(std::round(exact.x() * ratio_), std::round(exact.y() * ratio_)) / ratio_, exact.size()};
+}
+
+QPoint Zoom::pixelAt(const QPointF& view) const {
+    const QRectF rect = shownFrame();
+    return {static_cast<int>(std::floor((view.x() - rect.x()) * picture_.width() / rect.width())),
+            static_cast<int>(std::floor((view.y() - rect.y()) * picture_.height() / rect.height()))};
+}
+
 void Zoom::setView(QSizeF points, double devicePixelRatio) {
+    if (points == view_ && devicePixelRatio == ratio_) return;  // less than fitted stays so
     const bool home = isHome();
     const QPointF seen = pictureAt(middle());
     const double scale = pixelScale();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPoint>
 #include <QPointF>
 #include <QRectF>
 #include <QSize>
@@ -22,12 +23,20 @@ class Zoom {
     /// @return whether it is of another size
     bool setPicture(QSize pixels);
 
+    QSize picture() const { return picture_; }
     /// Times the fitted size.
     double dZoom() const { return dZoom_; }
     /// Small changes of the zoom count as fitted.
     bool isHome() const { return dZoom_ < 1.01; }
     /// The picture's rectangle in the view.
     QRectF frame() const { return {origin_, fitted() * dZoom_}; }
+    /// The same as it is painted: up to 100 percent it begins on a whole device pixel, so that none is blurred.
+    QRectF shownFrame() const;
+    /// Its size in device pixels.
+    QSize shownSize() const { return (frame().size() * ratio_).toSize(); }
+    bool isActualPixels() const;
+    /// The picture's pixel that is painted at a place of the view; may lie outside of the picture.
+    QPoint pixelAt(const QPointF& view) const;
     /// Device pixels to a pixel of the picture; 1 is 100 percent.
     double pixelScale() const;
 
