@@ -551,6 +551,30 @@
         <source>Hold and drag to move the picture</source>
         <translation>Halten und ziehen, um das Bild zu bewegen</translation>
     </message>
+    <message>
+        <source>Arrows on the picture</source>
+        <translation>Pfeile auf dem Bild</translation>
+    </message>
+    <message>
+        <source>Move what is shown; with Shift by a point</source>
+        <translation>Verschieben den Ausschnitt; mit Umschalt um einen Punkt</translation>
+    </message>
+    <message>
+        <source>Arrows on the line between before and after</source>
+        <translation>Pfeile auf der Linie zwischen vorher und nachher</translation>
+    </message>
+    <message>
+        <source>Move the line</source>
+        <translation>Verschieben die Linie</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation>Links, Rechts</translation>
+    </message>
+    <message>
+        <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
+        <translation>Im Streifen oder auf einem Bild, das ganz zu sehen ist: voriges oder nächstes Porträt öffnen</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ControlRow</name>
@@ -588,6 +612,49 @@
     <message>
         <source>open</source>
         <translation>offen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ItemTool</name>
+    <message>
+        <source>Place of an item</source>
+        <translation>Lage eines Elements</translation>
+    </message>
+    <message>
+        <source>Size of an item</source>
+        <translation>Größe eines Elements</translation>
+    </message>
+    <message>
+        <source>Edit Picture Item</source>
+        <translation>Bildelement bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit Text</source>
+        <translation>Text bearbeiten</translation>
+    </message>
+    <message>
+        <source>File of the picture</source>
+        <translation>Datei des Bildes</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text of an item</source>
+        <translation>Text eines Elements</translation>
+    </message>
+    <message>
+        <source>Are you shure you want to delete the text?</source>
+        <translation>Soll der Text wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
     </message>
 </context>
 <context>
@@ -665,22 +732,6 @@
         <translation>Das Fenster schließt, sobald alles gespeichert ist.</translation>
     </message>
     <message>
-        <source>Place of the background</source>
-        <translation>Lage des Hintergrunds</translation>
-    </message>
-    <message>
-        <source>Place of the portrait</source>
-        <translation>Lage des Porträts</translation>
-    </message>
-    <message>
-        <source>Before</source>
-        <translation>Vorher</translation>
-    </message>
-    <message>
-        <source>Alpha</source>
-        <translation>Alpha</translation>
-    </message>
-    <message>
         <source>Not everything is as it should be at the start.</source>
         <translation>Beim Start ist nicht alles, wie es sein soll.</translation>
     </message>
@@ -695,14 +746,6 @@
     <message>
         <source>Output size </source>
         <translation>Ausgabegröße </translation>
-    </message>
-    <message>
-        <source>Before, as long as it is held</source>
-        <translation>Vorher, solange gehalten wird</translation>
-    </message>
-    <message>
-        <source>Hold it to see the portrait as it was taken; the key B does the same</source>
-        <translation>Halten, um das Porträt wie aufgenommen zu sehen; die Taste B tut dasselbe</translation>
     </message>
     <message>
         <source>Full picture %1 %</source>
@@ -853,22 +896,6 @@
         <translation>Kleiner</translation>
     </message>
     <message>
-        <source>Before (hold the key)</source>
-        <translation>Vorher (Taste halten)</translation>
-    </message>
-    <message>
-        <source>The portrait as it was taken</source>
-        <translation>Das Porträt, wie es aufgenommen wurde</translation>
-    </message>
-    <message>
-        <source>&amp;Alpha</source>
-        <translation>&amp;Alpha</translation>
-    </message>
-    <message>
-        <source>What the key leaves of the portrait: dark stays, light goes</source>
-        <translation>Was vom Porträt bleibt: Dunkles bleibt, Helles geht</translation>
-    </message>
-    <message>
         <source>Save the State with Every &amp;Picture</source>
         <translation>Stand mit jedem &amp;Bild speichern</translation>
     </message>
@@ -952,6 +979,86 @@
         <source>Every key and what it does</source>
         <translation>Jede Taste und was sie tut</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Folder of the Backgrounds</source>
+        <translation>Ordner der Hintergründe</translation>
+    </message>
+    <message>
+        <source>Open F&amp;older...</source>
+        <translation>&amp;Ordner öffnen...</translation>
+    </message>
+    <message>
+        <source>Fills the strip with a folder&apos;s portraits and opens the first</source>
+        <translation>Füllt den Streifen mit den Porträts eines Ordners und öffnet das erste</translation>
+    </message>
+    <message>
+        <source>S&amp;trip of Pictures</source>
+        <translation>Bild&amp;streifen</translation>
+    </message>
+    <message>
+        <source>Shows the pictures of the strip, or folds them away</source>
+        <translation>Zeigt die Bilder des Streifens oder klappt sie weg</translation>
+    </message>
+    <message>
+        <source>&amp;Next Portrait</source>
+        <translation>&amp;Nächstes Porträt</translation>
+    </message>
+    <message>
+        <source>Opens the portrait that comes next in the strip</source>
+        <translation>Öffnet das Porträt, das im Streifen als nächstes kommt</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Portrait</source>
+        <translation>&amp;Voriges Porträt</translation>
+    </message>
+    <message>
+        <source>Opens the portrait before this one in the strip</source>
+        <translation>Öffnet das Porträt, das im Streifen vor diesem steht</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Keep</source>
+        <translation>Marke: &amp;Behalten</translation>
+    </message>
+    <message>
+        <source>This portrait is good</source>
+        <translation>Dieses Porträt ist gut</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Reject</source>
+        <translation>Marke: &amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>This portrait goes out; the next one is opened</source>
+        <translation>Dieses Porträt fällt weg; das nächste wird geöffnet</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Look Again</source>
+        <translation>Marke: &amp;Noch einmal ansehen</translation>
+    </message>
+    <message>
+        <source>This portrait needs another look</source>
+        <translation>Dieses Porträt muss noch einmal angesehen werden</translation>
+    </message>
+    <message>
+        <source>&amp;Unmark</source>
+        <translation>Marke &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Takes the mark from this portrait</source>
+        <translation>Nimmt diesem Porträt die Marke</translation>
+    </message>
+    <message>
+        <source>Take the Last &amp;Mark Back</source>
+        <translation>Letzte &amp;Marke zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Gives the portrait that was marked last the mark it had, and opens it</source>
+        <translation>Gibt dem zuletzt markierten Porträt seine alte Marke wieder und öffnet es</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -983,16 +1090,8 @@
         <translation>Verschieben</translation>
     </message>
     <message>
-        <source>A drag on the picture moves the layer</source>
-        <translation>Ziehen auf dem Bild verschiebt die Ebene</translation>
-    </message>
-    <message>
         <source>Scale</source>
         <translation>Größe</translation>
-    </message>
-    <message>
-        <source>A drag up makes the layer larger, a drag down smaller</source>
-        <translation>Ziehen nach oben macht die Ebene größer, nach unten kleiner</translation>
     </message>
     <message>
         <source>Portrait</source>
@@ -1014,6 +1113,22 @@
         <source>Mouse: %1</source>
         <translation>Maus: %1</translation>
     </message>
+    <message>
+        <source>A drag on the picture moves what is chosen beside</source>
+        <translation>Ziehen auf dem Bild verschiebt, was daneben gewählt ist</translation>
+    </message>
+    <message>
+        <source>A drag up makes it larger, a drag down smaller</source>
+        <translation>Ziehen nach oben vergrößert, nach unten verkleinert</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>A click selects a text or picture item, and drags act on it</source>
+        <translation>Ein Klick wählt ein Text- oder Bildelement, Ziehen wirkt darauf</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::PictureFiles</name>
@@ -1032,6 +1147,52 @@
     <message>
         <source>The state file cannot be saved.</source>
         <translation>Die Standdatei kann nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureList</name>
+    <message>
+        <source>keep</source>
+        <translation>behalten</translation>
+    </message>
+    <message>
+        <source>reject</source>
+        <translation>verwerfen</translation>
+    </message>
+    <message>
+        <source>look again</source>
+        <translation>noch einmal ansehen</translation>
+    </message>
+    <message>
+        <source>open now</source>
+        <translation>gerade offen</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureTools</name>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <source>Place of the background</source>
+        <translation>Lage des Hintergrunds</translation>
+    </message>
+    <message>
+        <source>Place of the portrait</source>
+        <translation>Lage des Porträts</translation>
     </message>
 </context>
 <context>
@@ -1055,6 +1216,52 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Background</source>
         <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ScaleView</name>
+    <message>
+        <source>Map of the layer in the picture</source>
+        <translation>Karte der Ebene im Bild</translation>
+    </message>
+    <message>
+        <source>The layer in a small map of the picture: drag it to its place</source>
+        <translation>Die Ebene in einer kleinen Karte des Bildes: an ihren Platz ziehen</translation>
+    </message>
+    <message>
+        <source>Place of the portrait</source>
+        <translation>Lage des Porträts</translation>
+    </message>
+    <message>
+        <source>Place of the background</source>
+        <translation>Lage des Hintergrunds</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Shelf</name>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>%1 von %2 gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt;&amp;nbsp; %2</source>
+        <translation>&lt;b&gt;%1&lt;/b&gt;&amp;nbsp; %2</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>Der Ordner kann nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1331,125 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>%1 goes from %2 to %3; it was set to %4.</source>
         <translation>%1 geht von %2 bis %3; es steht jetzt auf %4.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SplitLine</name>
+    <message>
+        <source>Line between before and after</source>
+        <translation>Linie zwischen vorher und nachher</translation>
+    </message>
+    <message>
+        <source>Drag it across the picture: the portrait as it was taken on its left, the result on its right</source>
+        <translation>Über das Bild ziehen: links das Porträt, wie es aufgenommen wurde, rechts das Ergebnis</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::StoryPanel</name>
+    <message>
+        <source>Story of a pixel</source>
+        <translation>Geschichte eines Pixels</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>schließen</translation>
+    </message>
+    <message>
+        <source>Close the story of the pixel</source>
+        <translation>Geschichte des Pixels schließen</translation>
+    </message>
+    <message>
+        <source>Closes this panel; Esc does the same</source>
+        <translation>Schließt dieses Feld; Esc tut dasselbe</translation>
+    </message>
+    <message>
+        <source>This pixel</source>
+        <translation>Dieses Pixel</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Strip</name>
+    <message>
+        <source>Portraits</source>
+        <translation>Porträts</translation>
+    </message>
+    <message>
+        <source>Backgrounds</source>
+        <translation>Hintergründe</translation>
+    </message>
+    <message>
+        <source>Folder...</source>
+        <translation>Ordner...</translation>
+    </message>
+    <message>
+        <source>Folder of the backgrounds</source>
+        <translation>Ordner der Hintergründe</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose backgrounds stand here</source>
+        <translation>Wählt den Ordner, dessen Hintergründe hier stehen</translation>
+    </message>
+    <message>
+        <source>Portraits shown</source>
+        <translation>Gezeigte Porträts</translation>
+    </message>
+    <message>
+        <source>Shows only the portraits with this mark</source>
+        <translation>Zeigt nur die Porträts mit dieser Marke</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Unmarked</source>
+        <translation>Ohne Marke</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Reject</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Noch einmal ansehen</translation>
+    </message>
+    <message>
+        <source>There is no picture in the folder.</source>
+        <translation>Im Ordner ist kein Bild.</translation>
+    </message>
+    <message>
+        <source>The mark is not kept.</source>
+        <translation>Die Marke wird nicht behalten.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TextScaleView</name>
+    <message>
+        <source>Map of the selected item in the picture</source>
+        <translation>Karte des gewählten Elements im Bild</translation>
+    </message>
+    <message>
+        <source>The selected text or picture in a small map of the picture: drag it to its place</source>
+        <translation>Der gewählte Text oder das Bild in einer kleinen Karte: an seinen Platz ziehen</translation>
+    </message>
+    <message>
+        <source>Place of an item</source>
+        <translation>Lage eines Elements</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ZoomSlider</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Smaller to the left, larger to the right</source>
+        <translation>Kleiner nach links, größer nach rechts</translation>
     </message>
 </context>
 </TS>

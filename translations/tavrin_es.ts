@@ -551,6 +551,30 @@
         <source>Hold and drag to move the picture</source>
         <translation>Mantener y arrastrar para mover la imagen</translation>
     </message>
+    <message>
+        <source>Arrows on the picture</source>
+        <translation>Flechas sobre la imagen</translation>
+    </message>
+    <message>
+        <source>Move what is shown; with Shift by a point</source>
+        <translation>Mueven lo que se muestra; con Mayús, un punto</translation>
+    </message>
+    <message>
+        <source>Arrows on the line between before and after</source>
+        <translation>Flechas sobre la línea entre antes y después</translation>
+    </message>
+    <message>
+        <source>Move the line</source>
+        <translation>Mueven la línea</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation>Izquierda, derecha</translation>
+    </message>
+    <message>
+        <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
+        <translation>En la tira, o sobre una imagen que se ve entera: abrir el retrato anterior o el siguiente</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ControlRow</name>
@@ -588,6 +612,49 @@
     <message>
         <source>open</source>
         <translation>abierto</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ItemTool</name>
+    <message>
+        <source>Place of an item</source>
+        <translation>Posición de un elemento</translation>
+    </message>
+    <message>
+        <source>Size of an item</source>
+        <translation>Tamaño de un elemento</translation>
+    </message>
+    <message>
+        <source>Edit Picture Item</source>
+        <translation>Editar elemento de imagen</translation>
+    </message>
+    <message>
+        <source>Edit Text</source>
+        <translation>Editar texto</translation>
+    </message>
+    <message>
+        <source>File of the picture</source>
+        <translation>Archivo de la imagen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Text of an item</source>
+        <translation>Texto de un elemento</translation>
+    </message>
+    <message>
+        <source>Are you shure you want to delete the text?</source>
+        <translation>¿Seguro que desea eliminar el texto?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
     </message>
 </context>
 <context>
@@ -665,22 +732,6 @@
         <translation>La ventana se cierra cuando todo esté guardado.</translation>
     </message>
     <message>
-        <source>Place of the background</source>
-        <translation>Posición del fondo</translation>
-    </message>
-    <message>
-        <source>Place of the portrait</source>
-        <translation>Posición del retrato</translation>
-    </message>
-    <message>
-        <source>Before</source>
-        <translation>Antes</translation>
-    </message>
-    <message>
-        <source>Alpha</source>
-        <translation>Alfa</translation>
-    </message>
-    <message>
         <source>Not everything is as it should be at the start.</source>
         <translation>No todo está como debe al arrancar.</translation>
     </message>
@@ -695,14 +746,6 @@
     <message>
         <source>Output size </source>
         <translation>Tamaño de salida </translation>
-    </message>
-    <message>
-        <source>Before, as long as it is held</source>
-        <translation>Antes, mientras se mantiene</translation>
-    </message>
-    <message>
-        <source>Hold it to see the portrait as it was taken; the key B does the same</source>
-        <translation>Manténgalo para ver el retrato tal como se tomó; la tecla B hace lo mismo</translation>
     </message>
     <message>
         <source>Full picture %1 %</source>
@@ -853,22 +896,6 @@
         <translation>Menor</translation>
     </message>
     <message>
-        <source>Before (hold the key)</source>
-        <translation>Antes (mantener la tecla)</translation>
-    </message>
-    <message>
-        <source>The portrait as it was taken</source>
-        <translation>El retrato tal como se tomó</translation>
-    </message>
-    <message>
-        <source>&amp;Alpha</source>
-        <translation>&amp;Alfa</translation>
-    </message>
-    <message>
-        <source>What the key leaves of the portrait: dark stays, light goes</source>
-        <translation>Lo que queda del retrato: lo oscuro queda, lo claro se va</translation>
-    </message>
-    <message>
         <source>Save the State with Every &amp;Picture</source>
         <translation>Guardar el estado con cada &amp;imagen</translation>
     </message>
@@ -952,6 +979,86 @@
         <source>Every key and what it does</source>
         <translation>Cada tecla y lo que hace</translation>
     </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Folder of the Backgrounds</source>
+        <translation>Carpeta de los fondos</translation>
+    </message>
+    <message>
+        <source>Open F&amp;older...</source>
+        <translation>Abrir &amp;carpeta...</translation>
+    </message>
+    <message>
+        <source>Fills the strip with a folder&apos;s portraits and opens the first</source>
+        <translation>Llena la tira con los retratos de una carpeta y abre el primero</translation>
+    </message>
+    <message>
+        <source>S&amp;trip of Pictures</source>
+        <translation>&amp;Tira de imágenes</translation>
+    </message>
+    <message>
+        <source>Shows the pictures of the strip, or folds them away</source>
+        <translation>Muestra las imágenes de la tira o las pliega</translation>
+    </message>
+    <message>
+        <source>&amp;Next Portrait</source>
+        <translation>Retrato &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Opens the portrait that comes next in the strip</source>
+        <translation>Abre el retrato que sigue en la tira</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Portrait</source>
+        <translation>Retrato &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Opens the portrait before this one in the strip</source>
+        <translation>Abre el retrato que está antes de este en la tira</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Keep</source>
+        <translation>Marca: &amp;conservar</translation>
+    </message>
+    <message>
+        <source>This portrait is good</source>
+        <translation>Este retrato es bueno</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Reject</source>
+        <translation>Marca: &amp;rechazar</translation>
+    </message>
+    <message>
+        <source>This portrait goes out; the next one is opened</source>
+        <translation>Este retrato se descarta; se abre el siguiente</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Look Again</source>
+        <translation>Marca: &amp;volver a mirar</translation>
+    </message>
+    <message>
+        <source>This portrait needs another look</source>
+        <translation>Este retrato necesita otra mirada</translation>
+    </message>
+    <message>
+        <source>&amp;Unmark</source>
+        <translation>&amp;Quitar marca</translation>
+    </message>
+    <message>
+        <source>Takes the mark from this portrait</source>
+        <translation>Quita la marca de este retrato</translation>
+    </message>
+    <message>
+        <source>Take the Last &amp;Mark Back</source>
+        <translation>Deshacer la última &amp;marca</translation>
+    </message>
+    <message>
+        <source>Gives the portrait that was marked last the mark it had, and opens it</source>
+        <translation>Devuelve al último retrato marcado la marca que tenía y lo abre</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -983,16 +1090,8 @@
         <translation>Mover</translation>
     </message>
     <message>
-        <source>A drag on the picture moves the layer</source>
-        <translation>Arrastrar en la imagen mueve la capa</translation>
-    </message>
-    <message>
         <source>Scale</source>
         <translation>Escalar</translation>
-    </message>
-    <message>
-        <source>A drag up makes the layer larger, a drag down smaller</source>
-        <translation>Arrastrar hacia arriba agranda la capa, hacia abajo la reduce</translation>
     </message>
     <message>
         <source>Portrait</source>
@@ -1014,6 +1113,22 @@
         <source>Mouse: %1</source>
         <translation>Ratón: %1</translation>
     </message>
+    <message>
+        <source>A drag on the picture moves what is chosen beside</source>
+        <translation>Arrastrar sobre la imagen mueve lo elegido al lado</translation>
+    </message>
+    <message>
+        <source>A drag up makes it larger, a drag down smaller</source>
+        <translation>Arrastrar hacia arriba agranda, hacia abajo reduce</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>A click selects a text or picture item, and drags act on it</source>
+        <translation>Un clic elige un elemento de texto o imagen, y arrastrar actúa sobre él</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::PictureFiles</name>
@@ -1032,6 +1147,52 @@
     <message>
         <source>The state file cannot be saved.</source>
         <translation>No se puede guardar el archivo de estado.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureList</name>
+    <message>
+        <source>keep</source>
+        <translation>conservar</translation>
+    </message>
+    <message>
+        <source>reject</source>
+        <translation>rechazar</translation>
+    </message>
+    <message>
+        <source>look again</source>
+        <translation>volver a mirar</translation>
+    </message>
+    <message>
+        <source>open now</source>
+        <translation>abierto ahora</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureTools</name>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Alfa</translation>
+    </message>
+    <message>
+        <source>Place of the background</source>
+        <translation>Posición del fondo</translation>
+    </message>
+    <message>
+        <source>Place of the portrait</source>
+        <translation>Posición del retrato</translation>
     </message>
 </context>
 <context>
@@ -1055,6 +1216,52 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>Background</source>
         <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Después</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ScaleView</name>
+    <message>
+        <source>Map of the layer in the picture</source>
+        <translation>Mapa de la capa en la imagen</translation>
+    </message>
+    <message>
+        <source>The layer in a small map of the picture: drag it to its place</source>
+        <translation>La capa en un pequeño mapa de la imagen: arrástrela a su sitio</translation>
+    </message>
+    <message>
+        <source>Place of the portrait</source>
+        <translation>Posición del retrato</translation>
+    </message>
+    <message>
+        <source>Place of the background</source>
+        <translation>Posición del fondo</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Shelf</name>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>%1 de %2 a la vista</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt;&amp;nbsp; %2</source>
+        <translation>&lt;b&gt;%1&lt;/b&gt;&amp;nbsp; %2</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>No se puede leer la carpeta.</translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1331,125 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>%1 goes from %2 to %3; it was set to %4.</source>
         <translation>%1 va de %2 a %3; se ha puesto en %4.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SplitLine</name>
+    <message>
+        <source>Line between before and after</source>
+        <translation>Línea entre antes y después</translation>
+    </message>
+    <message>
+        <source>Drag it across the picture: the portrait as it was taken on its left, the result on its right</source>
+        <translation>Arrástrela por la imagen: a la izquierda el retrato como se tomó, a la derecha el resultado</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::StoryPanel</name>
+    <message>
+        <source>Story of a pixel</source>
+        <translation>Historia de un píxel</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>cerrar</translation>
+    </message>
+    <message>
+        <source>Close the story of the pixel</source>
+        <translation>Cerrar la historia del píxel</translation>
+    </message>
+    <message>
+        <source>Closes this panel; Esc does the same</source>
+        <translation>Cierra este panel; Esc hace lo mismo</translation>
+    </message>
+    <message>
+        <source>This pixel</source>
+        <translation>Este píxel</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Strip</name>
+    <message>
+        <source>Portraits</source>
+        <translation>Retratos</translation>
+    </message>
+    <message>
+        <source>Backgrounds</source>
+        <translation>Fondos</translation>
+    </message>
+    <message>
+        <source>Folder...</source>
+        <translation>Carpeta...</translation>
+    </message>
+    <message>
+        <source>Folder of the backgrounds</source>
+        <translation>Carpeta de los fondos</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose backgrounds stand here</source>
+        <translation>Elige la carpeta cuyos fondos están aquí</translation>
+    </message>
+    <message>
+        <source>Portraits shown</source>
+        <translation>Retratos a la vista</translation>
+    </message>
+    <message>
+        <source>Shows only the portraits with this mark</source>
+        <translation>Muestra solo los retratos con esta marca</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Unmarked</source>
+        <translation>Sin marca</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Conservar</translation>
+    </message>
+    <message>
+        <source>Reject</source>
+        <translation>Rechazar</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Volver a mirar</translation>
+    </message>
+    <message>
+        <source>There is no picture in the folder.</source>
+        <translation>No hay ninguna imagen en la carpeta.</translation>
+    </message>
+    <message>
+        <source>The mark is not kept.</source>
+        <translation>La marca no se guarda.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TextScaleView</name>
+    <message>
+        <source>Map of the selected item in the picture</source>
+        <translation>Mapa del elemento elegido en la imagen</translation>
+    </message>
+    <message>
+        <source>The selected text or picture in a small map of the picture: drag it to its place</source>
+        <translation>El texto o la imagen elegidos en un pequeño mapa: arrástrelos a su sitio</translation>
+    </message>
+    <message>
+        <source>Place of an item</source>
+        <translation>Posición de un elemento</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ZoomSlider</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Smaller to the left, larger to the right</source>
+        <translation>Menor a la izquierda, mayor a la derecha</translation>
     </message>
 </context>
 </TS>

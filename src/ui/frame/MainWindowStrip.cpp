@@ -22,20 +22,19 @@ Command markCommand(MainWindow& window, const char* id, const char* menu, const 
 }  // namespace
 
 std::vector<Command> stripCommands(MainWindow& w) {
-    const auto tr = [](const char* text) { return MainWindow::tr(text); };
     return {
         {"OpenFolder",
          "&File",
-         tr("Open F&older..."),
-         tr("Fills the strip with a folder's portraits and opens the first"),
+         MainWindow::tr("Open F&older..."),
+         MainWindow::tr("Fills the strip with a folder's portraits and opens the first"),
          "folder-open",
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
          {},
          [&w](bool) { w.askForFolder(); }},
         {"ShowStrip",
          "&View",
-         tr("S&trip of Pictures"),
-         tr("Shows the pictures of the strip, or folds them away"),
+         MainWindow::tr("S&trip of Pictures"),
+         MainWindow::tr("Shows the pictures of the strip, or folds them away"),
          "",
          QKeySequence(Qt::Key_T),
          {},
@@ -43,30 +42,30 @@ std::vector<Command> stripCommands(MainWindow& w) {
          Kind::checked},
         {"NextPortrait",
          "|&Picture",
-         tr("&Next Portrait"),
-         tr("Opens the portrait that comes next in the strip"),
+         MainWindow::tr("&Next Portrait"),
+         MainWindow::tr("Opens the portrait that comes next in the strip"),
          "go-next",
          QKeySequence(Qt::Key_PageDown),
          {},
          [&w](bool) { w.strip()->walk(1); }},
         {"PreviousPortrait",
          "&Picture",
-         tr("&Previous Portrait"),
-         tr("Opens the portrait before this one in the strip"),
+         MainWindow::tr("&Previous Portrait"),
+         MainWindow::tr("Opens the portrait before this one in the strip"),
          "go-previous",
          QKeySequence(Qt::Key_PageUp),
          {},
          [&w](bool) { w.strip()->walk(-1); }},
-        markCommand(w, "MarkKeep", "|&Picture", tr("Mark: &Keep"), tr("This portrait is good"), Qt::Key_K,
-                    PictureMark::keep),
-        markCommand(w, "MarkReject", "&Picture", tr("Mark: &Reject"),
-                    tr("This portrait goes out; the next one is opened"), Qt::Key_X, PictureMark::reject),
-        markCommand(w, "MarkLookAgain", "&Picture", tr("Mark: &Look Again"), tr("This portrait needs another look"),
-                    Qt::Key_L, PictureMark::lookAgain),
-        markCommand(w, "MarkNone", "&Picture", tr("&Unmark"), tr("Takes the mark from this portrait"), Qt::Key_U,
-                    PictureMark::none),
-        {"TakeMarkBack", "&Picture", tr("Take the Last &Mark Back"),
-         tr("Gives the portrait that was marked last the mark it had, and opens it"), "",
+        markCommand(w, "MarkKeep", "|&Picture", MainWindow::tr("Mark: &Keep"),
+                    MainWindow::tr("This portrait is good"), Qt::Key_K, PictureMark::keep),
+        markCommand(w, "MarkReject", "&Picture", MainWindow::tr("Mark: &Reject"),
+                    MainWindow::tr("This portrait goes out; the next one is opened"), Qt::Key_X, PictureMark::reject),
+        markCommand(w, "MarkLookAgain", "&Picture", MainWindow::tr("Mark: &Look Again"),
+                    MainWindow::tr("This portrait needs another look"), Qt::Key_L, PictureMark::lookAgain),
+        markCommand(w, "MarkNone", "&Picture", MainWindow::tr("&Unmark"),
+                    MainWindow::tr("Takes the mark from this portrait"), Qt::Key_U, PictureMark::none),
+        {"TakeMarkBack", "&Picture", MainWindow::tr("Take the Last &Mark Back"),
+         MainWindow::tr("Gives the portrait that was marked last the mark it had, and opens it"), "",
          QKeySequence(Qt::CTRL | Qt::Key_U), [&w] { return w.strip()->hasMarkToTakeBack(); },
          [&w](bool) { w.strip()->takeMarkBack(); }},
     };
@@ -84,9 +83,13 @@ void MainWindow::connectStrip() {
             if (enabled) strip_->readAhead();
         },
         Qt::QueuedConnection);
-    for (const auto& [key, step] : {std::pair(Qt::Key_Left, -1), std::pair(Qt::Key_Right, 1)})
-        connect(new QShortcut(key, view_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, strip_,
-                [this, step = step] { strip_->walk(step); });
+    for (const auto& [key, step] : {std::pair(Qt::Key_Left, -1), std::pair(Qt::Key_Right, 1)}) {
+        auto* shortcut = new QShortcut(key, view_, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, strip_, [this, step = step] { strip_->walk(step); });
+        // A picture that is larger than the view is moved by these keys.
+        connect(view_, &PictureView::zoomed, shortcut,
+                [this, shortcut] { shortcut->setEnabled(view_->zoom().frame().width() <= view_->width()); });
+    }
     commands_->action("ShowStrip")->setChecked(!strip_->isFolded());
     commands_->menu("&File")->insertAction(commands_->action("loadBackground"), commands_->action("OpenFolder"));
 }
@@ -103,13 +106,13 @@ void MainWindow::openPictures(const QStringList& paths) {
 
 void MainWindow::askForFolder() {
     const QString last = QFileInfo(textOfName(standardizePath(info_.oQLXInfo->sForegroundPath))).path();
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Folder"), last);
+    const QString folder = QFileDialog::getExistingDirectory(this, MainWindow::tr("Open Folder"), last);
     if (!folder.isEmpty()) openFolder(folder);
 }
 
 void MainWindow::askForPickDirectory() {
     const QString last = textOfName(strip_->backgrounds()->folder());
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Folder of the Backgrounds"), last);
+    const QString folder = QFileDialog::getExistingDirectory(this, MainWindow::tr("Folder of the Backgrounds"), last);
     if (!folder.isEmpty()) dropFolder(folder, true);
 }
 
