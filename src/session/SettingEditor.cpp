@@ -14,16 +14,19 @@ std::string SettingEditor::value(const std::string& setting) const {
 }
 
 void SettingEditor::beginStep(const std::string& label) {
-    if (depth_++ == 0) open_ = {label, {}};
+    if (depth_++ > 0) return;
+    open_ = {};
+    open_.label = label;
 }
 
 void SettingEditor::endStep() {
     if (depth_ == 0 || --depth_ > 0) return;
     std::erase_if(open_.changes, [](const Change& change) { return change.before == change.after; });
-    if (open_.changes.empty()) return;
-    steps_.resize(done_);  // what was taken back and not done again is gone
-    steps_.push_back(std::exchange(open_, {}));
-    done_ = steps_.size();
+    if (open_.changes.empty() && !open_.elsewhere.takeBack) return;
+    open_.number = ++lastNumber_;
+    history_.steps.resize(history_.done);  // what was taken back and not done again is gone
+    history_.steps.push_back(std::exchange(open_, {}));
+    history_.done = history_.steps.size();
 }
 
 std::string SettingEditor::set(const std::string& setting, const std::string& value) {
@@ -62,24 +65,48 @@ void SettingEditor::note(const std::string& setting, const std::string& before, 
     endStep();
 }
 
+void SettingEditor::note(Elsewhere elsewhere) {
+    beginStep("");
+    open_.elsewhere = std::move(elsewhere);
+    endStep();
+}
+
 bool SettingEditor::undo() {
-    if (depth_ > 0 || done_ == 0) return false;
-    const std::vector<Change>& changes = steps_[--done_].changes;
-    for (auto change = changes.rbegin(); change != changes.rend(); ++change)
+    if (depth_ > 0 || history_.done == 0) return false;
+    const Step& step = history_.steps[--history_.done];
+    for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
         changeSetting(info_, change->setting, change->before);
+    if (step.elsewhere.takeBack) step.elsewhere.takeBack();
     return true;
 }
 
 bool SettingEditor::redo() {
-    if (depth_ > 0 || done_ == steps_.size()) return false;
-    for (const Change& change : steps_[done_++].changes)
+    if (depth_ > 0 || history_.done == history_.steps.size()) return false;
+    const Step& step = history_.steps[history_.done++];
+    for (const Change& change : step.changes)
         changeSetting(info_, change.setting, change.after);
+    if (step.elsewhere.doAgain) step.elsewhere.doAgain();
     return true;
 }
 
-void SettingEditor::forgetSteps() {
-    steps_.clear();
-    done_ = 0;
+void SettingEditor::goTo(std::size_t done) {
+    while (history_.done > done && undo()) {
+    }
+    while (history_.done < done && redo()) {
+    }
+}
+
+std::uint64_t SettingEditor::position() const {
+    for (std::size_t i = history_.done; i > 0; --i)
+        if (const Step& step = history_.steps[i - 1]; !step.changes.empty()) return step.number;
+    return 0;
+}
+
+void SettingEditor::setHistory(History history) {
+    history_ = std::move(history);
+    history_.done = std::min(history_.done, history_.steps.size());
+    for (const Step& step : history_.steps)
+        lastNumber_ = std::max(lastNumber_, step.number);
 }
 
 }  // namespace tavrin

@@ -8,6 +8,8 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 
+#include "apps/desktop/EndSignals.h"
+#include "apps/desktop/FirstStart.h"
 #include "core/Log.h"
 #include "core/raster/PixelMemory.h"
 #include "core/state/SystemInfo.h"
@@ -46,7 +48,10 @@ QStringList readArguments(const QCoreApplication& application) {
     parser.process(application);
     if (parser.isSet(version)) parser.showVersion();
     tavrin::setTraceLog(parser.isSet(verbose));
-    return parser.positionalArguments();
+    QStringList files;
+    for (const QString& file : parser.positionalArguments())
+        files.append(QFileInfo(file).absoluteFilePath());
+    return files;
 }
 
 /// Whether the answer needs no display.
@@ -67,14 +72,22 @@ void nameProgram() {
 /// the background.
 void openFiles(tavrin::MainWindow& window, const QStringList& files) {
     int pictures = 0;
-    for (const QString& file : files) {
-        const QString path = QFileInfo(file).absoluteFilePath();
+    for (const QString& path : files) {
         if (path.endsWith(".qlx", Qt::CaseInsensitive)) {
             window.openFile(path);
         } else if (++pictures <= 2) {
             pictures == 1 ? window.openFile(path) : window.openBackground(path);
         }
     }
+}
+
+/// The files of a later start, and the window before all others.
+void openInFront(tavrin::MainWindow& window, const QStringList& files) {
+    openFiles(window, files);
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
 }
 
 }  // namespace
@@ -85,6 +98,8 @@ int main(int argc, char** argv) {
     Application application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");  // what is printed and digested has a full stop in every locale
     const QStringList files = readArguments(application);
+    FirstStart first;
+    if (first.handOver(files)) return 0;
     // A pass takes the memory that the last one gave back.
     tavrin::keepPixelMemory(std::size_t{1} << 28);
 
@@ -95,6 +110,12 @@ int main(int argc, char** argv) {
     tavrin::MainWindow window(*info);
     window.show();
     window.tellStartProblems(problems);
+    window.offerLeftRecipes();
     openFiles(window, files);
+    first.onOpen([&](const QStringList& later) { openInFront(window, later); });
+    const EndSignals endSignals([&] {
+        window.endFromOutside();
+        QCoreApplication::exit();
+    });
     return QApplication::exec();
 }

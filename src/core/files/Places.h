@@ -35,6 +35,9 @@ class Places {
     std::string printerFile() const { return xmlFolder() + "Printer.xml"; }
     std::string customPrinterFile() const { return xmlFolder() + "PrinterCustom.xml"; }
     std::string windowFile() const { return xmlFolder() + "Window.ini"; }  ///< what the window remembers for itself
+    std::string recoveryFolder() const { return xmlFolder() + "Recovery/"; }  ///< recipes of programs that run
+    std::string recipesFolder() const { return shared_ + "Recipes/"; }        ///< recipes of portraits
+    std::string looksFolder() const { return pictures_ + "Looks/"; }          ///< looks by name
 
     void setSharedFolder(const std::string& folder);
     void setPicturesFolder(const std::string& folder);

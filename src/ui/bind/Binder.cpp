@@ -78,6 +78,11 @@ void Binder::redo() {
     if (editor_.redo()) finish();
 }
 
+void Binder::goTo(std::size_t done) {
+    editor_.goTo(done);
+    finish();
+}
+
 void Binder::finish() {
     editor_.info().StartUpdate();
     UpdateAllUI();
@@ -87,6 +92,7 @@ void Binder::finish() {
 void Binder::UpdateAllUI() {
     for (ControlRow* row : rows_)
         row->showSetting(numberOf(editor_.value(settingOf(row->binding()))));
+    emit shown();
 }
 
 }  // namespace tavrin

@@ -29,12 +29,16 @@ class Binder : public QObject {
     void run(const QString& label, const std::function<void(SettingEditor&)>& action);
     void undo();
     void redo();
+    /// Takes back or does again until that many steps are in force.
+    void goTo(std::size_t done);
 
     std::string settingOf(const Binding& binding) const;
 
   signals:
     /// A setting was changed, done again or taken back.
     void changed();
+    /// The controls show the settings anew.
+    void shown();
     void told(const QString& line);
 
   private:

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QSignalBlocker>
 
 #include "ui/bind/SliderRow.h"
@@ -23,7 +24,18 @@ QString ControlRow::translated(const char* text) {
 void ControlRow::showSetting(double setting) {
     setting_ = setting;
     showValue(setting);
-    if (dot_) dot_->setVisible(std::abs(setting - binding_.reset) > 1e-9);
+    if (dot_) dot_->setVisible(!isAtDefault());
+}
+
+bool ControlRow::isAtDefault() const {
+    return std::abs(setting_ - binding_.reset) <= 1e-9;
+}
+
+QString ControlRow::valueText() const {
+    for (const Choice& choice : binding_.choices)
+        if (std::abs(setting_ - choice.value) <= 1e-9) return translated(choice.label);
+    if (!binding_.choices.empty() || dynamic_cast<const BoxRow*>(this)) return {};
+    return QLocale().toString(setting_ * binding_.mapping->shownBy, 'g', 6);
 }
 
 QToolButton* ControlRow::makeDot(QWidget* parent) {

@@ -21,6 +21,9 @@ class ControlRow : public QWidget {
     const Binding& binding() const { return binding_; }
     /// Shows a value of the setting.
     void showSetting(double setting);
+    bool isAtDefault() const;
+    /// The value in the words of the control, such as "110" or "Dark"; "" for a box.
+    QString valueText() const;
     /// Room that the label takes, so that the rows of a panel can be made to stand in line; 0 without one of its own.
     int labelWidth() const;
     void setLabelWidth(int width);

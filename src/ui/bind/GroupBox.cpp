@@ -1,7 +1,5 @@
 #include "ui/bind/GroupBox.h"
 
-#include <algorithm>
-
 #include <QHBoxLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -11,15 +9,6 @@
 namespace tavrin {
 
 namespace {
-
-bool matches(const BindingGroup& group, const Binding& binding, const QStringList& words) {
-    QString text = ControlRow::translated(group.title) + ' ' + ControlRow::translated(binding.label) + ' ' +
-                   ControlRow::translated(binding.toolTip) + ' ' + binding.control + ' ' + binding.setting;
-    for (const Choice& choice : binding.choices)
-        text += ' ' + ControlRow::translated(choice.label);
-    return std::all_of(words.begin(), words.end(),
-                       [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
-}
 
 QString foldKey(const BindingGroup& group) {
     return QString("folded/") + group.name;
@@ -90,10 +79,19 @@ void GroupBox::setFolded(bool folded) {
     header_->setAccessibleDescription(folded ? tr("folded") : tr("open"));
 }
 
-bool GroupBox::showMatching(const QStringList& words) {
+QString GroupBox::wordsOf(const ControlRow& row) const {
+    const Binding& binding = row.binding();
+    QString text = ControlRow::translated(group_.title) + ' ' + ControlRow::translated(binding.label) + ' ' +
+                   ControlRow::translated(binding.toolTip) + ' ' + binding.control + ' ' + binding.setting;
+    for (const Choice& choice : binding.choices)
+        text += ' ' + ControlRow::translated(choice.label);
+    return text;
+}
+
+bool GroupBox::showMatching(const QStringList& words, Slips slips) {
     bool any = false;
     for (ControlRow* row : rows_) {
-        const bool shown = matches(group_, row->binding(), words);
+        const bool shown = hasWords(wordsOf(*row), words, slips);
         row->setVisible(shown);
         any = any || shown;
     }

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "ui/bind/Binder.h"
+#include "ui/bind/WordSearch.h"
 
 class QToolButton;
 
@@ -27,7 +28,10 @@ class GroupBox : public QWidget {
     /// Shows the rows that have all these words in their names, tips or settings, unfolded; without words all rows,
     /// folded as they were.
     /// @return whether there are any
-    bool showMatching(const QStringList& words);
+    bool showMatching(const QStringList& words, Slips slips = Slips::none);
+    const std::vector<ControlRow*>& rows() const { return rows_; }
+    /// All that a row of the group is found by.
+    QString wordsOf(const ControlRow& row) const;
 
   private:
     QWidget* makeHeader(Binder& binder);

@@ -1,6 +1,7 @@
 #include <QLineEdit>
 
 #include "ui/adjust/Rotation.h"
+#include "ui/frame/ActionSearch.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
 
@@ -24,8 +25,30 @@ Command theme(const char* id, const char* menu, const QString& text, Theme theme
 
 }  // namespace
 
+/// What the search of actions finds: the commands of the window and the controls of its panel.
+void MainWindow::findAction() {
+    std::vector<ActionSearch::Entry> entries;
+    for (const Command& command : commands_->table()) {
+        QAction* action = commands_->action(command.id);
+        const QString menu = QString(command.menu).remove('|').remove('&');
+        entries.push_back({action->text().section('\t', 0, 0).remove('&'),
+                           menu.isEmpty() ? MainWindow::tr("Key") : menu,
+                           command.shortcut.toString(QKeySequence::NativeText), command.toolTip + ' ' + command.id,
+                           action->isEnabled(), [action] { action->trigger(); }});
+    }
+    for (const GroupBox* group : panel_->groups())
+        for (const ControlRow* row : group->rows())
+            entries.push_back({ControlRow::translated(row->binding().label),
+                               ControlRow::translated(group->group().title),
+                               {},
+                               group->wordsOf(*row),
+                               true,
+                               [this, row] { panel_->reveal(row); }});
+    (new ActionSearch(std::move(entries), this))->show();
+}
+
 std::vector<Command> commandTable(MainWindow& w) {
-    return {
+    std::vector<Command> table = {
         {"loadForeground",
          "&File",
          MainWindow::tr("Open &Portrait..."),
@@ -101,6 +124,22 @@ std::vector<Command> commandTable(MainWindow& w) {
              w.panel_->searchField()->setFocus();
              w.panel_->searchField()->selectAll();
          }},
+        {"FindAction",
+         "&Edit",
+         MainWindow::tr("Find an &Action..."),
+         MainWindow::tr("Finds every command and control by words, and does or shows it"),
+         "",
+         QKeySequence(Qt::CTRL | Qt::Key_K),
+         {},
+         [&w](bool) { w.findAction(); }},
+        {"ResetAll",
+         "|&Edit",
+         MainWindow::tr("&Reset All Settings"),
+         MainWindow::tr("Puts every default of both layers back, as one step"),
+         "",
+         {},
+         {},
+         [&w](bool) { w.panel_->resetAll(); }},
         {"setZoomHome",
          "&View",
          MainWindow::tr("&Fit"),
@@ -162,6 +201,28 @@ std::vector<Command> commandTable(MainWindow& w) {
          {},
          [&w](bool) { w.panel_->setVisible(w.panel_->isHidden()); },
          Kind::onPicture},
+        {"ShowHistory",
+         "&View",
+         MainWindow::tr("&History"),
+         MainWindow::tr("Every step of this portrait"),
+         "",
+         QKeySequence(Qt::CTRL | Qt::Key_H),
+         {},
+         [&w](bool) {
+             w.history_->setVisible(w.history_->isHidden());
+             w.history_->raise();
+         }},
+        {"ShowLooks",
+         "&View",
+         MainWindow::tr("&My Looks"),
+         MainWindow::tr("Looks by name: take, save, rename, delete, import, export"),
+         "",
+         QKeySequence(Qt::CTRL | Qt::Key_L),
+         {},
+         [&w](bool) {
+             w.looksPanel_->setVisible(w.looksPanel_->isHidden());
+             w.looksPanel_->raise();
+         }},
         {"FullScreen",
          "&View",
          MainWindow::tr("Full &Screen"),
@@ -205,6 +266,9 @@ std::vector<Command> commandTable(MainWindow& w) {
          {},
          [&w](bool) { w.commands_->showShortcuts(); }},
     };
+    for (Command& command : lookCommands(*w.looks_))
+        table.push_back(std::move(command));
+    return table;
 }
 
 }  // namespace tavrin

@@ -43,7 +43,7 @@ QMenu* Commands::menuFor(const QString& title) {
 
 void Commands::add(const Command& command) {
     const QString title = command.menu;
-    QMenu* menu = menuFor(title.startsWith('|') ? title.mid(1) : title);
+    QMenu* menu = title.isEmpty() ? nullptr : menuFor(title.startsWith('|') ? title.mid(1) : title);
     if (title.startsWith('|')) menu->addSeparator();
     auto* action = new QAction(command.text, &window_);
     action->setObjectName(command.id);
@@ -68,7 +68,7 @@ void Commands::add(const Command& command) {
             connect(action, &QAction::triggered, this, [run] { run(true); });
         }
     }
-    menu->addAction(action);
+    if (menu) menu->addAction(action);
     if (command.kind == Command::Kind::onPicture) {
         action->setShortcutContext(Qt::WidgetShortcut);
         window_.findChild<QWidget*>("mainQLXView")->addAction(action);

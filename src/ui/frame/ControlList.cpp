@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QSlider>
+#include <QTabBar>
 
 #include "ui/bind/GroupBox.h"
 
@@ -23,8 +24,10 @@ const Kind* ancestor(const QWidget* widget) {
 }
 
 bool isControl(const QWidget* widget) {
-    if (widget->objectName().startsWith("qt_") || qobject_cast<const QLineEdit*>(widget->parentWidget()))
-        return false;
+    const QWidget* parent = widget->parentWidget();
+    if (widget->objectName().startsWith("qt_") || qobject_cast<const QLineEdit*>(parent) ||
+        qobject_cast<const QTabBar*>(parent))
+        return false;  // parts that Qt makes
     return qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QSlider*>(widget) ||
            qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget);
 }

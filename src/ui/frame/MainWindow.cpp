@@ -1,6 +1,6 @@
 #include "ui/frame/MainWindow.h"
 
-#include <QCloseEvent>
+#include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
@@ -38,10 +38,14 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       editor_(info),
       binder_(editor_),
       files_(new PictureFiles(info, *loop_, bridge_, this)),
+      keeping_(new Safekeeping(editor_, *loop_, this)),
+      looks_(new LookDesk(binder_, *keeping_, this)),
       view_(new PictureView),
       strip_(new Strip(info, this)),
       messages_(new MessageBar),
       panel_(new SidePanel(binder_, this)),
+      history_(new HistoryPanel(binder_, this)),
+      looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
       tools_(new PictureTools(binder_, *loop_, bridge_, view_)) {
     setObjectName("MainDisplay");
@@ -51,6 +55,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectParts();
     connectBridge();
     connectStrip();
+    connectKeeping();
     comeBack();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
@@ -135,6 +140,7 @@ void MainWindow::showState() {
     strip_->follow();
     view_->setTransparent(info_.bOutputTransparency);
     commands_->refresh();
+    history_->refresh();
     tellUndo();
     tellProgress();
 }
@@ -153,17 +159,28 @@ void MainWindow::openFile(const QString& path) {
 }
 
 void MainWindow::openForeground(const QString& path) {
-    files_->openForeground(path, frameAction()->isChecked());
+    keeping_->leavePortrait();
+    std::optional<Recipe> known = keeping_->knownOf(path);
+    files_->openForeground(path, (!known || known->settings.empty()) && frameAction()->isChecked());
+    if (known) {
+        keeping_->takeUp(std::move(*known));
+    } else {
+        editor_.forgetSteps();  // they belong to the portrait before
+        showState();
+    }
 }
 
 void MainWindow::openBackground(const QString& path) {
+    keeping_->chooseBackground(nameOfText(path));
     files_->openBackground(path);
 }
 
 void MainWindow::openState(const QString& path) {
     finished_ = false;
     commands_->refresh();
+    keeping_->leavePortrait();
     files_->openState(path);
+    keeping_->waitForState();
 }
 
 void MainWindow::saveState(const QString& path) {
@@ -250,25 +267,6 @@ void MainWindow::clearFreeze() {
     tavrin::clearFreeze(info_);
     info_.StartUpdate();
     showState();
-}
-
-void MainWindow::endSave(const QString& path, bool done) {
-    tellProgress();
-    if (done) {
-        messages_->tell(tr("Saved %1").arg(path));
-    } else {
-        closing_ = false;
-    }
-    if (closing_ && savesUnderWay() == 0) close();
-}
-
-void MainWindow::closeEvent(QCloseEvent* event) {
-    closing_ = savesUnderWay() > 0;
-    event->setAccepted(!closing_);
-    if (closing_) return messages_->tell(tr("The window closes when everything is saved."));
-    QSettings settings = windowSettings();
-    settings.setValue("geometry", saveGeometry());
-    settings.setValue("layout", QMainWindow::saveState());
 }
 
 void MainWindow::takePublished() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <memory>
 
 #include <QMainWindow>
@@ -12,11 +13,15 @@
 #include "ui/frame/PictureFiles.h"
 #include "ui/frame/SidePanel.h"
 #include "ui/frame/SizeBox.h"
+#include "ui/look/HistoryPanel.h"
+#include "ui/look/LooksPanel.h"
+#include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
 #include "ui/strip/Strip.h"
 #include "ui/views/PictureView.h"
 
 class QLabel;
+class QMessageBox;
 class QProgressBar;
 
 namespace tavrin {
@@ -49,12 +54,20 @@ class MainWindow : public QMainWindow {
     int savesUnderWay() const { return files_->savesUnderWay(); }
     /// Shows what went wrong at the start, one line for each thing. "" shows nothing.
     void tellStartProblems(const std::string& lines);
+    /// Asks what becomes of the work that killed programs left.
+    void offerLeftRecipes();
+    /// The program is ended by a signal or with the session: the present recipe is kept for the next start.
+    void endFromOutside();
 
     PictureView* view() const { return view_; }
     SizeBox* sizeBox() const { return sizeBox_; }
     SidePanel* panel() const { return panel_; }
     PictureTools* pictureTools() const { return tools_; }
     Strip* strip() const { return strip_; }
+    HistoryPanel* history() const { return history_; }
+    LooksPanel* looksPanel() const { return looksPanel_; }
+    /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
+    LookDesk& looks() { return *looks_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
     Commands& commands() { return *commands_; }
@@ -82,6 +95,9 @@ class MainWindow : public QMainWindow {
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
+    void connectKeeping();
+    void offerNextLeft();
+    void askBeforeClosing();
     void comeBack();
     void refillRecentFiles();
     void frameNewPortraits(bool wanted);
@@ -101,6 +117,7 @@ class MainWindow : public QMainWindow {
     void setFullScreen(bool on);
     void tellProgress();
     void tellUndo();
+    void findAction();
 
     SystemInfo& info_;
     WindowBridge bridge_;
@@ -108,15 +125,23 @@ class MainWindow : public QMainWindow {
     SettingEditor editor_;
     Binder binder_;
     PictureFiles* files_;
+    Safekeeping* keeping_;
+    LookDesk* looks_;
     PictureView* view_;
     Strip* strip_;
     MessageBar* messages_;
     SidePanel* panel_;
+    HistoryPanel* history_;
+    LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
     PictureTools* tools_;
     Commands* commands_ = nullptr;
     QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;
     QProgressBar* progress_ = nullptr;
+    std::vector<LeftRecipe> left_;              // the user has not answered yet
+    std::deque<std::uint64_t> savedPositions_;  // of the saves under way
+    QMessageBox* question_ = nullptr;
+    bool closeUnsaved_ = false;
     bool closing_ = false;   // as soon as all is saved
     bool finished_ = false;  // a full picture stands
     bool cameBack_ = false;

@@ -29,10 +29,18 @@ void MainWindow::layOut() {
     column->addWidget(view_, 1);
     setCentralWidget(middle);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
+    tabifyDockWidget(panel_, history_);
+    tabifyDockWidget(panel_, looksPanel_);
+    history_->hide();
+    looksPanel_->hide();
     std::vector<Command> table = commandTable(*this);
     std::ranges::move(pictureCommands(*tools_, binder_, [this] { return finished_; }), std::back_inserter(table));
     std::ranges::move(stripCommands(*this), std::back_inserter(table));
     commands_ = new Commands(*this, std::move(table));
+    std::vector<QAction*> actions;
+    for (const Command& command : commands_->table())
+        actions.push_back(commands_->action(command.id));
+    panel_->setActions(std::move(actions));
     auto* recent = new QMenu(tr("Open &Recent"), this);
     recent->setObjectName("recentFiles");
     recent->setToolTipsVisible(true);

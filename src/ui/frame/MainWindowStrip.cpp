@@ -106,13 +106,13 @@ void MainWindow::openPictures(const QStringList& paths) {
 
 void MainWindow::askForFolder() {
     const QString last = QFileInfo(textOfName(standardizePath(info_.oQLXInfo->sForegroundPath))).path();
-    const QString folder = QFileDialog::getExistingDirectory(this, MainWindow::tr("Open Folder"), last);
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Folder"), last);
     if (!folder.isEmpty()) openFolder(folder);
 }
 
 void MainWindow::askForPickDirectory() {
     const QString last = textOfName(strip_->backgrounds()->folder());
-    const QString folder = QFileDialog::getExistingDirectory(this, MainWindow::tr("Folder of the Backgrounds"), last);
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Folder of the Backgrounds"), last);
     if (!folder.isEmpty()) dropFolder(folder, true);
 }
 

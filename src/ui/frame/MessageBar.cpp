@@ -5,38 +5,51 @@
 
 namespace tavrin {
 
+namespace {
+
+QLabel* plainLabel(QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);  // names of files come from anywhere
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+}  // namespace
+
 MessageBar::MessageBar(QWidget* parent)
-    : QFrame(parent), text_(new QLabel(this)), details_(new QLabel(this)), more_(new QToolButton(this)) {
+    : QFrame(parent), line_(new QWidget(this)), text_(plainLabel(line_)), details_(plainLabel(this)) {
     setObjectName("messageBar");
     setAccessibleName(tr("Messages"));
-    for (QLabel* label : {text_, details_}) {
-        label->setWordWrap(true);
-        label->setTextFormat(Qt::PlainText);  // names of files come from anywhere
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    }
-    more_->setObjectName("messageDetails");
+    more_ = button("messageDetails", tr("Details"), tr("Show the reason"));
     more_->setProperty("handler", "showDetails");
-    more_->setText(tr("Details"));
-    more_->setToolTip(tr("Show the reason"));
     more_->setCheckable(true);
     connect(more_, &QToolButton::toggled, details_, &QWidget::setVisible);
-    auto* close = new QToolButton(this);
-    close->setObjectName("messageClose");
+    QToolButton* close = button("messageClose", tr("Close"), tr("Close this message"));
     close->setProperty("handler", "closeMessage");
-    close->setText(tr("Close"));
-    close->setToolTip(tr("Close this message"));
-    connect(close, &QToolButton::clicked, this, &QWidget::hide);
-    auto* line = new QHBoxLayout;
+    connect(close, &QToolButton::clicked, this, &MessageBar::endMessage);
+    auto* line = new QHBoxLayout(line_);
+    line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(text_, 1);
     line->addWidget(more_);
     line->addWidget(close);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 6, 8, 6);
-    layout->addLayout(line);
+    layout->addWidget(line_);
     layout->addWidget(details_);
     timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, &QWidget::hide);
-    hide();
+    connect(&timer_, &QTimer::timeout, this, &MessageBar::endMessage);
+    endMessage();
+}
+
+QToolButton* MessageBar::button(const char* id, const QString& text, const QString& toolTip) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(id);
+    button->setProperty("handler", id);
+    button->setText(text);
+    button->setToolTip(toolTip);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
 }
 
 void MessageBar::showLine(const QString& line, const QString& details) {
@@ -45,7 +58,14 @@ void MessageBar::showLine(const QString& line, const QString& details) {
     more_->setVisible(!details.isEmpty());
     more_->setChecked(false);
     details_->hide();
+    line_->show();
     show();
+}
+
+void MessageBar::endMessage() {
+    line_->hide();
+    details_->hide();
+    setVisible(question_ != nullptr);
 }
 
 void MessageBar::tell(const QString& line) {
@@ -56,6 +76,35 @@ void MessageBar::tell(const QString& line) {
 void MessageBar::fail(const QString& line, const QString& details) {
     timer_.stop();
     showLine(line, details);
+}
+
+void MessageBar::ask(const QString& question, std::vector<Answer> answers) {
+    endQuestion();
+    question_ = new QWidget(this);
+    questionText_ = plainLabel(question_);
+    questionText_->setText(question);
+    auto* line = new QHBoxLayout(question_);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(questionText_, 1);
+    for (Answer& answer : answers) {
+        QToolButton* choice = button(answer.id, answer.text, answer.toolTip);
+        line->addWidget(choice);
+        connect(choice, &QToolButton::clicked, this, [this, run = std::move(answer.run)] {
+            endQuestion();
+            run();  // may ask again
+        });
+    }
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, question_);
+    show();
+}
+
+void MessageBar::endQuestion() {
+    if (!question_) return;
+    question_->hide();
+    question_->deleteLater();  // its button is still at work
+    question_ = nullptr;
+    questionText_ = nullptr;
+    setVisible(!line_->isHidden());
 }
 
 }  // namespace tavrin

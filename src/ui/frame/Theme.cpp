@@ -53,6 +53,8 @@ QToolButton[groupTitle="true"] { border: 0; font-weight: bold; padding: 4px 0; t
 QToolButton[groupTitle="true"]:focus, QToolButton[quiet="true"]:focus { border: 2px solid palette(highlight); }
 QToolButton[quiet="true"] { border: 0; padding: 2px 4px; color: palette(placeholder-text); }
 QToolButton[quiet="true"]:hover { color: palette(window-text); }
+QToolButton[chip="true"] { border: 0; border-radius: 8px; padding: 2px 6px; background: palette(button); }
+QToolButton[chip="true"]:focus { border: 2px solid palette(highlight); padding: 0 4px; }
 QToolButton[dot="true"] { border: 0; padding: 0 3px; color: palette(highlight); font-size: 14pt; max-height: 18px; }
 QToolButton[tab="true"] { border: 0; border-radius: 5px; padding: 6px 12px; }
 QToolButton[tab="true"]:checked { background: palette(button); font-weight: bold; }

@@ -1,0 +1,149 @@
+#include "ui/look/Safekeeping.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/files/NameText.h"
+#include "session/Looks.h"
+#include "session/RecipeStore.h"
+#include "session/Sources.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kKeepEvery = 500;  // milliseconds
+constexpr const char* kPortrait = "foreground.sSourceImageFullPath";
+
+}  // namespace
+
+Safekeeping::Safekeeping(SettingEditor& editor, CombineThread& loop, QObject* parent)
+    : QObject(parent), editor_(editor), loop_(loop) {
+    timer_.setSingleShot(true);
+    connect(&timer_, &QTimer::timeout, this, &Safekeeping::keep);
+}
+
+void Safekeeping::touch() {
+    touched_ = true;
+    look();
+}
+
+void Safekeeping::look() {
+    if (!touched_ || timer_.isActive()) return;
+    const qint64 rest = sinceKept_.isValid() ? kKeepEvery - sinceKept_.elapsed() : 0;
+    timer_.start(static_cast<int>(std::max<qint64>(rest, 0)));
+}
+
+void Safekeeping::keep() {
+    if (underWay_ > 0) return timer_.start(kKeepEvery / 5);
+    sinceKept_.start();
+    if (const std::string problem = keeper_.takeProblem(); !problem.empty())
+        emit failed(tr("The present settings cannot be kept for a next start."), QString::fromStdString(problem));
+    keeper_.keep(presentRecipe(editor_), std::exchange(instead_, {}));
+}
+
+void Safekeeping::leavePortrait() {
+    ++opened_;
+    if (underWay_ > 0 || editor_.steps().empty()) return;
+    keeper_.keepPortrait(editor_.value(kPortrait), presentRecipe(editor_));
+}
+
+std::optional<Recipe> Safekeeping::knownOf(const QString& portrait) const {
+    const_cast<RecipeKeeper&>(keeper_).wait();  // it may be the one that was left just now
+    return loadRecipe(nameOfText(portrait));
+}
+
+void Safekeeping::takeUp(Recipe recipe, std::optional<LeftRecipe> from) {
+    const int mine = ++opened_;
+    ++underWay_;
+    background_.clear();
+    editor_.forgetSteps();
+    loop_.post([this, mine, recipe = std::move(recipe), from = std::move(from)] {
+        const bool due = mine == opened_;
+        const std::string problems = due ? useSettings(editor_.info(), recipe.settings) : "";
+        QMetaObject::invokeMethod(
+            this,
+            [this, due, recipe, from, problems] {
+                --underWay_;
+                if (due) finishTaking(recipe, from, QString::fromStdString(problems));
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+/// Looks that were pasted meanwhile are steps like any other.
+void Safekeeping::finishTaking(Recipe recipe, std::optional<LeftRecipe> from, const QString& problems) {
+    editor_.setHistory(std::move(recipe.history));
+    for (const auto& [label, settings] : recipe.pasted) {
+        editor_.beginStep(label);
+        for (const auto& [setting, value] : settings)
+            editor_.set(setting, value);
+        editor_.endStep();
+    }
+    if (!background_.empty()) openBackground(editor_.info(), background_);
+    if (!recipe.pasted.empty() || !background_.empty()) editor_.info().StartUpdate();
+    instead_ = std::move(from);
+    touch();
+    emit tookUp(problems);
+}
+
+void Safekeeping::giveToLoop(const SettingValues& settings) {
+    ++underWay_;
+    loop_.post([this, mine = opened_.load(), settings] {
+        const std::string problems = mine == opened_ ? useSettings(editor_.info(), settings) : "";
+        QMetaObject::invokeMethod(
+            this,
+            [this, problems] {
+                --underWay_;
+                touch();
+                emit tookUp(QString::fromStdString(problems));
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void Safekeeping::pasteOn(std::vector<std::string> portraits, const QString& label, const SettingValues& look) {
+    const auto paste = std::make_shared<PortraitPaste>(std::move(portraits), label.toStdString(), look);
+    keeper_.run([this, paste, label] {
+        const std::string problems = paste->paste();
+        QMetaObject::invokeMethod(
+            this,
+            [this, paste, label, problems] {
+                editor_.beginStep(tr("%1 on %2 portraits").arg(label).arg(paste->changed()).toStdString());
+                editor_.note({[this, paste] { keeper_.run([paste] { paste->takeBack(); }); },
+                              [this, paste] { keeper_.run([paste] { paste->paste(); }); }});
+                editor_.endStep();
+                emit pasted(paste->changed(), QString::fromStdString(problems));
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void Safekeeping::chooseBackground(const std::string& path) {
+    if (underWay_ > 0) background_ = path;
+}
+
+void Safekeeping::waitForState() {
+    ++underWay_;
+    loop_.post([this] {  // behind the opening
+        QMetaObject::invokeMethod(
+            this, [this] { --underWay_; }, Qt::QueuedConnection);
+    });
+}
+
+void Safekeeping::keepNow() {
+    if (!touched_ || underWay_ > 0) return keeper_.wait();
+    leavePortrait();
+    keep();
+    keeper_.wait();
+}
+
+void Safekeeping::endWell() {
+    leavePortrait();
+    timer_.stop();
+    touched_ = false;
+    keeper_.forget();
+    pruneRecipes();
+}
+
+}  // namespace tavrin

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <atomic>
+#include <optional>
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include "pipeline/CombineThread.h"
+#include "session/RecipeKeeper.h"
+
+namespace tavrin {
+
+/// Sees to it that no work of a person is lost: the present recipe is on the disk within half a second of a change,
+/// every portrait gets its own recipe and history back when it is opened again, and what a killed program left can
+/// be taken up.
+class Safekeeping : public QObject {
+    Q_OBJECT
+
+  public:
+    Safekeeping(SettingEditor& editor, CombineThread& loop, QObject* parent = nullptr);
+
+    /// A person changed something.
+    void touch();
+    /// The loop may have changed something by itself, which counts once a person did.
+    void look();
+
+    /// Keeps the recipe of the portrait that is about to be left. Another state follows: nothing is kept meanwhile.
+    void leavePortrait();
+    /// @return what is known of a portrait that is about to be opened
+    std::optional<Recipe> knownOf(const QString& portrait) const;
+    /// Gives the state a recipe, on the loop's thread, and then the editor its history. `tookUp` follows, unless
+    /// something else was opened meanwhile.
+    void takeUp(Recipe recipe, std::optional<LeftRecipe> from = {});
+    /// Gives the state settings that only the loop may change: the list of items.
+    void giveToLoop(const SettingValues& settings);
+    /// Pastes a look on other portraits, off the main thread; `pasted` follows, and the editor has a step for it.
+    void pasteOn(std::vector<std::string> portraits, const QString& label, const SettingValues& look);
+    /// A background was opened, perhaps before the loop has given the state a recipe: it holds all the same.
+    void chooseBackground(const std::string& path);
+    /// After a state was given to the loop for opening: from then on its settings are those to keep.
+    void waitForState();
+
+    /// The program is ended from outside: on return the present recipe is on the disk, for the next start to offer.
+    void keepNow();
+    /// The program ends as its user wants it.
+    void endWell();
+
+  signals:
+    void tookUp(const QString& problems);
+    void pasted(std::size_t portraits, const QString& problems);
+    void failed(const QString& line, const QString& reason);
+
+  private:
+    void keep();
+    void finishTaking(Recipe recipe, std::optional<LeftRecipe> from, const QString& problems);
+
+    SettingEditor& editor_;
+    CombineThread& loop_;
+    RecipeKeeper keeper_;
+    QTimer timer_;
+    QElapsedTimer sinceKept_;
+    std::atomic<int> opened_ = 0;  ///< counts what was opened, so that an older job steps back
+    int underWay_ = 0;             ///< jobs that may replace settings and lists
+    bool touched_ = false;
+    std::string background_;  ///< chosen while a recipe is under way
+    std::optional<LeftRecipe> instead_;
+};
+
+}  // namespace tavrin

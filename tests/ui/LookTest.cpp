@@ -1,0 +1,158 @@
+// Looks at the window: pasted part by part, on portraits that are not shown, by name.
+#include <gtest/gtest.h>
+
+#include <QDialogButtonBox>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "core/files/Places.h"
+#include "session/RecipeStore.h"
+#include "support/Pictures.h"
+#include "support/TestData.h"
+#include "ui/frame/MainWindow.h"
+
+namespace tavrin {
+namespace {
+
+class LookTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        Places::current().setSharedFolder(folder_.file("shared/"));
+        Places::current().setPicturesFolder(folder_.file("pictures/"));
+        std::filesystem::create_directories(Places::current().xmlFolder());
+        info_->pForegroundBitmapInfo->sSourceImageFullPath = portrait_;
+        info_->pBackgroundBitmapInfo->sSourceImageFullPath =
+            test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
+        window_ = std::make_unique<MainWindow>(*info_);
+        window_->resize(1200, 800);
+        window_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window_->view()->isFull(); }, 20000));
+        window_->frameAction()->setChecked(false);
+    }
+    void TearDown() override {
+        window_.reset();
+        Places::current().setSharedFolder(shared_);
+        Places::current().setPicturesFolder(pictures_);
+    }
+    SettingEditor& editor() { return window_->binder().editor(); }
+    BitmapInfo& portrait() { return *info_->pForegroundBitmapInfo; }
+    void set(const char* setting, const char* value) {
+        window_->binder().run("Change", [&](SettingEditor& e) { ASSERT_EQ(e.set(setting, value), ""); });
+    }
+    void trigger(const char* id) { window_->commands().action(id)->trigger(); }
+    /// Ticks or unticks a part of the list that is shown.
+    void tick(const QString& part, bool on) {
+        auto* tree = window_->findChild<QTreeWidget*>("lookParts");
+        ASSERT_TRUE(tree);
+        for (int i = 0; i < tree->topLevelItemCount(); ++i)
+            if (tree->topLevelItem(i)->text(0).startsWith(part))
+                return tree->topLevelItem(i)->setCheckState(0, on ? Qt::Checked : Qt::Unchecked);
+        FAIL() << part.toStdString() << " is not in the list";
+    }
+    void accept() {
+        auto* dialog = window_->findChild<QDialog*>("lookDialog");
+        ASSERT_TRUE(dialog);
+        QTest::mouseClick(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
+        QTest::qWait(10);
+    }
+
+    const std::string shared_ = Places::current().sharedFolder(), pictures_ = Places::current().picturesFolder();
+    test::TempFolder folder_;
+    const std::string portrait_ = test::savePng(test::discOnScreen(240, 300), folder_.file("anna.png"));
+    const std::string other_ = test::savePng(test::discOnScreen(240, 300), folder_.file("ben.png"));
+    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
+    std::unique_ptr<MainWindow> window_;
+};
+
+TEST_F(LookTest, APasteShowsWhatWillChangeAndTakesWhatIsTicked) {
+    set("foreground.iBrightness", "30");
+    set("combined.sliderWhiteAdjust", "70");
+    set("foreground.fScale", "1.5");
+    trigger("CopyLook");
+    for (int i = 0; i < 3; ++i)
+        trigger("UndoButton");
+    trigger("PasteLook");
+    tick("Key", false);
+    accept();
+    EXPECT_EQ(portrait().iBrightness, 30);
+    EXPECT_EQ(portrait().fScale, 1.0) << "the place is not ticked at first";
+    EXPECT_NE(info_->pCombinedBitmapInfo->sliderWhiteAdjust, 70);
+    ASSERT_EQ(editor().steps().size(), 1u);
+    trigger("UndoButton");
+    EXPECT_EQ(portrait().iBrightness, 0);
+}
+
+TEST_F(LookTest, ALookOnOtherPortraitsIsThereWhenTheyAreOpenedAndOneUndoTakesItBack) {
+    set("foreground.iBrightness", "30");
+    trigger("CopyLook");
+    const auto paste = [&] {
+        window_->looks().pasteOn({QString::fromStdString(other_)});
+        accept();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return editor().steps().size() == 2u; }, 5000));
+    };
+    paste();
+    EXPECT_TRUE(loadRecipe(other_));
+    trigger("UndoButton");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !loadRecipe(other_); }, 5000));
+    EXPECT_EQ(portrait().iBrightness, 30) << "this portrait was not among them";
+
+    trigger("RedoButton");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loadRecipe(other_).has_value(); }, 5000));
+    set("foreground.iBrightness", "-20");
+    window_->openForeground(QString::fromStdString(other_));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !editor().steps().empty(); }, 5000));
+    EXPECT_EQ(portrait().iBrightness, 30);
+    trigger("UndoButton");
+    EXPECT_EQ(portrait().iBrightness, -20) << "it is a step there";
+}
+
+TEST_F(LookTest, LooksByNameAreSavedTakenAndDeletedToUndo) {
+    set("foreground.iBrightness", "30");
+    ASSERT_TRUE(window_->looks().save("School"));
+    EXPECT_FALSE(window_->looks().save("a/b"));
+    EXPECT_FALSE(window_->messages()->details().isEmpty());
+    trigger("UndoButton");
+    trigger("ShowLooks");
+    auto* list = window_->findChild<QListWidget*>("lookList");
+    ASSERT_EQ(list->count(), 1);
+    EXPECT_FALSE(list->item(0)->icon().isNull());
+    list->setCurrentRow(0);
+    QTest::mouseClick(window_->findChild<QToolButton*>("lookTake"), Qt::LeftButton);
+    accept();
+    EXPECT_EQ(portrait().iBrightness, 30);
+    EXPECT_EQ(portrait().sSourceImageFullPath.load(), portrait_);
+
+    QTest::mouseClick(window_->findChild<QToolButton*>("lookDelete"), Qt::LeftButton);
+    EXPECT_EQ(list->count(), 0);
+    trigger("UndoButton");
+    EXPECT_EQ(list->count(), 1);
+}
+
+TEST_F(LookTest, AnImportSaysWhatHappensOnEqualNames) {
+    set("foreground.iBrightness", "30");
+    ASSERT_TRUE(window_->looks().save("School"));
+    const std::string file = folder_.file("School.qlx");
+    ASSERT_EQ(exportLook("School", file), "");
+    const auto importAs = [&](const char* answer) {
+        window_->looks().import(QString::fromStdString(file));
+        auto* button = window_->findChild<QPushButton*>(answer);
+        ASSERT_TRUE(button);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QTest::qWait(10);
+    };
+    importAs("equalSkip");
+    EXPECT_TRUE(window_->messages()->message().contains("Nothing was imported"));
+    EXPECT_EQ(lookNames().size(), 1u);
+    importAs("equalRename");
+    EXPECT_TRUE(window_->messages()->message().contains("School 2"));
+    EXPECT_EQ(lookNames().size(), 2u);
+    importAs("equalReplace");
+    EXPECT_EQ(lookNames().size(), 2u);
+}
+
+}  // namespace
+}  // namespace tavrin

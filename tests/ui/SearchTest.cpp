@@ -1,0 +1,167 @@
+// Search of controls and actions, the chips that tell what is set, the list of steps.
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
+
+#include "support/Pictures.h"
+#include "support/TestData.h"
+#include "ui/frame/MainWindow.h"
+
+namespace tavrin {
+namespace {
+
+class SearchTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        info_->pForegroundBitmapInfo->sSourceImageFullPath =
+            test::savePng(test::discOnScreen(240, 300), folder_.file("fg.png"));
+        info_->pBackgroundBitmapInfo->sSourceImageFullPath =
+            test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
+        window_ = std::make_unique<MainWindow>(*info_);
+        window_->resize(1200, 800);
+        window_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    }
+    static std::string focus() {
+        const QWidget* widget = QApplication::focusWidget();
+        return widget ? std::string(widget->metaObject()->className()) + " " + widget->objectName().toStdString()
+                      : "";
+    }
+    SettingEditor& editor() { return window_->binder().editor(); }
+    std::int32_t brightness() { return info_->pForegroundBitmapInfo->iBrightness; }
+    void set(const char* label, const char* setting, const char* value) {
+        window_->binder().run(label, [&](SettingEditor& e) { ASSERT_EQ(e.set(setting, value), ""); });
+    }
+    /// Types into the search of actions and takes what stands first, or what so many keys lead to.
+    void findAndTake(const QString& words, int down = 0) {
+        window_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        QTest::keyClick(window_->view(), Qt::Key_K, Qt::ControlModifier);
+        auto* field = window_->findChild<QLineEdit*>("searchActions");
+        ASSERT_TRUE(field);
+        QTest::keyClicks(field, words);
+        for (int i = 0; i < down; ++i)
+            QTest::keyClick(field, Qt::Key_Down);
+        QTest::keyClick(field, Qt::Key_Return);
+        QTest::qWait(10);
+    }
+    QStringList foundFor(const QString& words) {
+        window_->commands().action("FindAction")->trigger();
+        auto* field = window_->findChild<QLineEdit*>("searchActions");
+        QTest::keyClicks(field, words);
+        QStringList found;
+        auto* list = window_->findChild<QListWidget*>("foundActions");
+        for (int i = 0; i < list->count(); ++i)
+            found.append(list->item(i)->text());
+        QTest::keyClick(field, Qt::Key_Escape);
+        QTest::qWait(10);
+        EXPECT_FALSE(window_->findChild<QLineEdit*>("searchActions")) << "Esc ends it";
+        return found;
+    }
+
+    test::TempFolder folder_;
+    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
+    std::unique_ptr<MainWindow> window_;
+};
+
+TEST_F(SearchTest, OneFieldFindsCommandsAndControlsInAnyOrderAndWithSlips) {
+    EXPECT_TRUE(foundFor("green remove").value(0).startsWith("Remove green"));
+    EXPECT_EQ(foundFor("brigthness").filter("Brightness   (").size(), 1);
+    EXPECT_TRUE(foundFor("shrotcuts").value(0).startsWith("Keyboard Shortcuts"));
+    EXPECT_FALSE(foundFor("hiar").value(0).startsWith("Nothing"));
+    EXPECT_TRUE(foundFor("zzzz").value(0).startsWith("Nothing"));
+
+    set("Light", "foreground.iBrightness", "30");
+    findAndTake("undo");
+    EXPECT_EQ(brightness(), 0) << "a command is done";
+    findAndTake("undo");  // cannot be used now: Enter takes nothing
+    EXPECT_TRUE(window_->findChild<QLineEdit*>("searchActions"));
+    QTest::keyClick(window_->findChild<QLineEdit*>("searchActions"), Qt::Key_Escape);
+    QTest::qWait(10);
+
+    for (GroupBox* group : window_->panel()->groups())
+        group->setFolded(true);
+    findAndTake("clip left");
+    window_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    EXPECT_EQ(focus(), "tavrin::Groove sliderClipLeft") << "a control is shown";
+    EXPECT_TRUE(QApplication::focusWidget()->isVisible());
+}
+
+TEST_F(SearchTest, TheSearchOfControlsFindsCommandsToo) {
+    QLineEdit* field = window_->panel()->searchField();
+    field->setFocus();
+    QTest::keyClicks(field, "reset settings all");
+    auto* found = window_->panel()->findChild<QToolButton*>("ResetAllFound");
+    ASSERT_TRUE(found);
+    set("Light", "foreground.iBrightness", "30");
+    QTest::mouseClick(found, Qt::LeftButton);
+    QTest::qWait(10);
+    EXPECT_EQ(brightness(), 0);
+    field->clear();
+    QTest::keyClicks(field, "sharpenn");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(focus(), "tavrin::Groove sliderBrightnessSharpen");
+}
+
+TEST_F(SearchTest, ChipsTellWhatIsSetAndPutItBackAsOneStep) {
+    window_->panel()->resetAll();
+    QTest::qWait(60);
+    const std::size_t steps = editor().steps().size();
+    EXPECT_FALSE(window_->findChild<QToolButton*>("sliderBrightnessChip"));
+    set("Light", "foreground.iBrightness", "30");
+    QTest::qWait(60);
+    auto* chip = window_->findChild<QToolButton*>("sliderBrightnessChip");
+    ASSERT_TRUE(chip);
+    EXPECT_EQ(chip->text(), "Brightness: 30");
+    QTest::mouseClick(chip, Qt::LeftButton);
+    EXPECT_EQ(focus(), "tavrin::Groove sliderBrightness");
+    QTest::mouseClick(window_->findChild<QToolButton*>("sliderBrightnessChipReset"), Qt::LeftButton);
+    QTest::qWait(60);
+    EXPECT_EQ(brightness(), 0);
+    EXPECT_EQ(editor().steps().size(), steps + 2);
+    EXPECT_FALSE(window_->findChild<QToolButton*>("sliderBrightnessChip"));
+}
+
+TEST_F(SearchTest, ResetAllIsOneStepForBothLayers) {
+    set("a", "foreground.iBrightness", "30");
+    set("b", "background.iContrast", "80");
+    set("c", "combined.sliderWhiteAdjust", "70");
+    window_->commands().action("ResetAll")->trigger();
+    EXPECT_EQ(brightness(), 0);
+    EXPECT_EQ(info_->pBackgroundBitmapInfo->iContrast, 50);
+    ASSERT_EQ(editor().steps().size(), 4u);
+    editor().undo();
+    EXPECT_EQ(brightness(), 30);
+    EXPECT_EQ(info_->pBackgroundBitmapInfo->iContrast, 80);
+    EXPECT_EQ(info_->pCombinedBitmapInfo->sliderWhiteAdjust, 70);
+}
+
+TEST_F(SearchTest, AClickInTheHistoryGoesThere) {
+    for (const char* value : {"10", "20", "30"})
+        set(value, "foreground.iBrightness", value);
+    window_->commands().action("ShowHistory")->trigger();
+    auto* list = window_->findChild<QListWidget*>("historyList");
+    ASSERT_TRUE(list->isVisible());
+    ASSERT_EQ(list->count(), 4);
+    EXPECT_EQ(list->currentRow(), 3);
+    const auto click = [&](int row) {
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+    };
+    click(1);
+    EXPECT_EQ(brightness(), 10);
+    EXPECT_EQ(list->count(), 4) << "later steps stay";
+    EXPECT_NE(list->item(2)->foreground(), list->item(1)->foreground());
+    EXPECT_EQ(list->item(2)->data(Qt::AccessibleTextRole), "20, taken back");
+    click(3);
+    EXPECT_EQ(brightness(), 30);
+    click(0);
+    EXPECT_EQ(brightness(), 0);
+    set("new", "foreground.iBrightness", "5");
+    EXPECT_EQ(list->count(), 2);
+}
+
+}  // namespace
+}  // namespace tavrin
