@@ -633,8 +633,8 @@
         <translation>Links, Rechts</translation>
     </message>
     <message>
-        <source>On the picture or the strip: open the portrait before, or the next one</source>
-        <translation>Auf dem Bild oder dem Streifen: das vorige oder nächste Porträt öffnen</translation>
+        <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
+        <translation>Im Streifen oder auf einem Bild, das ganz zu sehen ist: voriges oder nächstes Porträt öffnen</translation>
     </message>
 </context>
 <context>

@@ -633,8 +633,8 @@
         <translation>Izquierda, Derecha</translation>
     </message>
     <message>
-        <source>On the picture or the strip: open the portrait before, or the next one</source>
-        <translation>En la imagen o la tira: abrir el retrato anterior o el siguiente</translation>
+        <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
+        <translation>En la tira, o sobre una imagen que se ve entera: abrir el retrato anterior o el siguiente</translation>
     </message>
 </context>
 <context>

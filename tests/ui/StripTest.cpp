@@ -123,6 +123,13 @@ TEST_F(StripTest, ShowsTheFolderOfThePortraitAndWalksThroughIt) {
     EXPECT_EQ(present(), "p5");
     press(window_->view(), Qt::Key_Right);
     EXPECT_EQ(present(), "p5") << "there is none behind it";
+    window_->view()->zoomBy(20);
+    press(window_->view(), Qt::Key_Right);
+    const double left = window_->view()->zoom().frame().left();
+    press(window_->view(), Qt::Key_Left);
+    EXPECT_EQ(present(), "p5");
+    EXPECT_NE(window_->view()->zoom().frame().left(), left) << "a large picture is moved";
+    window_->view()->setZoomHome();
     window_->panel()->setFocus();
     press(window_->panel(), Qt::Key_PageUp);
     EXPECT_EQ(present(), "p4");

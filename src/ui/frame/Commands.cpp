@@ -137,7 +137,8 @@ void Commands::showShortcuts() {
     line(tr("Arrows on the picture"), tr("Move what is shown; with Shift by a point"));
     line(tr("Arrows on the line between before and after"), tr("Move the line"));
     line(tr("Wheel"), tr("Zoom about the pointer"));
-    line(tr("Left, Right"), tr("On the picture or the strip: open the portrait before, or the next one"));
+    line(tr("Left, Right"),
+         tr("On the strip, or on a picture that is seen whole: open the portrait before, or the next one"));
     line(tr("Space or middle button"), tr("Hold and drag to move the picture"));
     list->resizeColumnToContents(0);
     auto* layout = new QVBoxLayout(dialog);

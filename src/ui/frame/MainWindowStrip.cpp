@@ -83,9 +83,13 @@ void MainWindow::connectStrip() {
             if (enabled) strip_->readAhead();
         },
         Qt::QueuedConnection);
-    for (const auto& [key, step] : {std::pair(Qt::Key_Left, -1), std::pair(Qt::Key_Right, 1)})
-        connect(new QShortcut(key, view_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, strip_,
-                [this, step = step] { strip_->walk(step); });
+    for (const auto& [key, step] : {std::pair(Qt::Key_Left, -1), std::pair(Qt::Key_Right, 1)}) {
+        auto* shortcut = new QShortcut(key, view_, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, strip_, [this, step = step] { strip_->walk(step); });
+        // A picture that is larger than the view is moved by these keys.
+        connect(view_, &PictureView::zoomed, shortcut,
+                [this, shortcut] { shortcut->setEnabled(view_->zoom().frame().width() <= view_->width()); });
+    }
     commands_->action("ShowStrip")->setChecked(!strip_->isFolded());
     commands_->menu("&File")->insertAction(commands_->action("loadBackground"), commands_->action("OpenFolder"));
 }
