@@ -14,6 +14,7 @@ FLOORS = {
     "core": 0,
     "folders": 1,
     "formats": 1,
+    "browse": 2,
     "key": 2,
     "effects": 3,
     "pipeline": 4,
@@ -33,7 +34,7 @@ ROOMS = {
     "core": [["."], ["files"], ["raster"], ["image"], ["state"], ["text"]],
     "key": [["pixel"], ["screen", "skin", "guard", "refine"], ["hair", "spill"], ["light"], ["."]],
     "effects": [["."], ["frame", "shadow", "sketch", "smoothing", "star"]],
-    "ui": [["."], ["bind", "views"], ["adjust"], ["look"], ["frame"]],
+    "ui": [["."], ["bind", "views"], ["adjust", "strip"], ["picture", "look"], ["frame"]],
     "apps": [["cli", "desktop"]],
 }
 

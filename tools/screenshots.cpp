@@ -1,12 +1,16 @@
 // Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1 and 2, with the
-// groups as they are at first, all open, and a message; file names say which is which.
+// groups as they are at first, all open, a message, and a folder in the strip; file names say which is which.
 #include <cstdio>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLineEdit>
+#include <QPainter>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include "SampleState.h"
 #include "ui/frame/MainWindow.h"
@@ -35,6 +39,54 @@ bool shoot(MainWindow& window, SystemInfo& info, const QString& path) {
     return window.grab().save(path);
 }
 
+/// A text across the middle of the sample.
+FontObject title() {
+    FontObject text;
+    text.sText = "Tavrin";
+    text.iFontSize = 90;
+    text.rectSizeWidth = 300;
+    text.rectSizeHeight = 120;
+    text.xPos = 2.0;
+    text.yPos = 4.2;
+    return text;
+}
+
+/// A folder of portraits and one of backgrounds, told apart by their light.
+void fillFolders(const QString& portraits, const QString& backgrounds) {
+    const auto fill = [](const QString& folder, const char* sample, int count) {
+        QDir().mkpath(folder);
+        const QImage picture = QImage(sample).scaled(600, 600, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        for (int i = 0; i < count; ++i) {
+            QImage other = picture;
+            QPainter painter(&other);
+            painter.fillRect(other.rect(), QColor::fromHsv(30 * i % 360, 120, 255, 18 * (i % 4)));
+            painter.end();
+            other.save(QString("%1/IMG_%2.jpg").arg(folder).arg(i + 1, 4, 10, QChar('0')));
+        }
+    };
+    fill(portraits, TAVRIN_SOURCE_DIR "/data/sample/portrait.jpg", 30);
+    fill(backgrounds, TAVRIN_SOURCE_DIR "/data/sample/background.jpg", 6);
+}
+
+/// A folder that is looked through: some portraits marked, one that cannot be read.
+void showFolder(MainWindow& window, SystemInfo& info, const QString& folder) {
+    fillFolders(folder + "/portraits", folder + "/backgrounds");
+    QFile(folder + "/portraits/IMG_0006.jpg").resize(9);
+    info.oQLXInfo->sPickDirectory = (folder + "/backgrounds").toStdString();
+    window.openFolder(folder + "/portraits");
+    QElapsedTimer time;
+    for (time.start(); window.strip()->portraits()->list().paths().size() != 30 && time.elapsed() < 10000;)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    const auto marks = {PictureMark::keep, PictureMark::keep, PictureMark::lookAgain, PictureMark::reject};
+    for (const PictureMark mark : marks) {
+        window.strip()->mark(mark);
+        if (mark != PictureMark::reject) window.strip()->walk(1);
+    }
+    window.openBackground(folder + "/backgrounds/IMG_0002.jpg");
+    for (time.restart(); time.elapsed() < 1500;)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+
 /// @return whether every picture was written
 bool shootAll(const QString& folder, const QString& scale) {
     bool all = true;
@@ -50,9 +102,58 @@ bool shootAll(const QString& folder, const QString& scale) {
         settle(window, *info);  // the first picture gives the window its shape
         window.resize(kWidth, kHeight);
         save("adjust");
+        const auto action = [&](const char* id) { return window.commands().action(id); };
+        const auto shoots = [&](const char* id, const char* name) {
+            action(id)->setChecked(true);
+            settle(window, *info);
+            save(name);
+            action(id)->setChecked(false);
+        };
+        shoots("ShowSplit", "split");
+        shoots("ShowAlpha", "alpha");
+        shoots("ShowScreen", "screen");
+        settle(window, *info);
+        window.view()->setAsking(true);
+        emit window.view()->asked({520, 900});
+        settle(window, *info);
+        save("story");
+        window.pictureTools()->story()->hide();
+        window.view()->setAsking(false);
         window.panel()->searchField()->setText("green");
         save("search");
         window.panel()->searchField()->clear();
+        window.panel()->searchField()->setText("save pitcure");
+        save("search-commands");
+        window.panel()->searchField()->clear();
+        for (const char* value : {"10", "25", "40"})
+            window.binder().run("Brightness",
+                                [&](SettingEditor& editor) { editor.set("foreground.iBrightness", value); });
+        window.binder().run("Shadows", [](SettingEditor& editor) { editor.set("iMacroShadows", "2"); });
+        window.binder().undo();
+        window.commands().action("ShowHistory")->trigger();
+        window.messages()->ask("Tavrin ended without being closed. The work on anna.jpg was kept.",
+                               {{"TakeUp", "Take Up", "", [] {}}, {"Discard", "Discard", "", [] {}}});
+        save("history");
+        window.looks().save("School");
+        window.commands().action("ShowLooks")->trigger();
+        window.commands().action("CopyLook")->trigger();
+        window.binder().goTo(0);
+        window.commands().action("PasteLook")->trigger();
+        save("looks");
+        const auto grabDialog = [&](const char* name) {
+            QCoreApplication::processEvents();
+            if (auto* dialog = window.findChild<QDialog*>(name)) {
+                all = dialog->grab().save(folder + '/' + name + end) && all;
+                dialog->reject();
+                QCoreApplication::processEvents();
+            }
+        };
+        grabDialog("lookDialog");
+        window.commands().action("FindAction")->trigger();
+        if (auto* field = window.findChild<QLineEdit*>("searchActions")) field->setText("green");
+        grabDialog("actionSearch");
+        window.commands().action("ShowLooks")->trigger();
+        window.commands().action("ShowHistory")->trigger();
         for (GroupBox* group : window.panel()->groups())
             group->setFolded(group->group().name != std::string_view("groupPlace") &&
                              group->group().name != std::string_view("groupTurn") &&
@@ -60,6 +161,20 @@ bool shootAll(const QString& folder, const QString& scale) {
         window.messages()->fail("The state file cannot be opened.", "wedding.qlx is no state file.");
         window.view()->zoomToPixels();
         save("pixels");
+        window.messages()->hide();
+        window.view()->setZoomHome();
+        info->oFontObject.push_back(title());
+        info->StartUpdate();
+        settle(window, *info);
+        window.pictureTools()->items().press(window.view()->fromLowerLeft(window.view()->zoom().frame().center()),
+                                             true);
+        for (GroupBox* group : window.panel()->groups())
+            group->setFolded(group->group().name != std::string_view("groupPlace"));
+        save("item");
+        info->oFontObject.clear();
+        const QTemporaryDir pictures;
+        showFolder(window, *info, pictures.path());
+        save("strip");
     }
     return all;
 }

@@ -23,6 +23,8 @@ class KeyOverrides {
     /// Where the guard's bitmap is shown instead of the subject: its colours, unless `alphaOnly`, and alpha 1.
     void showGuard(KeyedRun& run, bool alphaOnly) const;
     bool showsGuard() const { return showGuard_; }
+    /// The byte of the guard's bitmap at a pixel; 0 without a guard.
+    std::uint8_t guardAt(int x, int y) const { return guarded_ ? guardByte(x, y) : std::uint8_t{0}; }
 
   private:
     void correctHairAt(KeyedRun& run, int i) const;

@@ -15,6 +15,7 @@ namespace {
 // Where they lie between pictures that are fine and pictures that are not is told in docs/key-quality.md.
 constexpr double kDarkScreen = 165.0, kUnevenScreen = 0.75, kWashedOutScreen = 0.1;
 constexpr double kClothes = 0.03;                             // of the picture
+constexpr int kSure = 25;                                     // of 100, from here on nobody has to look
 constexpr double kSoftPortrait = 2.0, kSoftBackground = 4.0;  // times enlarged
 
 std::string nameOf(const BitmapInfo& record) {
@@ -37,6 +38,17 @@ void tellEnlarged(const SystemInfo& info, const BitmapInfo& record, double most,
 void tellDamage(const BitmapInfo& record, std::vector<PictureWarning>& warnings) {
     const std::string damage = record.sSourceDamage;
     if (!damage.empty()) warnings.push_back({"damaged", nameOf(record) + ": " + damage + "."});
+}
+
+/// The heaviest doubt of a picture that is likely not fine, unless one of its doubts was told already.
+void tellDoubt(const std::string& name, const Judgement& judgement, std::vector<PictureWarning>& warnings) {
+    if (judgement.confidence >= kSure || judgement.doubts.empty()) return;
+    for (const Doubt& doubt : judgement.doubts) {
+        for (const PictureWarning& told : warnings)
+            if (told.kind == doubt.kind) return;
+    }
+    const Doubt& heaviest = judgement.doubts.front();
+    warnings.push_back({heaviest.kind, "Look at " + name + ": " + heaviest.text + "."});
 }
 
 /// Families that the state's texts ask for and that the system does not have.
@@ -111,6 +123,7 @@ std::vector<PictureWarning> PictureCheck::warnings(const SystemInfo& info,
             warnings.push_back({"clothes", "Something on the subject of " + nameOf(portrait) +
                                                " has the screen's hue and may have holes."});
         }
+        tellDoubt(nameOf(portrait), *judgement, warnings);
     }
     tellDamage(portrait, warnings);
     tellDamage(*info.pBackgroundBitmapInfo, warnings);

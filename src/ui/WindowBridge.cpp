@@ -42,7 +42,7 @@ void WindowBridge::updateScaleUI() {
 }
 
 void WindowBridge::showAlert(const std::string& message, const std::string& reason) {
-    logError(reason);
+    logError(message + " (" + reason + ")");  // the reason alone names no file
     emit alerted(QString::fromStdString(message), QString::fromStdString(reason));
 }
 

@@ -45,8 +45,6 @@ class WindowBridge : public QObject, public Interface {
     void failed(const QString& message, const QString& reason);
     /// The loop worked out where a layer lies.
     void placed();
-    /// A picture that the view is to show instead of the combined one, and the word for it.
-    void otherTaken(const QImage& picture, const QString& word);
 
   private:
     std::mutex mutex_;

@@ -219,6 +219,8 @@ TEST_F(MannersCliTest, ShellsAndTheManualKnowEveryOption) {
     EXPECT_EQ(completed("tavrin-cli ren", 1), "render");
     EXPECT_EQ(completed("tavrin-cli render --foregr", 2), "--foreground");
     EXPECT_EQ(completed("tavrin-cli report merge --o", 3), "--out");
+    EXPECT_EQ(completed("tavrin-cli batch --place s", 3), "subject same");
+    EXPECT_EQ(completed("tavrin-cli render --texture l", 3), "linen") << "a file may stand there too";
     EXPECT_EQ(completed("tavrin-cli render --out --o", 3), "") << "a file's name is due";
 }
 

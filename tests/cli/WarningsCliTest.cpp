@@ -143,6 +143,14 @@ TEST_F(WarningsCliTest, SaysWhatIsWrongWithThePicture) {
     const QString shirt = QString::fromStdString(test::savePng(dressed, folder_.file("shirt.png")));
     EXPECT_EQ(warned(shirt), QStringList("clothes"));
     EXPECT_EQ(warned(shirt, {"--protect-clothes", "inside"}), QStringList());
+    QImage glossy = test::discOnScreen(240, 144);
+    for (int y = 0; y < 144; ++y) {
+        for (int x = 0; x < 240; x += 1 + (x / 3) % 7)
+            if (qGreen(glossy.pixel(x, y)) == 160) glossy.setPixel(x, y, qRgb(60, 230, 90));
+    }
+    const QString glare = QString::fromStdString(test::savePng(glossy, folder_.file("glare.png")));
+    EXPECT_EQ(warned(glare), QStringList("shades"));
+    EXPECT_TRUE(render(glare).err.contains("Look at glare.png: removed parts")) << "doubtful, and nothing else told";
     EXPECT_EQ(warned(portrait("small.png"), {"--set", "foreground.fScale=2.5"}), QStringList("small-source"));
     EXPECT_EQ(warned(portrait("anna.png"), {"--set", "iBlendEdges=300"}), QStringList("range"));
     EXPECT_TRUE(render(portrait("anna.png"), {"--set", "background.iContrast=-4"}).err.contains("from 0 to 100"));

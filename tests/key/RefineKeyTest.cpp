@@ -259,6 +259,46 @@ TEST(RefineKey, TheGuardHasTheLastWordAndAnEvenGridChangesNothing) {
     EXPECT_TRUE(adaptive.background == neutral);
 }
 
+/// A creased shirt near the screen's hue, up to the lower end, with a few spots that the key takes for screen.
+struct ShirtScene : KeyScene {
+    explicit ShirtScene(int size) : KeyScene(size, size, {92, 163, 110, 255}) {
+        info.baseRed = 92.0;
+        info.baseGreen = 163.0;
+        info.baseBlue = 110.0;
+        info.iGreenProtectMode = 0;
+        for (int y = size / 4; y < size; ++y) {
+            for (int x = size / 4; x < size * 3 / 4; ++x) {
+                const auto fold = static_cast<std::uint8_t>(x / 4 % 2 * 24);
+                const bool deep = x > size * 2 / 5 && x < size * 3 / 5 && y > size / 2;
+                const bool spot = deep && x % (size / 8) < size / 30 && y % (size / 8) < size / 30;
+                at(foreground, x, y) = spot ? Pixel{20, 168, 112, 255}
+                                            : Pixel{17, static_cast<std::uint8_t>(152 + fold),
+                                                    static_cast<std::uint8_t>(122 + fold), 255};
+            }
+        }
+        info.bRefineKey = true;
+        Combine(info, 1, 1);
+    }
+};
+
+TEST(RefineKey, ClothThatNoLightOnTheScreenExplainsStaysAtEverySize) {
+    for (const int size : {240, 480, 960}) {
+        ShirtScene scene(size);
+        int open = 0, tinted = 0;
+        for (int y = size * 3 / 10; y < size; ++y) {
+            for (int x = size * 3 / 10; x < size * 7 / 10; ++x) {
+                const Pixel& own = scene.at(scene.foreground, x, y);
+                const Pixel& made = scene.at(scene.combined, x, y);
+                open += scene.alpha(x, y) < 250;
+                tinted += made[1] + 40 < own[1];
+            }
+        }
+        EXPECT_EQ(open, 0) << size;
+        EXPECT_EQ(tinted, 0) << size << ": its own green went";
+        EXPECT_EQ(scene.alpha(size / 8, size / 2), 0) << size;
+    }
+}
+
 TEST(RefineKey, KeepsTheSubjectsOwnGreenAsFarAsItsSliderSays) {
     KeyScene scene(400, 300);
     for (int y = 100; y < 300; ++y) {

@@ -12,10 +12,10 @@ namespace tavrin::cli {
 
 namespace {
 
-using Commands = std::vector<const CLI::App*>;
+using Commands = std::vector<CLI::App*>;
 
-Commands commandsIn(const CLI::App& app) {
-    return app.get_subcommands([](const CLI::App*) { return true; });
+Commands commandsIn(CLI::App& app) {
+    return app.get_subcommands([](CLI::App*) { return true; });
 }
 
 bool takesValue(const CLI::Option& option) {
@@ -41,15 +41,15 @@ std::string escaped(const std::string& text, const std::string& characters, cons
 
 /// Every command with the words that lead to it; the program itself has none.
 template <class Visit>
-void walk(const CLI::App& app, const std::string& path, const Visit& visit) {
+void walk(CLI::App& app, const std::string& path, const Visit& visit) {
     visit(app, path);
-    for (const CLI::App* command : commandsIn(app))
+    for (CLI::App* command : commandsIn(app))
         walk(*command, (path.empty() ? "" : path + " ") + command->get_name(), visit);
 }
 
-std::vector<std::string> optionNames(const CLI::App& app, bool onlyWithValue) {
+std::vector<std::string> optionNames(CLI::App& app, bool onlyWithValue) {
     std::vector<std::string> names;
-    for (const CLI::Option* option : app.get_options()) {
+    for (CLI::Option* option : app.get_options()) {
         if (option->get_positional() || (onlyWithValue && !takesValue(*option))) continue;
         for (const std::string& name : namesOf(*option))
             names.push_back(name);
@@ -57,45 +57,67 @@ std::vector<std::string> optionNames(const CLI::App& app, bool onlyWithValue) {
     return names;
 }
 
-// Behind an option with a value, and where no option begins, files are completed.
-std::string bashScript(const CLI::App& app) {
+// Behind an option with a value its words are completed, or files; so are files where no option begins.
+std::string bashScript(CLI::App& app) {
     std::ostringstream out;
     out << "# bash completion for tavrin-cli\n_tavrin_cli() {\n"
-           "    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} path= names= valued= part\n"
+           "    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]}\n"
+           "    local path= names= valued= words= part\n"
            "    for part in \"${COMP_WORDS[@]:1:COMP_CWORD-1}\"; do\n"
            "        case \"$path $part\" in\n";
-    walk(app, "", [&](const CLI::App&, const std::string& path) {
+    walk(app, "", [&](CLI::App&, const std::string& path) {
         if (!path.empty()) out << "            \" " << path << "\") path=' " << path << "' ;;\n";
     });
     out << "        esac\n    done\n    case \"$path\" in\n";
-    walk(app, "", [&](const CLI::App& command, const std::string& path) {
+    walk(app, "", [&](CLI::App& command, const std::string& path) {
         std::vector<std::string> names = optionNames(command, false);
         for (const CLI::App* inside : commandsIn(command))
             names.push_back(inside->get_name());
         out << "        '" << (path.empty() ? "" : " " + path) << "') names='" << joined(names, " ") << "' valued=' "
             << joined(optionNames(command, true), " ") << " ' ;;\n";
     });
+    out << "    esac\n    case \"$path $before\" in\n";
+    walk(app, "", [&](CLI::App& command, const std::string& path) {
+        for (CLI::Option* option : command.get_options()) {
+            const std::string words = offerOf(*option).words;
+            if (words.empty() || option->get_positional()) continue;
+            for (const std::string& name : namesOf(*option))
+                out << "        ' " << path << " " << name << "') words='" << words << "' ;;\n";
+        }
+    });
     out << "    esac\n"
-           "    if [[ $valued != *\" $before \"* ]]; then COMPREPLY=($(compgen -W \"$names\" -- \"$word\")); fi\n"
+           "    if [[ $valued != *\" $before \"* ]]; then words=$names; fi\n"
+           "    COMPREPLY=($(compgen -W \"$words\" -- \"$word\"))\n"
            "}\ncomplete -o default -F _tavrin_cli tavrin-cli\n";
     return out.str();
 }
 
-std::string zshScript(const CLI::App& app) {
+/// What comes behind an option, as zsh tells it.
+std::string zshValue(CLI::Option& option) {
+    const Offer offer = offerOf(option);
+    if (offer.words.empty()) return ":value:_files";
+    return offer.takesFile ? ":value: _tavrin_words_or_files " + offer.words : ":value:(" + offer.words + ")";
+}
+
+// The words before the last command are taken off, since zsh counts the places from the first.
+std::string zshScript(CLI::App& app) {
     std::ostringstream out;
-    out << "#compdef tavrin-cli\n_tavrin_cli() {\n    local path= part\n"
-           "    for part in \"${(@)words[2,CURRENT-1]}\"; do\n        case \"$path $part\" in\n";
-    walk(app, "", [&](const CLI::App&, const std::string& path) {
-        if (!path.empty()) out << "            \" " << path << "\") path=' " << path << "' ;;\n";
+    out << "#compdef tavrin-cli\n_tavrin_words_or_files() { compadd -- \"$@\"; _files; }\n_tavrin_cli() {\n    local "
+           "path=\n    local -i at=0 last=0\n"
+           "    for (( at = 2; at < CURRENT; ++at )); do\n        case \"$path $words[at]\" in\n";
+    walk(app, "", [&](CLI::App&, const std::string& path) {
+        if (!path.empty()) out << "            \" " << path << "\") path=' " << path << "' last=at ;;\n";
     });
-    out << "        esac\n    done\n    case \"$path\" in\n";
-    walk(app, "", [&](const CLI::App& command, const std::string& path) {
+    out << "        esac\n    done\n"
+           "    if (( last )); then words=(\"${(@)words[last,-1]}\"); (( CURRENT -= last - 1 )); fi\n"
+           "    case \"$path\" in\n";
+    walk(app, "", [&](CLI::App& command, const std::string& path) {
         out << "        '" << (path.empty() ? "" : " " + path) << "') _arguments";
-        for (const CLI::Option* option : command.get_options()) {
+        for (CLI::Option* option : command.get_options()) {
             if (option->get_positional()) continue;
             for (const std::string& name : namesOf(*option)) {
                 out << " '" << name << "[" << escaped(escaped(option->get_description(), "[]"), "'", "'\\'") << "]"
-                    << (takesValue(*option) ? ":value:_files" : "") << "'";
+                    << (takesValue(*option) ? zshValue(*option) : "") << "'";
             }
         }
         std::vector<std::string> names;
@@ -107,10 +129,10 @@ std::string zshScript(const CLI::App& app) {
     return out.str();
 }
 
-std::string fishScript(const CLI::App& app) {
+std::string fishScript(CLI::App& app) {
     std::ostringstream out;
     out << "# fish completion for tavrin-cli\n";
-    walk(app, "", [&](const CLI::App& command, const std::string& path) {
+    walk(app, "", [&](CLI::App& command, const std::string& path) {
         std::string when = "__fish_use_subcommand", word;
         std::istringstream words(path);
         if (!path.empty()) when.clear();
@@ -120,15 +142,19 @@ std::string fishScript(const CLI::App& app) {
         for (const CLI::App* inside : commandsIn(command))
             out << start << " -f -a " << inside->get_name() << " -d '" << escaped(inside->get_description(), "'\\")
                 << "'\n";
-        for (const CLI::Option* option : command.get_options()) {
+        for (CLI::Option* option : command.get_options()) {
             if (option->get_positional()) continue;
             out << start;
             for (const std::string& name : option->get_lnames())
                 out << " -l " << name;
             for (const std::string& name : option->get_snames())
                 out << " -s " << name;
-            out << (takesValue(*option) ? " -r" : "") << " -d '" << escaped(option->get_description(), "'\\")
-                << "'\n";
+            const Offer offer = offerOf(*option);
+            out << (!takesValue(*option) ? ""
+                    : offer.takesFile    ? " -r"
+                                         : " -x")
+                << (offer.words.empty() ? "" : " -a '" + offer.words + "'") << " -d '"
+                << escaped(option->get_description(), "'\\") << "'\n";
         }
     });
     return out.str();
@@ -143,19 +169,19 @@ std::string roff(const std::string& text) {
     return result;
 }
 
-std::string manualPage(const CLI::App& app) {
+std::string manualPage(CLI::App& app) {
     std::ostringstream out;
     out << ".TH TAVRIN\\-CLI 1\n.SH NAME\ntavrin\\-cli \\- green\\-screen pictures on the command line\n"
            ".SH SYNOPSIS\n.B tavrin\\-cli\n.I command\n[options]\n.SH DESCRIPTION\n"
         << roff(app.get_description());
-    walk(app, "", [&](const CLI::App& command, const std::string& path) {
+    walk(app, "", [&](CLI::App& command, const std::string& path) {
         if (path.empty()) {
             out << ".SH OPTIONS\n";
         } else {
             out << ".SH \"COMMAND " << roff(path).substr(0, roff(path).size() - 1) << "\"\n"
                 << roff(command.get_description());
         }
-        for (const CLI::Option* option : command.get_options()) {
+        for (CLI::Option* option : command.get_options()) {
             const std::string names = joined(namesOf(*option), ", ");
             out << ".TP\n.B " << roff(names + (takesValue(*option) && !option->get_positional() ? " value" : ""))
                 << roff(option->get_description());
@@ -165,7 +191,7 @@ std::string manualPage(const CLI::App& app) {
     return out.str();
 }
 
-int print(const CLI::App& app, const std::string& shell) {
+int print(CLI::App& app, const std::string& shell) {
     const std::string text = shell == "bash"   ? bashScript(app)
                              : shell == "zsh"  ? zshScript(app)
                              : shell == "fish" ? fishScript(app)

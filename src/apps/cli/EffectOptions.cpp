@@ -9,6 +9,7 @@
 
 #include "apps/cli/Console.h"
 #include "apps/cli/Output.h"
+#include "apps/cli/Usage.h"
 #include "session/SettingChanges.h"
 
 namespace tavrin::cli {
@@ -18,6 +19,13 @@ namespace {
 /// A group that is only switched on needs no name behind its option.
 bool isSwitch(const PresetGroup& group) {
     return group.presets.size() == 2 && std::string(group.presets[1].name) == "on";
+}
+
+std::vector<std::string> wordsOf(const PresetGroup& group) {
+    std::vector<std::string> words;
+    for (const Preset& preset : group.presets)
+        words.push_back(preset.name);
+    return words;
 }
 
 std::string namesOf(const PresetGroup& group) {
@@ -66,7 +74,9 @@ void EffectOptions::addTo(CLI::App& command) {
                     option, [&choice] { choice.name = "on"; }, group.description)
                 ->group("Effects");
         } else {
-            command.add_option(option, choice.name, help + namesOf(group))->group("Effects");
+            command.add_option(option, choice.name, help + namesOf(group))
+                ->group("Effects")
+                ->check(offering(wordsOf(group), group.applyFile != nullptr));
         }
     }
 }

@@ -54,7 +54,10 @@ void applyKeyOptions(SystemInfo& info, const KeyOptions& options) {
 std::string withAdvice(const PictureWarning& warning) {
     static constexpr std::pair<const char*, const char*> kAdvice[] = {
         {"clothes", "--protect-clothes inside or shirt keeps it."},
+        {"holes", "--protect-clothes inside or shirt fills them."},
         {"other-screen", "--screen green or blue decides."},
+        {"room", "--scale and --move leave it outside."},
+        {"shades", "--scale and --move leave outside what is not the subject."},
     };
     for (const auto& [kind, advice] : kAdvice) {
         if (warning.kind == kind) return warning.text + " " + advice;

@@ -110,6 +110,16 @@ std::string wrongWord(const std::string& word, const std::vector<std::string>& w
     return "there is no " + inQuotes(word) + "; did you mean " + nearestName(word, words) + "? It takes " + all + ".";
 }
 
+constexpr const char* kOrFile = " /";
+
+/// The words as the name of a check, from which `offerOf` reads them.
+std::string nameOfWords(const std::vector<std::string>& words) {
+    std::string all;
+    for (const std::string& word : words)
+        all += (all.empty() ? "" : " ") + word;
+    return all;
+}
+
 template <class Number>
 std::string written(Number number) {
     std::ostringstream text;
@@ -134,15 +144,22 @@ CLI::Validator numberWithin(Number low, Number high, const char* kind) {
 }  // namespace
 
 CLI::Validator oneOf(std::vector<std::string> words) {
+    const std::string name = nameOfWords(words);
     return CLI::Validator(
         [words = std::move(words)](std::string& word) {
             const bool known = std::find(words.begin(), words.end(), word) != words.end();
             return known ? std::string() : wrongWord(word, words);
         },
-        "");
+        "", name);
+}
+
+CLI::Validator offering(const std::vector<std::string>& words, bool takesFile) {
+    return CLI::Validator([](std::string&) { return std::string(); }, "",
+                          nameOfWords(words) + (takesFile ? kOrFile : ""));
 }
 
 CLI::Validator numberedWords(std::vector<std::string> words, int first) {
+    const std::string name = nameOfWords(words);
     return CLI::Validator(
         [words = std::move(words), first](std::string& word) {
             const auto known = std::find(words.begin(), words.end(), word);
@@ -150,7 +167,7 @@ CLI::Validator numberedWords(std::vector<std::string> words, int first) {
             word = std::to_string(first + (known - words.begin()));
             return std::string();
         },
-        "");
+        "", name);
 }
 
 CLI::Validator within(int low, int high) {
@@ -159,6 +176,18 @@ CLI::Validator within(int low, int high) {
 
 CLI::Validator within(double low, double high) {
     return numberWithin(low, high, "a number");
+}
+
+Offer offerOf(CLI::Option& option) {
+    Offer offer;
+    try {
+        offer.words = option.get_validator(0)->get_name();
+    } catch (const CLI::OptionNotFound&) {
+    }
+    const std::string orFile = kOrFile;
+    offer.takesFile = offer.words.empty() || offer.words.ends_with(orFile);
+    if (offer.words.ends_with(orFile)) offer.words.resize(offer.words.size() - orFile.size());
+    return offer;
 }
 
 std::vector<std::string> namesOf(const CLI::Option& option) {

@@ -14,6 +14,7 @@
 #include "core/raster/PixelMemory.h"
 #include "core/state/SystemInfo.h"
 #include "session/StartUp.h"
+#include "ui/frame/Language.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
 
@@ -42,7 +43,7 @@ QStringList readArguments(const QCoreApplication& application) {
     parser.addOption(version);
     const QCommandLineOption verbose({"v", "verbose"}, "Tell the course of the work on the standard error stream.");
     parser.addOption(verbose);
-    parser.addPositionalArgument("files", "Portrait, then background, or a state file (.qlx).", "[FILE...]");
+    parser.addPositionalArgument("files", "Portrait, then background; a folder of portraits, or a state file (.qlx).", "[FILE...]");
     parser.process(application);
     if (parser.isSet(version)) parser.showVersion();
     tavrin::setTraceLog(parser.isSet(verbose));
@@ -101,6 +102,7 @@ int main(int argc, char** argv) {
     // A pass takes the memory that the last one gave back.
     tavrin::keepPixelMemory(std::size_t{1} << 28);
 
+    tavrin::useLanguage(QLocale::system());
     tavrin::useTheme(tavrin::chosenTheme());
     const auto info = std::make_unique<tavrin::SystemInfo>();
     const std::string problems = tavrin::startSystem(*info);

@@ -148,7 +148,7 @@ Result withinMemory(Result (*read)(const std::string&), const std::string& path)
         return read(path);
     } catch (const std::bad_alloc&) {
         Result refused;
-        refused.error = "there is not enough memory for it";
+        refused.error = kNoMemory;
         return refused;
     }
 }

@@ -17,6 +17,9 @@ struct ReadPicture {
     std::string damage;              ///< what was mended in it, as one plain line; empty for a file that is whole
 };
 
+/// The `error` that says nothing about the file: it may be read another time.
+inline constexpr const char* kNoMemory = "there is not enough memory for it";
+
 /// Reads the first picture of a JPEG, PNG, TIFF, GIF, WebP, HEIF, BMP, PSD or camera raw file. Safe on any thread.
 ///
 /// The orientation told by the camera is applied. Colours are brought to sRGB: from the embedded profile, or as sRGB

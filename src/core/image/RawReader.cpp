@@ -1,10 +1,15 @@
 #include "core/image/RawReader.h"
 
+#include <algorithm>
 #include <array>
 #include <ctime>
 #include <exception>
 #include <libraw/libraw.h>
 #include <memory>
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QTransform>
 
 #include "core/image/FileKind.h"
 #include "core/raster/Pixels.h"
@@ -91,11 +96,28 @@ QImage takeImage(LibRaw& raw, std::string& error) {
     return image;
 }
 
-void develop(LibRaw& raw, const std::string& path, RawPicture& picture) {
+/// The camera's own JPEG, decoded no larger than needed. Null when there is none that fills `side`.
+QImage takePreview(LibRaw& raw, int side) {
+    if (raw.unpack_thumb() != LIBRAW_SUCCESS || raw.imgdata.thumbnail.tformat != LIBRAW_THUMBNAIL_JPEG) return {};
+    const auto& thumb = raw.imgdata.thumbnail;
+    QByteArray bytes = QByteArray::fromRawData(thumb.thumb, static_cast<qsizetype>(thumb.tlength));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, "jpeg");
+    const QSize size = reader.size();
+    if (std::max(size.width(), size.height()) < side || !sizeError(size.width(), size.height()).empty()) return {};
+    reader.setScaledSize(size.scaled(side, side, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    const QImage small = reader.read().convertToFormat(QImage::Format_RGBX8888);
+    const int flip = raw.imgdata.sizes.flip;  // as the library counts: 3 upside down, 5 and 6 on their sides
+    const double degrees = flip == 3 ? 180 : flip == 5 ? -90 : flip == 6 ? 90 : 0;
+    return degrees == 0 ? small : small.transformed(QTransform().rotate(degrees));
+}
+
+void develop(LibRaw& raw, const std::string& path, RawPicture& picture, bool half = false) {
     bool damaged = false;
     // The library goes on over damaged data and past the end of the file, but a picture of noise helps nobody.
     raw.set_dataerror_handler([](void* flag, const char*, auto) { *static_cast<bool*>(flag) = true; }, &damaged);
     setDevelopment(raw);
+    raw.imgdata.params.half_size = half ? 1 : 0;
     picture.error = openRaw(raw, path);
     if (!picture.error.empty()) return;
     picture.camera = cameraOf(raw);
@@ -138,6 +160,21 @@ RawPicture readRaw(const std::string& path) {
     try {
         const auto raw = std::make_unique<LibRaw>();
         develop(*raw, path, picture);
+    } catch (const std::exception& error) {
+        picture.error = std::string("it cannot be developed (") + error.what() + ")";
+    }
+    return picture;
+}
+
+RawPicture readRawPreview(const std::string& path, int side) {
+    RawPicture picture;
+    try {
+        const auto raw = std::make_unique<LibRaw>();
+        picture.error = openRaw(*raw, path);
+        if (picture.error.empty()) picture.pixels = takePreview(*raw, side);
+        if (!picture.error.empty() || !picture.pixels.isNull()) return picture;
+        raw->recycle();
+        develop(*raw, path, picture, true);
     } catch (const std::exception& error) {
         picture.error = std::string("it cannot be developed (") + error.what() + ")";
     }

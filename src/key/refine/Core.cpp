@@ -15,8 +15,9 @@ constexpr int kHalo = 4;                               // columns beyond an area
 constexpr double kCoreReach = 20.0, kCoreNear = 10.0;  // looked at around a pixel; left between it and lower ones
 constexpr double kFirstReach = 3.0, kDepthReach = 60.0, kRoughReach = 10.0, kPartCell = 8.0, kGapCell = 4.0;
 constexpr float kCoreAlpha = 0.65f, kSureAlpha = 0.92f;
-constexpr float kDepthAlpha = 0.08f, kDepthLight = 1.2f, kOtherRatio = 15.0f;
-constexpr std::uint8_t kDepthKey = 13;  // the key's alpha above 0.05
+constexpr float kDepthAlpha = 0.08f, kDepthLight = 1.2f;
+constexpr float kOtherCover = 0.16f, kClothCover = 0.4f;  // least alphas: no shade of the screen; cloth for sure
+constexpr std::uint8_t kDepthKey = 13;                    // the key's alpha above 0.05
 constexpr float kCalm = 2.5f, kCalmFactor = 1.2f;
 constexpr double kLeastPart = 0.005;  // of all cells
 constexpr float kWholeCell = 0.999f;
@@ -47,8 +48,13 @@ void lookAt(const RunContext& context, const Shot& shot, const Plate& plate, con
     }
 }
 
-// Leaves of `far` what may be cloth: its colour ratio is one that no shade of the screen has.
-void findCloth(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& far) {
+// Pixels that may be cloth, since no shade of the screen has their colour, and of these the ones that must be.
+struct Cloth {
+    Mask likely, sure;
+};
+
+// `cloth.likely` holds the pixels to look at, and keeps those that may be cloth.
+void findCloth(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Cloth& cloth) {
     const Strip strip = area.strip(shot, kHalo);
     StartRows start(strip, plate);
     RowRing<1, std::function<void(int, float**)>> alphas(strip.width, shot.height, 1, [&](int y, float** planes) {
@@ -57,19 +63,22 @@ void findCloth(const RunContext& context, const Shot& shot, const Plate& plate, 
     });
     ScreenRatio ratio(strip, plate);
     PaddedRows scratch(strip.width, 4);
-    std::vector<std::uint8_t> flags(static_cast<std::size_t>(area.width()) + 8);
+    std::vector<std::uint8_t> flags(static_cast<std::size_t>(area.width()) + 8), sure(flags);
     const int inset = area.left - strip.left;
     const float *const sum = scratch.row(1) + inset, *const light = scratch.row(2) + inset,
-                       *const off = scratch.row(3) + inset;
+                       *const cover = scratch.row(3) + inset;
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         rowLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
-        ratio.fill(y, scratch.row(2), scratch.row(3));
+        ratio.cover(y, scratch.row(2), scratch.row(3));
         const std::uint8_t* const key = shot.keyRow(y) + area.left;
-        for (int x = 0; x < area.width(); ++x)
-            flags[static_cast<std::size_t>(x)] = far.at(area.left + x, y) & (sum[x] > kDepthAlpha * 9.0f) &
-                                                 (key[x] >= kDepthKey) & (light[x] < kDepthLight) &
-                                                 (off[x] > kOtherRatio);
-        far.pack(y, area.word(), area.width(), flags.data());
+        for (int x = 0; x < area.width(); ++x) {
+            const auto at = static_cast<std::size_t>(x);
+            flags[at] = cloth.likely.at(area.left + x, y) & (sum[x] > kDepthAlpha * 9.0f) & (key[x] >= kDepthKey) &
+                        (light[x] < kDepthLight) & (cover[x] > kOtherCover);
+            sure[at] = flags[at] & (cover[x] > kClothCover);
+        }
+        cloth.likely.pack(y, area.word(), area.width(), flags.data());
+        cloth.sure.pack(y, area.word(), area.width(), sure.data());
     }
 }
 
@@ -100,39 +109,48 @@ Cells roughness(const RunContext& context, const Shot& shot, int size) {
     return rough;
 }
 
+// 0 of none.
+float middleOf(std::vector<float>& values) {
+    if (values.empty()) return 0.0f;
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
 // The middle of the cells that are mostly screen.
 float middleOn(const Cells& values, const Cells& screen) {
     std::vector<float> found;
     for (std::size_t i = 0; i < values.count(); ++i) {
         if (screen.row(0, 0)[i] > 0.5f) found.push_back(values.row(0, 0)[i]);
     }
-    if (found.empty()) return 0.0f;
-    const auto middle = found.begin() + static_cast<std::ptrdiff_t>(found.size() / 2);
-    std::nth_element(found.begin(), middle, found.end());
-    return *middle;
+    return middleOf(found);
 }
 
-// Connected parts of `far` that are as calm as cloth, not hair.
-Mask calmParts(const RunContext& context, const Shot& shot, const Mask& far, const Mask& screen) {
+// Connected parts that are surely cloth, or mostly as calm as cloth, not hair. A few folds make no part rough.
+Mask clothParts(const RunContext& context, const Shot& shot, const Cloth& cloth, const Mask& screen) {
     const int size = shot.cell(kPartCell);
-    const Cells shares = sharesOf(context, far, size),
+    const Cells shares = sharesOf(context, cloth.likely, size), sure = sharesOf(context, cloth.sure, size),
                 smooth = blurred(roughness(context, shot, size), static_cast<double>(shot.px(kRoughReach)) / size);
     const float most = kCalm + kCalmFactor * middleOn(smooth, sharesOf(context, screen, size));
     std::vector<std::uint8_t> set(shares.count());
     for (std::size_t i = 0; i < set.size(); ++i)
         set[i] = shares.row(0, 0)[i] > 0.5f;
     const Parts parts = findParts(shares.columns(), shares.rows(), set, Neighbours::four);
-    std::vector<double> sums(static_cast<std::size_t>(parts.count) + 1), counts(sums);
+    std::vector<std::vector<float>> roughs(static_cast<std::size_t>(parts.count) + 1), covers(roughs);
     for (std::size_t i = 0; i < set.size(); ++i) {
         const auto part = static_cast<std::size_t>(parts.labels[i]);
-        sums[part] += static_cast<double>(smooth.row(0, 0)[i]);
-        counts[part] += 1.0;
+        if (part == 0) continue;
+        roughs[part].push_back(smooth.row(0, 0)[i]);
+        covers[part].push_back(sure.row(0, 0)[i]);
     }
     const double least = kLeastPart * static_cast<double>(shares.count());
-    return maskOf(context, far.width(), far.height(), size, [&](int c, int row) {
-        const auto part =
-            static_cast<std::size_t>(parts.labels[static_cast<std::size_t>(row * shares.columns() + c)]);
-        return part != 0 && counts[part] > least && sums[part] < static_cast<double>(most) * counts[part];
+    std::vector<std::uint8_t> kept(roughs.size());
+    for (std::size_t part = 1; part < kept.size(); ++part)
+        kept[part] = static_cast<double>(roughs[part].size()) > least &&
+                     (middleOf(covers[part]) > 0.5f || middleOf(roughs[part]) < most);
+    return maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
+        return kept[static_cast<std::size_t>(parts.labels[static_cast<std::size_t>(row * shares.columns() + c)])] !=
+               0;
     });
 }
 
@@ -191,15 +209,16 @@ Mask enclosedGaps(const RunContext& context, const Shot& shot, const Plate& plat
     return filled();
 }
 
-// Calm parts far from any bare screen.
+// Parts far from any bare screen that are no screen by their colour.
 Mask deepCloth(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& solid) {
-    Mask far = shrunk(context, plate.screen.inverted(), shot.px(kDepthReach));
-    far &= solid.inverted();
-    runAreas(context, far, [&](const Area& area) { findCloth(context, shot, plate, area, far); });
+    Cloth cloth{shrunk(context, plate.screen.inverted(), shot.px(kDepthReach)), Mask(shot.width, shot.height)};
+    cloth.likely &= solid.inverted();
+    const Mask far = cloth.likely;
+    runAreas(context, far, [&](const Area& area) { findCloth(context, shot, plate, area, cloth); });
     // A part that counts has more than half of its cells' pixels.
     const double pixels = static_cast<double>(shot.width) * shot.height;
-    if (static_cast<double>(far.count()) < 0.4 * kLeastPart * pixels) return Mask(shot.width, shot.height);
-    return calmParts(context, shot, far, plate.screen);
+    if (static_cast<double>(cloth.likely.count()) < 0.4 * kLeastPart * pixels) return Mask(shot.width, shot.height);
+    return clothParts(context, shot, cloth, plate.screen);
 }
 
 }  // namespace

@@ -33,10 +33,12 @@ std::uint32_t byteOf(float value) {
 }
 
 // The most of the screen's channel that the subject may have: reddish cloth is green's neighbour, bluish cloth is
-// not.
-float mostGreen(float r, float b, float green, float cyan) {
+// not. What the screen's light cannot have brought, since it would have brought more of the other channels too, is
+// the subject's own.
+float mostGreen(float r, float g, float b, float pr, float pg, float pb, float green, float cyan) {
     const float mean = (r + b) * 0.5f;
-    return (b > r ? mean + cyan * (b - mean) : mean) + green;
+    const float light = std::min(r / std::max(pr, 1.0f), b / std::max(pb, 1.0f));
+    return std::max((b > r ? mean + cyan * (b - mean) : mean) + green, g - light * pg);
 }
 
 void levels(const float* HWY_RESTRICT alpha, const float* HWY_RESTRICT detail, float strength, int count,
@@ -111,20 +113,22 @@ void colors(const ColorSources& from, bool blue, int count, std::uint32_t* HWY_R
                      kMostGain);
         const float gain = whole ? 1.0f : measured;
         const float r = whole ? own.r[x] : ur, g = whole ? own.g[x] : ug, b = whole ? own.b[x] : ub;
-        const float kept = std::min(g, mostGreen(r, b, green[x], cyan[x]));
+        const float kept = std::min(g, mostGreen(r, g, b, screen.r[x], screen.g[x], screen.b[x], green[x], cyan[x]));
         to[x] = byteOf(r * gain) | byteOf(kept * gain) << greenBits | byteOf(b * gain) << blueBits |
                 byteOf(a * 255.0f) << 24;
     }
 }
 
-void solid(const std::uint32_t* HWY_RESTRICT pixels, const float* HWY_RESTRICT green, const float* HWY_RESTRICT cyan,
-           bool blue, int count, std::uint32_t* HWY_RESTRICT to) {
+void solid(const std::uint32_t* HWY_RESTRICT pixels, ChannelRow screen, const float* HWY_RESTRICT green,
+           const float* HWY_RESTRICT cyan, bool blue, int count, std::uint32_t* HWY_RESTRICT to) {
     const int greenBits = blue ? 16 : 8, blueBits = blue ? 8 : 16;
     for (int x = 0; x < count; ++x) {
         const auto at = [&](int bits) {
             return static_cast<float>(static_cast<std::int32_t>(pixels[x] >> bits & 255));
         };
-        const float kept = std::min(at(greenBits), mostGreen(at(0), at(blueBits), green[x], cyan[x]));
+        const float g = at(greenBits);
+        const float kept =
+            std::min(g, mostGreen(at(0), g, at(blueBits), screen.r[x], screen.g[x], screen.b[x], green[x], cyan[x]));
         to[x] = (pixels[x] & ~(std::uint32_t{255} << greenBits)) | byteOf(kept) << greenBits | 0xFF000000u;
     }
 }

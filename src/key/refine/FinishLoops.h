@@ -40,9 +40,9 @@ struct FinishLoops {
     void (*remainder)(ChannelRow own, ChannelRow screen, const float* alpha, int count, float* r, float* g, float* b);
     /// The subject's colour and alpha as RGBA; what is whole around keeps its own colour, but for the screen's tint.
     void (*colors)(const ColorSources& from, bool blue, int count, std::uint32_t* to);
-    /// The same well inside.
-    void (*solid)(const std::uint32_t* pixels, const float* green, const float* cyan, bool blue, int count,
-                  std::uint32_t* to);
+    /// The same well inside, over a plate.
+    void (*solid)(const std::uint32_t* pixels, ChannelRow screen, const float* green, const float* cyan, bool blue,
+                  int count, std::uint32_t* to);
 };
 
 const FinishLoops& finishLoops();

@@ -40,6 +40,30 @@ void ratio(ChannelRow sums, ChannelRow screen, int count, float* HWY_RESTRICT li
     }
 }
 
+// The light that the screen's channel allows at most is taken off the others. What is then too dark in a channel, or
+// too bright, no share of the screen explains: the subject has at least so much of the pixel, however colourful it
+// is.
+float leastAlpha(float r, float b, float light, float pr, float pb) {
+    constexpr float kFewLevels = 64.0f;  // of which noise would be a large share
+    constexpr float kOverShare = 0.8f;   // many subjects are nearly as bright as can be
+    const float wr = light * pr, wb = light * pb;
+    const float under = std::max((wr - r) / std::max(wr, kFewLevels), (wb - b) / std::max(wb, kFewLevels));
+    const float over =
+        std::max((r - wr) / std::max(255.0f - wr, kFewLevels), (b - wb) / std::max(255.0f - wb, kFewLevels));
+    return std::max(under, kOverShare * over);
+}
+
+constexpr float kMostLight = 1.15f;  // of the plate's
+
+void cover(ChannelRow sums, ChannelRow screen, int count, float* HWY_RESTRICT light, float* HWY_RESTRICT least) {
+    const float *const r = sums.r, *const g = sums.g, *const b = sums.b;
+    const float *const pr = screen.r, *const pg = screen.g, *const pb = screen.b;
+    for (int x = 0; x < count; ++x) {
+        light[x] = g[x] / 9.0f / std::max(pg[x], 1.0f);
+        least[x] = leastAlpha(r[x] / 9.0f, b[x] / 9.0f, std::min(light[x], kMostLight), pr[x], pb[x]);
+    }
+}
+
 void distance(ChannelRow sums, ChannelRow screen, int count, float* HWY_RESTRICT to) {
     for (int x = 0; x < count; ++x)
         to[x] =
@@ -49,13 +73,17 @@ void distance(ChannelRow sums, ChannelRow screen, int count, float* HWY_RESTRICT
 
 void fit(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* certain, const float* near, int count,
          float* HWY_RESTRICT alpha) {
+    constexpr float kFaintCover = 0.15f, kFullCover = 0.8f;  // least alphas that count as 0 and as 1
     const float *const r = own.r, *const g = own.g, *const b = own.b;
     const float *const pr = screen.r, *const pg = screen.g, *const pb = screen.b;
     const float *const wr = weights.r, *const wg = weights.g, *const wb = weights.b;
     for (int x = 0; x < count; ++x) {
         const float along = (r[x] - pr[x]) * wr[x] + (g[x] - pg[x]) * wg[x] + (b[x] - pb[x]) * wb[x];
         const float simple = std::max(std::max(alpha[x], 0.0f), near[x]);
-        alpha[x] = certain[x] * along + (1.0f - certain[x]) * simple;
+        const float fitted = certain[x] * along + (1.0f - certain[x]) * simple;
+        const float light = std::min(g[x] / std::max(pg[x], 1.0f), kMostLight);
+        const float least = leastAlpha(r[x], b[x], light, pr[x], pb[x]);
+        alpha[x] = std::max(fitted, std::min((least - kFaintCover) / (kFullCover - kFaintCover), 1.0f));
     }
 }
 
@@ -185,9 +213,9 @@ void slope(float* const* sums, const float* HWY_RESTRICT rest, int count, float*
 }  // namespace
 
 const refine::MatteLoops& matteLoopsHere() {
-    static constexpr refine::MatteLoops loops{&startAlpha, &ratio,      &distance, &fit,      &directions,
-                                              &loadAlpha,  &storeAlpha, &halve,    &nearMix,  &shares,
-                                              &blend,      &widen,      &sharpen,  &products, &slope};
+    static constexpr refine::MatteLoops loops{&startAlpha, &ratio,      &cover,    &distance, &fit,    &directions,
+                                              &loadAlpha,  &storeAlpha, &halve,    &nearMix,  &shares, &blend,
+                                              &widen,      &sharpen,    &products, &slope};
     return loops;
 }
 

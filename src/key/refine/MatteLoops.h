@@ -11,9 +11,12 @@ struct MatteLoops {
     void (*startAlpha)(ChannelRow own, ChannelRow screen, float least, int count, float* to);
     /// From sums of nine pixels: the light on the plate, and how far the other channels are from that.
     void (*ratio)(ChannelRow sums, ChannelRow screen, int count, float* light, float* off);
+    /// From sums of nine pixels: the light on the plate, and the least alpha that any subject may have there.
+    void (*cover)(ChannelRow sums, ChannelRow screen, int count, float* light, float* least);
     /// From sums of nine pixels: the largest distance of a channel from the plate.
     void (*distance)(ChannelRow sums, ChannelRow screen, int count, float* to);
-    /// alpha: in the simple one, out the one along `weights`, as far as `certain`; else the simple one or `near`.
+    /// alpha: in the simple one, out the one along `weights`, as far as `certain`; else the simple one or `near`;
+    /// nowhere much below what the colours allow.
     void (*fit)(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* certain, const float* near,
                 int count, float* alpha);
     /// For cells with `means` of three channels and of their six products: the weights of the direction in which the

@@ -133,17 +133,22 @@ void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
                          strip_.shot.blue, width, to);
 }
 
-void writeSolid(const Shot& shot, const GreenLimits& limits, const Area& area, std::uint8_t* picture) {
+void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits, const Area& area,
+                std::uint8_t* picture) {
     CellRows own(limits.own, GreenLimits::kOwnCell, area.left, area.width()),
-        inner(limits.inner, GreenLimits::kInnerCell, area.left, area.width());
+        inner(limits.inner, GreenLimits::kInnerCell, area.left, area.width()),
+        screen(plate.colors, kPlateCell, area.left, area.width());
     const auto width = static_cast<std::size_t>(area.width());
-    std::vector<float> lines(2 * width);
+    std::vector<float> lines(5 * width);
+    const auto line = [&](std::size_t i) { return lines.data() + i * width; };
     std::vector<std::uint32_t> pixels(width);
     for (int y = area.top; y < area.bottom; ++y) {
-        own.fill(y, 0, lines.data());
-        inner.fill(y, 0, lines.data() + width);
-        finishLoops().solid(shot.pixelRow(y) + area.left, lines.data(), lines.data() + width, shot.blue, area.width(),
-                            pixels.data());
+        own.fill(y, 0, line(0));
+        inner.fill(y, 0, line(1));
+        for (int plane = 0; plane < 3; ++plane)
+            screen.fill(y, plane, line(2 + static_cast<std::size_t>(plane)));
+        finishLoops().solid(shot.pixelRow(y) + area.left, {line(2), line(3), line(4)}, line(0), line(1), shot.blue,
+                            area.width(), pixels.data());
         std::memcpy(picture + pixelOffset(shot.width, area.left, y), pixels.data(), width * kPixelBytes);
     }
 }

@@ -41,6 +41,7 @@ inline constexpr int kColorHalo = 2;
 
 /// The same for an area that lies wholly inside: alpha is 1, and a pixel keeps its colour but for the screen's tint.
 /// @param picture the RGBA rows of the whole picture to write to
-void writeSolid(const Shot& shot, const GreenLimits& limits, const Area& area, std::uint8_t* picture);
+void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits, const Area& area,
+                std::uint8_t* picture);
 
 }  // namespace tavrin::refine

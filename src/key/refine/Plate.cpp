@@ -119,6 +119,7 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot) {
     if (!finished) return std::nullopt;
     Plate plate;
     plate.screen = shrunk(context, seeds, shot.px(kSeedReach));
+    dropStrangers(context, shot, plate.screen);
     plate.difference = static_cast<float>(usual);
     if (static_cast<double>(plate.screen.count()) < kLeastScreen * shot.width * shot.height) return std::nullopt;
     return plate;

@@ -25,6 +25,10 @@ struct Plate {
 /// @return nothing where there is too little screen to go by, or it has hardly any colour
 std::optional<Plate> findScreen(const RunContext& context, const Shot& shot);
 
+/// Takes out of the screen what stands apart in small areas and has a colour that the screen has in no light: spots
+/// in cloth near its hue.
+void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen);
+
 /// Makes the colours from the screen's pixels, and measures `spread` anew.
 void paintPlate(const RunContext& context, const Shot& shot, Plate& plate);
 

@@ -47,7 +47,7 @@ bool writeResult(const RunContext& context, const Findings& findings, std::uint8
     const Limits limits{findReach(context, findings), findLimits(context, findings), trustInKey(findings)};
     clearRows(context, findings.shot, result);
     runAreas(context, findings.solid,
-             [&](const Area& area) { writeSolid(findings.shot, limits.green, area, result); });
+             [&](const Area& area) { writeSolid(findings.shot, findings.plate, limits.green, area, result); });
     return runAreas(context, findings.open,
                     [&](const Area& area) { writeArea(context, findings, limits, area, result); });
 }

@@ -24,6 +24,13 @@ class ScreenRatio {
         matteLoops().ratio(sums(), screen(), width_, light, off);
     }
 
+    /// @param light as above
+    /// @param least the least alpha that any subject may have there
+    void cover(int y, float* light, float* least) {
+        look(y);
+        matteLoops().cover(sums(), screen(), width_, light, least);
+    }
+
     /// The largest distance of a channel of row `y` from the plate.
     void distance(int y, float* to) {
         look(y);

@@ -16,7 +16,9 @@ constexpr float kFarSpreads = 3.0f, kLeastSpread = 0.008f;
 constexpr float kLeastLight = 0.4f, kMostLight = 1.15f;  // of the plate's
 constexpr std::uint8_t kMostKey = 89;                    // the key's alpha below 0.35
 constexpr float kSoftShare = 0.9f;                       // of a cell that a shadow is followed through
-constexpr double kLargeArea = 0.02;                      // of the picture
+constexpr double kLargeArea = 0.02, kLeastArea = 0.001;  // of the picture
+constexpr float kOtherCover = 0.4f;                      // the least alpha of what is no screen in any light
+constexpr double kMeanSamples = 10'000;
 
 // Which pixels of an area are near their plate.
 void findNear(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& near) {
@@ -79,7 +81,8 @@ Mask thinPixels(const RunContext& context, const Shot& shot) {
 
 // Where one gets from the large areas of the screen through soft cells only: a shadow fades, but cloth of the
 // screen's hue has an outline.
-Mask reachable(const RunContext& context, const Mask& screen, const Mask& soft, int cell) {
+Mask reachable(const RunContext& context, const Shot& shot, const Mask& screen, const Mask& soft, double area) {
+    const int cell = shot.cell(kReachCell);
     Mask either = soft;
     either |= screen;
     const Cells open = sharesOf(context, either, cell), seeds = sharesOf(context, screen, cell);
@@ -91,7 +94,7 @@ Mask reachable(const RunContext& context, const Mask& screen, const Mask& soft, 
     for (std::size_t i = 0; i < set.size(); ++i)
         areas[static_cast<std::size_t>(parts.labels[i])] += static_cast<double>(seeds.row(0, 0)[i]) * cell * cell;
     areas[0] = 0.0;
-    const double least = kLargeArea * screen.width() * screen.height();
+    const double least = area * screen.width() * screen.height();
     const Mask cells = maskOf(context, screen.width(), screen.height(), cell, [&](int c, int row) {
         const auto i = static_cast<std::size_t>(row * open.columns() + c);
         return areas[static_cast<std::size_t>(parts.labels[i])] > least;
@@ -99,7 +102,57 @@ Mask reachable(const RunContext& context, const Mask& screen, const Mask& soft, 
     return grown(context, cells, cell / 2);
 }
 
+// A plate of one colour: the mean of the screen's pixels.
+Plate evenPlate(const Shot& shot, const Mask& screen) {
+    const int step =
+        std::max(1, static_cast<int>(std::sqrt(static_cast<double>(shot.width) * shot.height / kMeanSamples)));
+    std::vector<float> lines(3 * static_cast<std::size_t>(shot.width));
+    float *const r = lines.data(), *const g = r + shot.width, *const b = g + shot.width;
+    double sums[3] = {}, count = 0.0;
+    for (int y = step / 2; y < shot.height; y += step) {
+        loadColors({shot, 0, shot.width}, y, r, g, b);
+        for (int x = step / 2; x < shot.width; x += step) {
+            if (!screen.at(x, y)) continue;
+            sums[0] += static_cast<double>(r[x]);
+            sums[1] += static_cast<double>(g[x]);
+            sums[2] += static_cast<double>(b[x]);
+            count += 1.0;
+        }
+    }
+    Plate plate;
+    plate.colors = Cells(1, 1, 3);
+    for (int c = 0; c < 3; ++c)
+        *plate.colors.row(0, c) = static_cast<float>(sums[c] / std::max(count, 1.0));
+    return plate;
+}
+
+// Which pixels of an area have the plate's colour in some light.
+void findAlike(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& alike) {
+    const Strip strip = area.strip(shot, kHalo);
+    ScreenRatio ratio(strip, plate);
+    std::vector<float> light(static_cast<std::size_t>(strip.width)), least(light);
+    std::vector<std::uint8_t> flags(light.size() + 8);
+    for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+        ratio.cover(y, light.data(), least.data());
+        rowLoops().below(least.data(), kOtherCover, strip.width, flags.data());
+        alike.pack(y, area.word(), area.width(), flags.data() + (area.left - strip.left));
+    }
+}
+
 }  // namespace
+
+void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen) {
+    Mask large = reachable(context, shot, screen, Mask(shot.width, shot.height), kLeastArea);
+    Mask small = large.inverted(), alike(shot.width, shot.height);
+    small &= screen;
+    large &= screen;
+    if (large.count() == 0) return;
+    const Plate plate = evenPlate(shot, large);
+    runAreas(context, small, [&](const Area& area) { findAlike(context, shot, plate, area, alike); });
+    small &= alike;
+    screen = std::move(large);
+    screen |= small;
+}
 
 void mendScreen(const RunContext& context, const Shot& shot, Plate& plate) {
     Mask near(shot.width, shot.height), soft(shot.width, shot.height);
@@ -108,7 +161,7 @@ void mendScreen(const RunContext& context, const Shot& shot, Plate& plate) {
     Mask open = thinPixels(context, shot);
     open &= plate.screen.inverted();
     runAreas(context, open, [&](const Area& area) { findSoft(context, shot, plate, area, soft); });
-    Mask shadows = reachable(context, plate.screen, soft, shot.cell(kReachCell));
+    Mask shadows = reachable(context, shot, plate.screen, soft, kLargeArea);
     shadows &= soft;
     plate.screen |= shadows;
 }

@@ -11,12 +11,10 @@ namespace tavrin {
 /// A layer that is moved or scaled with the mouse on the picture: one step of undo from the press to the release.
 class LayerDrag {
   public:
-    /// What a drag does: 1 moves and 2 scales the portrait, 3 and 4 the background.
-    static int mouseMode(bool scales, bool background) { return (background ? 3 : 1) + (scales ? 1 : 0); }
-
     explicit LayerDrag(SettingEditor& editor) : editor_(editor) {}
 
     bool isUnderWay() const { return mode_ != 0; }
+    /// @param mode 1 moves and 2 scales the portrait, 3 and 4 the background
     void begin(int mode, const std::string& label);
     /// @param share way of the mouse since the press, to the right and up, in parts of the picture's width and
     /// height.

@@ -23,6 +23,7 @@ struct Command {
     /// `on` is the new state of a checked one, and whether the key of a held one is down.
     std::function<void(bool on)> run;
     Kind kind = Kind::plain;
+    std::function<bool()> checkedWhen = {};  ///< for a checked one that shows something of the state
 };
 
 }  // namespace tavrin

@@ -72,6 +72,8 @@ class BoxRow : public ControlRow {
 
 /// A few buttons in a row, one of which is in force. A value that none of them has shows none.
 class ChoiceRow : public ControlRow {
+    Q_OBJECT
+
   public:
     explicit ChoiceRow(const Binding& binding, QWidget* parent = nullptr);
     QWidget* control() const override;

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include <QLayout>
 #include <QWidget>
 
 #include "ui/bind/Binder.h"
@@ -20,6 +21,8 @@ class GroupBox : public QWidget {
     GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent = nullptr);
 
     const BindingGroup& group() const { return group_; }
+    /// Adds what is no row, below the rows.
+    void addWidget(QWidget* widget) { body_->layout()->addWidget(widget); }
     bool isFolded() const;
     void setFolded(bool folded);
     /// Shows the rows that have all these words in their names, tips or settings, unfolded; without words all rows,

@@ -13,6 +13,16 @@
 
 namespace tavrin {
 
+namespace {
+
+// The menus as the tables name them.
+[[maybe_unused]] constexpr const char* kMenus[] = {
+    QT_TRANSLATE_NOOP("Menu", "&File"),    QT_TRANSLATE_NOOP("Menu", "&Edit"), QT_TRANSLATE_NOOP("Menu", "&View"),
+    QT_TRANSLATE_NOOP("Menu", "&Picture"), QT_TRANSLATE_NOOP("Menu", "&Help"),
+};
+
+}  // namespace
+
 Commands::Commands(QMainWindow& window, std::vector<Command> table)
     : QObject(&window), window_(window), table_(std::move(table)) {
     for (const Command& command : table_)
@@ -51,7 +61,9 @@ void Commands::add(const Command& command) {
         action->setShortcut(command.shortcut);
         const auto run = command.run;
         if (action->isCheckable()) {
-            connect(action, &QAction::toggled, this, run);
+            connect(action, &QAction::toggled, this, [this, run](bool on) {
+                if (!refreshing_) run(on);
+            });
         } else {
             connect(action, &QAction::triggered, this, [run] { run(true); });
         }
@@ -77,8 +89,12 @@ QMenu* Commands::menu(const QString& title) const {
 }
 
 void Commands::refresh() {
-    for (const Command& command : table_)
+    refreshing_ = true;
+    for (const Command& command : table_) {
         if (command.enabledWhen) action(command.id)->setEnabled(command.enabledWhen());
+        if (command.checkedWhen) action(command.id)->setChecked(command.checkedWhen());
+    }
+    refreshing_ = false;
 }
 
 bool Commands::eventFilter(QObject* watched, QEvent* event) {
@@ -118,7 +134,10 @@ void Commands::showShortcuts() {
         if (!command.shortcut.isEmpty()) line(command.shortcut.toString(QKeySequence::NativeText), command.text);
     line(tr("Arrows"), tr("Move a slider; with Shift finer, with Ctrl coarser"));
     line(tr("Delete"), tr("Put the default of a slider back"));
+    line(tr("Arrows on the picture"), tr("Move what is shown; with Shift by a point"));
+    line(tr("Arrows on the line between before and after"), tr("Move the line"));
     line(tr("Wheel"), tr("Zoom about the pointer"));
+    line(tr("Left, Right"), tr("On the picture or the strip: open the portrait before, or the next one"));
     line(tr("Space or middle button"), tr("Hold and drag to move the picture"));
     list->resizeColumnToContents(0);
     auto* layout = new QVBoxLayout(dialog);

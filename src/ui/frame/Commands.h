@@ -40,6 +40,7 @@ class Commands : public QObject {
     const std::vector<Command> table_;
     std::map<QString, QMenu*> menus_;
     std::map<QString, QAction*> actions_;
+    bool refreshing_ = false;
 };
 
 }  // namespace tavrin

@@ -13,7 +13,6 @@
 #include "pipeline/SubjectPlace.h"
 #include "session/Freeze.h"
 #include "ui/WindowSettings.h"
-#include "ui/views/LayerPictures.h"
 
 namespace tavrin {
 
@@ -38,16 +37,17 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       loop_(std::make_unique<CombineThread>(info)),
       editor_(info),
       binder_(editor_),
-      drag_(editor_),
       files_(new PictureFiles(info, *loop_, bridge_, this)),
       keeping_(new Safekeeping(editor_, *loop_, this)),
       looks_(new LookDesk(binder_, *keeping_, this)),
       view_(new PictureView),
+      strip_(new Strip(info, this)),
       messages_(new MessageBar),
       panel_(new SidePanel(binder_, this)),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
-      sizeBox_(new SizeBox(info)) {
+      sizeBox_(new SizeBox(info)),
+      tools_(new PictureTools(binder_, *loop_, bridge_, view_)) {
     setObjectName("MainDisplay");
     setWindowTitle(tr("Main Window - Adjust/Load Mode"));
     setAcceptDrops(true);
@@ -55,6 +55,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectParts();
     connectBridge();
     connectKeeping();
+    connectStrip();
     comeBack();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
@@ -74,11 +75,24 @@ void MainWindow::connectParts() {
     });
     connect(sizeBox_, &SizeBox::sizeChosen, this, &MainWindow::showState);
     connect(view_, &PictureView::zoomed, this, &MainWindow::tellProgress);
-    connect(view_, &PictureView::dragged, this, &MainWindow::dragLayer);
-    connect(view_, &PictureView::dragEnded, this, &MainWindow::endDrag);
+    connectMaps();
     connect(files_, &PictureFiles::opened, this, &MainWindow::showState);
     connect(files_, &PictureFiles::saved, this, &MainWindow::endSave);
     connect(findChild<QMenu*>("recentFiles"), &QMenu::aboutToShow, this, &MainWindow::refillRecentFiles);
+}
+
+/// The small maps follow what is done on the picture, and end the frame of what they move.
+void MainWindow::connectMaps() {
+    TextScaleView* item = panel_->textScaleView();
+    connect(&tools_->items(), &ItemTool::selected, item, [item](int index) {
+        if (index >= 0) item->showItem(index);
+    });
+    connect(item, &PlaceView::grabbed, &tools_->items(), &ItemTool::hideFrame);
+    for (PlaceView* map : {static_cast<PlaceView*>(item), static_cast<PlaceView*>(panel_->scaleView())}) {
+        connect(view_, &PictureView::dragged, map, qOverload<>(&QWidget::update));
+        connect(&bridge_, &WindowBridge::placed, map, qOverload<>(&QWidget::update), Qt::QueuedConnection);
+        connect(&bridge_, &WindowBridge::outputSized, map, &PlaceView::imageSizeChange, Qt::QueuedConnection);
+    }
 }
 
 void MainWindow::connectBridge() {
@@ -88,12 +102,6 @@ void MainWindow::connectBridge() {
     connect(&bridge_, &WindowBridge::failed, messages_, &MessageBar::fail, queued);
     connect(&bridge_, &WindowBridge::outputSized, this, &MainWindow::sizeToOutput, queued);
     connect(&bridge_, &WindowBridge::placed, &binder_, &Binder::UpdateAllUI, queued);
-    connect(
-        &bridge_, &WindowBridge::otherTaken, this,
-        [this](const QImage& picture, const QString& word) {
-            if (originalHeld_ || info_.bShowAlpha) view_->showInstead(picture, word);
-        },
-        queued);
     connect(
         &bridge_, &WindowBridge::stateOpened, this,
         [this] {
@@ -105,10 +113,10 @@ void MainWindow::connectBridge() {
         &bridge_, &WindowBridge::controlsEnabled, this,
         [this](bool enabled, bool hostApplication) {
             finished_ = enabled;
-            commands_->action("Save")->setText(hostApplication ? "Return To Lightroom" : "Save");
+            commands_->action("Save")->setText(hostApplication ? tr("Return To Lightroom") : tr("Save"));
             commands_->refresh();
             tellProgress();
-            if (enabled && info_.bShowAlpha) showOther();  // that of the new picture
+            if (enabled) tools_->pictureFinished();
         },
         queued);
 }
@@ -129,6 +137,7 @@ void MainWindow::showState() {
     finished_ = false;
     binder_.UpdateAllUI();
     sizeBox_->updateComboBoxImageSize();
+    strip_->follow();
     view_->setTransparent(info_.bOutputTransparency);
     commands_->refresh();
     history_->refresh();
@@ -145,6 +154,7 @@ void MainWindow::refillRecentFiles() {
 }
 
 void MainWindow::openFile(const QString& path) {
+    if (isFolder(path)) return openFolder(path);
     isStateFile(path) ? openState(path) : openForeground(path);
 }
 
@@ -265,50 +275,6 @@ void MainWindow::takePublished() {
     tellProgress();
 }
 
-/// While it lasts the loop shows a plain mix of both layers.
-void MainWindow::dragLayer(const QPointF& share) {
-    if (!drag_.isUnderWay()) {
-        const int mode = LayerDrag::mouseMode(mouseMode_->scales(), mouseMode_->background());
-        drag_.begin(
-            mode,
-            (mouseMode_->background() ? tr("Place of the background") : tr("Place of the portrait")).toStdString());
-        bridge_.setMouse(true, mode);
-    }
-    drag_.dragTo(share);
-    info_.StartUpdate();
-    binder_.UpdateAllUI();
-}
-
-void MainWindow::endDrag() {
-    bridge_.setMouse(false, 0);
-    drag_.end();
-    info_.StartUpdate();
-    emit binder_.changed();
-}
-
-/// What the view shows instead of the combined picture: the portrait while its key is held, or the alpha.
-void MainWindow::showOther() {
-    const bool original = originalHeld_, alpha = info_.bShowAlpha;
-    if (!original && !alpha) return view_->showInstead({}, {});
-    const QSize most = (view_->zoom().frame().size() * devicePixelRatioF()).toSize();
-    // The buffers are the loop's.
-    loop_->edit([this, original, most]() -> std::vector<ChangedRows> {
-        emit bridge_.otherTaken(original ? originalPicture(info_, most) : alphaPicture(info_, most),
-                                original ? tr("Before") : tr("Alpha"));
-        return {};
-    });
-}
-
-void MainWindow::showOriginal(bool on) {
-    originalHeld_ = on;
-    showOther();
-}
-
-void MainWindow::showAlpha(bool on) {
-    info_.bShowAlpha = on;
-    showOther();
-}
-
 void MainWindow::showAlert(const QString& message, const QString& reason) {
     auto* box = new QMessageBox(QMessageBox::Warning, "Tavrin", message, QMessageBox::Ok, this);
     box->setInformativeText(reason);
@@ -341,12 +307,17 @@ void MainWindow::dropEvent(QDropEvent* event) {
     const QStringList files = localFiles(event->mimeData());
     if (files.isEmpty()) return;
     event->acceptProposedAction();
+    const bool onPortrait =
+        view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) == PictureView::DropZone::foreground;
     // Two files are a pair: portrait and background.
-    if (files.size() >= 2) {
+    if (isFolder(files[0])) {
+        dropFolder(files[0], !onPortrait);
+    } else if (files.size() > 2) {
+        openPictures(files);
+    } else if (files.size() == 2) {
         openForeground(files[0]);
         openBackground(files[1]);
-    } else if (isStateFile(files[0]) || view_->zoneAt(view_->mapFrom(this, event->position().toPoint())) ==
-                                            PictureView::DropZone::foreground) {
+    } else if (isStateFile(files[0]) || onPortrait) {
         openFile(files[0]);
     } else {
         openBackground(files[0]);

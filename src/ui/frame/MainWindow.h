@@ -7,17 +7,17 @@
 
 #include "pipeline/CombineThread.h"
 #include "ui/WindowBridge.h"
-#include "ui/adjust/LayerDrag.h"
 #include "ui/bind/Binder.h"
 #include "ui/frame/Commands.h"
 #include "ui/frame/MessageBar.h"
-#include "ui/frame/MouseMode.h"
 #include "ui/frame/PictureFiles.h"
 #include "ui/frame/SidePanel.h"
 #include "ui/frame/SizeBox.h"
 #include "ui/look/HistoryPanel.h"
 #include "ui/look/LooksPanel.h"
 #include "ui/look/Safekeeping.h"
+#include "ui/picture/PictureTools.h"
+#include "ui/strip/Strip.h"
 #include "ui/views/PictureView.h"
 
 class QLabel;
@@ -41,8 +41,11 @@ class MainWindow : public QMainWindow {
     /// Loads every setting and both pictures from a state file. One that cannot be read is told and changes nothing.
     void openState(const QString& path);
     void saveState(const QString& path);
-    /// Opens a file by its kind: a state file, or a picture for the portrait.
+    /// Opens a file by its kind: a state file, a picture for the portrait, or a folder of portraits.
     void openFile(const QString& path);
+    /// Fills the strip with a folder's pictures, or with these, and opens the first one.
+    void openFolder(const QString& folder);
+    void openPictures(const QStringList& paths);
     /// Has the full picture that stands saved. The window tells when it is done, or why it is not.
     /// @return false when there is no finished picture
     bool saveTo(const QString& path);
@@ -63,6 +66,8 @@ class MainWindow : public QMainWindow {
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
     LookDesk& looks() { return *looks_; }
+    PictureTools* pictureTools() const { return tools_; }
+    Strip* strip() const { return strip_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
     Commands& commands() { return *commands_; }
@@ -78,16 +83,21 @@ class MainWindow : public QMainWindow {
 
   private:
     friend std::vector<Command> commandTable(MainWindow& window);
+    friend std::vector<Command> stripCommands(MainWindow& window);
 
     void layOut();
     void makeToolBar();
     void makeStatusLine();
-    QWidget* makeViewBar();
     void connectParts();
+    void connectMaps();
     void connectBridge();
     void connectKeeping();
     void offerNextLeft();
     void askBeforeClosing();
+    void connectStrip();
+    void askForFolder();
+    void askForPickDirectory();
+    void dropFolder(const QString& folder, bool onBackground);
     void comeBack();
     void refillRecentFiles();
     void frameNewPortraits(bool wanted);
@@ -103,11 +113,6 @@ class MainWindow : public QMainWindow {
     void takePublished();
     void showState();
     void showAlert(const QString& message, const QString& reason);
-    void dragLayer(const QPointF& share);
-    void endDrag();
-    void showOther();
-    void showOriginal(bool on);
-    void showAlpha(bool on);
     void sizeToOutput(int outputWidth, int outputHeight);
     void setFullScreen(bool on);
     void tellProgress();
@@ -119,30 +124,32 @@ class MainWindow : public QMainWindow {
     std::unique_ptr<CombineThread> loop_;
     SettingEditor editor_;
     Binder binder_;
-    LayerDrag drag_;
     PictureFiles* files_;
     Safekeeping* keeping_;
     LookDesk* looks_;
     PictureView* view_;
+    Strip* strip_;
     MessageBar* messages_;
     SidePanel* panel_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
+    PictureTools* tools_;
     Commands* commands_ = nullptr;
     QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;
     QProgressBar* progress_ = nullptr;
-    MouseMode* mouseMode_ = nullptr;
     std::vector<LeftRecipe> left_;              // the user has not answered yet
     std::deque<std::uint64_t> savedPositions_;  // of the saves under way
     QMessageBox* question_ = nullptr;
     bool closeUnsaved_ = false;
     bool closing_ = false;   // as soon as all is saved
     bool finished_ = false;  // a full picture stands
-    bool cameBack_ = false, originalHeld_ = false;
+    bool cameBack_ = false;
 };
 
 /// Everything that the window does by itself, in the order of its menus.
 std::vector<Command> commandTable(MainWindow& window);
+/// What the strip below the picture adds to it.
+std::vector<Command> stripCommands(MainWindow& window);
 
 }  // namespace tavrin

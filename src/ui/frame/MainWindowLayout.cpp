@@ -1,5 +1,7 @@
 // How the main window is laid out, and what its status line says.
-#include <QButtonGroup>
+#include <algorithm>
+#include <iterator>
+
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,28 +10,15 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "ui/WindowSettings.h"
+#include "ui/frame/ActionButton.h"
 #include "ui/frame/MainWindow.h"
+#include "ui/frame/PictureCommands.h"
+#include "ui/frame/ViewBar.h"
 
 namespace tavrin {
-
-namespace {
-
-QToolButton* buttonOf(QAction* action, QWidget* parent) {
-    auto* button = new QToolButton(parent);
-    button->setDefaultAction(action);
-    button->setObjectName(action->objectName());
-    button->setAccessibleName(QString(action->text()).remove('&'));
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::TabFocus);
-    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    return button;
-}
-
-}  // namespace
 
 void MainWindow::layOut() {
     auto* middle = new QWidget(this);
@@ -44,7 +33,10 @@ void MainWindow::layOut() {
     tabifyDockWidget(panel_, looksPanel_);
     history_->hide();
     looksPanel_->hide();
-    commands_ = new Commands(*this, commandTable(*this));
+    std::vector<Command> table = commandTable(*this);
+    std::ranges::move(pictureCommands(*tools_, binder_, [this] { return finished_; }), std::back_inserter(table));
+    std::ranges::move(stripCommands(*this), std::back_inserter(table));
+    commands_ = new Commands(*this, std::move(table));
     std::vector<QAction*> actions;
     for (const Command& command : commands_->table())
         actions.push_back(commands_->action(command.id));
@@ -53,7 +45,8 @@ void MainWindow::layOut() {
     recent->setObjectName("recentFiles");
     recent->setToolTipsVisible(true);
     commands_->menu("&File")->insertMenu(commands_->action("Save"), recent);
-    column->addWidget(makeViewBar());
+    column->addWidget(new ViewBar(*commands_, view_, this));  // below the picture, so that it covers none of it
+    column->addWidget(strip_);
     makeToolBar();
     makeStatusLine();
     view_->setFocus();
@@ -66,39 +59,16 @@ void MainWindow::makeToolBar() {
     bar->setContextMenuPolicy(Qt::PreventContextMenu);  // it has no other way back
     auto* space = new QWidget(bar);
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    for (const char* id : {"loadForeground", "loadBackground", "UndoButton", "RedoButton"})
+    for (const char* id : {"loadForeground", "loadBackground"})
         bar->addWidget(buttonOf(commands_->action(id), bar));
+    bar->addSeparator();
+    bar->addWidget(tools_->mouseMode());
     bar->addWidget(space);
     auto* label = new QLabel(tr("Output size "), bar);
     label->setBuddy(sizeBox_);
     bar->addWidget(label);
     bar->addWidget(sizeBox_);
     bar->addWidget(buttonOf(commands_->action("Save"), bar));
-}
-
-/// Below the picture, so that it covers none of it.
-QWidget* MainWindow::makeViewBar() {
-    auto* bar = new QWidget(this);
-    auto* line = new QHBoxLayout(bar);
-    line->setContentsMargins(8, 2, 8, 2);
-    line->addWidget(mouseMode_ = new MouseMode(bar));
-    line->addStretch();
-    for (const char* id : {"setZoomHome", "ZoomPixels", "ZoomOut", "ZoomIn"})
-        line->addWidget(buttonOf(commands_->action(id), bar));
-    auto* before = new QToolButton(bar);
-    before->setObjectName("buttonBefore");
-    before->setProperty("handler", "ShowOriginal");
-    before->setText(tr("Before"));
-    before->setAccessibleName(tr("Before, as long as it is held"));
-    before->setToolTip(tr("Hold it to see the portrait as it was taken; the key B does the same"));
-    before->setAutoRaise(true);
-    before->setFocusPolicy(Qt::TabFocus);
-    connect(before, &QToolButton::pressed, this, [this] { showOriginal(true); });
-    connect(before, &QToolButton::released, this, [this] { showOriginal(false); });
-    line->addWidget(before);
-    line->addWidget(buttonOf(commands_->action("ShowAlpha"), bar));
-    line->addStretch();
-    return bar;
 }
 
 void MainWindow::makeStatusLine() {
@@ -115,6 +85,10 @@ void MainWindow::makeStatusLine() {
     progress_->setMaximumHeight(8);
     statusBar()->addWidget(sizeText_);
     statusBar()->addWidget(zoomText_);
+    auto* pixel = new QLabel(this);
+    pixel->setObjectName("pixelReadOut");
+    connect(tools_, &PictureTools::readOut, pixel, &QLabel::setText);
+    statusBar()->addWidget(pixel);
     statusBar()->addPermanentWidget(stateText_);
     statusBar()->addPermanentWidget(progress_);
 }

@@ -1,5 +1,7 @@
 #include "ui/frame/PictureFiles.h"
 
+#include <filesystem>
+
 #include <QFileInfo>
 #include <QScopeGuard>
 
@@ -29,6 +31,11 @@ QStringList patternsOf(const PictureType& type) {
 
 bool isStateFile(const QString& path) {
     return QFileInfo(path).suffix().compare("qlx", Qt::CaseInsensitive) == 0;
+}
+
+bool isFolder(const QString& path) {
+    std::error_code none;
+    return std::filesystem::is_directory(nameOfText(path), none);
 }
 
 QString pictureFilter() {

@@ -54,6 +54,8 @@ class PictureFiles : public QObject {
 
 /// Whether a name is that of a state file.
 bool isStateFile(const QString& path);
+/// Whether a folder lies there.
+bool isFolder(const QString& path);
 
 /// The filters of a file dialog: every type that is read, each type that is written, state files.
 QString pictureFilter();

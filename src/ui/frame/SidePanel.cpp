@@ -66,6 +66,7 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
         if (group.name == std::string_view(kFirstLayerGroup)) rows->addWidget(layerSwitch_ = makeLayerSwitch());
         groups_.push_back(new GroupBox(group, binder, panel));
         rows->addWidget(groups_.back());
+        if (group.name == std::string_view("groupPlace")) addMaps(*groups_.back());
     }
     int labels = 0;
     for (const ControlRow* row : binder.rows())
@@ -84,6 +85,11 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
     scroll_->setMinimumWidth(panel->minimumSizeHint().width() + 16);
     column->addWidget(scroll_, 1);
     setWidget(whole);
+}
+
+void SidePanel::addMaps(GroupBox& place) {
+    place.addWidget(scaleView_ = new ScaleView(binder_));
+    place.addWidget(textScaleView_ = new TextScaleView(binder_));
 }
 
 QWidget* SidePanel::makeLayerSwitch() {
@@ -120,6 +126,7 @@ QWidget* SidePanel::makeLayerSwitch() {
 void SidePanel::chooseLayer(int layer) {
     binder_.editor().info().iActiveBitmap = layer;
     binder_.UpdateAllUI();
+    scaleView_->update();
 }
 
 /// Words with slips of the fingers count only where there is nothing without.

@@ -4,6 +4,7 @@
 
 #include <QDockWidget>
 
+#include "ui/adjust/ScaleView.h"
 #include "ui/bind/GroupBox.h"
 #include "ui/look/Chips.h"
 
@@ -30,7 +31,12 @@ class SidePanel : public QDockWidget {
     /// Puts every default of both layers back, as one step.
     void resetAll();
 
+    /// The small maps of the layer and of the selected item.
+    ScaleView* scaleView() const { return scaleView_; }
+    TextScaleView* textScaleView() const { return textScaleView_; }
+
   private:
+    void addMaps(GroupBox& place);
     QWidget* makeLayerSwitch();
     void find(const QString& text);
     void chooseLayer(int layer);
@@ -44,6 +50,8 @@ class SidePanel : public QDockWidget {
     QScrollArea* scroll_;
     std::vector<QAction*> actions_;
     QWidget* layerSwitch_ = nullptr;
+    ScaleView* scaleView_ = nullptr;
+    TextScaleView* textScaleView_ = nullptr;
     std::vector<GroupBox*> groups_;
 };
 

@@ -105,7 +105,10 @@ void LookDesk::pasteOn(const QStringList& portraits) {
     dialog->open();
 }
 
-void LookDesk::askForPortraits() {
+void LookDesk::pasteOnSelected() {
+    if (!hasCopy()) return pasteOn({});
+    if (const QStringList selected = selection_ ? selection_() : QStringList(); selected.size() > 1)
+        return pasteOn(selected);
     const QStringList portraits =
         QFileDialog::getOpenFileNames(window_, tr("Select Portraits for the Look"), QString(), portraitFilter());
     if (!portraits.isEmpty()) pasteOn(portraits);
@@ -219,44 +222,43 @@ void LookDesk::exportTo(const QString& name) {
 }
 
 std::vector<Command> lookCommands(LookDesk& desk) {
-    const auto tr = [](const char* text) { return LookDesk::tr(text); };
     return {
         {"CopyLook",
          "|&Edit",
-         tr("&Copy the Look"),
-         tr("Takes the look of this portrait, to paste it on others"),
+         LookDesk::tr("&Copy the Look"),
+         LookDesk::tr("Takes the look of this portrait, to paste it on others"),
          "edit-copy",
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
          {},
          [&desk](bool) { desk.copy(); }},
         {"PasteLook",
          "&Edit",
-         tr("&Paste the Look..."),
-         tr("Shows what the copied look changes here, and pastes what is ticked"),
+         LookDesk::tr("&Paste the Look..."),
+         LookDesk::tr("Shows what the copied look changes here, and pastes what is ticked"),
          "edit-paste",
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V),
          {},
          [&desk](bool) { desk.paste(); }},
         {"PasteLookOn",
          "&Edit",
-         tr("Paste the Look on P&ortraits..."),
-         tr("Pastes the copied look on many portraits at once"),
+         LookDesk::tr("Paste the Look on P&ortraits..."),
+         LookDesk::tr("Pastes the copied look on many portraits at once"),
          "",
          {},
          {},
-         [&desk](bool) { desk.askForPortraits(); }},
+         [&desk](bool) { desk.pasteOnSelected(); }},
         {"SaveLook",
          "|&Edit",
-         tr("Save as My &Look..."),
-         tr("Keeps all settings under a name"),
+         LookDesk::tr("Save as My &Look..."),
+         LookDesk::tr("Keeps all settings under a name"),
          "",
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L),
          {},
          [&desk](bool) { desk.saveAs(); }},
         {"ImportLook",
          "&Edit",
-         tr("&Import a Look..."),
-         tr("Takes a look or a state file into my looks"),
+         LookDesk::tr("&Import a Look..."),
+         LookDesk::tr("Takes a look or a state file into my looks"),
          "",
          {},
          {},

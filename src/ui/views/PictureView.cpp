@@ -15,9 +15,6 @@ namespace tavrin {
 
 namespace {
 
-// No colour near a picture that is judged for colour.
-const QColor kSurround(58, 58, 58), kFocus(150, 150, 150);
-
 /// Rows of a picture of another size are none of this one's.
 void putRows(QImage& picture, const PublishedRows& rows) {
     if (picture.size() != QSize(rows.pixels.width(), rows.height)) return;
@@ -25,26 +22,16 @@ void putRows(QImage& picture, const PublishedRows& rows) {
                 static_cast<std::size_t>(rows.pixels.sizeInBytes()));
 }
 
-/// White with grey bars of 5 points every 10, both ways.
-QBrush gridBrush() {
-    QPixmap tile(10, 10);
-    tile.fill(Qt::white);
-    QPainter painter(&tile);
-    const QColor bar = QColor::fromRgbF(0.8F, 0.8F, 0.8F);
-    painter.fillRect(0, 0, 5, 10, bar);
-    painter.fillRect(0, 0, 10, 5, bar);
-    painter.end();
-    return QBrush(tile);
-}
-
 }  // namespace
 
-PictureView::PictureView(QWidget* parent) : QWidget(parent) {
+PictureView::PictureView(QWidget* parent) : QWidget(parent), splitLine_(new SplitLine(this)) {
     setObjectName("mainQLXView");
     setAccessibleName(tr("Picture"));
     setMinimumSize(240, 240);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    connect(splitLine_, &SplitLine::valueChanged, this, &PictureView::placeSplit);
     connect(&shrinker_, &Shrinker::done, this, [this](const QImage& small, qint64 key) {
         small_ = small;
         smallOf_ = key;
@@ -89,6 +76,31 @@ void PictureView::showInstead(const QImage& picture, const QString& word) {
     update();
 }
 
+void PictureView::setBefore(const QImage& picture) {
+    before_ = picture;
+    update();
+}
+
+void PictureView::setSplit(bool on) {
+    splitLine_->setVisible(on);
+    placeSplit();
+}
+
+void PictureView::placeSplit() {
+    splitLine_->placeOn(zoom_.frame());
+    update();
+}
+
+void PictureView::setItemIcons(const QImage& edit, const QImage& remove) {
+    editIcon_ = edit;
+    deleteIcon_ = remove;
+}
+
+void PictureView::setAsking(bool on) {
+    asking_ = on;
+    showCursor();
+}
+
 void PictureView::setDropZone(DropZone zone) {
     if (zone == dropZone_) return;
     dropZone_ = zone;
@@ -100,7 +112,7 @@ PictureView::DropZone PictureView::zoneAt(const QPoint& position) const {
 }
 
 void PictureView::zoomChanged() {
-    update();
+    placeSplit();
     emit zoomed();
 }
 
@@ -124,84 +136,14 @@ void PictureView::zoomToPixels() {
     zoomChanged();
 }
 
+void PictureView::setPixelScale(double scale) {
+    zoom_.setPixelScale({width() / 2.0, height() / 2.0}, scale);
+    zoomChanged();
+}
+
 /// The middle when the pointer is elsewhere.
 QPointF PictureView::pointer() const {
     return underMouse() ? QPointF(mapFromGlobal(QCursor::pos())) : QPointF(width() / 2.0, height() / 2.0);
-}
-
-void PictureView::paintPicture(QPainter& painter) {
-    const QRectF frame = zoom_.frame();
-    if (transparent_) painter.fillRect(frame, gridBrush());
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom_.pixelScale() < 2.0);
-    if (!instead_.isNull()) {
-        painter.drawImage(frame, instead_);
-        painter.setPen(Qt::white);
-        const QRectF word = painter.fontMetrics().boundingRect(insteadWord_).adjusted(-8, -4, 8, 4);
-        const QRectF place(QPointF(std::max(frame.x(), 0.0) + 8, std::max(frame.y(), 0.0) + 8), word.size());
-        painter.fillRect(place, QColor(0, 0, 0, 170));
-        painter.drawText(place, Qt::AlignCenter, insteadWord_);
-    } else if (isFull()) {
-        paintFull(painter, frame);
-    } else {
-        painter.drawImage(frame, preview_);
-    }
-}
-
-/// What is smaller on the screen is made so elsewhere; until it is there the preview stands in.
-void PictureView::paintFull(QPainter& painter, const QRectF& frame) {
-    const double ratio = devicePixelRatioF();
-    if (zoom_.pixelScale() >= 1.0) {
-        const QRectF seen = frame.intersected(QRectF(rect()));
-        painter.drawImage(seen, full_, QRectF(zoom_.pictureAt(seen.topLeft()), zoom_.pictureAt(seen.bottomRight())));
-        return;
-    }
-    const QSize size = (frame.size() * ratio).toSize();
-    if (smallOf_ == full_.cacheKey() && small_.size() == size) {
-        small_.setDevicePixelRatio(ratio);
-        painter.drawImage(QPointF(std::round(frame.x() * ratio), std::round(frame.y() * ratio)) / ratio, small_);
-        return;
-    }
-    shrinker_.want(full_, size);
-    painter.drawImage(frame, preview_.isNull() ? full_ : preview_);
-}
-
-void PictureView::paintHint(QPainter& painter) {
-    painter.setPen(QColor(200, 200, 200));
-    painter.drawText(rect(), Qt::AlignCenter,
-                     tr("Drop a portrait on the left half\nand a background on the right half,\n"
-                        "or open them from the File menu."));
-}
-
-void PictureView::paintDropZones(QPainter& painter) {
-    const QRect left(0, 0, width() / 2, height());
-    const QRect right(left.width(), 0, width() - left.width(), height());
-    painter.fillRect(rect(), QColor(20, 20, 20, 150));
-    const auto zone = [&](const QRect& area, const QString& text, bool active) {
-        const QRect box = area.adjusted(16, 16, -16, -16);
-        painter.setPen(QPen(active ? QColor(120, 200, 255) : QColor(150, 150, 150), active ? 4 : 2, Qt::DashLine));
-        painter.setBrush(active ? QColor(60, 120, 180, 90) : QColor(0, 0, 0, 0));
-        painter.drawRoundedRect(box, 10, 10);
-        painter.setPen(Qt::white);
-        painter.drawText(box, Qt::AlignCenter, text);
-    };
-    zone(left, tr("Portrait"), dropZone_ == DropZone::foreground);
-    zone(right, tr("Background"), dropZone_ == DropZone::background);
-}
-
-void PictureView::paintEvent(QPaintEvent*) {
-    zoom_.setView(size(), devicePixelRatioF());  // the window may have gone to another screen
-    QPainter painter(this);
-    painter.fillRect(rect(), kSurround);
-    if (preview_.isNull() && fullRows_ < 1) {
-        paintHint(painter);
-    } else {
-        paintPicture(painter);
-    }
-    if (hasFocus()) {
-        painter.setPen(QPen(kFocus, 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
-    if (dropZone_ != DropZone::none) paintDropZones(painter);
 }
 
 void PictureView::resizeEvent(QResizeEvent*) {
@@ -230,9 +172,24 @@ void PictureView::wheelEvent(QWheelEvent* event) {
 
 void PictureView::mousePressEvent(QMouseEvent* event) {
     panning_ = event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && spaceHeld_);
-    pressed_ = event->button() == Qt::LeftButton && !spaceHeld_;
     panFrom_ = pressedAt_ = event->position();
-    if (panning_) setCursor(Qt::ClosedHandCursor);
+    if (event->button() == Qt::LeftButton && !spaceHeld_) beginPress(event->position());
+    showCursor();
+}
+
+void PictureView::beginPress(const QPointF& at) {
+    if (asking_) {
+        point(at);
+        if (pointed_.x() >= 0) emit asked(pointed_);
+        return;
+    }
+    pressed_ = true;
+    emit pressed(fromLowerLeft(at));
+}
+
+QPoint PictureView::fromLowerLeft(const QPointF& view) const {
+    const QRectF frame = zoom_.frame();
+    return QPointF(view.x() - frame.x(), frame.bottom() - view.y()).toPoint();
 }
 
 void PictureView::mouseMoveEvent(QMouseEvent* event) {
@@ -241,28 +198,66 @@ void PictureView::mouseMoveEvent(QMouseEvent* event) {
         panFrom_ = event->position();
         zoomChanged();
     }
+    point(event->position());
     const QPointF way = event->position() - pressedAt_;
     dragging_ = dragging_ || (pressed_ && way.manhattanLength() >= QApplication::startDragDistance());
     const QRectF frame = zoom_.frame();
-    if (dragging_) emit dragged({way.x() / frame.width(), -way.y() / frame.height()});
+    if (dragging_) emit dragged({way.x() / frame.width(), -way.y() / frame.height()}, {way.x(), -way.y()});
 }
 
 void PictureView::mouseReleaseEvent(QMouseEvent*) {
     panning_ = pressed_ = false;
     if (std::exchange(dragging_, false)) emit dragEnded();
-    spaceHeld_ ? setCursor(Qt::OpenHandCursor) : unsetCursor();
+    showCursor();
 }
 
+void PictureView::point(const QPointF& at) {
+    const QPointF place = zoom_.pictureAt(at);
+    QPoint pixel(static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y())));
+    if (!QRect(QPoint(), full_.size()).contains(pixel)) pixel = {-1, -1};
+    if (std::exchange(pointed_, pixel) != pixel) emit pointed(pixel);
+}
+
+void PictureView::leaveEvent(QEvent*) {
+    if (std::exchange(pointed_, {-1, -1}) != QPoint(-1, -1)) emit pointed(pointed_);
+}
+
+void PictureView::showCursor() {
+    if (panning_) return setCursor(Qt::ClosedHandCursor);
+    if (spaceHeld_) return setCursor(Qt::OpenHandCursor);
+    asking_ ? setCursor(Qt::CrossCursor) : unsetCursor();
+}
+
+/// Arrows move what is shown, as a drag with the middle button does.
 void PictureView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Space) return QWidget::keyPressEvent(event);
-    spaceHeld_ = true;
-    if (!panning_) setCursor(Qt::OpenHandCursor);
+    constexpr double kStep = 40.0;  // points
+    const double step = event->modifiers().testFlag(Qt::ShiftModifier) ? 1.0 : kStep;
+    switch (event->key()) {
+        case Qt::Key_Space:
+            spaceHeld_ = true;
+            return showCursor();
+        case Qt::Key_Left:
+            zoom_.pan({step, 0});
+            break;
+        case Qt::Key_Right:
+            zoom_.pan({-step, 0});
+            break;
+        case Qt::Key_Up:
+            zoom_.pan({0, step});
+            break;
+        case Qt::Key_Down:
+            zoom_.pan({0, -step});
+            break;
+        default:
+            return QWidget::keyPressEvent(event);
+    }
+    zoomChanged();
 }
 
 void PictureView::keyReleaseEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Space || event->isAutoRepeat()) return QWidget::keyReleaseEvent(event);
     spaceHeld_ = false;
-    if (!panning_) unsetCursor();
+    showCursor();
 }
 
 }  // namespace tavrin

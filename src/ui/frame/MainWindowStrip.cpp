@@ -1,0 +1,124 @@
+// The strip below the picture: what it asks of the window, and its commands.
+#include <QFileDialog>
+#include <QMenu>
+#include <QShortcut>
+
+#include "core/files/NameText.h"
+#include "core/files/StandardPath.h"
+#include "ui/frame/MainWindow.h"
+
+namespace tavrin {
+
+namespace {
+
+using Kind = Command::Kind;
+
+Command markCommand(MainWindow& window, const char* id, const char* menu, const QString& text, const QString& toolTip,
+                    Qt::Key key, PictureMark mark) {
+    return {
+        id, menu, text, toolTip, "", QKeySequence(key), {}, [&window, mark](bool) { window.strip()->mark(mark); }};
+}
+
+}  // namespace
+
+std::vector<Command> stripCommands(MainWindow& w) {
+    const auto tr = [](const char* text) { return MainWindow::tr(text); };
+    return {
+        {"OpenFolder",
+         "&File",
+         tr("Open F&older..."),
+         tr("Fills the strip with a folder's portraits and opens the first"),
+         "folder-open",
+         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
+         {},
+         [&w](bool) { w.askForFolder(); }},
+        {"ShowStrip",
+         "&View",
+         tr("S&trip of Pictures"),
+         tr("Shows the pictures of the strip, or folds them away"),
+         "",
+         QKeySequence(Qt::Key_T),
+         {},
+         [&w](bool on) { w.strip()->setFolded(!on); },
+         Kind::checked},
+        {"NextPortrait",
+         "|&Picture",
+         tr("&Next Portrait"),
+         tr("Opens the portrait that comes next in the strip"),
+         "go-next",
+         QKeySequence(Qt::Key_PageDown),
+         {},
+         [&w](bool) { w.strip()->walk(1); }},
+        {"PreviousPortrait",
+         "&Picture",
+         tr("&Previous Portrait"),
+         tr("Opens the portrait before this one in the strip"),
+         "go-previous",
+         QKeySequence(Qt::Key_PageUp),
+         {},
+         [&w](bool) { w.strip()->walk(-1); }},
+        markCommand(w, "MarkKeep", "|&Picture", tr("Mark: &Keep"), tr("This portrait is good"), Qt::Key_K,
+                    PictureMark::keep),
+        markCommand(w, "MarkReject", "&Picture", tr("Mark: &Reject"),
+                    tr("This portrait goes out; the next one is opened"), Qt::Key_X, PictureMark::reject),
+        markCommand(w, "MarkLookAgain", "&Picture", tr("Mark: &Look Again"), tr("This portrait needs another look"),
+                    Qt::Key_L, PictureMark::lookAgain),
+        markCommand(w, "MarkNone", "&Picture", tr("&Unmark"), tr("Takes the mark from this portrait"), Qt::Key_U,
+                    PictureMark::none),
+        {"TakeMarkBack", "&Picture", tr("Take the Last &Mark Back"),
+         tr("Gives the portrait that was marked last the mark it had, and opens it"), "",
+         QKeySequence(Qt::CTRL | Qt::Key_U), [&w] { return w.strip()->hasMarkToTakeBack(); },
+         [&w](bool) { w.strip()->takeMarkBack(); }},
+    };
+}
+
+void MainWindow::connectStrip() {
+    connect(strip_, &Strip::portraitWanted, this, &MainWindow::openForeground);
+    connect(strip_, &Strip::backgroundWanted, this, &MainWindow::openBackground);
+    connect(strip_, &Strip::pickFolderWanted, this, &MainWindow::askForPickDirectory);
+    connect(strip_, &Strip::marksChanged, commands_, &Commands::refresh);
+    connect(strip_, &Strip::failed, messages_, &MessageBar::fail);
+    connect(
+        &bridge_, &WindowBridge::controlsEnabled, strip_,
+        [this](bool enabled) {
+            if (enabled) strip_->readAhead();
+        },
+        Qt::QueuedConnection);
+    for (const auto& [key, step] : {std::pair(Qt::Key_Left, -1), std::pair(Qt::Key_Right, 1)})
+        connect(new QShortcut(key, view_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, strip_,
+                [this, step = step] { strip_->walk(step); });
+    commands_->action("ShowStrip")->setChecked(!strip_->isFolded());
+    commands_->menu("&File")->insertAction(commands_->action("loadBackground"), commands_->action("OpenFolder"));
+}
+
+void MainWindow::openFolder(const QString& folder) {
+    strip_->openFolder(folder);
+}
+
+void MainWindow::openPictures(const QStringList& paths) {
+    QStringList pictures = paths;
+    pictures.removeIf(isStateFile);
+    if (!pictures.isEmpty()) strip_->openPictures(pictures);
+}
+
+void MainWindow::askForFolder() {
+    const QString last = QFileInfo(textOfName(standardizePath(info_.oQLXInfo->sForegroundPath))).path();
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Folder"), last);
+    if (!folder.isEmpty()) openFolder(folder);
+}
+
+void MainWindow::askForPickDirectory() {
+    const QString last = textOfName(strip_->backgrounds()->folder());
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Folder of the Backgrounds"), last);
+    if (!folder.isEmpty()) dropFolder(folder, true);
+}
+
+/// Backgrounds to choose from are kept for the next start.
+void MainWindow::dropFolder(const QString& folder, bool onBackground) {
+    if (!onBackground) return openFolder(folder);
+    info_.oQLXInfo->sPickDirectory = nameOfText(folder);
+    keepSettings();
+    strip_->followPickDirectory();
+}
+
+}  // namespace tavrin

@@ -1,0 +1,317 @@
+// The picture's own tools, used as a person uses them.
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+
+#include "core/files/Places.h"
+#include "core/state/SettingNames.h"
+#include "pipeline/PixelStory.h"
+#include "session/OutputSizes.h"
+#include "support/Pictures.h"
+#include "support/TestData.h"
+#include "ui/frame/MainWindow.h"
+
+namespace tavrin {
+namespace {
+
+class PictureToolsTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::filesystem::create_directories(folder_.file("shared/QLXXML"));
+        Places::current().setSharedFolder(folder_.file("shared"));
+        chooseSizeByName(*info_, "test");
+        info_->pForegroundBitmapInfo->sSourceImageFullPath =
+            test::savePng(test::discOnScreen(240, 300), folder_.file("fg.png"));
+        info_->pBackgroundBitmapInfo->sSourceImageFullPath =
+            test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
+        window_ = std::make_unique<MainWindow>(*info_);
+        window_->resize(1300, 800);
+        window_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        ASSERT_TRUE(waitForPicture());
+        view_ = window_->view();
+    }
+    void TearDown() override {
+        window_.reset();
+        Places::current().setSharedFolder(shared_);
+    }
+    bool waitForPicture() {
+        return QTest::qWaitFor(
+            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
+    }
+    QAction* action(const char* id) { return window_->commands().action(id); }
+    QPoint viewAt(double x, double y) { return view_->zoom().viewAt({x, y}).toPoint(); }
+    QColor shownAt(const QPoint& at) {
+        const QImage shown = view_->grab().toImage();
+        return shown.pixelColor((QPointF(at) * shown.devicePixelRatio()).toPoint());
+    }
+    QString readOut() { return window_->findChild<QLabel*>("pixelReadOut")->text(); }
+    void choose(const char* name) { window_->findChild<QToolButton*>(name)->click(); }
+    /// A drag with ten moves.
+    void drag(QWidget* widget, const QPoint& from, const QPoint& by) {
+        QTest::mousePress(widget, Qt::LeftButton, {}, from);
+        for (int i = 1; i <= 10; ++i)
+            QTest::mouseMove(widget, from + by * i / 10);
+        QTest::mouseRelease(widget, Qt::LeftButton, {}, from + by);
+    }
+    /// A picture item of 60 x 50 pixels, an inch from the left and half an inch from below.
+    FontObject& addItem() {
+        FontObject item;
+        item.isImage = true;
+        item.sText = test::savePng(test::noisePicture(60, 50, 3), folder_.file("item.png"));
+        item.imageSizeWidth = 60;
+        item.imageSizeHeight = 50;
+        item.xPos = 1.0;
+        item.yPos = 0.5;
+        info_->oFontObject.push_back(item);
+        info_->StartUpdate();
+        EXPECT_TRUE(waitForPicture());
+        return info_->oFontObject.back();
+    }
+    /// A place of the picture in inches from its lower left corner, in the view.
+    QPoint inchesAt(double x, double y) { return viewAt(x * 92.0, 300.0 - y * 92.0); }
+
+    const std::string shared_ = Places::current().sharedFolder();
+    test::TempFolder folder_;
+    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
+    std::unique_ptr<MainWindow> window_;
+    PictureView* view_ = nullptr;
+};
+
+TEST_F(PictureToolsTest, TheSplitShowsThePortraitOnItsLeftAndStaysAtItsPlaceOfThePicture) {
+    const QColor screen = test::discOnScreen(240, 300).pixelColor(5, 150);
+    action("ShowSplit")->setChecked(true);
+    SplitLine* line = view_->splitLine();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shownAt(viewAt(20, 290)) == screen; }, 20000));
+    EXPECT_NE(shownAt(viewAt(220, 290)), screen);
+    const int half = line->geometry().center().x();
+    const QPoint from = line->geometry().center();
+    QTest::mousePress(line, Qt::LeftButton, {}, line->mapFromParent(from));
+    for (int i = 0; i <= 10; ++i)
+        QTest::mouseMove(line, line->mapFromParent(from + QPoint(10 * i, 0)));
+    QTest::mouseRelease(line, Qt::LeftButton, {}, line->mapFromParent(from + QPoint(100, 0)));
+    EXPECT_EQ(line->geometry().center().x(), half + 100);
+    EXPECT_EQ(shownAt({half + 80, viewAt(0, 290).y()}), screen);
+    line->setFocus();
+    QTest::keyClick(line, Qt::Key_Home);
+    EXPECT_EQ(line->value(), 0);
+    EXPECT_NE(shownAt(viewAt(20, 290)), screen);
+    QTest::keyClick(line, Qt::Key_PageUp);
+    QTest::keyClick(line, Qt::Key_Right);
+    EXPECT_EQ(line->value(), 110);
+    line->setValue(250);
+    view_->zoomBy(1.7);
+    EXPECT_NEAR(view_->zoom().pictureAt(QPointF(line->x(view_->zoom().frame()), 0)).x(), 60.0, 1e-6);
+    view_->zoomBy(20);  // far to the right of the line
+    EXPECT_LT(line->x(view_->zoom().frame()), 0.0);
+    EXPECT_TRUE(view_->rect().intersects(line->geometry())) << "it can still be taken hold of";
+    action("ShowSplit")->setChecked(false);
+    EXPECT_FALSE(line->isVisible());
+}
+
+TEST_F(PictureToolsTest, TheReadOutTellsThePixelUnderThePointer) {
+    const auto tells = [&](const QPoint& pixel) {
+        const QColor c = view_->fullPicture().pixelColor(pixel);
+        const int alpha =
+            info_->pBackgroundBitmapInfo->bytes(Resolution::full)[(pixel.y() * 240 + pixel.x()) * 4 + 3];
+        return QString("x %1  y %2    %3 %4 %5    alpha %6 %")
+            .arg(pixel.x())
+            .arg(pixel.y())
+            .arg(c.red())
+            .arg(c.green())
+            .arg(c.blue())
+            .arg(qRound(100.0 * alpha / 255.0));
+    };
+    for (const QPoint pixel : {QPoint(120, 150), QPoint(10, 20), QPoint(120, 76)}) {
+        QTest::mouseMove(view_, viewAt(pixel.x() + 0.5, pixel.y() + 0.5));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return readOut().startsWith(tells(pixel)); }, 20000))
+            << readOut().toStdString() << " for " << tells(pixel).toStdString();
+    }
+    const QString before = readOut();
+    info_->pBackgroundBitmapInfo->iBrightness = 60;
+    info_->iSliderClipTop = 90;
+    info_->StartUpdate();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return readOut() != before && readOut().startsWith(tells({120, 76}));
+        },
+        20000))
+        << "it follows the picture: " << readOut().toStdString();
+    QTest::mouseMove(view_, {2, 2});
+    EXPECT_EQ(readOut(), "");
+}
+
+TEST_F(PictureToolsTest, AClickAsksForTheStoryOfAPixelAndMovesNothing) {
+    action("AskPicture")->setChecked(true);
+    StoryPanel* panel = window_->pictureTools()->story();
+    QTest::mouseClick(view_, Qt::LeftButton, {}, viewAt(120.5, 150.5));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return panel->isVisible(); }, 20000));
+    const PixelStory story = PixelProbe(*info_).tell(120, 150);
+    QStringList shown, wanted;
+    for (const QLabel* label : panel->findChildren<QLabel*>())
+        shown.append(label->text());
+    for (const StoryLine& line : storyLines(story))
+        wanted << line.title << line.text;
+    for (const QString& text : wanted)
+        EXPECT_TRUE(shown.contains(text)) << text.toStdString();
+    EXPECT_TRUE(wanted.contains("200 60 50")) << "the disc's colour in the portrait";
+    EXPECT_FALSE(panel->geometry().contains(viewAt(120, 150)));
+    EXPECT_EQ(info_->pForegroundBitmapInfo->iOrgXoff, 0);
+    QTest::keyClick(panel, Qt::Key_Escape);
+    EXPECT_FALSE(panel->isVisible());
+    EXPECT_TRUE(view_->hasFocus());
+}
+
+TEST_F(PictureToolsTest, TheBarShowsViewsOfTheKeyAndFollowsTheSettings) {
+    EXPECT_FALSE(action("ShowGuard")->isEnabled()) << "there is no guard";
+    action("ShowScreen")->setChecked(true);
+    EXPECT_TRUE(info_->pCombinedBitmapInfo->bShowSelectedAreas);
+    action("UndoButton")->trigger();
+    EXPECT_FALSE(action("ShowScreen")->isChecked());
+    EXPECT_FALSE(info_->pCombinedBitmapInfo->bShowSelectedAreas);
+    window_->binder().run("", [](SettingEditor& editor) { editor.set("iGreenProtectMode", "1"); });
+    EXPECT_TRUE(action("ShowGuard")->isEnabled());
+    EXPECT_TRUE(action("ShowGuard")->isChecked());
+    QTest::keyClick(view_, Qt::Key_G);
+    EXPECT_FALSE(info_->bShowGreenProtection);
+
+    auto* zoom = window_->findChild<QSlider*>("sliderZoom");
+    const double before = view_->zoom().pixelScale();
+    zoom->setFocus();
+    QTest::keyClick(zoom, Qt::Key_Right);
+    EXPECT_GT(view_->zoom().pixelScale(), before);
+    view_->zoomToPixels();
+    const int hundred = zoom->value();
+    EXPECT_NEAR(view_->zoom().pixelScale(), 1.0, 1e-9) << "the slider shows it and leaves it";
+    view_->zoomBy(4.0);
+    EXPECT_GT(zoom->value(), hundred);
+}
+
+TEST_F(PictureToolsTest, ItemsAreSelectedOnlyWhenTheyAreTheTargetAndTheFrameGoesByItself) {
+    addItem();
+    ItemTool& items = window_->pictureTools()->items();
+    QTest::mouseClick(view_, Qt::LeftButton, {}, inchesAt(1.3, 0.75));
+    EXPECT_FALSE(items.bShowTextCursor());
+    choose("radioEventMoveText");
+    EXPECT_EQ(info_->iEventMouseMode, 5);
+    QTest::mouseClick(view_, Qt::LeftButton, {}, inchesAt(0.5, 0.75));
+    EXPECT_FALSE(items.bShowTextCursor());
+    QTest::mouseClick(view_, Qt::LeftButton, {}, inchesAt(1.3, 0.75));
+    ASSERT_TRUE(items.bShowTextCursor());
+    EXPECT_EQ(items.iSelectedFontIndex(), 0);
+    const QRectF box = view_->selection()->inView(view_->zoom().frame());
+    EXPECT_NEAR(box.left(), inchesAt(1.0, 0.5).x(), 2);
+    EXPECT_NEAR(box.bottom(), inchesAt(1.0, 0.5).y(), 2);
+    EXPECT_NEAR(box.right(), viewAt(92 + 60, 0).x(), 2);
+    EXPECT_FALSE(window_->panel()->textScaleView()->isHidden());
+    const int asked = info_->iNewThreadCount;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !items.bShowTextCursor(); }, 6000));
+    EXPECT_EQ(info_->iNewThreadCount, asked + 1) << "a new picture goes with it";
+}
+
+TEST_F(PictureToolsTest, ASelectedItemIsMovedAndScaledInOneStepOfUndoEach) {
+    FontObject& item = addItem();
+    choose("radioEventMoveText");
+    const double perInch = view_->zoom().frame().width() * 92.0 / 240.0;
+    QTest::mouseClick(view_, Qt::LeftButton, {}, inchesAt(1.3, 0.75));
+    drag(view_, inchesAt(1.3, 0.75), {-60, -100});
+    EXPECT_TRUE(waitForPicture());
+    EXPECT_NEAR(item.xPos, 1.0 - 60 / perInch, 1.5 / perInch);
+    EXPECT_NEAR(item.yPos, 0.5 + 100 / perInch, 1.5 / perInch);
+    const double moved = item.yPos;
+    choose("radioEventScale");
+    EXPECT_EQ(info_->iEventMouseMode, 6);
+    const QPoint middle = view_->selection()->inView(view_->zoom().frame()).center().toPoint();
+    drag(view_, middle, {0, -50});
+    EXPECT_NEAR(item.dGlobalScaleY, 1.0 + 4.0 * 50 / view_->zoom().frame().height(), 1e-9);
+    EXPECT_EQ(item.dGlobalScaleX, item.dGlobalScaleY);
+    drag(view_, view_->selection()->inView(view_->zoom().frame()).center().toPoint(), {0, 700});
+    EXPECT_EQ(item.dGlobalScaleX, 0.01);
+    action("UndoButton")->trigger();
+    action("UndoButton")->trigger();
+    EXPECT_EQ(item.dGlobalScaleY, 1.0);
+    EXPECT_EQ(item.yPos, moved);
+    action("UndoButton")->trigger();
+    EXPECT_EQ(item.xPos, 1.0);
+    EXPECT_FALSE(action("UndoButton")->isEnabled());
+    EXPECT_EQ(info_->pForegroundBitmapInfo->iOrgXoff, 0);
+}
+
+TEST_F(PictureToolsTest, TheIconsOfAnItemEditItAndDeleteItAfterAQuestion) {
+    addItem();
+    choose("radioEventMoveText");
+    const auto select = [&] { QTest::mouseClick(view_, Qt::LeftButton, {}, inchesAt(1.3, 0.75)); };
+    const auto box = [&] { return view_->selection()->inView(view_->zoom().frame()); };
+    const auto answer = [&](const char* word) {
+        QMessageBox* question = nullptr;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (question = view_->findChild<QMessageBox*>()) != nullptr; }, 5000));
+        EXPECT_EQ(question->text(), "Are you shure you want to delete the text?");
+        for (QAbstractButton* button : question->buttons())
+            if (button->text() == word) button->click();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return view_->findChild<QMessageBox*>() == nullptr; }, 5000));
+    };
+    select();
+    QTest::mouseClick(view_, Qt::LeftButton, {}, box().topRight().toPoint());
+    auto* dialog = view_->findChild<QInputDialog*>("editItem");
+    ASSERT_TRUE(dialog);
+    EXPECT_FALSE(view_->selection());
+    dialog->setTextValue("elsewhere.png");
+    dialog->accept();
+    EXPECT_EQ(info_->oFontObject[0].sText.load(), "elsewhere.png");
+    action("UndoButton")->trigger();
+    EXPECT_NE(info_->oFontObject[0].sText.load(), "elsewhere.png");
+
+    select();
+    QTest::mouseClick(view_, Qt::LeftButton, {}, box().bottomLeft().toPoint());
+    answer("No");
+    EXPECT_EQ(info_->iFontObjectCount(), 1);
+    select();
+    QTest::mouseClick(view_, Qt::LeftButton, {}, box().bottomLeft().toPoint());
+    answer("Yes");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 0; }, 20000));
+    EXPECT_TRUE(waitForPicture());
+    EXPECT_FALSE(action("RedoButton")->isEnabled()) << "steps of an item that is gone";
+}
+
+TEST_F(PictureToolsTest, TheSmallMapsMoveTheLayerAndTheItem) {
+    GroupBox* place = nullptr;
+    for (GroupBox* group : window_->panel()->groups())
+        if (group->group().name == std::string_view("groupPlace")) place = group;
+    ASSERT_TRUE(place);
+    place->setFolded(false);
+    QCoreApplication::processEvents();
+    ScaleView* map = window_->panel()->scaleView();
+    map->grab();
+    const double width = 0.9 * map->height() * 240 / 300;  // the output in the map
+    drag(map, map->rect().center(), {20, -10});
+    EXPECT_EQ(info_->pForegroundBitmapInfo->iOrgXoff, static_cast<int>(20 * 1000 / width));
+    EXPECT_EQ(info_->pForegroundBitmapInfo->iOrgYoff, static_cast<int>(10 * 1000 / (0.9 * map->height())));
+    action("UndoButton")->trigger();
+    EXPECT_EQ(info_->pForegroundBitmapInfo->iOrgXoff, 0);
+    EXPECT_FALSE(action("UndoButton")->isEnabled());
+    window_->panel()->findChild<QToolButton*>("radioBackground")->click();
+    EXPECT_EQ(map->grab().toImage().pixelColor(map->rect().center()), QColor(Qt::green));
+
+    FontObject& item = addItem();
+    TextScaleView* small = window_->panel()->textScaleView();
+    EXPECT_FALSE(small->isVisible());
+    choose("radioEventMoveText");
+    QTest::mouseClick(view_, Qt::LeftButton, {}, inchesAt(1.3, 0.75));
+    ASSERT_TRUE(small->isVisible());
+    const double perInch = 0.9 * small->height() * 240 / 300 / (240 / 92.0);
+    drag(small, small->rect().center(), {15, -30});
+    EXPECT_FALSE(view_->selection()) << "the frame goes with the press";
+    EXPECT_NEAR(item.xPos, 1.0 + 15 / perInch, 1e-6);
+    EXPECT_NEAR(item.yPos, 0.5 + 30 / perInch, 1e-6);
+}
+
+}  // namespace
+}  // namespace tavrin

@@ -1,0 +1,1129 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Menu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Picture</source>
+        <translation>B&amp;ild</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>Panel</name>
+    <message>
+        <source>Quick settings</source>
+        <translation>Schnelleinstellungen</translation>
+    </message>
+    <message>
+        <source>Hair</source>
+        <translation>Haare</translation>
+    </message>
+    <message>
+        <source>Sets the key for this colour of hair. Auto suits most portraits.</source>
+        <translation>Stellt das Freistellen auf diese Haarfarbe ein. Auto passt für die meisten Porträts.</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Brown</source>
+        <translation>Braun</translation>
+    </message>
+    <message>
+        <source>Blond</source>
+        <translation>Blond</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparenz</translation>
+    </message>
+    <message>
+        <source>How much of the background shows through veils, glasses and fine hair.</source>
+        <translation>Wie viel Hintergrund durch Schleier, Brillen und feines Haar scheint.</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Weniger</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Screen shadows</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>How much shadow lies on the screen behind the subject.</source>
+        <translation>Wie viel Schatten hinter der Person auf der Leinwand liegt.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Some</source>
+        <translation>Etwas</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Remove green of the background</source>
+        <translation>Grün des Hintergrunds entfernen</translation>
+    </message>
+    <message>
+        <source>Is kept with the picture; it changes no slider.</source>
+        <translation>Wird mit dem Bild gespeichert und ändert keinen Regler.</translation>
+    </message>
+    <message>
+        <source>Remove a green tint</source>
+        <translation>Grünstich entfernen</translation>
+    </message>
+    <message>
+        <source>Takes more of the screen&apos;s light off skin and hair.</source>
+        <translation>Nimmt mehr vom Licht der Leinwand von Haut und Haar.</translation>
+    </message>
+    <message>
+        <source>Bring green back</source>
+        <translation>Grün zurückholen</translation>
+    </message>
+    <message>
+        <source>Keeps some of the green of clothes.</source>
+        <translation>Behält etwas vom Grün der Kleidung.</translation>
+    </message>
+    <message>
+        <source>Bring more green back</source>
+        <translation>Mehr Grün zurückholen</translation>
+    </message>
+    <message>
+        <source>Keeps most of the green of clothes.</source>
+        <translation>Behält das meiste Grün der Kleidung.</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Freistellen</translation>
+    </message>
+    <message>
+        <source>Remove green</source>
+        <translation>Grün entfernen</translation>
+    </message>
+    <message>
+        <source>How much green goes from hair. To the right more goes.</source>
+        <translation>Wie viel Grün aus den Haaren geht. Nach rechts geht mehr.</translation>
+    </message>
+    <message>
+        <source>Dark areas</source>
+        <translation>Dunkle Stellen</translation>
+    </message>
+    <message>
+        <source>Brings dark hair and clothes back. To the right more comes back; to the left shadows on the screen go.</source>
+        <translation>Holt dunkle Haare und Kleidung zurück. Nach rechts kommt mehr zurück, nach links gehen Schatten auf der Leinwand.</translation>
+    </message>
+    <message>
+        <source>White areas</source>
+        <translation>Weiße Stellen</translation>
+    </message>
+    <message>
+        <source>Keeps white and light clothes clean. To the right it acts on more of the light tones.</source>
+        <translation>Hält weiße und helle Kleidung sauber. Nach rechts wirkt es auf mehr helle Töne.</translation>
+    </message>
+    <message>
+        <source>Green tint</source>
+        <translation>Grünstich</translation>
+    </message>
+    <message>
+        <source>The screen&apos;s green light on the subject. To the left more of it is taken off, to the right more is kept.</source>
+        <translation>Das grüne Licht der Leinwand auf der Person. Nach links wird mehr davon entfernt, nach rechts bleibt mehr.</translation>
+    </message>
+    <message>
+        <source>How solid veils, glasses and edges are. To the right they become more solid.</source>
+        <translation>Wie fest Schleier, Brillen und Kanten sind. Nach rechts werden sie fester.</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>Weißabgleich</translation>
+    </message>
+    <message>
+        <source>Shifts the subject between green and magenta where the screen shines through.</source>
+        <translation>Verschiebt die Person zwischen Grün und Magenta, wo die Leinwand durchscheint.</translation>
+    </message>
+    <message>
+        <source>Screen brightness</source>
+        <translation>Helligkeit der Leinwand</translation>
+    </message>
+    <message>
+        <source>Takes the screen for brighter or darker than it was measured.</source>
+        <translation>Hält die Leinwand für heller oder dunkler als gemessen.</translation>
+    </message>
+    <message>
+        <source>Show the portrait without a key</source>
+        <translation>Porträt ohne Freistellen zeigen</translation>
+    </message>
+    <message>
+        <source>The portrait as it was taken, over the background.</source>
+        <translation>Das Porträt wie aufgenommen, über dem Hintergrund.</translation>
+    </message>
+    <message>
+        <source>Keep bright greys see-through</source>
+        <translation>Helle Grautöne durchsichtig lassen</translation>
+    </message>
+    <message>
+        <source>Bright, nearly grey parts such as glass are not taken for solid.</source>
+        <translation>Helle, fast graue Teile wie Glas gelten nicht als fest.</translation>
+    </message>
+    <message>
+        <source>Show what the key takes</source>
+        <translation>Zeigen, was wegfällt</translation>
+    </message>
+    <message>
+        <source>Marks the parts of the picture that the key removes.</source>
+        <translation>Markiert die Teile des Bildes, die das Freistellen entfernt.</translation>
+    </message>
+    <message>
+        <source>Screen and edges</source>
+        <translation>Leinwand und Kanten</translation>
+    </message>
+    <message>
+        <source>Smooth edges</source>
+        <translation>Kanten glätten</translation>
+    </message>
+    <message>
+        <source>Softens the outline in the full picture. 0 leaves it as the key made it.</source>
+        <translation>Macht den Umriss im vollen Bild weicher. 0 lässt ihn, wie er freigestellt wurde.</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Überblenden</translation>
+    </message>
+    <message>
+        <source>Best is slower and cleaner in fine hair.</source>
+        <translation>Am besten ist langsamer und in feinem Haar sauberer.</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Am besten</translation>
+    </message>
+    <message>
+        <source>Blue screen</source>
+        <translation>Blaue Leinwand</translation>
+    </message>
+    <message>
+        <source>The screen is blue and not green.</source>
+        <translation>Die Leinwand ist blau und nicht grün.</translation>
+    </message>
+    <message>
+        <source>Transparent picture</source>
+        <translation>Durchsichtiges Bild</translation>
+    </message>
+    <message>
+        <source>Saves the subject alone, without a background. It wants PNG or TIFF.</source>
+        <translation>Speichert die Person allein, ohne Hintergrund. Braucht PNG oder TIFF.</translation>
+    </message>
+    <message>
+        <source>Hair and fine detail</source>
+        <translation>Haare und feine Details</translation>
+    </message>
+    <message>
+        <source>Look for hair</source>
+        <translation>Haare suchen</translation>
+    </message>
+    <message>
+        <source>Finds the colour of the hair in the picture and keys it with care.</source>
+        <translation>Findet die Haarfarbe im Bild und stellt die Haare behutsam frei.</translation>
+    </message>
+    <message>
+        <source>Remove shadows on the screen</source>
+        <translation>Schatten auf der Leinwand entfernen</translation>
+    </message>
+    <message>
+        <source>Clears green shadows that the subject throws on the screen.</source>
+        <translation>Räumt grüne Schatten weg, die die Person auf die Leinwand wirft.</translation>
+    </message>
+    <message>
+        <source>No green screen</source>
+        <translation>Keine Leinwand</translation>
+    </message>
+    <message>
+        <source>The portrait has no screen; nothing is keyed.</source>
+        <translation>Das Porträt hat keine Leinwand; nichts wird freigestellt.</translation>
+    </message>
+    <message>
+        <source>Refined key</source>
+        <translation>Verfeinertes Freistellen</translation>
+    </message>
+    <message>
+        <source>A second look at hair and edges. Takes a little longer.</source>
+        <translation>Ein zweiter Blick auf Haare und Kanten. Dauert etwas länger.</translation>
+    </message>
+    <message>
+        <source>Soft edges</source>
+        <translation>Weiche Kanten</translation>
+    </message>
+    <message>
+        <source>Edges of the refined key. To the left they are hard, to the right soft.</source>
+        <translation>Kanten des verfeinerten Freistellens. Links sind sie hart, rechts weich.</translation>
+    </message>
+    <message>
+        <source>Fine hair</source>
+        <translation>Feines Haar</translation>
+    </message>
+    <message>
+        <source>Fine detail of the refined key. To the right more single hairs come back.</source>
+        <translation>Feine Details des verfeinerten Freistellens. Nach rechts kommen mehr einzelne Haare zurück.</translation>
+    </message>
+    <message>
+        <source>Green of its own</source>
+        <translation>Eigenes Grün</translation>
+    </message>
+    <message>
+        <source>Green that belongs to the subject. To the right the refined key keeps more.</source>
+        <translation>Grün, das zur Person gehört. Nach rechts behält das verfeinerte Freistellen mehr.</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Makes the layer darker to the left, brighter to the right.</source>
+        <translation>Macht die Ebene links dunkler, rechts heller.</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>The distance of light and dark. 50 leaves it as it is.</source>
+        <translation>Der Abstand von Hell und Dunkel. 50 lässt ihn, wie er ist.</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Paler colours to the left, stronger ones to the right.</source>
+        <translation>Links blassere Farben, rechts kräftigere.</translation>
+    </message>
+    <message>
+        <source>Lift shadows</source>
+        <translation>Tiefen aufhellen</translation>
+    </message>
+    <message>
+        <source>Brightens the dark parts and leaves the light ones.</source>
+        <translation>Hellt die dunklen Teile auf und lässt die hellen.</translation>
+    </message>
+    <message>
+        <source>Lower highlights</source>
+        <translation>Lichter abdunkeln</translation>
+    </message>
+    <message>
+        <source>Darkens the brightest parts, such as shiny skin.</source>
+        <translation>Dunkelt die hellsten Teile ab, etwa glänzende Haut.</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Schärfen</translation>
+    </message>
+    <message>
+        <source>Makes fine detail crisper.</source>
+        <translation>Macht feine Details knackiger.</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Less red to the left, more to the right.</source>
+        <translation>Links weniger Rot, rechts mehr.</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Less green to the left, more to the right.</source>
+        <translation>Links weniger Grün, rechts mehr.</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Less blue to the left, more to the right.</source>
+        <translation>Links weniger Blau, rechts mehr.</translation>
+    </message>
+    <message>
+        <source>Cooler</source>
+        <translation>Kühler</translation>
+    </message>
+    <message>
+        <source>Takes warmth out of the light.</source>
+        <translation>Nimmt Wärme aus dem Licht.</translation>
+    </message>
+    <message>
+        <source>Warmer</source>
+        <translation>Wärmer</translation>
+    </message>
+    <message>
+        <source>Puts warmth into the light.</source>
+        <translation>Bringt Wärme ins Licht.</translation>
+    </message>
+    <message>
+        <source>Place and size</source>
+        <translation>Lage und Größe</translation>
+    </message>
+    <message>
+        <source>Size, percent</source>
+        <translation>Größe, Prozent</translation>
+    </message>
+    <message>
+        <source>100 percent fits the layer to the picture. To the right it grows.</source>
+        <translation>100 Prozent passt die Ebene ins Bild ein. Nach rechts wächst sie.</translation>
+    </message>
+    <message>
+        <source>Left, right</source>
+        <translation>Links, rechts</translation>
+    </message>
+    <message>
+        <source>Moves the layer, in thousandths of the picture&apos;s width.</source>
+        <translation>Verschiebt die Ebene, in Tausendsteln der Bildbreite.</translation>
+    </message>
+    <message>
+        <source>Down, up</source>
+        <translation>Unten, oben</translation>
+    </message>
+    <message>
+        <source>Moves the layer, in thousandths of the picture&apos;s height.</source>
+        <translation>Verschiebt die Ebene, in Tausendsteln der Bildhöhe.</translation>
+    </message>
+    <message>
+        <source>Rotate and flip</source>
+        <translation>Drehen und spiegeln</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Turns the layer by quarters.</source>
+        <translation>Dreht die Ebene um Viertel.</translation>
+    </message>
+    <message>
+        <source>Straighten</source>
+        <translation>Gerade richten</translation>
+    </message>
+    <message>
+        <source>Tilts the layer by degrees. The number takes tenths.</source>
+        <translation>Neigt die Ebene um Grade. Die Zahl nimmt Zehntel.</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <source>Left and right change places.</source>
+        <translation>Links und rechts tauschen die Plätze.</translation>
+    </message>
+    <message>
+        <source>Cuts this much of the portrait off, in percent, such as the edge of the screen.</source>
+        <translation>Schneidet so viel vom Porträt ab, in Prozent, etwa den Rand der Leinwand.</translation>
+    </message>
+    <message>
+        <source>Clip the portrait</source>
+        <translation>Porträt beschneiden</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Binder</name>
+    <message>
+        <source>Reset %1</source>
+        <translation>%1 zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ChoiceRow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Commands</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Freistellen</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Was sie tut</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <translation>Pfeile</translation>
+    </message>
+    <message>
+        <source>Move a slider; with Shift finer, with Ctrl coarser</source>
+        <translation>Einen Regler bewegen; mit Umschalt feiner, mit Strg gröber</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Put the default of a slider back</source>
+        <translation>Den Vorgabewert eines Reglers zurückholen</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Rad</translation>
+    </message>
+    <message>
+        <source>Zoom about the pointer</source>
+        <translation>Um den Zeiger vergrößern</translation>
+    </message>
+    <message>
+        <source>Space or middle button</source>
+        <translation>Leertaste oder mittlere Taste</translation>
+    </message>
+    <message>
+        <source>Hold and drag to move the picture</source>
+        <translation>Halten und ziehen, um das Bild zu bewegen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ControlRow</name>
+    <message>
+        <source>Changed; a click puts the default back</source>
+        <translation>Geändert; ein Klick holt den Vorgabewert zurück</translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>%1 zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::GroupBox</name>
+    <message>
+        <source>Fold the group away, or open it</source>
+        <translation>Die Gruppe zuklappen oder öffnen</translation>
+    </message>
+    <message>
+        <source>reset</source>
+        <translation>zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>%1 zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Put all defaults of this group back</source>
+        <translation>Alle Vorgabewerte dieser Gruppe zurückholen</translation>
+    </message>
+    <message>
+        <source>folded</source>
+        <translation>zugeklappt</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>offen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::MainWindow</name>
+    <message>
+        <source>Turns the whole layer</source>
+        <translation>Dreht die ganze Ebene</translation>
+    </message>
+    <message>
+        <source>The colours of the window</source>
+        <translation>Die Farben des Fensters</translation>
+    </message>
+    <message>
+        <source>Select Foreground File</source>
+        <translation>Vordergrunddatei wählen</translation>
+    </message>
+    <message>
+        <source>Select Background File</source>
+        <translation>Hintergrunddatei wählen</translation>
+    </message>
+    <message>
+        <source>Main Window - Adjust/Load Mode</source>
+        <translation>Hauptfenster - Anpassen/Laden</translation>
+    </message>
+    <message>
+        <source>Nothing to take back</source>
+        <translation>Nichts zurückzunehmen</translation>
+    </message>
+    <message>
+        <source>Take back: %1</source>
+        <translation>Zurücknehmen: %1</translation>
+    </message>
+    <message>
+        <source>Nothing to do again</source>
+        <translation>Nichts zu wiederholen</translation>
+    </message>
+    <message>
+        <source>Do again: %1</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Nothing yet</source>
+        <translation>Noch nichts</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved.</source>
+        <translation>Die Einstellungen können nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Open State</source>
+        <translation>Stand öffnen</translation>
+    </message>
+    <message>
+        <source>Save State</source>
+        <translation>Stand speichern</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>The picture is not finished yet.</source>
+        <translation>Das Bild ist noch nicht fertig.</translation>
+    </message>
+    <message>
+        <source>The picture is not frozen.</source>
+        <translation>Das Bild ist nicht eingefroren.</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>The window closes when everything is saved.</source>
+        <translation>Das Fenster schließt, sobald alles gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Place of the background</source>
+        <translation>Lage des Hintergrunds</translation>
+    </message>
+    <message>
+        <source>Place of the portrait</source>
+        <translation>Lage des Porträts</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <source>Not everything is as it should be at the start.</source>
+        <translation>Beim Start ist nicht alles, wie es sein soll.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Output size </source>
+        <translation>Ausgabegröße </translation>
+    </message>
+    <message>
+        <source>Before, as long as it is held</source>
+        <translation>Vorher, solange gehalten wird</translation>
+    </message>
+    <message>
+        <source>Hold it to see the portrait as it was taken; the key B does the same</source>
+        <translation>Halten, um das Porträt wie aufgenommen zu sehen; die Taste B tut dasselbe</translation>
+    </message>
+    <message>
+        <source>Full picture %1 %</source>
+        <translation>Volles Bild %1 %</translation>
+    </message>
+    <message>
+        <source>Progress of the full picture</source>
+        <translation>Fortschritt des vollen Bildes</translation>
+    </message>
+    <message>
+        <source>%1 x %2, %3 dpi</source>
+        <translation>%1 x %2, %3 dpi</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Saving...</source>
+        <translation>Speichert...</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Return To Lightroom</source>
+        <translation>Zurück zu Lightroom</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Open &amp;Portrait...</source>
+        <translation>&amp;Porträt öffnen...</translation>
+    </message>
+    <message>
+        <source>Opens a portrait in front of a green or blue screen</source>
+        <translation>Öffnet ein Porträt vor grüner oder blauer Leinwand</translation>
+    </message>
+    <message>
+        <source>Open &amp;Background...</source>
+        <translation>&amp;Hintergrund öffnen...</translation>
+    </message>
+    <message>
+        <source>Lays another picture behind the portrait</source>
+        <translation>Legt ein anderes Bild hinter das Porträt</translation>
+    </message>
+    <message>
+        <source>Open S&amp;tate...</source>
+        <translation>&amp;Stand öffnen...</translation>
+    </message>
+    <message>
+        <source>Brings every setting and both pictures back</source>
+        <translation>Holt alle Einstellungen und beide Bilder zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>S&amp;peichern</translation>
+    </message>
+    <message>
+        <source>Saves the finished picture</source>
+        <translation>Speichert das fertige Bild</translation>
+    </message>
+    <message>
+        <source>Save State &amp;As...</source>
+        <translation>Stand speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Saves every setting, to go on with later</source>
+        <translation>Speichert alle Einstellungen, um später weiterzumachen</translation>
+    </message>
+    <message>
+        <source>&amp;Frame New Portraits</source>
+        <translation>Neue Porträts &amp;einpassen</translation>
+    </message>
+    <message>
+        <source>Places portraits around their subject</source>
+        <translation>Legt Porträts um ihre Person herum</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes the last change of a setting back</source>
+        <translation>Nimmt die letzte Änderung einer Einstellung zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Does again what was taken back</source>
+        <translation>Macht wieder, was zurückgenommen wurde</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Control</source>
+        <translation>Regler &amp;finden</translation>
+    </message>
+    <message>
+        <source>Searches the controls by words</source>
+        <translation>Sucht die Regler nach Wörtern</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>&amp;Einpassen</translation>
+    </message>
+    <message>
+        <source>Shows the whole picture</source>
+        <translation>Zeigt das ganze Bild</translation>
+    </message>
+    <message>
+        <source>A Little &amp;Larger</source>
+        <translation>Etwas &amp;größer</translation>
+    </message>
+    <message>
+        <source>A tenth larger</source>
+        <translation>Ein Zehntel größer</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>A pixel of the picture on a pixel of the screen</source>
+        <translation>Ein Bildpunkt des Bildes auf einem des Bildschirms</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Größer</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message>
+        <source>Before (hold the key)</source>
+        <translation>Vorher (Taste halten)</translation>
+    </message>
+    <message>
+        <source>The portrait as it was taken</source>
+        <translation>Das Porträt, wie es aufgenommen wurde</translation>
+    </message>
+    <message>
+        <source>&amp;Alpha</source>
+        <translation>&amp;Alpha</translation>
+    </message>
+    <message>
+        <source>What the key leaves of the portrait: dark stays, light goes</source>
+        <translation>Was vom Porträt bleibt: Dunkles bleibt, Helles geht</translation>
+    </message>
+    <message>
+        <source>Save the State with Every &amp;Picture</source>
+        <translation>Stand mit jedem &amp;Bild speichern</translation>
+    </message>
+    <message>
+        <source>Writes a state file of the same name beside each saved picture</source>
+        <translation>Schreibt neben jedes gespeicherte Bild eine Standdatei gleichen Namens</translation>
+    </message>
+    <message>
+        <source>&amp;Controls</source>
+        <translation>&amp;Regler</translation>
+    </message>
+    <message>
+        <source>Folds the controls away, or shows them</source>
+        <translation>Blendet die Regler aus oder ein</translation>
+    </message>
+    <message>
+        <source>Full &amp;Screen</source>
+        <translation>&amp;Vollbild</translation>
+    </message>
+    <message>
+        <source>Nothing but the program on the screen</source>
+        <translation>Nur das Programm auf dem Bildschirm</translation>
+    </message>
+    <message>
+        <source>Colours of the &amp;Desktop</source>
+        <translation>Farben der &amp;Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source>L&amp;ight Colours</source>
+        <translation>&amp;Helle Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Dark Colours</source>
+        <translation>&amp;Dunkle Farben</translation>
+    </message>
+    <message>
+        <source>Portrait: Upright</source>
+        <translation>Porträt: aufrecht</translation>
+    </message>
+    <message>
+        <source>Portrait: 90 Degrees</source>
+        <translation>Porträt: 90 Grad</translation>
+    </message>
+    <message>
+        <source>Portrait: 270 Degrees</source>
+        <translation>Porträt: 270 Grad</translation>
+    </message>
+    <message>
+        <source>Background: Upright</source>
+        <translation>Hintergrund: aufrecht</translation>
+    </message>
+    <message>
+        <source>Background: 90 Degrees</source>
+        <translation>Hintergrund: 90 Grad</translation>
+    </message>
+    <message>
+        <source>Background: 270 Degrees</source>
+        <translation>Hintergrund: 270 Grad</translation>
+    </message>
+    <message>
+        <source>&amp;Freeze into the Background</source>
+        <translation>In den Hintergrund &amp;einfrieren</translation>
+    </message>
+    <message>
+        <source>The picture becomes the background, and another portrait can go before it</source>
+        <translation>Das Bild wird zum Hintergrund, und ein anderes Porträt kann davor</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the Freeze</source>
+        <translation>Einfrieren &amp;aufheben</translation>
+    </message>
+    <message>
+        <source>Portrait and background are what their files are again</source>
+        <translation>Porträt und Hintergrund sind wieder, was ihre Dateien sind</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Every key and what it does</source>
+        <translation>Jede Taste und was sie tut</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::MessageBar</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Show the reason</source>
+        <translation>Den Grund zeigen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::MouseMode</name>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>A drag on the picture moves the layer</source>
+        <translation>Ziehen auf dem Bild verschiebt die Ebene</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>A drag up makes the layer larger, a drag down smaller</source>
+        <translation>Ziehen nach oben macht die Ebene größer, nach unten kleiner</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Porträt</translation>
+    </message>
+    <message>
+        <source>Drags act on the portrait</source>
+        <translation>Ziehen wirkt auf das Porträt</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Drags act on the background</source>
+        <translation>Ziehen wirkt auf den Hintergrund</translation>
+    </message>
+    <message>
+        <source>Mouse: %1</source>
+        <translation>Maus: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureFiles</name>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>State files (*.qlx)</source>
+        <translation>Standdateien (*.qlx)</translation>
+    </message>
+    <message>
+        <source>The state file cannot be opened.</source>
+        <translation>Die Standdatei kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The state file cannot be saved.</source>
+        <translation>Die Standdatei kann nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureView</name>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Drop a portrait on the left half
+and a background on the right half,
+or open them from the File menu.</source>
+        <translation>Ein Porträt auf die linke Hälfte ziehen
+und einen Hintergrund auf die rechte,
+oder beide im Menü Datei öffnen.</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Porträt</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SidePanel</name>
+    <message>
+        <source>Adjust</source>
+        <translation>Anpassen</translation>
+    </message>
+    <message>
+        <source>Search the controls</source>
+        <translation>Regler suchen</translation>
+    </message>
+    <message>
+        <source>Finds a control by words of its name, its tip or its setting</source>
+        <translation>Findet einen Regler nach Wörtern seines Namens, Tipps oder seiner Einstellung</translation>
+    </message>
+    <message>
+        <source>No control has these words.</source>
+        <translation>Kein Regler hat diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Adjust: %1</source>
+        <translation>Anpassen: %1</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Porträt</translation>
+    </message>
+    <message>
+        <source>The controls below change the portrait</source>
+        <translation>Die Regler darunter ändern das Porträt</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>The controls below change the background</source>
+        <translation>Die Regler darunter ändern den Hintergrund</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SizeBox</name>
+    <message>
+        <source>Output size</source>
+        <translation>Ausgabegröße</translation>
+    </message>
+    <message>
+        <source>Size and resolution of the finished picture</source>
+        <translation>Größe und Auflösung des fertigen Bildes</translation>
+    </message>
+    <message>
+        <source>%1 (this picture only)</source>
+        <translation>%1 (nur dieses Bild)</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SliderRow</name>
+    <message>
+        <source>%1, number</source>
+        <translation>%1, Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number; %2 stays as it was.</source>
+        <translation>„%1“ ist keine Zahl; %2 bleibt, wie es war.</translation>
+    </message>
+    <message>
+        <source>%1 goes from %2 to %3; it was set to %4.</source>
+        <translation>%1 geht von %2 bis %3; es steht jetzt auf %4.</translation>
+    </message>
+</context>
+</TS>
