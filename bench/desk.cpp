@@ -1,5 +1,5 @@
 // How the window feels, in figures: start, the longest event of the main thread while a slider is dragged, from a
-// move to the preview on the screen, and painting. desk_bench [SECONDS of dragging]
+// move to the preview on the screen, painting, and the strip. desk_bench [SECONDS of dragging]
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -15,6 +15,7 @@
 
 #include "core/files/Places.h"
 #include "core/raster/PixelMemory.h"
+#include "desk/StripFigures.h"
 #include "session/OutputSizes.h"
 #include "session/StartUp.h"
 #include "ui/bind/Groove.h"
@@ -184,5 +185,17 @@ int main(int argc, char** argv) {
     paint(window, *info, "at 100 percent");
     window.view()->zoomBy(3.0);
     paint(window, *info, "at 300 percent");
+
+    window.view()->setZoomHome();
+    qputenv("XDG_CACHE_HOME", account.filePath("cache").toLocal8Bit());
+    const bench::Desk desk{window, *info, [&] { waitForPicture(window, *info); },
+                           [&] { application.longestUsed.clear(); },
+                           [&] {
+                               double most = 0.0;
+                               for (const auto& [type, used] : application.longestUsed)
+                                   most = std::max(most, used);
+                               return most;
+                           }};
+    bench::measureStrip(desk, account.filePath("pictures").toStdString());
     return 0;
 }

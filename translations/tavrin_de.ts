@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Chips</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Menu</name>
     <message>
         <source>&amp;File</source>
@@ -492,10 +499,64 @@
     </message>
 </context>
 <context>
+    <name>tavrin::ActionSearch</name>
+    <message>
+        <source>Find an Action</source>
+        <translation>Befehl suchen</translation>
+    </message>
+    <message>
+        <source>What to do, or which control</source>
+        <translation>Was zu tun ist, oder welcher Regler</translation>
+    </message>
+    <message>
+        <source>Words in any order; arrows choose, Enter takes</source>
+        <translation>Wörter in beliebiger Reihenfolge; Pfeile wählen, die Eingabetaste nimmt</translation>
+    </message>
+    <message>
+        <source>Commands and controls</source>
+        <translation>Befehle und Regler</translation>
+    </message>
+    <message>
+        <source>%1   (%2)</source>
+        <translation>%1   (%2)</translation>
+    </message>
+    <message>
+        <source>Nothing has these words.</source>
+        <translation>Nichts hat diese Wörter.</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::Binder</name>
     <message>
         <source>Reset %1</source>
         <translation>%1 zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Chips</name>
+    <message>
+        <source>Set here; a click leads to the control</source>
+        <translation>Hier gesetzt; ein Klick führt zum Regler</translation>
+    </message>
+    <message>
+        <source>Put the default back</source>
+        <translation>Vorgabewert zurückholen</translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>%1 zurücksetzen</translation>
+    </message>
+    <message>
+        <source>fewer</source>
+        <translation>weniger</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 mehr</translation>
+    </message>
+    <message>
+        <source>Shows what else is set here, or only the first</source>
+        <translation>Zeigt, was hier noch gesetzt ist, oder nur das erste</translation>
     </message>
 </context>
 <context>
@@ -551,6 +612,30 @@
         <source>Hold and drag to move the picture</source>
         <translation>Halten und ziehen, um das Bild zu bewegen</translation>
     </message>
+    <message>
+        <source>Arrows on the picture</source>
+        <translation>Pfeile auf dem Bild</translation>
+    </message>
+    <message>
+        <source>Move what is shown; with Shift by a point</source>
+        <translation>Den Ausschnitt verschieben; mit Umschalt um einen Punkt</translation>
+    </message>
+    <message>
+        <source>Arrows on the line between before and after</source>
+        <translation>Pfeile auf der Linie zwischen vorher und nachher</translation>
+    </message>
+    <message>
+        <source>Move the line</source>
+        <translation>Die Linie verschieben</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation>Links, Rechts</translation>
+    </message>
+    <message>
+        <source>On the picture or the strip: open the portrait before, or the next one</source>
+        <translation>Auf dem Bild oder dem Streifen: das vorige oder nächste Porträt öffnen</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ControlRow</name>
@@ -588,6 +673,389 @@
     <message>
         <source>open</source>
         <translation>offen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::HistoryPanel</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Steps of this portrait</source>
+        <translation>Schritte dieses Porträts</translation>
+    </message>
+    <message>
+        <source>A click goes back or forth to that step</source>
+        <translation>Ein Klick geht zu diesem Schritt zurück oder vor</translation>
+    </message>
+    <message>
+        <source>At the start</source>
+        <translation>Am Anfang</translation>
+    </message>
+    <message>
+        <source>%1, taken back</source>
+        <translation>%1, zurückgenommen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ItemTool</name>
+    <message>
+        <source>Place of an item</source>
+        <translation>Lage eines Elements</translation>
+    </message>
+    <message>
+        <source>Size of an item</source>
+        <translation>Größe eines Elements</translation>
+    </message>
+    <message>
+        <source>Edit Picture Item</source>
+        <translation>Bildelement bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit Text</source>
+        <translation>Text bearbeiten</translation>
+    </message>
+    <message>
+        <source>File of the picture</source>
+        <translation>Datei des Bildes</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text of an item</source>
+        <translation>Text eines Elements</translation>
+    </message>
+    <message>
+        <source>Are you shure you want to delete the text?</source>
+        <translation>Soll der Text wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LookDesk</name>
+    <message>
+        <source>Looks and state files (*.qlx)</source>
+        <translation>Looks und Standdateien (*.qlx)</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>The look is copied. Ctrl+Shift+V pastes it on another portrait.</source>
+        <translation>Der Look ist kopiert. Strg+Umschalt+V fügt ihn auf einem anderen Porträt ein.</translation>
+    </message>
+    <message>
+        <source>Portrait: %1</source>
+        <translation>Porträt: %1</translation>
+    </message>
+    <message>
+        <source>Background: %1</source>
+        <translation>Hintergrund: %1</translation>
+    </message>
+    <message>
+        <source>This portrait has that look already.</source>
+        <translation>Dieses Porträt hat diesen Look schon.</translation>
+    </message>
+    <message>
+        <source>No look was copied yet. Ctrl+Shift+C copies the present one.</source>
+        <translation>Noch kein Look kopiert. Strg+Umschalt+C kopiert den jetzigen.</translation>
+    </message>
+    <message>
+        <source>Paste a Look</source>
+        <translation>Look einfügen</translation>
+    </message>
+    <message>
+        <source>Paste a look</source>
+        <translation>Look einfügen</translation>
+    </message>
+    <message>
+        <source>Paste a Look on %1 Portraits</source>
+        <translation>Look auf %1 Porträts einfügen</translation>
+    </message>
+    <message>
+        <source>Select Portraits for the Look</source>
+        <translation>Porträts für den Look wählen</translation>
+    </message>
+    <message>
+        <source>Save Look</source>
+        <translation>Look speichern</translation>
+    </message>
+    <message>
+        <source>Name of the look:</source>
+        <translation>Name des Looks:</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Look</translation>
+    </message>
+    <message>
+        <source>There is a look %1 already. Replace it?</source>
+        <translation>Es gibt schon einen Look %1. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>The look is not saved.</source>
+        <translation>Der Look ist nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Saved the look %1</source>
+        <translation>Der Look %1 ist gespeichert</translation>
+    </message>
+    <message>
+        <source>The look cannot be taken.</source>
+        <translation>Der Look kann nicht übernommen werden.</translation>
+    </message>
+    <message>
+        <source>Take the Look %1</source>
+        <translation>Den Look %1 übernehmen</translation>
+    </message>
+    <message>
+        <source>Look %1</source>
+        <translation>Look %1</translation>
+    </message>
+    <message>
+        <source>Rename Look</source>
+        <translation>Look umbenennen</translation>
+    </message>
+    <message>
+        <source>New name of %1:</source>
+        <translation>Neuer Name von %1:</translation>
+    </message>
+    <message>
+        <source>The look keeps its name.</source>
+        <translation>Der Look behält seinen Namen.</translation>
+    </message>
+    <message>
+        <source>The look is not deleted.</source>
+        <translation>Der Look ist nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>Delete the look %1</source>
+        <translation>Den Look %1 löschen</translation>
+    </message>
+    <message>
+        <source>The look does not come back.</source>
+        <translation>Der Look kommt nicht zurück.</translation>
+    </message>
+    <message>
+        <source>Deleted the look %1. Undo brings it back.</source>
+        <translation>Der Look %1 ist gelöscht. Rückgängig holt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>Import Look</source>
+        <translation>Look importieren</translation>
+    </message>
+    <message>
+        <source>There is a look %1 already.</source>
+        <translation>Es gibt schon einen Look %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Skip It</source>
+        <translation>&amp;Auslassen</translation>
+    </message>
+    <message>
+        <source>Import under &amp;Another Name</source>
+        <translation>Unter &amp;anderem Namen importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Replace the Old One</source>
+        <translation>Alten &amp;ersetzen</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the look %1 is the old one.</source>
+        <translation>Nichts importiert; der Look %1 ist der alte.</translation>
+    </message>
+    <message>
+        <source>The look is not imported.</source>
+        <translation>Der Look ist nicht importiert.</translation>
+    </message>
+    <message>
+        <source>Imported %1 as the look %2</source>
+        <translation>%1 ist als Look %2 importiert</translation>
+    </message>
+    <message>
+        <source>Export Look</source>
+        <translation>Look exportieren</translation>
+    </message>
+    <message>
+        <source>The look is not exported.</source>
+        <translation>Der Look ist nicht exportiert.</translation>
+    </message>
+    <message>
+        <source>Exported the look %1 to %2</source>
+        <translation>Der Look %1 ist nach %2 exportiert</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the Look</source>
+        <translation>Look &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Takes the look of this portrait, to paste it on others</source>
+        <translation>Nimmt den Look dieses Porträts, um ihn auf andere einzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Paste the Look...</source>
+        <translation>Look &amp;einfügen...</translation>
+    </message>
+    <message>
+        <source>Shows what the copied look changes here, and pastes what is ticked</source>
+        <translation>Zeigt, was der kopierte Look hier ändert, und fügt ein, was angehakt ist</translation>
+    </message>
+    <message>
+        <source>Paste the Look on P&amp;ortraits...</source>
+        <translation>Look auf P&amp;orträts einfügen...</translation>
+    </message>
+    <message>
+        <source>Pastes the copied look on many portraits at once</source>
+        <translation>Fügt den kopierten Look auf vielen Porträts zugleich ein</translation>
+    </message>
+    <message>
+        <source>Save as My &amp;Look...</source>
+        <translation>Als meinen &amp;Look speichern...</translation>
+    </message>
+    <message>
+        <source>Keeps all settings under a name</source>
+        <translation>Bewahrt alle Einstellungen unter einem Namen</translation>
+    </message>
+    <message>
+        <source>&amp;Import a Look...</source>
+        <translation>Look &amp;importieren...</translation>
+    </message>
+    <message>
+        <source>Takes a look or a state file into my looks</source>
+        <translation>Nimmt einen Look oder eine Standdatei in meine Looks auf</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LookDialog</name>
+    <message>
+        <source>Key</source>
+        <translation>Freistellen</translation>
+    </message>
+    <message>
+        <source>Hair</source>
+        <translation>Haare</translation>
+    </message>
+    <message>
+        <source>Light and colour</source>
+        <translation>Licht und Farbe</translation>
+    </message>
+    <message>
+        <source>Skin and smoothing</source>
+        <translation>Haut und Glättung</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effekte</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Place and size</source>
+        <translation>Lage und Größe</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Beschnitt</translation>
+    </message>
+    <message>
+        <source>What the look changes</source>
+        <translation>Was der Look ändert</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Dann</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Take What Is Ticked</source>
+        <translation>Angehaktes übernehmen</translation>
+    </message>
+    <message>
+        <source>One step of undo brings all of it back.</source>
+        <translation>Ein Schritt Rückgängig holt alles zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LooksPanel</name>
+    <message>
+        <source>My Looks</source>
+        <translation>Meine Looks</translation>
+    </message>
+    <message>
+        <source>A double click or Enter takes the look; the pictures stay</source>
+        <translation>Ein Doppelklick oder die Eingabetaste übernimmt den Look; die Bilder bleiben</translation>
+    </message>
+    <message>
+        <source>Take...</source>
+        <translation>Übernehmen...</translation>
+    </message>
+    <message>
+        <source>Shows what the look changes, and takes what is ticked</source>
+        <translation>Zeigt, was der Look ändert, und übernimmt, was angehakt ist</translation>
+    </message>
+    <message>
+        <source>Save as...</source>
+        <translation>Speichern als...</translation>
+    </message>
+    <message>
+        <source>Keeps the present settings under a name</source>
+        <translation>Bewahrt die jetzigen Einstellungen unter einem Namen</translation>
+    </message>
+    <message>
+        <source>Rename...</source>
+        <translation>Umbenennen...</translation>
+    </message>
+    <message>
+        <source>Gives the look another name</source>
+        <translation>Gibt dem Look einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Deletes the look; undo brings it back</source>
+        <translation>Löscht den Look; Rückgängig holt ihn zurück</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importieren...</translation>
+    </message>
+    <message>
+        <source>Takes a look or a state file into the list</source>
+        <translation>Nimmt einen Look oder eine Standdatei in die Liste auf</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportieren...</translation>
+    </message>
+    <message>
+        <source>Writes the look to a file, for another machine</source>
+        <translation>Schreibt den Look in eine Datei, für einen anderen Rechner</translation>
     </message>
 </context>
 <context>
@@ -665,22 +1133,6 @@
         <translation>Das Fenster schließt, sobald alles gespeichert ist.</translation>
     </message>
     <message>
-        <source>Place of the background</source>
-        <translation>Lage des Hintergrunds</translation>
-    </message>
-    <message>
-        <source>Place of the portrait</source>
-        <translation>Lage des Porträts</translation>
-    </message>
-    <message>
-        <source>Before</source>
-        <translation>Vorher</translation>
-    </message>
-    <message>
-        <source>Alpha</source>
-        <translation>Alpha</translation>
-    </message>
-    <message>
         <source>Not everything is as it should be at the start.</source>
         <translation>Beim Start ist nicht alles, wie es sein soll.</translation>
     </message>
@@ -695,14 +1147,6 @@
     <message>
         <source>Output size </source>
         <translation>Ausgabegröße </translation>
-    </message>
-    <message>
-        <source>Before, as long as it is held</source>
-        <translation>Vorher, solange gehalten wird</translation>
-    </message>
-    <message>
-        <source>Hold it to see the portrait as it was taken; the key B does the same</source>
-        <translation>Halten, um das Porträt wie aufgenommen zu sehen; die Taste B tut dasselbe</translation>
     </message>
     <message>
         <source>Full picture %1 %</source>
@@ -853,22 +1297,6 @@
         <translation>Kleiner</translation>
     </message>
     <message>
-        <source>Before (hold the key)</source>
-        <translation>Vorher (Taste halten)</translation>
-    </message>
-    <message>
-        <source>The portrait as it was taken</source>
-        <translation>Das Porträt, wie es aufgenommen wurde</translation>
-    </message>
-    <message>
-        <source>&amp;Alpha</source>
-        <translation>&amp;Alpha</translation>
-    </message>
-    <message>
-        <source>What the key leaves of the portrait: dark stays, light goes</source>
-        <translation>Was vom Porträt bleibt: Dunkles bleibt, Helles geht</translation>
-    </message>
-    <message>
         <source>Save the State with Every &amp;Picture</source>
         <translation>Stand mit jedem &amp;Bild speichern</translation>
     </message>
@@ -952,6 +1380,162 @@
         <source>Every key and what it does</source>
         <translation>Jede Taste und was sie tut</translation>
     </message>
+    <message>
+        <source>Not every setting could be taken up.</source>
+        <translation>Nicht jede Einstellung konnte übernommen werden.</translation>
+    </message>
+    <message>
+        <source>Tavrin ended without being closed. The work on %1 was kept.</source>
+        <translation>Tavrin endete, ohne geschlossen zu werden. Die Arbeit an %1 wurde aufgehoben.</translation>
+    </message>
+    <message>
+        <source>Take Up</source>
+        <translation>Weitermachen</translation>
+    </message>
+    <message>
+        <source>Brings both pictures, every setting and the history back</source>
+        <translation>Holt beide Bilder, alle Einstellungen und den Verlauf zurück</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Removes what was kept</source>
+        <translation>Entfernt, was aufgehoben wurde</translation>
+    </message>
+    <message>
+        <source>The picture of %1 was changed and not saved since.</source>
+        <translation>Das Bild von %1 wurde geändert und seither nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Its settings are kept, and come back when the portrait is opened again.</source>
+        <translation>Seine Einstellungen bleiben erhalten und kommen zurück, wenn das Porträt wieder geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>Close &amp;without Saving</source>
+        <translation>Schließen &amp;ohne Speichern</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Folder of the Backgrounds</source>
+        <translation>Ordner der Hintergründe</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Freistellen</translation>
+    </message>
+    <message>
+        <source>Find an &amp;Action...</source>
+        <translation>Befehl &amp;suchen...</translation>
+    </message>
+    <message>
+        <source>Finds every command and control by words, and does or shows it</source>
+        <translation>Findet jeden Befehl und Regler nach Wörtern und führt ihn aus oder zeigt ihn</translation>
+    </message>
+    <message>
+        <source>&amp;Reset All Settings</source>
+        <translation>Alle Einstellungen &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Puts every default of both layers back, as one step</source>
+        <translation>Holt alle Vorgabewerte beider Ebenen zurück, als ein Schritt</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Verlauf</translation>
+    </message>
+    <message>
+        <source>Every step of this portrait</source>
+        <translation>Jeder Schritt dieses Porträts</translation>
+    </message>
+    <message>
+        <source>&amp;My Looks</source>
+        <translation>&amp;Meine Looks</translation>
+    </message>
+    <message>
+        <source>Looks by name: take, save, rename, delete, import, export</source>
+        <translation>Looks nach Namen: übernehmen, speichern, umbenennen, löschen, importieren, exportieren</translation>
+    </message>
+    <message>
+        <source>Open F&amp;older...</source>
+        <translation>&amp;Ordner öffnen...</translation>
+    </message>
+    <message>
+        <source>Fills the strip with a folder&apos;s portraits and opens the first</source>
+        <translation>Füllt den Streifen mit den Porträts eines Ordners und öffnet das erste</translation>
+    </message>
+    <message>
+        <source>S&amp;trip of Pictures</source>
+        <translation>Bilder&amp;streifen</translation>
+    </message>
+    <message>
+        <source>Shows the pictures of the strip, or folds them away</source>
+        <translation>Zeigt die Bilder des Streifens oder klappt sie weg</translation>
+    </message>
+    <message>
+        <source>&amp;Next Portrait</source>
+        <translation>&amp;Nächstes Porträt</translation>
+    </message>
+    <message>
+        <source>Opens the portrait that comes next in the strip</source>
+        <translation>Öffnet das nächste Porträt im Streifen</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Portrait</source>
+        <translation>&amp;Voriges Porträt</translation>
+    </message>
+    <message>
+        <source>Opens the portrait before this one in the strip</source>
+        <translation>Öffnet das Porträt davor im Streifen</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Keep</source>
+        <translation>Markieren: &amp;Behalten</translation>
+    </message>
+    <message>
+        <source>This portrait is good</source>
+        <translation>Dieses Porträt ist gut</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Reject</source>
+        <translation>Markieren: &amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>This portrait goes out; the next one is opened</source>
+        <translation>Dieses Porträt fällt weg; das nächste wird geöffnet</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Look Again</source>
+        <translation>Markieren: &amp;Nochmals ansehen</translation>
+    </message>
+    <message>
+        <source>This portrait needs another look</source>
+        <translation>Dieses Porträt muss nochmals angesehen werden</translation>
+    </message>
+    <message>
+        <source>&amp;Unmark</source>
+        <translation>Markierung &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Takes the mark from this portrait</source>
+        <translation>Nimmt diesem Porträt die Markierung</translation>
+    </message>
+    <message>
+        <source>Take the Last &amp;Mark Back</source>
+        <translation>Letzte &amp;Markierung zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Gives the portrait that was marked last the mark it had, and opens it</source>
+        <translation>Gibt dem zuletzt markierten Porträt seine alte Markierung und öffnet es</translation>
+    </message>
+    <message>
+        <source>The look waits, and is there when these portraits are opened: %1</source>
+        <translation>Der Look wartet und ist da, wenn diese Porträts geöffnet werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -983,16 +1567,8 @@
         <translation>Verschieben</translation>
     </message>
     <message>
-        <source>A drag on the picture moves the layer</source>
-        <translation>Ziehen auf dem Bild verschiebt die Ebene</translation>
-    </message>
-    <message>
         <source>Scale</source>
         <translation>Größe</translation>
-    </message>
-    <message>
-        <source>A drag up makes the layer larger, a drag down smaller</source>
-        <translation>Ziehen nach oben macht die Ebene größer, nach unten kleiner</translation>
     </message>
     <message>
         <source>Portrait</source>
@@ -1014,6 +1590,22 @@
         <source>Mouse: %1</source>
         <translation>Maus: %1</translation>
     </message>
+    <message>
+        <source>A drag on the picture moves what is chosen beside</source>
+        <translation>Ziehen auf dem Bild verschiebt, was daneben gewählt ist</translation>
+    </message>
+    <message>
+        <source>A drag up makes it larger, a drag down smaller</source>
+        <translation>Ziehen nach oben macht es größer, nach unten kleiner</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>A click selects a text or picture item, and drags act on it</source>
+        <translation>Ein Klick wählt einen Text oder ein Bild, und Ziehen wirkt darauf</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::PictureFiles</name>
@@ -1032,6 +1624,52 @@
     <message>
         <source>The state file cannot be saved.</source>
         <translation>Die Standdatei kann nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureList</name>
+    <message>
+        <source>keep</source>
+        <translation>behalten</translation>
+    </message>
+    <message>
+        <source>reject</source>
+        <translation>verwerfen</translation>
+    </message>
+    <message>
+        <source>look again</source>
+        <translation>nochmals ansehen</translation>
+    </message>
+    <message>
+        <source>open now</source>
+        <translation>jetzt offen</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureTools</name>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <source>Place of the background</source>
+        <translation>Lage des Hintergrunds</translation>
+    </message>
+    <message>
+        <source>Place of the portrait</source>
+        <translation>Lage des Porträts</translation>
     </message>
 </context>
 <context>
@@ -1056,6 +1694,63 @@ oder beide im Menü Datei öffnen.</translation>
         <source>Background</source>
         <translation>Hintergrund</translation>
     </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Safekeeping</name>
+    <message>
+        <source>The present settings cannot be kept for a next start.</source>
+        <translation>Die jetzigen Einstellungen können nicht für den nächsten Start aufgehoben werden.</translation>
+    </message>
+    <message>
+        <source>%1 on %2 portraits</source>
+        <translation>%1 auf %2 Porträts</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ScaleView</name>
+    <message>
+        <source>Map of the layer in the picture</source>
+        <translation>Karte der Ebene im Bild</translation>
+    </message>
+    <message>
+        <source>The layer in a small map of the picture: drag it to its place</source>
+        <translation>Die Ebene in einer kleinen Karte des Bildes: an ihren Platz ziehen</translation>
+    </message>
+    <message>
+        <source>Place of the portrait</source>
+        <translation>Lage des Porträts</translation>
+    </message>
+    <message>
+        <source>Place of the background</source>
+        <translation>Lage des Hintergrunds</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Shelf</name>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>%1 von %2 gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt;&amp;nbsp; %2</source>
+        <translation>&lt;b&gt;%1&lt;/b&gt;&amp;nbsp; %2</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>Der Ordner kann nicht gelesen werden.</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::SidePanel</name>
@@ -1066,10 +1761,6 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Search the controls</source>
         <translation>Regler suchen</translation>
-    </message>
-    <message>
-        <source>Finds a control by words of its name, its tip or its setting</source>
-        <translation>Findet einen Regler nach Wörtern seines Namens, Tipps oder seiner Einstellung</translation>
     </message>
     <message>
         <source>No control has these words.</source>
@@ -1094,6 +1785,14 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>The controls below change the background</source>
         <translation>Die Regler darunter ändern den Hintergrund</translation>
+    </message>
+    <message>
+        <source>Finds controls and commands by words in any order; Enter goes to the first</source>
+        <translation>Findet Regler und Befehle nach Wörtern in beliebiger Reihenfolge; die Eingabetaste geht zum ersten</translation>
+    </message>
+    <message>
+        <source>Reset all</source>
+        <translation>Alles zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1823,125 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>%1 goes from %2 to %3; it was set to %4.</source>
         <translation>%1 geht von %2 bis %3; es steht jetzt auf %4.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SplitLine</name>
+    <message>
+        <source>Line between before and after</source>
+        <translation>Linie zwischen vorher und nachher</translation>
+    </message>
+    <message>
+        <source>Drag it across the picture: the portrait as it was taken on its left, the result on its right</source>
+        <translation>Über das Bild ziehen: links das Porträt wie aufgenommen, rechts das Ergebnis</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::StoryPanel</name>
+    <message>
+        <source>Story of a pixel</source>
+        <translation>Geschichte eines Bildpunkts</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>schließen</translation>
+    </message>
+    <message>
+        <source>Close the story of the pixel</source>
+        <translation>Die Geschichte des Bildpunkts schließen</translation>
+    </message>
+    <message>
+        <source>Closes this panel; Esc does the same</source>
+        <translation>Schließt diese Tafel; Esc tut dasselbe</translation>
+    </message>
+    <message>
+        <source>This pixel</source>
+        <translation>Dieser Bildpunkt</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Strip</name>
+    <message>
+        <source>Portraits</source>
+        <translation>Porträts</translation>
+    </message>
+    <message>
+        <source>Backgrounds</source>
+        <translation>Hintergründe</translation>
+    </message>
+    <message>
+        <source>Folder...</source>
+        <translation>Ordner...</translation>
+    </message>
+    <message>
+        <source>Folder of the backgrounds</source>
+        <translation>Ordner der Hintergründe</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose backgrounds stand here</source>
+        <translation>Wählt den Ordner, dessen Hintergründe hier stehen</translation>
+    </message>
+    <message>
+        <source>Portraits shown</source>
+        <translation>Gezeigte Porträts</translation>
+    </message>
+    <message>
+        <source>Shows only the portraits with this mark</source>
+        <translation>Zeigt nur die Porträts mit dieser Markierung</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Unmarked</source>
+        <translation>Ohne Markierung</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Reject</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Nochmals ansehen</translation>
+    </message>
+    <message>
+        <source>There is no picture in the folder.</source>
+        <translation>Im Ordner ist kein Bild.</translation>
+    </message>
+    <message>
+        <source>The mark is not kept.</source>
+        <translation>Die Markierung wird nicht aufgehoben.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TextScaleView</name>
+    <message>
+        <source>Map of the selected item in the picture</source>
+        <translation>Karte des gewählten Elements im Bild</translation>
+    </message>
+    <message>
+        <source>The selected text or picture in a small map of the picture: drag it to its place</source>
+        <translation>Der gewählte Text oder das Bild in einer kleinen Karte: an seinen Platz ziehen</translation>
+    </message>
+    <message>
+        <source>Place of an item</source>
+        <translation>Lage eines Elements</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ZoomSlider</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Vergrößerung</translation>
+    </message>
+    <message>
+        <source>Smaller to the left, larger to the right</source>
+        <translation>Links kleiner, rechts größer</translation>
     </message>
 </context>
 </TS>

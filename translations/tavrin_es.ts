@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>Chips</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Menu</name>
     <message>
         <source>&amp;File</source>
@@ -492,10 +499,64 @@
     </message>
 </context>
 <context>
+    <name>tavrin::ActionSearch</name>
+    <message>
+        <source>Find an Action</source>
+        <translation>Buscar una acción</translation>
+    </message>
+    <message>
+        <source>What to do, or which control</source>
+        <translation>Qué hacer, o qué control</translation>
+    </message>
+    <message>
+        <source>Words in any order; arrows choose, Enter takes</source>
+        <translation>Palabras en cualquier orden; las flechas eligen, Intro toma</translation>
+    </message>
+    <message>
+        <source>Commands and controls</source>
+        <translation>Órdenes y controles</translation>
+    </message>
+    <message>
+        <source>%1   (%2)</source>
+        <translation>%1   (%2)</translation>
+    </message>
+    <message>
+        <source>Nothing has these words.</source>
+        <translation>Nada tiene estas palabras.</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::Binder</name>
     <message>
         <source>Reset %1</source>
         <translation>Restablecer %1</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Chips</name>
+    <message>
+        <source>Set here; a click leads to the control</source>
+        <translation>Ajustado aquí; un clic lleva al control</translation>
+    </message>
+    <message>
+        <source>Put the default back</source>
+        <translation>Devolver el valor inicial</translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>Restablecer %1</translation>
+    </message>
+    <message>
+        <source>fewer</source>
+        <translation>menos</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 más</translation>
+    </message>
+    <message>
+        <source>Shows what else is set here, or only the first</source>
+        <translation>Muestra lo demás ajustado aquí, o solo lo primero</translation>
     </message>
 </context>
 <context>
@@ -551,6 +612,30 @@
         <source>Hold and drag to move the picture</source>
         <translation>Mantener y arrastrar para mover la imagen</translation>
     </message>
+    <message>
+        <source>Arrows on the picture</source>
+        <translation>Flechas en la imagen</translation>
+    </message>
+    <message>
+        <source>Move what is shown; with Shift by a point</source>
+        <translation>Mover lo que se ve; con Mayús, un punto</translation>
+    </message>
+    <message>
+        <source>Arrows on the line between before and after</source>
+        <translation>Flechas en la línea entre antes y después</translation>
+    </message>
+    <message>
+        <source>Move the line</source>
+        <translation>Mover la línea</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation>Izquierda, Derecha</translation>
+    </message>
+    <message>
+        <source>On the picture or the strip: open the portrait before, or the next one</source>
+        <translation>En la imagen o la tira: abrir el retrato anterior o el siguiente</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ControlRow</name>
@@ -588,6 +673,389 @@
     <message>
         <source>open</source>
         <translation>abierto</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::HistoryPanel</name>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Steps of this portrait</source>
+        <translation>Pasos de este retrato</translation>
+    </message>
+    <message>
+        <source>A click goes back or forth to that step</source>
+        <translation>Un clic va atrás o adelante hasta ese paso</translation>
+    </message>
+    <message>
+        <source>At the start</source>
+        <translation>Al principio</translation>
+    </message>
+    <message>
+        <source>%1, taken back</source>
+        <translation>%1, deshecho</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ItemTool</name>
+    <message>
+        <source>Place of an item</source>
+        <translation>Posición de un elemento</translation>
+    </message>
+    <message>
+        <source>Size of an item</source>
+        <translation>Tamaño de un elemento</translation>
+    </message>
+    <message>
+        <source>Edit Picture Item</source>
+        <translation>Editar la imagen</translation>
+    </message>
+    <message>
+        <source>Edit Text</source>
+        <translation>Editar el texto</translation>
+    </message>
+    <message>
+        <source>File of the picture</source>
+        <translation>Archivo de la imagen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Text of an item</source>
+        <translation>Texto de un elemento</translation>
+    </message>
+    <message>
+        <source>Are you shure you want to delete the text?</source>
+        <translation>¿Seguro que quiere borrar el texto?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LookDesk</name>
+    <message>
+        <source>Looks and state files (*.qlx)</source>
+        <translation>Aspectos y archivos de estado (*.qlx)</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Imágenes (%1)</translation>
+    </message>
+    <message>
+        <source>The look is copied. Ctrl+Shift+V pastes it on another portrait.</source>
+        <translation>El aspecto está copiado. Ctrl+Mayús+V lo pega en otro retrato.</translation>
+    </message>
+    <message>
+        <source>Portrait: %1</source>
+        <translation>Retrato: %1</translation>
+    </message>
+    <message>
+        <source>Background: %1</source>
+        <translation>Fondo: %1</translation>
+    </message>
+    <message>
+        <source>This portrait has that look already.</source>
+        <translation>Este retrato ya tiene ese aspecto.</translation>
+    </message>
+    <message>
+        <source>No look was copied yet. Ctrl+Shift+C copies the present one.</source>
+        <translation>Aún no se ha copiado ningún aspecto. Ctrl+Mayús+C copia el actual.</translation>
+    </message>
+    <message>
+        <source>Paste a Look</source>
+        <translation>Pegar un aspecto</translation>
+    </message>
+    <message>
+        <source>Paste a look</source>
+        <translation>Pegar un aspecto</translation>
+    </message>
+    <message>
+        <source>Paste a Look on %1 Portraits</source>
+        <translation>Pegar un aspecto en %1 retratos</translation>
+    </message>
+    <message>
+        <source>Select Portraits for the Look</source>
+        <translation>Elegir los retratos para el aspecto</translation>
+    </message>
+    <message>
+        <source>Save Look</source>
+        <translation>Guardar aspecto</translation>
+    </message>
+    <message>
+        <source>Name of the look:</source>
+        <translation>Nombre del aspecto:</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Aspecto</translation>
+    </message>
+    <message>
+        <source>There is a look %1 already. Replace it?</source>
+        <translation>Ya hay un aspecto %1. ¿Sustituirlo?</translation>
+    </message>
+    <message>
+        <source>The look is not saved.</source>
+        <translation>El aspecto no se ha guardado.</translation>
+    </message>
+    <message>
+        <source>Saved the look %1</source>
+        <translation>Se ha guardado el aspecto %1</translation>
+    </message>
+    <message>
+        <source>The look cannot be taken.</source>
+        <translation>No se puede tomar el aspecto.</translation>
+    </message>
+    <message>
+        <source>Take the Look %1</source>
+        <translation>Tomar el aspecto %1</translation>
+    </message>
+    <message>
+        <source>Look %1</source>
+        <translation>Aspecto %1</translation>
+    </message>
+    <message>
+        <source>Rename Look</source>
+        <translation>Renombrar aspecto</translation>
+    </message>
+    <message>
+        <source>New name of %1:</source>
+        <translation>Nombre nuevo de %1:</translation>
+    </message>
+    <message>
+        <source>The look keeps its name.</source>
+        <translation>El aspecto conserva su nombre.</translation>
+    </message>
+    <message>
+        <source>The look is not deleted.</source>
+        <translation>El aspecto no se ha borrado.</translation>
+    </message>
+    <message>
+        <source>Delete the look %1</source>
+        <translation>Borrar el aspecto %1</translation>
+    </message>
+    <message>
+        <source>The look does not come back.</source>
+        <translation>El aspecto no vuelve.</translation>
+    </message>
+    <message>
+        <source>Deleted the look %1. Undo brings it back.</source>
+        <translation>Se ha borrado el aspecto %1. Deshacer lo recupera.</translation>
+    </message>
+    <message>
+        <source>Import Look</source>
+        <translation>Importar aspecto</translation>
+    </message>
+    <message>
+        <source>There is a look %1 already.</source>
+        <translation>Ya hay un aspecto %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Skip It</source>
+        <translation>&amp;Omitirlo</translation>
+    </message>
+    <message>
+        <source>Import under &amp;Another Name</source>
+        <translation>Importar con &amp;otro nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Replace the Old One</source>
+        <translation>&amp;Sustituir el antiguo</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the look %1 is the old one.</source>
+        <translation>No se ha importado nada; el aspecto %1 es el antiguo.</translation>
+    </message>
+    <message>
+        <source>The look is not imported.</source>
+        <translation>El aspecto no se ha importado.</translation>
+    </message>
+    <message>
+        <source>Imported %1 as the look %2</source>
+        <translation>Se ha importado %1 como el aspecto %2</translation>
+    </message>
+    <message>
+        <source>Export Look</source>
+        <translation>Exportar aspecto</translation>
+    </message>
+    <message>
+        <source>The look is not exported.</source>
+        <translation>El aspecto no se ha exportado.</translation>
+    </message>
+    <message>
+        <source>Exported the look %1 to %2</source>
+        <translation>Se ha exportado el aspecto %1 a %2</translation>
+    </message>
+    <message>
+        <source>&amp;Copy the Look</source>
+        <translation>&amp;Copiar el aspecto</translation>
+    </message>
+    <message>
+        <source>Takes the look of this portrait, to paste it on others</source>
+        <translation>Toma el aspecto de este retrato para pegarlo en otros</translation>
+    </message>
+    <message>
+        <source>&amp;Paste the Look...</source>
+        <translation>&amp;Pegar el aspecto...</translation>
+    </message>
+    <message>
+        <source>Shows what the copied look changes here, and pastes what is ticked</source>
+        <translation>Muestra lo que cambia aquí el aspecto copiado y pega lo marcado</translation>
+    </message>
+    <message>
+        <source>Paste the Look on P&amp;ortraits...</source>
+        <translation>Pegar el aspecto en re&amp;tratos...</translation>
+    </message>
+    <message>
+        <source>Pastes the copied look on many portraits at once</source>
+        <translation>Pega el aspecto copiado en muchos retratos a la vez</translation>
+    </message>
+    <message>
+        <source>Save as My &amp;Look...</source>
+        <translation>Guardar como mi &amp;aspecto...</translation>
+    </message>
+    <message>
+        <source>Keeps all settings under a name</source>
+        <translation>Conserva todos los ajustes con un nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Import a Look...</source>
+        <translation>&amp;Importar un aspecto...</translation>
+    </message>
+    <message>
+        <source>Takes a look or a state file into my looks</source>
+        <translation>Incorpora un aspecto o un archivo de estado a mis aspectos</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LookDialog</name>
+    <message>
+        <source>Key</source>
+        <translation>Croma</translation>
+    </message>
+    <message>
+        <source>Hair</source>
+        <translation>Pelo</translation>
+    </message>
+    <message>
+        <source>Light and colour</source>
+        <translation>Luz y color</translation>
+    </message>
+    <message>
+        <source>Skin and smoothing</source>
+        <translation>Piel y suavizado</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efectos</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Textos</translation>
+    </message>
+    <message>
+        <source>Place and size</source>
+        <translation>Posición y tamaño</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Recorte</translation>
+    </message>
+    <message>
+        <source>What the look changes</source>
+        <translation>Lo que cambia el aspecto</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Después</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Take What Is Ticked</source>
+        <translation>Tomar lo marcado</translation>
+    </message>
+    <message>
+        <source>One step of undo brings all of it back.</source>
+        <translation>Un paso de deshacer lo recupera todo.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LooksPanel</name>
+    <message>
+        <source>My Looks</source>
+        <translation>Mis aspectos</translation>
+    </message>
+    <message>
+        <source>A double click or Enter takes the look; the pictures stay</source>
+        <translation>Un doble clic o Intro toma el aspecto; las imágenes quedan</translation>
+    </message>
+    <message>
+        <source>Take...</source>
+        <translation>Tomar...</translation>
+    </message>
+    <message>
+        <source>Shows what the look changes, and takes what is ticked</source>
+        <translation>Muestra lo que cambia el aspecto y toma lo marcado</translation>
+    </message>
+    <message>
+        <source>Save as...</source>
+        <translation>Guardar como...</translation>
+    </message>
+    <message>
+        <source>Keeps the present settings under a name</source>
+        <translation>Conserva los ajustes actuales con un nombre</translation>
+    </message>
+    <message>
+        <source>Rename...</source>
+        <translation>Renombrar...</translation>
+    </message>
+    <message>
+        <source>Gives the look another name</source>
+        <translation>Da otro nombre al aspecto</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supr</translation>
+    </message>
+    <message>
+        <source>Deletes the look; undo brings it back</source>
+        <translation>Borra el aspecto; deshacer lo recupera</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importar...</translation>
+    </message>
+    <message>
+        <source>Takes a look or a state file into the list</source>
+        <translation>Incorpora un aspecto o un archivo de estado a la lista</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportar...</translation>
+    </message>
+    <message>
+        <source>Writes the look to a file, for another machine</source>
+        <translation>Escribe el aspecto en un archivo, para otro equipo</translation>
     </message>
 </context>
 <context>
@@ -665,22 +1133,6 @@
         <translation>La ventana se cierra cuando todo esté guardado.</translation>
     </message>
     <message>
-        <source>Place of the background</source>
-        <translation>Posición del fondo</translation>
-    </message>
-    <message>
-        <source>Place of the portrait</source>
-        <translation>Posición del retrato</translation>
-    </message>
-    <message>
-        <source>Before</source>
-        <translation>Antes</translation>
-    </message>
-    <message>
-        <source>Alpha</source>
-        <translation>Alfa</translation>
-    </message>
-    <message>
         <source>Not everything is as it should be at the start.</source>
         <translation>No todo está como debe al arrancar.</translation>
     </message>
@@ -695,14 +1147,6 @@
     <message>
         <source>Output size </source>
         <translation>Tamaño de salida </translation>
-    </message>
-    <message>
-        <source>Before, as long as it is held</source>
-        <translation>Antes, mientras se mantiene</translation>
-    </message>
-    <message>
-        <source>Hold it to see the portrait as it was taken; the key B does the same</source>
-        <translation>Manténgalo para ver el retrato tal como se tomó; la tecla B hace lo mismo</translation>
     </message>
     <message>
         <source>Full picture %1 %</source>
@@ -853,22 +1297,6 @@
         <translation>Menor</translation>
     </message>
     <message>
-        <source>Before (hold the key)</source>
-        <translation>Antes (mantener la tecla)</translation>
-    </message>
-    <message>
-        <source>The portrait as it was taken</source>
-        <translation>El retrato tal como se tomó</translation>
-    </message>
-    <message>
-        <source>&amp;Alpha</source>
-        <translation>&amp;Alfa</translation>
-    </message>
-    <message>
-        <source>What the key leaves of the portrait: dark stays, light goes</source>
-        <translation>Lo que queda del retrato: lo oscuro queda, lo claro se va</translation>
-    </message>
-    <message>
         <source>Save the State with Every &amp;Picture</source>
         <translation>Guardar el estado con cada &amp;imagen</translation>
     </message>
@@ -952,6 +1380,162 @@
         <source>Every key and what it does</source>
         <translation>Cada tecla y lo que hace</translation>
     </message>
+    <message>
+        <source>Not every setting could be taken up.</source>
+        <translation>No se pudieron recuperar todos los ajustes.</translation>
+    </message>
+    <message>
+        <source>Tavrin ended without being closed. The work on %1 was kept.</source>
+        <translation>Tavrin terminó sin cerrarse. El trabajo en %1 se ha guardado.</translation>
+    </message>
+    <message>
+        <source>Take Up</source>
+        <translation>Retomar</translation>
+    </message>
+    <message>
+        <source>Brings both pictures, every setting and the history back</source>
+        <translation>Recupera ambas imágenes, todos los ajustes y el historial</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Removes what was kept</source>
+        <translation>Elimina lo que se guardó</translation>
+    </message>
+    <message>
+        <source>The picture of %1 was changed and not saved since.</source>
+        <translation>La imagen de %1 ha cambiado y no se ha guardado desde entonces.</translation>
+    </message>
+    <message>
+        <source>Its settings are kept, and come back when the portrait is opened again.</source>
+        <translation>Sus ajustes se conservan y vuelven al abrir de nuevo el retrato.</translation>
+    </message>
+    <message>
+        <source>Close &amp;without Saving</source>
+        <translation>Cerrar &amp;sin guardar</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Folder of the Backgrounds</source>
+        <translation>Carpeta de los fondos</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Croma</translation>
+    </message>
+    <message>
+        <source>Find an &amp;Action...</source>
+        <translation>Buscar una &amp;acción...</translation>
+    </message>
+    <message>
+        <source>Finds every command and control by words, and does or shows it</source>
+        <translation>Encuentra cada orden y control por palabras, y lo ejecuta o lo muestra</translation>
+    </message>
+    <message>
+        <source>&amp;Reset All Settings</source>
+        <translation>&amp;Restablecer todos los ajustes</translation>
+    </message>
+    <message>
+        <source>Puts every default of both layers back, as one step</source>
+        <translation>Devuelve los valores iniciales de ambas capas, en un solo paso</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Historial</translation>
+    </message>
+    <message>
+        <source>Every step of this portrait</source>
+        <translation>Cada paso de este retrato</translation>
+    </message>
+    <message>
+        <source>&amp;My Looks</source>
+        <translation>&amp;Mis aspectos</translation>
+    </message>
+    <message>
+        <source>Looks by name: take, save, rename, delete, import, export</source>
+        <translation>Aspectos por nombre: tomar, guardar, renombrar, borrar, importar, exportar</translation>
+    </message>
+    <message>
+        <source>Open F&amp;older...</source>
+        <translation>Abrir &amp;carpeta...</translation>
+    </message>
+    <message>
+        <source>Fills the strip with a folder&apos;s portraits and opens the first</source>
+        <translation>Llena la tira con los retratos de una carpeta y abre el primero</translation>
+    </message>
+    <message>
+        <source>S&amp;trip of Pictures</source>
+        <translation>&amp;Tira de imágenes</translation>
+    </message>
+    <message>
+        <source>Shows the pictures of the strip, or folds them away</source>
+        <translation>Muestra u oculta las imágenes de la tira</translation>
+    </message>
+    <message>
+        <source>&amp;Next Portrait</source>
+        <translation>Retrato &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Opens the portrait that comes next in the strip</source>
+        <translation>Abre el retrato siguiente de la tira</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Portrait</source>
+        <translation>Retrato &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Opens the portrait before this one in the strip</source>
+        <translation>Abre el retrato anterior de la tira</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Keep</source>
+        <translation>Marcar: &amp;Conservar</translation>
+    </message>
+    <message>
+        <source>This portrait is good</source>
+        <translation>Este retrato está bien</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Reject</source>
+        <translation>Marcar: &amp;Descartar</translation>
+    </message>
+    <message>
+        <source>This portrait goes out; the next one is opened</source>
+        <translation>Este retrato se descarta; se abre el siguiente</translation>
+    </message>
+    <message>
+        <source>Mark: &amp;Look Again</source>
+        <translation>Marcar: &amp;Volver a mirar</translation>
+    </message>
+    <message>
+        <source>This portrait needs another look</source>
+        <translation>Este retrato necesita otra mirada</translation>
+    </message>
+    <message>
+        <source>&amp;Unmark</source>
+        <translation>&amp;Quitar la marca</translation>
+    </message>
+    <message>
+        <source>Takes the mark from this portrait</source>
+        <translation>Quita la marca de este retrato</translation>
+    </message>
+    <message>
+        <source>Take the Last &amp;Mark Back</source>
+        <translation>Deshacer la última &amp;marca</translation>
+    </message>
+    <message>
+        <source>Gives the portrait that was marked last the mark it had, and opens it</source>
+        <translation>Devuelve al último retrato marcado la marca que tenía, y lo abre</translation>
+    </message>
+    <message>
+        <source>The look waits, and is there when these portraits are opened: %1</source>
+        <translation>El aspecto espera y estará al abrir estos retratos: %1</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -983,16 +1567,8 @@
         <translation>Mover</translation>
     </message>
     <message>
-        <source>A drag on the picture moves the layer</source>
-        <translation>Arrastrar en la imagen mueve la capa</translation>
-    </message>
-    <message>
         <source>Scale</source>
         <translation>Escalar</translation>
-    </message>
-    <message>
-        <source>A drag up makes the layer larger, a drag down smaller</source>
-        <translation>Arrastrar hacia arriba agranda la capa, hacia abajo la reduce</translation>
     </message>
     <message>
         <source>Portrait</source>
@@ -1014,6 +1590,22 @@
         <source>Mouse: %1</source>
         <translation>Ratón: %1</translation>
     </message>
+    <message>
+        <source>A drag on the picture moves what is chosen beside</source>
+        <translation>Arrastrar en la imagen mueve lo elegido al lado</translation>
+    </message>
+    <message>
+        <source>A drag up makes it larger, a drag down smaller</source>
+        <translation>Arrastrar hacia arriba lo agranda, hacia abajo lo reduce</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>A click selects a text or picture item, and drags act on it</source>
+        <translation>Un clic elige un texto o una imagen, y arrastrar actúa sobre él</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::PictureFiles</name>
@@ -1032,6 +1624,52 @@
     <message>
         <source>The state file cannot be saved.</source>
         <translation>No se puede guardar el archivo de estado.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureList</name>
+    <message>
+        <source>keep</source>
+        <translation>conservar</translation>
+    </message>
+    <message>
+        <source>reject</source>
+        <translation>descartar</translation>
+    </message>
+    <message>
+        <source>look again</source>
+        <translation>volver a mirar</translation>
+    </message>
+    <message>
+        <source>open now</source>
+        <translation>abierto ahora</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureTools</name>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Alfa</translation>
+    </message>
+    <message>
+        <source>Place of the background</source>
+        <translation>Posición del fondo</translation>
+    </message>
+    <message>
+        <source>Place of the portrait</source>
+        <translation>Posición del retrato</translation>
     </message>
 </context>
 <context>
@@ -1056,6 +1694,63 @@ o ábralos desde el menú Archivo.</translation>
         <source>Background</source>
         <translation>Fondo</translation>
     </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Después</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Safekeeping</name>
+    <message>
+        <source>The present settings cannot be kept for a next start.</source>
+        <translation>Los ajustes actuales no se pueden guardar para el próximo arranque.</translation>
+    </message>
+    <message>
+        <source>%1 on %2 portraits</source>
+        <translation>%1 en %2 retratos</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ScaleView</name>
+    <message>
+        <source>Map of the layer in the picture</source>
+        <translation>Mapa de la capa en la imagen</translation>
+    </message>
+    <message>
+        <source>The layer in a small map of the picture: drag it to its place</source>
+        <translation>La capa en un mapa pequeño de la imagen: arrástrela a su sitio</translation>
+    </message>
+    <message>
+        <source>Place of the portrait</source>
+        <translation>Posición del retrato</translation>
+    </message>
+    <message>
+        <source>Place of the background</source>
+        <translation>Posición del fondo</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Shelf</name>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>se muestran %1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt;&amp;nbsp; %2</source>
+        <translation>&lt;b&gt;%1&lt;/b&gt;&amp;nbsp; %2</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>No se puede leer la carpeta.</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::SidePanel</name>
@@ -1066,10 +1761,6 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>Search the controls</source>
         <translation>Buscar los controles</translation>
-    </message>
-    <message>
-        <source>Finds a control by words of its name, its tip or its setting</source>
-        <translation>Encuentra un control por palabras de su nombre, su ayuda o su ajuste</translation>
     </message>
     <message>
         <source>No control has these words.</source>
@@ -1094,6 +1785,14 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>The controls below change the background</source>
         <translation>Los controles de abajo cambian el fondo</translation>
+    </message>
+    <message>
+        <source>Finds controls and commands by words in any order; Enter goes to the first</source>
+        <translation>Encuentra controles y órdenes por palabras en cualquier orden; Intro va al primero</translation>
+    </message>
+    <message>
+        <source>Reset all</source>
+        <translation>Restablecer todo</translation>
     </message>
 </context>
 <context>
@@ -1124,6 +1823,125 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>%1 goes from %2 to %3; it was set to %4.</source>
         <translation>%1 va de %2 a %3; se ha puesto en %4.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SplitLine</name>
+    <message>
+        <source>Line between before and after</source>
+        <translation>Línea entre antes y después</translation>
+    </message>
+    <message>
+        <source>Drag it across the picture: the portrait as it was taken on its left, the result on its right</source>
+        <translation>Arrástrela sobre la imagen: a la izquierda el retrato tal como se tomó, a la derecha el resultado</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::StoryPanel</name>
+    <message>
+        <source>Story of a pixel</source>
+        <translation>Historia de un píxel</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>cerrar</translation>
+    </message>
+    <message>
+        <source>Close the story of the pixel</source>
+        <translation>Cerrar la historia del píxel</translation>
+    </message>
+    <message>
+        <source>Closes this panel; Esc does the same</source>
+        <translation>Cierra este panel; Esc hace lo mismo</translation>
+    </message>
+    <message>
+        <source>This pixel</source>
+        <translation>Este píxel</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Strip</name>
+    <message>
+        <source>Portraits</source>
+        <translation>Retratos</translation>
+    </message>
+    <message>
+        <source>Backgrounds</source>
+        <translation>Fondos</translation>
+    </message>
+    <message>
+        <source>Folder...</source>
+        <translation>Carpeta...</translation>
+    </message>
+    <message>
+        <source>Folder of the backgrounds</source>
+        <translation>Carpeta de los fondos</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose backgrounds stand here</source>
+        <translation>Elige la carpeta cuyos fondos se ven aquí</translation>
+    </message>
+    <message>
+        <source>Portraits shown</source>
+        <translation>Retratos mostrados</translation>
+    </message>
+    <message>
+        <source>Shows only the portraits with this mark</source>
+        <translation>Muestra solo los retratos con esta marca</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Unmarked</source>
+        <translation>Sin marca</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Conservar</translation>
+    </message>
+    <message>
+        <source>Reject</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Look again</source>
+        <translation>Volver a mirar</translation>
+    </message>
+    <message>
+        <source>There is no picture in the folder.</source>
+        <translation>No hay ninguna imagen en la carpeta.</translation>
+    </message>
+    <message>
+        <source>The mark is not kept.</source>
+        <translation>La marca no se guarda.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TextScaleView</name>
+    <message>
+        <source>Map of the selected item in the picture</source>
+        <translation>Mapa del elemento elegido en la imagen</translation>
+    </message>
+    <message>
+        <source>The selected text or picture in a small map of the picture: drag it to its place</source>
+        <translation>El texto o la imagen elegidos en un mapa pequeño: arrástrelo a su sitio</translation>
+    </message>
+    <message>
+        <source>Place of an item</source>
+        <translation>Posición de un elemento</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ZoomSlider</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Ampliación</translation>
+    </message>
+    <message>
+        <source>Smaller to the left, larger to the right</source>
+        <translation>Menor a la izquierda, mayor a la derecha</translation>
     </message>
 </context>
 </TS>

@@ -51,8 +51,8 @@ void FolderFollower::follow(const std::string& folder) {
     changed_.notify_all();
 }
 
-/// New and missing names change the folder's time, also on a share that tells no news; that a file has been written to
-/// its end only news tell.
+/// New and missing names change the folder's time, also on a share that tells no news; that a file has been written
+/// to its end only news tell.
 void FolderFollower::work(const std::stop_token& ended) {
     const std::unique_ptr<FolderWatch> watch = makeFolderWatch();
     fs::file_time_type listed;

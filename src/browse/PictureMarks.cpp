@@ -110,13 +110,15 @@ std::string PictureMarks::setMark(const std::string& path, PictureMark mark) {
     }
     std::error_code failed;
     fs::create_directories(place_, failed);
-    const std::string line = lineOf(place.name, mark);
-    std::FILE* file = failed ? nullptr : std::fopen(fileOf(place.folder).c_str(), "ab");
+    std::FILE* file = failed ? nullptr : std::fopen(fileOf(place.folder).c_str(), "a+b");
+    const bool torn = file && std::fseek(file, -1, SEEK_END) == 0 && std::fgetc(file) != '\n';
+    if (file) std::fseek(file, 0, SEEK_END);  // between reading and writing
+    const std::string line = (torn ? "\n" : "") + lineOf(place.name, mark);
     bool written = file && std::fwrite(line.data(), 1, line.size(), file) == line.size();
     if (file) written = std::fclose(file) == 0 && written;
     if (written) return "";
-    return "The mark of " + place.name +
-           " cannot be kept: " + writeProblem(failed ? failed.value() : errno, place_) + ".";
+    return "The mark of " + place.name + " cannot be kept: " + writeProblem(failed ? failed.value() : errno, place_) +
+           ".";
 }
 
 }  // namespace tavrin

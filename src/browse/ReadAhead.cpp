@@ -37,7 +37,8 @@ bool ReadAhead::has(const std::string& path) {
 
 /// What is wanted and neither there nor known to fail; "" for nothing.
 std::string ReadAhead::nextWanted() {
-    const auto next = std::ranges::find_if(wanted_, [this](const std::string& path) { return find(path) == ready_.end(); });
+    const auto next =
+        std::ranges::find_if(wanted_, [this](const std::string& path) { return find(path) == ready_.end(); });
     return next == wanted_.end() ? std::string() : *next;
 }
 

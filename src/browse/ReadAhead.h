@@ -13,9 +13,9 @@
 
 namespace tavrin {
 
-/// Decodes on a thread of its own the pictures that are probably wanted next, so that the one who asks has them at once,
-/// and remembers what was asked for: that shares its pixels with the layer that shows it, so it costs nothing as long as it
-/// is shown. A picture is handed out only when its file stands as it did when it was read.
+/// Decodes on a thread of its own the pictures that are probably wanted next, so that the one who asks has them at
+/// once, and remembers what was asked for: that shares its pixels with the layer that shows it, so it costs nothing
+/// as long as it is shown. A picture is handed out only when its file stands as it did when it was read.
 class ReadAhead {
   public:
     ReadAhead();
@@ -25,8 +25,8 @@ class ReadAhead {
 
     /// Wants these at hand, the first one first, and forgets every other one.
     void want(std::vector<std::string> paths);
-    /// As `readPicture`, and at once where the file has been decoded; waits for one that is under work. Where memory is
-    /// short, everything that was read ahead is dropped for it. Safe on any thread.
+    /// As `readPicture`, and at once where the file has been decoded; waits for one that is under work. Where memory
+    /// is short, everything that was read ahead is dropped for it. Safe on any thread.
     ReadPicture read(const std::string& path);
     /// Whether a file is decoded and waits to be asked for.
     bool has(const std::string& path);

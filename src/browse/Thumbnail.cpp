@@ -71,9 +71,18 @@ QImage readEntry(const QString& folder, const Entry& entry) {
     if (!isPlainFile(file.toStdString())) return {};
     QImage image = QImageReader(file, "png").read();
     const QString bytes = image.text(kBytes);  // not everybody writes it
-    const bool same = image.text(kUri) == entry.uri && image.text(kTime) == entry.time &&
-                      (bytes.isEmpty() || bytes == entry.bytes);
+    const bool same =
+        image.text(kUri) == entry.uri && image.text(kTime) == entry.time && (bytes.isEmpty() || bytes == entry.bytes);
     return same ? image : QImage();
+}
+
+/// With what is missing above it; what belongs to the cache is nobody else's to look into.
+void makeFolder(const fs::path& place) {
+    std::error_code failed;
+    const bool isTop = place.filename() == "thumbnails";
+    if (!isTop) makeFolder(place.parent_path());
+    if (isTop) fs::create_directories(place.parent_path(), failed);
+    if (fs::create_directory(place, failed)) fs::permissions(place, fs::perms::owner_all, failed);
 }
 
 /// For the owner's eyes only, under a temporary name until it is whole. Nothing waits for the disk: what a power cut
@@ -81,12 +90,7 @@ QImage readEntry(const QString& folder, const Entry& entry) {
 void writeEntry(const QString& folder, const Entry& entry, QImage image) {
     const fs::path place = QFile::encodeName(cacheFolder() + '/' + folder).toStdString();
     std::error_code failed;
-    if (!fs::is_directory(place, failed)) {
-        fs::create_directories(place, failed);
-        for (fs::path part = place; part.filename() != "thumbnails" && part.has_relative_path();
-             part = part.parent_path())
-            fs::permissions(part, fs::perms::owner_all, failed);
-    }
+    if (!fs::is_directory(place, failed)) makeFolder(place);
     image.setText(kUri, entry.uri);
     image.setText(kTime, entry.time);
     image.setText(kBytes, entry.bytes);

@@ -39,9 +39,8 @@ void ThumbnailLoader::want(std::vector<std::string> paths, ThumbnailSize size) {
     size_ = size;
     wanted_ = std::move(paths);
     std::ranges::reverse(wanted_);
-    std::erase_if(wanted_, [this](const std::string& path) {
-        return std::ranges::find(underWork_, path) != underWork_.end();
-    });
+    std::erase_if(
+        wanted_, [this](const std::string& path) { return std::ranges::find(underWork_, path) != underWork_.end(); });
     changed_.notify_all();
 }
 

@@ -11,8 +11,8 @@
 
 namespace tavrin {
 
-/// Fetches small pictures on two threads of low priority, so that the picture under work comes first and a slow disk is
-/// not asked for everything at once.
+/// Fetches small pictures on two threads of low priority, so that the picture under work comes first and a slow disk
+/// is not asked for everything at once.
 class ThumbnailLoader {
   public:
     /// @param done takes each small picture, on one of the loader's threads

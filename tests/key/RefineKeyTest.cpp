@@ -290,13 +290,30 @@ TEST(RefineKey, ClothThatNoLightOnTheScreenExplainsStaysAtEverySize) {
                 const Pixel& own = scene.at(scene.foreground, x, y);
                 const Pixel& made = scene.at(scene.combined, x, y);
                 open += scene.alpha(x, y) < 250;
-                tinted += made[1] + 40 < own[1];
+                tinted += made[1] + 60 < own[1];
             }
         }
         EXPECT_EQ(open, 0) << size;
         EXPECT_EQ(tinted, 0) << size << ": its own green went";
         EXPECT_EQ(scene.alpha(size / 8, size / 2), 0) << size;
     }
+}
+
+TEST(RefineKey, ADeepShadowInAGapIsScreenWhereTheKeyHasNothing) {
+    // Between two arms, too dark for a seed.
+    KeyScene scene(480, 480);
+    std::vector<std::uint8_t> key(480 * 480);
+    for (int y = 120; y < 480; ++y) {
+        for (int x = 120; x < 360; ++x) {
+            const bool gap = y > 300 && y < 400 && x > 200 && x < 280;
+            scene.at(scene.foreground, x, y) = gap ? Pixel{18, 88, 26, 255} : Pixel{190, 120, 100, 255};
+            key[static_cast<std::size_t>(y * 480 + x)] = gap ? 0 : 255;
+        }
+    }
+    const refine::Shot shot{480, 480, scene.foreground.front().data(), key.data(), false};
+    ASSERT_EQ(refine::refineKey({}, shot, {}, scene.combined.front().data()), refine::Refined::done);
+    EXPECT_EQ(scene.at(scene.combined, 240, 350)[3], 0);
+    EXPECT_EQ(scene.at(scene.combined, 160, 350)[3], 255);
 }
 
 TEST(RefineKey, KeepsTheSubjectsOwnGreenAsFarAsItsSliderSays) {

@@ -43,7 +43,8 @@ QStringList readArguments(const QCoreApplication& application) {
     parser.addOption(version);
     const QCommandLineOption verbose({"v", "verbose"}, "Tell the course of the work on the standard error stream.");
     parser.addOption(verbose);
-    parser.addPositionalArgument("files", "Portrait, then background; a folder of portraits, or a state file (.qlx).", "[FILE...]");
+    parser.addPositionalArgument("files", "Portrait, then background; a folder of portraits, or a state file (.qlx).",
+                                 "[FILE...]");
     parser.process(application);
     if (parser.isSet(version)) parser.showVersion();
     tavrin::setTraceLog(parser.isSet(verbose));

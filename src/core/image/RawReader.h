@@ -28,8 +28,8 @@ struct RawPicture {
 /// Develops a raw file with the camera's white balance to sRGB with 8 bits a channel.
 RawPicture readRaw(const std::string& path);
 
-/// The small picture that the camera put into a raw file, upright, at most `side` pixels each way; where there is none
-/// of that size, the file is developed at half its size.
+/// The small picture that the camera put into a raw file, upright, at most `side` pixels each way; where there is
+/// none of that size, the file is developed at half its size.
 RawPicture readRawPreview(const std::string& path, int side);
 
 }  // namespace tavrin

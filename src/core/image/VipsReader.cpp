@@ -87,8 +87,8 @@ VipsRef load(const std::string& path, FileKind kind, std::vector<std::uint8_t>& 
     }
 }
 
-/// The same picture as the decoder makes it with less work: a JPEG file at a half, a quarter or an eighth, of a HEIF file
-/// the small picture that comes with it. Null when there is nothing to gain.
+/// The same picture as the decoder makes it with less work: a JPEG file at a half, a quarter or an eighth, of a HEIF
+/// file the small picture that comes with it. Null when there is nothing to gain.
 VipsRef loadReduced(const std::string& path, FileKind kind, const VipsImage* whole, int side) {
     const int shorter = std::min(whole->Xsize, whole->Ysize);
     VipsImage* image = nullptr;

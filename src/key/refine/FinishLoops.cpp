@@ -32,13 +32,21 @@ std::uint32_t byteOf(float value) {
     return static_cast<std::uint32_t>(static_cast<std::int32_t>(std::min(value, 255.0f) + 0.5f));
 }
 
-// The most of the screen's channel that the subject may have: reddish cloth is green's neighbour, bluish cloth is
-// not. What the screen's light cannot have brought, since it would have brought more of the other channels too, is
-// the subject's own.
-float mostGreen(float r, float g, float b, float pr, float pg, float pb, float green, float cyan) {
-    const float mean = (r + b) * 0.5f;
-    const float light = std::min(r / std::max(pr, 1.0f), b / std::max(pb, 1.0f));
-    return std::max((b > r ? mean + cyan * (b - mean) : mean) + green, g - light * pg);
+struct Color {
+    float r, g, b;
+};
+
+// How much of the screen's channel the subject keeps: reddish cloth is green's neighbour, bluish cloth is not. What
+// the screen's light cannot have brought, since it would have brought more of the other channels too, is the
+// subject's own, as far as there is a subject.
+HWY_INLINE float keptGreen(Color own, Color screen, float green, float cyan, float alpha) {
+    constexpr float kNoise = 10.0f;
+    const float mean = (own.r + own.b) * 0.5f;
+    const float most = (own.b > own.r ? mean + cyan * (own.b - mean) : mean) + green;
+    const float light =
+        std::min((own.r + kNoise) / std::max(screen.r, 1.0f), (own.b + kNoise) / std::max(screen.b, 1.0f));
+    const float beyond = std::max(own.g - light * screen.g - most, 0.0f);
+    return std::min(own.g, most + alpha * beyond);
 }
 
 void levels(const float* HWY_RESTRICT alpha, const float* HWY_RESTRICT detail, float strength, int count,
@@ -113,7 +121,7 @@ void colors(const ColorSources& from, bool blue, int count, std::uint32_t* HWY_R
                      kMostGain);
         const float gain = whole ? 1.0f : measured;
         const float r = whole ? own.r[x] : ur, g = whole ? own.g[x] : ug, b = whole ? own.b[x] : ub;
-        const float kept = std::min(g, mostGreen(r, g, b, screen.r[x], screen.g[x], screen.b[x], green[x], cyan[x]));
+        const float kept = keptGreen({r, g, b}, {screen.r[x], screen.g[x], screen.b[x]}, green[x], cyan[x], a);
         to[x] = byteOf(r * gain) | byteOf(kept * gain) << greenBits | byteOf(b * gain) << blueBits |
                 byteOf(a * 255.0f) << 24;
     }
@@ -126,9 +134,8 @@ void solid(const std::uint32_t* HWY_RESTRICT pixels, ChannelRow screen, const fl
         const auto at = [&](int bits) {
             return static_cast<float>(static_cast<std::int32_t>(pixels[x] >> bits & 255));
         };
-        const float g = at(greenBits);
-        const float kept =
-            std::min(g, mostGreen(at(0), g, at(blueBits), screen.r[x], screen.g[x], screen.b[x], green[x], cyan[x]));
+        const float kept = keptGreen({at(0), at(greenBits), at(blueBits)}, {screen.r[x], screen.g[x], screen.b[x]},
+                                     green[x], cyan[x], 1.0f);
         to[x] = (pixels[x] & ~(std::uint32_t{255} << greenBits)) | byteOf(kept) << greenBits | 0xFF000000u;
     }
 }

@@ -158,7 +158,7 @@ Cells nearerSide(const RunContext& context, const Mask& solid, const Mask& scree
 }
 
 FitRows::FitRows(const Fit& fit, const Strip& strip)
-    : width_(strip.width),
+    : strip_(strip),
       start_(strip, fit.plate),
       weights_(fit.separation.weights, fit.separation.size, strip.left, strip.width),
       certainty_(fit.separation.certainty, fit.separation.size, strip.left, strip.width),
@@ -172,7 +172,8 @@ void FitRows::fill(int y, float* alpha) {
     certainty_.fill(y, 0, line(3));
     nearer_.fill(y, 0, line(4));
     start_.alpha(alpha);
-    matteLoops().fit(start_.own(), start_.screen(), {line(0), line(1), line(2)}, line(3), line(4), width_, alpha);
+    matteLoops().fit(start_.own(), start_.screen(), {line(0), line(1), line(2)}, line(3), line(4),
+                     strip_.shot.keyRow(y) + strip_.left, strip_.width, alpha);
 }
 
 Mask surePixels(const RunContext& context, const Fit& fit, const Mask& solid, const Mask& open) {

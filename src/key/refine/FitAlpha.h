@@ -37,9 +37,9 @@ class FitRows {
     void fill(int y, float* alpha);
 
   private:
-    float* line(std::size_t i) { return lines_.data() + i * static_cast<std::size_t>(width_); }
+    float* line(std::size_t i) { return lines_.data() + i * static_cast<std::size_t>(strip_.width); }
 
-    int width_;
+    Strip strip_;
     StartRows start_;
     CellRows weights_, certainty_, nearer_;
     std::vector<float> lines_;

@@ -43,7 +43,7 @@ void ratio(ChannelRow sums, ChannelRow screen, int count, float* HWY_RESTRICT li
 // The light that the screen's channel allows at most is taken off the others. What is then too dark in a channel, or
 // too bright, no share of the screen explains: the subject has at least so much of the pixel, however colourful it
 // is.
-float leastAlpha(float r, float b, float light, float pr, float pb) {
+HWY_INLINE float leastAlpha(float r, float b, float light, float pr, float pb) {
     constexpr float kFewLevels = 64.0f;  // of which noise would be a large share
     constexpr float kOverShare = 0.8f;   // many subjects are nearly as bright as can be
     const float wr = light * pr, wb = light * pb;
@@ -71,9 +71,10 @@ void distance(ChannelRow sums, ChannelRow screen, int count, float* HWY_RESTRICT
                      distanceOf(sums.b[x] / 9.0f, screen.b[x]));
 }
 
-void fit(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* certain, const float* near, int count,
-         float* HWY_RESTRICT alpha) {
+void fit(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* certain, const float* near,
+         const std::uint8_t* HWY_RESTRICT key, int count, float* HWY_RESTRICT alpha) {
     constexpr float kFaintCover = 0.15f, kFullCover = 0.8f;  // least alphas that count as 0 and as 1
+    constexpr float kKeyShare = 1.0f / 32.0f;                // of the key, where there may be a subject
     const float *const r = own.r, *const g = own.g, *const b = own.b;
     const float *const pr = screen.r, *const pg = screen.g, *const pb = screen.b;
     const float *const wr = weights.r, *const wg = weights.g, *const wb = weights.b;
@@ -83,7 +84,9 @@ void fit(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* cer
         const float fitted = certain[x] * along + (1.0f - certain[x]) * simple;
         const float light = std::min(g[x] / std::max(pg[x], 1.0f), kMostLight);
         const float least = leastAlpha(r[x], b[x], light, pr[x], pb[x]);
-        alpha[x] = std::max(fitted, std::min((least - kFaintCover) / (kFullCover - kFaintCover), 1.0f));
+        const float heeded = std::min(static_cast<float>(static_cast<std::int32_t>(key[x])) * kKeyShare, 1.0f);
+        const float floor = std::min((least - kFaintCover) / (kFullCover - kFaintCover), 1.0f);
+        alpha[x] = std::max(fitted, heeded * floor);
     }
 }
 

@@ -16,9 +16,9 @@ struct MatteLoops {
     /// From sums of nine pixels: the largest distance of a channel from the plate.
     void (*distance)(ChannelRow sums, ChannelRow screen, int count, float* to);
     /// alpha: in the simple one, out the one along `weights`, as far as `certain`; else the simple one or `near`;
-    /// nowhere much below what the colours allow.
+    /// where the key has anything, not much below what the colours allow.
     void (*fit)(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* certain, const float* near,
-                int count, float* alpha);
+                const std::uint8_t* key, int count, float* alpha);
     /// For cells with `means` of three channels and of their six products: the weights of the direction in which the
     /// subject lies farthest from the screen, and how sure it is. `common` is what all covariances have besides nine
     /// tenths of their own.

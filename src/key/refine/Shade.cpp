@@ -64,15 +64,15 @@ void findSoft(const RunContext& context, const Shot& shot, const Plate& plate, c
     }
 }
 
-// The pixels that the key made thin.
-Mask thinPixels(const RunContext& context, const Shot& shot) {
+// The pixels to which the key gave `most` or less.
+Mask thinPixels(const RunContext& context, const Shot& shot, std::uint8_t most) {
     Mask thin(shot.width, shot.height);
     runRowRanges(context, shot.height, 32, [&](int first, int last) {
         std::vector<std::uint8_t> flags(static_cast<std::size_t>(shot.width) + 8);
         for (int y = first; y < last; ++y) {
             const std::uint8_t* const key = shot.keyRow(y);
             for (int x = 0; x < shot.width; ++x)
-                flags[static_cast<std::size_t>(x)] = key[x] <= kMostKey;
+                flags[static_cast<std::size_t>(x)] = key[x] <= most;
             thin.pack(y, flags.data());
         }
     });
@@ -158,10 +158,11 @@ void mendScreen(const RunContext& context, const Shot& shot, Plate& plate) {
     Mask near(shot.width, shot.height), soft(shot.width, shot.height);
     runAreas(context, plate.screen, [&](const Area& area) { findNear(context, shot, plate, area, near); });
     plate.screen &= near;
-    Mask open = thinPixels(context, shot);
+    Mask open = thinPixels(context, shot, kMostKey);
     open &= plate.screen.inverted();
     runAreas(context, open, [&](const Area& area) { findSoft(context, shot, plate, area, soft); });
     Mask shadows = reachable(context, shot, plate.screen, soft, kLargeArea);
+    shadows |= thinPixels(context, shot, 0);  // a gap that is all shadow: nothing speaks for a subject there
     shadows &= soft;
     plate.screen |= shadows;
 }

@@ -31,7 +31,8 @@ void MainWindow::findAction() {
     for (const Command& command : commands_->table()) {
         QAction* action = commands_->action(command.id);
         const QString menu = QString(command.menu).remove('|').remove('&');
-        entries.push_back({action->text().section('\t', 0, 0).remove('&'), menu.isEmpty() ? tr("Key") : menu,
+        entries.push_back({action->text().section('\t', 0, 0).remove('&'),
+                           menu.isEmpty() ? MainWindow::tr("Key") : menu,
                            command.shortcut.toString(QKeySequence::NativeText), command.toolTip + ' ' + command.id,
                            action->isEnabled(), [action] { action->trigger(); }});
     }

@@ -54,8 +54,8 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     layOut();
     connectParts();
     connectBridge();
-    connectKeeping();
     connectStrip();
+    connectKeeping();
     comeBack();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();

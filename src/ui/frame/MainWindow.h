@@ -62,12 +62,12 @@ class MainWindow : public QMainWindow {
     PictureView* view() const { return view_; }
     SizeBox* sizeBox() const { return sizeBox_; }
     SidePanel* panel() const { return panel_; }
+    PictureTools* pictureTools() const { return tools_; }
+    Strip* strip() const { return strip_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
     LookDesk& looks() { return *looks_; }
-    PictureTools* pictureTools() const { return tools_; }
-    Strip* strip() const { return strip_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
     Commands& commands() { return *commands_; }
@@ -91,13 +91,13 @@ class MainWindow : public QMainWindow {
     void connectParts();
     void connectMaps();
     void connectBridge();
-    void connectKeeping();
-    void offerNextLeft();
-    void askBeforeClosing();
     void connectStrip();
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
+    void connectKeeping();
+    void offerNextLeft();
+    void askBeforeClosing();
     void comeBack();
     void refillRecentFiles();
     void frameNewPortraits(bool wanted);

@@ -25,8 +25,7 @@ void MainWindow::connectKeeping() {
         history_->refresh();
         commands_->refresh();
         tellUndo();
-        const QString line = tr("The look waits on %n portrait(s), and is there when they are opened.", nullptr,
-                                static_cast<int>(portraits));
+        const QString line = tr("The look waits, and is there when these portraits are opened: %1").arg(portraits);
         problems.isEmpty() ? messages_->tell(line) : messages_->fail(line, problems);
     });
     connect(looks_, &LookDesk::told, messages_, &MessageBar::tell);

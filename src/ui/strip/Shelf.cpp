@@ -54,8 +54,7 @@ void Shelf::show(std::vector<std::string> paths) {
 
 void Shelf::setPresent(const std::string& path, bool stays) {
     list_.setPresent(path);
-    if (!stays && !path.empty() && !list_.contains(path))
-        follow(std::filesystem::path(path).parent_path().string());
+    if (!stays && !path.empty() && !list_.contains(path)) follow(std::filesystem::path(path).parent_path().string());
     showPresent();
     tellCount();
 }

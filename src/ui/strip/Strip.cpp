@@ -33,8 +33,8 @@ Strip::Strip(SystemInfo& info, QWidget* parent)
       info_(info),
       marks_(Places::current().xmlFolder() + "Marks"),
       ahead_(std::make_shared<ReadAhead>()),
-      portraits_(new Shelf("portraitStrip", tr("Portraits"),
-                           [this](const std::string& path) { return marks_.mark(path); }, this)),
+      portraits_(new Shelf(
+          "portraitStrip", tr("Portraits"), [this](const std::string& path) { return marks_.mark(path); }, this)),
       backgrounds_(new Shelf("backgroundStrip", tr("Backgrounds"), {}, this)),
       loader_([this](const std::string& path, Thumbnail thumbnail) {
           QMetaObject::invokeMethod(
@@ -202,6 +202,10 @@ void Strip::readAhead() {
     for (const int step : {1, -1})
         if (const int row = list.neighbour(step); row >= 0) wanted.push_back(list.path(row));
     ahead_->want(std::move(wanted));
+}
+
+bool Strip::isReadAhead(const QString& path) const {
+    return ahead_->has(nameOfText(path));
 }
 
 void Strip::setFolded(bool folded) {

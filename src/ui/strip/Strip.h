@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <memory>
 
 #include <QWidget>
 
@@ -14,8 +15,8 @@ class QComboBox;
 
 namespace tavrin {
 
-/// The strip below the picture: the portraits of a folder and the backgrounds to choose from. It opens nothing itself:
-/// it says what is wanted.
+/// The strip below the picture: the portraits of a folder and the backgrounds to choose from. It opens nothing
+/// itself: it says what is wanted.
 class Strip : public QWidget {
     Q_OBJECT
 
@@ -40,6 +41,7 @@ class Strip : public QWidget {
     bool hasMarkToTakeBack() const { return !marked_.empty(); }
     /// The full picture stands, so that there is time for the portraits beside it.
     void readAhead();
+    bool isReadAhead(const QString& path) const;
     void setFolded(bool folded);
     bool isFolded() const { return folded_; }
 

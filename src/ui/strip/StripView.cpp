@@ -66,7 +66,8 @@ void StripView::keyPressEvent(QKeyEvent* event) {
     const int ahead = isRightToLeft() ? -1 : 1;
     if (plain && (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right)) {
         emit walked(event->key() == Qt::Key_Right ? ahead : -ahead);
-    } else if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid()) {
+    } else if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
+               currentIndex().isValid()) {
         emit opened(currentIndex().row());
     } else {
         QListView::keyPressEvent(event);
