@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -123,6 +124,38 @@ bool shootAll(const QString& folder, const QString& scale) {
         window.panel()->searchField()->setText("green");
         save("search");
         window.panel()->searchField()->clear();
+        window.panel()->searchField()->setText("save pitcure");
+        save("search-commands");
+        window.panel()->searchField()->clear();
+        for (const char* value : {"10", "25", "40"})
+            window.binder().run("Brightness",
+                                [&](SettingEditor& editor) { editor.set("foreground.iBrightness", value); });
+        window.binder().run("Shadows", [](SettingEditor& editor) { editor.set("iMacroShadows", "2"); });
+        window.binder().undo();
+        window.commands().action("ShowHistory")->trigger();
+        window.messages()->ask("Tavrin ended without being closed. The work on anna.jpg was kept.",
+                               {{"TakeUp", "Take Up", "", [] {}}, {"Discard", "Discard", "", [] {}}});
+        save("history");
+        window.looks().save("School");
+        window.commands().action("ShowLooks")->trigger();
+        window.commands().action("CopyLook")->trigger();
+        window.binder().goTo(0);
+        window.commands().action("PasteLook")->trigger();
+        save("looks");
+        const auto grabDialog = [&](const char* name) {
+            QCoreApplication::processEvents();
+            if (auto* dialog = window.findChild<QDialog*>(name)) {
+                all = dialog->grab().save(folder + '/' + name + end) && all;
+                dialog->reject();
+                QCoreApplication::processEvents();
+            }
+        };
+        grabDialog("lookDialog");
+        window.commands().action("FindAction")->trigger();
+        if (auto* field = window.findChild<QLineEdit*>("searchActions")) field->setText("green");
+        grabDialog("actionSearch");
+        window.commands().action("ShowLooks")->trigger();
+        window.commands().action("ShowHistory")->trigger();
         for (GroupBox* group : window.panel()->groups())
             group->setFolded(group->group().name != std::string_view("groupPlace") &&
                              group->group().name != std::string_view("groupTurn") &&

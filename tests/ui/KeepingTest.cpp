@@ -239,5 +239,28 @@ TEST_F(KeepingTest, APortraitComesBackWithItsSettingsAndItsHistory) {
     EXPECT_EQ(loadRecipe(portrait_)->history.steps.size(), 2u);
 }
 
+TEST_F(KeepingTest, WhatAStateBroughtToAPortraitComesBackToo) {
+    brighten(20);
+    window_->openForeground(QString::fromStdString(other_));
+    window_->openForeground(QString::fromStdString(portrait_));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 20; }, 5000));
+    window_->openState(stateFile("anna.qlx", portrait_));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 33; }, 5000));
+    ASSERT_TRUE(waitForPicture());
+    QTest::qWait(50);
+    window_->openForeground(QString::fromStdString(other_));
+    brighten(1);
+    window_->openForeground(QString::fromStdString(portrait_));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 33; }, 5000));
+
+    // A background that is chosen before the loop has given the portrait its recipe holds.
+    window_->openForeground(QString::fromStdString(other_));
+    window_->openForeground(QString::fromStdString(portrait_));
+    window_->openBackground(QString::fromStdString(other_));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 33; }, 5000));
+    QTest::qWait(50);
+    EXPECT_EQ(info_->pBackgroundBitmapInfo->sSourceImageFullPath.load(), other_);
+}
+
 }  // namespace
 }  // namespace tavrin

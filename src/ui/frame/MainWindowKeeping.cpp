@@ -11,10 +11,10 @@
 namespace tavrin {
 
 void MainWindow::connectKeeping() {
-    connect(&binder_, &Binder::changed, keeping_, &Safekeeping::touch);
-    connect(sizeBox_, &SizeBox::sizeChosen, keeping_, &Safekeeping::touch);
+    connect(&binder_, &Binder::changed, keeping_, &Safekeeping::noteWork);
+    connect(sizeBox_, &SizeBox::sizeChosen, keeping_, &Safekeeping::noteWork);
     connect(files_, &PictureFiles::opened, keeping_, &Safekeeping::touch);
-    connect(&bridge_, &WindowBridge::stateOpened, keeping_, &Safekeeping::touch, Qt::QueuedConnection);
+    connect(&bridge_, &WindowBridge::stateOpened, keeping_, &Safekeeping::noteWork, Qt::QueuedConnection);
     connect(&bridge_, &WindowBridge::published, keeping_, &Safekeeping::look, Qt::QueuedConnection);
     connect(keeping_, &Safekeeping::failed, messages_, &MessageBar::fail);
     connect(keeping_, &Safekeeping::tookUp, this, [this](const QString& problems) {
@@ -30,6 +30,7 @@ void MainWindow::connectKeeping() {
     });
     connect(looks_, &LookDesk::told, messages_, &MessageBar::tell);
     connect(looks_, &LookDesk::failed, messages_, &MessageBar::fail);
+    looks_->setSelection([this] { return strip_->selectedPortraits(); });
     looks_->setPicture([this] { return finished_ ? view_->fullPicture() : QImage(); });
     connect(files_, &PictureFiles::saving, this, [this] { savedPositions_.push_back(editor_.position()); });
     connect(files_, &PictureFiles::saved, this, [this](const QString&, bool done) {

@@ -105,7 +105,10 @@ void LookDesk::pasteOn(const QStringList& portraits) {
     dialog->open();
 }
 
-void LookDesk::askForPortraits() {
+void LookDesk::pasteOnSelected() {
+    if (!hasCopy()) return pasteOn({});
+    if (const QStringList selected = selection_ ? selection_() : QStringList(); selected.size() > 1)
+        return pasteOn(selected);
     const QStringList portraits =
         QFileDialog::getOpenFileNames(window_, tr("Select Portraits for the Look"), QString(), portraitFilter());
     if (!portraits.isEmpty()) pasteOn(portraits);
@@ -243,7 +246,7 @@ std::vector<Command> lookCommands(LookDesk& desk) {
          "",
          {},
          {},
-         [&desk](bool) { desk.askForPortraits(); }},
+         [&desk](bool) { desk.pasteOnSelected(); }},
         {"SaveLook",
          "|&Edit",
          LookDesk::tr("Save as My &Look..."),

@@ -29,7 +29,8 @@ class LookDesk : public QObject {
     void paste();
     /// The same on portraits that are not shown, and the one that is when it is among them.
     void pasteOn(const QStringList& portraits);
-    void askForPortraits();
+    /// The same on those that are selected in the strip, or else on files that the user picks.
+    void pasteOnSelected();
 
     void saveAs();
     /// Saves the present look under a name; an older one of it is replaced.
@@ -45,6 +46,8 @@ class LookDesk : public QObject {
 
     /// Where a small picture of the present look comes from.
     void setPicture(std::function<QImage()> picture) { picture_ = std::move(picture); }
+    /// Which portraits are selected.
+    void setSelection(std::function<QStringList()> selection) { selection_ = std::move(selection); }
 
   signals:
     void told(const QString& line);
@@ -64,6 +67,7 @@ class LookDesk : public QObject {
     QWidget* window_;
     SettingValues copied_;
     std::function<QImage()> picture_;
+    std::function<QStringList()> selection_;
 };
 
 /// The commands of looks.

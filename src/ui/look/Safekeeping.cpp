@@ -28,6 +28,11 @@ void Safekeeping::touch() {
     look();
 }
 
+void Safekeeping::noteWork() {
+    worked_ = true;
+    touch();
+}
+
 void Safekeeping::look() {
     if (!touched_ || timer_.isActive()) return;
     const qint64 rest = sinceKept_.isValid() ? kKeepEvery - sinceKept_.elapsed() : 0;
@@ -44,7 +49,7 @@ void Safekeeping::keep() {
 
 void Safekeeping::leavePortrait() {
     ++opened_;
-    if (underWay_ > 0 || editor_.steps().empty()) return;
+    if (underWay_ > 0 || !std::exchange(worked_, false)) return;
     keeper_.keepPortrait(editor_.value(kPortrait), presentRecipe(editor_));
 }
 
@@ -82,6 +87,7 @@ void Safekeeping::finishTaking(Recipe recipe, std::optional<LeftRecipe> from, co
     }
     if (!background_.empty()) openBackground(editor_.info(), background_);
     if (!recipe.pasted.empty() || !background_.empty()) editor_.info().StartUpdate();
+    worked_ = !recipe.pasted.empty() || from || !background_.empty();
     instead_ = std::move(from);
     touch();
     emit tookUp(problems);
@@ -120,6 +126,7 @@ void Safekeeping::pasteOn(std::vector<std::string> portraits, const QString& lab
 }
 
 void Safekeeping::chooseBackground(const std::string& path) {
+    worked_ = true;
     if (underWay_ > 0) background_ = path;
 }
 

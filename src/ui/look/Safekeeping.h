@@ -21,8 +21,10 @@ class Safekeeping : public QObject {
   public:
     Safekeeping(SettingEditor& editor, CombineThread& loop, QObject* parent = nullptr);
 
-    /// A person changed something.
+    /// A person opened something.
     void touch();
+    /// A person changed something, which the portrait at hand gets back when it is opened again.
+    void noteWork();
     /// The loop may have changed something by itself, which counts once a person did.
     void look();
 
@@ -64,6 +66,7 @@ class Safekeeping : public QObject {
     std::atomic<int> opened_ = 0;  ///< counts what was opened, so that an older job steps back
     int underWay_ = 0;             ///< jobs that may replace settings and lists
     bool touched_ = false;
+    bool worked_ = false;     ///< on the portrait at hand, since its recipe was written
     std::string background_;  ///< chosen while a recipe is under way
     std::optional<LeftRecipe> instead_;
 };
