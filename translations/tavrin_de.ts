@@ -634,7 +634,7 @@
     </message>
     <message>
         <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
-        <translation>Im Streifen oder auf einem Bild, das ganz zu sehen ist: voriges oder nächstes Porträt öffnen</translation>
+        <translation>Auf dem Streifen oder einem ganz gezeigten Bild: das vorige oder nächste Porträt öffnen</translation>
     </message>
 </context>
 <context>
@@ -1701,6 +1701,26 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>After</source>
         <translation>Nachher</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>before and after</source>
+        <translation>vorher und nachher</translation>
+    </message>
+    <message>
+        <source>result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3 percent, %4</source>
+        <translation>%1 x %2 Bildpunkte, %3 Prozent, %4</translation>
     </message>
 </context>
 <context>

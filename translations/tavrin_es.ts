@@ -634,7 +634,7 @@
     </message>
     <message>
         <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
-        <translation>En la tira, o sobre una imagen que se ve entera: abrir el retrato anterior o el siguiente</translation>
+        <translation>En la tira, o en una imagen que se ve entera: abrir el retrato anterior o el siguiente</translation>
     </message>
 </context>
 <context>
@@ -1701,6 +1701,26 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>After</source>
         <translation>Después</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>before and after</source>
+        <translation>antes y después</translation>
+    </message>
+    <message>
+        <source>result</source>
+        <translation>resultado</translation>
+    </message>
+    <message>
+        <source>preview</source>
+        <translation>vista previa</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3 percent, %4</source>
+        <translation>%1 x %2 píxeles, %3 por ciento, %4</translation>
     </message>
 </context>
 <context>
