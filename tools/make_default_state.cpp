@@ -25,7 +25,8 @@ void chooseKey(SystemInfo& info) {
     info.bAdvancedHairDetectionON = false;
     info.bAVPShadowRemoval = true;
     info.pCombinedBitmapInfo->sliderRemoveGreenAreas = 110;  // less veil on a screen that is unevenly lit
-    info.iBlendEdges = 20;
+    info.bRefineKey = true;
+    info.iBlendEdges = 0;  // the refined key leaves no rim to soften away
 }
 
 /// Off; its settings as they do well for green clothes once somebody turns it on.
