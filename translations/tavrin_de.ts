@@ -499,6 +499,157 @@
     </message>
 </context>
 <context>
+    <name>Story</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, limit %2</source>
+        <translation>%1, Grenze %2</translation>
+    </message>
+    <message>
+        <source>Nothing is keyed: the portrait is shown as it is.</source>
+        <translation>Nichts wird freigestellt: das Porträt wird gezeigt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>The colour that the key takes as screen is shown instead.</source>
+        <translation>Stattdessen wird die Farbe gezeigt, die als Leinwand gilt.</translation>
+    </message>
+    <message>
+        <source>The map of the green guard is shown instead.</source>
+        <translation>Stattdessen wird die Karte des Grünschutzes gezeigt.</translation>
+    </message>
+    <message>
+        <source>Clipped away.</source>
+        <translation>Abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Subject: dark (%1) and near grey (%2).</source>
+        <translation>Person: dunkel (%1) und fast grau (%2).</translation>
+    </message>
+    <message>
+        <source>Screen, brighter or darker: its hue fits (distance %1), and it is light enough (%2).</source>
+        <translation>Leinwand, heller oder dunkler: der Farbton passt (Abstand %1), und sie ist hell genug (%2).</translation>
+    </message>
+    <message>
+        <source>Screen: nearly its very colour (distance %1).</source>
+        <translation>Leinwand: fast genau ihre Farbe (Abstand %1).</translation>
+    </message>
+    <message>
+        <source>Subject: red or blue leads green by more than 40, which no screen does.</source>
+        <translation>Person: Rot oder Blau liegt mehr als 40 über Grün, was keine Leinwand tut.</translation>
+    </message>
+    <message>
+        <source>A mix of subject and screen (distance from the screen&apos;s hue %1).</source>
+        <translation>Eine Mischung von Person und Leinwand (Abstand vom Farbton der Leinwand %1).</translation>
+    </message>
+    <message>
+        <source>The refined key decided, by what lies around the pixel.</source>
+        <translation>Das verfeinerte Freistellen entschied nach dem, was um den Bildpunkt liegt.</translation>
+    </message>
+    <message>
+        <source>Protected: it keeps the portrait&apos;s own colour.</source>
+        <translation>Geschützt: es behält die eigene Farbe des Porträts.</translation>
+    </message>
+    <message>
+        <source>Not protected: it is connected to the screen at the border.</source>
+        <translation>Nicht geschützt: es hängt mit der Leinwand am Rand zusammen.</translation>
+    </message>
+    <message>
+        <source>Not protected: the screen&apos;s colour inside of the subject.</source>
+        <translation>Nicht geschützt: die Farbe der Leinwand innerhalb der Person.</translation>
+    </message>
+    <message>
+        <source>The colour of the protected clothes.</source>
+        <translation>Die Farbe der geschützten Kleidung.</translation>
+    </message>
+    <message>
+        <source>Not protected: at the edge of the subject.</source>
+        <translation>Nicht geschützt: am Rand der Person.</translation>
+    </message>
+    <message>
+        <source>Not the screen&apos;s colour.</source>
+        <translation>Nicht die Farbe der Leinwand.</translation>
+    </message>
+    <message>
+        <source>Off.</source>
+        <translation>Aus.</translation>
+    </message>
+    <message>
+        <source>%1 of 255, %2</source>
+        <translation>%1 von 255, %2</translation>
+    </message>
+    <message>
+        <source>Nothing of the subject is left here.</source>
+        <translation>Von der Person ist hier nichts übrig.</translation>
+    </message>
+    <message>
+        <source>about %1, worked back from the result</source>
+        <translation>etwa %1, aus dem Ergebnis zurückgerechnet</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>x %1, y %2</source>
+        <translation>x %1, y %2</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Porträt</translation>
+    </message>
+    <message>
+        <source>Seen by the key</source>
+        <translation>Beim Freistellen gesehen</translation>
+    </message>
+    <message>
+        <source>Screen here</source>
+        <translation>Leinwand hier</translation>
+    </message>
+    <message>
+        <source>The key</source>
+        <translation>Freistellen</translation>
+    </message>
+    <message>
+        <source>Its share</source>
+        <translation>Sein Anteil</translation>
+    </message>
+    <message>
+        <source>%1, as a mix of hair and screen</source>
+        <translation>%1, als Mischung von Haar und Leinwand</translation>
+    </message>
+    <message>
+        <source>Green guard</source>
+        <translation>Grünschutz</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <source>Own colour</source>
+        <translation>Eigene Farbe</translation>
+    </message>
+    <message>
+        <source>Spill taken away</source>
+        <translation>Entferntes Streulicht</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>x %1  y %2    %3    alpha %4 %    spill %5</source>
+        <translation>x %1  y %2    %3    Alpha %4 %    Streulicht %5</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::ActionSearch</name>
     <message>
         <source>Find an Action</source>
@@ -1670,6 +1821,62 @@
     <message>
         <source>Place of the portrait</source>
         <translation>Lage des Porträts</translation>
+    </message>
+    <message>
+        <source>Before (hold the key)</source>
+        <translation>Vorher (Taste halten)</translation>
+    </message>
+    <message>
+        <source>The portrait as it was taken</source>
+        <translation>Das Porträt, wie es aufgenommen wurde</translation>
+    </message>
+    <message>
+        <source>&amp;Before | After</source>
+        <translation>&amp;Vorher | Nachher</translation>
+    </message>
+    <message>
+        <source>A line to drag across the picture: the portrait on its left, the result on its right</source>
+        <translation>Eine Linie zum Ziehen über das Bild: links das Porträt, rechts das Ergebnis</translation>
+    </message>
+    <message>
+        <source>&amp;Alpha</source>
+        <translation>&amp;Alpha</translation>
+    </message>
+    <message>
+        <source>What the key leaves of the portrait: dark stays, light goes</source>
+        <translation>Was vom Porträt bleibt: Dunkles bleibt, Helles geht</translation>
+    </message>
+    <message>
+        <source>S&amp;creen</source>
+        <translation>&amp;Leinwand</translation>
+    </message>
+    <message>
+        <source>The colour that the key takes as screen, over the whole picture</source>
+        <translation>Die Farbe, die als Leinwand gilt, über das ganze Bild</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Leinwand</translation>
+    </message>
+    <message>
+        <source>&amp;Guard</source>
+        <translation>&amp;Schutz</translation>
+    </message>
+    <message>
+        <source>What the green guard protects; clothes must be protected for it</source>
+        <translation>Was der Grünschutz schützt; dafür muss Kleidung geschützt sein</translation>
+    </message>
+    <message>
+        <source>Guard</source>
+        <translation>Schutz</translation>
+    </message>
+    <message>
+        <source>As&amp;k</source>
+        <translation>&amp;Fragen</translation>
+    </message>
+    <message>
+        <source>A click on the picture tells how its pixel came about</source>
+        <translation>Ein Klick auf das Bild erzählt, wie der Bildpunkt zustande kam</translation>
     </message>
 </context>
 <context>

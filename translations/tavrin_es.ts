@@ -499,6 +499,157 @@
     </message>
 </context>
 <context>
+    <name>Story</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, limit %2</source>
+        <translation>%1, límite %2</translation>
+    </message>
+    <message>
+        <source>Nothing is keyed: the portrait is shown as it is.</source>
+        <translation>No se recorta nada: el retrato se muestra tal cual.</translation>
+    </message>
+    <message>
+        <source>The colour that the key takes as screen is shown instead.</source>
+        <translation>En su lugar se muestra el color que se toma por pantalla.</translation>
+    </message>
+    <message>
+        <source>The map of the green guard is shown instead.</source>
+        <translation>En su lugar se muestra el mapa de la protección del verde.</translation>
+    </message>
+    <message>
+        <source>Clipped away.</source>
+        <translation>Recortado.</translation>
+    </message>
+    <message>
+        <source>Subject: dark (%1) and near grey (%2).</source>
+        <translation>Sujeto: oscuro (%1) y casi gris (%2).</translation>
+    </message>
+    <message>
+        <source>Screen, brighter or darker: its hue fits (distance %1), and it is light enough (%2).</source>
+        <translation>Pantalla, más clara o más oscura: su tono encaja (distancia %1) y es bastante clara (%2).</translation>
+    </message>
+    <message>
+        <source>Screen: nearly its very colour (distance %1).</source>
+        <translation>Pantalla: casi su mismo color (distancia %1).</translation>
+    </message>
+    <message>
+        <source>Subject: red or blue leads green by more than 40, which no screen does.</source>
+        <translation>Sujeto: el rojo o el azul supera al verde en más de 40, lo que no hace ninguna pantalla.</translation>
+    </message>
+    <message>
+        <source>A mix of subject and screen (distance from the screen&apos;s hue %1).</source>
+        <translation>Una mezcla de sujeto y pantalla (distancia al tono de la pantalla %1).</translation>
+    </message>
+    <message>
+        <source>The refined key decided, by what lies around the pixel.</source>
+        <translation>Decidió el croma refinado, por lo que rodea al píxel.</translation>
+    </message>
+    <message>
+        <source>Protected: it keeps the portrait&apos;s own colour.</source>
+        <translation>Protegido: conserva el color propio del retrato.</translation>
+    </message>
+    <message>
+        <source>Not protected: it is connected to the screen at the border.</source>
+        <translation>Sin proteger: está unido a la pantalla del borde.</translation>
+    </message>
+    <message>
+        <source>Not protected: the screen&apos;s colour inside of the subject.</source>
+        <translation>Sin proteger: el color de la pantalla dentro del sujeto.</translation>
+    </message>
+    <message>
+        <source>The colour of the protected clothes.</source>
+        <translation>El color de la ropa protegida.</translation>
+    </message>
+    <message>
+        <source>Not protected: at the edge of the subject.</source>
+        <translation>Sin proteger: en el borde del sujeto.</translation>
+    </message>
+    <message>
+        <source>Not the screen&apos;s colour.</source>
+        <translation>No es el color de la pantalla.</translation>
+    </message>
+    <message>
+        <source>Off.</source>
+        <translation>Desactivada.</translation>
+    </message>
+    <message>
+        <source>%1 of 255, %2</source>
+        <translation>%1 de 255, %2</translation>
+    </message>
+    <message>
+        <source>Nothing of the subject is left here.</source>
+        <translation>Aquí no queda nada del sujeto.</translation>
+    </message>
+    <message>
+        <source>about %1, worked back from the result</source>
+        <translation>aproximadamente %1, calculado desde el resultado</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>x %1, y %2</source>
+        <translation>x %1, y %2</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Retrato</translation>
+    </message>
+    <message>
+        <source>Seen by the key</source>
+        <translation>Visto por el croma</translation>
+    </message>
+    <message>
+        <source>Screen here</source>
+        <translation>Pantalla aquí</translation>
+    </message>
+    <message>
+        <source>The key</source>
+        <translation>El croma</translation>
+    </message>
+    <message>
+        <source>Its share</source>
+        <translation>Su parte</translation>
+    </message>
+    <message>
+        <source>%1, as a mix of hair and screen</source>
+        <translation>%1, como mezcla de pelo y pantalla</translation>
+    </message>
+    <message>
+        <source>Green guard</source>
+        <translation>Protección del verde</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Alfa</translation>
+    </message>
+    <message>
+        <source>Own colour</source>
+        <translation>Color propio</translation>
+    </message>
+    <message>
+        <source>Spill taken away</source>
+        <translation>Luz derramada quitada</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>x %1  y %2    %3    alpha %4 %    spill %5</source>
+        <translation>x %1  y %2    %3    alfa %4 %    derrame %5</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::ActionSearch</name>
     <message>
         <source>Find an Action</source>
@@ -1670,6 +1821,62 @@
     <message>
         <source>Place of the portrait</source>
         <translation>Posición del retrato</translation>
+    </message>
+    <message>
+        <source>Before (hold the key)</source>
+        <translation>Antes (mantener la tecla)</translation>
+    </message>
+    <message>
+        <source>The portrait as it was taken</source>
+        <translation>El retrato tal como se tomó</translation>
+    </message>
+    <message>
+        <source>&amp;Before | After</source>
+        <translation>&amp;Antes | Después</translation>
+    </message>
+    <message>
+        <source>A line to drag across the picture: the portrait on its left, the result on its right</source>
+        <translation>Una línea que se arrastra sobre la imagen: a la izquierda el retrato, a la derecha el resultado</translation>
+    </message>
+    <message>
+        <source>&amp;Alpha</source>
+        <translation>&amp;Alfa</translation>
+    </message>
+    <message>
+        <source>What the key leaves of the portrait: dark stays, light goes</source>
+        <translation>Lo que queda del retrato: lo oscuro queda, lo claro se va</translation>
+    </message>
+    <message>
+        <source>S&amp;creen</source>
+        <translation>&amp;Pantalla</translation>
+    </message>
+    <message>
+        <source>The colour that the key takes as screen, over the whole picture</source>
+        <translation>El color que se toma por pantalla, en toda la imagen</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Pantalla</translation>
+    </message>
+    <message>
+        <source>&amp;Guard</source>
+        <translation>&amp;Protección</translation>
+    </message>
+    <message>
+        <source>What the green guard protects; clothes must be protected for it</source>
+        <translation>Lo que protege la protección del verde; para ello hay que proteger la ropa</translation>
+    </message>
+    <message>
+        <source>Guard</source>
+        <translation>Protección</translation>
+    </message>
+    <message>
+        <source>As&amp;k</source>
+        <translation>Pre&amp;guntar</translation>
+    </message>
+    <message>
+        <source>A click on the picture tells how its pixel came about</source>
+        <translation>Un clic en la imagen cuenta cómo surgió ese píxel</translation>
     </message>
 </context>
 <context>

@@ -8,9 +8,9 @@ namespace tavrin {
 
 namespace {
 
-QString say(const char* text) {
-    return QCoreApplication::translate("Story", text);
-}
+struct Story {
+    Q_DECLARE_TR_FUNCTIONS(Story)
+};
 
 QString bytes(const std::uint8_t* c) {
     return QString("%1 %2 %3").arg(c[0]).arg(c[1]).arg(c[2]);
@@ -29,95 +29,95 @@ Rgb colorOfBytes(const std::uint8_t* c) {
 }
 
 QString percent(double share) {
-    return say("%1 %").arg(rounded(100.0 * share));
+    return Story::tr("%1 %").arg(rounded(100.0 * share));
 }
 
 QString against(const KeyMeasure& measure) {
-    return say("%1, limit %2").arg(rounded(measure.value), rounded(measure.limit));
+    return Story::tr("%1, limit %2").arg(rounded(measure.value), rounded(measure.limit));
 }
 
 /// What the key decided, and by which measure.
 QString decision(const PixelStory& s) {
     switch (s.reason) {
         case KeyReason::noKey:
-            return say("Nothing is keyed: the portrait is shown as it is.");
+            return Story::tr("Nothing is keyed: the portrait is shown as it is.");
         case KeyReason::screenView:
-            return say("The colour that the key takes as screen is shown instead.");
+            return Story::tr("The colour that the key takes as screen is shown instead.");
         case KeyReason::guardView:
-            return say("The map of the green guard is shown instead.");
+            return Story::tr("The map of the green guard is shown instead.");
         case KeyReason::margin:
-            return say("Clipped away.");
+            return Story::tr("Clipped away.");
         case KeyReason::darkNeutral:
-            return say("Subject: dark (%1) and near grey (%2).").arg(against(s.dark), against(s.grey));
+            return Story::tr("Subject: dark (%1) and near grey (%2).").arg(against(s.dark), against(s.grey));
         case KeyReason::screenLine:
-            return say("Screen, brighter or darker: its hue fits (distance %1), and it is light enough (%2).")
+            return Story::tr("Screen, brighter or darker: its hue fits (distance %1), and it is light enough (%2).")
                 .arg(against(s.line), against(s.light));
         case KeyReason::screenNear:
-            return say("Screen: nearly its very colour (distance %1).").arg(against(s.nearest));
+            return Story::tr("Screen: nearly its very colour (distance %1).").arg(against(s.nearest));
         case KeyReason::otherColor:
-            return say("Subject: red or blue leads green by more than 40, which no screen does.");
+            return Story::tr("Subject: red or blue leads green by more than 40, which no screen does.");
         case KeyReason::mixed:
-            return say("A mix of subject and screen (distance from the screen's hue %1).").arg(against(s.line));
+            return Story::tr("A mix of subject and screen (distance from the screen's hue %1).").arg(against(s.line));
         case KeyReason::refined:
             break;
     }
-    return say("The refined key decided, by what lies around the pixel.");
+    return Story::tr("The refined key decided, by what lies around the pixel.");
 }
 
 QString guardText(const PixelStory& s) {
-    if (s.guarded) return say("Protected: it keeps the portrait's own colour.");
+    if (s.guarded) return Story::tr("Protected: it keeps the portrait's own colour.");
     switch (s.guardByte) {
         case guard::kScreen:
-            return say("Not protected: it is connected to the screen at the border.");
+            return Story::tr("Not protected: it is connected to the screen at the border.");
         case guard::kScreenColor:
-            return say("Not protected: the screen's colour inside of the subject.");
+            return Story::tr("Not protected: the screen's colour inside of the subject.");
         case guard::kShirt:
-            return say("The colour of the protected clothes.");
+            return Story::tr("The colour of the protected clothes.");
         case guard::kBand:
         case guard::kEdge:
-            return say("Not protected: at the edge of the subject.");
+            return Story::tr("Not protected: at the edge of the subject.");
         case guard::kSubject:
-            return say("Not the screen's colour.");
+            return Story::tr("Not the screen's colour.");
         default:
-            return say("Off.");
+            return Story::tr("Off.");
     }
 }
 
 QString alphaText(const PixelStory& s) {
-    return say("%1 of 255, %2").arg(s.alpha).arg(percent(s.alpha / 255.0));
+    return Story::tr("%1 of 255, %2").arg(s.alpha).arg(percent(s.alpha / 255.0));
 }
 
 QString ownText(const PixelStory& s) {
-    if (s.alpha == 0) return say("Nothing of the subject is left here.");
-    return s.ownWorkedBack ? say("about %1, worked back from the result").arg(color(s.own)) : color(s.own);
+    if (s.alpha == 0) return Story::tr("Nothing of the subject is left here.");
+    return s.ownWorkedBack ? Story::tr("about %1, worked back from the result").arg(color(s.own)) : color(s.own);
 }
 
 }  // namespace
 
 std::vector<StoryLine> storyLines(const PixelStory& s) {
     std::vector<StoryLine> lines{
-        {say("Place"), say("x %1, y %2").arg(s.x).arg(s.y)},
-        {say("Portrait"), bytes(s.source.data()), colorOfBytes(s.source.data())},
-        {say("Seen by the key"), color(s.seen), s.seen},
-        {say("Screen here"), color(s.screen), s.screen},
-        {say("The key"), decision(s)},
+        {Story::tr("Place"), Story::tr("x %1, y %2").arg(s.x).arg(s.y)},
+        {Story::tr("Portrait"), bytes(s.source.data()), colorOfBytes(s.source.data())},
+        {Story::tr("Seen by the key"), color(s.seen), s.seen},
+        {Story::tr("Screen here"), color(s.screen), s.screen},
+        {Story::tr("The key"), decision(s)},
     };
     if (s.reason != KeyReason::refined) {
         const QString share = percent(s.keyAlpha);
-        lines.push_back(
-            {say("Its share"), s.hairCorrected ? say("%1, as a mix of hair and screen").arg(share) : share});
+        lines.push_back({Story::tr("Its share"),
+                         s.hairCorrected ? Story::tr("%1, as a mix of hair and screen").arg(share) : share});
     }
-    lines.push_back({say("Green guard"), guardText(s)});
-    lines.push_back({say("Alpha"), alphaText(s)});
-    lines.push_back({say("Own colour"), ownText(s), s.alpha > 0 ? std::optional(s.own) : std::nullopt});
-    lines.push_back({say("Spill taken away"), QString::number(s.spillTaken)});
-    lines.push_back({say("Background"), bytes(s.background.data()), colorOfBytes(s.background.data())});
-    lines.push_back({say("Result"), bytes(s.result.data()), colorOfBytes(s.result.data())});
+    lines.push_back({Story::tr("Green guard"), guardText(s)});
+    lines.push_back({Story::tr("Alpha"), alphaText(s)});
+    lines.push_back({Story::tr("Own colour"), ownText(s), s.alpha > 0 ? std::optional(s.own) : std::nullopt});
+    lines.push_back({Story::tr("Spill taken away"), QString::number(s.spillTaken)});
+    lines.push_back({Story::tr("Background"), bytes(s.background.data()), colorOfBytes(s.background.data())});
+    lines.push_back({Story::tr("Result"), bytes(s.result.data()), colorOfBytes(s.result.data())});
     return lines;
 }
 
 QString readOut(const PixelStory& s) {
-    return say("x %1  y %2    %3    alpha %4 %    spill %5")
+    return Story::tr("x %1  y %2    %3    alpha %4 %    spill %5")
         .arg(s.x)
         .arg(s.y)
         .arg(bytes(s.result.data()))
