@@ -34,6 +34,7 @@ class PictureToolsTest : public testing::Test {
             test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
         window_ = std::make_unique<MainWindow>(*info_);
         window_->resize(1300, 800);
+        window_->strip()->setFolded(true);  // room for the picture, also at scale 2
         window_->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
         ASSERT_TRUE(waitForPicture());
@@ -96,10 +97,10 @@ TEST_F(PictureToolsTest, TheSplitShowsThePortraitOnItsLeftAndStaysAtItsPlaceOfTh
     const QPoint from = line->geometry().center();
     QTest::mousePress(line, Qt::LeftButton, {}, line->mapFromParent(from));
     for (int i = 0; i <= 10; ++i)
-        QTest::mouseMove(line, line->mapFromParent(from + QPoint(10 * i, 0)));
-    QTest::mouseRelease(line, Qt::LeftButton, {}, line->mapFromParent(from + QPoint(100, 0)));
-    EXPECT_EQ(line->geometry().center().x(), half + 100);
-    EXPECT_EQ(shownAt({half + 80, viewAt(0, 290).y()}), screen);
+        QTest::mouseMove(line, line->mapFromParent(from + QPoint(5 * i, 0)));
+    QTest::mouseRelease(line, Qt::LeftButton, {}, line->mapFromParent(from + QPoint(50, 0)));
+    EXPECT_EQ(line->geometry().center().x(), half + 50);
+    EXPECT_EQ(shownAt({half + 30, viewAt(0, 290).y()}), screen);
     line->setFocus();
     QTest::keyClick(line, Qt::Key_Home);
     EXPECT_EQ(line->value(), 0);
