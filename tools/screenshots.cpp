@@ -1,5 +1,6 @@
 // Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1 and 2, with the
-// groups as they are at first, all open, a message, and a folder in the strip; file names say which is which.
+// groups as they are at first, all open, a message, and a folder in the strip; in German and Spanish at scale 1. File
+// names say which is which.
 #include <cstdio>
 
 #include <QApplication>
@@ -8,11 +9,13 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include "SampleState.h"
+#include "ui/frame/Language.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
 
@@ -88,7 +91,7 @@ void showFolder(MainWindow& window, SystemInfo& info, const QString& folder) {
 }
 
 /// @return whether every picture was written
-bool shootAll(const QString& folder, const QString& scale) {
+bool shootAll(const QString& folder, const QString& scale, const QString& language) {
     bool all = true;
     for (const bool dark : {false, true}) {
         useTheme(dark ? Theme::dark : Theme::light);
@@ -99,7 +102,7 @@ bool shootAll(const QString& folder, const QString& scale) {
         MainWindow window(*info);
         window.resize(kWidth, kHeight);
         window.show();
-        const QString end = QString("-%1-x%2.png").arg(dark ? "dark" : "light", scale);
+        const QString end = QString("-%1-x%2%3.png").arg(dark ? "dark" : "light", scale, language);
         const auto save = [&](const char* name) { all = shoot(window, *info, folder + '/' + name + end) && all; };
         settle(window, *info);  // the first picture gives the window its shape
         window.resize(kWidth, kHeight);
@@ -165,6 +168,9 @@ bool shootAll(const QString& folder, const QString& scale) {
         save("pixels");
         window.messages()->hide();
         window.view()->setZoomHome();
+        const QTemporaryDir pictures;
+        showFolder(window, *info, pictures.path());
+        save("strip");
         info->oFontObject.push_back(title());
         info->StartUpdate();
         settle(window, *info);
@@ -173,10 +179,6 @@ bool shootAll(const QString& folder, const QString& scale) {
         for (GroupBox* group : window.panel()->groups())
             group->setFolded(group->group().name != std::string_view("groupPlace"));
         save("item");
-        info->oFontObject.clear();
-        const QTemporaryDir pictures;
-        showFolder(window, *info, pictures.path());
-        save("strip");
     }
     return all;
 }
@@ -190,12 +192,16 @@ int main(int argc, char** argv) {
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     if (argc == 2) {  // the scale is one for a whole process
-        for (const char* scale : {"1", "2"}) {
+        const char* const runs[][2] = {{"1", "en"}, {"2", "en"}, {"1", "de"}, {"1", "es"}};
+        for (const auto& [scale, language] : runs) {
             qputenv("QT_SCALE_FACTOR", scale);
-            if (QProcess::execute(argv[0], {argv[1], scale}) != 0) return 1;
+            if (QProcess::execute(argv[0], {argv[1], scale, language}) != 0) return 1;
         }
         return 0;
     }
+    if (argc != 4) return 2;
     QApplication application(argc, argv);
-    return shootAll(argv[1], argv[2]) ? 0 : 1;
+    const QString language = argv[3];
+    useLanguage(QLocale(language));
+    return shootAll(argv[1], argv[2], language == "en" ? "" : "-" + language) ? 0 : 1;
 }
