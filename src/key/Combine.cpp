@@ -41,10 +41,7 @@ RunContext fullRun(SystemInfo& info, int height) {
     return context;
 }
 
-}  // namespace
-
-void Combine(SystemInfo& info, int /*ignored*/, int hiRes) {
-    const Resolution resolution = fullIf(hiRes != 0);
+void run(SystemInfo& info, Resolution resolution, bool refines) {
     const PassGeometry size = info.geometry(resolution);
     if (size.width < 1 || size.height < 1) return;
     CombineParams params = makeCombineParams(info, resolution);
@@ -55,12 +52,22 @@ void Combine(SystemInfo& info, int /*ignored*/, int hiRes) {
     const RunContext context = resolution == Resolution::full ? fullRun(info, size.height) : RunContext();
     RunContext quiet = context;
     quiet.progress = nullptr;
-    if (refinesKey(info) && !refineRun(quiet, info, overrides, params)) return;
+    if (refines && !refineRun(quiet, info, overrides, params)) return;
     const LightingRun light(info, resolution);
     params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
 
     if (!searchBrightGrey(quiet, params)) return;
     runRows(context, size.height, kGrainRows, [&](int y) { combineRow(params, overrides, y); });
+}
+
+}  // namespace
+
+void Combine(SystemInfo& info, int /*ignored*/, int hiRes) {
+    run(info, fullIf(hiRes != 0), refinesKey(info));
+}
+
+void combinePreviewPlainly(SystemInfo& info) {
+    run(info, Resolution::preview, false);
 }
 
 }  // namespace tavrin

@@ -16,4 +16,7 @@ namespace tavrin {
 /// @param hiRes 0: the preview buffers; otherwise the full ones
 void Combine(SystemInfo& info, int ignored, int hiRes);
 
+/// The preview's run with the plain key, whatever `bRefineKey` says: quick, and enough to see where the subject is.
+void combinePreviewPlainly(SystemInfo& info);
+
 }  // namespace tavrin

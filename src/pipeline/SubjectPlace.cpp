@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "key/Combine.h"
 #include "pipeline/Layers.h"
 #include "pipeline/StageSteps.h"
 #include "pipeline/Stages.h"
@@ -181,7 +182,7 @@ std::optional<SubjectBounds> measureSubject(SystemInfo& info) {
     drawPreviewAt(info, foreground, whole);
     findHair(info, Resolution::preview);
     measureScreen(info, Resolution::preview);
-    combine(info, Resolution::preview);
+    combinePreviewPlainly(info);
     static_cast<ScreenColor&>(info) = measured;  // the fill of the layer and the pass begin as if nothing had been
     info.pCombinedBitmapInfo->bHaveBaseGreen = false;
     return findSubject(info.pBackgroundBitmapInfo->pBitmapDataLowRes, fit.outputWidth,
