@@ -104,6 +104,7 @@ void RecipeKeeper::keepPortrait(std::string portrait, Recipe recipe) {
 
 void RecipeKeeper::wait() {
     pool_.waitForDone();
+    const std::lock_guard lock(mutex_);  // which the last job held: an order that the thread checker sees
 }
 
 void RecipeKeeper::forget() {
