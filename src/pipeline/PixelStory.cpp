@@ -13,8 +13,6 @@ namespace tavrin {
 
 namespace {
 
-constexpr double kScreenLine = 80.0, kScreenNear = 8.0;  // limits of the key's decision
-
 /// By how much the screen's channel leads the others, which is what spill looks like.
 double lead(const Rgb& roles) {
     return std::max(0.0, roles.g - std::max(roles.r, roles.b));

@@ -164,7 +164,7 @@ class KeyLanes {
         // Screen of any brightness, unless it is so dark that it may be the subject.
         M open = hn::Not(dark);
         M line = hn::And(open, hn::Gt(d.lift, hn::Set(d_, key_.darkLimit)));
-        if (!hn::AllFalse(d_, line)) line = hn::And(line, hn::Lt(offScreenLine(f, screen), hn::Set(d_, 80.0)));
+        if (!hn::AllFalse(d_, line)) line = hn::And(line, hn::Lt(offScreenLine(f, screen), hn::Set(d_, kScreenLine)));
         open = hn::AndNot(line, open);
         d.lift = hn::IfThenElse(dark, chroma, d.lift);
         d.display.g = hn::IfThenElse(dark, minLanes(f.g, maxLanes(f.r, f.b)), f.g);
@@ -172,7 +172,7 @@ class KeyLanes {
         d.alpha = hn::IfThenElseZero(dark, one);
 
         if (!hn::AllFalse(d_, open)) {
-            d.hardBackground = hn::And(open, hn::Or(margin, hn::Lt(distance(f, screen), hn::Set(d_, 8.0))));
+            d.hardBackground = hn::And(open, hn::Or(margin, hn::Lt(distance(f, screen), hn::Set(d_, kScreenNear))));
             open = hn::AndNot(d.hardBackground, open);
             const M other = key_.blueLogic ? none_ : hn::And(open, isPlainlyOther(f));
             d.alpha = hn::IfThenElse(other, one, d.alpha);

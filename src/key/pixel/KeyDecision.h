@@ -13,6 +13,10 @@ namespace tavrin {
 /// When bright greys are to be unmixed a little: the subject's share in them.
 inline constexpr double kBrightGreyMix = 0.97;
 
+/// A colour is the screen's when it is nearer than this to the line of black through the screen's colour, or to that
+/// colour itself; on the scale of 0 to 255.
+inline constexpr double kScreenLine = 80.0, kScreenNear = 8.0;
+
 /// How much the edges of the key are steepened.
 inline constexpr double kEdgeGain = 1.4;
 
