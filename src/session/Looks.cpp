@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 
 #include "core/Lines.h"
 #include "core/state/SettingNames.h"
+#include "formats/SafeFile.h"
 #include "session/RecipeStore.h"
 
 namespace tavrin {
@@ -64,9 +63,9 @@ std::optional<LookPart> partOfLayer(const std::string& owner, const std::string&
     return key.starts_with("slider") ? LookPart::key : LookPart::tone;
 }
 
+/// "" where there is none.
 std::string bytesOfFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return readSafeFile(path, kMostBytes).bytes;
 }
 
 }  // namespace

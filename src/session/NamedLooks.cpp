@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 
 #include "core/files/Places.h"
 #include "core/state/SettingNames.h"
 #include "formats/ImageState.h"
+#include "formats/SafeFile.h"
 #include "session/RecipeStore.h"
 
 namespace fs = std::filesystem;
@@ -31,9 +30,13 @@ std::string move(const std::string& from, const std::string& to) {
 }
 
 std::string copyFile(const std::string& from, const std::string& to) {
-    std::ifstream file(from, std::ios::binary);
-    if (!file) return from + " cannot be read.";
-    return writeWhole(to, {std::istreambuf_iterator<char>(file), {}});
+    const FileBytes file = readSafeFile(from, kMostBytes);
+    return file.problem.empty() ? writeWhole(to, file.bytes) : file.problem;
+}
+
+bool isTaken(const std::string& name) {
+    std::error_code ignored;
+    return fs::exists(lookFile(name), ignored);
 }
 
 }  // namespace
@@ -55,7 +58,7 @@ std::vector<std::string> lookNames() {
 std::string lookNameProblem(const std::string& name) {
     constexpr std::size_t kLongest = 100;
     if (name.empty()) return "A look needs a name.";
-    if (name.size() > kLongest) return "The name of a look has at most 100 letters.";
+    if (name.size() > kLongest) return "The name of a look is too long.";
     if (name[0] == '.' || name.find('/') != std::string::npos)
         return "The name of a look begins with no full stop and has no slash.";
     return "";
@@ -63,7 +66,7 @@ std::string lookNameProblem(const std::string& name) {
 
 std::string freeLookName(const std::string& name) {
     std::string free = name;
-    for (int i = 2; fs::exists(lookFile(free)); ++i)
+    for (int i = 2; isTaken(free); ++i)
         free = name + ' ' + std::to_string(i);
     return free;
 }
@@ -93,7 +96,7 @@ std::string readLook(const SystemInfo& info, const std::string& file, SettingVal
 
 std::string renameLook(const std::string& from, const std::string& to) {
     if (std::string problem = lookNameProblem(to); !problem.empty()) return problem;
-    if (fs::exists(lookFile(to))) return "There is a look " + to + " already.";
+    if (isTaken(to)) return "There is a look " + to + " already.";
     return move(lookFile(from), lookFile(to));
 }
 

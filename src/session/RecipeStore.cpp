@@ -15,12 +15,6 @@ namespace fs = std::filesystem;
 
 namespace tavrin {
 
-namespace {
-
-constexpr std::size_t kMostBytes = std::size_t{64} << 20;
-
-}  // namespace
-
 std::string recipeFile(const std::string& portrait) {
     std::error_code failed;
     const std::uintmax_t size = fs::file_size(portrait, failed);
@@ -43,8 +37,9 @@ std::string writeWhole(const std::string& path, const std::string& bytes) {
 }
 
 std::optional<Recipe> readRecipeFile(const std::string& path) {
-    if (path.empty() || !fs::exists(path)) return {};
+    if (path.empty()) return {};
     const FileBytes file = readSafeFile(path, kMostBytes);
+    if (file.missing) return {};
     if (!file.problem.empty()) {
         logError(file.problem);
         return {};

@@ -26,6 +26,9 @@ void pruneRecipes(std::size_t most = 5000);
 /// @return "" when done; otherwise one line
 std::string writeWhole(const std::string& path, const std::string& bytes);
 
+/// Recipes and looks are never longer.
+inline constexpr std::size_t kMostBytes = std::size_t{64} << 20;
+
 /// Reads a recipe's file; a damaged one is set aside, and the log is told.
 std::optional<Recipe> readRecipeFile(const std::string& path);
 

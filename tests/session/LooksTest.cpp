@@ -216,6 +216,9 @@ TEST_F(LooksTest, ALookByNameIsAStateThatKeepsThePicturesAndItsOutputModes) {
     EXPECT_EQ(restoreLook("Fair"), "");
     EXPECT_EQ(exportLook("Fair", folder_.file("Autumn.qlx")), "");
     EXPECT_EQ(freeLookName("Autumn"), "Autumn 2");
+    const std::string endless(300, 'x');  // longer than the name of any file
+    EXPECT_EQ(freeLookName(endless), endless);
+    EXPECT_NE(renameLook("Autumn", endless), "");
     EXPECT_EQ(importLook(info, folder_.file("Autumn.qlx"), "Autumn 2"), "");
     EXPECT_EQ(lookNames(), (std::vector<std::string>{"Autumn", "Autumn 2", "Fair"}));
     EXPECT_NE(importLook(info, portrait("no look.qlx"), "Fair"), "");
