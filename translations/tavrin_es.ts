@@ -2,10 +2,14 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>Chips</name>
+    <name>FileFilters</name>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <source>Pictures (%1)</source>
+        <translation>Imágenes (%1)</translation>
+    </message>
+    <message>
+        <source>State files (*.qlx)</source>
+        <translation>Archivos de estado (*.qlx)</translation>
     </message>
 </context>
 <context>
@@ -709,6 +713,10 @@
         <source>Shows what else is set here, or only the first</source>
         <translation>Muestra lo demás ajustado aquí, o solo lo primero</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ChoiceRow</name>
@@ -897,10 +905,6 @@
     <message>
         <source>Looks and state files (*.qlx)</source>
         <translation>Aspectos y archivos de estado (*.qlx)</translation>
-    </message>
-    <message>
-        <source>Pictures (%1)</source>
-        <translation>Imágenes (%1)</translation>
     </message>
     <message>
         <source>The look is copied. Ctrl+Shift+V pastes it on another portrait.</source>
@@ -1760,14 +1764,6 @@
 </context>
 <context>
     <name>tavrin::PictureFiles</name>
-    <message>
-        <source>Pictures (%1)</source>
-        <translation>Imágenes (%1)</translation>
-    </message>
-    <message>
-        <source>State files (*.qlx)</source>
-        <translation>Archivos de estado (*.qlx)</translation>
-    </message>
     <message>
         <source>The state file cannot be opened.</source>
         <translation>No se puede abrir el archivo de estado.</translation>

@@ -12,53 +12,21 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "core/files/Places.h"
 #include "formats/SettingsFile.h"
 #include "pipeline/LayerFit.h"
-#include "session/OutputSizes.h"
-#include "support/Pictures.h"
-#include "support/TestData.h"
+#include "ui/WindowTest.h"
 #include "ui/bind/Groove.h"
 #include "ui/frame/ControlList.h"
-#include "ui/frame/MainWindow.h"
 
 namespace tavrin {
 namespace {
 
-class DeskTest : public testing::Test {
+class DeskTest : public test::WindowTest {
   protected:
     void SetUp() override {
-        std::filesystem::create_directories(folder_.file("shared/QLXXML"));
-        Places::current().setSharedFolder(folder_.file("shared"));
-        chooseSizeByName(*info_, "test");
-        info_->pForegroundBitmapInfo->sSourceImageFullPath =
-            test::savePng(test::discOnScreen(240, 300), folder_.file("fg.png"));
-        info_->pBackgroundBitmapInfo->sSourceImageFullPath =
-            test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
+        WindowTest::SetUp();
         open();
     }
-    void TearDown() override {
-        window_.reset();
-        Places::current().setSharedFolder(shared_);
-    }
-    void open() {
-        window_.reset();
-        window_ = std::make_unique<MainWindow>(*info_);
-        window_->resize(1200, 800);
-        window_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
-        ASSERT_TRUE(waitForPicture());
-    }
-    bool waitForPicture() {
-        return QTest::qWaitFor(
-            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
-    }
-    QAction* action(const char* id) { return window_->commands().action(id); }
-
-    const std::string shared_ = Places::current().sharedFolder();
-    test::TempFolder folder_;
-    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
-    std::unique_ptr<MainWindow> window_;
 };
 
 TEST_F(DeskTest, EveryControlDrivesSomethingAndHasANameOfItsOwn) {

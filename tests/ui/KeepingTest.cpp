@@ -10,43 +10,19 @@
 #include <QStandardPaths>
 #include <QTest>
 
-#include "core/files/Places.h"
 #include "formats/ImageState.h"
-#include "session/OutputSizes.h"
 #include "session/RecipeStore.h"
-#include "support/Pictures.h"
-#include "support/TestData.h"
-#include "ui/frame/MainWindow.h"
+#include "ui/WindowTest.h"
 
 namespace tavrin {
 namespace {
 
-class KeepingTest : public testing::Test {
+class KeepingTest : public test::WindowTest {
   protected:
     void SetUp() override {
-        Places::current().setSharedFolder(folder_.file("data/Tavrin/"));
-        std::filesystem::create_directories(Places::current().xmlFolder());
-        chooseSizeByName(*info_, "test");
-        info_->pForegroundBitmapInfo->sSourceImageFullPath = portrait_;
-        info_->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
+        WindowTest::SetUp();
         open();
     }
-    void TearDown() override {
-        window_.reset();
-        Places::current().setSharedFolder(shared_);
-    }
-    void open() {
-        window_.reset();
-        window_ = std::make_unique<MainWindow>(*info_);
-        window_->resize(1200, 800);
-        window_->show();
-        ASSERT_TRUE(waitForPicture());
-    }
-    bool waitForPicture() {
-        return QTest::qWaitFor(
-            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
-    }
-    SettingEditor& editor() { return window_->binder().editor(); }
     BitmapInfo& portrait() { return *info_->pForegroundBitmapInfo; }
     void brighten(int value) {
         window_->binder().run("Light",
@@ -105,13 +81,7 @@ class KeepingTest : public testing::Test {
             20000);
     }
 
-    const std::string shared_ = Places::current().sharedFolder();
-    test::TempFolder folder_;
-    const std::string portrait_ = test::savePng(test::discOnScreen(240, 300), folder_.file("anna.png"));
     const std::string other_ = test::savePng(test::discOnScreen(240, 300), folder_.file("ben.png"));
-    const std::string background_ = test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
-    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
-    std::unique_ptr<MainWindow> window_;
 };
 
 TEST_F(KeepingTest, AKilledProgramsWorkIsOfferedAndGoesOnlyWithTheAnswer) {

@@ -1,6 +1,9 @@
 // Words in other languages: that all that is seen can be translated, and that longer words still fit.
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <utility>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -12,12 +15,8 @@
 #include <QTest>
 #include <QTranslator>
 
-#include "core/files/Places.h"
-#include "session/OutputSizes.h"
-#include "support/Pictures.h"
-#include "support/TestData.h"
+#include "ui/WindowTest.h"
 #include "ui/frame/Language.h"
-#include "ui/frame/MainWindow.h"
 
 namespace tavrin {
 namespace {
@@ -28,33 +27,23 @@ constexpr QChar kMark = QChar(0x27e6);
 class MarkedLanguage : public QTranslator {
   public:
     bool isEmpty() const override { return false; }
-    QString translate(const char*, const char* text, const char*, int) const override {
+    QString translate(const char* context, const char* text, const char*, int) const override {
+        asked.insert({context, text});
         const QString source = QString::fromUtf8(text);
         return kMark + source + QString(source.size() * 2 / 5, QChar(0xe6));
     }
+
+    mutable std::set<std::pair<std::string, std::string>> asked;  ///< context and text
 };
 
-class LanguageTest : public testing::Test {
+class LanguageTest : public test::WindowTest {
   protected:
-    void SetUp() override {
-        std::filesystem::create_directories(folder_.file("shared/QLXXML"));
-        Places::current().setSharedFolder(folder_.file("shared"));
-        chooseSizeByName(*info_, "test");
-        info_->pForegroundBitmapInfo->sSourceImageFullPath =
-            test::savePng(test::discOnScreen(240, 300), folder_.file("fg.png"));
-        info_->pBackgroundBitmapInfo->sSourceImageFullPath =
-            test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
-    }
     void TearDown() override {
-        window_.reset();
+        WindowTest::TearDown();
         useLanguage(QLocale::c());
-        Places::current().setSharedFolder(shared_);
     }
-    void open() {
-        window_ = std::make_unique<MainWindow>(*info_);
-        window_->resize(1440, 900);
-        window_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    void openUnfolded() {
+        open({1440, 900});
         for (GroupBox* group : window_->panel()->groups())
             group->setFolded(false);
         QTest::qWait(50);
@@ -81,17 +70,12 @@ class LanguageTest : public testing::Test {
         }
         return cut;
     }
-
-    const std::string shared_ = Places::current().sharedFolder();
-    test::TempFolder folder_;
-    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
-    std::unique_ptr<MainWindow> window_;
 };
 
 TEST_F(LanguageTest, NothingThatIsSeenEscapesTranslation) {
     MarkedLanguage language;
     QCoreApplication::installTranslator(&language);
-    open();
+    openUnfolded();
     QStringList escaped;
     const auto look = [&](const QString& text, const QString& where) {
         if (!text.isEmpty() && !text.contains(kMark)) escaped.append(where + ": " + text);
@@ -110,6 +94,17 @@ TEST_F(LanguageTest, NothingThatIsSeenEscapesTranslation) {
     EXPECT_TRUE(cutOff().isEmpty()) << cutOff().join('\n').toStdString();
     window_.reset();
     QCoreApplication::removeTranslator(&language);
+
+    for (const char* const name : {"de", "es"}) {
+        QTranslator words;
+        ASSERT_TRUE(words.load(QLocale(name), "tavrin", "_", ":/translations"));
+        for (const auto& [context, text] : language.asked) {
+            if (context.starts_with('Q')) continue;  // the toolkit's
+            if (text.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz") == text.npos) continue;
+            EXPECT_FALSE(words.translate(context.c_str(), text.c_str()).isEmpty())
+                << name << ": " << context << ": " << text;
+        }
+    }
 }
 
 TEST_F(LanguageTest, SpeaksTheFirstOfTheDesktopsLanguagesThatThereIs) {
@@ -122,7 +117,7 @@ TEST_F(LanguageTest, SpeaksTheFirstOfTheDesktopsLanguagesThatThereIs) {
                  {"ja_JP", "Open &Portrait..."}};
     for (const auto& [locale, text] : cases) {
         useLanguage(QLocale(locale));
-        open();
+        openUnfolded();
         EXPECT_EQ(window_->commands().action("loadForeground")->text(), QString::fromUtf8(text)) << locale;
         EXPECT_TRUE(cutOff().isEmpty()) << locale << '\n' << cutOff().join('\n').toStdString();
         window_.reset();

@@ -8,37 +8,24 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include "core/files/Places.h"
 #include "session/RecipeStore.h"
-#include "support/Pictures.h"
-#include "support/TestData.h"
-#include "ui/frame/MainWindow.h"
+#include "ui/WindowTest.h"
 
 namespace tavrin {
 namespace {
 
-class LookTest : public testing::Test {
+class LookTest : public test::WindowTest {
   protected:
     void SetUp() override {
-        Places::current().setSharedFolder(folder_.file("shared/"));
+        WindowTest::SetUp();
         Places::current().setPicturesFolder(folder_.file("pictures/"));
-        std::filesystem::create_directories(Places::current().xmlFolder());
-        info_->pForegroundBitmapInfo->sSourceImageFullPath = portrait_;
-        info_->pBackgroundBitmapInfo->sSourceImageFullPath =
-            test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
-        window_ = std::make_unique<MainWindow>(*info_);
-        window_->resize(1200, 800);
-        window_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return window_->view()->isFull(); }, 20000));
+        open();
         window_->frameAction()->setChecked(false);
     }
     void TearDown() override {
-        window_.reset();
-        Places::current().setSharedFolder(shared_);
+        WindowTest::TearDown();
         Places::current().setPicturesFolder(pictures_);
     }
-    SettingEditor& editor() { return window_->binder().editor(); }
     BitmapInfo& portrait() { return *info_->pForegroundBitmapInfo; }
     void set(const char* setting, const char* value) {
         window_->binder().run("Change", [&](SettingEditor& e) { ASSERT_EQ(e.set(setting, value), ""); });
@@ -60,12 +47,8 @@ class LookTest : public testing::Test {
         QTest::qWait(10);
     }
 
-    const std::string shared_ = Places::current().sharedFolder(), pictures_ = Places::current().picturesFolder();
-    test::TempFolder folder_;
-    const std::string portrait_ = test::savePng(test::discOnScreen(240, 300), folder_.file("anna.png"));
+    const std::string pictures_ = Places::current().picturesFolder();
     const std::string other_ = test::savePng(test::discOnScreen(240, 300), folder_.file("ben.png"));
-    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
-    std::unique_ptr<MainWindow> window_;
 };
 
 TEST_F(LookTest, APasteShowsWhatWillChangeAndTakesWhatIsTicked) {

@@ -11,44 +11,22 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "core/files/Places.h"
 #include "core/state/SettingNames.h"
 #include "pipeline/PixelStory.h"
-#include "session/OutputSizes.h"
-#include "support/Pictures.h"
-#include "support/TestData.h"
-#include "ui/frame/MainWindow.h"
+#include "ui/WindowTest.h"
 
 namespace tavrin {
 namespace {
 
-class PictureToolsTest : public testing::Test {
+class PictureToolsTest : public test::WindowTest {
   protected:
     void SetUp() override {
-        std::filesystem::create_directories(folder_.file("shared/QLXXML"));
-        Places::current().setSharedFolder(folder_.file("shared"));
-        chooseSizeByName(*info_, "test");
-        info_->pForegroundBitmapInfo->sSourceImageFullPath =
-            test::savePng(test::discOnScreen(240, 300), folder_.file("fg.png"));
-        info_->pBackgroundBitmapInfo->sSourceImageFullPath =
-            test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
-        window_ = std::make_unique<MainWindow>(*info_);
-        window_->resize(1300, 800);
+        WindowTest::SetUp();
+        open({1300, 800});
         window_->strip()->setFolded(true);  // room for the picture, also at scale 2
-        window_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
-        ASSERT_TRUE(waitForPicture());
+        QTest::qWait(20);
         view_ = window_->view();
     }
-    void TearDown() override {
-        window_.reset();
-        Places::current().setSharedFolder(shared_);
-    }
-    bool waitForPicture() {
-        return QTest::qWaitFor(
-            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
-    }
-    QAction* action(const char* id) { return window_->commands().action(id); }
     QPoint viewAt(double x, double y) { return view_->zoom().viewAt({x, y}).toPoint(); }
     QColor shownAt(const QPoint& at) {
         const QImage shown = view_->grab().toImage();
@@ -80,10 +58,6 @@ class PictureToolsTest : public testing::Test {
     /// A place of the picture in inches from its lower left corner, in the view.
     QPoint inchesAt(double x, double y) { return viewAt(x * 92.0, 300.0 - y * 92.0); }
 
-    const std::string shared_ = Places::current().sharedFolder();
-    test::TempFolder folder_;
-    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
-    std::unique_ptr<MainWindow> window_;
     PictureView* view_ = nullptr;
 };
 

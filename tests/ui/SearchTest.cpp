@@ -5,31 +5,22 @@
 #include <QListWidget>
 #include <QTest>
 
-#include "support/Pictures.h"
-#include "support/TestData.h"
-#include "ui/frame/MainWindow.h"
+#include "ui/WindowTest.h"
 
 namespace tavrin {
 namespace {
 
-class SearchTest : public testing::Test {
+class SearchTest : public test::WindowTest {
   protected:
     void SetUp() override {
-        info_->pForegroundBitmapInfo->sSourceImageFullPath =
-            test::savePng(test::discOnScreen(240, 300), folder_.file("fg.png"));
-        info_->pBackgroundBitmapInfo->sSourceImageFullPath =
-            test::savePng(test::noisePicture(240, 300, 9), folder_.file("bg.png"));
-        window_ = std::make_unique<MainWindow>(*info_);
-        window_->resize(1200, 800);
-        window_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        WindowTest::SetUp();
+        open();
     }
     static std::string focus() {
         const QWidget* widget = QApplication::focusWidget();
         return widget ? std::string(widget->metaObject()->className()) + " " + widget->objectName().toStdString()
                       : "";
     }
-    SettingEditor& editor() { return window_->binder().editor(); }
     std::int32_t brightness() { return info_->pForegroundBitmapInfo->iBrightness; }
     void set(const char* label, const char* setting, const char* value) {
         window_->binder().run(label, [&](SettingEditor& e) { ASSERT_EQ(e.set(setting, value), ""); });
@@ -60,10 +51,6 @@ class SearchTest : public testing::Test {
         EXPECT_FALSE(window_->findChild<QLineEdit*>("searchActions")) << "Esc ends it";
         return found;
     }
-
-    test::TempFolder folder_;
-    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(240, 300);
-    std::unique_ptr<MainWindow> window_;
 };
 
 TEST_F(SearchTest, OneFieldFindsCommandsAndControlsInAnyOrderAndWithSlips) {

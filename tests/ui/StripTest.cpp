@@ -13,59 +13,42 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "core/files/Places.h"
-#include "session/OutputSizes.h"
 #include "support/Files.h"
-#include "support/Pictures.h"
-#include "support/TestData.h"
-#include "ui/frame/MainWindow.h"
+#include "ui/WindowTest.h"
 
 namespace tavrin {
 namespace {
 
 namespace fs = std::filesystem;
 
-class StripTest : public testing::Test {
+class StripTest : public test::WindowTest {
   protected:
     void SetUp() override {
+        WindowTest::SetUp();
         qputenv("XDG_CACHE_HOME", folder_.file("cache").c_str());
-        fs::create_directories(folder_.file("shared/QLXXML"));
-        Places::current().setSharedFolder(folder_.file("shared"));
         fs::create_directories(folder_.file("portraits"));
         fs::create_directories(folder_.file("backgrounds"));
         for (int i = 1; i <= 5; ++i) {
             test::savePng(test::discOnScreen(120, 150, QColor(40, 160, 60), QColor(200, 20 * i, 50)), portrait(i));
             test::savePng(test::noisePicture(120, 150, i), background(i));
         }
-        chooseSizeByName(*info_, "test");
         info_->pForegroundBitmapInfo->sSourceImageFullPath = portrait(2);
         info_->pBackgroundBitmapInfo->sSourceImageFullPath = background(1);
-        open();
+        openListed();
     }
     void TearDown() override {
-        window_.reset();
-        Places::current().setSharedFolder(shared_);
+        WindowTest::TearDown();
         qputenv("XDG_CACHE_HOME", cache_);
     }
-    void open() {
-        window_.reset();
-        window_ = std::make_unique<MainWindow>(*info_);
-        window_->resize(1200, 800);
-        window_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
-        ASSERT_TRUE(waitForPicture());
+    void openListed() {
+        open();
         ASSERT_TRUE(QTest::qWaitFor([&] { return list().rowCount() == 5; }, 10000));
         window_->view()->setFocus();
     }
     std::string portrait(int i) const { return folder_.file("portraits/p" + std::to_string(i) + ".png"); }
     std::string background(int i) const { return folder_.file("backgrounds/b" + std::to_string(i) + ".png"); }
-    bool waitForPicture() {
-        return QTest::qWaitFor(
-            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
-    }
     Strip& strip() { return *window_->strip(); }
     PictureList& list() { return strip().portraits()->list(); }
-    QAction* action(const char* id) { return window_->commands().action(id); }
     /// The portrait under work, as its file's name.
     std::string present() const {
         return fs::path(info_->pForegroundBitmapInfo->sSourceImageFullPath.load()).stem().string();
@@ -98,11 +81,7 @@ class StripTest : public testing::Test {
         QApplication::sendEvent(window_.get(), &event);
     }
 
-    const std::string shared_ = Places::current().sharedFolder();
     const QByteArray cache_ = qgetenv("XDG_CACHE_HOME");
-    test::TempFolder folder_;
-    std::unique_ptr<SystemInfo> info_ = test::stateForOutput(120, 150);
-    std::unique_ptr<MainWindow> window_;
 };
 
 TEST_F(StripTest, ShowsTheFolderOfThePortraitAndWalksThroughIt) {
@@ -228,7 +207,7 @@ TEST_F(StripTest, MarksAreSetByKeyFilteredAndTakenBack) {
     EXPECT_EQ(present(), "p1") << "there is no other";
     choose("All");
 
-    open();  // the next start
+    openListed();  // the next start
     EXPECT_EQ(spoken(0), "p1.png, reject, open now");
     EXPECT_EQ(spoken(2), "p3.png, look again");
     EXPECT_FALSE(action("TakeMarkBack")->isEnabled());
@@ -250,7 +229,7 @@ TEST_F(StripTest, IsFoldedAwayByItsKeyAndStaysSo) {
     EXPECT_FALSE(view->isVisible());
     press(window_->view(), Qt::Key_Right);
     EXPECT_EQ(present(), "p3") << "the walk goes on without it";
-    open();
+    openListed();
     EXPECT_FALSE(strip().portraits()->view()->isVisible());
     EXPECT_FALSE(action("ShowStrip")->isChecked());
     press(window_->view(), Qt::Key_T);

@@ -12,6 +12,7 @@
 #include "formats/SettingsFile.h"
 #include "pipeline/SubjectPlace.h"
 #include "session/Freeze.h"
+#include "ui/FileFilters.h"
 #include "ui/WindowSettings.h"
 
 namespace tavrin {

@@ -5,7 +5,6 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 
-#include "core/image/PictureTypes.h"
 #include "core/state/NamedFiles.h"
 #include "formats/ImageState.h"
 #include "pipeline/SaveImage.h"
@@ -20,13 +19,6 @@ namespace {
 
 constexpr const char* kRecentKey = "recentFiles";
 
-QStringList patternsOf(const PictureType& type) {
-    QStringList patterns;
-    for (const std::string& extension : type.extensions)
-        patterns.append("*." + QString::fromStdString(extension));
-    return patterns;
-}
-
 }  // namespace
 
 bool isStateFile(const QString& path) {
@@ -36,25 +28,6 @@ bool isStateFile(const QString& path) {
 bool isFolder(const QString& path) {
     std::error_code none;
     return std::filesystem::is_directory(nameOfText(path), none);
-}
-
-QString pictureFilter() {
-    QStringList patterns;
-    for (const PictureType& type : pictureTypes())
-        patterns += patternsOf(type);
-    return PictureFiles::tr("Pictures (%1)").arg(patterns.join(' '));
-}
-
-QString saveFilter() {
-    QStringList filters;
-    for (const PictureType& type : pictureTypes()) {
-        if (type.fileType != 0) filters.append(QString("%1 (%2)").arg(type.name, patternsOf(type).join(' ')));
-    }
-    return filters.join(";;");
-}
-
-QString stateFilter() {
-    return PictureFiles::tr("State files (*.qlx)");
 }
 
 PictureFiles::PictureFiles(SystemInfo& info, CombineThread& loop, WindowBridge& bridge, QObject* parent)

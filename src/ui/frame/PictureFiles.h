@@ -57,9 +57,4 @@ bool isStateFile(const QString& path);
 /// Whether a folder lies there.
 bool isFolder(const QString& path);
 
-/// The filters of a file dialog: every type that is read, each type that is written, state files.
-QString pictureFilter();
-QString saveFilter();
-QString stateFilter();
-
 }  // namespace tavrin

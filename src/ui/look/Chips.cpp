@@ -14,7 +14,7 @@ constexpr int kGap = 4;
 
 QString wordsOf(const ControlRow* row) {
     const QString label = ControlRow::translated(row->binding().label), value = row->valueText();
-    return value.isEmpty() ? label : Chips::tr("%1: %2").arg(label, value);
+    return value.isEmpty() ? label : tavrin::Chips::tr("%1: %2").arg(label, value);
 }
 
 QToolButton* makeButton(const QString& name, const QString& text, QWidget* parent) {

@@ -11,7 +11,7 @@
 #include <QWidget>
 
 #include "core/files/NameText.h"
-#include "core/image/PictureTypes.h"
+#include "ui/FileFilters.h"
 #include "ui/look/LookDialog.h"
 
 namespace tavrin {
@@ -20,14 +20,6 @@ namespace {
 
 QString lookFilter() {
     return LookDesk::tr("Looks and state files (*.qlx)");
-}
-
-QString portraitFilter() {
-    QStringList patterns;
-    for (const PictureType& type : pictureTypes())
-        for (const std::string& extension : type.extensions)
-            patterns.append("*." + QString::fromStdString(extension));
-    return LookDesk::tr("Pictures (%1)").arg(patterns.join(' '));
 }
 
 }  // namespace
@@ -110,7 +102,7 @@ void LookDesk::pasteOnSelected() {
     if (const QStringList selected = selection_ ? selection_() : QStringList(); selected.size() > 1)
         return pasteOn(selected);
     const QStringList portraits =
-        QFileDialog::getOpenFileNames(window_, tr("Select Portraits for the Look"), QString(), portraitFilter());
+        QFileDialog::getOpenFileNames(window_, tr("Select Portraits for the Look"), QString(), pictureFilter());
     if (!portraits.isEmpty()) pasteOn(portraits);
 }
 
