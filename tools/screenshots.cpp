@@ -106,7 +106,11 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
         const auto save = [&](const char* name) { all = shoot(window, *info, folder + '/' + name + end) && all; };
         settle(window, *info);  // the first picture gives the window its shape
         window.resize(kWidth, kHeight);
-        save("adjust");
+        for (const PanelPage* page : window.panel()->pages()) {
+            window.panel()->selectMainTab(page->title().key);
+            save(page->title().name);
+        }
+        window.panel()->selectMainTab(0);
         const auto action = [&](const char* id) { return window.commands().action(id); };
         const auto shoots = [&](const char* id, const char* name) {
             action(id)->setChecked(true);

@@ -501,6 +501,82 @@
         <source>Right</source>
         <translation>Rechts</translation>
     </message>
+    <message>
+        <source>Adjust</source>
+        <translation>Anpassen</translation>
+    </message>
+    <message>
+        <source>Key, light, colour and place of both layers</source>
+        <translation>Freistellung, Licht, Farbe und Platz beider Ebenen</translation>
+    </message>
+    <message>
+        <source>At the start</source>
+        <translation>Beim Start</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Habits</source>
+        <translation>Gewohnheiten</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Porträt</translation>
+    </message>
+    <message>
+        <source>The portrait that stands there at the start</source>
+        <translation>Das Porträt, das beim Start da ist</translation>
+    </message>
+    <message>
+        <source>Select Startup Foreground File</source>
+        <translation>Porträt für den Start wählen</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>The background that stands there at the start</source>
+        <translation>Der Hintergrund, der beim Start da ist</translation>
+    </message>
+    <message>
+        <source>Select Startup Background File</source>
+        <translation>Hintergrund für den Start wählen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>The state file whose settings every start, and every reset of a layer, begins with</source>
+        <translation>Die Zustandsdatei, mit deren Einstellungen jeder Start und jedes Zurücksetzen einer Ebene beginnt</translation>
+    </message>
+    <message>
+        <source>Select Startup QLX File</source>
+        <translation>Zustandsdatei für den Start wählen</translation>
+    </message>
+    <message>
+        <source>Backgrounds to choose from</source>
+        <translation>Hintergründe zur Auswahl</translation>
+    </message>
+    <message>
+        <source>The folder whose pictures the strip offers as backgrounds</source>
+        <translation>Der Ordner, dessen Bilder der Streifen als Hintergründe anbietet</translation>
+    </message>
+    <message>
+        <source>Folder of the Backgrounds</source>
+        <translation>Ordner der Hintergründe</translation>
+    </message>
+    <message>
+        <source>Start-up files, folders, names of saved files and habits</source>
+        <translation>Dateien für den Start, Ordner, Namen gespeicherter Dateien und Gewohnheiten</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -678,6 +754,29 @@
     <message>
         <source>Nothing has these words.</source>
         <translation>Nichts hat diese Wörter.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::AdjustPage</name>
+    <message>
+        <source>Adjust: %1</source>
+        <translation>Anpassen: %1</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Porträt</translation>
+    </message>
+    <message>
+        <source>The controls below change the portrait</source>
+        <translation>Die Regler darunter ändern das Porträt</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>The controls below change the background</source>
+        <translation>Die Regler darunter ändern den Hintergrund</translation>
     </message>
 </context>
 <context>
@@ -1763,6 +1862,29 @@
     </message>
 </context>
 <context>
+    <name>tavrin::PathRow</name>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Choose: %1</source>
+        <translation>Wählen: %1</translation>
+    </message>
+    <message>
+        <source>Take none: %1</source>
+        <translation>Keine nehmen: %1</translation>
+    </message>
+    <message>
+        <source>Take none</source>
+        <translation>Keine nehmen</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::PictureFiles</name>
     <message>
         <source>The state file cannot be opened.</source>
@@ -1957,6 +2079,25 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::SettingsPage</name>
+    <message>
+        <source>Prefix of saved pictures</source>
+        <translation>Vorsilbe gespeicherter Bilder</translation>
+    </message>
+    <message>
+        <source>The names that are proposed for saved pictures begin with this</source>
+        <translation>Damit beginnen die Namen, die für gespeicherte Bilder vorgeschlagen werden</translation>
+    </message>
+    <message>
+        <source>Prefix</source>
+        <translation>Vorsilbe</translation>
+    </message>
+    <message>
+        <source>A prefix is part of a file&apos;s name, so it has no &quot;/&quot;.</source>
+        <translation>Eine Vorsilbe ist Teil eines Dateinamens und hat darum kein „/“.</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::Shelf</name>
     <message>
         <source>%1 of %2 shown</source>
@@ -1978,10 +2119,6 @@ oder beide im Menü Datei öffnen.</translation>
 <context>
     <name>tavrin::SidePanel</name>
     <message>
-        <source>Adjust</source>
-        <translation>Anpassen</translation>
-    </message>
-    <message>
         <source>Search the controls</source>
         <translation>Regler suchen</translation>
     </message>
@@ -1990,32 +2127,20 @@ oder beide im Menü Datei öffnen.</translation>
         <translation>Kein Regler hat diese Wörter.</translation>
     </message>
     <message>
-        <source>Adjust: %1</source>
-        <translation>Anpassen: %1</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Porträt</translation>
-    </message>
-    <message>
-        <source>The controls below change the portrait</source>
-        <translation>Die Regler darunter ändern das Porträt</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>Hintergrund</translation>
-    </message>
-    <message>
-        <source>The controls below change the background</source>
-        <translation>Die Regler darunter ändern den Hintergrund</translation>
-    </message>
-    <message>
         <source>Finds controls and commands by words in any order; Enter goes to the first</source>
         <translation>Findet Regler und Befehle nach Wörtern in beliebiger Reihenfolge; die Eingabetaste geht zum ersten</translation>
     </message>
     <message>
         <source>Reset all</source>
         <translation>Alles zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>Regler</translation>
+    </message>
+    <message>
+        <source>Controls: %1</source>
+        <translation>Regler: %1</translation>
     </message>
 </context>
 <context>

@@ -501,6 +501,82 @@
         <source>Right</source>
         <translation>Derecha</translation>
     </message>
+    <message>
+        <source>Adjust</source>
+        <translation>Ajustar</translation>
+    </message>
+    <message>
+        <source>Key, light, colour and place of both layers</source>
+        <translation>Recorte, luz, color y lugar de ambas capas</translation>
+    </message>
+    <message>
+        <source>At the start</source>
+        <translation>Al empezar</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Habits</source>
+        <translation>Hábitos</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Retrato</translation>
+    </message>
+    <message>
+        <source>The portrait that stands there at the start</source>
+        <translation>El retrato que está ahí al empezar</translation>
+    </message>
+    <message>
+        <source>Select Startup Foreground File</source>
+        <translation>Elegir el retrato inicial</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>The background that stands there at the start</source>
+        <translation>El fondo que está ahí al empezar</translation>
+    </message>
+    <message>
+        <source>Select Startup Background File</source>
+        <translation>Elegir el fondo inicial</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>The state file whose settings every start, and every reset of a layer, begins with</source>
+        <translation>El archivo de estado con cuyos ajustes empieza cada inicio y cada restablecimiento de una capa</translation>
+    </message>
+    <message>
+        <source>Select Startup QLX File</source>
+        <translation>Elegir el archivo de estado inicial</translation>
+    </message>
+    <message>
+        <source>Backgrounds to choose from</source>
+        <translation>Fondos para elegir</translation>
+    </message>
+    <message>
+        <source>The folder whose pictures the strip offers as backgrounds</source>
+        <translation>La carpeta cuyas imágenes ofrece la tira como fondos</translation>
+    </message>
+    <message>
+        <source>Folder of the Backgrounds</source>
+        <translation>Carpeta de los fondos</translation>
+    </message>
+    <message>
+        <source>Start-up files, folders, names of saved files and habits</source>
+        <translation>Archivos iniciales, carpetas, nombres de archivos guardados y hábitos</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -678,6 +754,29 @@
     <message>
         <source>Nothing has these words.</source>
         <translation>Nada tiene estas palabras.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::AdjustPage</name>
+    <message>
+        <source>Adjust: %1</source>
+        <translation>Ajustar: %1</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Retrato</translation>
+    </message>
+    <message>
+        <source>The controls below change the portrait</source>
+        <translation>Los controles de abajo cambian el retrato</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>The controls below change the background</source>
+        <translation>Los controles de abajo cambian el fondo</translation>
     </message>
 </context>
 <context>
@@ -1763,6 +1862,29 @@
     </message>
 </context>
 <context>
+    <name>tavrin::PathRow</name>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Choose: %1</source>
+        <translation>Elegir: %1</translation>
+    </message>
+    <message>
+        <source>Take none: %1</source>
+        <translation>Ninguno: %1</translation>
+    </message>
+    <message>
+        <source>Take none</source>
+        <translation>Ninguno</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::PictureFiles</name>
     <message>
         <source>The state file cannot be opened.</source>
@@ -1957,6 +2079,25 @@ o ábralos desde el menú Archivo.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::SettingsPage</name>
+    <message>
+        <source>Prefix of saved pictures</source>
+        <translation>Prefijo de las imágenes guardadas</translation>
+    </message>
+    <message>
+        <source>The names that are proposed for saved pictures begin with this</source>
+        <translation>Con esto empiezan los nombres que se proponen al guardar imágenes</translation>
+    </message>
+    <message>
+        <source>Prefix</source>
+        <translation>Prefijo</translation>
+    </message>
+    <message>
+        <source>A prefix is part of a file&apos;s name, so it has no &quot;/&quot;.</source>
+        <translation>Un prefijo es parte del nombre de un archivo, así que no lleva «/».</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::Shelf</name>
     <message>
         <source>%1 of %2 shown</source>
@@ -1978,10 +2119,6 @@ o ábralos desde el menú Archivo.</translation>
 <context>
     <name>tavrin::SidePanel</name>
     <message>
-        <source>Adjust</source>
-        <translation>Ajustar</translation>
-    </message>
-    <message>
         <source>Search the controls</source>
         <translation>Buscar los controles</translation>
     </message>
@@ -1990,32 +2127,20 @@ o ábralos desde el menú Archivo.</translation>
         <translation>Ningún control tiene estas palabras.</translation>
     </message>
     <message>
-        <source>Adjust: %1</source>
-        <translation>Ajustar: %1</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Retrato</translation>
-    </message>
-    <message>
-        <source>The controls below change the portrait</source>
-        <translation>Los controles de abajo cambian el retrato</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>Fondo</translation>
-    </message>
-    <message>
-        <source>The controls below change the background</source>
-        <translation>Los controles de abajo cambian el fondo</translation>
-    </message>
-    <message>
         <source>Finds controls and commands by words in any order; Enter goes to the first</source>
         <translation>Encuentra controles y órdenes por palabras en cualquier orden; Intro va al primero</translation>
     </message>
     <message>
         <source>Reset all</source>
         <translation>Restablecer todo</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>Controles</translation>
+    </message>
+    <message>
+        <source>Controls: %1</source>
+        <translation>Controles: %1</translation>
     </message>
 </context>
 <context>

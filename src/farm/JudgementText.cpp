@@ -13,9 +13,10 @@ namespace tavrin {
 namespace {
 
 // In the order of `MatteMeasure`.
-constexpr const char* kMeasureNames[] = {"noScreen",   "otherScreen", "nothing",   "clothes",  "unlike", "shades",
-                                         "room",       "seeds",       "undecided", "residue",  "specks", "darkPlace",
-                                         "darkScreen", "overexposed", "uneven",    "previews", "cut",    "exposure"};
+constexpr const char* kMeasureNames[] = {"noScreen", "otherScreen", "nothing",   "clothes",    "unlike",
+                                         "shades",   "room",        "seeds",     "undecided",  "residue",
+                                         "shadow",   "specks",      "darkPlace", "darkScreen", "overexposed",
+                                         "uneven",   "previews",    "cut",       "exposure"};
 static_assert(std::size(kMeasureNames) == kMatteMeasures);
 
 double rounded(double value) {

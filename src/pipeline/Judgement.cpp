@@ -29,6 +29,7 @@ constexpr Rule kRules[] = {
     {MatteMeasure::seeds, "gaps", "the screen shows through within the subject", 0.02, 0.1, 0.3, true},
     {MatteMeasure::undecided, "half-solid", "large parts are half transparent", 0.01, 0.08, 0.5, true},
     {MatteMeasure::residue, "residue", "parts of the screen are left", 0.002, 0.03, 0.7, true},
+    {MatteMeasure::shadow, "shadow", "part of the subject's shadow is left", 0.0, 0.002, 0.7, true},
     {MatteMeasure::specks, "specks", "bits are left that do not belong to the subject", 0.01, 0.1, 0.6, true},
     {MatteMeasure::darkPlace, "dark-place", "the screen is very dark", 0.45, 0.8, 0.6, true},
     {MatteMeasure::darkScreen, "dark-screen", "the screen is very dark", 145.0, 205.0, 0.8, false},

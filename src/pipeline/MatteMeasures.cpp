@@ -12,11 +12,12 @@ namespace tavrin {
 namespace {
 
 constexpr int kHalf = 128, kSolid = 235, kClear = 20;
-constexpr int kDarkest = 20;                      // below it a hue means nothing
-constexpr double kAlike = 0.15, kStrange = 0.30;  // ratios to the screen's channel
-constexpr int kEdge = 1;                          // samples beside an edge, which hold some of both
-constexpr int kFar = 3;                           // samples from here on no edge reaches
-constexpr int kWindow = 20;                       // samples: side of the square that shows what is wrong
+constexpr int kDarkest = 20;                        // below it a hue means nothing
+constexpr double kAlike = 0.15, kStrange = 0.30;    // ratios to the screen's channel
+constexpr int kEdge = 1;                            // samples beside an edge, which hold some of both
+constexpr int kFar = 3;                             // samples from here on no edge reaches
+constexpr int kWindow = 20;                         // samples: side of the square that shows what is wrong
+constexpr double kDeepShade = 0.08, kShade = 0.45;  // of the screen's level
 constexpr int kBlack = 5, kWhite = 252;
 constexpr int kPatch = 3;                          // samples to each side that make a surface rough or smooth
 constexpr double kRough = 2.0, kLeastRough = 1.0;  // times the screen's middle, and levels on top
@@ -37,6 +38,15 @@ Likeness likenessTo(const Roles& screen, const Roles& color) {
     const double most = std::max(red, blue), level = color.green / screen.green;
     if (most > kStrange) return Likeness::strange;
     return most < kAlike && level > 0.45 && level < 1.5 ? Likeness::alike : Likeness::between;
+}
+
+/// The screen's hue at the level of a hard shadow. The finest hair before the screen has it too.
+bool isShaded(const Roles& screen, const Roles& color) {
+    if (screen.green < kDarkest || color.green < kDarkest / 2) return false;
+    const double red = std::abs(color.red / color.green - screen.red / screen.green);
+    const double blue = std::abs(color.blue / color.green - screen.blue / screen.green);
+    const double level = color.green / screen.green;
+    return std::max(red, blue) < kAlike && level > kDeepShade && level < kShade;
 }
 
 /// Looks at one map; each step measures one thing.
@@ -61,6 +71,7 @@ class Measurer {
         tellScreen(look);
         tellColors();
         tellShades();
+        tellShadow();
         tellRoom();
         tellParts();
         tellCut();
@@ -212,6 +223,19 @@ class Measurer {
             if (isRough || isOffLight(rolesAt(x, y).green, light.at(x, y))) shades.set(x, y);
         });
         take(MatteMeasure::shades, shades, static_cast<double>(map_.count()));
+    }
+
+    void tellShadow() {
+        const Roles screen{info_.baseRed, info_.baseGreen, info_.baseBlue};
+        Marks shaded(map_.width, map_.height), shadow(shaded);
+        forEach([&](int x, int y) {
+            if (alpha(x, y) > kClear && isShaded(screen, rolesAt(x, y))) shaded.set(x, y);
+        });
+        shaded.sum();
+        forEach([&](int x, int y) {
+            if (shaded.around(x, y, kEdge) >= (2 * kEdge + 1) * (2 * kEdge + 1)) shadow.set(x, y);
+        });
+        take(MatteMeasure::shadow, shadow, static_cast<double>(map_.count()));
     }
 
     void tellRoom() {

@@ -21,6 +21,7 @@ enum class MatteMeasure {
     seeds,        ///< share of the subject that was removed within it and looks like the screen
     undecided,    ///< share of the picture that is half solid, far from screen or from subject
     residue,      ///< share of the picture that was kept and looks like the screen
+    shadow,       ///< share of the picture that was kept in part and looks like the screen in the shade, beside edges
     specks,       ///< share of what was kept that lies apart from the subject, in parts of less than a tenth of it
     darkPlace,    ///< how much darker than its middle level the darkest part of the screen is, 0 to 1
     darkScreen,   ///< levels of the screen below 255
@@ -30,7 +31,7 @@ enum class MatteMeasure {
     cut,          ///< sides at which the picture cuts the subject, without the lower one
     exposure      ///< share of the subject that is black or white without any detail
 };
-inline constexpr std::size_t kMatteMeasures = 18;
+inline constexpr std::size_t kMatteMeasures = 19;
 
 /// A picture of which less is left, as a share, is as good as empty.
 inline constexpr double kNearlyEmpty = 0.006;

@@ -14,7 +14,7 @@ namespace {
 
 // Where they lie between pictures that are fine and pictures that are not is told in docs/key-quality.md.
 constexpr double kDarkScreen = 165.0, kUnevenScreen = 0.75, kWashedOutScreen = 0.1;
-constexpr double kClothes = 0.03;                             // of the picture
+constexpr double kClothes = 0.03, kShadow = 0.0003;           // of the picture
 constexpr int kSure = 25;                                     // of 100, from here on nobody has to look
 constexpr double kSoftPortrait = 2.0, kSoftBackground = 4.0;  // times enlarged
 
@@ -124,6 +124,10 @@ std::vector<PictureWarning> PictureCheck::warnings(const SystemInfo& info,
                                                " has the screen's hue and may have holes."});
         }
         tellDoubt(nameOf(portrait), *judgement, warnings);
+        const bool isTold = !warnings.empty() && warnings.back().kind == "shadow";
+        if (measures[MatteMeasure::shadow] > kShadow && !isTold)
+            warnings.push_back({"shadow", "Part of the shadow that the subject of " + nameOf(portrait) +
+                                              " throws on the screen is left."});
     }
     tellDamage(portrait, warnings);
     tellDamage(*info.pBackgroundBitmapInfo, warnings);

@@ -143,6 +143,13 @@ TEST_F(WarningsCliTest, SaysWhatIsWrongWithThePicture) {
     const QString shirt = QString::fromStdString(test::savePng(dressed, folder_.file("shirt.png")));
     EXPECT_EQ(warned(shirt), QStringList("clothes"));
     EXPECT_EQ(warned(shirt, {"--protect-clothes", "inside"}), QStringList());
+    QImage shadowed = test::discOnScreen(240, 144);
+    for (int y = 60; y < 100; ++y) {
+        for (int x = 160; x < 185; ++x)
+            if (qGreen(shadowed.pixel(x, y)) == 160) shadowed.setPixel(x, y, qRgb(5, 22, 8));
+    }
+    EXPECT_EQ(warned(QString::fromStdString(test::savePng(shadowed, folder_.file("shadow.png")))),
+              QStringList("shadow"));
     QImage glossy = test::discOnScreen(240, 144);
     for (int y = 0; y < 144; ++y) {
         for (int x = 0; x < 240; x += 1 + (x / 3) % 7)

@@ -29,7 +29,7 @@ GroupBox::GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent)
     layout->addWidget(body_);
     for (const Binding& binding : group.bindings) {
         rows_.push_back(makeRow(binding, body_));
-        rows->addWidget(rows_.back());
+        addItem(rows_.back());
         binder.bind(rows_.back());
     }
     setFolded(windowSettings().value(foldKey(group), group.foldedAtFirst).toBool());
@@ -79,20 +79,35 @@ void GroupBox::setFolded(bool folded) {
     header_->setAccessibleDescription(folded ? tr("folded") : tr("open"));
 }
 
-QString GroupBox::wordsOf(const ControlRow& row) const {
-    const Binding& binding = row.binding();
-    QString text = ControlRow::translated(group_.title) + ' ' + ControlRow::translated(binding.label) + ' ' +
-                   ControlRow::translated(binding.toolTip) + ' ' + binding.control + ' ' + binding.setting;
-    for (const Choice& choice : binding.choices)
-        text += ' ' + ControlRow::translated(choice.label);
+void GroupBox::addItem(QWidget* item) {
+    items_.push_back(item);
+    addWidget(item);
+}
+
+QString GroupBox::nameOf(const QWidget& item) {
+    const auto* row = qobject_cast<const ControlRow*>(&item);
+    return row ? ControlRow::translated(row->binding().label) : item.accessibleName();
+}
+
+QString GroupBox::wordsOf(const QWidget& item) const {
+    QString text = ControlRow::translated(group_.title) + ' ' + nameOf(item) + ' ' + item.toolTip();
+    if (const auto* row = qobject_cast<const ControlRow*>(&item)) {
+        const Binding& binding = row->binding();
+        text += ' ' + ControlRow::translated(binding.toolTip) + ' ' + binding.control + ' ' + binding.setting;
+        for (const Choice& choice : binding.choices)
+            text += ' ' + ControlRow::translated(choice.label);
+        return text;
+    }
+    for (const QWidget* part : item.findChildren<QWidget*>())
+        text += ' ' + part->accessibleName() + ' ' + part->toolTip() + ' ' + part->objectName();
     return text;
 }
 
 bool GroupBox::showMatching(const QStringList& words, Slips slips) {
     bool any = false;
-    for (ControlRow* row : rows_) {
-        const bool shown = hasWords(wordsOf(*row), words, slips);
-        row->setVisible(shown);
+    for (QWidget* item : items_) {
+        const bool shown = hasWords(wordsOf(*item), words, slips);
+        item->setVisible(shown);
         any = any || shown;
     }
     setVisible(any);

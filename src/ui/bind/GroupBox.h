@@ -21,17 +21,22 @@ class GroupBox : public QWidget {
     GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent = nullptr);
 
     const BindingGroup& group() const { return group_; }
-    /// Adds what is no row, below the rows.
+    /// Adds what the search leaves alone, below the rows.
     void addWidget(QWidget* widget) { body_->layout()->addWidget(widget); }
+    /// Adds what is no row and is found like one: by its accessible name, and by names and tips of its parts.
+    void addItem(QWidget* item);
     bool isFolded() const;
     void setFolded(bool folded);
-    /// Shows the rows that have all these words in their names, tips or settings, unfolded; without words all rows,
-    /// folded as they were.
+    /// Shows the items that have all these words in their names, tips or settings, unfolded; without words all of
+    /// them, folded as they were.
     /// @return whether there are any
     bool showMatching(const QStringList& words, Slips slips = Slips::none);
     const std::vector<ControlRow*>& rows() const { return rows_; }
-    /// All that a row of the group is found by.
-    QString wordsOf(const ControlRow& row) const;
+    /// Rows and added items, from top to bottom.
+    const std::vector<QWidget*>& items() const { return items_; }
+    /// What an item is called, and all that it is found by.
+    static QString nameOf(const QWidget& item);
+    QString wordsOf(const QWidget& item) const;
 
   private:
     QWidget* makeHeader(Binder& binder);
@@ -40,6 +45,7 @@ class GroupBox : public QWidget {
     QToolButton* header_ = nullptr;
     QWidget* body_;
     std::vector<ControlRow*> rows_;
+    std::vector<QWidget*> items_;
 };
 
 }  // namespace tavrin

@@ -37,13 +37,13 @@ void MainWindow::findAction() {
                            action->isEnabled(), [action] { action->trigger(); }});
     }
     for (const GroupBox* group : panel_->groups())
-        for (const ControlRow* row : group->rows())
-            entries.push_back({ControlRow::translated(row->binding().label),
+        for (const QWidget* item : group->items())
+            entries.push_back({GroupBox::nameOf(*item),
                                ControlRow::translated(group->group().title),
                                {},
-                               group->wordsOf(*row),
+                               group->wordsOf(*item),
                                true,
-                               [this, row] { panel_->reveal(row); }});
+                               [this, item] { panel_->reveal(item); }});
     (new ActionSearch(std::move(entries), this))->show();
 }
 

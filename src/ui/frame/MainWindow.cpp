@@ -31,6 +31,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       strip_(new Strip(info, this)),
       messages_(new MessageBar),
       panel_(new SidePanel(binder_, this)),
+      settings_(new SettingsPage(binder_)),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
@@ -44,6 +45,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectStrip();
     connectKeeping();
     comeBack();
+    connectSettings();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
 }
@@ -109,6 +111,14 @@ void MainWindow::connectBridge() {
         queued);
 }
 
+void MainWindow::connectSettings() {
+    connect(settings_, &SettingsPage::changed, this, &MainWindow::keepSettings);
+    connect(settings_, &SettingsPage::pickDirectoryChanged, strip_, &Strip::followPickDirectory);
+    connect(settings_, &SettingsPage::told, messages_, &MessageBar::tell);
+    for (const char* id : {"FramePortraits", "AutoState"})
+        settings_->addBox(commands_->action(id));
+}
+
 /// The tips of both buttons say what they would do.
 void MainWindow::tellUndo() {
     const auto& steps = editor_.steps();
@@ -125,6 +135,7 @@ void MainWindow::showState() {
     finished_ = false;
     binder_.UpdateAllUI();
     sizeBox_->updateComboBoxImageSize();
+    settings_->refresh();
     strip_->follow();
     view_->setTransparent(info_.bOutputTransparency);
     commands_->refresh();

@@ -17,6 +17,7 @@
 #include "ui/look/LooksPanel.h"
 #include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
+#include "ui/settings/SettingsPage.h"
 #include "ui/strip/Strip.h"
 #include "ui/views/PictureView.h"
 
@@ -92,6 +93,7 @@ class MainWindow : public QMainWindow {
     void connectMaps();
     void connectBridge();
     void connectStrip();
+    void connectSettings();
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
@@ -131,6 +133,7 @@ class MainWindow : public QMainWindow {
     Strip* strip_;
     MessageBar* messages_;
     SidePanel* panel_;
+    SettingsPage* settings_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;

@@ -28,6 +28,7 @@ void MainWindow::layOut() {
     column->addWidget(messages_);
     column->addWidget(view_, 1);
     setCentralWidget(middle);
+    panel_->addPage(settings_);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
     tabifyDockWidget(panel_, history_);
     tabifyDockWidget(panel_, looksPanel_);
@@ -36,6 +37,7 @@ void MainWindow::layOut() {
     std::vector<Command> table = commandTable(*this);
     std::ranges::move(pictureCommands(*tools_, binder_, [this] { return finished_; }), std::back_inserter(table));
     std::ranges::move(stripCommands(*this), std::back_inserter(table));
+    std::ranges::move(pageCommands(*panel_), std::back_inserter(table));
     commands_ = new Commands(*this, std::move(table));
     std::vector<QAction*> actions;
     for (const Command& command : commands_->table())

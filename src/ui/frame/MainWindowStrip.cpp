@@ -121,6 +121,7 @@ void MainWindow::dropFolder(const QString& folder, bool onBackground) {
     if (!onBackground) return openFolder(folder);
     info_.oQLXInfo->sPickDirectory = nameOfText(folder);
     keepSettings();
+    settings_->refresh();
     strip_->followPickDirectory();
 }
 

@@ -4,26 +4,33 @@
 
 #include <QAction>
 #include <QButtonGroup>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "ui/adjust/AdjustGroups.h"
+#include "ui/WindowSettings.h"
 
 namespace tavrin {
 
 namespace {
 
-/// Of buttons to choose from, the one in force.
-void giveFocus(const ControlRow* row) {
-    QWidget* control = row->control();
+constexpr const char* kPageKey = "mainTab";
+constexpr int kTabsInALine = 4;
+
+/// The part of an item that takes the keys; of buttons to choose from, the one in force.
+void giveFocus(QWidget* item) {
+    const auto* row = qobject_cast<const ControlRow*>(item);
+    QWidget* control = row ? row->control() : item;
     if (control->focusPolicy() == Qt::NoFocus) {
         QWidget* first = nullptr;
-        for (auto* button : control->findChildren<QAbstractButton*>())
-            if (!first || button->isChecked()) first = button;
+        for (QWidget* part : control->findChildren<QWidget*>()) {
+            const auto* button = qobject_cast<const QAbstractButton*>(part);
+            if ((part->focusPolicy() & Qt::TabFocus) && (!first || (button && button->isChecked()))) first = part;
+        }
         if (first) control = first;
     }
     control->setFocus(Qt::ShortcutFocusReason);
@@ -32,114 +39,143 @@ void giveFocus(const ControlRow* row) {
 }  // namespace
 
 SidePanel::SidePanel(Binder& binder, QWidget* parent)
-    : QDockWidget(tr("Adjust"), parent),
+    : QDockWidget(tr("Controls"), parent),
       binder_(binder),
-      search_(new QLineEdit),
-      nothing_(new QLabel),
+      tabs_(new QGridLayout),
+      tabGroup_(new QButtonGroup(this)),
+      search_(makeSearch()),
+      nothing_(new QLabel(tr("No control has these words."))),
       found_(new QWidget),
-      scroll_(new QScrollArea) {
+      scroll_(makePages()),
+      adjust_(new AdjustPage(binder)) {
     setObjectName("ControlPickerWindow");
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     auto* whole = new QWidget(this);
     auto* column = new QVBoxLayout(whole);
-    search_->setObjectName("searchControls");
-    search_->setProperty("handler", "find");
-    search_->setPlaceholderText(tr("Search the controls"));
-    search_->setAccessibleName(search_->placeholderText());
-    search_->setToolTip(tr("Finds controls and commands by words in any order; Enter goes to the first"));
-    search_->setClearButtonEnabled(true);
-    connect(search_, &QLineEdit::textChanged, this, &SidePanel::find);
-    connect(search_, &QLineEdit::returnPressed, this, &SidePanel::goToFirstFound);
+    tabs_->setSpacing(2);
+    column->addLayout(tabs_);
     column->addWidget(search_);
     auto* chips = new Chips(binder, whole);
     connect(chips, &Chips::wanted, this, &SidePanel::reveal);
     column->addWidget(chips);
-
-    auto* panel = new QWidget;
-    panel->setObjectName("panelAdjust");
-    auto* rows = new QVBoxLayout(panel);
-    rows->setSpacing(4);
-    (new QVBoxLayout(found_))->setContentsMargins(0, 0, 0, 0);
-    found_->hide();
-    rows->addWidget(found_);
-    for (const BindingGroup& group : adjustGroups()) {
-        if (group.name == std::string_view(kFirstLayerGroup)) rows->addWidget(layerSwitch_ = makeLayerSwitch());
-        groups_.push_back(new GroupBox(group, binder, panel));
-        rows->addWidget(groups_.back());
-        if (group.name == std::string_view("groupPlace")) addMaps(*groups_.back());
-    }
-    int labels = 0;
-    for (const ControlRow* row : binder.rows())
-        labels = std::max(labels, row->labelWidth());
-    for (ControlRow* row : binder.rows())
-        row->setLabelWidth(labels);
-    nothing_->setText(tr("No control has these words."));
-    nothing_->hide();
-    rows->addWidget(nothing_);
-    rows->addStretch();
-    scroll_->setWidgetResizable(true);
-    scroll_->setFrameShape(QFrame::NoFrame);
-    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll_->setFocusPolicy(Qt::NoFocus);
-    scroll_->setWidget(panel);
-    scroll_->setMinimumWidth(panel->minimumSizeHint().width() + 16);
     column->addWidget(scroll_, 1);
     setWidget(whole);
+    addPage(adjust_);
 }
 
-void SidePanel::addMaps(GroupBox& place) {
-    place.addWidget(scaleView_ = new ScaleView(binder_));
-    place.addWidget(textScaleView_ = new TextScaleView(binder_));
+QLineEdit* SidePanel::makeSearch() {
+    auto* search = new QLineEdit;
+    search->setObjectName("searchControls");
+    search->setProperty("handler", "find");
+    search->setPlaceholderText(tr("Search the controls"));
+    search->setAccessibleName(search->placeholderText());
+    search->setToolTip(tr("Finds controls and commands by words in any order; Enter goes to the first"));
+    search->setClearButtonEnabled(true);
+    connect(search, &QLineEdit::textChanged, this, &SidePanel::find);
+    connect(search, &QLineEdit::returnPressed, this, &SidePanel::goToFirstFound);
+    return search;
 }
 
-QWidget* SidePanel::makeLayerSwitch() {
-    auto* line = new QWidget;
-    auto* layout = new QHBoxLayout(line);
-    layout->setContentsMargins(0, 8, 0, 4);
-    layout->setSpacing(0);
-    auto* group = new QButtonGroup(line);
-    const auto add = [&](const char* name, const QString& text, const QString& toolTip, int layer) {
-        auto* button = new QToolButton(line);
-        button->setObjectName(name);
-        button->setProperty("segment", true);
-        button->setProperty("handler",
-                            layer == 0 ? "clickedForegroundRadiobutton:" : "clickedBackgroundRadiobutton:");
-        button->setText(text);
-        button->setToolTip(toolTip);
-        button->setAccessibleName(tr("Adjust: %1").arg(text));
-        button->setCheckable(true);
-        button->setFocusPolicy(Qt::StrongFocus);
-        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        button->setChecked((binder_.editor().info().iActiveBitmap == 0) == (layer == 0));
-        group->addButton(button, layer);
-        layout->addWidget(button);
-    };
-    add("radioForeground", tr("Portrait"), tr("The controls below change the portrait"), 0);
-    add("radioBackground", tr("Background"), tr("The controls below change the background"), 1);
-    connect(group, &QButtonGroup::idToggled, this, [this](int layer, bool on) {
-        if (on) chooseLayer(layer);
-    });
-    return line;
+QScrollArea* SidePanel::makePages() {
+    auto* pages = new QWidget;
+    column_ = new QVBoxLayout(pages);
+    column_->setSpacing(4);
+    (new QVBoxLayout(found_))->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* unseen : {found_, static_cast<QWidget*>(nothing_)}) {
+        column_->addWidget(unseen);
+        unseen->hide();
+    }
+    column_->addStretch();
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(pages);
+    return scroll;
 }
 
-/// No setting changes by it, so no picture is asked for.
-void SidePanel::chooseLayer(int layer) {
-    binder_.editor().info().iActiveBitmap = layer;
-    binder_.UpdateAllUI();
-    scaleView_->update();
+void SidePanel::addPage(PanelPage* page) {
+    page->alignLabels();
+    pages_.push_back(page);
+    groups_.insert(groups_.end(), page->groups().begin(), page->groups().end());
+    column_->insertWidget(column_->count() - 1, page);
+    page->hide();
+    const int needed = page->minimumSizeHint().width() + column_->contentsMargins().left() +
+                       column_->contentsMargins().right() + scroll_->verticalScrollBar()->sizeHint().width();
+    scroll_->setMinimumWidth(std::max(scroll_->minimumWidth(), needed));
+
+    const PageTitle& title = page->title();
+    auto* tab = new QToolButton;
+    tab->setObjectName(QString("main") + title.command);
+    tab->setProperty("tab", true);
+    tab->setProperty("handler", "selectMainTab:");
+    tab->setText(ControlRow::translated(title.title));
+    tab->setAccessibleName(tr("Controls: %1").arg(tab->text()));
+    tab->setToolTip(ControlRow::translated(title.toolTip));
+    tab->setCheckable(true);
+    tab->setFocusPolicy(Qt::TabFocus);
+    tab->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    tabGroup_->addButton(tab, title.key);
+    connect(tab, &QToolButton::clicked, this, [this, page] { selectMainTab(page->title().key); });
+    layOutTabs();
+    if (!current_ || windowSettings().value(kPageKey).toString() == title.name) showPage(page);
+}
+
+/// By their keys, a few in a line.
+void SidePanel::layOutTabs() {
+    std::ranges::sort(pages_, {}, [](const PanelPage* page) { return page->title().key; });
+    QWidget* before = nullptr;
+    for (int i = 0; i < static_cast<int>(pages_.size()); ++i) {
+        QAbstractButton* tab = tabGroup_->button(pages_[static_cast<std::size_t>(i)]->title().key);
+        tabs_->addWidget(tab, i / kTabsInALine, i % kTabsInALine);
+        if (before) setTabOrder(before, tab);
+        before = tab;
+    }
+}
+
+void SidePanel::selectMainTab(int key) {
+    const auto page = std::ranges::find(pages_, key, [](const PanelPage* one) { return one->title().key; });
+    if (page == pages_.end()) return;
+    binder_.editor().info().bEventModeShowing = false;
+    windowSettings().setValue(kPageKey, (*page)->title().name);
+    search_->clear();
+    showPage(*page);
+    show();
+    raise();
+}
+
+/// Each page comes back where it was scrolled to.
+void SidePanel::showPage(PanelPage* page) {
+    if (current_) {
+        current_->setProperty("scrolledTo", scroll_->verticalScrollBar()->value());
+        current_->hide();
+    }
+    current_ = page;
+    page->show();
+    tabGroup_->button(page->title().key)->setChecked(true);
+    scroll_->widget()->layout()->activate();
+    scroll_->verticalScrollBar()->setValue(page->property("scrolledTo").toInt());
 }
 
 /// Words with slips of the fingers count only where there is nothing without.
 void SidePanel::find(const QString& text) {
     const QStringList words = searchWords(text);
-    bool any = false;
-    for (const Slips slips : {Slips::none, Slips::some}) {
-        for (GroupBox* group : groups_)
-            any = group->showMatching(words, slips) || any;
-        any = showActions(words, slips) || any;
-        if (any) break;
-    }
+    const bool any = showFound(words, Slips::none) || showFound(words, Slips::some);
+    for (PanelPage* page : pages_)
+        if (words.isEmpty()) page->setVisible(page == current_);
     nothing_->setVisible(!any);
+}
+
+/// While words are searched for, every page that has them is shown.
+bool SidePanel::showFound(const QStringList& words, Slips slips) {
+    bool any = showActions(words, slips);
+    for (PanelPage* page : pages_) {
+        const bool has = page->showMatching(words, slips);
+        page->setVisible(has);
+        any = any || has;
+    }
+    return any;
 }
 
 bool SidePanel::showActions(const QStringList& words, Slips slips) {
@@ -168,22 +204,22 @@ bool SidePanel::showActions(const QStringList& words, Slips slips) {
 }
 
 void SidePanel::goToFirstFound() {
-    for (const GroupBox* group : groups_) {
-        if (group->isHidden()) continue;
-        for (const ControlRow* row : group->rows())
-            if (!row->isHidden()) return giveFocus(row);
-    }
+    for (const PanelPage* page : pages_)
+        if (QWidget* item = page->isHidden() ? nullptr : page->firstShown()) return giveFocus(item);
     if (auto* button = found_->findChild<QToolButton*>(); button && !found_->isHidden()) button->setFocus();
 }
 
-void SidePanel::reveal(const ControlRow* row) {
+void SidePanel::reveal(const QWidget* item) {
     show();
+    raise();
     search_->clear();
+    for (PanelPage* page : pages_)
+        if (page->isAncestorOf(item)) selectMainTab(page->title().key);
     for (GroupBox* group : groups_)
-        if (group->isAncestorOf(row)) group->setFolded(false);
+        if (group->isAncestorOf(item)) group->setFolded(false);
     scroll_->widget()->layout()->activate();
-    scroll_->ensureWidgetVisible(const_cast<ControlRow*>(row));
-    giveFocus(row);
+    scroll_->ensureWidgetVisible(const_cast<QWidget*>(item));
+    giveFocus(const_cast<QWidget*>(item));
 }
 
 void SidePanel::resetAll() {
@@ -197,6 +233,22 @@ void SidePanel::resetAll() {
         }
         info.iActiveBitmap = layer;
     });
+}
+
+std::vector<Command> pageCommands(SidePanel& panel) {
+    std::vector<Command> commands;
+    for (const PanelPage* page : panel.pages()) {
+        const PageTitle& title = page->title();
+        commands.push_back({title.command,
+                            commands.empty() ? "|&View" : "&View",
+                            SidePanel::tr("Controls: %1").arg(ControlRow::translated(title.title)),
+                            ControlRow::translated(title.toolTip),
+                            "",
+                            QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + title.key)),
+                            {},
+                            [&panel, key = title.key](bool) { panel.selectMainTab(key); }});
+    }
+    return commands;
 }
 
 }  // namespace tavrin

@@ -56,9 +56,10 @@ QToolButton[quiet="true"]:hover { color: palette(window-text); }
 QToolButton[chip="true"] { border: 0; border-radius: 8px; padding: 2px 6px; background: palette(button); }
 QToolButton[chip="true"]:focus { border: 2px solid palette(highlight); padding: 0 4px; }
 QToolButton[dot="true"] { border: 0; padding: 0 3px; color: palette(highlight); font-size: 14pt; max-height: 18px; }
-QToolButton[tab="true"] { border: 0; border-radius: 5px; padding: 6px 12px; }
+QToolButton[tab="true"] { border: 0; border-radius: 5px; padding: 6px 8px; }
 QToolButton[tab="true"]:checked { background: palette(button); font-weight: bold; }
-QToolButton[tab="true"]:focus { border: 2px solid palette(highlight); padding: 4px 10px; }
+QToolButton[tab="true"]:focus { border: 2px solid palette(highlight); padding: 4px 6px; }
+QLabel[pageTitle="true"] { color: palette(placeholder-text); padding: 6px 0 0 0; }
 QToolButton#Save { background: palette(highlight); color: palette(highlighted-text); border-radius: 5px;
                    padding: 6px 18px; font-weight: bold; }
 QToolButton#Save:disabled { background: palette(button); color: palette(placeholder-text); }
