@@ -73,12 +73,30 @@ void Binder::resetGroup(const BindingGroup& group) {
     });
 }
 
+bool Binder::isOn(const OnSetting& one) const {
+    const std::string value = editor_.value(one.setting);
+    return value != one.off && value != "0";
+}
+
 bool Binder::isOn(const BindingGroup& group) const {
-    if (!group.acts) return false;
-    return std::ranges::any_of(group.acts->switches, [this](const OnSetting& one) {
-        const std::string value = editor_.value(one.setting);
-        return value != one.off && value != "0";
-    });
+    return group.acts &&
+           std::ranges::any_of(group.acts->switches, [this](const OnSetting& one) { return isOn(one); });
+}
+
+QString Binder::onWords(const BindingGroup& group) const {
+    const QString title = ControlRow::translated(group.title);
+    QStringList words;
+    if (group.acts->word) words.append(group.acts->word(editor_.info()));
+    for (const OnSetting& one : group.acts->switches) {
+        if (group.acts->word || !isOn(one)) continue;
+        const double value = numberOf(editor_.value(one.setting));
+        for (const Binding& binding : group.bindings)
+            for (const Choice& choice : binding.choices)
+                if (binding.setting == std::string_view(one.setting) && choice.value == value)
+                    words.append(ControlRow::translated(choice.label));
+    }
+    words.removeAll(QString());
+    return words.isEmpty() ? title : tr("%1: %2").arg(title, words.join(QStringLiteral(", ")));
 }
 
 void Binder::switchOff(const BindingGroup& group) {

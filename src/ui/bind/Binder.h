@@ -25,6 +25,8 @@ class Binder : public QObject {
     void resetGroup(const BindingGroup& group);
     /// Whether the effect of a group is on for the picture at hand; and off it goes, as one step.
     bool isOn(const BindingGroup& group) const;
+    /// What is on, such as "Shadow: wall".
+    QString onWords(const BindingGroup& group) const;
     void switchOff(const BindingGroup& group);
     /// Shows every setting in its control.
     void UpdateAllUI();
@@ -47,6 +49,7 @@ class Binder : public QObject {
   private:
     void change(const Binding& binding, double setting);
     void reset(const Binding& binding);
+    bool isOn(const OnSetting& one) const;
     void finish();
     void showAll();
     void show(ControlRow& row) const;

@@ -8,6 +8,7 @@ namespace tavrin {
 ActionRow::ActionRow(const EffectActionRow& row, Binder& binder, QWidget* parent)
     : QWidget(parent), row_(row), binder_(binder) {
     setObjectName(row.name);
+    setAccessibleName(tr("Start"));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

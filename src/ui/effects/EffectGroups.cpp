@@ -17,13 +17,12 @@ const std::vector<BindingGroup>& effectGroups() {
             for (BindingGroup& group : more)
                 all.push_back(std::move(group));
         };
-        add({shadowGroup()});
-        add(skinGroups());
+        add({shadowGroup(), skinGroup()});
         add(textureGroups());
         add(frameGroups());
         add({silhouetteGroup(), reflectionGroup(), reflectionTextureGroup(), lightingGroup()});
         add(drawingGroups());
-        add({guardGroup()});
+        add({globalSmoothingGroup(), guardGroup()});
         return all;
     }();
     return groups;

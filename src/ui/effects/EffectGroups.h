@@ -14,7 +14,8 @@ const std::vector<const char*>& effectsFromTopToBottom();
 /// The groups of `effectGroups`, by subject.
 std::vector<BindingGroup> toneGroups();
 BindingGroup shadowGroup();
-std::vector<BindingGroup> skinGroups();
+BindingGroup skinGroup();
+BindingGroup globalSmoothingGroup();
 std::vector<BindingGroup> textureGroups();
 std::vector<BindingGroup> frameGroups();
 BindingGroup silhouetteGroup();

@@ -34,7 +34,7 @@ Binding modeRadio(const FrameNames& names) {
                                    "picture of your own."),
                  {{named("buttonFrameColor"), "6", 1, QT_TRANSLATE_NOOP("Panel", "Colour")},
                   {named("buttonFrameBlur"), "7", 2, QT_TRANSLATE_NOOP("Panel", "Blur")},
-                  {named("buttonFrameBackground"), "8", 3, QT_TRANSLATE_NOOP("Panel", "Backgr.")},
+                  {named("buttonFrameBG"), "8", 3, QT_TRANSLATE_NOOP("Panel", "Backgr.")},
                   {named("buttonFrameImage"), "9", 4, QT_TRANSLATE_NOOP("Panel", "Picture")}});
 }
 

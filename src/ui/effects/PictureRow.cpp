@@ -132,6 +132,10 @@ void PictureRow::showPicture(const std::string& path, const QImage& small) {
     button_->setIcon(small.isNull() ? QIcon() : QIcon(QPixmap::fromImage(small)));
 }
 
+bool PictureRow::hasFile() const {
+    return !binder_.editor().value(setting_.file).empty();
+}
+
 QString PictureRow::problem() const {
     return problem_->text();
 }

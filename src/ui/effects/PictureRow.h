@@ -35,6 +35,7 @@ class PictureRow : public QWidget {
     void choose();
     /// Reads a file beside the main thread, and takes it if it is a picture.
     void take(const QString& path);
+    bool hasFile() const;
     /// Why the last file was not taken, or the present one cannot be shown; "" for no fault.
     QString problem() const;
 

@@ -18,6 +18,8 @@ constexpr Handler kGlobalSlider{"sliderGlobalSmoothing:"};
 constexpr Handler kGlobalRadio{"clickedRadioGlobalSmoothing:"};
 constexpr Handler kGlobalReset{"globalSmoothingReset:"};
 
+}  // namespace
+
 BindingGroup skinGroup() {
     static const PanelActs acts{
         "openEffectsSmoothPanel:, closeEffectsSmoothPanel:", "updateSmoothEffectsUI", {{"iSmoothMode"}}};
@@ -76,12 +78,6 @@ BindingGroup globalSmoothingGroup() {
                      QT_TRANSLATE_NOOP("Panel", "To the right surfaces grow smoother; 0 changes nothing."))},
         true,
         &acts};
-}
-
-}  // namespace
-
-std::vector<BindingGroup> skinGroups() {
-    return {skinGroup(), globalSmoothingGroup()};
 }
 
 }  // namespace tavrin

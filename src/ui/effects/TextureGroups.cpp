@@ -1,7 +1,7 @@
 // The four textures: on the picture, on each frame, on the reflection.
-#include <QCoreApplication>
+#include <QFileInfo>
 
-#include "ui/bind/ControlRow.h"
+#include "core/files/NameText.h"
 #include "ui/effects/EffectGroups.h"
 
 namespace tavrin {
@@ -16,6 +16,11 @@ constexpr Handler kPictureRadio{"clickedEffectsTextureRadiobutton:"},
     kReflectionRadio{"clickedEffectsTextureReflectionRadiobutton:"};
 constexpr Handler kPictureReset{"effectsTextureReset:"}, kFrameReset{"effectsTextureFrameReset:"},
     kOverlayReset{"effectsTextureFrameOverlayReset:"}, kReflectionReset{"effectsTextureReflectionReset:"};
+
+/// The name of a texture's file without its end.
+QString nameOf(const ImageTexture& texture) {
+    return QFileInfo(textOfName(texture.sTextureFileName)).completeBaseName();
+}
 
 /// What the texture groups differ in. A distortion of 0 as default is that of a frame, which has no slider for it.
 struct Place {
@@ -55,14 +60,18 @@ std::vector<Binding> bindingsOf(const Place& place) {
 }  // namespace
 
 std::vector<BindingGroup> textureGroups() {
-    static const PanelActs picture{
-        "openEffectsTexturePanel:, closeEffectsTexturePanel:", "updateTextureEffectsUI", {{"texture.bHaveTexture"}}};
+    static const PanelActs picture{"openEffectsTexturePanel:, closeEffectsTexturePanel:",
+                                   "updateTextureEffectsUI",
+                                   {{"texture.bHaveTexture"}},
+                                   [](const SystemInfo& info) { return nameOf(*info.oImageTexture); }};
     static const PanelActs frame{"openEffectsTextureFramePanel:, closeEffectsTextureFramePanel:",
                                  "updateTextureEffectsFrameUI",
-                                 {{"frame.texture.bHaveTexture"}}};
+                                 {{"frame.texture.bHaveTexture"}},
+                                 [](const SystemInfo& info) { return nameOf(info.oFrame->oTexture); }};
     static const PanelActs overlay{"openEffectsTextureFrameOverlayPanel:, closeEffectsTextureFrameOverlayPanel:",
                                    "updateTextureEffectsFrameUIOverlay",
-                                   {{"frameOverlay.texture.bHaveTexture"}}};
+                                   {{"frameOverlay.texture.bHaveTexture"}},
+                                   [](const SystemInfo& info) { return nameOf(info.oFrameOverlay->oTexture); }};
     return {{"MyEffectsTexturePanel", QT_TRANSLATE_NOOP("Panel", "Texture"), &kPictureReset,
              bindingsOf({"", "texture.", &kPicture, &kPictureRadio, &kPictureReset, true}), true, &picture},
             {"MyEffectsTextureFramePanel", QT_TRANSLATE_NOOP("Panel", "Texture of the frame"), &kFrameReset,
@@ -76,7 +85,8 @@ std::vector<BindingGroup> textureGroups() {
 BindingGroup reflectionTextureGroup() {
     static const PanelActs acts{"openEffectsTextureReflectionPanel:, closeEffectsTextureReflectionPanel:",
                                 "updateTextureEffectsReflectionUI",
-                                {{"reflectionTexture.bHaveTexture"}}};
+                                {{"reflectionTexture.bHaveTexture"}},
+                                [](const SystemInfo& info) { return nameOf(*info.oReflectionTexture); }};
     return {
         "MyEffectsTextureReflectionPanel",
         QT_TRANSLATE_NOOP("Panel", "Texture of the reflection"),

@@ -92,6 +92,7 @@ void MainWindow::connectBridge() {
     connect(&bridge_, &WindowBridge::failed, messages_, &MessageBar::fail, queued);
     connect(&bridge_, &WindowBridge::outputSized, this, &MainWindow::sizeToOutput, queued);
     connect(&bridge_, &WindowBridge::placed, &binder_, &Binder::UpdateAllUI, queued);
+    connect(&bridge_, &WindowBridge::smoothProgress, panel_->effects(), &EffectsPage::showSmoothProgress, queued);
     connect(
         &bridge_, &WindowBridge::stateOpened, this,
         [this] {
