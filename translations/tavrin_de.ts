@@ -799,7 +799,7 @@
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished">Effekte</translation>
+        <translation>Effekte</translation>
     </message>
     <message>
         <source>Shadow, frames, light, drawings, textures, skin</source>
@@ -851,7 +851,7 @@
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished">Bild</translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Thickness</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>Green guard</source>
-        <translation type="unfinished">Grünschutz</translation>
+        <translation>Grünschutz</translation>
     </message>
     <message>
         <source>Protect</source>
@@ -1606,7 +1606,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1 off</source>
@@ -2804,7 +2804,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

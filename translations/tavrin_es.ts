@@ -799,7 +799,7 @@
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished">Efectos</translation>
+        <translation>Efectos</translation>
     </message>
     <message>
         <source>Shadow, frames, light, drawings, textures, skin</source>
@@ -851,7 +851,7 @@
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished">Imagen</translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>Thickness</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>Green guard</source>
-        <translation type="unfinished">Protección del verde</translation>
+        <translation>Protección del verde</translation>
     </message>
     <message>
         <source>Protect</source>
@@ -1606,7 +1606,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1 off</source>
@@ -2804,7 +2804,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
