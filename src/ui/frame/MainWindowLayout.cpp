@@ -76,7 +76,7 @@ void MainWindow::makeToolBar() {
     label->setBuddy(sizeBox_);
     bar->addWidget(label);
     bar->addWidget(sizeBox_);
-    bar->addWidget(buttonOf(commands_->action("Save"), bar));
+    bar->addWidget(buttonOf(commands_->action("Save"), bar, Qt::ToolButtonTextOnly));
 }
 
 void MainWindow::makeStatusLine() {
