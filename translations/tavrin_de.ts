@@ -1342,7 +1342,7 @@
         <translation>Die Farben des Porträts. Form wird beim Bild gemerkt und lässt seine Farben; die Gruppe Schattenriss macht einen.</translation>
     </message>
     <message>
-        <source>B &amp; W</source>
+        <source>B/W</source>
         <translation>S/W</translation>
     </message>
     <message>

@@ -1342,7 +1342,7 @@
         <translation>Los colores del retrato. Forma se guarda con la imagen y deja sus colores; el grupo de siluetas hace una.</translation>
     </message>
     <message>
-        <source>B &amp; W</source>
+        <source>B/W</source>
         <translation>B/N</translation>
     </message>
     <message>

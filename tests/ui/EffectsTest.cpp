@@ -253,6 +253,8 @@ TEST_F(EffectsTest, CommandsOpenEachPanelOnItsPage) {
         action(command)->trigger();
         EXPECT_FALSE(part<GroupBox>(name)->isFolded()) << name;
         EXPECT_TRUE(part<GroupBox>(name)->isVisible()) << name;
+        QWidget* last = part<GroupBox>(name)->items().back();
+        EXPECT_FALSE(last->visibleRegion().isEmpty()) << name << " is seen to its end";
     }
     openPanel("MyEffectsFrame1Panel");
     press("addFrameTexture");

@@ -33,13 +33,13 @@ BindingGroup blackAndWhiteGroup() {
                                  "The colours of the portrait. Shape is kept with the picture and leaves its "
                                  "colours; the panel of silhouettes makes one."),
                {{"buttonFGColor", "1", 0, QT_TRANSLATE_NOOP("Panel", "Colour")},
-                {"buttonFGBW", "2", 1, QT_TRANSLATE_NOOP("Panel", "B & W")},
+                {"buttonFGBW", "2", 1, QT_TRANSLATE_NOOP("Panel", "B/W")},
                 {"buttonFGSEPIA", "3", 2, QT_TRANSLATE_NOOP("Panel", "Sepia")},
                 {"buttonFGSIL", "4", 3, QT_TRANSLATE_NOOP("Panel", "Shape")}}),
          radio("radioBackgroundMode", &kModes, "iBackgroundOutputMode", 0, QT_TRANSLATE_NOOP("Panel", "Background"),
                QT_TRANSLATE_NOOP("Panel", "The colours of the background."),
                {{"buttonBGColor", "5", 0, QT_TRANSLATE_NOOP("Panel", "Colour")},
-                {"buttonBGBW", "6", 1, QT_TRANSLATE_NOOP("Panel", "B & W")},
+                {"buttonBGBW", "6", 1, QT_TRANSLATE_NOOP("Panel", "B/W")},
                 {"buttonBGSEPIA", "7", 2, QT_TRANSLATE_NOOP("Panel", "Sepia")}})},
         true,
         &acts};
