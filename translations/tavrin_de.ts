@@ -1389,6 +1389,22 @@
         <source>Moves the picture inside the shape; 50 leaves it in place.</source>
         <translation>Verschiebt das Bild in der Form; 50 lässt es am Platz.</translation>
     </message>
+    <message>
+        <source>Output sizes</source>
+        <translation>Ausgabegrößen</translation>
+    </message>
+    <message>
+        <source>Print pages</source>
+        <translation>Druckseiten</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Pages to print on, with places for pictures</source>
+        <translation>Seiten zum Drucken, mit Plätzen für Bilder</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -1765,6 +1781,21 @@
     </message>
 </context>
 <context>
+    <name>tavrin::EntryDialog</name>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Takes what is entered here</source>
+        <translation>Übernimmt, was hier eingegeben ist</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::GroupBox</name>
     <message>
         <source>Fold the group away, or open it</source>
@@ -1859,6 +1890,17 @@
     <message>
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LengthField</name>
+    <message>
+        <source>%1 goes from %2 to %3.</source>
+        <translation>%1 geht von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number; %2 stays as it was.</source>
+        <translation>„%1“ ist keine Zahl; %2 bleibt, wie es war.</translation>
     </message>
 </context>
 <context>
@@ -2652,6 +2694,86 @@
         <source>The look waits, and is there when these portraits are opened: %1</source>
         <translation>Der Look wartet und ist da, wenn diese Porträts geöffnet werden: %1</translation>
     </message>
+    <message>
+        <source>Overlay over the &amp;Whole...</source>
+        <translation>Auflage über dem &amp;Ganzen...</translation>
+    </message>
+    <message>
+        <source>Lays a picture with clear parts over everything, such as a frame</source>
+        <translation>Legt ein Bild mit durchsichtigen Teilen über alles, etwa einen Rahmen</translation>
+    </message>
+    <message>
+        <source>Select Frame Overlay</source>
+        <translation>Auflage für das Ganze wählen</translation>
+    </message>
+    <message>
+        <source>Overlay over the P&amp;ortrait...</source>
+        <translation>Auflage über dem P&amp;orträt...</translation>
+    </message>
+    <message>
+        <source>Lays a picture with clear parts over the portrait</source>
+        <translation>Legt ein Bild mit durchsichtigen Teilen über das Porträt</translation>
+    </message>
+    <message>
+        <source>Select Forground Overlay</source>
+        <translation>Auflage für das Porträt wählen</translation>
+    </message>
+    <message>
+        <source>Overlay over the &amp;Background...</source>
+        <translation>Auflage über dem &amp;Hintergrund...</translation>
+    </message>
+    <message>
+        <source>Lays a picture with clear parts between background and portrait</source>
+        <translation>Legt ein Bild mit durchsichtigen Teilen zwischen Hintergrund und Porträt</translation>
+    </message>
+    <message>
+        <source>Select Background Overlay</source>
+        <translation>Auflage für den Hintergrund wählen</translation>
+    </message>
+    <message>
+        <source>Overlays of a &amp;Set...</source>
+        <translation>Auflagen eines &amp;Satzes...</translation>
+    </message>
+    <message>
+        <source>Choose one of a set (FR_, FG_, BG_ and a name): all of the set are laid on</source>
+        <translation>Eine aus einem Satz wählen (FR_, FG_, BG_ und ein Name): alle des Satzes werden aufgelegt</translation>
+    </message>
+    <message>
+        <source>&amp;Reset with Each New Portrait</source>
+        <translation>Mit jedem neuen Porträt &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>A portrait that is opened for the first time begins with the settings of the start-up state</source>
+        <translation>Ein zum ersten Mal geöffnetes Porträt beginnt mit den Einstellungen des Stands für den Start</translation>
+    </message>
+    <message>
+        <source>Reset with &amp;Each New Background</source>
+        <translation>Mit jedem neuen &amp;Hintergrund zurücksetzen</translation>
+    </message>
+    <message>
+        <source>A background that is opened begins with the start-up state&apos;s settings of the background</source>
+        <translation>Ein geöffneter Hintergrund beginnt mit den Hintergrund-Einstellungen des Stands für den Start</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Auflage</translation>
+    </message>
+    <message>
+        <source>Select Overlay</source>
+        <translation>Auflage wählen</translation>
+    </message>
+    <message>
+        <source>There is no set of this name in %1.</source>
+        <translation>In %1 gibt es keinen Satz dieses Namens.</translation>
+    </message>
+    <message>
+        <source>Overlays of a set</source>
+        <translation>Auflagen eines Satzes</translation>
+    </message>
+    <message>
+        <source>The picture is saved as %1, which is there already. Replace it?</source>
+        <translation>Das Bild wird als %1 gespeichert, das es schon gibt. Ersetzen?</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -2755,6 +2877,14 @@
     <message>
         <source>The state file cannot be saved.</source>
         <translation>Die Standdatei kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The settings were not reset.</source>
+        <translation>Die Einstellungen wurden nicht zurückgesetzt.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be saved.</source>
+        <translation>Das Bild kann nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>
@@ -3044,6 +3174,120 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::SizeDialog</name>
+    <message>
+        <source>New Output Size</source>
+        <translation>Neue Ausgabegröße</translation>
+    </message>
+    <message>
+        <source>Output Size</source>
+        <translation>Ausgabegröße</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>How wide the printed picture is</source>
+        <translation>Wie breit das gedruckte Bild ist</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>How high the printed picture is</source>
+        <translation>Wie hoch das gedruckte Bild ist</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>Dots an inch</source>
+        <translation>Punkte je Zoll</translation>
+    </message>
+    <message>
+        <source>How fine the picture is; 300 is usual for prints</source>
+        <translation>Wie fein das Bild ist; für Abzüge sind 300 üblich</translation>
+    </message>
+    <message>
+        <source>Print page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>The page that this size is printed on</source>
+        <translation>Die Seite, auf der diese Größe gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Width and height are in centimetres; otherwise in inches</source>
+        <translation>Breite und Höhe in Zentimetern; sonst in Zoll</translation>
+    </message>
+    <message>
+        <source>A page of its own</source>
+        <translation>Eine eigene Seite</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SizesPanel</name>
+    <message>
+        <source>Output sizes</source>
+        <translation>Ausgabegrößen</translation>
+    </message>
+    <message>
+        <source>Sizes of your own; two stars mark them</source>
+        <translation>Eigene Größen; zwei Sterne kennzeichnen sie</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Bildpunkte</translation>
+    </message>
+    <message>
+        <source>Print page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>Hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Adds an output size of your own</source>
+        <translation>Fügt eine eigene Ausgabegröße hinzu</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Bearbeiten...</translation>
+    </message>
+    <message>
+        <source>Changes the size that is selected; one of the program&apos;s becomes your own</source>
+        <translation>Ändert die gewählte Größe; eine des Programms wird zur eigenen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Takes a size of your own out of the list; pictures that have it keep it</source>
+        <translation>Nimmt eine eigene Größe aus der Liste; Bilder, die sie haben, behalten sie</translation>
+    </message>
+    <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>The sizes cannot be kept.</source>
+        <translation>Die Größen können nicht aufgehoben werden.</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::SliderRow</name>
     <message>
         <source>%1, number</source>
@@ -3149,6 +3393,184 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>The mark is not kept.</source>
         <translation>Die Markierung wird nicht aufgehoben.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TemplateView</name>
+    <message>
+        <source>The print page with the picture in its places</source>
+        <translation>Die Druckseite mit dem Bild an seinen Plätzen</translation>
+    </message>
+    <message>
+        <source>The sheet as it is printed: grey is paper that stays free</source>
+        <translation>Das Blatt, wie es gedruckt wird: Grau ist Papier, das frei bleibt</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TemplatesPanel</name>
+    <message>
+        <source>New Print Page</source>
+        <translation>Neue Druckseite</translation>
+    </message>
+    <message>
+        <source>Print Page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>What the page is called in lists</source>
+        <translation>Wie die Seite in Listen heißt</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>How wide the page is</source>
+        <translation>Wie breit die Seite ist</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>How high the page is</source>
+        <translation>Wie hoch die Seite ist</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>Width and height are in centimetres; otherwise in inches</source>
+        <translation>Breite und Höhe in Zentimetern; sonst in Zoll</translation>
+    </message>
+    <message>
+        <source>Place for a Picture</source>
+        <translation>Platz für ein Bild</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>From the left edge of the page</source>
+        <translation>Vom linken Rand der Seite</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>From the lower edge of the page</source>
+        <translation>Vom unteren Rand der Seite</translation>
+    </message>
+    <message>
+        <source>How wide the picture is printed</source>
+        <translation>Wie breit das Bild gedruckt wird</translation>
+    </message>
+    <message>
+        <source>How high the picture is printed</source>
+        <translation>Wie hoch das Bild gedruckt wird</translation>
+    </message>
+    <message>
+        <source>The place is larger than the page or lies beside it, so nothing would be printed there.</source>
+        <translation>Der Platz ist größer als die Seite oder liegt daneben, dort würde nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>Print pages</source>
+        <translation>Druckseiten</translation>
+    </message>
+    <message>
+        <source>Pages to print on, and the places for pictures on them</source>
+        <translation>Seiten zum Drucken und die Plätze für Bilder darauf</translation>
+    </message>
+    <message>
+        <source>Print page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>The page to print on</source>
+        <translation>Die Seite, auf die gedruckt wird</translation>
+    </message>
+    <message>
+        <source>New...</source>
+        <translation>Neu...</translation>
+    </message>
+    <message>
+        <source>Adds a page of your own</source>
+        <translation>Fügt eine eigene Seite hinzu</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Bearbeiten...</translation>
+    </message>
+    <message>
+        <source>Changes name and size of the page; one of the program&apos;s becomes your own</source>
+        <translation>Ändert Name und Größe der Seite; eine des Programms wird zur eigenen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Takes a page of your own out of the list</source>
+        <translation>Nimmt eine eigene Seite aus der Liste</translation>
+    </message>
+    <message>
+        <source>Places for pictures on the page</source>
+        <translation>Plätze für Bilder auf der Seite</translation>
+    </message>
+    <message>
+        <source>Where pictures lie, counted from the lower left corner of the page</source>
+        <translation>Wo Bilder liegen, von der unteren linken Ecke der Seite gezählt</translation>
+    </message>
+    <message>
+        <source>Add Place...</source>
+        <translation>Platz hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Adds a place for a picture to the page</source>
+        <translation>Fügt der Seite einen Platz für ein Bild hinzu</translation>
+    </message>
+    <message>
+        <source>Moves or sizes the selected place</source>
+        <translation>Verschiebt den gewählten Platz oder ändert seine Größe</translation>
+    </message>
+    <message>
+        <source>Takes the selected place off the page</source>
+        <translation>Nimmt den gewählten Platz von der Seite</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Left, %1</source>
+        <translation>Links, %1</translation>
+    </message>
+    <message>
+        <source>Bottom, %1</source>
+        <translation>Unten, %1</translation>
+    </message>
+    <message>
+        <source>Width, %1</source>
+        <translation>Breite, %1</translation>
+    </message>
+    <message>
+        <source>Height, %1</source>
+        <translation>Höhe, %1</translation>
+    </message>
+    <message>
+        <source>The print pages cannot be kept.</source>
+        <translation>Die Druckseiten können nicht aufgehoben werden.</translation>
     </message>
 </context>
 <context>

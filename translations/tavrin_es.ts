@@ -1389,6 +1389,22 @@
         <source>Moves the picture inside the shape; 50 leaves it in place.</source>
         <translation>Mueve la imagen dentro de la forma; 50 la deja en su sitio.</translation>
     </message>
+    <message>
+        <source>Output sizes</source>
+        <translation>Tamaños de salida</translation>
+    </message>
+    <message>
+        <source>Print pages</source>
+        <translation>Páginas de impresión</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Pages to print on, with places for pictures</source>
+        <translation>Páginas para imprimir, con lugares para imágenes</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -1765,6 +1781,21 @@
     </message>
 </context>
 <context>
+    <name>tavrin::EntryDialog</name>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Takes what is entered here</source>
+        <translation>Toma lo que se ha escrito aquí</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::GroupBox</name>
     <message>
         <source>Fold the group away, or open it</source>
@@ -1859,6 +1890,17 @@
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LengthField</name>
+    <message>
+        <source>%1 goes from %2 to %3.</source>
+        <translation>%1 va de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number; %2 stays as it was.</source>
+        <translation>«%1» no es un número; %2 queda como estaba.</translation>
     </message>
 </context>
 <context>
@@ -2652,6 +2694,86 @@
         <source>The look waits, and is there when these portraits are opened: %1</source>
         <translation>El aspecto espera y estará al abrir estos retratos: %1</translation>
     </message>
+    <message>
+        <source>Overlay over the &amp;Whole...</source>
+        <translation>Superposición sobre &amp;todo...</translation>
+    </message>
+    <message>
+        <source>Lays a picture with clear parts over everything, such as a frame</source>
+        <translation>Pone una imagen con partes transparentes sobre todo, como un marco</translation>
+    </message>
+    <message>
+        <source>Select Frame Overlay</source>
+        <translation>Elegir la superposición del marco</translation>
+    </message>
+    <message>
+        <source>Overlay over the P&amp;ortrait...</source>
+        <translation>Superposición sobre el &amp;retrato...</translation>
+    </message>
+    <message>
+        <source>Lays a picture with clear parts over the portrait</source>
+        <translation>Pone una imagen con partes transparentes sobre el retrato</translation>
+    </message>
+    <message>
+        <source>Select Forground Overlay</source>
+        <translation>Elegir la superposición del retrato</translation>
+    </message>
+    <message>
+        <source>Overlay over the &amp;Background...</source>
+        <translation>Superposición sobre el &amp;fondo...</translation>
+    </message>
+    <message>
+        <source>Lays a picture with clear parts between background and portrait</source>
+        <translation>Pone una imagen con partes transparentes entre el fondo y el retrato</translation>
+    </message>
+    <message>
+        <source>Select Background Overlay</source>
+        <translation>Elegir la superposición del fondo</translation>
+    </message>
+    <message>
+        <source>Overlays of a &amp;Set...</source>
+        <translation>Superposiciones de un &amp;juego...</translation>
+    </message>
+    <message>
+        <source>Choose one of a set (FR_, FG_, BG_ and a name): all of the set are laid on</source>
+        <translation>Elija una de un juego (FR_, FG_, BG_ y un nombre): se ponen todas las del juego</translation>
+    </message>
+    <message>
+        <source>&amp;Reset with Each New Portrait</source>
+        <translation>&amp;Restablecer con cada retrato nuevo</translation>
+    </message>
+    <message>
+        <source>A portrait that is opened for the first time begins with the settings of the start-up state</source>
+        <translation>Un retrato que se abre por primera vez empieza con los ajustes del estado inicial</translation>
+    </message>
+    <message>
+        <source>Reset with &amp;Each New Background</source>
+        <translation>R&amp;establecer con cada fondo nuevo</translation>
+    </message>
+    <message>
+        <source>A background that is opened begins with the start-up state&apos;s settings of the background</source>
+        <translation>Un fondo que se abre empieza con los ajustes de fondo del estado inicial</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Superposición</translation>
+    </message>
+    <message>
+        <source>Select Overlay</source>
+        <translation>Elegir la superposición</translation>
+    </message>
+    <message>
+        <source>There is no set of this name in %1.</source>
+        <translation>No hay ningún juego de este nombre en %1.</translation>
+    </message>
+    <message>
+        <source>Overlays of a set</source>
+        <translation>Superposiciones de un juego</translation>
+    </message>
+    <message>
+        <source>The picture is saved as %1, which is there already. Replace it?</source>
+        <translation>La imagen se guarda como %1, que ya existe. ¿Reemplazarla?</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -2755,6 +2877,14 @@
     <message>
         <source>The state file cannot be saved.</source>
         <translation>No se puede guardar el archivo de estado.</translation>
+    </message>
+    <message>
+        <source>The settings were not reset.</source>
+        <translation>Los ajustes no se han restablecido.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be saved.</source>
+        <translation>La imagen no se puede guardar.</translation>
     </message>
 </context>
 <context>
@@ -3044,6 +3174,120 @@ o ábralos desde el menú Archivo.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::SizeDialog</name>
+    <message>
+        <source>New Output Size</source>
+        <translation>Nuevo tamaño de salida</translation>
+    </message>
+    <message>
+        <source>Output Size</source>
+        <translation>Tamaño de salida</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source>How wide the printed picture is</source>
+        <translation>El ancho de la imagen impresa</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>How high the printed picture is</source>
+        <translation>El alto de la imagen impresa</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Centímetros</translation>
+    </message>
+    <message>
+        <source>Dots an inch</source>
+        <translation>Puntos por pulgada</translation>
+    </message>
+    <message>
+        <source>How fine the picture is; 300 is usual for prints</source>
+        <translation>La finura de la imagen; para copias lo normal es 300</translation>
+    </message>
+    <message>
+        <source>Print page</source>
+        <translation>Página de impresión</translation>
+    </message>
+    <message>
+        <source>The page that this size is printed on</source>
+        <translation>La página en que se imprime este tamaño</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Width and height are in centimetres; otherwise in inches</source>
+        <translation>Ancho y alto en centímetros; si no, en pulgadas</translation>
+    </message>
+    <message>
+        <source>A page of its own</source>
+        <translation>Una página propia</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SizesPanel</name>
+    <message>
+        <source>Output sizes</source>
+        <translation>Tamaños de salida</translation>
+    </message>
+    <message>
+        <source>Sizes of your own; two stars mark them</source>
+        <translation>Tamaños propios; dos estrellas los señalan</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Píxeles</translation>
+    </message>
+    <message>
+        <source>Print page</source>
+        <translation>Página de impresión</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>Añadir...</translation>
+    </message>
+    <message>
+        <source>Adds an output size of your own</source>
+        <translation>Añade un tamaño de salida propio</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Editar...</translation>
+    </message>
+    <message>
+        <source>Changes the size that is selected; one of the program&apos;s becomes your own</source>
+        <translation>Cambia el tamaño elegido; uno del programa pasa a ser propio</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Takes a size of your own out of the list; pictures that have it keep it</source>
+        <translation>Quita un tamaño propio de la lista; las imágenes que lo tienen lo conservan</translation>
+    </message>
+    <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>The sizes cannot be kept.</source>
+        <translation>Los tamaños no se pueden conservar.</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::SliderRow</name>
     <message>
         <source>%1, number</source>
@@ -3149,6 +3393,184 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>The mark is not kept.</source>
         <translation>La marca no se guarda.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TemplateView</name>
+    <message>
+        <source>The print page with the picture in its places</source>
+        <translation>La página de impresión con la imagen en sus lugares</translation>
+    </message>
+    <message>
+        <source>The sheet as it is printed: grey is paper that stays free</source>
+        <translation>La hoja tal como se imprime: lo gris es papel que queda libre</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TemplatesPanel</name>
+    <message>
+        <source>New Print Page</source>
+        <translation>Nueva página de impresión</translation>
+    </message>
+    <message>
+        <source>Print Page</source>
+        <translation>Página de impresión</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>What the page is called in lists</source>
+        <translation>Cómo se llama la página en las listas</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source>How wide the page is</source>
+        <translation>El ancho de la página</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>How high the page is</source>
+        <translation>El alto de la página</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Centímetros</translation>
+    </message>
+    <message>
+        <source>Width and height are in centimetres; otherwise in inches</source>
+        <translation>Ancho y alto en centímetros; si no, en pulgadas</translation>
+    </message>
+    <message>
+        <source>Place for a Picture</source>
+        <translation>Lugar para una imagen</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>From the left edge of the page</source>
+        <translation>Desde el borde izquierdo de la página</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>From the lower edge of the page</source>
+        <translation>Desde el borde inferior de la página</translation>
+    </message>
+    <message>
+        <source>How wide the picture is printed</source>
+        <translation>El ancho con que se imprime la imagen</translation>
+    </message>
+    <message>
+        <source>How high the picture is printed</source>
+        <translation>El alto con que se imprime la imagen</translation>
+    </message>
+    <message>
+        <source>The place is larger than the page or lies beside it, so nothing would be printed there.</source>
+        <translation>El lugar es mayor que la página o queda fuera de ella; ahí no se imprimiría nada.</translation>
+    </message>
+    <message>
+        <source>Print pages</source>
+        <translation>Páginas de impresión</translation>
+    </message>
+    <message>
+        <source>Pages to print on, and the places for pictures on them</source>
+        <translation>Páginas para imprimir y los lugares para imágenes en ellas</translation>
+    </message>
+    <message>
+        <source>Print page</source>
+        <translation>Página de impresión</translation>
+    </message>
+    <message>
+        <source>The page to print on</source>
+        <translation>La página en que se imprime</translation>
+    </message>
+    <message>
+        <source>New...</source>
+        <translation>Nueva...</translation>
+    </message>
+    <message>
+        <source>Adds a page of your own</source>
+        <translation>Añade una página propia</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Editar...</translation>
+    </message>
+    <message>
+        <source>Changes name and size of the page; one of the program&apos;s becomes your own</source>
+        <translation>Cambia nombre y tamaño de la página; una del programa pasa a ser propia</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Takes a page of your own out of the list</source>
+        <translation>Quita una página propia de la lista</translation>
+    </message>
+    <message>
+        <source>Places for pictures on the page</source>
+        <translation>Lugares para imágenes en la página</translation>
+    </message>
+    <message>
+        <source>Where pictures lie, counted from the lower left corner of the page</source>
+        <translation>Dónde quedan las imágenes, desde la esquina inferior izquierda de la página</translation>
+    </message>
+    <message>
+        <source>Add Place...</source>
+        <translation>Añadir lugar...</translation>
+    </message>
+    <message>
+        <source>Adds a place for a picture to the page</source>
+        <translation>Añade a la página un lugar para una imagen</translation>
+    </message>
+    <message>
+        <source>Moves or sizes the selected place</source>
+        <translation>Mueve el lugar elegido o cambia su tamaño</translation>
+    </message>
+    <message>
+        <source>Takes the selected place off the page</source>
+        <translation>Quita de la página el lugar elegido</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>pulg.</translation>
+    </message>
+    <message>
+        <source>Left, %1</source>
+        <translation>Izq., %1</translation>
+    </message>
+    <message>
+        <source>Bottom, %1</source>
+        <translation>Abajo, %1</translation>
+    </message>
+    <message>
+        <source>Width, %1</source>
+        <translation>Ancho, %1</translation>
+    </message>
+    <message>
+        <source>Height, %1</source>
+        <translation>Alto, %1</translation>
+    </message>
+    <message>
+        <source>The print pages cannot be kept.</source>
+        <translation>Las páginas de impresión no se pueden conservar.</translation>
     </message>
 </context>
 <context>

@@ -39,16 +39,21 @@ void mirror(PixelView sheet) {
 
 }  // namespace
 
+void drawPage(BitmapContext& sheet, const PrinterPage& page, int dpi, const QImage& picture, double proportion,
+              const SheetLook& look) {
+    const std::vector<SheetSlot> places = slotsOf(page, dpi, proportion);
+    sheet.fillRect(QRectF(0, 0, sheet.width(), sheet.height()), kSheetGround, kSheetGround, kSheetGround, 1.0);
+    if (look.cutMarks) drawMarks(sheet, places, dpi);
+    for (const SheetSlot& slot : places)
+        drawSlot(sheet, slot, picture, look.fit);
+}
+
 void drawSheet(SystemInfo& info, const QImage& picture, double proportion, const SheetLook& look) {
     const std::int32_t index = info.iCurrentTemplateIndex;
     if (!info.oBitmapTemplateRep || index < 0 || index >= info.iPrinterPageCount()) return;
     BitmapContext& sheet = *info.oBitmapTemplateRep;
-    const std::vector<SheetSlot> places =
-        slotsOf(info.oPrinterPages[static_cast<std::size_t>(index)], info.iTemplateImageDPI, proportion);
-    sheet.fillRect(QRectF(0, 0, sheet.width(), sheet.height()), kSheetGround, kSheetGround, kSheetGround, 1.0);
-    if (look.cutMarks) drawMarks(sheet, places, info.iTemplateImageDPI);
-    for (const SheetSlot& slot : places)
-        drawSlot(sheet, slot, picture, look.fit);
+    drawPage(sheet, info.oPrinterPages[static_cast<std::size_t>(index)], info.iTemplateImageDPI, picture, proportion,
+             look);
     if (look.mirrored) mirror({info.pBitmapTemplateData, sheet.width(), sheet.height()});
 }
 

@@ -8,7 +8,13 @@
 
 namespace tavrin {
 
+class BitmapContext;
 class SystemInfo;
+
+/// Draws one picture into every slot of a page on a sheet of `dpi`; the rest of the sheet becomes grey. So a preview
+/// is the printed sheet at fewer dots.
+void drawPage(BitmapContext& sheet, const PrinterPage& page, int dpi, const QImage& picture, double proportion,
+              const SheetLook& look = {});
 
 /// Draws one picture into every slot of the sheet that `ChangeTemplateBitmap` made for page `iCurrentTemplateIndex`;
 /// the rest of the sheet becomes grey. Whether it is turned follows from `proportion`, the width of the output

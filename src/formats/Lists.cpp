@@ -3,6 +3,7 @@
 #include "core/Lines.h"
 #include "core/files/Places.h"
 #include "formats/LeafXML.h"
+#include "formats/SafeFile.h"
 
 namespace tavrin {
 
@@ -137,6 +138,17 @@ std::string saveList(const std::vector<Entry>& list, const std::string& path) {
     return xml.error;
 }
 
+/// Why the file of the user's holds more than the list took of it, as a part of a sentence; "" when it took all.
+/// @param shipped the file whose entries come first when room gets short
+template <class Entry>
+std::string leftOutOf(const std::string& path, const std::string& shipped) {
+    std::vector<Entry> first, own;
+    if (!safeFileExists(path)) return "";
+    if (std::string problem = loadList(own, path, true); !problem.empty()) return problem;
+    static_cast<void>(loadList(first, shipped, false));
+    return first.size() + own.size() > kMaxListEntries ? path + ": there was no room for all of it" : "";
+}
+
 template <class Entry>
 std::vector<Entry> customEntries(const std::vector<Entry>& list) {
     std::vector<Entry> custom;
@@ -144,6 +156,19 @@ std::vector<Entry> customEntries(const std::vector<Entry>& list) {
         if (entry.bCustom) custom.push_back(entry);
     }
     return custom;
+}
+
+/// Saves the user's own entries. What is left out of a list goes on in a file that is set aside.
+template <class Entry>
+std::string saveCustom(const std::vector<Entry>& list, const std::string& path, const std::string& shipped) {
+    std::string problem = leftOutOf<Entry>(path, shipped);
+    if (!problem.empty()) {
+        const std::string kept = setDamagedFileAside(path);
+        if (kept.empty()) return withSentence(problem, "It cannot be set aside, so it stays as it is.");
+        problem = withSentence(problem, "The whole file is kept as " + kept + ".");
+    }
+    addLine(problem, saveList(customEntries(list), path));
+    return problem;
 }
 
 }  // namespace
@@ -204,11 +229,13 @@ std::string LoadPrinterTemplatesFromXML(SystemInfo& info, const std::string& ins
 }
 
 std::string SaveCustomImageSizesFromXML(const SystemInfo& info) {
-    return saveImageSizes(customEntries(info.oImageSize), Places::current().customImageSizeFile());
+    const Places& places = Places::current();
+    return saveCustom(info.oImageSize, places.customImageSizeFile(), places.imageSizeFile());
 }
 
 std::string SaveCustomPrinterTemplates(const SystemInfo& info) {
-    return savePrinterPages(customEntries(info.oPrinterPages), Places::current().customPrinterFile());
+    const Places& places = Places::current();
+    return saveCustom(info.oPrinterPages, places.customPrinterFile(), places.printerFile());
 }
 
 }  // namespace tavrin

@@ -19,6 +19,8 @@ namespace tavrin {
 
 /// Fills `oImageSize`: the user's sizes first, then the shipped ones. The last entry named `sImageSizeName` becomes
 /// the selected one; when there is none `iSelecteImageSize` stays. The shipped file, or `instead`, has to be there.
+/// Saving writes the entries of the list. A file that holds more than these, which was not read or for which there
+/// was no room, is set aside first, and the line names it.
 [[nodiscard]] std::string LoadImageSizesFromXML(SystemInfo& info, const std::string& instead = "");
 [[nodiscard]] std::string SaveCustomImageSizesFromXML(const SystemInfo& info);
 

@@ -20,4 +20,10 @@ void reloadSources(SystemInfo& info);
 void openPortrait(SystemInfo& info, const std::string& path);
 void openBackground(SystemInfo& info, const std::string& path);
 
+/// The same, after the layer's settings went back to a state file: for the portrait all but the background and the
+/// output, for the background nothing else. Call it on the loop's thread.
+/// @return "" or why that file could not be read; the picture is opened all the same
+std::string openPortraitReset(SystemInfo& info, const std::string& path, const std::string& stateFile);
+std::string openBackgroundReset(SystemInfo& info, const std::string& path, const std::string& stateFile);
+
 }  // namespace tavrin

@@ -212,6 +212,32 @@ TEST_F(ListsTest, EntriesTooManyAreNamedAndTheShippedOnesStay) {
     EXPECT_EQ(info.iPrinterPageCount(), shipped);
 }
 
+TEST_F(ListsTest, WhatAListDidNotTakeIsStillThereAfterItWasSaved) {
+    install();
+    const std::string file = Places::current().customImageSizeFile();
+    const auto keptFiles = [&] {
+        std::vector<std::string> kept;
+        for (const auto& entry : fs::directory_iterator(Places::current().xmlFolder()))
+            if (entry.path().filename().string().starts_with("CustomImageSize.xml.")) kept.push_back(entry.path());
+        return kept;
+    };
+    std::vector<ImageSize> sizes(50);
+    for (std::size_t i = 0; i < sizes.size(); ++i)
+        sizes[i].sName = "mine " + std::to_string(i);
+    ASSERT_EQ(saveImageSizes(sizes, file), "");
+    EXPECT_NE(LoadImageSizesFromXML(info), "");
+    EXPECT_THAT(SaveCustomImageSizesFromXML(info), HasSubstr("no room for all of it"));
+    ASSERT_EQ(keptFiles().size(), 1u);
+    EXPECT_THAT(readFile(keptFiles()[0]), HasSubstr("mine 49"));
+    EXPECT_EQ(readFile(file).find("mine 49"), std::string::npos);
+    EXPECT_EQ(SaveCustomImageSizesFromXML(info), "") << "now the file and the list agree";
+
+    writeFile(file, "<ImageSizeList><ImageSize>");
+    EXPECT_NE(LoadImageSizesFromXML(info), "");
+    EXPECT_THAT(SaveCustomImageSizesFromXML(info), HasSubstr("is kept as"));
+    EXPECT_EQ(keptFiles().size(), 2u);
+}
+
 TEST_F(ListsTest, WithoutFilesTheListsAreEmpty) {
     EXPECT_THAT(LoadImageSizesFromXML(info), HasSubstr("ImageSize.xml"));
     EXPECT_EQ(LoadPrinterTemplatesFromXML(info), "") << "page files may be missing";

@@ -14,6 +14,7 @@ namespace {
 constexpr const char* kName = "org.tavrin.Tavrin";
 constexpr const char* kPath = "/org/tavrin/Tavrin";
 constexpr const char* kApplication = "org.freedesktop.Application";
+constexpr const char* kHostAction = "open-for-host";
 constexpr int kAnswerMilliseconds = 5000;
 
 QVariantMap platformData() {
@@ -43,7 +44,7 @@ QStringList FirstStart::pathsOf(const QStringList& links) {
     return paths;
 }
 
-bool FirstStart::handOver(const QStringList& paths) {
+bool FirstStart::handOver(const QStringList& paths, bool forHost) {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return false;
     bus.registerObject(kPath, this, QDBusConnection::ExportAllSlots);  // before somebody can find it by the name
@@ -51,20 +52,23 @@ bool FirstStart::handOver(const QStringList& paths) {
     QDBusInterface first(kName, kPath, kApplication, bus);
     first.setTimeout(kAnswerMilliseconds);
     const QDBusReply<void> taken =
-        paths.isEmpty() ? first.call("Activate", platformData()) : first.call("Open", linksOf(paths), platformData());
+        paths.isEmpty() ? first.call("Activate", platformData())
+        : forHost       ? first.call("ActivateAction", kHostAction, QVariantList{linksOf(paths)}, platformData())
+                        : first.call("Open", linksOf(paths), platformData());
     return taken.isValid();
 }
 
-void FirstStart::onOpen(std::function<void(const QStringList& paths)> open) {
+void FirstStart::onOpen(std::function<void(const QStringList& paths, bool forHost)> open) {
     open_ = std::move(open);
-    if (std::exchange(called_, false)) open_(std::exchange(waiting_, {}));
+    if (std::exchange(called_, false)) open_(std::exchange(waiting_, {}), std::exchange(waitingForHost_, false));
 }
 
-void FirstStart::take(const QStringList& paths, const QVariantMap& platformData) {
+void FirstStart::take(const QStringList& paths, const QVariantMap& platformData, bool forHost) {
     if (const QString token = platformData["activation-token"].toString(); !token.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
-    if (open_) return open_(paths);
+    if (open_) return open_(paths, forHost);
     waiting_ += paths;
+    waitingForHost_ = waitingForHost_ || forHost;
     called_ = true;
 }
 
@@ -76,6 +80,8 @@ void FirstStart::Open(const QStringList& links, const QVariantMap& platformData)
     take(pathsOf(links), platformData);
 }
 
-void FirstStart::ActivateAction(const QString&, const QVariantList&, const QVariantMap& platformData) {
-    take({}, platformData);  // it has no actions of its own
+void FirstStart::ActivateAction(const QString& action, const QVariantList& parameters,
+                                const QVariantMap& platformData) {
+    const bool forHost = action == kHostAction && !parameters.isEmpty();
+    take(forHost ? pathsOf(parameters.front().toStringList()) : QStringList(), platformData, forHost);
 }

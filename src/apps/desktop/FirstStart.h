@@ -20,10 +20,11 @@ class FirstStart : public QObject {
 
     /// Becomes the first, or hands the files to it.
     /// @param paths absolute
+    /// @param forHost whether another program waits for the first of them
     /// @return true when another program has taken them and this one is to end; one that does not answer takes none
-    bool handOver(const QStringList& paths);
+    bool handOver(const QStringList& paths, bool forHost = false);
     /// What to do with the files of later starts, which may be none: the window comes to the front.
-    void onOpen(std::function<void(const QStringList& paths)> open);
+    void onOpen(std::function<void(const QStringList& paths, bool forHost)> open);
 
   public slots:
     void Activate(const QVariantMap& platformData);
@@ -31,9 +32,9 @@ class FirstStart : public QObject {
     void ActivateAction(const QString& action, const QVariantList& parameters, const QVariantMap& platformData);
 
   private:
-    void take(const QStringList& paths, const QVariantMap& platformData);
+    void take(const QStringList& paths, const QVariantMap& platformData, bool forHost = false);
 
-    std::function<void(const QStringList&)> open_;
+    std::function<void(const QStringList&, bool)> open_;
     QStringList waiting_;  ///< that came before there was a window
-    bool called_ = false;
+    bool called_ = false, waitingForHost_ = false;
 };

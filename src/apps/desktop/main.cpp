@@ -34,8 +34,13 @@ class Application : public QApplication {
     }
 };
 
+struct Arguments {
+    QStringList files;
+    bool forHost = false;  ///< another program waits for the first file
+};
+
 /// The usual options of a desktop program, and the files to open.
-QStringList readArguments(const QCoreApplication& application) {
+Arguments readArguments(const QCoreApplication& application) {
     QCommandLineParser parser;
     parser.setApplicationDescription("Green-screen pictures: keys a portrait over a background.");
     parser.addHelpOption();
@@ -43,15 +48,18 @@ QStringList readArguments(const QCoreApplication& application) {
     parser.addOption(version);
     const QCommandLineOption verbose({"v", "verbose"}, "Tell the course of the work on the standard error stream.");
     parser.addOption(verbose);
+    const QCommandLineOption host("for-host",
+                                  "Another program hands the portrait over: Save replaces the file for it.");
+    parser.addOption(host);
     parser.addPositionalArgument("files", "Portrait, then background; a folder of portraits, or a state file (.qlx).",
                                  "[FILE...]");
     parser.process(application);
     if (parser.isSet(version)) parser.showVersion();
     tavrin::setTraceLog(parser.isSet(verbose));
-    QStringList files;
+    Arguments arguments{{}, parser.isSet(host)};
     for (const QString& file : parser.positionalArguments())
-        files.append(QFileInfo(file).absoluteFilePath());
-    return files;
+        arguments.files.append(QFileInfo(file).absoluteFilePath());
+    return arguments;
 }
 
 /// Whether the answer needs no display.
@@ -69,8 +77,9 @@ void nameProgram() {
 }
 
 /// As if they were dropped on the window: a state file by its name, the first picture as the portrait, the next as
-/// the background.
-void openFiles(tavrin::MainWindow& window, const QStringList& files) {
+/// the background. A host application's first file is its portrait, whatever it is, and the others are not taken.
+void openFiles(tavrin::MainWindow& window, const QStringList& files, bool forHost) {
+    if (forHost && !files.isEmpty()) return window.openForHost(files.front());
     int pictures = 0;
     for (const QString& path : files) {
         if (path.endsWith(".qlx", Qt::CaseInsensitive)) {
@@ -82,8 +91,8 @@ void openFiles(tavrin::MainWindow& window, const QStringList& files) {
 }
 
 /// The files of a later start, and the window before all others.
-void openInFront(tavrin::MainWindow& window, const QStringList& files) {
-    openFiles(window, files);
+void openInFront(tavrin::MainWindow& window, const QStringList& files, bool forHost) {
+    openFiles(window, files, forHost);
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
@@ -97,9 +106,9 @@ int main(int argc, char** argv) {
     if (asksForText(argc, argv)) readArguments(QCoreApplication(argc, argv));  // which ends the program
     Application application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");  // what is printed and digested has a full stop in every locale
-    const QStringList files = readArguments(application);
+    const auto [files, forHost] = readArguments(application);
     FirstStart first;
-    if (first.handOver(files)) return 0;
+    if (first.handOver(files, forHost)) return 0;
     // A pass takes the memory that the last one gave back.
     tavrin::keepPixelMemory(std::size_t{1} << 28);
 
@@ -111,8 +120,8 @@ int main(int argc, char** argv) {
     window.show();
     window.tellStartProblems(problems);
     window.offerLeftRecipes();
-    openFiles(window, files);
-    first.onOpen([&](const QStringList& later) { openInFront(window, later); });
+    openFiles(window, files, forHost);
+    first.onOpen([&](const QStringList& later, bool host) { openInFront(window, later, host); });
     const EndSignals endSignals([&] {
         window.endFromOutside();
         QCoreApplication::exit();

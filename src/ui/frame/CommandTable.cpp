@@ -56,10 +56,7 @@ std::vector<Command> commandTable(MainWindow& w) {
          "/portrait",
          QKeySequence::Open,
          {},
-         [&w](bool) {
-             w.askForLayer(w.info_.oQLXInfo->sForegroundPath, MainWindow::tr("Select Foreground File"),
-                           &MainWindow::openForeground);
-         }},
+         [&w](bool) { w.loadForeground(); }},
         {"loadBackground",
          "&File",
          MainWindow::tr("Open &Background..."),
@@ -67,10 +64,7 @@ std::vector<Command> commandTable(MainWindow& w) {
          "/background",
          QKeySequence(Qt::CTRL | Qt::Key_B),
          {},
-         [&w](bool) {
-             w.askForLayer(w.info_.oQLXInfo->sBackgroundPath, MainWindow::tr("Select Background File"),
-                           &MainWindow::openBackground);
-         }},
+         [&w](bool) { w.loadBackground(); }},
         {"OpenState",
          "&File",
          MainWindow::tr("Open S&tate..."),
@@ -80,7 +74,7 @@ std::vector<Command> commandTable(MainWindow& w) {
          {},
          [&w](bool) { w.askForStateToOpen(); }},
         {"Save", "|&File", MainWindow::tr("&Save"), MainWindow::tr("Saves the finished picture"),
-         "document-save/save", QKeySequence::Save, [&w] { return w.finished_; }, [&w](bool) { w.askForSave(); }},
+         "document-save/save", QKeySequence::Save, [&w] { return w.finished_; }, [&w](bool) { w.saveImage(); }},
         {"SaveState",
          "&File",
          MainWindow::tr("Save State &As..."),

@@ -26,7 +26,7 @@ const Kind* ancestor(const QWidget* widget) {
 bool isControl(const QWidget* widget) {
     const QWidget* parent = widget->parentWidget();
     if (widget->objectName().startsWith("qt_") || qobject_cast<const QLineEdit*>(parent) ||
-        qobject_cast<const QTabBar*>(parent))
+        qobject_cast<const QTabBar*>(parent) || widget->inherits("QTableCornerButton"))
         return false;  // parts that Qt makes
     return qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QSlider*>(widget) ||
            qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget);

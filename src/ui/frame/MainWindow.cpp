@@ -32,6 +32,9 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       messages_(new MessageBar),
       panel_(new SidePanel(binder_, this)),
       settings_(new SettingsPage(binder_)),
+      heldLoop_(new HeldLoop(*loop_, this)),
+      sizes_(new SizesPanel(info, *heldLoop_)),
+      templates_(new TemplatesPanel(info, *heldLoop_, [this] { return view_->fullPicture(); })),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
@@ -46,13 +49,16 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectKeeping();
     comeBack();
     connectSettings();
+    connectLists();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
 }
 
 MainWindow::~MainWindow() {
-    hide();         // ends what is held, while there is a loop to tell
+    hide();  // ends what is held, while there is a loop to tell
+    heldLoop_->letGo();
     loop_.reset();  // the thread ends before the bridge it talks to
+    heldLoop_->finish();
     info_.pInterface = nullptr;
 }
 
@@ -102,12 +108,14 @@ void MainWindow::connectBridge() {
         queued);
     connect(
         &bridge_, &WindowBridge::controlsEnabled, this,
-        [this](bool enabled, bool hostApplication) {
+        [this](bool enabled) {
             finished_ = enabled;
-            commands_->action("Save")->setText(hostApplication ? tr("Return To Lightroom") : tr("Save"));
+            tellSaveButton();
             commands_->refresh();
             tellProgress();
-            if (enabled) tools_->pictureFinished();
+            if (!enabled) return;
+            tools_->pictureFinished();
+            templates_->view()->refresh();
         },
         queued);
 }
@@ -116,8 +124,23 @@ void MainWindow::connectSettings() {
     connect(settings_, &SettingsPage::changed, this, &MainWindow::keepSettings);
     connect(settings_, &SettingsPage::pickDirectoryChanged, strip_, &Strip::followPickDirectory);
     connect(settings_, &SettingsPage::told, messages_, &MessageBar::tell);
-    for (const char* id : {"FramePortraits", "AutoState"})
+    for (const char* id : {"FramePortraits", "AutoState", "ForegroundReset", "BackgroundReset"})
         settings_->addBox(commands_->action(id));
+}
+
+/// Sizes and pages know each other, and a size in force may have become another one.
+void MainWindow::connectLists() {
+    connect(sizes_, &SizesPanel::failed, messages_, &MessageBar::fail);
+    connect(templates_, &TemplatesPanel::failed, messages_, &MessageBar::fail);
+    connect(templates_, &TemplatesPanel::pageChosen, this, &MainWindow::keepSettings);
+    connect(templates_, &TemplatesPanel::listChanged, sizes_, &SizesPanel::refresh);
+    connect(sizes_, &SizesPanel::listChanged, this, [this] {
+        sizeBox_->reload();
+        templates_->refresh();
+        if (!info_.bChangeImageSize) return;
+        showState();
+        info_.StartUpdate();
+    });
 }
 
 /// The tips of both buttons say what they would do.
@@ -137,6 +160,7 @@ void MainWindow::showState() {
     binder_.UpdateAllUI();
     sizeBox_->updateComboBoxImageSize();
     settings_->refresh();
+    templates_->refresh();
     strip_->follow();
     view_->setTransparent(info_.bOutputTransparency);
     commands_->refresh();
@@ -153,102 +177,11 @@ void MainWindow::refillRecentFiles() {
     if (menu->isEmpty()) menu->addAction(tr("Nothing yet"))->setEnabled(false);
 }
 
-void MainWindow::openFile(const QString& path) {
-    if (isFolder(path)) return openFolder(path);
-    isStateFile(path) ? openState(path) : openForeground(path);
-}
-
-void MainWindow::openForeground(const QString& path) {
-    keeping_->leavePortrait();
-    std::optional<Recipe> known = keeping_->knownOf(path);
-    files_->openForeground(path, (!known || known->settings.empty()) && frameAction()->isChecked());
-    if (known) {
-        keeping_->takeUp(std::move(*known));
-    } else {
-        editor_.forgetSteps();  // they belong to the portrait before
-        showState();
-    }
-}
-
-void MainWindow::openBackground(const QString& path) {
-    keeping_->chooseBackground(nameOfText(path));
-    files_->openBackground(path);
-}
-
-void MainWindow::openState(const QString& path) {
-    finished_ = false;
-    commands_->refresh();
-    keeping_->leavePortrait();
-    files_->openState(path);
-    keeping_->waitForState();
-}
-
-void MainWindow::saveState(const QString& path) {
-    files_->saveState(path);
-    tellProgress();
-}
-
 /// Turned on it frames the present portrait, too, unless that was placed by hand or by a state.
 void MainWindow::frameNewPortraits(bool wanted) {
     windowSettings().setValue("framePortraits", wanted);
     wantPlace(info_, wanted ? PlaceRule::subject : PlaceRule::corner);
     if (wanted) info_.StartUpdate();
-}
-
-/// @param last the setting that keeps what was opened last, where the dialog begins
-void MainWindow::askForLayer(Field<std::string>& last, const QString& title,
-                             void (MainWindow::*open)(const QString& path)) {
-    const QString folder = QFileInfo(textOfName(standardizePath(last))).path();
-    const QString path = QFileDialog::getOpenFileName(this, title, folder, pictureFilter());
-    if (path.isEmpty()) return;
-    last = nameOfText(path);
-    keepSettings();
-    (this->*open)(path);
-}
-
-void MainWindow::keepSettings() {
-    const std::string problem = SaveQLXFile(*info_.oQLXInfo);
-    if (!problem.empty()) messages_->fail(tr("The settings cannot be saved."), QString::fromStdString(problem));
-}
-
-void MainWindow::askForStateToOpen() {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open State"), QString(), stateFilter());
-    if (!path.isEmpty()) openState(path);
-}
-
-void MainWindow::askForStateToSave() {
-    QString path = QFileDialog::getSaveFileName(this, tr("Save State"), QString(), stateFilter());
-    if (path.isEmpty()) return;
-    if (QFileInfo(path).suffix().isEmpty()) path += ".qlx";
-    saveState(path);
-}
-
-QString MainWindow::suggestedName() const {
-    const QFileInfo source(textOfName(info_.pForegroundBitmapInfo->sSourceImageFullPath));
-    const QString folder = textOfName(standardizePath(info_.oQLXInfo->sSavePath));
-    const QString name = QString::fromStdString(info_.oQLXInfo->sPrefix) + source.completeBaseName() + "-combined" +
-                         (info_.bOutputTransparency ? ".png" : ".jpg");
-    return folder.isEmpty() ? name : folder + '/' + name;
-}
-
-void MainWindow::askForSave() {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), suggestedName(), saveFilter());
-    if (path.isEmpty()) return;
-    info_.oQLXInfo->sSavePath = nameOfText(QFileInfo(path).path());
-    keepSettings();
-    saveTo(path);
-}
-
-bool MainWindow::saveTo(const QString& path) {
-    const bool taken = files_->savePicture(path);
-    if (!taken) {
-        messages_->tell(tr("The picture is not finished yet."));
-    } else if (info_.oQLXInfo->bAutoQLXSave) {
-        const QFileInfo file(path);
-        files_->saveState(file.path() + '/' + file.completeBaseName() + ".qlx");
-    }
-    tellProgress();
-    return taken;
 }
 
 void MainWindow::freeze() {

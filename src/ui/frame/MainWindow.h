@@ -18,6 +18,8 @@
 #include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
 #include "ui/settings/SettingsPage.h"
+#include "ui/sizes/SizesPanel.h"
+#include "ui/sizes/TemplatesPanel.h"
 #include "ui/strip/Strip.h"
 #include "ui/views/PictureView.h"
 
@@ -47,7 +49,10 @@ class MainWindow : public QMainWindow {
     /// Fills the strip with a folder's pictures, or with these, and opens the first one.
     void openFolder(const QString& folder);
     void openPictures(const QStringList& paths);
-    /// Has the full picture that stands saved. The window tells when it is done, or why it is not.
+    /// Opens a portrait of another program, which gets it back: what is saved next replaces that file.
+    void openForHost(const QString& path);
+    /// Has the full picture that stands saved, as `saveTargetOf` tells, and its state where that is wanted. The
+    /// window tells when it is done, or why it is not.
     /// @return false when there is no finished picture
     bool saveTo(const QString& path);
     /// Pictures and states that are still to be saved. A window that is closed meanwhile goes when they are, and
@@ -85,6 +90,7 @@ class MainWindow : public QMainWindow {
   private:
     friend std::vector<Command> commandTable(MainWindow& window);
     friend std::vector<Command> stripCommands(MainWindow& window);
+    friend std::vector<Command> fileCommands(MainWindow& window);
 
     void layOut();
     void makeToolBar();
@@ -94,6 +100,7 @@ class MainWindow : public QMainWindow {
     void connectBridge();
     void connectStrip();
     void connectSettings();
+    void connectLists();
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
@@ -103,7 +110,15 @@ class MainWindow : public QMainWindow {
     void comeBack();
     void refillRecentFiles();
     void frameNewPortraits(bool wanted);
-    void askForLayer(Field<std::string>& last, const QString& title, void (MainWindow::*open)(const QString& path));
+    QString selectImageToOpen(const QString& title, Field<std::string>& last, const QString& filter);
+    void loadForeground();
+    void loadBackground();
+    void openReset(const QString& path);
+    void loadOverlay(const char* have, const char* name, const QString& title);
+    void loadAutomaticOverlays();
+    void saveImage();
+    void saveForHost();
+    void tellSaveButton();
     void keepSettings();
     QString suggestedName() const;
     void askForStateToOpen();
@@ -134,6 +149,9 @@ class MainWindow : public QMainWindow {
     MessageBar* messages_;
     SidePanel* panel_;
     SettingsPage* settings_;
+    HeldLoop* heldLoop_;
+    SizesPanel* sizes_;
+    TemplatesPanel* templates_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
@@ -145,13 +163,16 @@ class MainWindow : public QMainWindow {
     std::deque<std::uint64_t> savedPositions_;  // of the saves under way
     QMessageBox* question_ = nullptr;
     bool closeUnsaved_ = false;
-    bool closing_ = false;   // as soon as all is saved
-    bool finished_ = false;  // a full picture stands
+    bool returning_ = false;  // to the host application, as soon as its picture is saved
+    bool closing_ = false;    // as soon as all is saved
+    bool finished_ = false;   // a full picture stands
     bool cameBack_ = false;
 };
 
 /// Everything that the window does by itself, in the order of its menus.
 std::vector<Command> commandTable(MainWindow& window);
+/// The overlays, and what opening a picture resets.
+std::vector<Command> fileCommands(MainWindow& window);
 /// What the strip below the picture adds to it.
 std::vector<Command> stripCommands(MainWindow& window);
 

@@ -1,4 +1,6 @@
 // That the main window loses nothing: closing, ends from outside, and what an earlier program left.
+#include <utility>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -74,6 +76,11 @@ void MainWindow::endSave(const QString& path, bool done) {
         messages_->tell(tr("Saved %1").arg(path));
     } else {
         closing_ = false;
+    }
+    if (std::exchange(returning_, false)) {
+        if (done) showMinimized();  // the host application comes to the front
+        info_.bLightroomActive = !done;
+        tellSaveButton();
     }
     if (closing_ && savesUnderWay() == 0) close();
 }

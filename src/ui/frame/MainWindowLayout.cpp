@@ -17,6 +17,7 @@
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/PictureCommands.h"
 #include "ui/frame/ViewBar.h"
+#include "ui/sizes/PrintPage.h"
 
 namespace tavrin {
 
@@ -28,7 +29,9 @@ void MainWindow::layOut() {
     column->addWidget(messages_);
     column->addWidget(view_, 1);
     setCentralWidget(middle);
+    settings_->addSizes(sizes_);
     panel_->addPage(settings_);
+    panel_->addPage(new PrintPage(binder_, templates_));
     addDockWidget(Qt::RightDockWidgetArea, panel_);
     tabifyDockWidget(panel_, history_);
     tabifyDockWidget(panel_, looksPanel_);
@@ -37,6 +40,7 @@ void MainWindow::layOut() {
     std::vector<Command> table = commandTable(*this);
     std::ranges::move(pictureCommands(*tools_, binder_, [this] { return finished_; }), std::back_inserter(table));
     std::ranges::move(stripCommands(*this), std::back_inserter(table));
+    std::ranges::move(fileCommands(*this), std::back_inserter(table));
     std::ranges::move(pageCommands(*panel_), std::back_inserter(table));
     std::vector<Command> effects = effectCommands(*panel_->effects());
     const auto help =

@@ -7,6 +7,7 @@
 
 #include "core/state/NamedFiles.h"
 #include "formats/ImageState.h"
+#include "formats/SafeFile.h"
 #include "pipeline/SaveImage.h"
 #include "pipeline/SubjectPlace.h"
 #include "session/Sources.h"
@@ -44,6 +45,7 @@ PictureFiles::PictureFiles(SystemInfo& info, CombineThread& loop, WindowBridge& 
 }
 
 void PictureFiles::openForeground(const QString& path, bool frame) {
+    ++opened_;
     tavrin::openPortrait(info_, nameOfText(path));
     if (frame) wantPlace(info_, PlaceRule::subject);
     remember(path);
@@ -51,16 +53,42 @@ void PictureFiles::openForeground(const QString& path, bool frame) {
     emit opened(path);
 }
 
-void PictureFiles::openBackground(const QString& path) {
-    tavrin::openBackground(info_, nameOfText(path));
+void PictureFiles::openForegroundReset(const QString& path, bool frame) {
+    openInTurn(path, [this, path, frame] {
+        const std::string problem = openPortraitReset(info_, nameOfText(path), info_.oQLXInfo->sDefaultQLXFilePath);
+        if (frame) wantPlace(info_, PlaceRule::subject);
+        if (!problem.empty())
+            emit bridge_.failed(tr("The settings were not reset."), QString::fromStdString(problem));
+        return std::string();
+    });
+}
+
+void PictureFiles::openBackground(const QString& path, bool reset) {
+    if (reset) {
+        loop_.post([this, path] {
+            const std::string problem =
+                openBackgroundReset(info_, nameOfText(path), info_.oQLXInfo->sDefaultQLXFilePath);
+            if (!problem.empty())
+                emit bridge_.failed(tr("The settings were not reset."), QString::fromStdString(problem));
+            emit bridge_.placed();
+        });
+    } else {
+        tavrin::openBackground(info_, nameOfText(path));
+    }
     remember(path);
     info_.StartUpdate();
     emit opened(path);
 }
 
 void PictureFiles::openState(const QString& path) {
-    loop_.post([this, path] {
-        const std::string problem = tavrin::openState(info_, nameOfText(path));
+    openInTurn(path, [this, path] { return tavrin::openState(info_, nameOfText(path)); });
+}
+
+/// Unless something else was opened meanwhile.
+void PictureFiles::openInTurn(const QString& path, std::function<std::string()> open) {
+    loop_.post([this, path, open = std::move(open), mine = ++opened_] {
+        if (mine != opened_) return;
+        const std::string problem = open();
         if (problem.empty()) {
             emit bridge_.stateOpened(path);
         } else {
@@ -86,14 +114,29 @@ void PictureFiles::saveState(const QString& path) {
     });
 }
 
-bool PictureFiles::savePicture(QString path) {
-    if (info_.iCurrentThreadCount <= info_.iNewThreadCount) return false;  // a pass is due or under work
-    if (QFileInfo(path).suffix().isEmpty()) path += ".jpg";
+bool PictureFiles::savePicture(const QString& path) {
+    if (!isFinished()) return false;
     KnownFiles sources;  // another portrait may be opened before the picture has its turn
     for (const BitmapInfo* record : {info_.pForegroundBitmapInfo.get(), info_.pBackgroundBitmapInfo.get()})
         sources.add(record->sSourceImageFullPath);
     saveInTurn(path, [this, target = nameOfText(path), sources = std::move(sources)] {
         return saveImageToDisk(info_, target, fileTypeForPath(target), 1, sources);
+    });
+    return true;
+}
+
+/// The whole file is there beside the old one before it takes its name.
+bool PictureFiles::saveOver(const QString& path) {
+    if (!isFinished()) return false;
+    saveInTurn(path, [this, target = nameOfText(path)] {
+        const std::string beside = ownNameBeside(target);
+        if (!saveImageToDisk(info_, beside, fileTypeForPath(target), 1)) return false;
+        std::error_code problem;
+        std::filesystem::rename(beside, target, problem);
+        if (!problem) return true;
+        emit bridge_.failed(tr("The picture cannot be saved."), textOfName(target + ": " + problem.message() + "."));
+        std::filesystem::remove(beside, problem);
+        return false;
     });
     return true;
 }

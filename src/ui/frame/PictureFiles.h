@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <functional>
 
 #include <QObject>
@@ -21,16 +22,22 @@ class PictureFiles : public QObject {
     /// Makes a file the source of a layer and asks for a new picture.
     /// @param frame whether the portrait is framed around its subject
     void openForeground(const QString& path, bool frame);
-    void openBackground(const QString& path);
+    /// The same, after all settings but those of the background and the output went back to the default state, by a
+    /// job of the loop's.
+    void openForegroundReset(const QString& path, bool frame);
+    /// @param reset whether the layer's settings go back to those of the default state
+    void openBackground(const QString& path, bool reset = false);
     /// Loads every setting and both pictures from a state file, between two passes of the loop. One that cannot be
     /// read changes nothing.
     void openState(const QString& path);
     /// Saves every setting into a state file, as soon as no pass is under work; otherwise the old file stays.
     void saveState(const QString& path);
     /// Has the full picture that stands saved after what was to be saved before; the type follows the name's
-    /// extension, JPEG where there is none.
+    /// extension.
     /// @return false when there is no finished picture
-    bool savePicture(QString path);
+    bool savePicture(const QString& path);
+    /// The same in the place of a file that the picture may be made from.
+    bool saveOver(const QString& path);
     int savesUnderWay() const { return saves_; }
 
     /// The files that were opened last, the newest first.
@@ -44,12 +51,15 @@ class PictureFiles : public QObject {
 
   private:
     void saveInTurn(const QString& path, std::function<bool()> save);
+    void openInTurn(const QString& path, std::function<std::string()> open);
+    bool isFinished() const { return info_.iCurrentThreadCount > info_.iNewThreadCount; }  // no pass is due
     std::string writeState(const std::string& name);
 
     SystemInfo& info_;
     CombineThread& loop_;
     WindowBridge& bridge_;
     int saves_ = 0;
+    std::atomic<int> opened_ = 0;  ///< portraits and states, so that an older job steps back
 };
 
 /// Whether a name is that of a state file.

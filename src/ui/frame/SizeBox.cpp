@@ -12,10 +12,15 @@ SizeBox::SizeBox(SystemInfo& info, QWidget* parent) : QComboBox(parent), info_(i
     setToolTip(tr("Size and resolution of the finished picture"));
     setMaxVisibleItems(24);
     new WheelGuard(this);
+    reload();
+    connect(this, &QComboBox::activated, this, &SizeBox::comboBoxImageSizeChange);
+}
+
+void SizeBox::reload() {
+    clear();
     for (const ImageSize& size : info_.oImageSize)
         addItem(QString::fromStdString(size.sName));
     updateComboBoxImageSize();
-    connect(this, &QComboBox::activated, this, &SizeBox::comboBoxImageSizeChange);
 }
 
 void SizeBox::updateComboBoxImageSize() {

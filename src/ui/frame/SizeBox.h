@@ -13,6 +13,8 @@ class SizeBox : public QComboBox {
 
   public:
     explicit SizeBox(SystemInfo& info, QWidget* parent = nullptr);
+    /// The list is another one.
+    void reload();
     /// Shows the size that is in force.
     void updateComboBoxImageSize();
 

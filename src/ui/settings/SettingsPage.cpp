@@ -17,6 +17,8 @@ const BindingGroup kFolderGroup{"groupFolders", QT_TRANSLATE_NOOP("Panel", "Fold
 const BindingGroup kSavingGroup{"groupSaving", QT_TRANSLATE_NOOP("Panel", "Saving"), nullptr, {}};
 const BindingGroup kHabitGroup{"groupHabits", QT_TRANSLATE_NOOP("Panel", "Habits"), nullptr, {}};
 
+const BindingGroup kSizeGroup{"groupSizes", QT_TRANSLATE_NOOP("Panel", "Output sizes"), nullptr, {}};
+
 const PathSetting kStartFiles[] = {
     {"settingsForegroundFile", "clickedSettingsForegroundFile:", &QLXInfo::sStartupFileForegroundPath, Kind::picture,
      QT_TRANSLATE_NOOP("Panel", "Portrait"),
@@ -43,6 +45,7 @@ SettingsPage::SettingsPage(Binder& binder, QWidget* parent)
     : PanelPage({"panelSettings", "TabSettings", 7, QT_TRANSLATE_NOOP("Panel", "Settings"),
                  QT_TRANSLATE_NOOP("Panel", "Start-up files, folders, names of saved files and habits")},
                 parent),
+      binder_(binder),
       settings_(*binder.editor().info().oQLXInfo) {
     addPaths(addGroup(kStartGroup, binder), kStartFiles);
     addPaths(addGroup(kFolderGroup, binder), kFolders);
@@ -100,6 +103,10 @@ void SettingsPage::addBox(QAction* action) {
     connect(box, &QCheckBox::toggled, action, &QAction::setChecked);
     connect(action, &QAction::toggled, box, &QCheckBox::setChecked);
     habits_->addItem(box);
+}
+
+void SettingsPage::addSizes(QWidget* sizes) {
+    addGroup(kSizeGroup, binder_)->addItem(sizes);
 }
 
 void SettingsPage::refresh() {

@@ -18,6 +18,8 @@ class SettingsPage : public PanelPage {
 
     /// Adds a box that is on while a command is.
     void addBox(QAction* action);
+    /// Adds the list of output sizes.
+    void addSizes(QWidget* sizes);
     /// Shows what stands in the settings now.
     void refresh();
 
@@ -34,6 +36,7 @@ class SettingsPage : public PanelPage {
     QWidget* makePrefix();
     void controlTextDidChange(const QString& prefix);
 
+    Binder& binder_;
     QLXInfo& settings_;
     QLineEdit* prefix_ = nullptr;
     GroupBox* habits_ = nullptr;

@@ -1,0 +1,170 @@
+// What the main window opens and saves.
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "core/files/NameText.h"
+#include "core/files/StandardPath.h"
+#include "formats/SettingsFile.h"
+#include "session/SaveTarget.h"
+#include "ui/FileFilters.h"
+#include "ui/frame/MainWindow.h"
+
+namespace tavrin {
+
+void MainWindow::openFile(const QString& path) {
+    if (isFolder(path)) return openFolder(path);
+    isStateFile(path) ? openState(path) : openForeground(path);
+}
+
+void MainWindow::openForeground(const QString& path) {
+    keeping_->leavePortrait();
+    std::optional<Recipe> known = keeping_->knownOf(path);
+    if (!known && commands_->action("ForegroundReset")->isChecked()) return openReset(path);
+    files_->openForeground(path, (!known || known->settings.empty()) && frameAction()->isChecked());
+    if (known) {
+        keeping_->takeUp(std::move(*known));
+    } else {
+        editor_.forgetSteps();  // they belong to the portrait before
+        showState();
+    }
+}
+
+/// A portrait that nothing is known of begins with the settings of every start.
+void MainWindow::openReset(const QString& path) {
+    files_->openForegroundReset(path, frameAction()->isChecked());
+    keeping_->waitForState();
+}
+
+void MainWindow::openBackground(const QString& path) {
+    keeping_->chooseBackground(nameOfText(path));
+    files_->openBackground(path, commands_->action("BackgroundReset")->isChecked());
+}
+
+void MainWindow::openState(const QString& path) {
+    finished_ = false;
+    commands_->refresh();
+    keeping_->leavePortrait();
+    files_->openState(path);
+    keeping_->waitForState();
+}
+
+void MainWindow::saveState(const QString& path) {
+    files_->saveState(path);
+    tellProgress();
+}
+
+/// The last file is remembered, and the dialog begins in its folder.
+QString MainWindow::selectImageToOpen(const QString& title, Field<std::string>& last, const QString& filter) {
+    const QString folder = QFileInfo(textOfName(standardizePath(last))).path();
+    const QString path = QFileDialog::getOpenFileName(this, title, folder, filter);
+    if (path.isEmpty()) return {};
+    last = nameOfText(path);
+    keepSettings();
+    return path;
+}
+
+/// What has ".qlx" anywhere in its name is taken for a state.
+void MainWindow::loadForeground() {
+    const QString path = selectImageToOpen(tr("Select Foreground File"), info_.oQLXInfo->sForegroundPath,
+                                           pictureFilter() + ";;" + stateFilter());
+    if (path.isEmpty()) return;
+    info_.bBatchReviewActive = false;
+    path.contains(".qlx", Qt::CaseInsensitive) ? openState(path) : openForeground(path);
+}
+
+void MainWindow::loadBackground() {
+    const QString path =
+        selectImageToOpen(tr("Select Background File"), info_.oQLXInfo->sBackgroundPath, pictureFilter());
+    if (!path.isEmpty()) openBackground(path);
+}
+
+void MainWindow::keepSettings() {
+    const std::string problem = SaveQLXFile(*info_.oQLXInfo);
+    if (!problem.empty()) messages_->fail(tr("The settings cannot be saved."), QString::fromStdString(problem));
+}
+
+void MainWindow::askForStateToOpen() {
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open State"), QString(), stateFilter());
+    if (!path.isEmpty()) openState(path);
+}
+
+void MainWindow::askForStateToSave() {
+    QString path = QFileDialog::getSaveFileName(this, tr("Save State"), QString(), stateFilter());
+    if (path.isEmpty()) return;
+    if (QFileInfo(path).suffix().isEmpty()) path += ".qlx";
+    saveState(path);
+}
+
+/// The portrait's name behind the prefix. Where that would be the portrait itself, which is not saved over, another.
+QString MainWindow::suggestedName() const {
+    const QFileInfo source(textOfName(info_.pForegroundBitmapInfo->sSourceImageFullPath));
+    const QString folder = textOfName(standardizePath(info_.oQLXInfo->sSavePath));
+    const QString prefix = QString::fromStdString(info_.oQLXInfo->sPrefix);
+    const QString name = info_.bOutputTransparency ? source.completeBaseName() + ".png" : source.fileName();
+    const QString path = (folder.isEmpty() ? source.path() : folder) + '/' + prefix;
+    const SaveTarget target = saveTargetOf(nameOfText(path + name));
+    if (QFileInfo(textOfName(target.picture())) != source) return textOfName(target.picture());
+    return path + source.completeBaseName() + "-combined" + textOfName(target.picture().substr(target.stem.size()));
+}
+
+/// The host application's file and a reviewed one are written again without a question; else a dialog asks.
+void MainWindow::saveImage() {
+    if (info_.bLightroomActive) {
+        saveForHost();
+    } else if (info_.bBatchReviewActive) {
+        const QString path = textOfName(info_.sBatchReviewFileSavePath);
+        if (saveTo(path)) info_.bBatchReviewActive = false;
+    } else {
+        askForSave();
+    }
+}
+
+void MainWindow::askForSave() {
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), suggestedName(), saveFilter());
+    if (path.isEmpty()) return;
+    const QString target = textOfName(saveTargetOf(nameOfText(path)).picture());
+    if (target != path && QFileInfo::exists(target) &&
+        QMessageBox::question(this, "Tavrin",
+                              tr("The picture is saved as %1, which is there already. Replace it?").arg(target)) !=
+            QMessageBox::Yes)
+        return;  // the dialog has asked about another name
+    info_.oQLXInfo->sSavePath = nameOfText(QFileInfo(path).path());
+    keepSettings();
+    saveTo(path);
+}
+
+bool MainWindow::saveTo(const QString& path) {
+    const SaveTarget target = saveTargetOf(nameOfText(path));
+    const bool taken = files_->savePicture(textOfName(target.picture()));
+    if (!taken) {
+        messages_->tell(tr("The picture is not finished yet."));
+    } else if (info_.oQLXInfo->bAutoQLXSave) {
+        files_->saveState(textOfName(target.state()));
+    }
+    tellProgress();
+    return taken;
+}
+
+void MainWindow::openForHost(const QString& path) {
+    openForeground(path);
+    info_.bLightroomActive = true;
+    tellSaveButton();
+}
+
+/// No state is written beside the host's file. With the picture the host gets the screen back.
+void MainWindow::saveForHost() {
+    const SaveTarget target = saveTargetOf(info_.pForegroundBitmapInfo->sSourceImageFullPath);
+    if (!files_->saveOver(textOfName(target.picture())))
+        return messages_->tell(tr("The picture is not finished yet."));
+    info_.bLightroomActive = false;
+    returning_ = true;
+    tellSaveButton();
+    tellProgress();
+}
+
+void MainWindow::tellSaveButton() {
+    commands_->action("Save")->setText(info_.bLightroomActive ? tr("Return To Lightroom") : tr("Save"));
+}
+
+}  // namespace tavrin
