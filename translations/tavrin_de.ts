@@ -899,6 +899,10 @@
         <source>No</source>
         <translation>Nein</translation>
     </message>
+    <message>
+        <source>Delete an item</source>
+        <translation>Element löschen</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::LookDesk</name>
@@ -1691,6 +1695,34 @@
         <source>The look waits, and is there when these portraits are opened: %1</source>
         <translation>Der Look wartet und ist da, wenn diese Porträts geöffnet werden: %1</translation>
     </message>
+    <message>
+        <source>Pasting the look</source>
+        <translation>Der Look wird eingefügt</translation>
+    </message>
+    <message>
+        <source>&amp;Results in the Strip</source>
+        <translation>&amp;Ergebnisse im Streifen</translation>
+    </message>
+    <message>
+        <source>Shows the portraits of the strip as they come out with the present settings</source>
+        <translation>Zeigt die Porträts des Streifens so, wie sie mit den jetzigen Einstellungen werden</translation>
+    </message>
+    <message>
+        <source>All Back&amp;grounds...</source>
+        <translation>Alle &amp;Hintergründe...</translation>
+    </message>
+    <message>
+        <source>Shows the portrait over every background of the folder; a click lays one behind it</source>
+        <translation>Zeigt das Porträt vor jedem Hintergrund des Ordners; ein Klick legt einen dahinter</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -1974,6 +2006,10 @@ oder beide im Menü Datei öffnen.</translation>
         <source>The folder cannot be read.</source>
         <translation>Der Ordner kann nicht gelesen werden.</translation>
     </message>
+    <message>
+        <source>the folder is being read...</source>
+        <translation>der Ordner wird gelesen...</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::SidePanel</name>
@@ -2165,6 +2201,44 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Smaller to the left, larger to the right</source>
         <translation>Links kleiner, rechts größer</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::BackgroundGrid</name>
+    <message>
+        <source>All Backgrounds</source>
+        <translation>Alle Hintergründe</translation>
+    </message>
+    <message>
+        <source>The portrait over each background</source>
+        <translation>Das Porträt vor jedem Hintergrund</translation>
+    </message>
+    <message>
+        <source>No folder of backgrounds was chosen yet.</source>
+        <translation>Noch ist kein Ordner mit Hintergründen gewählt.</translation>
+    </message>
+    <message>
+        <source>%1 backgrounds. A click lays one behind the portrait.</source>
+        <translation>%1 Hintergründe. Ein Klick legt einen hinter das Porträt.</translation>
+    </message>
+    <message>
+        <source>%1 pictures are being made...</source>
+        <translation>%1 Bilder entstehen noch...</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::WorkBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Ends this work; what is done stays, and can be taken back</source>
+        <translation>Beendet diese Arbeit; was fertig ist, bleibt und lässt sich zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Stopping...</source>
+        <translation>Wird angehalten...</translation>
     </message>
 </context>
 </TS>

@@ -88,12 +88,31 @@ void Chips::refresh() {
         }
         for (QWidget* chip : chips_)
             chip->show();
+        placeInTabOrder();
         updateGeometry();
     }
     for (std::size_t i = 0; i < rows.size() && i < chips_.size(); ++i)
         if (auto* words = chips_[i]->findChild<QToolButton*>(QString(rows[i]->binding().control) + "Chip"))
             words->setText(wordsOf(rows[i]));
     layOut(width(), true);
+}
+
+/// New buttons come last in the window's order, and stand before the controls.
+void Chips::placeInTabOrder() {
+    const auto takesTab = [this](const QWidget* widget) {
+        return (widget->focusPolicy() & Qt::TabFocus) && !isAncestorOf(widget);
+    };
+    QWidget* last = previousInFocusChain();
+    while (last != this && !takesTab(last))
+        last = last->previousInFocusChain();
+    for (QWidget* chip : chips_) {
+        QList<QToolButton*> buttons = chip->findChildren<QToolButton*>();
+        if (auto* button = qobject_cast<QToolButton*>(chip)) buttons.append(button);
+        for (QToolButton* button : buttons) {
+            setTabOrder(last, button);
+            last = button;
+        }
+    }
 }
 
 /// Fills lines from the start of the reading direction.

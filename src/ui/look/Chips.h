@@ -29,6 +29,7 @@ class Chips : public QWidget {
 
   private:
     void refresh();
+    void placeInTabOrder();
     QWidget* makeChip(ControlRow* row);
     int layOut(int width, bool place) const;
 
