@@ -147,7 +147,12 @@ class Guide {
     }
     void check(QWidget* what, const char* name) {
         settle(window_, info_);
-        const QImage picture = what->grab().toImage().convertToFormat(QImage::Format_Indexed8, Qt::AvoidDither);
+        const QImage seen = what->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        QImage picture = seen.scaled(seen.size() * 0.75, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        for (int y = 0; y < picture.height(); ++y)
+            for (QRgb *pixel = reinterpret_cast<QRgb*>(picture.scanLine(y)), *end = pixel + picture.width();
+                 pixel != end; ++pixel)
+                *pixel = (*pixel & 0xfff8f8f8u) | (*pixel >> 5 & 0x00070707u);
         all_ = picture.save(folder_ + '/' + name + ".png", "PNG", 0) && all_;
     }
 
