@@ -1,6 +1,6 @@
 // Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1 and 2, with the
 // groups as they are at first, all open, a message, and a folder in the strip; in German and Spanish at scale 1. File
-// names say which is which.
+// names say which is which. screenshots FOLDER guide makes the pictures of docs/guide.md.
 #include <algorithm>
 #include <cstdio>
 #include <functional>
@@ -133,6 +133,88 @@ void shootEffects(MainWindow& window, const std::function<void(const char*)>& sa
     window.binder().editor().forgetSteps();
 }
 
+/// The pictures of the user's guide: a small window in the light theme, with few colours so that they stay small.
+class Guide {
+  public:
+    Guide(const QString& folder, MainWindow& window, SystemInfo& info)
+        : folder_(folder), window_(window), info_(info) {}
+
+    bool shoot() {
+        window_.resize(1000, 640);
+        check(&window_, "first");
+        open("groupHair");
+        turn("ShowSplit", true);
+        check(&window_, "hair");
+        turn("ShowSplit", false);
+        open("groupEasy");
+        turn("ShowAlpha", true);
+        check(&window_, "clothes");
+        turn("ShowAlpha", false);
+        window_.panel()->hide();
+        const QTemporaryDir pictures;
+        showFolder(window_, info_, pictures.path());
+        check(&window_, "folder");
+        turn("ShowResults", true);
+        rest(6000);
+        check(&window_, "results");
+        window_.commands().action("ShowBackgrounds")->trigger();
+        rest(3000);
+        if (auto* grid = window_.findChild<QDialog*>("backgroundGrid")) {
+            grid->resize(640, 500);
+            rest(800);
+            check(grid, "backgrounds");
+            grid->close();
+        }
+        window_.looks().save("School");
+        window_.commands().action("CopyLook")->trigger();
+        window_.binder().run("Light", [](SettingEditor& editor) { editor.set("foreground.iBrightness", "25"); });
+        window_.commands().action("PasteLook")->trigger();
+        rest(300);
+        if (auto* dialog = window_.findChild<QDialog*>("lookDialog")) {
+            check(dialog, "looks");
+            dialog->reject();
+        }
+        return all_;
+    }
+
+  private:
+    void open(const char* name) {
+        for (GroupBox* group : window_.panel()->groups())
+            group->setFolded(group->group().name != std::string_view(name));
+    }
+    void turn(const char* id, bool on) { window_.commands().action(id)->setChecked(on); }
+    static void rest(int ms) {
+        QElapsedTimer time;
+        for (time.start(); time.elapsed() < ms;)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+    void check(QWidget* what, const char* name) {
+        settle(window_, info_);
+        const QImage seen = what->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        QImage picture = seen.scaled(seen.size() * 0.75, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        for (int y = 0; y < picture.height(); ++y)
+            for (QRgb *pixel = reinterpret_cast<QRgb*>(picture.scanLine(y)), *end = pixel + picture.width();
+                 pixel != end; ++pixel)
+                *pixel = (*pixel & 0xfff8f8f8u) | (*pixel >> 5 & 0x00070707u);
+        all_ = picture.save(folder_ + '/' + name + ".png", "PNG", 0) && all_;
+    }
+
+    const QString folder_;
+    MainWindow& window_;
+    SystemInfo& info_;
+    bool all_ = true;
+};
+
+bool shootGuide(const QString& folder) {
+    useTheme(Theme::light);
+    const auto info = std::make_unique<SystemInfo>();
+    startWithSample(*info);
+    MainWindow window(*info);
+    window.show();
+    settle(window, *info);
+    return Guide(folder, window, *info).shoot();
+}
+
 /// @return whether every picture was written
 bool shootAll(const QString& folder, const QString& scale, const QString& language) {
     bool all = true;
@@ -219,6 +301,16 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
         const QTemporaryDir pictures;
         showFolder(window, *info, pictures.path());
         save("strip");
+        action("ShowResults")->setChecked(true);
+        QElapsedTimer time;
+        for (time.start(); time.elapsed() < 5000;)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        save("results");
+        action("ShowResults")->setChecked(false);
+        action("ShowBackgrounds")->trigger();
+        for (time.restart(); time.elapsed() < 2500;)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        grabDialog("backgroundGrid");
         info->oFontObject.push_back(title());
         info->StartUpdate();
         settle(window, *info);
@@ -246,6 +338,10 @@ int main(int argc, char** argv) {
             if (QProcess::execute(argv[0], {argv[1], scale, language}) != 0) return 1;
         }
         return 0;
+    }
+    if (argc == 3 && QString(argv[2]) == "guide") {
+        QApplication application(argc, argv);
+        return shootGuide(argv[1]) ? 0 : 1;
     }
     if (argc != 4) return 2;
     QApplication application(argc, argv);

@@ -1615,6 +1615,29 @@
     </message>
 </context>
 <context>
+    <name>tavrin::BackgroundGrid</name>
+    <message>
+        <source>All Backgrounds</source>
+        <translation>Alle Hintergründe</translation>
+    </message>
+    <message>
+        <source>The portrait over each background</source>
+        <translation>Das Porträt vor jedem Hintergrund</translation>
+    </message>
+    <message>
+        <source>No folder of backgrounds was chosen yet.</source>
+        <translation>Noch ist kein Ordner mit Hintergründen gewählt.</translation>
+    </message>
+    <message>
+        <source>%1 backgrounds. A click lays one behind the portrait.</source>
+        <translation>%1 Hintergründe. Ein Klick legt einen hinter das Porträt.</translation>
+    </message>
+    <message>
+        <source>%1 pictures are being made...</source>
+        <translation>%1 Bilder entstehen noch...</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::Binder</name>
     <message>
         <source>Reset %1</source>
@@ -1890,6 +1913,10 @@
     <message>
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Delete an item</source>
+        <translation>Element löschen</translation>
     </message>
 </context>
 <context>
@@ -2774,6 +2801,34 @@
         <source>The picture is saved as %1, which is there already. Replace it?</source>
         <translation>Das Bild wird als %1 gespeichert, das es schon gibt. Ersetzen?</translation>
     </message>
+    <message>
+        <source>Pasting the look</source>
+        <translation>Der Look wird eingefügt</translation>
+    </message>
+    <message>
+        <source>&amp;Results in the Strip</source>
+        <translation>&amp;Ergebnisse im Streifen</translation>
+    </message>
+    <message>
+        <source>Shows the portraits of the strip as they come out with the present settings</source>
+        <translation>Zeigt die Porträts des Streifens so, wie sie mit den jetzigen Einstellungen werden</translation>
+    </message>
+    <message>
+        <source>All Back&amp;grounds...</source>
+        <translation>Alle &amp;Hintergründe...</translation>
+    </message>
+    <message>
+        <source>Shows the portrait over every background of the folder; a click lays one behind it</source>
+        <translation>Zeigt das Porträt vor jedem Hintergrund des Ordners; ein Klick legt einen dahinter</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -3129,6 +3184,10 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>The folder cannot be read.</source>
         <translation>Der Ordner kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>the folder is being read...</source>
+        <translation>der Ordner wird gelesen...</translation>
     </message>
 </context>
 <context>
@@ -3586,6 +3645,21 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Place of an item</source>
         <translation>Lage eines Elements</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::WorkBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Ends this work; what is done stays, and can be taken back</source>
+        <translation>Beendet diese Arbeit; was fertig ist, bleibt und lässt sich zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Stopping...</source>
+        <translation>Wird angehalten...</translation>
     </message>
 </context>
 <context>

@@ -1615,6 +1615,29 @@
     </message>
 </context>
 <context>
+    <name>tavrin::BackgroundGrid</name>
+    <message>
+        <source>All Backgrounds</source>
+        <translation>Todos los fondos</translation>
+    </message>
+    <message>
+        <source>The portrait over each background</source>
+        <translation>El retrato sobre cada fondo</translation>
+    </message>
+    <message>
+        <source>No folder of backgrounds was chosen yet.</source>
+        <translation>Aún no se ha elegido una carpeta de fondos.</translation>
+    </message>
+    <message>
+        <source>%1 backgrounds. A click lays one behind the portrait.</source>
+        <translation>%1 fondos. Un clic pone uno detrás del retrato.</translation>
+    </message>
+    <message>
+        <source>%1 pictures are being made...</source>
+        <translation>Se están haciendo %1 imágenes...</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::Binder</name>
     <message>
         <source>Reset %1</source>
@@ -1890,6 +1913,10 @@
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+    <message>
+        <source>Delete an item</source>
+        <translation>Borrar un elemento</translation>
     </message>
 </context>
 <context>
@@ -2774,6 +2801,34 @@
         <source>The picture is saved as %1, which is there already. Replace it?</source>
         <translation>La imagen se guarda como %1, que ya existe. ¿Reemplazarla?</translation>
     </message>
+    <message>
+        <source>Pasting the look</source>
+        <translation>Pegando el aspecto</translation>
+    </message>
+    <message>
+        <source>&amp;Results in the Strip</source>
+        <translation>&amp;Resultados en la tira</translation>
+    </message>
+    <message>
+        <source>Shows the portraits of the strip as they come out with the present settings</source>
+        <translation>Muestra los retratos de la tira tal como salen con los ajustes actuales</translation>
+    </message>
+    <message>
+        <source>All Back&amp;grounds...</source>
+        <translation>Todos los &amp;fondos...</translation>
+    </message>
+    <message>
+        <source>Shows the portrait over every background of the folder; a click lays one behind it</source>
+        <translation>Muestra el retrato sobre cada fondo de la carpeta; un clic pone uno detrás</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -3129,6 +3184,10 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>The folder cannot be read.</source>
         <translation>No se puede leer la carpeta.</translation>
+    </message>
+    <message>
+        <source>the folder is being read...</source>
+        <translation>se está leyendo la carpeta...</translation>
     </message>
 </context>
 <context>
@@ -3586,6 +3645,21 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>Place of an item</source>
         <translation>Posición de un elemento</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::WorkBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Ends this work; what is done stays, and can be taken back</source>
+        <translation>Termina este trabajo; lo hecho se queda y se puede deshacer</translation>
+    </message>
+    <message>
+        <source>Stopping...</source>
+        <translation>Parando...</translation>
     </message>
 </context>
 <context>

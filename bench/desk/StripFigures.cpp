@@ -14,6 +14,9 @@
 #include <QScrollBar>
 
 #include "browse/ThumbnailLoader.h"
+#include "pipeline/PreviewMaker.h"
+#include "session/Looks.h"
+#include "session/SidePictures.h"
 
 namespace tavrin::bench {
 
@@ -89,7 +92,7 @@ void measureRate(const std::string& place, const char* what, int first) {
     ThumbnailLoader loader([&](const std::string&, const Thumbnail&) { ++made; });
     const auto start = Clock::now();
     const double used = processMs();
-    loader.want(paths, ThumbnailSize::normal);
+    loader.want(paths, paths.size(), ThumbnailSize::normal);
     while (made < kCount)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     std::printf("small pictures, %s: %.0f a second, %.1f ms of CPU each\n", what, 1000.0 * kCount / since(start),
@@ -110,21 +113,26 @@ class PreviewWatch : public QObject {
     PictureView& view_;
 };
 
-void walk(const Desk& desk, const char* what, bool readAhead) {
+enum class Ahead { keyed, read, nothing };
+
+void walk(const Desk& desk, const char* what, Ahead ahead) {
     PictureView& view = *desk.window.view();
     Strip& strip = *desk.window.strip();
     view.setFocus();
     std::vector<double> times, used;
     for (int i = 0; i < 20; ++i) {
         const PictureList& list = strip.portraits()->list();
-        const int next = list.neighbour(readAhead ? 1 : 50);  // 50: nobody expected it
+        const int step = ahead == Ahead::nothing ? 50 : 1;  // 50: nobody expected it
+        const int next = list.neighbour(step);
         const QString path = QString::fromStdString(list.path(next));
-        if (readAhead) waitFor([&] { return strip.isReadAhead(path); });
+        if (ahead == Ahead::keyed) waitFor([&] { return strip.results().previewOf(list.path(next)).has_value(); });
+        if (ahead == Ahead::read) waitFor([&] { return strip.isReadAhead(path); });
         desk.waitForPicture();
+        if (ahead == Ahead::read) strip.results().forget();
         PreviewWatch watch(view);
         const auto start = Clock::now();
         const double before = processMs();
-        readAhead ? strip.walk(1) : strip.walk(50);
+        strip.walk(step);
         waitFor([&] { return watch.painted; });
         times.push_back(since(start));
         used.push_back(processMs() - before);
@@ -136,6 +144,43 @@ void walk(const Desk& desk, const char* what, bool readAhead) {
         "next portrait to its preview on the screen, %s: median %.0f ms, longest %.0f ms; "
         "%.0f ms of CPU of all threads\n",
         what, times[times.size() / 2], times.back(), used[used.size() / 2]);
+}
+
+/// The portrait that is open over 20 backgrounds, keyed once, beside as many single previews.
+void measureBackgrounds(const Desk& desk, const std::string& folder) {
+    constexpr int kCount = 20;
+    std::vector<std::string> files;
+    const QImage sample(TAVRIN_SOURCE_DIR "/data/sample/background.jpg");
+    for (int i = 0; i < kCount; ++i) {
+        files.push_back(folder + "/background" + std::to_string(i) + ".jpg");
+        sample.scaled(512, 512, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+            .save(QString::fromStdString(files.back()), "JPEG", 90);
+    }
+    const Scene scene = sceneOf(desk.info);
+    const Recipe present{scene.settings, {}, {}};
+    const SideWish wish{present.portrait(), "", 0, false, false};
+    for (const bool together : {true, false}) {
+        auto maker = std::make_unique<PreviewMaker>(stateFor(scene, wish));
+        const auto start = Clock::now();
+        const double used = processMs();
+        for (const std::string& file : files) {
+            if (!together) maker = std::make_unique<PreviewMaker>(stateFor(scene, wish));
+            if (maker->over(file).isNull()) std::printf("%s\n", maker->problem().c_str());
+        }
+        std::printf("%d backgrounds of 512 pixels, %s: %.0f ms, %.0f ms of CPU\n", kCount,
+                    together ? "keyed once" : "keyed each time", since(start), processMs() - used);
+    }
+}
+
+void measurePaste(const Desk& desk, const std::string& place) {
+    constexpr int kCount = 300;
+    std::vector<std::string> portraits;
+    for (int i = 5000; i < 5000 + kCount; ++i)
+        portraits.push_back(place + "/IMG_" + std::to_string(10000 + i) + ".jpg");
+    const auto start = Clock::now();
+    PortraitPaste paste(portraits, "Look", lookOf(desk.info));
+    const std::string problems = paste.paste();
+    std::printf("a look pasted on %zu portraits: %.0f ms%s\n", paste.changed(), since(start), problems.c_str());
 }
 
 }  // namespace
@@ -171,8 +216,11 @@ void measureStrip(const Desk& desk, const std::string& folder) {
                 desk.longestEvent(), megabytes("VmRSS:"), before);
     measureRate(place, "made", 3000);
     measureRate(place, "from the cache", 3000);
-    walk(desk, "read ahead", true);
-    walk(desk, "not read ahead", false);
+    walk(desk, "keyed ahead", Ahead::keyed);
+    walk(desk, "read ahead", Ahead::read);
+    walk(desk, "not read ahead", Ahead::nothing);
+    measureBackgrounds(desk, folder);
+    measurePaste(desk, place);
 }
 
 }  // namespace tavrin::bench

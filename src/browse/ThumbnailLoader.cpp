@@ -11,8 +11,6 @@ namespace tavrin {
 
 namespace {
 
-constexpr int kThreads = 2;
-
 /// What starts from such a thread inherits its priority for good, so it calls nothing that starts another one.
 void lowerPriorityOfThread() {
 #ifdef __linux__
@@ -24,8 +22,8 @@ void lowerPriorityOfThread() {
 }  // namespace
 
 ThumbnailLoader::ThumbnailLoader(Done done) : done_(std::move(done)) {
-    for (int i = 0; i < kThreads; ++i)
-        threads_.emplace_back([this](const std::stop_token& ended) { work(ended); });
+    for (const Duty duty : {Duty::seen, Duty::seen, Duty::all})
+        threads_.emplace_back([this, duty](const std::stop_token& ended) { work(ended, duty); });
 }
 
 ThumbnailLoader::~ThumbnailLoader() {
@@ -34,22 +32,27 @@ ThumbnailLoader::~ThumbnailLoader() {
     threads_.clear();
 }
 
-void ThumbnailLoader::want(std::vector<std::string> paths, ThumbnailSize size) {
+void ThumbnailLoader::want(std::vector<std::string> paths, std::size_t seen, ThumbnailSize size) {
     std::lock_guard lock(mutex_);
     size_ = size;
-    wanted_ = std::move(paths);
+    wanted_.clear();
+    seen_ = 0;
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        if (std::ranges::find(underWork_, paths[i]) != underWork_.end()) continue;
+        if (i < seen) ++seen_;
+        wanted_.push_back(std::move(paths[i]));
+    }
     std::ranges::reverse(wanted_);
-    std::erase_if(
-        wanted_, [this](const std::string& path) { return std::ranges::find(underWork_, path) != underWork_.end(); });
     changed_.notify_all();
 }
 
-void ThumbnailLoader::work(const std::stop_token& ended) {
-    lowerPriorityOfThread();
+void ThumbnailLoader::work(const std::stop_token& ended, Duty duty) {
+    if (duty == Duty::all) lowerPriorityOfThread();
     std::unique_lock lock(mutex_);
-    while (changed_.wait(lock, ended, [this] { return !wanted_.empty(); })) {
+    while (changed_.wait(lock, ended, [&] { return duty == Duty::seen ? seen_ > 0 : !wanted_.empty(); })) {
         const std::string path = std::move(wanted_.back());
         wanted_.pop_back();
+        if (seen_ > 0) --seen_;
         underWork_.push_back(path);
         const ThumbnailSize size = size_;
         lock.unlock();

@@ -41,7 +41,22 @@ RunContext fullRun(SystemInfo& info, int height) {
     return context;
 }
 
-void run(SystemInfo& info, Resolution resolution, bool refines) {
+/// @param subject null: nothing is known, and nothing is kept
+bool refineOrTake(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
+                  CombineParams& params, RefinedSubject* subject) {
+    if (subject && !subject->pixels.empty()) {
+        takeRefined(info, subject->pixels, params);
+        return true;
+    }
+    if (!refineRun(context, info, overrides, params)) return false;
+    if (subject && params.refined) {
+        const std::size_t bytes = pixelBytes(params.size.width, params.size.height);
+        subject->pixels.assign(params.combined, params.combined + bytes);
+    }
+    return true;
+}
+
+void run(SystemInfo& info, Resolution resolution, bool refines, RefinedSubject* subject = nullptr) {
     const PassGeometry size = info.geometry(resolution);
     if (size.width < 1 || size.height < 1) return;
     CombineParams params = makeCombineParams(info, resolution);
@@ -52,7 +67,7 @@ void run(SystemInfo& info, Resolution resolution, bool refines) {
     const RunContext context = resolution == Resolution::full ? fullRun(info, size.height) : RunContext();
     RunContext quiet = context;
     quiet.progress = nullptr;
-    if (refines && !refineRun(quiet, info, overrides, params)) return;
+    if (refines && !refineOrTake(quiet, info, overrides, params, subject)) return;
     const LightingRun light(info, resolution);
     params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
 
@@ -68,6 +83,10 @@ void Combine(SystemInfo& info, int /*ignored*/, int hiRes) {
 
 void combinePreviewPlainly(SystemInfo& info) {
     run(info, Resolution::preview, false);
+}
+
+void combinePreviewOver(SystemInfo& info, RefinedSubject& subject) {
+    run(info, Resolution::preview, refinesKey(info), &subject);
 }
 
 }  // namespace tavrin

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include "key/pixel/CombineParams.h"
 
 namespace tavrin {
@@ -18,5 +21,14 @@ void Combine(SystemInfo& info, int ignored, int hiRes);
 
 /// The preview's run with the plain key, whatever `bRefineKey` says: quick, and enough to see where the subject is.
 void combinePreviewPlainly(SystemInfo& info);
+
+/// What the refined key found of a portrait, to be laid over one background after the other.
+struct RefinedSubject {
+    std::vector<std::uint8_t> pixels;  ///< own colours and alpha, RGBA; empty until it was found
+};
+
+/// The preview's run, which refines the key only while `subject` is not known. As long as nothing but the background
+/// changes it makes what `Combine` makes, byte for byte.
+void combinePreviewOver(SystemInfo& info, RefinedSubject& subject);
 
 }  // namespace tavrin

@@ -60,4 +60,10 @@ bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverr
     return result != refine::Refined::superseded;
 }
 
+void takeRefined(const SystemInfo& info, const std::vector<std::uint8_t>& subject, CombineParams& params) {
+    std::copy(subject.begin(), subject.end(), params.combined);
+    params.refined = true;
+    if (info.iLightingMode == 4) keepAlpha(params, params.combined + 3, kPixelBytes);
+}
+
 }  // namespace tavrin

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include "core/raster/Rows.h"
 #include "key/KeyOverrides.h"
 #include "key/pixel/CombineParams.h"
@@ -12,5 +15,8 @@ namespace tavrin {
 /// @return false when the run was superseded. Throws std::bad_alloc.
 bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
                CombineParams& params);
+
+/// Takes the subject as `refineRun` left it in the combined buffer of a run on the same portrait.
+void takeRefined(const SystemInfo& info, const std::vector<std::uint8_t>& subject, CombineParams& params);
 
 }  // namespace tavrin

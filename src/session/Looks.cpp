@@ -119,21 +119,21 @@ void takeLook(SettingEditor& editor, const std::string& label, const SettingValu
     for (const auto& [name, value] : look)
         if (partOf(name) != LookPart::texts) editor.set(name, value);
     if (!changesBy(editor.info(), after).empty()) {
-        editor.note({[toLoop, before] { toLoop(before); }, [toLoop, after] { toLoop(after); }});
+        editor.note({[toLoop, before] { toLoop(before); }, [toLoop, after] { toLoop(after); }, true});
         toLoop(after);
     }
     editor.endStep();
 }
 
 PortraitPaste::PortraitPaste(std::vector<std::string> portraits, std::string label, const SettingValues& look)
-    : portraits_(std::move(portraits)), label_(std::move(label)), look_(look) {
-    std::erase_if(look_, [](const auto& setting) { return partOf(setting.first) == LookPart::texts; });
-}
+    : portraits_(std::move(portraits)), label_(std::move(label)), look_(look) {}
 
-std::string PortraitPaste::paste() {
+std::string PortraitPaste::paste(const std::function<bool(std::size_t)>& goesOn) {
     std::string problems;
     done_.clear();
+    std::size_t looked = 0;
     for (const std::string& portrait : portraits_) {
+        if (goesOn && !goesOn(looked++)) break;
         const std::string file = recipeFile(portrait);
         if (file.empty()) {
             addLine(problems, portrait + ": there is no such file.");

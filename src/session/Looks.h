@@ -37,13 +37,14 @@ void takeLook(SettingEditor& editor, const std::string& label, const SettingValu
               const std::function<void(const SettingValues&)>& toLoop);
 
 /// A look that is pasted on portraits which are not shown. It waits in their recipes, and becomes a step of their
-/// history when they are opened. Texts are left out.
+/// history when they are opened.
 class PortraitPaste {
   public:
     PortraitPaste(std::vector<std::string> portraits, std::string label, const SettingValues& look);
 
+    /// @param goesOn asked before each portrait, with the number of those before it; false ends the pasting there
     /// @return "" or one line for each portrait that could not take it
-    std::string paste();
+    std::string paste(const std::function<bool(std::size_t)>& goesOn = {});
     /// Gives each portrait the recipe that it had, unless somebody has worked on it since: there it is a step to take
     /// back.
     /// @return "" or one line for each portrait for which that failed

@@ -40,21 +40,12 @@ void resizeItems(SystemInfo& info, const std::string& count) {
 }
 
 std::string chooseSizeOf(SystemInfo& info, const SettingValues& settings) {
-    StoredSize stored;
-    const auto number = [](const std::string& text, auto& value) {
-        std::from_chars(text.data(), text.data() + text.size(), value);
-    };
-    bool differs = false;
-    for (const auto& [name, value] : settings) {
-        if (name == "sImageSizeName") stored.name = value;
-        if (name == "iSelecteImageSize") number(value, stored.index);
-        if (name == "dOutputImageWidthInInches") number(value, stored.width);
-        if (name == "dOutputImageHeightInInches") number(value, stored.height);
-        if (name == "iOutputImageDPI") number(value, stored.dpi);
-        if (name == "sImageSizeName" || name == "iOutputPixelWidth" || name == "iOutputPixelHeight")
-            differs = differs || fieldValue(info, name) != value;
-    }
-    return differs ? chooseStoredSize(info, stored) : "";
+    const bool differs = std::any_of(settings.begin(), settings.end(), [&](const auto& setting) {
+        const auto& [name, value] = setting;
+        return (name == "sImageSizeName" || name == "iOutputPixelWidth" || name == "iOutputPixelHeight") &&
+               fieldValue(info, name) != value;
+    });
+    return differs ? chooseStoredSize(info, sizeIn(settings)) : "";
 }
 
 QString text(const std::string& value) {
@@ -103,12 +94,40 @@ std::vector<SettingEditor::Step> stepsOf(const QJsonArray& array) {
     return steps;
 }
 
+/// Without the steps that rest on another list of items than the last one has: what changed that list is not kept.
+SettingEditor::History lastingHistory(SettingEditor::History history) {
+    std::size_t first = 0;
+    for (std::size_t i = 0; i < history.done; ++i)
+        if (history.steps[i].elsewhere.changesItems) first = i + 1;
+    const auto next = std::find_if(history.steps.begin() + static_cast<std::ptrdiff_t>(history.done),
+                                   history.steps.end(), [](const auto& step) { return step.elsewhere.changesItems; });
+    history.steps.erase(next, history.steps.end());
+    history.steps.erase(history.steps.begin(), history.steps.begin() + static_cast<std::ptrdiff_t>(first));
+    history.done -= first;
+    return history;
+}
+
 }  // namespace
 
 std::string Recipe::portrait() const {
     const auto found =
         std::find_if(settings.begin(), settings.end(), [](const auto& entry) { return entry.first == kPortrait; });
     return found == settings.end() ? "" : found->second;
+}
+
+StoredSize sizeIn(const SettingValues& settings) {
+    StoredSize stored;
+    const auto number = [](const std::string& text, auto& value) {
+        std::from_chars(text.data(), text.data() + text.size(), value);
+    };
+    for (const auto& [name, value] : settings) {
+        if (name == "sImageSizeName") stored.name = value;
+        if (name == "iSelecteImageSize") number(value, stored.index);
+        if (name == "dOutputImageWidthInInches") number(value, stored.width);
+        if (name == "dOutputImageHeightInInches") number(value, stored.height);
+        if (name == "iOutputImageDPI") number(value, stored.dpi);
+    }
+    return stored;
 }
 
 SettingValues settingsOf(const SystemInfo& info) {
@@ -118,7 +137,7 @@ SettingValues settingsOf(const SystemInfo& info) {
 }
 
 Recipe presentRecipe(const SettingEditor& editor) {
-    return {settingsOf(editor.info()), editor.history(), {}};
+    return {settingsOf(editor.info()), lastingHistory(editor.history()), {}};
 }
 
 std::string useSettings(SystemInfo& info, const SettingValues& settings) {

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "formats/ImageState.h"
 #include "session/SettingEditor.h"
 
 namespace tavrin {
@@ -22,6 +23,9 @@ struct Recipe {
 
     std::string portrait() const;  ///< its file, "" when the recipe does not say
 };
+
+/// The output size that settings tell.
+StoredSize sizeIn(const SettingValues& settings);
 
 /// Everything that a state holds.
 SettingValues settingsOf(const SystemInfo& info);

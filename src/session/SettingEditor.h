@@ -21,6 +21,7 @@ class SettingEditor {
     /// What a step did besides settings. It lives as long as the program.
     struct Elsewhere {
         std::function<void()> takeBack, doAgain;
+        bool changesItems = false;  ///< the list of items: steps before it name them by other numbers
     };
     struct Step {
         std::string label;  ///< what was changed, in the user's words
@@ -63,8 +64,8 @@ class SettingEditor {
     void goTo(std::size_t done);
     const std::vector<Step>& steps() const { return history_.steps; }
     std::size_t stepsDone() const { return history_.done; }
-    /// Number of the last step in force that changed a setting, 0 for none: tells whether the picture was changed in
-    /// between.
+    /// Number of the last step in force that changed a setting or the list of items, 0 for none: tells whether the
+    /// picture was changed in between.
     std::uint64_t position() const;
     /// The picture was saved as it was at a position.
     void markSaved(std::uint64_t position) { history_.saved = position; }

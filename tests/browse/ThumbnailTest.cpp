@@ -148,12 +148,12 @@ TEST_F(ThumbnailTest, WhatScrolledAwayIsNotMadeAnyMoreAndTheFirstComesFirst) {
             made.push_back(path);
             changed.notify_all();
         });
-        loader.want(paths, ThumbnailSize::normal);
+        loader.want(paths, 4, ThumbnailSize::normal);
         std::unique_lock lock(mutex);
         changed.wait(lock, [&] { return made.size() >= 2; });
         lock.unlock();
         const std::vector<std::string> others(paths.end() - 4, paths.end());
-        loader.want(others, ThumbnailSize::normal);
+        loader.want(others, others.size(), ThumbnailSize::normal);
         lock.lock();
         changed.wait(lock, [&] {
             return std::ranges::all_of(others,

@@ -166,18 +166,23 @@ TEST_F(LooksTest, APasteOnPortraitsWaitsInTheirRecipesAndIsTakenBackAsOne) {
     SettingEditor editor(info);
     editor.set("foreground.iBrightness", "5");
     ASSERT_EQ(saveRecipe(known, presentRecipe(editor)), "");
-    const SettingValues look = {{"foreground.iContrast", "70"}, {"text0.sText", "no"}};
+    const SettingValues look = {{"foreground.iContrast", "70"}, {"iFontObjectCount", "1"}, {"text0.sText", "2026"}};
     PortraitPaste paste({fresh, known, folder_.file("gone.jpg")}, "Paste", look);
     EXPECT_NE(paste.paste().find("gone.jpg"), std::string::npos);
     EXPECT_EQ(paste.changed(), 2u);
     for (const std::string& file : {fresh, known}) {
         ASSERT_EQ(loadRecipe(file)->pasted.size(), 1u);
-        EXPECT_EQ(loadRecipe(file)->pasted[0].second, (SettingValues{{"foreground.iContrast", "70"}}));
+        EXPECT_EQ(loadRecipe(file)->pasted[0].second, look);
     }
     EXPECT_EQ(loadRecipe(known)->history.steps.size(), 1u);
     EXPECT_EQ(paste.takeBack(), "");
     EXPECT_FALSE(loadRecipe(fresh));
     EXPECT_TRUE(loadRecipe(known)->pasted.empty());
+
+    EXPECT_EQ(paste.paste([](std::size_t before) { return before < 1; }), "") << "stopped after the first";
+    EXPECT_EQ(paste.changed(), 1u);
+    EXPECT_TRUE(loadRecipe(known)->pasted.empty());
+    EXPECT_EQ(paste.takeBack(), "");
 
     paste.paste();
     ASSERT_EQ(saveRecipe(known, presentRecipe(editor)), "");  // opened and worked on

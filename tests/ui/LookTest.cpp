@@ -93,6 +93,44 @@ TEST_F(LookTest, ALookOnOtherPortraitsIsThereWhenTheyAreOpenedAndOneUndoTakesItB
     EXPECT_EQ(portrait().iBrightness, -20) << "it is a step there";
 }
 
+TEST_F(LookTest, TitlesGoAlongOnOtherPortraitsWhenTheyAreTicked) {
+    FontObject title;
+    title.sText = "Class of 26";
+    info_->oFontObject.push_back(title);
+    trigger("CopyLook");
+    window_->looks().pasteOn({QString::fromStdString(other_)});
+    tick("Text", true);
+    accept();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loadRecipe(other_).has_value(); }, 5000));
+    info_->oFontObject.clear();
+    window_->openForeground(QString::fromStdString(other_));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 1; }, 5000));
+    EXPECT_EQ(info_->oFontObject[0].sText.load(), "Class of 26");
+    ASSERT_TRUE(waitForPicture());
+    trigger("UndoButton");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 0; }, 5000));
+}
+
+TEST_F(LookTest, ALongPasteShowsHowFarItIsAndStopsWithWhatItHasDone) {
+    QStringList portraits;
+    const QImage disc = test::discOnScreen(8, 8);
+    for (int i = 0; i < 3000; ++i)
+        portraits.append(QString::fromStdString(test::savePng(disc, folder_.file(std::to_string(i) + ".png"))));
+    set("foreground.iBrightness", "30");
+    trigger("CopyLook");
+    window_->looks().pasteOn(portraits);
+    accept();
+    auto* stop = window_->findChild<QToolButton*>("stopWork");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return stop->isVisible(); }, 5000));
+    QTest::mouseClick(stop, Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return editor().steps().size() == 2u; }, 1000));
+    EXPECT_FALSE(stop->isVisible());
+    EXPECT_TRUE(loadRecipe(portraits.first().toStdString()));
+    EXPECT_FALSE(loadRecipe(portraits.last().toStdString()));
+    trigger("UndoButton");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !loadRecipe(portraits.first().toStdString()); }, 5000));
+}
+
 TEST_F(LookTest, LooksByNameAreSavedTakenAndDeletedToUndo) {
     set("foreground.iBrightness", "30");
     ASSERT_TRUE(window_->looks().save("School"));

@@ -7,6 +7,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QNativeGestureEvent>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
@@ -233,6 +234,25 @@ TEST_F(PictureToolsTest, TheBarShowsViewsOfTheKeyAndFollowsTheSettings) {
     EXPECT_GT(zoom->value(), hundred);
 }
 
+TEST_F(PictureToolsTest, PinchingEnlargesAboutTheFingersAndNoPixelSlipsAway) {
+    const QPointF fingers(view_->width() * 0.4, view_->height() * 0.55);
+    const QPoint pixel = view_->zoom().pixelAt(fingers);
+    const double before = view_->zoom().pixelScale();
+    const auto pinch = [&](double by) {
+        QNativeGestureEvent event(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2, fingers,
+                                  fingers, view_->mapToGlobal(fingers), by, QPointF());
+        QApplication::sendEvent(view_, &event);
+    };
+    for (int i = 0; i < 12; ++i)
+        pinch(0.1);
+    EXPECT_GT(view_->zoom().pixelScale(), 2.5 * before);
+    EXPECT_EQ(view_->zoom().pixelAt(fingers), pixel);
+    EXPECT_GT(window_->findChild<QSlider*>("sliderZoom")->value(), 0);
+    for (int i = 0; i < 6; ++i)
+        pinch(-0.05);
+    EXPECT_EQ(view_->zoom().pixelAt(fingers), pixel);
+}
+
 TEST_F(PictureToolsTest, ItemsAreSelectedOnlyWhenTheyAreTheTargetAndTheFrameGoesByItself) {
     addItem();
     ItemTool& items = window_->pictureTools()->items();
@@ -307,6 +327,7 @@ TEST_F(PictureToolsTest, TheIconsOfAnItemEditItAndDeleteItAfterAQuestion) {
     action("UndoButton")->trigger();
     EXPECT_NE(info_->oFontObject[0].sText.load(), "elsewhere.png");
 
+    const std::string text = info_->oFontObject[0].sText;
     select();
     QTest::mouseClick(view_, Qt::LeftButton, {}, box().bottomLeft().toPoint());
     answer("No");
@@ -317,6 +338,14 @@ TEST_F(PictureToolsTest, TheIconsOfAnItemEditItAndDeleteItAfterAQuestion) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 0; }, 20000));
     EXPECT_TRUE(waitForPicture());
     EXPECT_FALSE(action("RedoButton")->isEnabled()) << "steps of an item that is gone";
+    EXPECT_TRUE(editor().isUnsaved());
+    EXPECT_TRUE(presentRecipe(editor()).history.steps.empty()) << "the list is not kept with the steps";
+    action("UndoButton")->trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 1; }, 20000));
+    EXPECT_EQ(info_->oFontObject[0].sText.load(), text);
+    action("RedoButton")->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 0; }, 20000));
+    EXPECT_TRUE(waitForPicture());
 }
 
 TEST_F(PictureToolsTest, TheSmallMapsMoveTheLayerAndTheItem) {

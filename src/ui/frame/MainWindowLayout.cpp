@@ -17,6 +17,7 @@
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/PictureCommands.h"
 #include "ui/frame/ViewBar.h"
+#include "ui/frame/WorkBar.h"
 #include "ui/sizes/PrintPage.h"
 
 namespace tavrin {
@@ -101,6 +102,15 @@ void MainWindow::makeStatusLine() {
     pixel->setObjectName("pixelReadOut");
     connect(tools_, &PictureTools::readOut, pixel, &QLabel::setText);
     statusBar()->addWidget(pixel);
+    auto* work = new WorkBar(this);
+    connect(keeping_, &Safekeeping::pasteBegun, work, [this, work](std::size_t all) {
+        work->begin(tr("Pasting the look"), static_cast<int>(all), [this] { keeping_->stopPasting(); });
+    });
+    connect(keeping_, &Safekeeping::pasting, work,
+            [work](std::size_t done) { work->setDone(static_cast<int>(done)); });
+    connect(keeping_, &Safekeeping::pasted, work, &WorkBar::end);
+    connect(keeping_, &Safekeeping::pasted, strip_, [this] { strip_->results().forget(); });
+    statusBar()->addPermanentWidget(work);
     statusBar()->addPermanentWidget(stateText_);
     statusBar()->addPermanentWidget(progress_);
 }

@@ -5,7 +5,9 @@
 
 #include "core/files/NameText.h"
 #include "core/files/StandardPath.h"
+#include "ui/frame/ActionButton.h"
 #include "ui/frame/MainWindow.h"
+#include "ui/strip/BackgroundGrid.h"
 
 namespace tavrin {
 
@@ -17,6 +19,12 @@ Command markCommand(MainWindow& window, const char* id, const char* menu, const 
                     Qt::Key key, PictureMark mark) {
     return {
         id, menu, text, toolTip, "", QKeySequence(key), {}, [&window, mark](bool) { window.strip()->mark(mark); }};
+}
+
+void showBackgrounds(MainWindow& window) {
+    auto* grid = new BackgroundGrid(*window.strip(), &window);
+    QObject::connect(grid, &BackgroundGrid::chosen, &window, &MainWindow::openBackground);
+    grid->show();
 }
 
 }  // namespace
@@ -40,6 +48,23 @@ std::vector<Command> stripCommands(MainWindow& w) {
          {},
          [&w](bool on) { w.strip()->setFolded(!on); },
          Kind::checked},
+        {"ShowResults",
+         "&View",
+         MainWindow::tr("&Results in the Strip"),
+         MainWindow::tr("Shows the portraits of the strip as they come out with the present settings"),
+         "/keyed",
+         QKeySequence(Qt::Key_R),
+         {},
+         [&w](bool on) { w.strip()->showResults(on); },
+         Kind::checked},
+        {"ShowBackgrounds",
+         "&View",
+         MainWindow::tr("All Back&grounds..."),
+         MainWindow::tr("Shows the portrait over every background of the folder; a click lays one behind it"),
+         "/grid",
+         QKeySequence(Qt::Key_W),
+         {},
+         [&w](bool) { showBackgrounds(w); }},
         {"NextPortrait",
          "|&Picture",
          MainWindow::tr("&Next Portrait"),
@@ -72,7 +97,11 @@ std::vector<Command> stripCommands(MainWindow& w) {
 }
 
 void MainWindow::connectStrip() {
-    connect(strip_, &Strip::portraitWanted, this, &MainWindow::openForeground);
+    connect(strip_, &Strip::portraitWanted, this, [this](const QString& path) {
+        const std::optional<QImage> ready = strip_->results().previewOf(nameOfText(path));
+        openForeground(path);
+        if (ready) view_->show({*ready, 0, ready->height(), ready->height(), Resolution::preview});
+    });
     connect(strip_, &Strip::backgroundWanted, this, &MainWindow::openBackground);
     connect(strip_, &Strip::pickFolderWanted, this, &MainWindow::askForPickDirectory);
     connect(strip_, &Strip::marksChanged, commands_, &Commands::refresh);
@@ -80,7 +109,9 @@ void MainWindow::connectStrip() {
     connect(
         &bridge_, &WindowBridge::controlsEnabled, strip_,
         [this](bool enabled) {
-            if (enabled) strip_->readAhead();
+            if (!enabled) return;
+            strip_->results().setFramed(frameAction()->isChecked());
+            strip_->readAhead(*loop_);
         },
         Qt::QueuedConnection);
     for (const auto& [key, step] : {std::pair(Qt::Key_Left, -1), std::pair(Qt::Key_Right, 1)}) {
@@ -90,6 +121,12 @@ void MainWindow::connectStrip() {
         connect(view_, &PictureView::zoomed, shortcut,
                 [this, shortcut] { shortcut->setEnabled(view_->zoom().frame().width() <= view_->width()); });
     }
+    const auto buttonIn = [this](Shelf* shelf, const char* id, const QString& word) {
+        commands_->action(id)->setIconText(word);
+        shelf->line()->insertWidget(shelf->line()->count() - 1, buttonOf(commands_->action(id), shelf));
+    };
+    buttonIn(strip_->portraits(), "ShowResults", tr("Results"));
+    buttonIn(strip_->backgrounds(), "ShowBackgrounds", tr("All"));
     commands_->action("ShowStrip")->setChecked(!strip_->isFolded());
     commands_->menu("&File")->insertAction(commands_->action("loadBackground"), commands_->action("OpenFolder"));
 }

@@ -125,6 +125,7 @@ void Chips::rebuild() {
     }
     for (QWidget* chip : chips_)
         chip->show();
+    placeInTabOrder();
     updateGeometry();
 }
 
@@ -138,6 +139,24 @@ void Chips::refresh() {
         if (auto* words = chips_[i]->findChild<QToolButton*>(entries_[i].name + "Chip"))
             words->setText(entries_[i].words);
     layOut(width(), true);
+}
+
+/// New buttons come last in the window's order, and stand before the controls.
+void Chips::placeInTabOrder() {
+    const auto takesTab = [this](const QWidget* widget) {
+        return (widget->focusPolicy() & Qt::TabFocus) && !isAncestorOf(widget);
+    };
+    QWidget* last = previousInFocusChain();
+    while (last != this && !takesTab(last))
+        last = last->previousInFocusChain();
+    for (QWidget* chip : chips_) {
+        QList<QToolButton*> buttons = chip->findChildren<QToolButton*>();
+        if (auto* button = qobject_cast<QToolButton*>(chip)) buttons.append(button);
+        for (QToolButton* button : buttons) {
+            setTabOrder(last, button);
+            last = button;
+        }
+    }
 }
 
 /// Fills lines from the start of the reading direction.

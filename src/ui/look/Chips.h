@@ -41,6 +41,7 @@ class Chips : public QWidget {
     Entry entryOf(const GroupBox* group) const;
     void refresh();
     void rebuild();
+    void placeInTabOrder();
     QWidget* makeChip(const Entry& entry);
     int layOut(int width, bool place) const;
 

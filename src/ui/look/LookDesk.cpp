@@ -80,8 +80,7 @@ void LookDesk::pasteOn(const QStringList& portraits) {
     if (!hasCopy()) return emit told(tr("No look was copied yet. Ctrl+Shift+C copies the present one."));
     std::vector<LookChange> parts;
     for (const auto& [setting, value] : copied_)
-        if (const auto part = partOf(setting); part && *part != LookPart::texts)
-            parts.push_back({*part, setting, "", value});
+        if (const auto part = partOf(setting)) parts.push_back({*part, setting, "", value});
     auto* dialog = new LookDialog(
         tr("Paste a Look on %1 Portraits").arg(portraits.size()), parts,
         [this](const std::string& setting) { return nameOf(setting); }, window_);

@@ -12,7 +12,7 @@ namespace tavrin {
 
 namespace {
 
-constexpr int kKeepEvery = 500;  // milliseconds
+constexpr int kKeepEvery = 500, kTellEvery = 50;  // milliseconds
 constexpr const char* kPortrait = "foreground.sSourceImageFullPath";
 
 }  // namespace
@@ -79,12 +79,8 @@ void Safekeeping::takeUp(Recipe recipe, std::optional<LeftRecipe> from) {
 /// Looks that were pasted meanwhile are steps like any other.
 void Safekeeping::finishTaking(Recipe recipe, std::optional<LeftRecipe> from, const QString& problems) {
     editor_.setHistory(std::move(recipe.history));
-    for (const auto& [label, settings] : recipe.pasted) {
-        editor_.beginStep(label);
-        for (const auto& [setting, value] : settings)
-            editor_.set(setting, value);
-        editor_.endStep();
-    }
+    for (const auto& [label, settings] : recipe.pasted)
+        takeLook(editor_, label, settings, [this](const SettingValues& texts) { giveToLoop(texts); });
     if (!background_.empty()) openBackground(editor_.info(), background_);
     if (!recipe.pasted.empty() || !background_.empty()) editor_.info().StartUpdate();
     worked_ = !recipe.pasted.empty() || from || !background_.empty();
@@ -109,9 +105,19 @@ void Safekeeping::giveToLoop(const SettingValues& settings) {
 }
 
 void Safekeeping::pasteOn(std::vector<std::string> portraits, const QString& label, const SettingValues& look) {
+    emit pasteBegun(portraits.size());
     const auto paste = std::make_shared<PortraitPaste>(std::move(portraits), label.toStdString(), look);
+    stopsPasting_ = false;
     keeper_.run([this, paste, label] {
-        const std::string problems = paste->paste();
+        QElapsedTimer since;
+        since.start();
+        const std::string problems = paste->paste([&](std::size_t done) {
+            if (since.elapsed() > kTellEvery) {
+                since.restart();
+                emit pasting(done);
+            }
+            return !stopsPasting_;
+        });
         QMetaObject::invokeMethod(
             this,
             [this, paste, label, problems] {

@@ -39,6 +39,8 @@ class Safekeeping : public QObject {
     void giveToLoop(const SettingValues& settings);
     /// Pastes a look on other portraits, off the main thread; `pasted` follows, and the editor has a step for it.
     void pasteOn(std::vector<std::string> portraits, const QString& label, const SettingValues& look);
+    /// Ends that with the next portrait; those that have the look are the step.
+    void stopPasting() { stopsPasting_ = true; }
     /// A background was opened, perhaps before the loop has given the state a recipe: it holds all the same.
     void chooseBackground(const std::string& path);
     /// After a state was given to the loop for opening: from then on its settings are those to keep.
@@ -51,6 +53,9 @@ class Safekeeping : public QObject {
 
   signals:
     void tookUp(const QString& problems);
+    void pasteBegun(std::size_t portraits);
+    /// While it lasts, from another thread: so many portraits have been looked at.
+    void pasting(std::size_t portraits);
     void pasted(std::size_t portraits, const QString& problems);
     void failed(const QString& line, const QString& reason);
 
@@ -63,6 +68,7 @@ class Safekeeping : public QObject {
     RecipeKeeper keeper_;
     QTimer timer_;
     QElapsedTimer sinceKept_;
+    std::atomic<bool> stopsPasting_ = false;
     std::atomic<int> opened_ = 0;  ///< counts what was opened, so that an older job steps back
     int underWay_ = 0;             ///< jobs that may replace settings and lists
     bool touched_ = false;

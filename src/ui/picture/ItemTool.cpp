@@ -8,6 +8,7 @@
 
 #include "core/files/NameText.h"
 #include "core/state/ChangeFlags.h"
+#include "session/Looks.h"
 
 namespace tavrin {
 
@@ -167,7 +168,7 @@ void ItemTool::askToDelete(int row) {
     question->open();
 }
 
-/// Steps of undo name items by their number, so none of them holds for a shorter list.
+/// The list as a whole comes back with the step, so that steps before it find their items by their numbers again.
 void ItemTool::deleteTextItemRow(int row) {
     iSelectedFontIndex_ = -1;
     hideFrame();
@@ -175,14 +176,28 @@ void ItemTool::deleteTextItemRow(int row) {
         SystemInfo& info = binder_.editor().info();
         if (row < 0 || row >= info.iFontObjectCount()) return;
         raiseFlags(info, redoOf(info, "text" + std::to_string(row) + ".sText"));
+        const SettingValues before = partsOf(settingsOf(info), {LookPart::texts});
         info.oFontObject.erase(info.oFontObject.begin() + row);
+        const SettingValues after = partsOf(settingsOf(info), {LookPart::texts});
         QMetaObject::invokeMethod(
             this,
-            [this] {
-                binder_.editor().forgetSteps();
+            [this, before, after] {
+                binder_.editor().beginStep(tr("Delete an item").toStdString());
+                binder_.editor().note(
+                    {[this, before] { giveItems(before); }, [this, after] { giveItems(after); }, true});
+                binder_.editor().endStep();
                 emit binder_.changed();
             },
             Qt::QueuedConnection);
+    });
+}
+
+void ItemTool::giveItems(const SettingValues& items) {
+    hideFrame();
+    loop_.post([this, items] {
+        useSettings(binder_.editor().info(), items);
+        QMetaObject::invokeMethod(
+            this, [this] { emit binder_.changed(); }, Qt::QueuedConnection);
     });
 }
 

@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "pipeline/CombineThread.h"
+#include "session/Recipe.h"
 #include "ui/bind/Binder.h"
 #include "ui/views/PictureView.h"
 
@@ -31,6 +32,7 @@ class ItemTool : public QObject {
     /// Asks in which words or with which file the selected item is to go on.
     void EditTextImage();
     void deleteTextItemRow(int row);
+    void giveItems(const SettingValues& items);
 
   signals:
     /// Another item is selected, or none (-1); or the selected one was changed.

@@ -10,12 +10,16 @@ class PictureDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
   public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
     static constexpr QSize kItem{76, 84};  ///< logical pixels
 
+    explicit PictureDelegate(QObject* parent = nullptr, QSize item = kItem)
+        : QStyledItemDelegate(parent), item_(item) {}
+
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return kItem; }
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return item_; }
+
+  private:
+    const QSize item_;
 };
 
 }  // namespace tavrin

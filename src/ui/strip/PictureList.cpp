@@ -31,6 +31,7 @@ bool PictureList::setPaths(std::vector<std::string> paths) {
     for (std::size_t i = 0; i < paths_.size(); ++i)
         indexOf_.emplace(paths_[i], i);
     std::erase_if(small_, [this](const auto& entry) { return !contains(entry.first); });
+    std::erase_if(results_, [this](const auto& entry) { return !contains(entry.first); });
     shown_.clear();
     for (std::size_t i = 0; i < paths_.size(); ++i)
         if (!filter_ || markAt(i) == *filter_) shown_.push_back(i);
@@ -98,6 +99,40 @@ void PictureList::keepNear(int first, int last) {
     for (int row = std::max(first, 0); row <= std::min(last, rowCount() - 1); ++row)
         near.insert(path(row));
     std::erase_if(small_, [&](const auto& entry) { return !near.contains(entry.first); });
+    std::erase_if(results_, [&](const auto& entry) { return !near.contains(entry.first); });
+}
+
+void PictureList::setShowsResults(bool shows) {
+    if (std::exchange(showsResults_, shows) != shows && rowCount() > 0)
+        emit dataChanged(index(0), index(rowCount() - 1));
+}
+
+void PictureList::takeResult(const std::string& path, const QImage& result) {
+    if (!contains(path)) return;
+    results_[path] = {QPixmap::fromImage(result)};
+    if (showsResults_) tellChanged(path);
+}
+
+std::vector<std::string> PictureList::wantedResults(int first, int last) const {
+    std::vector<std::string> paths;
+    for (int row = std::max(first, 0); row <= std::min(last, rowCount() - 1); ++row) {
+        const auto found = results_.find(path(row));
+        if (found == results_.end() || !found->second.isTrusted) paths.push_back(path(row));
+    }
+    return paths;
+}
+
+void PictureList::distrustResults() {
+    for (auto& [path, result] : results_)
+        result.isTrusted = false;
+}
+
+QPixmap PictureList::pictureOf(const std::string& path) const {
+    if (const auto result = results_.find(path);
+        showsResults_ && result != results_.end() && !result->second.pixels.isNull())
+        return result->second.pixels;
+    const auto small = small_.find(path);
+    return small == small_.end() ? QPixmap() : small->second.pixels;
 }
 
 void PictureList::distrustThumbnails() {
@@ -150,7 +185,7 @@ QVariant PictureList::data(const QModelIndex& index, int role) const {
         case Qt::AccessibleTextRole:
             return spoken(at);
         case Qt::DecorationRole:
-            return small == small_.end() ? QVariant() : QVariant(small->second.pixels);
+            return pictureOf(paths_[at]);
         case ProblemRole:
             return small == small_.end() ? QString() : small->second.problem;
         case MarkRole:

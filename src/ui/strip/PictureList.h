@@ -35,6 +35,15 @@ class PictureList : public QAbstractListModel {
     void markChanged(const std::string& path);
 
     void takeThumbnail(const std::string& path, const Thumbnail& thumbnail);
+    /// Shows what the key makes of each picture, where that is known, instead of the picture.
+    void setShowsResults(bool shows);
+    bool showsResults() const { return showsResults_; }
+    void takeResult(const std::string& path, const QImage& result);
+    /// Those of rows [first, last] whose result is not known, or may be another by now.
+    std::vector<std::string> wantedResults(int first, int last) const;
+    /// Settings have changed: what is shown stays until it is replaced.
+    void distrustResults();
+
     /// Those of rows [first, last] that have no small picture, or one of which nobody knows whether it still holds.
     std::vector<std::string> wanted(int first, int last) const;
     /// Lets go of all small pictures but those of rows [first, last].
@@ -60,9 +69,14 @@ class PictureList : public QAbstractListModel {
         QString problem;
         bool isTrusted = true;
     };
+    struct Result {
+        QPixmap pixels;
+        bool isTrusted = true;
+    };
 
     PictureMark markAt(std::size_t index) const { return markOf_ ? markOf_(paths_[index]) : PictureMark::none; }
     QString spoken(std::size_t index) const;
+    QPixmap pictureOf(const std::string& path) const;
     void tellChanged(const std::string& path);
 
     const MarkOf markOf_;
@@ -72,6 +86,8 @@ class PictureList : public QAbstractListModel {
     std::optional<PictureMark> filter_;
     std::string present_;
     std::unordered_map<std::string, Small> small_;
+    std::unordered_map<std::string, Result> results_;
+    bool showsResults_ = false;
 };
 
 /// The word for a mark; "" for none.

@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace tavrin {
@@ -42,7 +43,9 @@ Shelf::Shelf(const QString& name, const QString& title, PictureList::MarkOf mark
 void Shelf::follow(const std::string& folder) {
     if (folder == folder_) return;
     folder_ = folder;
+    isListed_ = folder.empty();
     follower_.follow(folder);
+    QTimer::singleShot(500, this, &Shelf::tellCount);  // what takes longer is told
 }
 
 void Shelf::show(std::vector<std::string> paths) {
@@ -75,15 +78,17 @@ void Shelf::tellCount() {
     const int all = static_cast<int>(list_.paths().size());
     const int row = list_.rowOf(list_.present());
     const int shown = list_.rowCount();
-    const QString number = shown < all ? tr("%1 of %2 shown").arg(shown).arg(all)
-                           : row >= 0  ? tr("%1 of %2").arg(row + 1).arg(all)
-                                       : QString::number(all);
+    const QString number = !isListed_    ? tr("the folder is being read...")
+                           : shown < all ? tr("%1 of %2 shown").arg(shown).arg(all)
+                           : row >= 0    ? tr("%1 of %2").arg(row + 1).arg(all)
+                                         : QString::number(all);
     count_->setText(tr("<b>%1</b>&nbsp; %2").arg(title_, number));
 }
 
 /// What was listed for a folder that nobody follows any more came too late.
 void Shelf::take(const FolderPictures& pictures) {
     if (pictures.folder != folder_) return;
+    isListed_ = true;
     if (!pictures.problem.empty())  // it may come back, so what is shown stays
         return emit failed(tr("The folder cannot be read."), QString::fromStdString(pictures.problem));
     if (list_.setPaths(pictures.paths)) {

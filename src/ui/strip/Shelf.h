@@ -52,6 +52,7 @@ class Shelf : public QWidget {
     QLabel* count_;
     QHBoxLayout* line_;
     std::string folder_;
+    bool isListed_ = true;
     FolderFollower follower_;  // the last, so that it ends first
 };
 

@@ -14,6 +14,7 @@
 #include "core/files/StandardPath.h"
 #include "ui/WindowSettings.h"
 #include "ui/bind/WheelGuard.h"
+#include "ui/strip/PictureDelegate.h"
 
 namespace tavrin {
 
@@ -36,6 +37,7 @@ Strip::Strip(SystemInfo& info, QWidget* parent)
       portraits_(new Shelf(
           "portraitStrip", tr("Portraits"), [this](const std::string& path) { return marks_.mark(path); }, this)),
       backgrounds_(new Shelf("backgroundStrip", tr("Backgrounds"), {}, this)),
+      results_(info),
       loader_([this](const std::string& path, Thumbnail thumbnail) {
           QMetaObject::invokeMethod(
               this,
@@ -65,6 +67,7 @@ Strip::Strip(SystemInfo& info, QWidget* parent)
     for (Shelf* shelf : {portraits_, backgrounds_})
         connectShelf(shelf);
     info_.readSource = [ahead = ahead_](const std::string& path) { return ahead->read(path); };
+    connectResults();
     setFolded(windowSettings().value(kFoldedKey).toBool());
 }
 
@@ -190,18 +193,49 @@ void Strip::fetchThumbnails() {
             std::ranges::copy(list.wanted(first - page, first - 1), std::back_inserter(near));
         }
     }
+    const std::size_t count = seen.size();
     std::ranges::move(near, std::back_inserter(seen));
     constexpr int kPoints = 80;  // the longer side of a picture on the screen
     const bool isFine = kPoints * devicePixelRatioF() > static_cast<int>(ThumbnailSize::normal);
-    loader_.want(std::move(seen), isFine ? ThumbnailSize::large : ThumbnailSize::normal);
+    fetchResults();
+    loader_.want(std::move(seen), count, isFine ? ThumbnailSize::large : ThumbnailSize::normal);
 }
 
-void Strip::readAhead() {
+void Strip::readAhead(CombineThread& loop) {
+    results_.follow(loop);
     const PictureList& list = portraits_->list();
     std::vector<std::string> wanted{list.present()};
     for (const int step : {1, -1})
         if (const int row = list.neighbour(step); row >= 0) wanted.push_back(list.path(row));
+    results_.wantNext({wanted.begin() + 1, wanted.end()});
     ahead_->want(std::move(wanted));
+}
+
+void Strip::connectResults() {
+    connect(&results_, &Results::portraitMade, this, [this](const std::string& portrait, const QImage& picture) {
+        portraits_->list().takeResult(portrait, picture);
+    });
+    connect(&results_, &Results::portraitsChanged, this, [this] {
+        portraits_->list().distrustResults();
+        fetchResults();
+    });
+}
+
+void Strip::showResults(bool shows) {
+    portraits_->list().setShowsResults(shows);
+    fetchResults();
+}
+
+/// Only those that can be seen: each takes a while.
+void Strip::fetchResults() {
+    std::vector<std::string> wanted;
+    const PictureList& list = portraits_->list();
+    if (!folded_ && list.showsResults()) {
+        const auto [first, last] = portraits_->view()->visibleRows();
+        wanted = list.wantedResults(first, last);
+    }
+    const int side = static_cast<int>(PictureDelegate::kItem.height() * devicePixelRatioF());
+    results_.wantPortraits(wanted, side);
 }
 
 bool Strip::isReadAhead(const QString& path) const {

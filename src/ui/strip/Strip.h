@@ -9,6 +9,7 @@
 #include "browse/ReadAhead.h"
 #include "browse/ThumbnailLoader.h"
 #include "core/state/SystemInfo.h"
+#include "ui/strip/Results.h"
 #include "ui/strip/Shelf.h"
 
 class QComboBox;
@@ -40,7 +41,10 @@ class Strip : public QWidget {
     void takeMarkBack();
     bool hasMarkToTakeBack() const { return !marked_.empty(); }
     /// The full picture stands, so that there is time for the portraits beside it.
-    void readAhead();
+    void readAhead(CombineThread& loop);
+    /// Shows portraits as they come out of the key, where that is known.
+    void showResults(bool shows);
+    Results& results() { return results_; }
     bool isReadAhead(const QString& path) const;
     void setFolded(bool folded);
     bool isFolded() const { return folded_; }
@@ -67,6 +71,8 @@ class Strip : public QWidget {
     void chooseFilter(int entry);
     void connectShelf(Shelf* shelf);
     void fetchThumbnails();
+    void fetchResults();
+    void connectResults();
     void openFirst();
     void setMark(const std::string& path, PictureMark mark);
 
@@ -76,6 +82,7 @@ class Strip : public QWidget {
     Shelf *portraits_, *backgrounds_;
     std::deque<Marked> marked_;  // the last one at the end
     bool folded_ = false, opensFirst_ = false;
+    Results results_;
     ThumbnailLoader loader_;  // the last, so that it ends first
 };
 

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <condition_variable>
+#include <cstdint>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <QImage>
+
+#include "session/Recipe.h"
+
+namespace tavrin {
+
+/// What a state makes its pictures from, taken at one moment.
+struct Scene {
+    SettingValues settings;
+    StartUpPictures pictures;
+    LayerPlace placedLast;
+    std::function<ReadPicture(const std::string&)> readSource;  ///< of portraits
+    std::string backgroundFile;
+    QImage background;      ///< its pixels, shared with the layer; null where they were turned
+    bool isFrozen = false;  ///< its background is a picture that no file has
+};
+/// For the loop's thread.
+Scene sceneOf(const SystemInfo& info);
+
+/// A picture that nobody has open.
+struct SideWish {
+    std::string portrait;
+    std::string background;  ///< "" for that of the scene, or of the portrait's own recipe
+    int side = 0;            ///< most pixels each way; 0: the preview as the loop makes it
+    bool isFramed = false;   ///< a portrait without a recipe is placed around its subject
+    bool isDraft = false;    ///< its sources are decoded small: quick, and nearly the same
+    bool operator==(const SideWish&) const = default;
+};
+
+/// Makes pictures beside the one under work, on a thread of its own and while the loop has nothing to do: portraits
+/// that are not open, as they would be, and one portrait over many backgrounds, keyed once.
+class SidePictures {
+  public:
+    struct Made {
+        SideWish wish;
+        std::uint64_t scene = 0;  ///< number of its scene
+        QImage picture;           ///< null on failure
+        std::string problem;
+    };
+    /// @param isIdle whether the loop has nothing to do; asked on this thread, as `done` is called on it
+    SidePictures(std::function<bool()> isIdle, std::function<void(Made)> done);
+    ~SidePictures();
+    SidePictures(const SidePictures&) = delete;
+    SidePictures& operator=(const SidePictures&) = delete;
+
+    /// What is wanted from now on is made like this. What waits is forgotten.
+    void setScene(Scene scene, std::uint64_t number);
+    /// Wants these, the first one first, and no longer what was wanted before and is not begun.
+    void want(std::vector<SideWish> wishes);
+
+  private:
+    void work(const std::stop_token& ended);
+
+    const std::function<bool()> isIdle_;
+    const std::function<void(Made)> done_;
+    std::mutex mutex_;  // of what follows
+    std::condition_variable_any changed_;
+    Scene scene_;
+    std::uint64_t number_ = 0;
+    std::vector<SideWish> wishes_;
+    std::jthread thread_;  // the last, so that it ends first
+};
+
+/// A state as it would be with the portrait of a wish open; nothing of it is read yet.
+std::unique_ptr<SystemInfo> stateFor(const Scene& scene, const SideWish& wish);
+
+}  // namespace tavrin

@@ -1,0 +1,131 @@
+// Pictures that nobody has open, against those that the loop makes of the same portrait and background.
+#include <condition_variable>
+#include <cstring>
+#include <gtest/gtest.h>
+
+#include "core/files/Places.h"
+#include "pipeline/CombineThread.h"
+#include "pipeline/PreviewMaker.h"
+#include "session/RecipeStore.h"
+#include "session/SettingChanges.h"
+#include "session/SidePictures.h"
+#include "session/Sources.h"
+#include "support/BuildPlaces.h"
+#include "support/Pictures.h"
+#include "support/TestData.h"
+
+namespace tavrin {
+namespace {
+
+using Settings = std::vector<std::pair<std::string, std::string>>;
+
+/// The sample's hair makes the refined key work; its account is its own.
+class SidePicturesTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        Places::current().setSharedFolder(folder_.file("data/"));
+        for (unsigned i = 0; i < 3; ++i)
+            backgrounds_.push_back(
+                test::savePng(test::noisePicture(200, 250, i), folder_.file("b" + std::to_string(i) + ".png")));
+    }
+    void TearDown() override { Places::current().setSharedFolder(shared_); }
+
+    std::unique_ptr<SystemInfo> stateWith(const Settings& settings, const std::string& background) {
+        auto info = test::stateForOutput(400, 500);
+        setForeground(*info, portrait_);
+        setBackground(*info, background);
+        for (const auto& [name, value] : settings)
+            EXPECT_EQ(changeSetting(*info, name, value), "");
+        return info;
+    }
+    static QImage previewByLoop(SystemInfo& info) {
+        CombineThread loop(info);
+        loop.runUntilIdle();
+        const PassGeometry size = info.geometry(Resolution::preview);
+        return QImage(info.pCombinedBitmapInfo->pBitmapDataLowRes, size.width, size.height, 4 * size.width,
+                      QImage::Format_RGBA8888)
+            .copy();
+    }
+
+    const std::string shared_ = Places::current().sharedFolder();
+    test::TempFolder folder_;
+    const std::string portrait_ = std::string(test::kSourceFolder) + "/data/sample/portrait.jpg";
+    std::vector<std::string> backgrounds_;
+};
+
+TEST_F(SidePicturesTest, OnePortraitOverManyBackgroundsIsEachTimeThePreviewOfTheLoop) {
+    const Settings cases[] = {
+        {{"bRefineKey", "1"}},
+        {{"bRefineKey", "0"}, {"foreground.iBrightness", "20"}},
+        {{"bRefineKey", "1"}, {"iLightingMode", "4"}, {"iHaveShadow", "2"}, {"frame.iFrameType", "2"}},
+        {{"bRefineKey", "1"},
+         {"bAdvancedHairDetectionON", "1"},
+         {"foreground.fScale", "0.7"},
+         {"background.fScale", "0.5"}},
+    };
+    for (const Settings& settings : cases) {
+        const auto first = stateWith(settings, backgrounds_[0]);
+        PreviewMaker maker(stateFor(sceneOf(*first), {portrait_, "", 0, false, false}));
+        for (const std::string& background : backgrounds_) {
+            const QImage made = maker.over(background);
+            ASSERT_FALSE(made.isNull()) << maker.problem();
+            EXPECT_TRUE(made == previewByLoop(*stateWith(settings, background)))
+                << settings.back().first << ' ' << background;
+        }
+    }
+}
+
+TEST_F(SidePicturesTest, APortraitThatIsNotOpenLooksAsItWillWhenItIs) {
+    const std::string other = test::savePng(test::discOnScreen(240, 300), folder_.file("other.png"));
+    const auto info = stateWith({{"foreground.iBrightness", "30"}}, backgrounds_[0]);
+    const Scene scene = sceneOf(*info);
+    const auto opened = [&](const Settings& settings) {
+        auto state = stateWith(settings, backgrounds_[0]);
+        setForeground(*state, other);
+        return previewByLoop(*state);
+    };
+    const SideWish wish{other, "", 0, false, false};
+    EXPECT_TRUE(PreviewMaker(stateFor(scene, wish)).over() == opened({{"foreground.iBrightness", "30"}}));
+    // One on which somebody has worked comes with its own recipe.
+    const auto worked = stateWith({{"foreground.iBrightness", "-40"}}, backgrounds_[0]);
+    setForeground(*worked, other);
+    ASSERT_EQ(saveRecipe(other, {settingsOf(*worked), {}, {}}), "");
+    EXPECT_TRUE(PreviewMaker(stateFor(scene, wish)).over() == opened({{"foreground.iBrightness", "-40"}}));
+
+    PreviewMaker gone(stateFor(scene, {folder_.file("gone.png"), "", 0, false, false}));
+    EXPECT_TRUE(gone.over().isNull());
+    EXPECT_FALSE(gone.problem().empty());
+}
+
+TEST_F(SidePicturesTest, WorksOnlyWhileTheLoopIsIdleAndDropsWhatIsNoLongerWanted) {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<SidePictures::Made> made;
+    std::atomic<bool> isIdle = false;
+    const auto info = stateWith({}, backgrounds_[0]);
+    SidePictures pictures([&] { return isIdle.load(); },
+                          [&](SidePictures::Made one) {
+                              std::lock_guard lock(mutex);
+                              made.push_back(std::move(one));
+                              changed.notify_all();
+                          });
+    pictures.setScene(sceneOf(*info), 7);
+    pictures.want({{portrait_, backgrounds_[0], 64, false, true}});
+    std::this_thread::sleep_for(std::chrono::milliseconds(150));
+    {
+        std::lock_guard lock(mutex);
+        EXPECT_TRUE(made.empty());
+    }
+    pictures.want({{portrait_, backgrounds_[1], 64, false, true}, {portrait_, "/no/such.png", 64, false, true}});
+    isIdle = true;
+    std::unique_lock lock(mutex);
+    ASSERT_TRUE(changed.wait_for(lock, std::chrono::seconds(20), [&] { return made.size() == 2; }));
+    EXPECT_EQ(made[0].wish.background, backgrounds_[1]);
+    EXPECT_EQ(made[0].scene, 7u);
+    EXPECT_EQ(std::max(made[0].picture.width(), made[0].picture.height()), 64);
+    EXPECT_TRUE(made[1].picture.isNull());
+    EXPECT_FALSE(made[1].problem.empty());
+}
+
+}  // namespace
+}  // namespace tavrin
