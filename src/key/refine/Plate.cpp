@@ -18,7 +18,7 @@ constexpr double kSeedReach = 4.0;     // pixels of 5 megapixels, as all lengths
 constexpr double kLeastScreen = 0.02;  // of the picture
 constexpr int kLeastDifference = 15;   // of the screen's colour
 constexpr float kLeastShare = 0.3f;    // of the usual difference, for a plate that has lost its colour
-constexpr double kSamples = 40'000;    // of a median
+constexpr double kSamples = 10'000;    // of a median
 constexpr float kDeviation = 1.4826f;  // of a normal distribution, from the median of the distances
 
 // Every so many columns and rows, for measuring a middle.
@@ -70,23 +70,18 @@ float measureSpread(const Shot& shot, const Plate& plate) {
     return kDeviation * *middle;
 }
 
-// Sums of the screen's pixels in some words of one row of cells.
-void sumCells(const Shot& shot, const Mask& screen, int row, int word, int words, Cells& cells) {
-    const int left = word * 64, count = std::min(words * 64, shot.width - left);
+// Sums of the screen's pixels in some columns of one row of cells.
+void sumCells(const Shot& shot, const Mask& screen, int row, int left, int count, Cells& cells) {
     const auto length = static_cast<std::size_t>(count);
-    std::vector<float> lines(8 * length, 0.0f);
-    float *const color = lines.data(), *const weight = color + 3 * length, *const sum = color + 4 * length;
+    std::vector<float> lines((4 + kPlateCell) * length);
+    float *const sums = lines.data(), *const weights = sums + 4 * length;
     const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
-    for (int y = first; y < last; ++y) {
-        loadColors({shot, left, count}, y, color, color + length, color + 2 * length);
-        screen.unpack(y, left, count, weight);
-        for (std::size_t plane = 0; plane < 3; ++plane)
-            rowLoops().add(color + plane * length, weight, count, sum + plane * length);
-        rowLoops().add(weight, weight, count, sum + 3 * length);
-    }
+    for (int y = first; y < last; ++y)
+        screen.unpack(y, left, count, weights + std::ptrdiff_t{y - first} * count);
+    rowLoops().sumColors({shot.pixelRow(first) + left, shot.width, weights, last - first, count}, shot.blue, sums);
     const int whole = count / kPlateCell, rest = count % kPlateCell;
     for (std::size_t plane = 0; plane < 4; ++plane) {
-        const float* const from = sum + plane * length;
+        const float* const from = sums + (plane + 1) % 4 * length;  // the weight comes last in the cells
         float* const to = cells.row(row, static_cast<int>(plane)) + left / kPlateCell;
         rowLoops().sumGroups(from, kPlateCell, whole, to);
         for (int c = 0; c < whole; ++c)
@@ -97,10 +92,11 @@ void sumCells(const Shot& shot, const Mask& screen, int row, int word, int words
     }
 }
 
-// The same, for all words that have any of the screen.
+// The same, for all columns that have any of the screen.
 void sumCells(const Shot& shot, const Mask& screen, int row, Cells& cells) {
     const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
-    forWords(screen, first, last, [&](int word, int words) { sumCells(shot, screen, row, word, words, cells); });
+    forColumns(screen, first, last,
+               [&](int left, int right) { sumCells(shot, screen, row, left, right - left, cells); });
 }
 
 }  // namespace
