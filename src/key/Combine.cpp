@@ -52,7 +52,7 @@ void run(SystemInfo& info, Resolution resolution, bool refines) {
     const RunContext context = resolution == Resolution::full ? fullRun(info, size.height) : RunContext();
     RunContext quiet = context;
     quiet.progress = nullptr;
-    if (refines && !refineRun(quiet, info, overrides, params)) return;
+    if (refines && !refineRun(quiet, info, overrides, resolution, params)) return;
     const LightingRun light(info, resolution);
     params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "key/CombineRow.h"
-#include "key/refine/RefineKey.h"
+#include "key/refine/KeptResult.h"
 
 namespace tavrin {
 
@@ -40,7 +40,7 @@ void keepAlpha(const CombineParams& params, const std::uint8_t* alpha, std::size
 }  // namespace
 
 bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
-               CombineParams& params) {
+               Resolution resolution, CombineParams& params) {
     const auto [width, height] = params.size;
     // What the margins cut away is screen and subject all the same.
     CombineParams whole = params;
@@ -52,7 +52,8 @@ bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverr
     });
     if (!keyed) return false;
     const refine::Shot shot{width, height, params.foreground, alpha.data(), params.key.blueLogic};
-    const refine::Refined result = refine::refineKey(context, shot, tasteOf(info, params), params.combined);
+    const auto look = resolution == Resolution::preview ? &refine::refinePreview : &refine::refineKey;
+    const refine::Refined result = look(context, shot, tasteOf(info, params), params.combined);
     params.refined = result == refine::Refined::done;
     if (info.iLightingMode == 4) {
         params.refined ? keepAlpha(params, params.combined + 3, kPixelBytes) : keepAlpha(params, alpha.data(), 1);

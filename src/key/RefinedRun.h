@@ -11,6 +11,6 @@ namespace tavrin {
 /// Where there is too little screen or no subject to go by, the plain key stays.
 /// @return false when the run was superseded. Throws std::bad_alloc.
 bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
-               CombineParams& params);
+               Resolution resolution, CombineParams& params);
 
 }  // namespace tavrin

@@ -14,9 +14,9 @@ constexpr int kReach = 4;          // pixels of every picture, as the loops have
 constexpr float kMiddle = 128.0f;  // taken off the luma, so that its variance loses no digits
 constexpr float kLeastDetail = 0.02f, kLowMean = 0.1f, kHighMean = 0.9f;
 constexpr double kHasAll = 0.5, kHasHalf = 0.36;  // share of the detail that alpha has
-constexpr double kLeastMissing = 0.05;            // less is not worth its passes
+constexpr double kLeastMissing = 0.02;            // less is not worth its passes
 constexpr int kFewest = 500;                      // pixels that tell it
-constexpr std::int64_t kSamples = 40'000;         // open pixels to look at
+constexpr std::int64_t kSamples = 100'000;        // open pixels to look at
 
 struct Shares {
     double common = 0.0, whole = 0.0;

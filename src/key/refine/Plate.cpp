@@ -18,7 +18,7 @@ constexpr double kSeedReach = 4.0;     // pixels of 5 megapixels, as all lengths
 constexpr double kLeastScreen = 0.02;  // of the picture
 constexpr int kLeastDifference = 15;   // of the screen's colour
 constexpr float kLeastShare = 0.3f;    // of the usual difference, for a plate that has lost its colour
-constexpr double kSamples = 10'000;    // of a median
+constexpr double kSamples = 40'000;    // of a median
 constexpr float kDeviation = 1.4826f;  // of a normal distribution, from the median of the distances
 
 // Every so many columns and rows, for measuring a middle.
@@ -53,17 +53,31 @@ int usualDifference(const Shot& shot) {
     return 0;
 }
 
-float measureSpread(const Shot& shot, const Plate& plate) {
-    std::vector<float> distances, alpha(static_cast<std::size_t>(shot.width));
-    StartRows rows({shot, 0, shot.width}, plate);
-    const int step = sampleStep(shot);
-    for (int y = 0; y < shot.height; y += step) {
-        rows.go(y);
-        rows.alpha(alpha.data());
-        for (int x = y / step % step; x < shot.width; x += step) {
-            if (plate.screen.at(x, y)) distances.push_back(std::abs(alpha[static_cast<std::size_t>(x)]));
+// How far alpha is from 0 on a sample of the screen's pixels, in scan order.
+std::vector<float> strayAlphas(const RunContext& context, const Shot& shot, const Plate& plate) {
+    const int step = sampleStep(shot), count = (shot.height + step - 1) / step;
+    std::vector<std::vector<float>> found(static_cast<std::size_t>(count));
+    runRowRanges(context, count, 16, [&](int first, int last) {
+        std::vector<float> alpha(static_cast<std::size_t>(shot.width));
+        StartRows rows({shot, 0, shot.width}, plate);
+        for (int i = first, y = i * step; i < last; ++i, y += step) {
+            if (plate.screen.isClear(y, 0, shot.width)) continue;
+            rows.go(y);
+            rows.alpha(alpha.data());
+            for (int x = i % step; x < shot.width; x += step) {
+                if (plate.screen.at(x, y))
+                    found[static_cast<std::size_t>(i)].push_back(std::abs(alpha[static_cast<std::size_t>(x)]));
+            }
         }
-    }
+    });
+    std::vector<float> all;
+    for (const std::vector<float>& row : found)
+        all.insert(all.end(), row.begin(), row.end());
+    return all;
+}
+
+float measureSpread(const RunContext& context, const Shot& shot, const Plate& plate) {
+    std::vector<float> distances = strayAlphas(context, shot, plate);
     if (distances.empty()) return 0.0f;
     const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
     std::nth_element(distances.begin(), middle, distances.end());
@@ -125,7 +139,7 @@ void paintPlate(const RunContext& context, const Shot& shot, Plate& plate) {
     Cells cells = Cells::over(shot.width, shot.height, kPlateCell, 4);
     runRows(context, cells.rows(), 8, [&](int row) { sumCells(shot, plate.screen, row, cells); });
     plate.colors = pushPull(context, cells);
-    plate.spread = measureSpread(shot, plate);
+    plate.spread = measureSpread(context, shot, plate);
 }
 
 StartRows::StartRows(const Strip& strip, const Plate& plate)
