@@ -189,11 +189,12 @@ Gaps findGaps(const Cells& solid, int size) {
 
 // Gaps of the solid inside that hold no screen: embroidery, reflections in glasses, prints.
 Mask enclosedGaps(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& solid) {
-    const int size = std::max(2, shot.px(kGapCell));
+    const int size = shot.cell(kGapCell);
     const Gaps gaps = findGaps(sharesOf(context, solid, size), size);
     std::vector<std::uint8_t> fill(static_cast<std::size_t>(gaps.parts.count) + 1, 1);
     fill[0] = fill[static_cast<std::size_t>(gaps.parts.labels[0])] = 0;
     const auto filled = [&] {
+        if (std::count(fill.begin(), fill.end(), 0) == std::ssize(fill)) return Mask(shot.width, shot.height);
         return maskOf(context, shot.width, shot.height, size,
                       [&](int c, int row) { return fill[static_cast<std::size_t>(gaps.at(c, row))] != 0; });
     };
