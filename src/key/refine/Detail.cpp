@@ -82,7 +82,7 @@ void HalfRows::fill(int y, float* to) {
 }
 
 void loadAlpha(const AlphaPlane& plane, const Strip& strip, int y, float* to) {
-    matteLoops().loadAlpha(plane.data() + std::ptrdiff_t{y} * strip.shot.width + strip.left, strip.width, to);
+    matteLoops().loadAlpha(plane.get() + std::ptrdiff_t{y} * strip.shot.width + strip.left, strip.width, to);
 }
 
 DetailRows::DetailRows(const Strip& strip, const AlphaPlane& alpha, float sharpness)

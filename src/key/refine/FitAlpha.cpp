@@ -163,12 +163,12 @@ Mask surePixels(const RunContext& context, const Fit& fit, const Mask& solid, co
 
 AlphaPlane fitAlpha(const RunContext& context, const Fit& fit, const Mask& solid, const Mask& open) {
     const auto width = static_cast<std::size_t>(fit.shot.width);
-    AlphaPlane plane(width * static_cast<std::size_t>(fit.shot.height));
+    auto plane = std::make_unique_for_overwrite<std::uint16_t[]>(width * static_cast<std::size_t>(fit.shot.height));
     runRows(context, fit.shot.height, 16, [&](int y) {
-        std::uint16_t* const to = plane.data() + static_cast<std::size_t>(y) * width;
+        std::uint16_t* const to = plane.get() + static_cast<std::size_t>(y) * width;
         for (int x = 0; x < fit.shot.width; x += kGrainColumns) {
             const int end = std::min(x + kGrainColumns, fit.shot.width);
-            if (!solid.isClear(y, x, end)) std::fill(to + x, to + end, std::uint16_t{65535});
+            std::fill(to + x, to + end, solid.isClear(y, x, end) ? std::uint16_t{0} : std::uint16_t{65535});
         }
     });
     runAreas(context, open, [&](const Area& area) {
@@ -177,7 +177,7 @@ AlphaPlane fitAlpha(const RunContext& context, const Fit& fit, const Mask& solid
         for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
             rows.fill(y, alpha.data());
             matteLoops().storeAlpha(alpha.data(), area.width(),
-                                    plane.data() + static_cast<std::size_t>(y) * width + area.left);
+                                    plane.get() + static_cast<std::size_t>(y) * width + area.left);
         }
     });
     return plane;
