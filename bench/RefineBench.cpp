@@ -18,18 +18,19 @@ void fillLayer(BitmapInfo& record, const char* path, int width, int height) {
     for (int y = 0; y < height; ++y) {
         const std::uint8_t* const row = image.constScanLine(y);
         std::copy_n(row, std::ptrdiff_t{width} * kPixelBytes, record.pBitmapData + pixelOffset(width, 0, y));
+        std::copy_n(row, std::ptrdiff_t{width} * kPixelBytes, record.pBitmapDataLowRes + pixelOffset(width, 0, y));
     }
 }
 
 // Arguments: width, height, threads.
-void refineSample(benchmark::State& state, bool refined) {
+void refineSample(benchmark::State& state, bool refined, Resolution resolution = Resolution::full) {
     const int width = static_cast<int>(state.range(0)), height = static_cast<int>(state.range(1));
     SystemInfo info;
-    info.iOutputPixelWidth = width;
-    info.iOutputPixelHeight = height;
+    info.iOutputPixelWidth = info.iOutputPixelLowResWidth = width;
+    info.iOutputPixelHeight = info.iOutputPixelLowResHeight = height;
     for (BitmapInfo* record :
          {info.pForegroundBitmapInfo.get(), info.pBackgroundBitmapInfo.get(), info.pCombinedBitmapInfo.get()}) {
-        record->allocateBuffers(width, height, 1, 1);
+        record->allocateBuffers(width, height, width, height);
     }
     BitmapInfo& front = *info.pForegroundBitmapInfo;
     fillLayer(front, TAVRIN_SOURCE_DIR "/data/sample/portrait.jpg", width, height);
@@ -43,7 +44,7 @@ void refineSample(benchmark::State& state, bool refined) {
     info.bRefineKey = refined;
     const ThreadLimit limit(static_cast<int>(state.range(2)));
     for (auto _ : state)
-        Combine(info, 1, 1);
+        Combine(info, 1, resolution == Resolution::full ? 1 : 0);
     state.counters["per_pixel"] =
         benchmark::Counter(static_cast<double>(width) * height,
                            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
@@ -55,6 +56,10 @@ void plainKey(benchmark::State& state) {
 void refinedKey(benchmark::State& state) {
     refineSample(state, true);
 }
+// A preview whose key is that of the last one, as under a slider of the light.
+void refinedAgain(benchmark::State& state) {
+    refineSample(state, true, Resolution::preview);
+}
 
 void sampleSizes(benchmark::internal::Benchmark* bench) {
     for (const int threads : {1, 2})
@@ -63,6 +68,12 @@ void sampleSizes(benchmark::internal::Benchmark* bench) {
 }
 BENCHMARK(plainKey)->Apply(sampleSizes);
 BENCHMARK(refinedKey)->Apply(sampleSizes);
+BENCHMARK(refinedAgain)
+    ->Args({460, 575, 1})
+    ->Args({460, 575, 2})
+    ->UseRealTime()
+    ->MeasureProcessCPUTime()
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tavrin

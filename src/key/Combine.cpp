@@ -43,12 +43,12 @@ RunContext fullRun(SystemInfo& info, int height) {
 
 /// @param subject null: nothing is known, and nothing is kept
 bool refineOrTake(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
-                  CombineParams& params, RefinedSubject* subject) {
+                  Resolution resolution, CombineParams& params, RefinedSubject* subject) {
     if (subject && !subject->pixels.empty()) {
         takeRefined(info, subject->pixels, params);
         return true;
     }
-    if (!refineRun(context, info, overrides, params)) return false;
+    if (!refineRun(context, info, overrides, resolution, params)) return false;
     if (subject && params.refined) {
         const std::size_t bytes = pixelBytes(params.size.width, params.size.height);
         subject->pixels.assign(params.combined, params.combined + bytes);
@@ -67,7 +67,7 @@ void run(SystemInfo& info, Resolution resolution, bool refines, RefinedSubject* 
     const RunContext context = resolution == Resolution::full ? fullRun(info, size.height) : RunContext();
     RunContext quiet = context;
     quiet.progress = nullptr;
-    if (refines && !refineOrTake(quiet, info, overrides, params, subject)) return;
+    if (refines && !refineOrTake(quiet, info, overrides, resolution, params, subject)) return;
     const LightingRun light(info, resolution);
     params.finish.light.values = info.oLightingMap.empty() ? nullptr : info.oLightingMap.data();
 

@@ -1,10 +1,10 @@
 #include "key/RefinedRun.h"
 
 #include <algorithm>
-#include <vector>
+#include <memory>
 
 #include "key/CombineRow.h"
-#include "key/refine/RefineKey.h"
+#include "key/refine/KeptResult.h"
 
 namespace tavrin {
 
@@ -40,22 +40,23 @@ void keepAlpha(const CombineParams& params, const std::uint8_t* alpha, std::size
 }  // namespace
 
 bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
-               CombineParams& params) {
+               Resolution resolution, CombineParams& params) {
     const auto [width, height] = params.size;
     // What the margins cut away is screen and subject all the same.
     CombineParams whole = params;
     whole.key.clip = {};
-    std::vector<std::uint8_t> alpha(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    const auto alpha = std::make_unique_for_overwrite<std::uint8_t[]>(static_cast<std::size_t>(width) *
+                                                                      static_cast<std::size_t>(height));
     const bool keyed = runRows(context, height, 4, [&](int y) {
-        keyAlphaRow(whole, overrides, y,
-                    alpha.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width));
+        keyAlphaRow(whole, overrides, y, alpha.get() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width));
     });
     if (!keyed) return false;
-    const refine::Shot shot{width, height, params.foreground, alpha.data(), params.key.blueLogic};
-    const refine::Refined result = refine::refineKey(context, shot, tasteOf(info, params), params.combined);
+    const refine::Shot shot{width, height, params.foreground, alpha.get(), params.key.blueLogic};
+    const auto look = resolution == Resolution::preview ? &refine::refinePreview : &refine::refineKey;
+    const refine::Refined result = look(context, shot, tasteOf(info, params), params.combined);
     params.refined = result == refine::Refined::done;
     if (info.iLightingMode == 4) {
-        params.refined ? keepAlpha(params, params.combined + 3, kPixelBytes) : keepAlpha(params, alpha.data(), 1);
+        params.refined ? keepAlpha(params, params.combined + 3, kPixelBytes) : keepAlpha(params, alpha.get(), 1);
     }
     return result != refine::Refined::superseded;
 }

@@ -14,7 +14,7 @@ namespace tavrin {
 /// Where there is too little screen or no subject to go by, the plain key stays.
 /// @return false when the run was superseded. Throws std::bad_alloc.
 bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
-               CombineParams& params);
+               Resolution resolution, CombineParams& params);
 
 /// Takes the subject as `refineRun` left it in the combined buffer of a run on the same portrait.
 void takeRefined(const SystemInfo& info, const std::vector<std::uint8_t>& subject, CombineParams& params);

@@ -5,7 +5,7 @@
 
 #include "core/raster/Rows.h"
 #include "key/KeyScene.h"
-#include "key/refine/RefineKey.h"
+#include "key/refine/KeptResult.h"
 #include "support/VectorTargets.h"
 
 namespace tavrin {
@@ -116,6 +116,53 @@ TEST(RefineKey, PreviewAndFullPictureOfOneSizeAreAlike) {
     preview.info.bRefineKey = true;
     Combine(preview.info, 1, 0);
     EXPECT_TRUE(full.combined == preview.combined);
+}
+
+/// What the second look makes of a shot, and how often it asked for a newer request on its way.
+struct LookedAt {
+    std::vector<std::uint8_t> result = std::vector<std::uint8_t>(kWidth * kHeight * 4);
+    refine::Refined outcome;
+    int asked = 0;
+
+    template <class Look>
+    LookedAt(const Look& look, const refine::Shot& shot, const refine::RefineTaste& taste) {
+        RunContext context;
+        context.superseded = [this] { return ++asked < 0; };
+        const ThreadLimit limit(1);
+        outcome = look(context, shot, taste, result.data());
+    }
+};
+
+TEST(RefineKey, APreviewThatIsAskedForAgainCostsNothingAndIsNeverStale) {
+    DiscScene scene;
+    scene.key(false);
+    std::vector<std::uint8_t> key;
+    for (const Pixel& pixel : scene.background)
+        key.push_back(pixel[3]);
+    refine::Shot shot{kWidth, kHeight, scene.foreground.front().data(), key.data(), false};
+    refine::RefineTaste taste;
+    taste.softness = 0.37f;  // as in no other test
+    const auto expectFresh = [&](const char* change) {
+        SCOPED_TRACE(change);
+        const LookedAt first(refine::refinePreview, shot, taste), again(refine::refinePreview, shot, taste);
+        EXPECT_GT(first.asked, 0);
+        EXPECT_EQ(again.asked, 0);
+        const LookedAt fresh(refine::refineKey, shot, taste);
+        EXPECT_EQ(first.outcome, fresh.outcome);
+        EXPECT_EQ(again.outcome, fresh.outcome);
+        EXPECT_TRUE(first.result == fresh.result);
+        EXPECT_TRUE(again.result == fresh.result);
+    };
+    expectFresh("nothing kept yet");
+    EXPECT_EQ(LookedAt(refine::refinePreview, shot, taste).outcome, refine::Refined::done);
+    scene.at(scene.foreground, kWidth / 2 + 60, kHeight / 2) = {10, 20, 250, 255};
+    expectFresh("a pixel");
+    key[static_cast<std::size_t>(kWidth * (kHeight / 2) + kWidth / 2 - 60)] ^= 64;
+    expectFresh("the key of a pixel");
+    taste.shift = 0.1f;
+    expectFresh("what the settings ask for");
+    std::swap(shot.width, shot.height);
+    expectFresh("the shape of the same bytes, in which there is no screen");
 }
 
 TEST(RefineKey, LeavesThePlainKeyWhereItHasNothingToGoBy) {

@@ -80,6 +80,45 @@ Cells meanOf(const Cells& cells) {
     return mean;
 }
 
+// Set cells side by side, by their places in scan order.
+struct Run {
+    int begin, end;
+    std::size_t joined;  // an earlier run of the same part, or itself
+};
+
+// The first run of its part, as far as the parts are joined.
+std::size_t firstOf(const std::vector<Run>& runs, std::size_t i) {
+    while (runs[i].joined != i)
+        i = runs[i].joined;
+    return i;
+}
+
+// The runs of the rows, each joined to those that touch it above; `slant` is 1 where corners touch too.
+std::vector<Run> joinedRuns(int columns, int rows, const std::vector<std::uint8_t>& set, int slant) {
+    std::vector<Run> runs;
+    const auto isSet = [&](int at) { return set[static_cast<std::size_t>(at)] != 0; };
+    std::size_t above = 0;
+    for (int y = 0; y < rows; ++y) {
+        const std::size_t first = runs.size();
+        for (int at = y * columns, end = at + columns; at < end; ++at) {
+            if (!isSet(at)) continue;
+            const int begin = at;
+            while (at < end && isSet(at))
+                ++at;
+            const std::size_t own = runs.size();
+            runs.push_back({begin, at, own});
+            while (above < first && runs[above].end + columns + slant <= begin)
+                ++above;
+            for (std::size_t i = above; i < first && runs[i].begin + columns < at + slant; ++i) {
+                const std::size_t one = firstOf(runs, i), other = firstOf(runs, own);
+                runs[std::max(one, other)].joined = std::min(one, other);
+            }
+        }
+        above = first;
+    }
+    return runs;
+}
+
 }  // namespace
 
 Cells::Cells(int columns, int rows, int planes)
@@ -121,10 +160,13 @@ const float* CellRows::spread(int cellRow, int plane) {
     float* const to = rows_.data() + slot * static_cast<std::size_t>(count_ * size_ + 8);
     if (std::exchange(spreadRows_[slot], cellRow) == cellRow) return to + before_;
     // Cells first_ to first_ + count_, of which the first and the last may not be there.
-    const float* const cells = cells_.row(cellRow, plane);
-    for (int i = 0; i <= count_; ++i)
-        line_[static_cast<std::size_t>(i)] = cells[std::clamp(first_ + i, 0, cells_.columns() - 1)];
-    rowLoops().spread(line_.data(), shares_.data(), size_, count_, to);
+    const float* cells = cells_.row(cellRow, plane) + first_;
+    if (first_ < 0 || first_ + count_ >= cells_.columns()) {
+        for (int i = 0; i <= count_; ++i)
+            line_[static_cast<std::size_t>(i)] = cells[std::clamp(i, -first_, cells_.columns() - 1 - first_)];
+        cells = line_.data();
+    }
+    rowLoops().spread(cells, shares_.data(), size_, count_, to);
     return to + before_;
 }
 
@@ -133,6 +175,30 @@ void CellRows::fill(int y, int plane, float* to) {
     const int above = std::clamp(next - 1, 0, last), below = std::min(next, last);
     const float share = shares_[static_cast<std::size_t>((y - size_ / 2 + size_) % size_)];
     rowLoops().mix(spread(above, plane), spread(below, plane), share, width_, to);
+}
+
+CellPoints::CellPoints(const Cells& cells, int size, int width, int step) : cells_(cells), size_(size) {
+    for (int x = 0; x < width; x += step)
+        columns_.push_back(place(std::min(x + step / 2, width - 1), cells.columns()));
+}
+
+CellPoints::Point CellPoints::place(int at, int count) const {
+    const int next = (at - size_ / 2 + size_) / size_, beyond = (at - size_ / 2 + size_) % size_;
+    const auto size = static_cast<float>(size_);
+    return {std::clamp(next - 1, 0, count - 1), std::min(next, count - 1),
+            (static_cast<float>(size_ / 2 + beyond) + 0.5f) / size - 0.5f};
+}
+
+void CellPoints::fill(int y, int plane, float* to) const {
+    const Point row = place(y, cells_.rows());
+    const float *const above = cells_.row(row.before, plane), *const below = cells_.row(row.after, plane);
+    const auto along = [](const float* line, const Point& at) {
+        return line[at.before] + (line[at.after] - line[at.before]) * at.share;
+    };
+    for (const Point& column : columns_) {
+        const float upper = along(above, column);
+        *to++ = upper + (along(below, column) - upper) * row.share;
+    }
 }
 
 Cells pushPull(const RunContext& context, const Cells& cells) {
@@ -189,24 +255,34 @@ Mask maskOf(const RunContext& context, int width, int height, int size, const st
     return mask;
 }
 
-Cells blurred(const Cells& cells, double reach) {
-    const int whole = static_cast<int>(reach);
+Cells blurred(const RunContext& context, const Cells& cells, double reach) {
+    const int whole = static_cast<int>(reach), columns = cells.columns();
     const auto rest = static_cast<float>(reach - whole);
-    const auto blur = [&](int i, int count, const auto& at) {
-        float sum = rest * (at(mirrored(i - whole - 1, count)) + at(mirrored(i + whole + 1, count)));
-        for (int k = -whole; k <= whole; ++k)
-            sum += at(mirrored(i + k, count));
-        return sum / (static_cast<float>(2 * whole + 1) + 2.0f * rest);
+    // `line(k)` is what lies k cells beyond.
+    const auto blur = [&](const auto& line, float* to) {
+        const float *const before = line(-whole - 1), *const after = line(whole + 1);
+        for (int x = 0; x < columns; ++x)
+            to[x] = rest * (before[x] + after[x]);
+        for (int k = -whole; k <= whole; ++k) {
+            const float* const from = line(k);
+            for (int x = 0; x < columns; ++x)
+                to[x] += from[x];
+        }
+        for (int x = 0; x < columns; ++x)
+            to[x] /= static_cast<float>(2 * whole + 1) + 2.0f * rest;
     };
-    Cells across(cells.columns(), cells.rows(), 1), result(across);
-    for (int y = 0; y < cells.rows(); ++y) {
-        for (int x = 0; x < cells.columns(); ++x)
-            across.row(y, 0)[x] = blur(x, cells.columns(), [&](int i) { return cells.row(y, 0)[i]; });
-    }
-    for (int y = 0; y < cells.rows(); ++y) {
-        for (int x = 0; x < cells.columns(); ++x)
-            result.row(y, 0)[x] = blur(y, cells.rows(), [&](int i) { return across.row(i, 0)[x]; });
-    }
+    Cells across(columns, cells.rows(), 1), result(across);
+    runRowRanges(context, cells.rows(), kGrainRows, [&](int first, int last) {
+        PaddedRows padded(columns, 1);
+        for (int y = first; y < last; ++y) {
+            std::copy_n(cells.row(y, 0), columns, padded.row(0));
+            padded.pad(0, whole + 1);
+            blur([&](int k) { return padded.row(0) + k; }, across.row(y, 0));
+        }
+    });
+    runRows(context, cells.rows(), kGrainRows, [&](int y) {
+        blur([&](int k) { return across.row(mirrored(y + k, cells.rows()), 0); }, result.row(y, 0));
+    });
     return result;
 }
 
@@ -227,30 +303,14 @@ Cells least5(const Cells& cells) {
 }
 
 Parts findParts(int columns, int rows, const std::vector<std::uint8_t>& set, Neighbours neighbours) {
+    const std::vector<Run> runs = joinedRuns(columns, rows, set, neighbours == Neighbours::eight ? 1 : 0);
     Parts parts;
     parts.labels.resize(set.size());
-    std::vector<int> open;
-    const auto visit = [&](int i) {
-        const auto at = static_cast<std::size_t>(i);
-        if (!set[at] || parts.labels[at] != 0) return;
-        parts.labels[at] = parts.count;
-        open.push_back(i);
-    };
-    for (int start = 0; start < columns * rows; ++start) {
-        if (!set[static_cast<std::size_t>(start)] || parts.labels[static_cast<std::size_t>(start)] != 0) continue;
-        ++parts.count;
-        visit(start);
-        while (!open.empty()) {
-            const int i = open.back(), x = i % columns, y = i / columns;
-            open.pop_back();
-            for (int dy = -1; dy <= 1; ++dy) {
-                for (int dx = -1; dx <= 1; ++dx) {
-                    if (neighbours == Neighbours::four && dx != 0 && dy != 0) continue;
-                    if (x + dx < 0 || x + dx >= columns || y + dy < 0 || y + dy >= rows) continue;
-                    visit(i + dy * columns + dx);
-                }
-            }
-        }
+    std::vector<int> numbers(runs.size());  // of the parts whose first run it is
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        const std::size_t first = firstOf(runs, i);
+        if (first == i) numbers[i] = ++parts.count;
+        std::fill(parts.labels.begin() + runs[i].begin, parts.labels.begin() + runs[i].end, numbers[first]);
     }
     return parts;
 }

@@ -54,6 +54,25 @@ class CellRows {
     std::vector<float> shares_, line_, rows_;
 };
 
+/// The same interpolation at single columns of a picture: those `step` apart, from the middle of the first step on.
+class CellPoints {
+  public:
+    CellPoints(const Cells& cells, int size, int width, int step);
+    /// One number for each step of row `y`, the last of which may be cut.
+    void fill(int y, int plane, float* to) const;
+
+  private:
+    struct Point {
+        int before, after;  // cells
+        float share;        // of the second one
+    };
+    Point place(int at, int count) const;
+
+    const Cells& cells_;
+    int size_;
+    std::vector<Point> columns_;
+};
+
 /// Fills what has no weight from what lies around: halves the cells until few are left, and coming back keeps a
 /// level's own mean of 3 x 3 cells as far as its weight reaches a quarter.
 /// @param cells values times weight; the last plane is the weight, 0 to 1
@@ -66,8 +85,8 @@ Cells sharesOf(const RunContext& context, const Mask& mask, int size);
 Mask maskOf(const RunContext& context, int width, int height, int size, const std::function<bool(int, int)>& isSet);
 
 /// Means of one plane over squares of `reach` cells (0 or more) beyond each cell, mirrored at the ends; parts of
-/// cells count by their share.
-Cells blurred(const Cells& cells, double reach);
+/// cells count by their share. At most `kRowPad - 1` cells.
+Cells blurred(const RunContext& context, const Cells& cells, double reach);
 /// The least of the 5 x 5 cells around each, one plane.
 Cells least5(const Cells& cells);
 

@@ -42,9 +42,9 @@ void lookAt(const RunContext& context, const Shot& shot, const Plate& plate, con
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         rowLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
         rowLoops().above(scratch.row(1), kCoreAlpha * 9.0f, strip.width, flags.data());
-        look.high.pack(y, area.word(), area.width(), own);
+        look.high.pack(y, area.left, area.width(), own);
         rowLoops().above(alphas.at(y, 0), kSureAlpha, strip.width, flags.data());
-        look.sure.pack(y, area.word(), area.width(), own);
+        look.sure.pack(y, area.left, area.width(), own);
     }
 }
 
@@ -77,8 +77,8 @@ void findCloth(const RunContext& context, const Shot& shot, const Plate& plate, 
                         (light[x] < kDepthLight) & (cover[x] > kOtherCover);
             sure[at] = flags[at] & (cover[x] > kClothCover);
         }
-        cloth.likely.pack(y, area.word(), area.width(), flags.data());
-        cloth.sure.pack(y, area.word(), area.width(), sure.data());
+        cloth.likely.pack(y, area.left, area.width(), flags.data());
+        cloth.sure.pack(y, area.left, area.width(), sure.data());
     }
 }
 
@@ -130,7 +130,8 @@ float middleOn(const Cells& values, const Cells& screen) {
 Mask clothParts(const RunContext& context, const Shot& shot, const Cloth& cloth, const Mask& screen) {
     const int size = shot.cell(kPartCell);
     const Cells shares = sharesOf(context, cloth.likely, size), sure = sharesOf(context, cloth.sure, size),
-                smooth = blurred(roughness(context, shot, size), static_cast<double>(shot.px(kRoughReach)) / size);
+                smooth = blurred(context, roughness(context, shot, size),
+                                 static_cast<double>(shot.px(kRoughReach)) / size);
     const float most = kCalm + kCalmFactor * middleOn(smooth, sharesOf(context, screen, size));
     std::vector<std::uint8_t> set(shares.count());
     for (std::size_t i = 0; i < set.size(); ++i)
@@ -163,7 +164,7 @@ void findBare(const RunContext& context, const Shot& shot, const Plate& plate, c
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         ratio.distance(y, far.data());
         rowLoops().below(far.data(), 8.0f + 150.0f * plate.spread, strip.width, flags.data());
-        bare.pack(y, area.word(), area.width(), flags.data() + (area.left - strip.left));
+        bare.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
     }
 }
 
@@ -188,11 +189,12 @@ Gaps findGaps(const Cells& solid, int size) {
 
 // Gaps of the solid inside that hold no screen: embroidery, reflections in glasses, prints.
 Mask enclosedGaps(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& solid) {
-    const int size = std::max(2, shot.px(kGapCell));
+    const int size = shot.cell(kGapCell);
     const Gaps gaps = findGaps(sharesOf(context, solid, size), size);
     std::vector<std::uint8_t> fill(static_cast<std::size_t>(gaps.parts.count) + 1, 1);
     fill[0] = fill[static_cast<std::size_t>(gaps.parts.labels[0])] = 0;
     const auto filled = [&] {
+        if (std::count(fill.begin(), fill.end(), 0) == std::ssize(fill)) return Mask(shot.width, shot.height);
         return maskOf(context, shot.width, shot.height, size,
                       [&](int c, int row) { return fill[static_cast<std::size_t>(gaps.at(c, row))] != 0; });
     };

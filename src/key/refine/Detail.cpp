@@ -14,11 +14,14 @@ constexpr int kReach = 4;          // pixels of every picture, as the loops have
 constexpr float kMiddle = 128.0f;  // taken off the luma, so that its variance loses no digits
 constexpr float kLeastDetail = 0.02f, kLowMean = 0.1f, kHighMean = 0.9f;
 constexpr double kHasAll = 0.5, kHasHalf = 0.36;  // share of the detail that alpha has
+constexpr double kLeastMissing = 0.02;            // less is not worth its passes
 constexpr int kFewest = 500;                      // pixels that tell it
+constexpr std::int64_t kSamples = 20'000;         // open pixels to look at
 
 struct Shares {
     double common = 0.0, whole = 0.0;
     int count = 0;
+    int areas = 0;  // that were met, looked at or not
 
     void add(const Shares& other) {
         common += other.common;
@@ -79,7 +82,7 @@ void HalfRows::fill(int y, float* to) {
 }
 
 void loadAlpha(const AlphaPlane& plane, const Strip& strip, int y, float* to) {
-    matteLoops().loadAlpha(plane.data() + std::ptrdiff_t{y} * strip.shot.width + strip.left, strip.width, to);
+    matteLoops().loadAlpha(plane.get() + std::ptrdiff_t{y} * strip.shot.width + strip.left, strip.width, to);
 }
 
 DetailRows::DetailRows(const Strip& strip, const AlphaPlane& alpha, float sharpness)
@@ -126,14 +129,17 @@ void DetailRows::fill(int y, float* mean, float* detail) {
 
 float missingDetail(const RunContext& context, const Shot& shot, const AlphaPlane& alpha, const Mask& open) {
     std::vector<Shares> blocks(static_cast<std::size_t>(blocksOf(shot.height)));
+    const auto step = static_cast<int>(std::max<std::int64_t>(open.count() / kSamples, 2));
     runAreas(context, open, [&](const Area& area) {
-        blocks[static_cast<std::size_t>(area.block)].add(detailOf(context, shot, alpha, area));
+        Shares& block = blocks[static_cast<std::size_t>(area.block)];
+        if ((area.block + block.areas++) % step == 0) block.add(detailOf(context, shot, alpha, area));
     });
     Shares all;
     for (const Shares& block : blocks)
         all.add(block);
-    const double has = all.count > kFewest ? all.common / std::max(all.whole, 1e-6) : 1.0;
-    return static_cast<float>(std::clamp((kHasAll - has) / (kHasAll - kHasHalf), 0.0, 1.0));
+    const double has = all.count * step > kFewest ? all.common / std::max(all.whole, 1e-6) : 1.0;
+    const double missing = std::min((kHasAll - has) / (kHasAll - kHasHalf), 1.0);
+    return missing < kLeastMissing ? 0.0f : static_cast<float>(missing);
 }
 
 }  // namespace tavrin::refine

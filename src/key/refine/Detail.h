@@ -39,8 +39,6 @@ class DetailRows {
     void fill(int y, float* mean, float* detail);
     /// Alpha after sharpening, not limited.
     const float* alpha(int y) { return ring_.at(y, 4); }
-    /// Rows y - 2 to y + 2 of alpha as it was.
-    const float* const* alphasAround(int y) { return plain_.around(y, 0, 2); }
 
   private:
     void sharpen(int y, int plane, float* to);
@@ -54,14 +52,14 @@ class DetailRows {
 };
 
 /// Columns beyond an area that the windows of the detail look at.
-inline constexpr int kDetailHalo = 16;
+inline constexpr int kDetailHalo = 12;
 
 /// Row `y` of a strip of an alpha plane, 0 to 1.
 void loadAlpha(const AlphaPlane& plane, const Strip& strip, int y, float* to);
 
 /// How much of the luma's detail alpha lacks: 0 where the colour has all of it, 1 where it has half of the
 /// resolution.
-/// @param open the pixels to look at
+/// @param open the pixels to look at; where there are many, a sample of them
 float missingDetail(const RunContext& context, const Shot& shot, const AlphaPlane& alpha, const Mask& open);
 
 }  // namespace tavrin::refine

@@ -33,7 +33,7 @@ Reach findReach(const RunContext& context, const Findings& findings) {
     Cells values(shares.columns(), shares.rows(), 1);
     for (int y = 0; y < values.rows(); ++y)
         near.unpack(y, 0, values.columns(), values.row(y, 0));
-    reach.near = blurred(values, 2.0);
+    reach.near = blurred(context, values, 2.0);
     return reach;
 }
 
@@ -61,7 +61,8 @@ FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Cells
     : findings_(findings),
       strip_(strip),
       noise_(std::clamp(kNoiseFactor * findings.plate.spread, kLeastNoise, kMostNoise)),
-      detail_(strip, findings.alpha, kSharpness * findings.missingDetail),
+      alphas_(strip.width, findings.shot.height, 2,
+              [this](int y, float** planes) { loadAlpha(findings_.alpha, strip_, y, planes[0]); }),
       keys_(strip.width, findings.shot.height, 2,
             [this](int y, float** planes) {
                 const std::uint8_t* const key = findings_.shot.keyRow(y) + strip_.left;
@@ -70,14 +71,21 @@ FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Cells
             }),
       near_(reach.near, reach.size, strip.left, strip.width),
       trust_(trust, findings.separation.size, strip.left, strip.width),
-      scratch_(strip.width, 4) {}
+      scratch_(strip.width, 4) {
+    if (findings.missingDetail > 0.0f) detail_.emplace(strip, findings.alpha, kSharpness * findings.missingDetail);
+}
 
 void FinishRows::fill(int y, float* alpha) {
     float *const mean = scratch_.row(0), *const detail = scratch_.row(1);
     const int width = strip_.width;
-    detail_.fill(y, mean, detail);
-    finishLoops().levels(detail_.alpha(y), detail, findings_.missingDetail * findings_.taste.detail, width, alpha);
-    rowLoops().boxSums(detail_.alphasAround(y), 2, width, scratch_.row(2), mean);
+    if (detail_) {
+        detail_->fill(y, mean, detail);
+        finishLoops().levels(detail_->alpha(y), detail, findings_.missingDetail * findings_.taste.detail, width,
+                             alpha);
+    } else {
+        finishLoops().levels(alphas_.at(y, 0), alphas_.at(y, 0), 0.0f, width, alpha);
+    }
+    rowLoops().boxSums(alphas_.around(y, 0, 2), 2, width, scratch_.row(2), mean);
     for (int x = 0; x < width; ++x)
         mean[x] /= 25.0f;
     finishLoops().quieten(mean, noise_, width, alpha);

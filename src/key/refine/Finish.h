@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "key/refine/Detail.h"
 #include "key/refine/RefineKey.h"
 
@@ -37,6 +39,8 @@ class FinishRows {
 
     /// @param alpha 0 to 1
     void fill(int y, float* alpha);
+    /// Columns beyond those asked for that the windows look at.
+    static int halo(const Findings& findings) { return findings.missingDetail > 0.0f ? kDetailHalo : 2; }
 
   private:
     using Maker = std::function<void(int, float**)>;
@@ -47,8 +51,8 @@ class FinishRows {
     const Findings& findings_;
     Strip strip_;
     float noise_;
-    DetailRows detail_;
-    RowRing<1, Maker> keys_;
+    std::optional<DetailRows> detail_;  // where alpha lacks any
+    RowRing<1, Maker> alphas_, keys_;
     CellRows near_, trust_;
     PaddedRows scratch_;
 };

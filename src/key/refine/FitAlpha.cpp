@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
 
 #include "key/refine/Areas.h"
 #include "key/refine/MatteLoops.h"
@@ -21,56 +22,27 @@ constexpr int kHalo = 4;  // columns beyond an area that its windows look at
 // The six different products of three channels.
 constexpr int kPairs[6][2] = {{0, 0}, {0, 1}, {0, 2}, {1, 1}, {1, 2}, {2, 2}};
 
-// Sums of the sure pixels' colours and products, column by column.
-class ColumnSums {
-  public:
-    ColumnSums(const Strip& strip, const Mask& sure)
-        : strip_(strip),
-          sure_(sure),
-          length_(static_cast<std::size_t>(strip.width)),
-          lines_((4 + kSums + 1) * length_) {}
-
-    void addRow(int y) {
-        float* const weight = line(3);
-        const int count = strip_.width;
-        loadColors(strip_, y, line(0), line(1), line(2));
-        sure_.unpack(y, strip_.left, count, weight);
-        for (std::size_t c = 0; c < 3; ++c)
-            rowLoops().add(line(c), weight, count, sum(c));
-        for (std::size_t pair = 0; pair < 6; ++pair)
-            rowLoops().addProduct(line(static_cast<std::size_t>(kPairs[pair][0])),
-                                  line(static_cast<std::size_t>(kPairs[pair][1])), weight, count, sum(3 + pair));
-        rowLoops().add(weight, weight, count, sum(kSums));
-    }
-
-    float* sum(std::size_t i) { return line(4 + i); }
-
-  private:
-    float* line(std::size_t i) { return lines_.data() + i * length_; }
-
-    Strip strip_;
-    const Mask& sure_;
-    std::size_t length_;
-    std::vector<float> lines_;
-};
-
-// Adds some words of one row of cells to these, over all of a cell's pixels.
-void sumColors(const Shot& shot, const Mask& sure, int size, int row, const Strip& strip, Cells& cells) {
-    const int first = row * size, last = std::min(first + size, shot.height);
-    ColumnSums sums(strip, sure);
-    for (int y = first; y < last; ++y)
-        sums.addRow(y);
-    for (std::size_t plane = 0; plane <= kSums; ++plane) {
-        const float* const from = sums.sum(plane);
-        float* const to = cells.row(row, static_cast<int>(plane));
-        for (int x = 0; x < strip.width;) {
-            const int cell = (strip.left + x) / size, columns = std::min((cell + 1) * size, shot.width) - cell * size;
-            const int end = std::min((cell + 1) * size - strip.left, strip.width);
-            float all = 0.0f;
-            for (; x < end; ++x)
-                all += from[x];
-            to[cell] += all / static_cast<float>(columns * (last - first));
-        }
+// Sums of the sure pixels' colours and products in some cells of a row, over all of a cell's pixels.
+void sumColors(const Shot& shot, const Mask& sure, int row, int firstCell, int endCell, int size, Cells& cells) {
+    const int left = firstCell * size, width = std::min(endCell * size, shot.width) - left;
+    const int top = row * size, bottom = std::min(top + size, shot.height);
+    const auto length = static_cast<std::size_t>(width);
+    std::vector<float> lines((kSums + 1 + static_cast<std::size_t>(size)) * length);
+    float *const sums = lines.data(), *const weights = sums + (kSums + 1) * length;
+    for (int y = top; y < bottom; ++y)
+        sure.unpack(y, left, width, weights + std::ptrdiff_t{y - top} * width);
+    rowLoops().sumProducts({shot.pixelRow(top) + left, shot.width, weights, bottom - top, width}, shot.blue, sums);
+    const int whole = width / size, rest = width % size;
+    for (int plane = 0; plane <= kSums; ++plane) {
+        // The weight comes last in the cells.
+        const float* const from = sums + (plane + 1) % (kSums + 1) * width;
+        float* const to = cells.row(row, plane) + firstCell;
+        rowLoops().sumGroups(from, size, whole, to);
+        for (int c = 0; c < whole; ++c)
+            to[c] /= static_cast<float>(size * (bottom - top));
+        if (rest > 0)
+            to[whole] =
+                std::accumulate(from + whole * size, from + width, 0.0f) / static_cast<float>(rest * (bottom - top));
     }
 }
 
@@ -92,19 +64,6 @@ std::array<double, kSums> overallMeans(const Cells& cells) {
     return means;
 }
 
-// The plate at the middle of each cell of a row, three planes.
-std::vector<float> screenColors(const Shot& shot, const Plate& plate, int size, int row, int columns) {
-    std::vector<float> colors(3 * static_cast<std::size_t>(columns)), line(static_cast<std::size_t>(shot.width));
-    CellRows rows(plate.colors, kPlateCell, 0, shot.width);
-    for (int plane = 0; plane < 3; ++plane) {
-        rows.fill(std::min(row * size + size / 2, shot.height - 1), plane, line.data());
-        for (int c = 0; c < columns; ++c)
-            colors[static_cast<std::size_t>(plane * columns + c)] =
-                line[static_cast<std::size_t>(std::min(c * size + size / 2, shot.width - 1))];
-    }
-    return colors;
-}
-
 // What is added to the covariance of every cell.
 Symmetric3 commonCovariance(const Cells& cells) {
     Symmetric3 common = covariance(overallMeans(cells));
@@ -120,17 +79,23 @@ Separation separate(const RunContext& context, const Shot& shot, const Plate& pl
     const int size = result.size = shot.cell(kCell);
     Cells cells = Cells::over(shot.width, shot.height, size, kSums + 1);
     runRows(context, cells.rows(), 2, [&](int row) {
-        forWords(sure, row * size, std::min((row + 1) * size, shot.height), [&](int word, int words) {
-            sumColors(shot, sure, size, row, {shot, word * 64, std::min(words * 64, shot.width - word * 64)}, cells);
+        int done = 0;  // cells that were summed already
+        forColumns(sure, row * size, std::min((row + 1) * size, shot.height), [&](int left, int right) {
+            const int begin = std::max(left / size, done);
+            done = (right + size - 1) / size;
+            if (begin < done) sumColors(shot, sure, row, begin, done, size, cells);
         });
     });
     const Symmetric3 common = commonCovariance(cells);
     const Cells means = pushPull(context, cells);
     result.weights = result.subject = Cells(cells.columns(), cells.rows(), 3);
     result.certainty = Cells(cells.columns(), cells.rows(), 1);
+    const int columns = cells.columns();
+    const CellPoints middles(plate.colors, kPlateCell, shot.width, size);
     runRows(context, cells.rows(), 4, [&](int row) {
-        const int columns = cells.columns();
-        const std::vector<float> screen = screenColors(shot, plate, size, row, columns);
+        std::vector<float> screen(3 * static_cast<std::size_t>(columns));
+        for (int plane = 0; plane < 3; ++plane)
+            middles.fill(std::min(row * size + size / 2, shot.height - 1), plane, screen.data() + plane * columns);
         const float* from[kSums];
         for (int i = 0; i < kSums; ++i)
             from[i] = means.row(row, i);
@@ -188,7 +153,7 @@ Mask surePixels(const RunContext& context, const Fit& fit, const Mask& solid, co
         for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
             rowLoops().boxSums(ring.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
             rowLoops().above(scratch.row(1), kSureAlpha * 9.0f, strip.width, flags.data());
-            whole.pack(y, area.word(), area.width(), flags.data() + (area.left - strip.left));
+            whole.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
         }
     });
     Mask sure = shrunk(context, whole, 1);
@@ -198,11 +163,12 @@ Mask surePixels(const RunContext& context, const Fit& fit, const Mask& solid, co
 
 AlphaPlane fitAlpha(const RunContext& context, const Fit& fit, const Mask& solid, const Mask& open) {
     const auto width = static_cast<std::size_t>(fit.shot.width);
-    AlphaPlane plane(width * static_cast<std::size_t>(fit.shot.height));
+    auto plane = std::make_unique_for_overwrite<std::uint16_t[]>(width * static_cast<std::size_t>(fit.shot.height));
     runRows(context, fit.shot.height, 16, [&](int y) {
-        std::uint16_t* const to = plane.data() + static_cast<std::size_t>(y) * width;
-        for (std::size_t x = 0; x < width; x += 64) {
-            if (solid.row(y)[x / 64] != 0) std::fill(to + x, to + std::min(x + 64, width), std::uint16_t{65535});
+        std::uint16_t* const to = plane.get() + static_cast<std::size_t>(y) * width;
+        for (int x = 0; x < fit.shot.width; x += kGrainColumns) {
+            const int end = std::min(x + kGrainColumns, fit.shot.width);
+            std::fill(to + x, to + end, solid.isClear(y, x, end) ? std::uint16_t{0} : std::uint16_t{65535});
         }
     });
     runAreas(context, open, [&](const Area& area) {
@@ -211,7 +177,7 @@ AlphaPlane fitAlpha(const RunContext& context, const Fit& fit, const Mask& solid
         for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
             rows.fill(y, alpha.data());
             matteLoops().storeAlpha(alpha.data(), area.width(),
-                                    plane.data() + static_cast<std::size_t>(y) * width + area.left);
+                                    plane.get() + static_cast<std::size_t>(y) * width + area.left);
         }
     });
     return plane;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "key/refine/Core.h"
@@ -50,8 +51,8 @@ class FitRows {
 /// @param open the pixels that are neither inside nor surely screen
 Mask surePixels(const RunContext& context, const Fit& fit, const Mask& solid, const Mask& open);
 
-/// Alpha in steps of 1 / 65535, one for each pixel.
-using AlphaPlane = std::vector<std::uint16_t>;
+/// Alpha in steps of 1 / 65535, one for each pixel. No vector: that would touch all of its memory on one core first.
+using AlphaPlane = std::unique_ptr<std::uint16_t[]>;
 /// Alpha around the open pixels; elsewhere 1 inside and 0 on the screen.
 AlphaPlane fitAlpha(const RunContext& context, const Fit& fit, const Mask& solid, const Mask& open);
 

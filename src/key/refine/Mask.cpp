@@ -10,16 +10,13 @@ namespace {
 
 constexpr std::uint64_t kAll = ~std::uint64_t{0};
 
-// Each bit becomes the conjunction of itself and the one `step` further on; beyond the end all are set.
-void joinAhead(std::vector<std::uint64_t>& line, int step) {
-    const std::size_t whole = static_cast<std::size_t>(step / 64), count = line.size();
+// Each bit of the first `count` words becomes the conjunction of itself and the one `step` further on; `step / 64 +
+// 1` words more are there to be read.
+void joinAhead(std::uint64_t* line, std::size_t count, int step) {
+    const std::uint64_t* const ahead = line + step / 64;
     const int part = step % 64;
-    const auto word = [&](std::size_t i) { return i < count ? line[i] : kAll; };
-    for (std::size_t i = 0; i < count; ++i) {
-        std::uint64_t ahead = word(i + whole) >> part;
-        if (part != 0) ahead |= word(i + whole + 1) << (64 - part);
-        line[i] &= ahead;
-    }
+    for (std::size_t i = 0; i < count; ++i)
+        line[i] &= ahead[i] >> part | ahead[i + 1] << (63 - part) << 1;
 }
 
 // Windows of `length`: joined to themselves in steps that double.
@@ -35,17 +32,16 @@ void joinWindow(int length, const Join& join) {
 void shrinkRow(const Mask& mask, int y, int r, std::vector<std::uint64_t>& line, std::uint64_t* to) {
     const std::size_t before = static_cast<std::size_t>((r + 63) / 64),
                       words = static_cast<std::size_t>(mask.words());
-    line.assign(before + words, kAll);
+    const std::size_t used = before + words;
+    line.assign(used + before + 2, kAll);
     std::copy_n(mask.row(y), words, line.begin() + static_cast<std::ptrdiff_t>(before));
-    if (mask.width() % 64 != 0) line.back() |= kAll << (mask.width() % 64);
-    joinWindow(2 * r + 1, [&](int step) { joinAhead(line, step); });
+    if (mask.width() % 64 != 0) line[used - 1] |= kAll << (mask.width() % 64);
+    joinWindow(2 * r + 1, [&](int step) { joinAhead(line.data(), used, step); });
     // The window of column x begins r columns before it.
-    const std::size_t from = before * 64 - static_cast<std::size_t>(r);
-    for (std::size_t i = 0; i < words; ++i) {
-        const std::size_t bit = from + i * 64, word = bit / 64, part = bit % 64;
-        to[i] = line[word] >> part;
-        if (part != 0) to[i] |= (word + 1 < line.size() ? line[word + 1] : kAll) << (64 - part);
-    }
+    const std::size_t bit = before * 64 - static_cast<std::size_t>(r);
+    const std::uint64_t* const from = line.data() + bit / 64;
+    for (std::size_t i = 0; i < words; ++i)
+        to[i] = from[i] >> (bit % 64) | from[i + 1] << (63 - bit % 64) << 1;
 }
 
 }  // namespace
@@ -56,18 +52,31 @@ Mask::Mask(int width, int height)
       words_((width + 63) / 64),
       bits_(static_cast<std::size_t>(words_) * static_cast<std::size_t>(height)) {}
 
-void Mask::pack(int y, int word, int count, const std::uint8_t* flags) {
-    std::uint64_t* const to = row(y) + word;
-    for (int x = 0; x < count; x += 64) {
+bool Mask::isClear(int y, int left, int right) const {
+    const std::uint64_t* const from = row(y);
+    for (int x = left; x < right;) {
+        const int bits = std::min(64 - x % 64, right - x);
+        if ((from[x / 64] >> (x % 64) & kAll >> (64 - bits)) != 0) return false;
+        x += bits;
+    }
+    return true;
+}
+
+void Mask::pack(int y, int left, int count, const std::uint8_t* flags) {
+    std::uint64_t* const to = row(y);
+    for (int x = 0; x < count;) {
+        const int first = (left + x) % 64, length = std::min(64 - first, count - x);
         std::uint64_t bits = 0;
-        for (int i = 0; i < 64 && x + i < count; i += 8) {
+        for (int i = 0; i < length; i += 8) {
             std::uint64_t eight;
             std::memcpy(&eight, flags + x + i, 8);
-            if (count - x - i < 8) eight &= kAll >> (8 * (8 - (count - x - i)));
             // One product gathers the lowest bits of eight bytes.
             bits |= (eight * 0x0102040810204080u >> 56) << i;
         }
-        to[x / 64] = bits;
+        const std::uint64_t all = kAll >> (64 - length);
+        std::uint64_t& word = to[(left + x) / 64];
+        word = (word & ~(all << first)) | (bits & all) << first;
+        x += length;
     }
 }
 

@@ -24,9 +24,11 @@ class Mask {
     const std::uint64_t* row(int y) const { return const_cast<Mask*>(this)->row(y); }
 
     bool at(int x, int y) const { return (row(y)[x / 64] >> (x % 64) & 1) != 0; }
-    /// Sets `count` pixels of row `y` from the start of a word on, from bytes of 0 and 1; there must be room to read
-    /// a multiple of 8 of them. The rest of the last word becomes 0.
-    void pack(int y, int word, int count, const std::uint8_t* flags);
+    /// Whether none of the columns [left, right) of row `y` is set.
+    bool isClear(int y, int left, int right) const;
+    /// Sets `count` pixels of row `y` from the column `left` on, a multiple of 8, from bytes of 0 and 1; there must
+    /// be room to read a multiple of 8 of them.
+    void pack(int y, int left, int count, const std::uint8_t* flags);
     void pack(int y, const std::uint8_t* flags) { pack(y, 0, width_, flags); }
     /// `count` pixels of the row from column `left` on as numbers, 0 and 1.
     void unpack(int y, int left, int count, float* values) const;

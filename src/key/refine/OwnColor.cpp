@@ -17,26 +17,21 @@ constexpr float kWhole = 0.98f;
 constexpr double kFewCells = 20.0;
 constexpr float kMostOwn = 0.45f;  // of the screen's difference
 
-// Adds some words of one row of cells.
+// Adds some columns of one row of cells.
 void sumGreen(const Mask& deep, int row, const Strip& strip, Cells& cells) {
     constexpr int kSize = GreenLimits::kOwnCell;
     const auto length = static_cast<std::size_t>(strip.width);
-    std::vector<float> lines(6 * length);
-    float *const r = lines.data(), *const g = r + length, *const b = g + length, *const weight = b + length;
-    float *const excess = weight + length, *const weights = excess + length;
+    std::vector<float> lines(3 * length);
+    float *const weight = lines.data(), *const leads = weight + length, *const weights = leads + length;
     const int first = row * kSize, last = std::min(first + kSize, deep.height());
     for (int y = first; y < last; ++y) {
-        loadColors(strip, y, r, g, b);
         deep.unpack(y, strip.left, strip.width, weight);
-        for (std::size_t x = 0; x < length; ++x) {
-            excess[x] += weight[x] * std::max(g[x] - (r[x] + b[x]) * 0.5f, 0.0f);
-            weights[x] += weight[x];
-        }
+        rowLoops().addLead(strip.shot.pixelRow(y) + strip.left, weight, strip.width, strip.shot.blue, leads, weights);
     }
     for (int begin = 0; begin < strip.width; begin += kSize) {
         const int end = std::min(begin + kSize, strip.width), cell = (strip.left + begin) / kSize;
         const auto pixels = static_cast<float>((end - begin) * (last - first));
-        cells.row(row, 0)[cell] = std::accumulate(excess + begin, excess + end, 0.0f) / pixels;
+        cells.row(row, 0)[cell] = std::accumulate(leads + begin, leads + end, 0.0f) / pixels;
         cells.row(row, 1)[cell] = std::accumulate(weights + begin, weights + end, 0.0f) / pixels;
     }
 }
@@ -48,8 +43,8 @@ Cells ownGreen(const RunContext& context, const Findings& findings) {
     const Mask deep = shrunk(context, findings.solid, shot.px(kDeepReach));
     Cells cells = Cells::over(shot.width, shot.height, kSize, 2);
     runRows(context, cells.rows(), 4, [&](int row) {
-        forWords(deep, row * kSize, std::min((row + 1) * kSize, shot.height), [&](int word, int words) {
-            sumGreen(deep, row, {shot, word * 64, std::min(words * 64, shot.width - word * 64)}, cells);
+        forColumns(deep, row * kSize, std::min((row + 1) * kSize, shot.height), [&](int left, int right) {
+            sumGreen(deep, row, {shot, left, right - left}, cells);
         });
     });
     return cells;
@@ -66,7 +61,7 @@ Mask wholePixels(const RunContext& context, const Findings& findings) {
         for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
             plainAlpha(findings, strip, y, scratch.data(), alpha.data());
             rowLoops().above(alpha.data(), kWhole, strip.width, flags.data());
-            whole.pack(y, area.word(), area.width(), flags.data());
+            whole.pack(y, area.left, area.width(), flags.data());
         }
     });
     return whole;
@@ -89,12 +84,12 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
             own *= smoothStep(own, std::max(0.12f * usual, 18.0f), std::max(0.25f * usual, 32.0f)) *
                    findings.taste.ownGreen;
         }
-        limits.own = blurred(least, 3.0);
+        limits.own = blurred(context, least, 3.0);
     }
 
     const int reach = std::max(2, shot.px(kInnerReach));
     constexpr int kSize = GreenLimits::kInnerCell;
-    limits.inner = blurred(sharesOf(context, shrunk(context, wholePixels(context, findings), reach), kSize),
+    limits.inner = blurred(context, sharesOf(context, shrunk(context, wholePixels(context, findings), reach), kSize),
                            std::max(0.0, (2.0 * reach + 1.0) / kSize - 1.0) / 2.0);
     return limits;
 }

@@ -53,40 +53,49 @@ int usualDifference(const Shot& shot) {
     return 0;
 }
 
-float measureSpread(const Shot& shot, const Plate& plate) {
-    std::vector<float> distances, alpha(static_cast<std::size_t>(shot.width));
-    StartRows rows({shot, 0, shot.width}, plate);
-    const int step = sampleStep(shot);
-    for (int y = 0; y < shot.height; y += step) {
-        rows.go(y);
-        rows.alpha(alpha.data());
-        for (int x = y / step % step; x < shot.width; x += step) {
-            if (plate.screen.at(x, y)) distances.push_back(std::abs(alpha[static_cast<std::size_t>(x)]));
+// How far alpha is from 0 on a sample of the screen's pixels, in scan order.
+std::vector<float> strayAlphas(const RunContext& context, const Shot& shot, const Plate& plate) {
+    const int step = sampleStep(shot), count = (shot.height + step - 1) / step;
+    std::vector<std::vector<float>> found(static_cast<std::size_t>(count));
+    runRowRanges(context, count, 16, [&](int first, int last) {
+        std::vector<float> alpha(static_cast<std::size_t>(shot.width));
+        StartRows rows({shot, 0, shot.width}, plate);
+        for (int i = first, y = i * step; i < last; ++i, y += step) {
+            if (plate.screen.isClear(y, 0, shot.width)) continue;
+            rows.go(y);
+            rows.alpha(alpha.data());
+            for (int x = i % step; x < shot.width; x += step) {
+                if (plate.screen.at(x, y))
+                    found[static_cast<std::size_t>(i)].push_back(std::abs(alpha[static_cast<std::size_t>(x)]));
+            }
         }
-    }
+    });
+    std::vector<float> all;
+    for (const std::vector<float>& row : found)
+        all.insert(all.end(), row.begin(), row.end());
+    return all;
+}
+
+float measureSpread(const RunContext& context, const Shot& shot, const Plate& plate) {
+    std::vector<float> distances = strayAlphas(context, shot, plate);
     if (distances.empty()) return 0.0f;
     const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
     std::nth_element(distances.begin(), middle, distances.end());
     return kDeviation * *middle;
 }
 
-// Sums of the screen's pixels in some words of one row of cells.
-void sumCells(const Shot& shot, const Mask& screen, int row, int word, int words, Cells& cells) {
-    const int left = word * 64, count = std::min(words * 64, shot.width - left);
+// Sums of the screen's pixels in some columns of one row of cells.
+void sumCells(const Shot& shot, const Mask& screen, int row, int left, int count, Cells& cells) {
     const auto length = static_cast<std::size_t>(count);
-    std::vector<float> lines(8 * length, 0.0f);
-    float *const color = lines.data(), *const weight = color + 3 * length, *const sum = color + 4 * length;
+    std::vector<float> lines((4 + kPlateCell) * length);
+    float *const sums = lines.data(), *const weights = sums + 4 * length;
     const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
-    for (int y = first; y < last; ++y) {
-        loadColors({shot, left, count}, y, color, color + length, color + 2 * length);
-        screen.unpack(y, left, count, weight);
-        for (std::size_t plane = 0; plane < 3; ++plane)
-            rowLoops().add(color + plane * length, weight, count, sum + plane * length);
-        rowLoops().add(weight, weight, count, sum + 3 * length);
-    }
+    for (int y = first; y < last; ++y)
+        screen.unpack(y, left, count, weights + std::ptrdiff_t{y - first} * count);
+    rowLoops().sumColors({shot.pixelRow(first) + left, shot.width, weights, last - first, count}, shot.blue, sums);
     const int whole = count / kPlateCell, rest = count % kPlateCell;
     for (std::size_t plane = 0; plane < 4; ++plane) {
-        const float* const from = sum + plane * length;
+        const float* const from = sums + (plane + 1) % 4 * length;  // the weight comes last in the cells
         float* const to = cells.row(row, static_cast<int>(plane)) + left / kPlateCell;
         rowLoops().sumGroups(from, kPlateCell, whole, to);
         for (int c = 0; c < whole; ++c)
@@ -97,10 +106,11 @@ void sumCells(const Shot& shot, const Mask& screen, int row, int word, int words
     }
 }
 
-// The same, for all words that have any of the screen.
+// The same, for all columns that have any of the screen.
 void sumCells(const Shot& shot, const Mask& screen, int row, Cells& cells) {
     const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
-    forWords(screen, first, last, [&](int word, int words) { sumCells(shot, screen, row, word, words, cells); });
+    forColumns(screen, first, last,
+               [&](int left, int right) { sumCells(shot, screen, row, left, right - left, cells); });
 }
 
 }  // namespace
@@ -129,7 +139,7 @@ void paintPlate(const RunContext& context, const Shot& shot, Plate& plate) {
     Cells cells = Cells::over(shot.width, shot.height, kPlateCell, 4);
     runRows(context, cells.rows(), 8, [&](int row) { sumCells(shot, plate.screen, row, cells); });
     plate.colors = pushPull(context, cells);
-    plate.spread = measureSpread(shot, plate);
+    plate.spread = measureSpread(context, shot, plate);
 }
 
 StartRows::StartRows(const Strip& strip, const Plate& plate)

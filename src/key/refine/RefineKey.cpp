@@ -22,7 +22,8 @@ struct Limits {
 void writeArea(const RunContext& context, const Findings& findings, const Limits& limits, const Area& area,
                std::uint8_t* result) {
     const Shot& shot = findings.shot;
-    const Strip wide = area.strip(shot, kDetailHalo), strip = area.strip(shot, kColorHalo);
+    const Strip wide = area.strip(shot, kColorHalo + FinishRows::halo(findings)),
+                strip = area.strip(shot, kColorHalo);
     FinishRows finish(findings, limits.reach, limits.trust, wide);
     ColorRows colors(findings, limits.green, strip);
     std::vector<float> alpha(static_cast<std::size_t>(wide.width));

@@ -11,6 +11,8 @@ struct RefineTaste {
     float ownGreen = 1.0f;  ///< of the subject's own green that stays, 0 to 2
     float shift = 0.0f;     ///< added to the alpha of the edges
     float tint = 0.0f;      ///< how much the middle of the edges gains, -1 to 1
+
+    bool operator==(const RefineTaste&) const = default;
 };
 
 enum class Refined {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace tavrin::refine {
@@ -7,6 +8,14 @@ namespace tavrin::refine {
 /// Three channels of a row, in roles.
 struct ChannelRow {
     const float *r, *g, *b;
+};
+
+/// Rows of RGBA pixels `pitch` apart, and their weights, rows packed.
+struct WeighedRows {
+    const std::uint32_t* pixels;
+    std::ptrdiff_t pitch;
+    const float* weights;
+    int rows, count;
 };
 
 /// Loops over the numbers of a row, compiled for every vector target. All go element by element, so the bytes are
@@ -28,11 +37,20 @@ struct RowLoops {
     void (*boxSums)(const float* const* rows, int r, int count, float* columns, float* sums);
     /// to += a weight
     void (*add)(const float* a, const float* weight, int count, float* to);
-    /// to += a b weight
-    void (*addProduct)(const float* a, const float* b, const float* weight, int count, float* to);
+    /// Sums, column by column, of the weight and of the three channels, each times its weight of 0 or 1, as four
+    /// lines of `from.count`.
+    void (*sumColors)(const WeighedRows& from, bool blue, float* sums);
+    /// The same, and six lines more: the products rr, rg, rb, gg, gb, bb.
+    void (*sumProducts)(const WeighedRows& from, bool blue, float* sums);
+    /// Adds what the screen's channel has beyond the mean of the others, as far as it has, times the weight; and the
+    /// weight.
+    void (*addLead)(const std::uint32_t* pixels, const float* weight, int count, bool blue, float* leads,
+                    float* weights);
     /// 1 where a value is above / below the limit, else 0.
     void (*above)(const float* values, float limit, int count, std::uint8_t* flags);
     void (*below)(const float* values, float limit, int count, std::uint8_t* flags);
+    /// Bits of the bytes that are `most` or less; those of the last word beyond `count` are 0.
+    void (*atMost)(const std::uint8_t* values, std::uint8_t most, int count, std::uint64_t* bits);
     /// Least and greatest of the 2r + 1 columns of 2r + 1 padded rows around column x, in the element x - r of two
     /// padded rows.
     void (*windowRange)(const float* const* rows, int r, int count, float* least, float* greatest);

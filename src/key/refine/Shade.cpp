@@ -36,7 +36,7 @@ void findNear(const RunContext& context, const Shot& shot, const Plate& plate, c
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         rowLoops().boxSums(strays.around(y, 0, 2), 2, strip.width, scratch.row(0), scratch.row(1));
         rowLoops().below(scratch.row(1), limit, strip.width, flags.data());
-        near.pack(y, area.word(), area.width(), flags.data() + (area.left - strip.left));
+        near.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
     }
 }
 
@@ -60,22 +60,15 @@ void findSoft(const RunContext& context, const Shot& shot, const Plate& plate, c
             flags[static_cast<std::size_t>(x)] = (off[x] < offLimit) & (light[x] > kLeastLight) &
                                                  (light[x] < kMostLight) & (key[x] <= kMostKey) &
                                                  (high[x] - low[x] < rangeLimit);
-        soft.pack(y, area.word(), area.width(), flags.data());
+        soft.pack(y, area.left, area.width(), flags.data());
     }
 }
 
 // The pixels to which the key gave `most` or less.
 Mask thinPixels(const RunContext& context, const Shot& shot, std::uint8_t most) {
     Mask thin(shot.width, shot.height);
-    runRowRanges(context, shot.height, 32, [&](int first, int last) {
-        std::vector<std::uint8_t> flags(static_cast<std::size_t>(shot.width) + 8);
-        for (int y = first; y < last; ++y) {
-            const std::uint8_t* const key = shot.keyRow(y);
-            for (int x = 0; x < shot.width; ++x)
-                flags[static_cast<std::size_t>(x)] = key[x] <= most;
-            thin.pack(y, flags.data());
-        }
-    });
+    runRows(context, shot.height, 32,
+            [&](int y) { rowLoops().atMost(shot.keyRow(y), most, shot.width, thin.row(y)); });
     return thin;
 }
 
@@ -135,7 +128,7 @@ void findAlike(const RunContext& context, const Shot& shot, const Plate& plate, 
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         ratio.cover(y, light.data(), least.data());
         rowLoops().below(least.data(), kOtherCover, strip.width, flags.data());
-        alike.pack(y, area.word(), area.width(), flags.data() + (area.left - strip.left));
+        alike.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
     }
 }
 
