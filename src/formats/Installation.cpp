@@ -51,8 +51,8 @@ constexpr const char* kOverlays[] = {
 std::vector<ShippedFile> shippedStart(const Places& places) {
     std::vector<ShippedFile> files = {
         {"Default.qlx", places.defaultStateFile()},
-        {"sample/portrait.jpg", places.samplesFolder() + "portrait.jpg"},
-        {"sample/background.jpg", places.samplesFolder() + "background.jpg"},
+        {"sample/portrait.jpg", places.samplePortraitsFolder() + "portrait.jpg"},
+        {"sample/background.jpg", places.sampleBackgroundsFolder() + "background.jpg"},
         {"Pictures/EditTextIcons/Edit.png", places.textIconsFolder() + "Edit.png"},
         {"Pictures/EditTextIcons/Delete.png", places.textIconsFolder() + "Delete.png"},
         {"Pictures/Frame/BrushedGold.jpg", places.frameFolder() + "BrushedGold.jpg"},
@@ -115,8 +115,8 @@ std::string shippedFile(const std::string& name) {
 QLXInfo firstSettings(const Places& places) {
     QLXInfo settings;
     settings.sDefaultQLXFilePath = places.defaultStateFile();
-    settings.sStartupFileForegroundPath = places.samplesFolder() + "portrait.jpg";
-    settings.sStartupFileBackgroundPath = places.samplesFolder() + "background.jpg";
+    settings.sStartupFileForegroundPath = places.samplePortraitsFolder() + "portrait.jpg";
+    settings.sStartupFileBackgroundPath = places.sampleBackgroundsFolder() + "background.jpg";
     settings.sOverlayDir = places.overlaysFolder();
     return settings;
 }

@@ -274,12 +274,12 @@ TEST_F(InstallationTest, FillsInWhatIsMissingAndNothingElse) {
     EXPECT_TRUE(fs::is_directory(places.picturesFolder()));
     for (const std::string& file :
          {places.imageSizeFile(), places.printerFile(), places.defaultStateFile(), places.settingsFile(),
-          places.samplesFolder() + "portrait.jpg", places.textIconsFolder() + "Edit.png",
+          places.samplePortraitsFolder() + "portrait.jpg", places.textIconsFolder() + "Edit.png",
           places.sketchFolder() + "PencilDense.jpg", places.frameFolder() + "Walnut.jpg"})
         EXPECT_TRUE(fs::exists(file)) << file;
     QLXInfo settings;
     EXPECT_EQ(LoadQLXFile(settings), "");
-    EXPECT_EQ(settings.sStartupFileForegroundPath.load(), places.samplesFolder() + "portrait.jpg");
+    EXPECT_EQ(settings.sStartupFileForegroundPath.load(), places.samplePortraitsFolder() + "portrait.jpg");
     EXPECT_EQ(LoadImageStateFromXML(info, settings.sDefaultQLXFilePath, kLoadAll), "");
 
     writeFile(places.imageSizeFile(), "the user's own");

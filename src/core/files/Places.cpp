@@ -63,8 +63,9 @@ std::string Places::usePrivateTempFiles() {
 }
 
 std::string Places::createFolders() const {
-    for (const std::string& folder : {xmlFolder(), tempFilesFolder(), samplesFolder(), textIconsFolder(),
-                                      frameFolder(), overlaysFolder(), sketchFolder()}) {
+    for (const std::string& folder :
+         {xmlFolder(), tempFilesFolder(), samplePortraitsFolder(), sampleBackgroundsFolder(), textIconsFolder(),
+          frameFolder(), overlaysFolder(), sketchFolder()}) {
         std::error_code problem;
         std::filesystem::create_directories(folder, problem);
         if (problem)

@@ -21,7 +21,9 @@ class Places {
     std::string xmlFolder() const { return shared_ + "QLXXML/"; }
     std::string tempFilesFolder() const { return tempFiles_.empty() ? shared_ + "TempFiles/" : tempFiles_; }
 
-    std::string samplesFolder() const { return pictures_ + "Samples/"; }
+    /// Apart from one another, so that a folder of portraits holds nothing else.
+    std::string samplePortraitsFolder() const { return pictures_ + "Samples/Portraits/"; }
+    std::string sampleBackgroundsFolder() const { return pictures_ + "Samples/Backgrounds/"; }
     std::string textIconsFolder() const { return pictures_ + "EditTextIcons/"; }
     std::string frameFolder() const { return pictures_ + "FrameAndSilhouetteBackgrounds/"; }
     std::string overlaysFolder() const { return pictures_ + "Overlays/"; }

@@ -17,7 +17,7 @@ struct Command {
     /// the search reach.
     const char* menu;
     QString text, toolTip;
-    const char* icon;  ///< name in the icon theme; "" for none
+    const char* icon;  ///< as `lineIcon` takes it; "" for none
     QKeySequence shortcut;
     std::function<bool()> enabledWhen;  ///< empty: always
     /// `on` is the new state of a checked one, and whether the key of a held one is down.

@@ -5,15 +5,16 @@
 
 namespace tavrin {
 
-/// A flat button of a bar for an action, in words.
-inline QToolButton* buttonOf(QAction* action, QWidget* parent) {
+/// A flat button of a bar for an action: its icon and its words, or the icon alone where everybody knows that.
+inline QToolButton* buttonOf(QAction* action, QWidget* parent,
+                             Qt::ToolButtonStyle style = Qt::ToolButtonTextBesideIcon) {
     auto* button = new QToolButton(parent);
     button->setDefaultAction(action);
     button->setObjectName(action->objectName());
     button->setAccessibleName(action->text().section('\t', 0, 0).remove('&'));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    button->setToolButtonStyle(action->icon().isNull() ? Qt::ToolButtonTextOnly : style);
     return button;
 }
 

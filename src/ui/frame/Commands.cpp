@@ -11,6 +11,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "ui/frame/Icons.h"
+
 namespace tavrin {
 
 namespace {
@@ -47,7 +49,7 @@ void Commands::add(const Command& command) {
     if (title.startsWith('|')) menu->addSeparator();
     auto* action = new QAction(command.text, &window_);
     action->setObjectName(command.id);
-    if (*command.icon) action->setIcon(QIcon::fromTheme(command.icon));
+    if (*command.icon) action->setIcon(lineIcon(command.icon));
     if (!command.toolTip.isEmpty()) action->setToolTip(command.toolTip);
     action->setCheckable(command.kind == Command::Kind::checked);
     if (command.kind == Command::Kind::held) {

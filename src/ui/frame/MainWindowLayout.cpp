@@ -42,10 +42,16 @@ void MainWindow::layOut() {
     std::ranges::move(stripCommands(*this), std::back_inserter(table));
     std::ranges::move(fileCommands(*this), std::back_inserter(table));
     std::ranges::move(pageCommands(*panel_), std::back_inserter(table));
+    std::vector<Command> effects = effectCommands(*panel_->effects());
+    const auto help =
+        std::ranges::find(table, std::string_view("&Help"), [](const Command& one) { return one.menu; });
+    table.insert(help, std::move_iterator(effects.begin()), std::move_iterator(effects.end()));
     commands_ = new Commands(*this, std::move(table));
     std::vector<QAction*> actions;
     for (const Command& command : commands_->table())
         actions.push_back(commands_->action(command.id));
+    panel_->effects()->addFreeze(commands_->action("clickedButtonfreezebackground"),
+                                 commands_->action("clickedButtonfreezebackgroundclear"));
     panel_->setActions(std::move(actions));
     auto* recent = new QMenu(tr("Open &Recent"), this);
     recent->setObjectName("recentFiles");
@@ -74,7 +80,7 @@ void MainWindow::makeToolBar() {
     label->setBuddy(sizeBox_);
     bar->addWidget(label);
     bar->addWidget(sizeBox_);
-    bar->addWidget(buttonOf(commands_->action("Save"), bar));
+    bar->addWidget(buttonOf(commands_->action("Save"), bar, Qt::ToolButtonTextOnly));
 }
 
 void MainWindow::makeStatusLine() {

@@ -27,7 +27,7 @@ std::vector<Command> stripCommands(MainWindow& w) {
          "&File",
          MainWindow::tr("Open F&older..."),
          MainWindow::tr("Fills the strip with a folder's portraits and opens the first"),
-         "folder-open",
+         "folder-open/folder",
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
          {},
          [&w](bool) { w.askForFolder(); }},

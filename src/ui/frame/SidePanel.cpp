@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QButtonGroup>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -47,7 +48,8 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
       nothing_(new QLabel(tr("No control has these words."))),
       found_(new QWidget),
       scroll_(makePages()),
-      adjust_(new AdjustPage(binder)) {
+      adjust_(new AdjustPage(binder)),
+      effects_(new EffectsPage(binder)) {
     setObjectName("ControlPickerWindow");
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     auto* whole = new QWidget(this);
@@ -60,7 +62,9 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
     column->addWidget(chips);
     column->addWidget(scroll_, 1);
     setWidget(whole);
+    connect(effects_, &EffectsPage::wanted, this, &SidePanel::reveal);
     addPage(adjust_);
+    addPage(effects_);
 }
 
 QLineEdit* SidePanel::makeSearch() {
@@ -215,9 +219,10 @@ void SidePanel::reveal(const QWidget* item) {
     search_->clear();
     for (PanelPage* page : pages_)
         if (page->isAncestorOf(item)) selectMainTab(page->title().key);
-    for (GroupBox* group : groups_)
-        if (group->isAncestorOf(item)) group->setFolded(false);
-    scroll_->widget()->layout()->activate();
+    const auto group = std::ranges::find_if(groups_, [item](const GroupBox* one) { return one->isAncestorOf(item); });
+    if (group != groups_.end()) (*group)->setFolded(false);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    if (group != groups_.end()) scroll_->ensureWidgetVisible(*group);  // all of it, where it fits
     scroll_->ensureWidgetVisible(const_cast<QWidget*>(item));
     giveFocus(const_cast<QWidget*>(item));
 }

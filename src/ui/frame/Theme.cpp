@@ -7,6 +7,7 @@
 #include <QStyleOption>
 
 #include "ui/WindowSettings.h"
+#include "ui/frame/Icons.h"
 
 namespace tavrin {
 
@@ -69,10 +70,22 @@ QLineEdit:focus { border: 2px solid palette(highlight); padding: 1px; }
 QFrame#messageBar { background: palette(button); border-bottom: 1px solid palette(mid); }
 )";
 
-/// Boxes whose outline can be seen on any ground.
+/// Boxes whose outline can be seen on any ground, and icons of menus in the colour of their text.
 class DeskStyle : public QProxyStyle {
   public:
     DeskStyle() : QProxyStyle("Fusion") {}
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        const bool isChosen = item && element == CE_MenuItem && item->state.testFlag(State_Selected);
+        if (!isChosen || item->icon.isNull() || !item->state.testFlag(State_Enabled))
+            return QProxyStyle::drawControl(element, option, painter, widget);
+        QStyleOptionMenuItem chosen = *item;
+        const int side = pixelMetric(PM_SmallIconSize, option, widget);
+        chosen.icon = item->icon.pixmap({side, side}, painter->device()->devicePixelRatioF(), QIcon::Selected);
+        QProxyStyle::drawControl(element, &chosen, painter, widget);
+    }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
@@ -109,9 +122,10 @@ bool desktopIsDark() {
 }  // namespace
 
 void useTheme(Theme theme) {
-    const bool dark = desktopIsDark();
+    const bool dark = theme == Theme::dark || (theme == Theme::desktop && desktopIsDark());
+    useIconTheme(dark);
     QApplication::setStyle(new DeskStyle);
-    QApplication::setPalette(paletteOf(theme == Theme::dark || (theme == Theme::desktop && dark) ? kDark : kLight));
+    QApplication::setPalette(paletteOf(dark ? kDark : kLight));
     qApp->setStyleSheet(kStyleSheet);
 }
 

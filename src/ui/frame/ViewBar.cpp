@@ -48,9 +48,9 @@ ViewBar::ViewBar(const Commands& commands, PictureView* view, QWidget* parent) :
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(8, 3, 8, 3);
     line->setSpacing(2);
-    const auto add = [&](std::initializer_list<const char*> ids) {
+    const auto add = [&](std::initializer_list<const char*> ids, Qt::ToolButtonStyle style = Qt::ToolButtonIconOnly) {
         for (const char* id : ids)
-            line->addWidget(buttonOf(commands.action(id), this));
+            line->addWidget(buttonOf(commands.action(id), this, style));
     };
     const auto divide = [&] {
         auto* rule = new QFrame(this);
@@ -67,7 +67,7 @@ ViewBar::ViewBar(const Commands& commands, PictureView* view, QWidget* parent) :
     line->addWidget(new ZoomSlider(view, this));
     add({"ZoomIn"});
     divide();
-    add({"ShowSplit", "ShowAlpha", "ShowScreen", "ShowGuard", "AskPicture"});
+    add({"ShowSplit", "ShowAlpha", "ShowScreen", "ShowGuard", "AskPicture"}, Qt::ToolButtonTextBesideIcon);
     divide();
     add({"UndoButton", "RedoButton"});
     line->addStretch();

@@ -26,8 +26,9 @@ QRectF Zoom::shownFrame() const {
 
 QPoint Zoom::pixelAt(const QPointF& view) const {
     const QRectF rect = shownFrame();
-    return {static_cast<int>(std::floor((view.x() - rect.x()) * picture_.width() / rect.width())),
-            static_cast<int>(std::floor((view.y() - rect.y()) * picture_.height() / rect.height()))};
+    constexpr double kSlack = 1e-6;  // the edge of a pixel belongs to it, however its place was rounded
+    return {static_cast<int>(std::floor((view.x() - rect.x()) * picture_.width() / rect.width() + kSlack)),
+            static_cast<int>(std::floor((view.y() - rect.y()) * picture_.height() / rect.height() + kSlack))};
 }
 
 void Zoom::setView(QSizeF points, double devicePixelRatio) {
