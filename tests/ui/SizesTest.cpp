@@ -35,7 +35,7 @@ class SizesTest : public test::WindowTest {
         field->setFocus();
         field->selectAll();
         QTest::keyClicks(field, text);
-        field->clearFocus();
+        emit field->editingFinished();  // what the focus emits when it goes
     }
     bool dialogIsOpen(const char* name) {
         const auto* dialog = window_->findChild<QDialog*>(name);
