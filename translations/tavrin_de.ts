@@ -907,7 +907,7 @@
     </message>
     <message>
         <source>Keeps green that the subject wears: all that the screen does not reach, or clothes of one colour.</source>
-        <translation>Behält Grün, das die Person trägt: alles, was der Schirm nicht erreicht, oder Kleidung einer Farbe.</translation>
+        <translation>Behält Grün, das die Person trägt: alles, was die Leinwand nicht erreicht, oder Kleidung einer Farbe.</translation>
     </message>
     <message>
         <source>Nothing</source>
@@ -923,11 +923,11 @@
     </message>
     <message>
         <source>Counts as screen</source>
-        <translation>Zählt als Schirm</translation>
+        <translation>Zählt als Leinwand</translation>
     </message>
     <message>
         <source>How far a green may be from the screen and still count as screen. To the left more is protected.</source>
-        <translation>Wie weit ein Grün vom Schirm entfernt sein und noch als Schirm zählen darf. Nach links wird mehr geschützt.</translation>
+        <translation>Wie weit ein Grün von der Leinwand entfernt sein und noch als Leinwand zählen darf. Nach links wird mehr geschützt.</translation>
     </message>
     <message>
         <source>Free edge</source>
@@ -951,7 +951,7 @@
     </message>
     <message>
         <source>Screen that is seen between an arm and the body goes all the same.</source>
-        <translation>Schirm, der zwischen Arm und Körper zu sehen ist, verschwindet trotzdem.</translation>
+        <translation>Leinwand, die zwischen Arm und Körper zu sehen ist, verschwindet trotzdem.</translation>
     </message>
     <message>
         <source>Show what is protected</source>
@@ -1312,6 +1312,14 @@
     <message>
         <source>How far the surface moves the picture about. Above 10 it tears faces.</source>
         <translation>Wie weit die Oberfläche das Bild verschiebt. Über 10 zerreißt sie Gesichter.</translation>
+    </message>
+    <message>
+        <source>Light parts</source>
+        <translation>Helle Teile</translation>
+    </message>
+    <message>
+        <source>Dark parts</source>
+        <translation>Dunkle Teile</translation>
     </message>
     <message>
         <source>Raised parts</source>

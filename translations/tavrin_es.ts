@@ -1314,6 +1314,14 @@
         <translation>Cuánto mueve la superficie la imagen. Por encima de 10 rompe las caras.</translation>
     </message>
     <message>
+        <source>Light parts</source>
+        <translation>Partes claras</translation>
+    </message>
+    <message>
+        <source>Dark parts</source>
+        <translation>Partes oscuras</translation>
+    </message>
+    <message>
         <source>Raised parts</source>
         <translation>Relieve</translation>
     </message>

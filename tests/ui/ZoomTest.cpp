@@ -53,6 +53,14 @@ TEST(ZoomTest, AHundredPercentIsAPixelOnADevicePixel) {
     EXPECT_NEAR(zoom.dZoom(), Zoom::kLeast, 1e-9);
 }
 
+TEST(ZoomTest, AtAHundredPercentThePointerIsOnThePixelThatIsShownThereInAViewOfAnySize) {
+    for (int width = 700; width < 1100; ++width) {
+        Zoom zoom = zoomOf({static_cast<double>(width), 0.77 * width}, {240, 300});
+        zoom.setPixelScale({300, 300}, 1.0);
+        EXPECT_EQ(zoom.pixelAt(zoom.shownFrame().topLeft() + QPointF(70, 90)), QPoint(70, 90)) << width;
+    }
+}
+
 TEST(ZoomTest, APictureThatIsLessThanFittedStaysSoWhileTheViewStaysAsItIs) {
     Zoom zoom = zoomOf({800, 700}, {240, 300});
     zoom.setPixelScale({400, 350}, 1.0);

@@ -52,8 +52,8 @@ std::vector<Binding> bindingsOf(const Place& place) {
         radio(joined("radioTextureWhite", place.end), place.radio, joined(place.object, "bWhite"), 0,
               QT_TRANSLATE_NOOP("Panel", "Raised parts"),
               QT_TRANSLATE_NOOP("Panel", "Whether the dark or the light parts of the texture rise."),
-              {{joined("buttonTextureDark", place.end), "1", 0, QT_TRANSLATE_NOOP("Panel", "Light")},
-               {joined("buttonTextureWhite", place.end), "2", 1, QT_TRANSLATE_NOOP("Panel", "Dark")}}));
+              {{joined("buttonTextureDark", place.end), "1", 0, QT_TRANSLATE_NOOP("Panel", "Light parts")},
+               {joined("buttonTextureWhite", place.end), "2", 1, QT_TRANSLATE_NOOP("Panel", "Dark parts")}}));
     return bindings;
 }
 
