@@ -8,6 +8,7 @@
 
 #include "core/files/NameText.h"
 #include "core/state/ChangeFlags.h"
+#include "session/TextItems.h"
 
 namespace tavrin {
 
@@ -17,8 +18,8 @@ constexpr double kLeastScale = 0.01;
 
 }  // namespace
 
-ItemTool::ItemTool(Binder& binder, CombineThread& loop, PictureView* view)
-    : QObject(view), binder_(binder), loop_(loop), view_(view) {
+ItemTool::ItemTool(Binder& binder, PictureView* view)
+    : QObject(view), binder_(binder), view_(view) {
     textSelectTimer_.setInterval(500);
     connect(&textSelectTimer_, &QTimer::timeout, this, &ItemTool::OnTextSelectTimer);
     connect(view_, &PictureView::zoomed, this, [this] {
@@ -167,23 +168,11 @@ void ItemTool::askToDelete(int row) {
     question->open();
 }
 
-/// Steps of undo name items by their number, so none of them holds for a shorter list.
 void ItemTool::deleteTextItemRow(int row) {
     iSelectedFontIndex_ = -1;
     hideFrame();
-    loop_.post([this, row] {
-        SystemInfo& info = binder_.editor().info();
-        if (row < 0 || row >= info.iFontObjectCount()) return;
-        raiseFlags(info, redoOf(info, "text" + std::to_string(row) + ".sText"));
-        info.oFontObject.erase(info.oFontObject.begin() + row);
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                binder_.editor().forgetSteps();
-                emit binder_.changed();
-            },
-            Qt::QueuedConnection);
-    });
+    binder_.run(tr("Delete an item"),
+                [row](SettingEditor& editor) { removeItem(editor, static_cast<std::size_t>(row)); });
 }
 
 }  // namespace tavrin

@@ -3,7 +3,6 @@
 #include <QObject>
 #include <QTimer>
 
-#include "pipeline/CombineThread.h"
 #include "ui/bind/Binder.h"
 #include "ui/views/PictureView.h"
 
@@ -17,7 +16,7 @@ class ItemTool : public QObject {
   public:
     static constexpr int kShowCount = 8;  ///< half seconds for which an untouched frame stays
 
-    ItemTool(Binder& binder, CombineThread& loop, PictureView* view);
+    ItemTool(Binder& binder, PictureView* view);
 
     bool bShowTextCursor() const { return view_->selection().has_value(); }
     /// The item of the list that was selected last; -1 before.
@@ -50,7 +49,6 @@ class ItemTool : public QObject {
     std::string name(const char* field) const;
 
     Binder& binder_;
-    CombineThread& loop_;
     PictureView* view_;
     QTimer textSelectTimer_;
     int iSelectedFontIndex_ = -1, iTextShowCount_ = 0;
