@@ -1,7 +1,9 @@
 // Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1 and 2, with the
 // groups as they are at first, all open, a message, and a folder in the strip; in German and Spanish at scale 1. File
 // names say which is which.
+#include <algorithm>
 #include <cstdio>
+#include <functional>
 
 #include <QApplication>
 #include <QDialog>
@@ -15,6 +17,8 @@
 #include <QTemporaryDir>
 
 #include "SampleState.h"
+#include "formats/Installation.h"
+#include "session/SettingChanges.h"
 #include "ui/frame/Language.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
@@ -90,6 +94,45 @@ void showFolder(MainWindow& window, SystemInfo& info, const QString& folder) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
 }
 
+/// The effect panels, a few open at a time, on a picture with a shadow, a frame and a texture.
+void shootEffects(MainWindow& window, const std::function<void(const char*)>& save) {
+    const std::vector<std::vector<const char*>> open = {
+        {"groupShadow"},
+        {"MyEffectsFrame1Panel", "MyEffectsTextureFramePanel"},
+        {"MyEffectsFrame2Panel", "MyEffectsTextureFrameOverlayPanel"},
+        {"MyEffectsLightingPanel", "MyEffectsReflectionsPanel"},
+        {"MyEffectsTextureReflectionPanel", "MyEffectsBWPanel", "groupBlur", "MyEffectsCartoonPanel"},
+        {"MyEffectsTexturePanel", "MyEffectsSmoothPanel"},
+        {"myGlobalSmoothingPanel", "myStarFilterPanel", "MyEffectsSilhouettePanel"},
+        {"myGreenGuardPanel", "groupFreeze"}};
+    window.panel()->selectMainTab(1);
+    window.binder().run("", [&](SettingEditor& editor) {
+        for (const char* look : {"shadow wall", "frame oval", "texture canvas"}) {
+            const QStringList words = QString(look).split(' ');
+            takeLook(editor.info(), *findPresetGroup(words[0].toStdString()), words[1].toStdString());
+        }
+        editor.set("frame.iFrameMode", "4");
+        editor.set("frame.sFrameImagePath", shippedPicture("FrameAndSilhouetteBackgrounds/Walnut.jpg"));
+        editor.set("frame.texture.sTextureFileName", "/gone/linen.jpg");
+        editor.set("frame.texture.bHaveTexture", "1");
+    });
+    for (const auto& groups : open) {
+        for (GroupBox* group : window.panel()->effects()->groups())
+            group->setFolded(std::ranges::find(groups, group->objectName(),
+                                               [](const char* name) { return QString(name); }) == groups.end());
+        window.panel()->effects()->openPanel(groups.front());
+        save(groups.front());
+    }
+    window.binder().run("", [&](SettingEditor& editor) {
+        editor.set("frame.texture.bHaveTexture", "0");
+        editor.set("frame.texture.sTextureFileName", "");
+    });
+    for (const char* effect : {"groupShadow", "MyEffectsFrame1Panel", "MyEffectsTexturePanel"})
+        for (const GroupBox* group : window.panel()->effects()->groups())
+            if (group->objectName() == effect) window.binder().resetGroup(group->group());
+    window.binder().editor().forgetSteps();
+}
+
 /// @return whether every picture was written
 bool shootAll(const QString& folder, const QString& scale, const QString& language) {
     bool all = true;
@@ -110,6 +153,7 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
             window.panel()->selectMainTab(page->title().key);
             save(page->title().name);
         }
+        shootEffects(window, save);
         window.panel()->selectMainTab(0);
         const auto action = [&](const char* id) { return window.commands().action(id); };
         const auto shoots = [&](const char* id, const char* name) {

@@ -34,6 +34,10 @@
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
+    <message>
+        <source>E&amp;ffects</source>
+        <translation>&amp;Effekte</translation>
+    </message>
 </context>
 <context>
     <name>Panel</name>
@@ -577,6 +581,814 @@
         <source>Start-up files, folders, names of saved files and habits</source>
         <translation>Dateien für den Start, Ordner, Namen gespeicherter Dateien und Gewohnheiten</translation>
     </message>
+    <message>
+        <source>Cartoon and pencil</source>
+        <translation>Comic und Bleistift</translation>
+    </message>
+    <message>
+        <source>Drawn as</source>
+        <translation>Gezeichnet als</translation>
+    </message>
+    <message>
+        <source>Makes a drawing of the full picture; the preview shows none of it. Each kind starts with lines that suit it.</source>
+        <translation>Macht aus dem vollen Bild eine Zeichnung; die Vorschau zeigt nichts davon. Jede Art beginnt mit Linien, die zu ihr passen.</translation>
+    </message>
+    <message>
+        <source>Cartoon</source>
+        <translation>Comic</translation>
+    </message>
+    <message>
+        <source>Pencil</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Old paper</source>
+        <translation>Altes Papier</translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
+        <source>To the right lines grow broader.</source>
+        <translation>Nach rechts werden die Linien breiter.</translation>
+    </message>
+    <message>
+        <source>Flat areas</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>To the right fine detail becomes one tone.</source>
+        <translation>Nach rechts werden feine Einzelheiten zu einem Ton.</translation>
+    </message>
+    <message>
+        <source>Stars</source>
+        <translation>Sterne</translation>
+    </message>
+    <message>
+        <source>Show stars</source>
+        <translation>Sterne zeigen</translation>
+    </message>
+    <message>
+        <source>Draws a star on each small bright light, as a filter on a lens does.</source>
+        <translation>Zeichnet auf jedes kleine helle Licht einen Stern, wie ein Filter auf dem Objektiv.</translation>
+    </message>
+    <message>
+        <source>How bright a light must be. To the left more count.</source>
+        <translation>Wie hell ein Licht sein muss. Nach links zählen mehr.</translation>
+    </message>
+    <message>
+        <source>Largest light</source>
+        <translation>Größtes Licht</translation>
+    </message>
+    <message>
+        <source>How large a light may be; 50 is a hundredth of the picture.</source>
+        <translation>Wie groß ein Licht sein darf; 50 ist ein Hundertstel des Bildes.</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>To the right the arms grow longer.</source>
+        <translation>Nach rechts werden die Strahlen länger.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>To the right the arms grow broader.</source>
+        <translation>Nach rechts werden die Strahlen breiter.</translation>
+    </message>
+    <message>
+        <source>Arms</source>
+        <translation>Strahlen</translation>
+    </message>
+    <message>
+        <source>How many arms a star has.</source>
+        <translation>Wie viele Strahlen ein Stern hat.</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Turns the star, in degrees.</source>
+        <translation>Dreht den Stern, in Grad.</translation>
+    </message>
+    <message>
+        <source>Show the lights that count</source>
+        <translation>Lichter zeigen, die zählen</translation>
+    </message>
+    <message>
+        <source>Marks the lights in place of the stars, to set the controls by.</source>
+        <translation>Markiert die Lichter statt der Sterne, um die Regler danach zu stellen.</translation>
+    </message>
+    <message>
+        <source>Takes the shadow away.</source>
+        <translation>Nimmt den Schatten weg.</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>Wand</translation>
+    </message>
+    <message>
+        <source>A shadow on a wall behind the subject, at its starting position.</source>
+        <translation>Ein Schatten auf einer Wand hinter der Person, an seinem Ausgangsplatz.</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Boden</translation>
+    </message>
+    <message>
+        <source>A shadow on the floor, at its starting position.</source>
+        <translation>Ein Schatten auf dem Boden, an seinem Ausgangsplatz.</translation>
+    </message>
+    <message>
+        <source>Floor and wall</source>
+        <translation>Boden, Wand</translation>
+    </message>
+    <message>
+        <source>A shadow over the floor and up a wall, at its starting position.</source>
+        <translation>Ein Schatten über den Boden und eine Wand hinauf, an seinem Ausgangsplatz.</translation>
+    </message>
+    <message>
+        <source>Start with usual values</source>
+        <translation>Mit üblichen Werten beginnen</translation>
+    </message>
+    <message>
+        <source>Skin is smoothed a little, as suits most faces.</source>
+        <translation>Haut wird ein wenig geglättet, wie es zu den meisten Gesichtern passt.</translation>
+    </message>
+    <message>
+        <source>The chosen shape at a usual place and strength; a circle if none is.</source>
+        <translation>Die gewählte Form an üblichem Platz in üblicher Stärke; ein Kreis, wenn keine gewählt ist.</translation>
+    </message>
+    <message>
+        <source>Six slender arms on each small light.</source>
+        <translation>Sechs schlanke Strahlen auf jedem kleinen Licht.</translation>
+    </message>
+    <message>
+        <source>The finished picture, smoothed a little.</source>
+        <translation>Das fertige Bild, ein wenig geglättet.</translation>
+    </message>
+    <message>
+        <source>As on calm water; the line stays where it is.</source>
+        <translation>Wie auf ruhigem Wasser; die Linie bleibt, wo sie ist.</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Struktur</translation>
+    </message>
+    <message>
+        <source>A picture of a surface, such as canvas or paper. A file can be dropped here.</source>
+        <translation>Das Bild einer Oberfläche, etwa Leinwand oder Papier. Eine Datei kann hierher gezogen werden.</translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Frame picture</source>
+        <translation>Rahmenbild</translation>
+    </message>
+    <message>
+        <source>Fills the frame with a picture, such as wood or gold. A file can be dropped here.</source>
+        <translation>Füllt den Rahmen mit einem Bild, etwa Holz oder Gold. Eine Datei kann hierher gezogen werden.</translation>
+    </message>
+    <message>
+        <source>Picture in the shape</source>
+        <translation>Bild in der Form</translation>
+    </message>
+    <message>
+        <source>Fills the silhouette in place of its colour. A file can be dropped here.</source>
+        <translation>Füllt den Schattenriss anstelle seiner Farbe. Eine Datei kann hierher gezogen werden.</translation>
+    </message>
+    <message>
+        <source>Select Silhouette Image</source>
+        <translation>Bild für den Schattenriss wählen</translation>
+    </message>
+    <message>
+        <source>Frame colour</source>
+        <translation>Rahmenfarbe</translation>
+    </message>
+    <message>
+        <source>The colour of a frame that is filled with one.</source>
+        <translation>Die Farbe eines Rahmens, der mit einer gefüllt ist.</translation>
+    </message>
+    <message>
+        <source>Select Font Outline Color</source>
+        <translation>Farbe der Schriftkontur wählen</translation>
+    </message>
+    <message>
+        <source>Select Frame Overlay Color</source>
+        <translation>Farbe des zweiten Rahmens wählen</translation>
+    </message>
+    <message>
+        <source>Colour of the shape</source>
+        <translation>Farbe der Form</translation>
+    </message>
+    <message>
+        <source>The colour of the silhouette where no picture fills it.</source>
+        <translation>Die Farbe des Schattenrisses, wo ihn kein Bild füllt.</translation>
+    </message>
+    <message>
+        <source>Select Silhouette Color</source>
+        <translation>Farbe des Schattenrisses wählen</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effekte</translation>
+    </message>
+    <message>
+        <source>Shadow, frames, light, drawings, textures, skin</source>
+        <translation>Schatten, Rahmen, Licht, Zeichnungen, Strukturen, Haut</translation>
+    </message>
+    <message>
+        <source>Freeze</source>
+        <translation>Einfrieren</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>The opening in which the picture is seen.</source>
+        <translation>Die Öffnung, in der das Bild zu sehen ist.</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Eckig</translation>
+    </message>
+    <message>
+        <source>Oval</source>
+        <translation>Oval</translation>
+    </message>
+    <message>
+        <source>Heart</source>
+        <translation>Herz</translation>
+    </message>
+    <message>
+        <source>Jagged</source>
+        <translation>Gezackt</translation>
+    </message>
+    <message>
+        <source>Filled with</source>
+        <translation>Gefüllt mit</translation>
+    </message>
+    <message>
+        <source>What the frame is made of: a colour, the picture blurred, the background, or a picture of your own.</source>
+        <translation>Woraus der Rahmen ist: eine Farbe, das Bild unscharf, der Hintergrund oder ein eigenes Bild.</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Unschärfe</translation>
+    </message>
+    <message>
+        <source>Backgr.</source>
+        <translation>Hintergr.</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Thickness</source>
+        <translation>Dicke</translation>
+    </message>
+    <message>
+        <source>How wide the frame is, in percent of the shorter side.</source>
+        <translation>Wie breit der Rahmen ist, in Prozent der kürzeren Seite.</translation>
+    </message>
+    <message>
+        <source>Soft edge</source>
+        <translation>Weicher Rand</translation>
+    </message>
+    <message>
+        <source>To the right the inner edge of the frame grows softer.</source>
+        <translation>Nach rechts wird der innere Rand des Rahmens weicher.</translation>
+    </message>
+    <message>
+        <source>See-through</source>
+        <translation>Durchsichtig</translation>
+    </message>
+    <message>
+        <source>To the right more of the picture shows through the frame.</source>
+        <translation>Nach rechts scheint mehr vom Bild durch den Rahmen.</translation>
+    </message>
+    <message>
+        <source>How blurred the picture is in a frame that is filled with it.</source>
+        <translation>Wie unscharf das Bild in einem Rahmen ist, den es füllt.</translation>
+    </message>
+    <message>
+        <source>Arch</source>
+        <translation>Bogen</translation>
+    </message>
+    <message>
+        <source>Leaves the lower side of a square or an oval open, like a door.</source>
+        <translation>Lässt bei eckig und oval die untere Seite offen, wie bei einer Tür.</translation>
+    </message>
+    <message>
+        <source>Second frame</source>
+        <translation>Zweiter Rahmen</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Green guard</source>
+        <translation>Grünschutz</translation>
+    </message>
+    <message>
+        <source>Protect</source>
+        <translation>Schützen</translation>
+    </message>
+    <message>
+        <source>Keeps green that the subject wears: all that the screen does not reach, or clothes of one colour.</source>
+        <translation>Behält Grün, das die Person trägt: alles, was der Schirm nicht erreicht, oder Kleidung einer Farbe.</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Innen</translation>
+    </message>
+    <message>
+        <source>Clothes</source>
+        <translation>Kleidung</translation>
+    </message>
+    <message>
+        <source>Counts as screen</source>
+        <translation>Zählt als Schirm</translation>
+    </message>
+    <message>
+        <source>How far a green may be from the screen and still count as screen. To the left more is protected.</source>
+        <translation>Wie weit ein Grün vom Schirm entfernt sein und noch als Schirm zählen darf. Nach links wird mehr geschützt.</translation>
+    </message>
+    <message>
+        <source>Free edge</source>
+        <translation>Freier Rand</translation>
+    </message>
+    <message>
+        <source>Along the outline the guard leaves a band of this width to the key.</source>
+        <translation>Am Umriss überlässt der Schutz der Freistellung einen so breiten Streifen.</translation>
+    </message>
+    <message>
+        <source>Counts as clothes</source>
+        <translation>Zählt als Kleidung</translation>
+    </message>
+    <message>
+        <source>How far a colour may be from the clothes and still be protected. To the right more is.</source>
+        <translation>Wie weit eine Farbe von der Kleidung entfernt sein und noch geschützt werden darf. Nach rechts wird mehr geschützt.</translation>
+    </message>
+    <message>
+        <source>Key holes in the subject</source>
+        <translation>Löcher in der Person freistellen</translation>
+    </message>
+    <message>
+        <source>Screen that is seen between an arm and the body goes all the same.</source>
+        <translation>Schirm, der zwischen Arm und Körper zu sehen ist, verschwindet trotzdem.</translation>
+    </message>
+    <message>
+        <source>Show what is protected</source>
+        <translation>Zeigen, was geschützt ist</translation>
+    </message>
+    <message>
+        <source>Shows the guard in place of the picture until the panel is closed.</source>
+        <translation>Zeigt den Schutz statt des Bildes, bis die Gruppe geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>Behind the subject</source>
+        <translation>Hinter der Person</translation>
+    </message>
+    <message>
+        <source>The shadow falls away from the viewer and not towards him.</source>
+        <translation>Der Schatten fällt vom Betrachter weg und nicht auf ihn zu.</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>Moves the shadow; 500 leaves it behind the subject.</source>
+        <translation>Verschiebt den Schatten; 500 lässt ihn hinter der Person.</translation>
+    </message>
+    <message>
+        <source>Up, down</source>
+        <translation>Auf, ab</translation>
+    </message>
+    <message>
+        <source>Moves the shadow; 500 leaves it where the subject is.</source>
+        <translation>Verschiebt den Schatten; 500 lässt ihn, wo die Person ist.</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>500 is as large as the subject; to the right it grows.</source>
+        <translation>500 ist so groß wie die Person; nach rechts wächst er.</translation>
+    </message>
+    <message>
+        <source>Softness</source>
+        <translation>Weichheit</translation>
+    </message>
+    <message>
+        <source>To the right the shadow&apos;s edge grows softer.</source>
+        <translation>Nach rechts wird der Rand des Schattens weicher.</translation>
+    </message>
+    <message>
+        <source>Strength</source>
+        <translation>Stärke</translation>
+    </message>
+    <message>
+        <source>To the right the shadow grows darker.</source>
+        <translation>Nach rechts wird der Schatten dunkler.</translation>
+    </message>
+    <message>
+        <source>Slant</source>
+        <translation>Schräge</translation>
+    </message>
+    <message>
+        <source>Lays a shadow on the floor over to one side; 500 is straight.</source>
+        <translation>Legt einen Schatten auf dem Boden zur Seite; 500 ist gerade.</translation>
+    </message>
+    <message>
+        <source>Foot line</source>
+        <translation>Fußlinie</translation>
+    </message>
+    <message>
+        <source>The line on which the subject stands, red in the preview. To the right it rises.</source>
+        <translation>Die Linie, auf der die Person steht, rot in der Vorschau. Nach rechts steigt sie.</translation>
+    </message>
+    <message>
+        <source>Tilt of the line</source>
+        <translation>Neigung</translation>
+    </message>
+    <message>
+        <source>Turns the foot line; 500 is level.</source>
+        <translation>Dreht die Fußlinie; 500 ist waagerecht.</translation>
+    </message>
+    <message>
+        <source>Wall, right</source>
+        <translation>Wand rechts</translation>
+    </message>
+    <message>
+        <source>Where the wall meets the floor at the right edge. 0 and 0: no wall.</source>
+        <translation>Wo die Wand am rechten Rand auf den Boden trifft. 0 und 0: keine Wand.</translation>
+    </message>
+    <message>
+        <source>Wall, left</source>
+        <translation>Wand links</translation>
+    </message>
+    <message>
+        <source>Where the wall meets the floor at the left edge. 0 and 0: no wall.</source>
+        <translation>Wo die Wand am linken Rand auf den Boden trifft. 0 und 0: keine Wand.</translation>
+    </message>
+    <message>
+        <source>Show the room</source>
+        <translation>Raum zeigen</translation>
+    </message>
+    <message>
+        <source>Shows wall and floor in grey to place the shadow by; only in the preview.</source>
+        <translation>Zeigt Wand und Boden in Grau, um den Schatten danach zu setzen; nur in der Vorschau.</translation>
+    </message>
+    <message>
+        <source>Dark limit</source>
+        <translation>Dunkelgrenze</translation>
+    </message>
+    <message>
+        <source>What is darker than this counts as the subject, too. To the right more does.</source>
+        <translation>Was dunkler ist, zählt auch zur Person. Nach rechts zählt mehr.</translation>
+    </message>
+    <message>
+        <source>Reflection</source>
+        <translation>Spiegelung</translation>
+    </message>
+    <message>
+        <source>Show a reflection</source>
+        <translation>Spiegelung zeigen</translation>
+    </message>
+    <message>
+        <source>Mirrors the subject below a line, as on water or a polished floor.</source>
+        <translation>Spiegelt die Person unter einer Linie, wie auf Wasser oder einem blanken Boden.</translation>
+    </message>
+    <message>
+        <source>Water line</source>
+        <translation>Wasserlinie</translation>
+    </message>
+    <message>
+        <source>Where the mirror begins, in percent from the bottom; red in the preview.</source>
+        <translation>Wo der Spiegel beginnt, in Prozent von unten; rot in der Vorschau.</translation>
+    </message>
+    <message>
+        <source>100 is as long as the subject; to the left it is shorter.</source>
+        <translation>100 ist so lang wie die Person; nach links wird sie kürzer.</translation>
+    </message>
+    <message>
+        <source>Lays the reflection over to one side; 50 is straight.</source>
+        <translation>Legt die Spiegelung zur Seite; 50 ist gerade.</translation>
+    </message>
+    <message>
+        <source>Ripples</source>
+        <translation>Wellen</translation>
+    </message>
+    <message>
+        <source>To the right the water line moves more; 0 is a floor.</source>
+        <translation>Nach rechts bewegt sich die Wasserlinie mehr; 0 ist ein Boden.</translation>
+    </message>
+    <message>
+        <source>To the right the reflection grows clearer.</source>
+        <translation>Nach rechts wird die Spiegelung deutlicher.</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>Beleuchtung</translation>
+    </message>
+    <message>
+        <source>A graded sheet, a spot, a beam, or a halo around the subject.</source>
+        <translation>Ein Verlauf, ein Fleck, ein Strahl oder ein Schein um die Person.</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>Kegel</translation>
+    </message>
+    <message>
+        <source>Glow</source>
+        <translation>Schein</translation>
+    </message>
+    <message>
+        <source>Falls on</source>
+        <translation>Fällt auf</translation>
+    </message>
+    <message>
+        <source>What the light changes.</source>
+        <translation>Was das Licht verändert.</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Beide</translation>
+    </message>
+    <message>
+        <source>Light, inside</source>
+        <translation>Licht innen</translation>
+    </message>
+    <message>
+        <source>Where the light begins. 50 changes nothing; to the left it darkens.</source>
+        <translation>Wo das Licht beginnt. 50 ändert nichts; nach links wird es dunkler.</translation>
+    </message>
+    <message>
+        <source>Light, outside</source>
+        <translation>Licht außen</translation>
+    </message>
+    <message>
+        <source>Where the light ends. 50 changes nothing; to the left it darkens.</source>
+        <translation>Wo das Licht endet. 50 ändert nichts; nach links wird es dunkler.</translation>
+    </message>
+    <message>
+        <source>Moves the light. 200 is the middle for a circle, 50 for a cone.</source>
+        <translation>Verschiebt das Licht. 200 ist die Mitte für einen Kreis, 50 für einen Kegel.</translation>
+    </message>
+    <message>
+        <source>To the right the light grows.</source>
+        <translation>Nach rechts wächst das Licht.</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Turns a sheet or a cone, in degrees.</source>
+        <translation>Dreht einen Verlauf oder Kegel, in Grad.</translation>
+    </message>
+    <message>
+        <source>wall</source>
+        <translation>Wand</translation>
+    </message>
+    <message>
+        <source>Wall Shadow</source>
+        <translation>Schatten auf der Wand</translation>
+    </message>
+    <message>
+        <source>floor</source>
+        <translation>Boden</translation>
+    </message>
+    <message>
+        <source>Floor Shadow</source>
+        <translation>Schatten auf dem Boden</translation>
+    </message>
+    <message>
+        <source>wall and floor</source>
+        <translation>Wand und Boden</translation>
+    </message>
+    <message>
+        <source>Wall and Floor Shadow</source>
+        <translation>Schatten auf Wand und Boden</translation>
+    </message>
+    <message>
+        <source>No Shadow Active</source>
+        <translation>Kein Schatten aktiv</translation>
+    </message>
+    <message>
+        <source>Skin and make-up</source>
+        <translation>Haut und Make-up</translation>
+    </message>
+    <message>
+        <source>Smooth skin</source>
+        <translation>Haut glätten</translation>
+    </message>
+    <message>
+        <source>Smooths skin in the full picture; the preview shows none of it.</source>
+        <translation>Glättet Haut im vollen Bild; die Vorschau zeigt nichts davon.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>An</translation>
+    </message>
+    <message>
+        <source>How widely skin is blurred. To the right pores and spots go.</source>
+        <translation>Wie weit Haut verwischt wird. Nach rechts verschwinden Poren und Flecken.</translation>
+    </message>
+    <message>
+        <source>How much of the smooth skin is mixed in; 80 is all of it.</source>
+        <translation>Wie viel der glatten Haut eingemischt wird; 80 ist alles.</translation>
+    </message>
+    <message>
+        <source>Counts as skin</source>
+        <translation>Zählt als Haut</translation>
+    </message>
+    <message>
+        <source>How far a colour may be from the skin and still count. 60 suits most faces.</source>
+        <translation>Wie weit eine Farbe von der Haut entfernt sein und noch zählen darf. 60 passt zu den meisten Gesichtern.</translation>
+    </message>
+    <message>
+        <source>Make-up</source>
+        <translation>Make-up</translation>
+    </message>
+    <message>
+        <source>Evens the colour of the skin. To the right more is laid on.</source>
+        <translation>Gleicht die Farbe der Haut aus. Nach rechts wird mehr aufgetragen.</translation>
+    </message>
+    <message>
+        <source>Keep a little grain</source>
+        <translation>Etwas Korn behalten</translation>
+    </message>
+    <message>
+        <source>Smooths unevenly, so that skin does not look like plastic.</source>
+        <translation>Glättet ungleichmäßig, damit Haut nicht wie Plastik aussieht.</translation>
+    </message>
+    <message>
+        <source>Blend with the original</source>
+        <translation>Mit dem Original mischen</translation>
+    </message>
+    <message>
+        <source>Is kept while the program runs; it changes no picture.</source>
+        <translation>Bleibt, solange das Programm läuft; ändert kein Bild.</translation>
+    </message>
+    <message>
+        <source>Measure the skin</source>
+        <translation>Haut messen</translation>
+    </message>
+    <message>
+        <source>Takes the colour of the skin from this portrait and not an average.</source>
+        <translation>Nimmt die Farbe der Haut aus diesem Porträt und nicht einen Mittelwert.</translation>
+    </message>
+    <message>
+        <source>Show what counts as skin</source>
+        <translation>Zeigen, was als Haut zählt</translation>
+    </message>
+    <message>
+        <source>Shows the skin in white, to set the controls by.</source>
+        <translation>Zeigt die Haut in Weiß, um die Regler danach zu stellen.</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>Glättung</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Glätten</translation>
+    </message>
+    <message>
+        <source>Smooths surfaces and leaves edges: the portrait before the key, or the finished picture.</source>
+        <translation>Glättet Flächen und lässt Kanten: das Porträt vor der Freistellung oder das fertige Bild.</translation>
+    </message>
+    <message>
+        <source>To the right surfaces grow smoother; 0 changes nothing.</source>
+        <translation>Nach rechts werden Flächen glatter; 0 ändert nichts.</translation>
+    </message>
+    <message>
+        <source>How much of the texture is mixed in; to the right more.</source>
+        <translation>Wie viel von der Struktur eingemischt wird; nach rechts mehr.</translation>
+    </message>
+    <message>
+        <source>Darker to the left, brighter to the right; 50 leaves it.</source>
+        <translation>Dunkler nach links, heller nach rechts; 50 lässt es.</translation>
+    </message>
+    <message>
+        <source>How deep the surface is; 50 leaves it as its picture is.</source>
+        <translation>Wie tief die Oberfläche ist; 50 lässt sie, wie ihr Bild ist.</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>Verzerrung</translation>
+    </message>
+    <message>
+        <source>How far the surface moves the picture about. Above 10 it tears faces.</source>
+        <translation>Wie weit die Oberfläche das Bild verschiebt. Über 10 zerreißt sie Gesichter.</translation>
+    </message>
+    <message>
+        <source>Raised parts</source>
+        <translation>Erhabenes</translation>
+    </message>
+    <message>
+        <source>Whether the dark or the light parts of the texture rise.</source>
+        <translation>Ob die dunklen oder die hellen Teile der Struktur erhaben sind.</translation>
+    </message>
+    <message>
+        <source>Texture of the frame</source>
+        <translation>Struktur des Rahmens</translation>
+    </message>
+    <message>
+        <source>Texture of the second frame</source>
+        <translation>Struktur des zweiten Rahmens</translation>
+    </message>
+    <message>
+        <source>Texture of the reflection</source>
+        <translation>Struktur der Spiegelung</translation>
+    </message>
+    <message>
+        <source>Black and white, sepia</source>
+        <translation>Schwarzweiß, Sepia</translation>
+    </message>
+    <message>
+        <source>The colours of the portrait. Shape is kept with the picture and leaves its colours; the panel of silhouettes makes one.</source>
+        <translation>Die Farben des Porträts. Form wird beim Bild gemerkt und lässt seine Farben; die Gruppe Schattenriss macht einen.</translation>
+    </message>
+    <message>
+        <source>B &amp; W</source>
+        <translation>S/W</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+    <message>
+        <source>The colours of the background.</source>
+        <translation>Die Farben des Hintergrunds.</translation>
+    </message>
+    <message>
+        <source>Puts the background out of focus, in thousandths of an inch on paper. To the right it grows softer.</source>
+        <translation>Nimmt den Hintergrund aus der Schärfe, in Tausendstel Zoll auf Papier. Nach rechts wird er weicher.</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>Ganzes Bild</translation>
+    </message>
+    <message>
+        <source>Softens the finished picture, in thousandths of an inch on paper. It wants a range above 0.</source>
+        <translation>Macht das fertige Bild weicher, in Tausendstel Zoll auf Papier. Es braucht einen Bereich über 0.</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>How strong a detail may be and still be softened. To the left edges stay sharp.</source>
+        <translation>Wie stark eine Einzelheit sein und noch weicher werden darf. Nach links bleiben Kanten scharf.</translation>
+    </message>
+    <message>
+        <source>Silhouette</source>
+        <translation>Schattenriss</translation>
+    </message>
+    <message>
+        <source>Show a silhouette</source>
+        <translation>Schattenriss zeigen</translation>
+    </message>
+    <message>
+        <source>The portrait becomes a shape in one colour, or cut out of a picture.</source>
+        <translation>Das Porträt wird zu einer Form in einer Farbe oder aus einem Bild.</translation>
+    </message>
+    <message>
+        <source>Moves the picture inside the shape; 50 leaves it in place.</source>
+        <translation>Verschiebt das Bild in der Form; 50 lässt es am Platz.</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -730,6 +1542,13 @@
     </message>
 </context>
 <context>
+    <name>tavrin::ActionRow</name>
+    <message>
+        <source>Start</source>
+        <translation>Beginn</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::ActionSearch</name>
     <message>
         <source>Find an Action</source>
@@ -785,6 +1604,14 @@
         <source>Reset %1</source>
         <translation>%1 zurücksetzen</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1 aus</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::Chips</name>
@@ -795,10 +1622,6 @@
     <message>
         <source>Put the default back</source>
         <translation>Vorgabewert zurückholen</translation>
-    </message>
-    <message>
-        <source>Reset %1</source>
-        <translation>%1 zurücksetzen</translation>
     </message>
     <message>
         <source>fewer</source>
@@ -815,6 +1638,14 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Switched on; a click leads to its controls</source>
+        <translation>Eingeschaltet; ein Klick führt zu den Reglern</translation>
+    </message>
+    <message>
+        <source>Switch it off</source>
+        <translation>Ausschalten</translation>
     </message>
 </context>
 <context>
@@ -907,6 +1738,33 @@
     </message>
 </context>
 <context>
+    <name>tavrin::EffectsPage</name>
+    <message>
+        <source>Progress of the smoothing of skin</source>
+        <translation>Fortschritt der Hautglättung</translation>
+    </message>
+    <message>
+        <source>The green guard is on.</source>
+        <translation>Der Grünschutz ist an.</translation>
+    </message>
+    <message>
+        <source>The picture is frozen into the background.</source>
+        <translation>Das Bild ist in den Hintergrund eingefroren.</translation>
+    </message>
+    <message>
+        <source>Texture...</source>
+        <translation>Struktur...</translation>
+    </message>
+    <message>
+        <source>Opens the texture of the picture; that of the frame stands below</source>
+        <translation>Öffnet die Struktur des Bildes; die des Rahmens steht darunter</translation>
+    </message>
+    <message>
+        <source>Opens the controls: %1</source>
+        <translation>Öffnet die Regler: %1</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::GroupBox</name>
     <message>
         <source>Fold the group away, or open it</source>
@@ -931,6 +1789,10 @@
     <message>
         <source>open</source>
         <translation>offen</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>%1 schließen</translation>
     </message>
 </context>
 <context>
@@ -1916,6 +2778,29 @@
     <message>
         <source>cannot be read</source>
         <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureRow</name>
+    <message>
+        <source>Take the picture away</source>
+        <translation>Das Bild wegnehmen</translation>
+    </message>
+    <message>
+        <source>%1: none</source>
+        <translation>%1: keines</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>Choose: %1...</source>
+        <translation>Wählen: %1...</translation>
     </message>
     <message>
         <source>%1: %2</source>

@@ -34,6 +34,10 @@
         <source>&amp;Help</source>
         <translation>A&amp;yuda</translation>
     </message>
+    <message>
+        <source>E&amp;ffects</source>
+        <translation>E&amp;fectos</translation>
+    </message>
 </context>
 <context>
     <name>Panel</name>
@@ -577,6 +581,814 @@
         <source>Start-up files, folders, names of saved files and habits</source>
         <translation>Archivos iniciales, carpetas, nombres de archivos guardados y hábitos</translation>
     </message>
+    <message>
+        <source>Cartoon and pencil</source>
+        <translation>Cómic y lápiz</translation>
+    </message>
+    <message>
+        <source>Drawn as</source>
+        <translation>Dibujar como</translation>
+    </message>
+    <message>
+        <source>Makes a drawing of the full picture; the preview shows none of it. Each kind starts with lines that suit it.</source>
+        <translation>Convierte la imagen completa en un dibujo; la vista previa no lo muestra. Cada tipo empieza con las líneas que le convienen.</translation>
+    </message>
+    <message>
+        <source>Cartoon</source>
+        <translation>Cómic</translation>
+    </message>
+    <message>
+        <source>Pencil</source>
+        <translation>Lápiz</translation>
+    </message>
+    <message>
+        <source>Old paper</source>
+        <translation>Papel viejo</translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation>Ancho de línea</translation>
+    </message>
+    <message>
+        <source>To the right lines grow broader.</source>
+        <translation>Hacia la derecha las líneas se ensanchan.</translation>
+    </message>
+    <message>
+        <source>Flat areas</source>
+        <translation>Zonas planas</translation>
+    </message>
+    <message>
+        <source>To the right fine detail becomes one tone.</source>
+        <translation>Hacia la derecha los detalles finos se funden en un tono.</translation>
+    </message>
+    <message>
+        <source>Stars</source>
+        <translation>Estrellas</translation>
+    </message>
+    <message>
+        <source>Show stars</source>
+        <translation>Mostrar estrellas</translation>
+    </message>
+    <message>
+        <source>Draws a star on each small bright light, as a filter on a lens does.</source>
+        <translation>Dibuja una estrella en cada luz pequeña y brillante, como un filtro de objetivo.</translation>
+    </message>
+    <message>
+        <source>How bright a light must be. To the left more count.</source>
+        <translation>Lo brillante que debe ser una luz. Hacia la izquierda cuentan más.</translation>
+    </message>
+    <message>
+        <source>Largest light</source>
+        <translation>Luz mayor</translation>
+    </message>
+    <message>
+        <source>How large a light may be; 50 is a hundredth of the picture.</source>
+        <translation>Lo grande que puede ser una luz; 50 es una centésima de la imagen.</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>To the right the arms grow longer.</source>
+        <translation>Hacia la derecha los brazos se alargan.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source>To the right the arms grow broader.</source>
+        <translation>Hacia la derecha los brazos se ensanchan.</translation>
+    </message>
+    <message>
+        <source>Arms</source>
+        <translation>Brazos</translation>
+    </message>
+    <message>
+        <source>How many arms a star has.</source>
+        <translation>Cuántos brazos tiene una estrella.</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>Turns the star, in degrees.</source>
+        <translation>Gira la estrella, en grados.</translation>
+    </message>
+    <message>
+        <source>Show the lights that count</source>
+        <translation>Mostrar las luces que cuentan</translation>
+    </message>
+    <message>
+        <source>Marks the lights in place of the stars, to set the controls by.</source>
+        <translation>Marca las luces en lugar de las estrellas, para ajustar los controles.</translation>
+    </message>
+    <message>
+        <source>Takes the shadow away.</source>
+        <translation>Quita la sombra.</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>Pared</translation>
+    </message>
+    <message>
+        <source>A shadow on a wall behind the subject, at its starting position.</source>
+        <translation>Una sombra en una pared detrás de la persona, en su posición inicial.</translation>
+    </message>
+    <message>
+        <source>Floor</source>
+        <translation>Suelo</translation>
+    </message>
+    <message>
+        <source>A shadow on the floor, at its starting position.</source>
+        <translation>Una sombra en el suelo, en su posición inicial.</translation>
+    </message>
+    <message>
+        <source>Floor and wall</source>
+        <translation>Suelo, pared</translation>
+    </message>
+    <message>
+        <source>A shadow over the floor and up a wall, at its starting position.</source>
+        <translation>Una sombra por el suelo y pared arriba, en su posición inicial.</translation>
+    </message>
+    <message>
+        <source>Start with usual values</source>
+        <translation>Empezar con valores usuales</translation>
+    </message>
+    <message>
+        <source>Skin is smoothed a little, as suits most faces.</source>
+        <translation>La piel se suaviza un poco, como conviene a la mayoría de las caras.</translation>
+    </message>
+    <message>
+        <source>The chosen shape at a usual place and strength; a circle if none is.</source>
+        <translation>La forma elegida en un lugar y con una fuerza usuales; un círculo si no hay ninguna.</translation>
+    </message>
+    <message>
+        <source>Six slender arms on each small light.</source>
+        <translation>Seis brazos finos en cada luz pequeña.</translation>
+    </message>
+    <message>
+        <source>The finished picture, smoothed a little.</source>
+        <translation>La imagen terminada, un poco suavizada.</translation>
+    </message>
+    <message>
+        <source>As on calm water; the line stays where it is.</source>
+        <translation>Como en agua tranquila; la línea queda donde está.</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Textura</translation>
+    </message>
+    <message>
+        <source>A picture of a surface, such as canvas or paper. A file can be dropped here.</source>
+        <translation>La imagen de una superficie, como lienzo o papel. Se puede soltar un archivo aquí.</translation>
+    </message>
+    <message>
+        <source>Select Image</source>
+        <translation>Elegir imagen</translation>
+    </message>
+    <message>
+        <source>Frame picture</source>
+        <translation>Imagen del marco</translation>
+    </message>
+    <message>
+        <source>Fills the frame with a picture, such as wood or gold. A file can be dropped here.</source>
+        <translation>Llena el marco con una imagen, como madera u oro. Se puede soltar un archivo aquí.</translation>
+    </message>
+    <message>
+        <source>Picture in the shape</source>
+        <translation>Imagen en la forma</translation>
+    </message>
+    <message>
+        <source>Fills the silhouette in place of its colour. A file can be dropped here.</source>
+        <translation>Llena la silueta en lugar de su color. Se puede soltar un archivo aquí.</translation>
+    </message>
+    <message>
+        <source>Select Silhouette Image</source>
+        <translation>Elegir imagen de la silueta</translation>
+    </message>
+    <message>
+        <source>Frame colour</source>
+        <translation>Color del marco</translation>
+    </message>
+    <message>
+        <source>The colour of a frame that is filled with one.</source>
+        <translation>El color de un marco que se llena con uno.</translation>
+    </message>
+    <message>
+        <source>Select Font Outline Color</source>
+        <translation>Elegir color del contorno del texto</translation>
+    </message>
+    <message>
+        <source>Select Frame Overlay Color</source>
+        <translation>Elegir color del segundo marco</translation>
+    </message>
+    <message>
+        <source>Colour of the shape</source>
+        <translation>Color de la forma</translation>
+    </message>
+    <message>
+        <source>The colour of the silhouette where no picture fills it.</source>
+        <translation>El color de la silueta donde no la llena una imagen.</translation>
+    </message>
+    <message>
+        <source>Select Silhouette Color</source>
+        <translation>Elegir color de la silueta</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efectos</translation>
+    </message>
+    <message>
+        <source>Shadow, frames, light, drawings, textures, skin</source>
+        <translation>Sombra, marcos, luz, dibujos, texturas, piel</translation>
+    </message>
+    <message>
+        <source>Freeze</source>
+        <translation>Congelar</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Forma</translation>
+    </message>
+    <message>
+        <source>The opening in which the picture is seen.</source>
+        <translation>La abertura en la que se ve la imagen.</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Recto</translation>
+    </message>
+    <message>
+        <source>Oval</source>
+        <translation>Óvalo</translation>
+    </message>
+    <message>
+        <source>Heart</source>
+        <translation>Corazón</translation>
+    </message>
+    <message>
+        <source>Jagged</source>
+        <translation>Dentado</translation>
+    </message>
+    <message>
+        <source>Filled with</source>
+        <translation>Relleno</translation>
+    </message>
+    <message>
+        <source>What the frame is made of: a colour, the picture blurred, the background, or a picture of your own.</source>
+        <translation>De qué es el marco: un color, la imagen desenfocada, el fondo o una imagen propia.</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Desenfoque</translation>
+    </message>
+    <message>
+        <source>Backgr.</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Thickness</source>
+        <translation>Grosor</translation>
+    </message>
+    <message>
+        <source>How wide the frame is, in percent of the shorter side.</source>
+        <translation>El ancho del marco, en porcentaje del lado corto.</translation>
+    </message>
+    <message>
+        <source>Soft edge</source>
+        <translation>Borde suave</translation>
+    </message>
+    <message>
+        <source>To the right the inner edge of the frame grows softer.</source>
+        <translation>Hacia la derecha el borde interior del marco se suaviza.</translation>
+    </message>
+    <message>
+        <source>See-through</source>
+        <translation>Transparencia</translation>
+    </message>
+    <message>
+        <source>To the right more of the picture shows through the frame.</source>
+        <translation>Hacia la derecha se ve más imagen a través del marco.</translation>
+    </message>
+    <message>
+        <source>How blurred the picture is in a frame that is filled with it.</source>
+        <translation>Lo desenfocada que está la imagen en un marco lleno de ella.</translation>
+    </message>
+    <message>
+        <source>Arch</source>
+        <translation>Arco</translation>
+    </message>
+    <message>
+        <source>Leaves the lower side of a square or an oval open, like a door.</source>
+        <translation>Deja abierto el lado inferior de un marco recto u oval, como una puerta.</translation>
+    </message>
+    <message>
+        <source>Second frame</source>
+        <translation>Segundo marco</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Marco</translation>
+    </message>
+    <message>
+        <source>Green guard</source>
+        <translation>Protección del verde</translation>
+    </message>
+    <message>
+        <source>Protect</source>
+        <translation>Proteger</translation>
+    </message>
+    <message>
+        <source>Keeps green that the subject wears: all that the screen does not reach, or clothes of one colour.</source>
+        <translation>Conserva el verde que lleva la persona: todo lo que la pantalla no alcanza, o ropa de un color.</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nada</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Interior</translation>
+    </message>
+    <message>
+        <source>Clothes</source>
+        <translation>Ropa</translation>
+    </message>
+    <message>
+        <source>Counts as screen</source>
+        <translation>Cuenta como pantalla</translation>
+    </message>
+    <message>
+        <source>How far a green may be from the screen and still count as screen. To the left more is protected.</source>
+        <translation>Cuánto puede alejarse un verde de la pantalla y seguir contando como tal. Hacia la izquierda se protege más.</translation>
+    </message>
+    <message>
+        <source>Free edge</source>
+        <translation>Borde libre</translation>
+    </message>
+    <message>
+        <source>Along the outline the guard leaves a band of this width to the key.</source>
+        <translation>A lo largo del contorno la protección deja al recorte una banda de este ancho.</translation>
+    </message>
+    <message>
+        <source>Counts as clothes</source>
+        <translation>Cuenta como ropa</translation>
+    </message>
+    <message>
+        <source>How far a colour may be from the clothes and still be protected. To the right more is.</source>
+        <translation>Cuánto puede alejarse un color de la ropa y seguir protegido. Hacia la derecha se protege más.</translation>
+    </message>
+    <message>
+        <source>Key holes in the subject</source>
+        <translation>Recortar huecos en la persona</translation>
+    </message>
+    <message>
+        <source>Screen that is seen between an arm and the body goes all the same.</source>
+        <translation>La pantalla que se ve entre un brazo y el cuerpo desaparece igualmente.</translation>
+    </message>
+    <message>
+        <source>Show what is protected</source>
+        <translation>Mostrar lo protegido</translation>
+    </message>
+    <message>
+        <source>Shows the guard in place of the picture until the panel is closed.</source>
+        <translation>Muestra la protección en lugar de la imagen hasta que se cierra el grupo.</translation>
+    </message>
+    <message>
+        <source>Behind the subject</source>
+        <translation>Detrás de la persona</translation>
+    </message>
+    <message>
+        <source>The shadow falls away from the viewer and not towards him.</source>
+        <translation>La sombra se aleja del espectador y no viene hacia él.</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Sombra</translation>
+    </message>
+    <message>
+        <source>Moves the shadow; 500 leaves it behind the subject.</source>
+        <translation>Mueve la sombra; 500 la deja detrás de la persona.</translation>
+    </message>
+    <message>
+        <source>Up, down</source>
+        <translation>Arriba, abajo</translation>
+    </message>
+    <message>
+        <source>Moves the shadow; 500 leaves it where the subject is.</source>
+        <translation>Mueve la sombra; 500 la deja donde está la persona.</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>500 is as large as the subject; to the right it grows.</source>
+        <translation>500 es tan grande como la persona; hacia la derecha crece.</translation>
+    </message>
+    <message>
+        <source>Softness</source>
+        <translation>Suavidad</translation>
+    </message>
+    <message>
+        <source>To the right the shadow&apos;s edge grows softer.</source>
+        <translation>Hacia la derecha el borde de la sombra se suaviza.</translation>
+    </message>
+    <message>
+        <source>Strength</source>
+        <translation>Fuerza</translation>
+    </message>
+    <message>
+        <source>To the right the shadow grows darker.</source>
+        <translation>Hacia la derecha la sombra se oscurece.</translation>
+    </message>
+    <message>
+        <source>Slant</source>
+        <translation>Inclinación</translation>
+    </message>
+    <message>
+        <source>Lays a shadow on the floor over to one side; 500 is straight.</source>
+        <translation>Inclina hacia un lado una sombra en el suelo; 500 es recto.</translation>
+    </message>
+    <message>
+        <source>Foot line</source>
+        <translation>Línea de pie</translation>
+    </message>
+    <message>
+        <source>The line on which the subject stands, red in the preview. To the right it rises.</source>
+        <translation>La línea en la que está la persona, roja en la vista previa. Hacia la derecha sube.</translation>
+    </message>
+    <message>
+        <source>Tilt of the line</source>
+        <translation>Giro de la línea</translation>
+    </message>
+    <message>
+        <source>Turns the foot line; 500 is level.</source>
+        <translation>Gira la línea de pie; 500 es horizontal.</translation>
+    </message>
+    <message>
+        <source>Wall, right</source>
+        <translation>Pared derecha</translation>
+    </message>
+    <message>
+        <source>Where the wall meets the floor at the right edge. 0 and 0: no wall.</source>
+        <translation>Dónde la pared toca el suelo en el borde derecho. 0 y 0: sin pared.</translation>
+    </message>
+    <message>
+        <source>Wall, left</source>
+        <translation>Pared izquierda</translation>
+    </message>
+    <message>
+        <source>Where the wall meets the floor at the left edge. 0 and 0: no wall.</source>
+        <translation>Dónde la pared toca el suelo en el borde izquierdo. 0 y 0: sin pared.</translation>
+    </message>
+    <message>
+        <source>Show the room</source>
+        <translation>Mostrar el cuarto</translation>
+    </message>
+    <message>
+        <source>Shows wall and floor in grey to place the shadow by; only in the preview.</source>
+        <translation>Muestra pared y suelo en gris para colocar la sombra; solo en la vista previa.</translation>
+    </message>
+    <message>
+        <source>Dark limit</source>
+        <translation>Límite oscuro</translation>
+    </message>
+    <message>
+        <source>What is darker than this counts as the subject, too. To the right more does.</source>
+        <translation>Lo más oscuro también cuenta como la persona. Hacia la derecha cuenta más.</translation>
+    </message>
+    <message>
+        <source>Reflection</source>
+        <translation>Reflejo</translation>
+    </message>
+    <message>
+        <source>Show a reflection</source>
+        <translation>Mostrar un reflejo</translation>
+    </message>
+    <message>
+        <source>Mirrors the subject below a line, as on water or a polished floor.</source>
+        <translation>Refleja a la persona bajo una línea, como en agua o en un suelo pulido.</translation>
+    </message>
+    <message>
+        <source>Water line</source>
+        <translation>Línea de agua</translation>
+    </message>
+    <message>
+        <source>Where the mirror begins, in percent from the bottom; red in the preview.</source>
+        <translation>Dónde empieza el espejo, en porcentaje desde abajo; rojo en la vista previa.</translation>
+    </message>
+    <message>
+        <source>100 is as long as the subject; to the left it is shorter.</source>
+        <translation>100 es tan largo como la persona; hacia la izquierda es más corto.</translation>
+    </message>
+    <message>
+        <source>Lays the reflection over to one side; 50 is straight.</source>
+        <translation>Inclina el reflejo hacia un lado; 50 es recto.</translation>
+    </message>
+    <message>
+        <source>Ripples</source>
+        <translation>Ondas</translation>
+    </message>
+    <message>
+        <source>To the right the water line moves more; 0 is a floor.</source>
+        <translation>Hacia la derecha la línea de agua se mueve más; 0 es un suelo.</translation>
+    </message>
+    <message>
+        <source>To the right the reflection grows clearer.</source>
+        <translation>Hacia la derecha el reflejo se ve más claro.</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>Iluminación</translation>
+    </message>
+    <message>
+        <source>A graded sheet, a spot, a beam, or a halo around the subject.</source>
+        <translation>Un degradado, un foco, un haz o un halo alrededor de la persona.</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Plano</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Círculo</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>Cono</translation>
+    </message>
+    <message>
+        <source>Glow</source>
+        <translation>Halo</translation>
+    </message>
+    <message>
+        <source>Falls on</source>
+        <translation>Cae sobre</translation>
+    </message>
+    <message>
+        <source>What the light changes.</source>
+        <translation>Lo que cambia la luz.</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Ambos</translation>
+    </message>
+    <message>
+        <source>Light, inside</source>
+        <translation>Luz interior</translation>
+    </message>
+    <message>
+        <source>Where the light begins. 50 changes nothing; to the left it darkens.</source>
+        <translation>Donde empieza la luz. 50 no cambia nada; hacia la izquierda oscurece.</translation>
+    </message>
+    <message>
+        <source>Light, outside</source>
+        <translation>Luz exterior</translation>
+    </message>
+    <message>
+        <source>Where the light ends. 50 changes nothing; to the left it darkens.</source>
+        <translation>Donde acaba la luz. 50 no cambia nada; hacia la izquierda oscurece.</translation>
+    </message>
+    <message>
+        <source>Moves the light. 200 is the middle for a circle, 50 for a cone.</source>
+        <translation>Mueve la luz. 200 es el centro para un círculo, 50 para un cono.</translation>
+    </message>
+    <message>
+        <source>To the right the light grows.</source>
+        <translation>Hacia la derecha la luz crece.</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Turns a sheet or a cone, in degrees.</source>
+        <translation>Gira un plano o un cono, en grados.</translation>
+    </message>
+    <message>
+        <source>wall</source>
+        <translation>pared</translation>
+    </message>
+    <message>
+        <source>Wall Shadow</source>
+        <translation>Sombra en la pared</translation>
+    </message>
+    <message>
+        <source>floor</source>
+        <translation>suelo</translation>
+    </message>
+    <message>
+        <source>Floor Shadow</source>
+        <translation>Sombra en el suelo</translation>
+    </message>
+    <message>
+        <source>wall and floor</source>
+        <translation>pared y suelo</translation>
+    </message>
+    <message>
+        <source>Wall and Floor Shadow</source>
+        <translation>Sombra en pared y suelo</translation>
+    </message>
+    <message>
+        <source>No Shadow Active</source>
+        <translation>Ninguna sombra activa</translation>
+    </message>
+    <message>
+        <source>Skin and make-up</source>
+        <translation>Piel y maquillaje</translation>
+    </message>
+    <message>
+        <source>Smooth skin</source>
+        <translation>Suavizar la piel</translation>
+    </message>
+    <message>
+        <source>Smooths skin in the full picture; the preview shows none of it.</source>
+        <translation>Suaviza la piel en la imagen completa; la vista previa no lo muestra.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>How widely skin is blurred. To the right pores and spots go.</source>
+        <translation>Cuánto se difumina la piel. Hacia la derecha desaparecen poros y manchas.</translation>
+    </message>
+    <message>
+        <source>How much of the smooth skin is mixed in; 80 is all of it.</source>
+        <translation>Cuánta piel suavizada se mezcla; 80 es toda.</translation>
+    </message>
+    <message>
+        <source>Counts as skin</source>
+        <translation>Cuenta como piel</translation>
+    </message>
+    <message>
+        <source>How far a colour may be from the skin and still count. 60 suits most faces.</source>
+        <translation>Cuánto puede alejarse un color de la piel y seguir contando. 60 conviene a la mayoría de las caras.</translation>
+    </message>
+    <message>
+        <source>Make-up</source>
+        <translation>Maquillaje</translation>
+    </message>
+    <message>
+        <source>Evens the colour of the skin. To the right more is laid on.</source>
+        <translation>Iguala el color de la piel. Hacia la derecha se aplica más.</translation>
+    </message>
+    <message>
+        <source>Keep a little grain</source>
+        <translation>Conservar algo de grano</translation>
+    </message>
+    <message>
+        <source>Smooths unevenly, so that skin does not look like plastic.</source>
+        <translation>Suaviza de forma desigual, para que la piel no parezca plástico.</translation>
+    </message>
+    <message>
+        <source>Blend with the original</source>
+        <translation>Mezclar con el original</translation>
+    </message>
+    <message>
+        <source>Is kept while the program runs; it changes no picture.</source>
+        <translation>Se conserva mientras el programa funciona; no cambia ninguna imagen.</translation>
+    </message>
+    <message>
+        <source>Measure the skin</source>
+        <translation>Medir la piel</translation>
+    </message>
+    <message>
+        <source>Takes the colour of the skin from this portrait and not an average.</source>
+        <translation>Toma el color de la piel de este retrato y no un promedio.</translation>
+    </message>
+    <message>
+        <source>Show what counts as skin</source>
+        <translation>Mostrar lo que cuenta como piel</translation>
+    </message>
+    <message>
+        <source>Shows the skin in white, to set the controls by.</source>
+        <translation>Muestra la piel en blanco, para ajustar los controles.</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>Suavizado</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Suavizar</translation>
+    </message>
+    <message>
+        <source>Smooths surfaces and leaves edges: the portrait before the key, or the finished picture.</source>
+        <translation>Suaviza superficies y respeta los bordes: el retrato antes del recorte o la imagen terminada.</translation>
+    </message>
+    <message>
+        <source>To the right surfaces grow smoother; 0 changes nothing.</source>
+        <translation>Hacia la derecha las superficies se suavizan; 0 no cambia nada.</translation>
+    </message>
+    <message>
+        <source>How much of the texture is mixed in; to the right more.</source>
+        <translation>Cuánta textura se mezcla; hacia la derecha más.</translation>
+    </message>
+    <message>
+        <source>Darker to the left, brighter to the right; 50 leaves it.</source>
+        <translation>Más oscuro a la izquierda, más claro a la derecha; 50 lo deja.</translation>
+    </message>
+    <message>
+        <source>How deep the surface is; 50 leaves it as its picture is.</source>
+        <translation>Lo profunda que es la superficie; 50 la deja como su imagen.</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>Distorsión</translation>
+    </message>
+    <message>
+        <source>How far the surface moves the picture about. Above 10 it tears faces.</source>
+        <translation>Cuánto mueve la superficie la imagen. Por encima de 10 rompe las caras.</translation>
+    </message>
+    <message>
+        <source>Raised parts</source>
+        <translation>Relieve</translation>
+    </message>
+    <message>
+        <source>Whether the dark or the light parts of the texture rise.</source>
+        <translation>Si sobresalen las partes oscuras o las claras de la textura.</translation>
+    </message>
+    <message>
+        <source>Texture of the frame</source>
+        <translation>Textura del marco</translation>
+    </message>
+    <message>
+        <source>Texture of the second frame</source>
+        <translation>Textura del segundo marco</translation>
+    </message>
+    <message>
+        <source>Texture of the reflection</source>
+        <translation>Textura del reflejo</translation>
+    </message>
+    <message>
+        <source>Black and white, sepia</source>
+        <translation>Blanco y negro, sepia</translation>
+    </message>
+    <message>
+        <source>The colours of the portrait. Shape is kept with the picture and leaves its colours; the panel of silhouettes makes one.</source>
+        <translation>Los colores del retrato. Forma se guarda con la imagen y deja sus colores; el grupo de siluetas hace una.</translation>
+    </message>
+    <message>
+        <source>B &amp; W</source>
+        <translation>B/N</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+    <message>
+        <source>The colours of the background.</source>
+        <translation>Los colores del fondo.</translation>
+    </message>
+    <message>
+        <source>Puts the background out of focus, in thousandths of an inch on paper. To the right it grows softer.</source>
+        <translation>Desenfoca el fondo, en milésimas de pulgada sobre papel. Hacia la derecha se suaviza.</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>Toda la imagen</translation>
+    </message>
+    <message>
+        <source>Softens the finished picture, in thousandths of an inch on paper. It wants a range above 0.</source>
+        <translation>Suaviza la imagen terminada, en milésimas de pulgada sobre papel. Necesita un rango mayor que 0.</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Rango</translation>
+    </message>
+    <message>
+        <source>How strong a detail may be and still be softened. To the left edges stay sharp.</source>
+        <translation>Lo marcado que puede ser un detalle y aún suavizarse. Hacia la izquierda los bordes quedan nítidos.</translation>
+    </message>
+    <message>
+        <source>Silhouette</source>
+        <translation>Silueta</translation>
+    </message>
+    <message>
+        <source>Show a silhouette</source>
+        <translation>Mostrar una silueta</translation>
+    </message>
+    <message>
+        <source>The portrait becomes a shape in one colour, or cut out of a picture.</source>
+        <translation>El retrato se convierte en una forma de un color o recortada de una imagen.</translation>
+    </message>
+    <message>
+        <source>Moves the picture inside the shape; 50 leaves it in place.</source>
+        <translation>Mueve la imagen dentro de la forma; 50 la deja en su sitio.</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -730,6 +1542,13 @@
     </message>
 </context>
 <context>
+    <name>tavrin::ActionRow</name>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::ActionSearch</name>
     <message>
         <source>Find an Action</source>
@@ -785,6 +1604,14 @@
         <source>Reset %1</source>
         <translation>Restablecer %1</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 off</source>
+        <translation>%1: no</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::Chips</name>
@@ -795,10 +1622,6 @@
     <message>
         <source>Put the default back</source>
         <translation>Devolver el valor inicial</translation>
-    </message>
-    <message>
-        <source>Reset %1</source>
-        <translation>Restablecer %1</translation>
     </message>
     <message>
         <source>fewer</source>
@@ -815,6 +1638,14 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Switched on; a click leads to its controls</source>
+        <translation>Activado; un clic lleva a sus controles</translation>
+    </message>
+    <message>
+        <source>Switch it off</source>
+        <translation>Desactivar</translation>
     </message>
 </context>
 <context>
@@ -907,6 +1738,33 @@
     </message>
 </context>
 <context>
+    <name>tavrin::EffectsPage</name>
+    <message>
+        <source>Progress of the smoothing of skin</source>
+        <translation>Progreso del suavizado de la piel</translation>
+    </message>
+    <message>
+        <source>The green guard is on.</source>
+        <translation>La protección del verde está activa.</translation>
+    </message>
+    <message>
+        <source>The picture is frozen into the background.</source>
+        <translation>La imagen está congelada en el fondo.</translation>
+    </message>
+    <message>
+        <source>Texture...</source>
+        <translation>Textura...</translation>
+    </message>
+    <message>
+        <source>Opens the texture of the picture; that of the frame stands below</source>
+        <translation>Abre la textura de la imagen; la del marco está debajo</translation>
+    </message>
+    <message>
+        <source>Opens the controls: %1</source>
+        <translation>Abre los controles: %1</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::GroupBox</name>
     <message>
         <source>Fold the group away, or open it</source>
@@ -931,6 +1789,10 @@
     <message>
         <source>open</source>
         <translation>abierto</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Cerrar %1</translation>
     </message>
 </context>
 <context>
@@ -1916,6 +2778,29 @@
     <message>
         <source>cannot be read</source>
         <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PictureRow</name>
+    <message>
+        <source>Take the picture away</source>
+        <translation>Quitar la imagen</translation>
+    </message>
+    <message>
+        <source>%1: none</source>
+        <translation>%1: ninguna</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>No se puede leer %1: %2.</translation>
+    </message>
+    <message>
+        <source>Choose: %1...</source>
+        <translation>Elegir: %1...</translation>
     </message>
     <message>
         <source>%1: %2</source>

@@ -22,6 +22,9 @@ class WindowBridge : public QObject, public Interface {
     void enableControls(bool enabled, bool hostApplication) override;
     void sizeWindow(int outputWidth, int outputHeight) override;
     void updateScaleUI() override;
+    void startSmoothProgress() override { emit smoothProgress(0.0); }
+    void updateSmoothProgress(double percent) override { emit smoothProgress(percent); }
+    void endSmoothProgress() override { emit smoothProgress(-1.0); }
     void showAlert(const std::string& message, const std::string& reason) override;
     void performAndWait(const std::function<void()>& job) override;
     bool mouseDown() const override { return mouseDown_.load(std::memory_order_relaxed); }
@@ -43,6 +46,8 @@ class WindowBridge : public QObject, public Interface {
     void alerted(const QString& message, const QString& reason);
     /// Something was not done; no alert of the system's, but a message in the window.
     void failed(const QString& message, const QString& reason);
+    /// Skin is being smoothed, so far in percent; below 0 it is done.
+    void smoothProgress(double percent);
     /// The loop worked out where a layer lies.
     void placed();
 

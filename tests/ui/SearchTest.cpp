@@ -55,7 +55,7 @@ class SearchTest : public test::WindowTest {
 
 TEST_F(SearchTest, OneFieldFindsCommandsAndControlsInAnyOrderAndWithSlips) {
     EXPECT_TRUE(foundFor("green remove").value(0).startsWith("Remove green"));
-    EXPECT_EQ(foundFor("brigthness").filter("Brightness   (").size(), 1);
+    EXPECT_EQ(foundFor("brigthness").filter("Brightness   (Light)").size(), 1);
     EXPECT_TRUE(foundFor("shrotcuts").value(0).startsWith("Keyboard Shortcuts"));
     EXPECT_FALSE(foundFor("hiar").value(0).startsWith("Nothing"));
     EXPECT_TRUE(foundFor("zzzz").value(0).startsWith("Nothing"));

@@ -39,6 +39,10 @@ class Interface {
     virtual void sizeWindow(int /*outputWidth*/, int /*outputHeight*/) {}
     /// The fit of a layer was worked out anew.
     virtual void updateScaleUI() {}
+    /// Smoothing of skin takes its time: it begins, is so far (0 to 100), and ends, also where it was given up.
+    virtual void startSmoothProgress() {}
+    virtual void updateSmoothProgress(double /*percent*/) {}
+    virtual void endSmoothProgress() {}
     /// Shows a message with the one button "OK". The reason, in plain words, also belongs on the standard error
     /// stream.
     virtual void showAlert(const std::string& /*message*/, const std::string& /*reason*/) {}

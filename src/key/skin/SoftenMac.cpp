@@ -84,6 +84,25 @@ PixelBuffer blurred(const RunContext& run, const std::uint8_t* picture, int widt
     return soft;
 }
 
+/// Tells the window how far the smoothing is, and that it ended, however that came.
+class Progress {
+  public:
+    explicit Progress(Interface* view) : view_(view) {
+        if (view_) view_->startSmoothProgress();
+    }
+    ~Progress() {
+        if (view_) view_->endSmoothProgress();
+    }
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    void isAt(double percent) const {
+        if (view_) view_->updateSmoothProgress(percent);
+    }
+
+  private:
+    Interface* const view_;
+};
+
 }  // namespace
 
 void SoftenMac(SystemInfo& info, int, const std::uint8_t* foreground, const std::uint8_t* foregroundLowRes,
@@ -91,12 +110,14 @@ void SoftenMac(SystemInfo& info, int, const std::uint8_t* foreground, const std:
     const PassGeometry size = info.geometry(fullIf(hiRes == 1));
     const int width = size.width, height = size.height, dpi = size.dpi < 20 ? 300 : size.dpi;
     if (!foreground || !picture || width < 1 || height < 1) return;
+    const Progress progress(info.pInterface);
     const double wanted = static_cast<double>(dpi) * info.iColorDelta / 100.0 * 0.125;
     const int radius = static_cast<int>(clampTo(wanted, 0.0, std::max(width, height)));
 
     PixelBuffer soft;
     if (radius >= 2) soft = blurred(run, picture, width, height, radius);
     if (run.isSuperseded()) return;
+    progress.isAt(40.0);
     const bool measured = info.bComputeSkinColor;
     measureSkin(info, measured, foregroundLowRes, info.iOutputPixelLowResWidth, info.iOutputPixelLowResHeight);
     const double tolerance = info.iRedRequired;
@@ -104,6 +125,7 @@ void SoftenMac(SystemInfo& info, int, const std::uint8_t* foreground, const std:
     const auto mask = blurredSkinMask(info, SkinMask(info, measured, limits), foreground, width, height);
     if (!mask.data()) return;
 
+    progress.isAt(80.0);
     const SoftenParams params = softenParams(info);
     runRows(run, height, 8, [&](int y) {
         const std::size_t offset = pixelOffset(width, 0, y);

@@ -23,6 +23,11 @@ class Binder : public QObject {
 
     /// Puts the defaults of a group back, as one step.
     void resetGroup(const BindingGroup& group);
+    /// Whether the effect of a group is on for the picture at hand; and off it goes, as one step.
+    bool isOn(const BindingGroup& group) const;
+    /// What is on, such as "Shadow: wall".
+    QString onWords(const BindingGroup& group) const;
+    void switchOff(const BindingGroup& group);
     /// Shows every setting in its control.
     void UpdateAllUI();
     /// As an action changes several settings: one step, a new picture, and every control shows what became of it.
@@ -44,7 +49,10 @@ class Binder : public QObject {
   private:
     void change(const Binding& binding, double setting);
     void reset(const Binding& binding);
+    bool isOn(const OnSetting& one) const;
     void finish();
+    void showAll();
+    void show(ControlRow& row) const;
 
     SettingEditor& editor_;
     std::vector<ControlRow*> rows_;

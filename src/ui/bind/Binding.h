@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include <QString>
+
 #include "session/SettingEditor.h"
 #include "ui/bind/Mapping.h"
 
@@ -17,6 +19,8 @@ struct Handler {
     const char* name;
     /// @param owner what the names of the owner's settings begin with, such as "foreground."
     void (*then)(SettingEditor& editor, const std::string& owner) = nullptr;
+    /// Whether a change asks for a picture; null: always.
+    bool (*asksWhen)(const SystemInfo& info) = nullptr;
 };
 
 /// One of a few values to choose from, a button.
@@ -39,6 +43,22 @@ struct Binding {
     double reset;             ///< of the setting
     const char *label, *toolTip;
     std::vector<Choice> choices = {};
+    bool (*enabledWhen)(const SystemInfo& info) = nullptr;  ///< null: always
+};
+
+/// A setting that switches something on, with its value for off.
+struct OnSetting {
+    const char* setting;
+    const char* off = "0";
+};
+
+/// What a group of controls is beyond them: a panel that is opened and closed, and an effect on the picture at hand.
+struct PanelActs {
+    const char* openAndClose;  ///< names of these operations
+    const char* update;        ///< name of the operation that shows the settings
+    std::vector<OnSetting> switches;
+    QString (*word)(const SystemInfo& info) = nullptr;  ///< what is on; null: the choice in force of a switch
+    void (*closed)(SettingEditor& editor) = nullptr;    ///< what closing does besides
 };
 
 /// Controls that belong together and fold away together.
@@ -48,6 +68,7 @@ struct BindingGroup {
     const Handler* reset;  ///< null: the group has no reset
     std::vector<Binding> bindings;
     bool foldedAtFirst = false;
+    const PanelActs* acts = nullptr;
 };
 
 inline std::string ownerPrefix(const SystemInfo& info, Owner owner) {

@@ -24,7 +24,7 @@ QString ControlRow::translated(const char* text) {
 void ControlRow::showSetting(double setting) {
     setting_ = setting;
     showValue(setting);
-    if (dot_) dot_->setVisible(!isAtDefault());
+    if (dot_) dot_->setVisible(isEnabled() && !isAtDefault());
 }
 
 bool ControlRow::isAtDefault() const {

@@ -16,8 +16,8 @@ QString foldKey(const BindingGroup& group) {
 
 }  // namespace
 
-GroupBox::GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent)
-    : QWidget(parent), group_(group), body_(new QWidget(this)) {
+GroupBox::GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent, const std::vector<QWidget*>& leads)
+    : QWidget(parent), group_(group), binder_(binder), body_(new QWidget(this)) {
     setObjectName(group.name);
     auto* rows = new QVBoxLayout(body_);
     rows->setContentsMargins(0, 0, 0, 6);
@@ -25,8 +25,10 @@ GroupBox::GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
-    layout->addWidget(makeHeader(binder));
+    layout->addWidget(makeHeader());
     layout->addWidget(body_);
+    for (QWidget* lead : leads)
+        addItem(lead);
     for (const Binding& binding : group.bindings) {
         rows_.push_back(makeRow(binding, body_));
         addItem(rows_.back());
@@ -35,24 +37,21 @@ GroupBox::GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent)
     setFolded(windowSettings().value(foldKey(group), group.foldedAtFirst).toBool());
 }
 
-QWidget* GroupBox::makeHeader(Binder& binder) {
+QWidget* GroupBox::makeHeader() {
     auto* line = new QWidget(this);
     auto* layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
     header_ = new QToolButton(line);
     header_->setObjectName(QString(group_.name) + "Fold");
     header_->setProperty("groupTitle", true);
-    header_->setProperty("handler", "fold");
+    header_->setProperty("handler", group_.acts ? group_.acts->openAndClose : "fold");
     header_->setText(ControlRow::translated(group_.title));
     header_->setAccessibleName(header_->text());
     header_->setToolTip(tr("Fold the group away, or open it"));
     header_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     header_->setFocusPolicy(Qt::TabFocus);
     header_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(header_, &QToolButton::clicked, this, [this] {
-        setFolded(!isFolded());
-        windowSettings().setValue(foldKey(group_), isFolded());
-    });
+    connect(header_, &QToolButton::clicked, this, [this] { fold(!isFolded()); });
     layout->addWidget(header_, 1);
     if (!group_.reset) return line;
     auto* reset = new QToolButton(line);
@@ -63,13 +62,21 @@ QWidget* GroupBox::makeHeader(Binder& binder) {
     reset->setAccessibleName(tr("Reset %1").arg(header_->text()));
     reset->setToolTip(tr("Put all defaults of this group back"));
     reset->setFocusPolicy(Qt::TabFocus);
-    connect(reset, &QToolButton::clicked, &binder, [this, &binder] { binder.resetGroup(group_); });
+    connect(reset, &QToolButton::clicked, this, [this] { binder_.resetGroup(group_); });
     layout->addWidget(reset);
     return line;
 }
 
 bool GroupBox::isFolded() const {
     return body_->isHidden();
+}
+
+void GroupBox::fold(bool folded) {
+    const bool closes = folded && !isFolded();
+    setFolded(folded);
+    windowSettings().setValue(foldKey(group_), folded);
+    if (closes && group_.acts && group_.acts->closed)
+        binder_.run(tr("Close %1").arg(ControlRow::translated(group_.title)), group_.acts->closed);
 }
 
 void GroupBox::setFolded(bool folded) {
@@ -82,6 +89,10 @@ void GroupBox::setFolded(bool folded) {
 void GroupBox::addItem(QWidget* item) {
     items_.push_back(item);
     addWidget(item);
+}
+
+void GroupBox::addStatus(QWidget* status) {
+    static_cast<QVBoxLayout*>(body_->layout())->insertWidget(0, status);
 }
 
 QString GroupBox::nameOf(const QWidget& item) {

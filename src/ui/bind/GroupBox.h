@@ -18,15 +18,21 @@ class GroupBox : public QWidget {
     Q_OBJECT
 
   public:
-    GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent = nullptr);
+    /// @param leads items that stand above the rows
+    GroupBox(const BindingGroup& group, Binder& binder, QWidget* parent = nullptr,
+             const std::vector<QWidget*>& leads = {});
 
     const BindingGroup& group() const { return group_; }
     /// Adds what the search leaves alone, below the rows.
     void addWidget(QWidget* widget) { body_->layout()->addWidget(widget); }
+    /// Adds what tells something and takes no focus, above all else; the search leaves it alone.
+    void addStatus(QWidget* status);
     /// Adds what is no row and is found like one: by its accessible name, and by names and tips of its parts.
     void addItem(QWidget* item);
     bool isFolded() const;
     void setFolded(bool folded);
+    /// Folds as a person does: it is remembered, and a panel is closed or opened.
+    void fold(bool folded);
     /// Shows the items that have all these words in their names, tips or settings, unfolded; without words all of
     /// them, folded as they were.
     /// @return whether there are any
@@ -39,9 +45,10 @@ class GroupBox : public QWidget {
     QString wordsOf(const QWidget& item) const;
 
   private:
-    QWidget* makeHeader(Binder& binder);
+    QWidget* makeHeader();
 
     const BindingGroup& group_;
+    Binder& binder_;
     QToolButton* header_ = nullptr;
     QWidget* body_;
     std::vector<ControlRow*> rows_;

@@ -21,9 +21,13 @@ PanelPage::PanelPage(const PageTitle& title, QWidget* parent)
 }
 
 GroupBox* PanelPage::addGroup(const BindingGroup& group, Binder& binder) {
-    groups_.push_back(new GroupBox(group, binder, this));
-    addWidget(groups_.back());
+    addGroup(new GroupBox(group, binder, this));
     return groups_.back();
+}
+
+void PanelPage::addGroup(GroupBox* group) {
+    groups_.push_back(group);
+    addWidget(group);
 }
 
 void PanelPage::addWidget(QWidget* widget) {

@@ -26,6 +26,8 @@ class PanelPage : public QWidget {
 
     const PageTitle& title() const { return title_; }
     GroupBox* addGroup(const BindingGroup& group, Binder& binder);
+    /// Adds a group that was made before.
+    void addGroup(GroupBox* group);
     /// Adds what belongs to no group, below what is there.
     void addWidget(QWidget* widget);
     const std::vector<GroupBox*>& groups() const { return groups_; }

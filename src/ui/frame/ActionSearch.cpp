@@ -53,6 +53,7 @@ void ActionSearch::find(const QString& typed) {
         }
     };
     add(Slips::none, false);
+    const int byName = static_cast<int>(found.size());
     add(Slips::none, true);
     if (found.empty()) add(Slips::some, false);
     if (found.empty()) add(Slips::some, true);
@@ -64,7 +65,9 @@ void ActionSearch::find(const QString& typed) {
         item->setData(Qt::UserRole, static_cast<qulonglong>(i));
         if (!entry.enabled) item->setFlags(Qt::NoItemFlags);
     }
-    for (int row = 0; row < list_->count() && !list_->currentItem(); ++row)
+    // Where a name has the words but cannot be used now, Enter takes nothing that only mentions them.
+    const int offered = byName > 0 ? byName : list_->count();
+    for (int row = 0; row < offered && !list_->currentItem(); ++row)
         if (list_->item(row)->flags() & Qt::ItemIsEnabled) list_->setCurrentRow(row);
     if (found.empty()) (new QListWidgetItem(tr("Nothing has these words."), list_))->setFlags(Qt::NoItemFlags);
 }

@@ -12,25 +12,11 @@
 #include "formats/SettingsFile.h"
 #include "pipeline/SubjectPlace.h"
 #include "session/Freeze.h"
+#include "ui/DroppedFiles.h"
 #include "ui/FileFilters.h"
 #include "ui/WindowSettings.h"
 
 namespace tavrin {
-
-namespace {
-
-QStringList localFiles(const QMimeData* data) {
-    QStringList files;
-    for (const QUrl& url : data->urls()) {
-        // The path of a link is written in bytes, which need not be text.
-        if (url.isLocalFile())
-            files.append(
-                textOfName(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString()));
-    }
-    return files;
-}
-
-}  // namespace
 
 MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     : QMainWindow(parent),
@@ -106,6 +92,7 @@ void MainWindow::connectBridge() {
     connect(&bridge_, &WindowBridge::failed, messages_, &MessageBar::fail, queued);
     connect(&bridge_, &WindowBridge::outputSized, this, &MainWindow::sizeToOutput, queued);
     connect(&bridge_, &WindowBridge::placed, &binder_, &Binder::UpdateAllUI, queued);
+    connect(&bridge_, &WindowBridge::smoothProgress, panel_->effects(), &EffectsPage::showSmoothProgress, queued);
     connect(
         &bridge_, &WindowBridge::stateOpened, this,
         [this] {
@@ -301,7 +288,7 @@ void MainWindow::tellStartProblems(const std::string& lines) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (localFiles(event->mimeData()).isEmpty()) return;
+    if (droppedFiles(event->mimeData()).isEmpty()) return;
     event->acceptProposedAction();
     view_->setDropZone(view_->zoneAt(view_->mapFrom(this, event->position().toPoint())));
 }
@@ -317,7 +304,7 @@ void MainWindow::dragLeaveEvent(QDragLeaveEvent*) {
 
 void MainWindow::dropEvent(QDropEvent* event) {
     view_->setDropZone(PictureView::DropZone::none);
-    const QStringList files = localFiles(event->mimeData());
+    const QStringList files = droppedFiles(event->mimeData());
     if (files.isEmpty()) return;
     event->acceptProposedAction();
     const bool onPortrait =

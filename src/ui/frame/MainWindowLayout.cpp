@@ -38,10 +38,16 @@ void MainWindow::layOut() {
     std::ranges::move(pictureCommands(*tools_, binder_, [this] { return finished_; }), std::back_inserter(table));
     std::ranges::move(stripCommands(*this), std::back_inserter(table));
     std::ranges::move(pageCommands(*panel_), std::back_inserter(table));
+    std::vector<Command> effects = effectCommands(*panel_->effects());
+    const auto help =
+        std::ranges::find(table, std::string_view("&Help"), [](const Command& one) { return one.menu; });
+    table.insert(help, std::move_iterator(effects.begin()), std::move_iterator(effects.end()));
     commands_ = new Commands(*this, std::move(table));
     std::vector<QAction*> actions;
     for (const Command& command : commands_->table())
         actions.push_back(commands_->action(command.id));
+    panel_->effects()->addFreeze(commands_->action("clickedButtonfreezebackground"),
+                                 commands_->action("clickedButtonfreezebackgroundclear"));
     panel_->setActions(std::move(actions));
     auto* recent = new QMenu(tr("Open &Recent"), this);
     recent->setObjectName("recentFiles");

@@ -47,7 +47,8 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
       nothing_(new QLabel(tr("No control has these words."))),
       found_(new QWidget),
       scroll_(makePages()),
-      adjust_(new AdjustPage(binder)) {
+      adjust_(new AdjustPage(binder)),
+      effects_(new EffectsPage(binder)) {
     setObjectName("ControlPickerWindow");
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     auto* whole = new QWidget(this);
@@ -60,7 +61,9 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
     column->addWidget(chips);
     column->addWidget(scroll_, 1);
     setWidget(whole);
+    connect(effects_, &EffectsPage::wanted, this, &SidePanel::reveal);
     addPage(adjust_);
+    addPage(effects_);
 }
 
 QLineEdit* SidePanel::makeSearch() {

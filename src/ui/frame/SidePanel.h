@@ -6,6 +6,7 @@
 
 #include "ui/adjust/AdjustPage.h"
 #include "ui/bind/Command.h"
+#include "ui/effects/EffectsPage.h"
 #include "ui/look/Chips.h"
 
 class QAction;
@@ -46,6 +47,7 @@ class SidePanel : public QDockWidget {
     /// The small maps of the layer and of the selected item.
     ScaleView* scaleView() const { return adjust_->scaleView(); }
     TextScaleView* textScaleView() const { return adjust_->textScaleView(); }
+    EffectsPage* effects() const { return effects_; }
 
   private:
     QLineEdit* makeSearch();
@@ -66,6 +68,7 @@ class SidePanel : public QDockWidget {
     QVBoxLayout* column_;  ///< of the pages
     QScrollArea* scroll_;
     AdjustPage* adjust_;
+    EffectsPage* effects_;
     std::vector<QAction*> actions_;
     std::vector<PanelPage*> pages_;
     std::vector<GroupBox*> groups_;

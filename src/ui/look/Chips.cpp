@@ -26,6 +26,12 @@ QToolButton* makeButton(const QString& name, const QString& text, QWidget* paren
     return button;
 }
 
+const GroupBox* groupOf(const QWidget* row) {
+    for (const QWidget* at = row; at; at = at->parentWidget())
+        if (const auto* group = qobject_cast<const GroupBox*>(at)) return group;
+    return nullptr;
+}
+
 }  // namespace
 
 Chips::Chips(Binder& binder, QWidget* parent) : QWidget(parent), binder_(binder) {
@@ -40,59 +46,97 @@ Chips::Chips(Binder& binder, QWidget* parent) : QWidget(parent), binder_(binder)
     });
 }
 
-QWidget* Chips::makeChip(ControlRow* row) {
+Chips::Entry Chips::entryOf(ControlRow* row) const {
+    return {row->binding().control,
+            ControlRow::translated(row->binding().label),
+            wordsOf(row),
+            tr("Set here; a click leads to the control"),
+            tr("Put the default back"),
+            row,
+            [row] { emit row->resetWanted(); }};
+}
+
+Chips::Entry Chips::entryOf(const GroupBox* group) const {
+    const std::vector<QWidget*>& items = group->items();
+    return {group->objectName(),
+            ControlRow::translated(group->group().title),
+            binder_.onWords(group->group()),
+            tr("Switched on; a click leads to its controls"),
+            tr("Switch it off"),
+            items.empty() ? static_cast<const QWidget*>(group) : items.front(),
+            [this, group] { binder_.switchOff(group->group()); }};
+}
+
+/// An effect counts as one, however many of its controls are set.
+std::vector<Chips::Entry> Chips::entries() const {
+    std::vector<Entry> entries;
+    const GroupBox* last = nullptr;
+    for (ControlRow* row : binder_.rows()) {
+        const GroupBox* group = groupOf(row);
+        if (!group || !group->group().acts) {
+            if (!row->isAtDefault()) entries.push_back(entryOf(row));
+        } else if (group != last && binder_.isOn(group->group())) {
+            entries.push_back(entryOf(group));
+        }
+        last = group;
+    }
+    return entries;
+}
+
+QWidget* Chips::makeChip(const Entry& entry) {
     auto* chip = new QWidget(this);
     auto* line = new QHBoxLayout(chip);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(0);
-    const QString label = ControlRow::translated(row->binding().label);
-    QToolButton* words = makeButton(QString(row->binding().control) + "Chip", wordsOf(row), chip);
+    QToolButton* words = makeButton(entry.name + "Chip", entry.words, chip);
     words->setProperty("handler", "showControl");
-    words->setToolTip(tr("Set here; a click leads to the control"));
-    connect(words, &QToolButton::clicked, this, [this, row] { emit wanted(row); });
-    QToolButton* cross = makeButton(QString(row->binding().control) + "ChipReset", QStringLiteral("\u00d7"), chip);
+    words->setToolTip(entry.toolTip);
+    connect(words, &QToolButton::clicked, this, [this, place = entry.place] { emit wanted(place); });
+    QToolButton* cross = makeButton(entry.name + "ChipReset", QStringLiteral("\u00d7"), chip);
     cross->setProperty("handler", "resetControl");
-    cross->setToolTip(tr("Put the default back"));
-    cross->setAccessibleName(tr("Reset %1").arg(label));
-    connect(cross, &QToolButton::clicked, row, &ControlRow::resetWanted);
+    cross->setToolTip(entry.offToolTip);
+    cross->setAccessibleName(tr("%1: %2").arg(entry.offToolTip, entry.label));
+    connect(cross, &QToolButton::clicked, this, entry.off);
     line->addWidget(words);
     line->addWidget(cross);
     return chip;
 }
 
-void Chips::refresh() {
-    std::vector<ControlRow*> rows;
-    for (ControlRow* row : binder_.rows())
-        if (!row->isAtDefault()) rows.push_back(row);
-    if (rows != rows_ || chips_.empty()) {
-        for (QWidget* old : chips_) {
-            old->hide();
-            old->deleteLater();  // its cross may be at work
-        }
-        chips_.clear();
-        rows_ = rows;
-        const std::size_t shown = all_ ? rows.size() : std::min(rows.size(), kFirst);
-        for (std::size_t i = 0; i < shown; ++i)
-            chips_.push_back(makeChip(rows[i]));
-        if (rows.size() > kFirst) {
-            QToolButton* more =
-                makeButton("chipsMore", all_ ? tr("fewer") : tr("%1 more").arg(rows.size() - shown), this);
-            more->setProperty("handler", "showMoreChips");
-            more->setToolTip(tr("Shows what else is set here, or only the first"));
-            connect(more, &QToolButton::clicked, this, [this] {
-                all_ = !all_;
-                rows_.clear();
-                refresh();
-            });
-            chips_.push_back(more);
-        }
-        for (QWidget* chip : chips_)
-            chip->show();
-        updateGeometry();
+void Chips::rebuild() {
+    for (QWidget* old : chips_) {
+        old->hide();
+        old->deleteLater();  // its cross may be at work
     }
-    for (std::size_t i = 0; i < rows.size() && i < chips_.size(); ++i)
-        if (auto* words = chips_[i]->findChild<QToolButton*>(QString(rows[i]->binding().control) + "Chip"))
-            words->setText(wordsOf(rows[i]));
+    chips_.clear();
+    const std::size_t shown = all_ ? entries_.size() : std::min(entries_.size(), kFirst);
+    for (std::size_t i = 0; i < shown; ++i)
+        chips_.push_back(makeChip(entries_[i]));
+    if (entries_.size() > kFirst) {
+        QToolButton* more =
+            makeButton("chipsMore", all_ ? tr("fewer") : tr("%1 more").arg(entries_.size() - shown), this);
+        more->setProperty("handler", "showMoreChips");
+        more->setToolTip(tr("Shows what else is set here, or only the first"));
+        connect(more, &QToolButton::clicked, this, [this] {
+            all_ = !all_;
+            rebuild();
+            layOut(width(), true);
+        });
+        chips_.push_back(more);
+    }
+    for (QWidget* chip : chips_)
+        chip->show();
+    updateGeometry();
+}
+
+/// Chips stay while only their words change, so that one with the focus keeps it.
+void Chips::refresh() {
+    std::vector<Entry> now = entries();
+    const bool same = std::ranges::equal(now, entries_, {}, &Entry::name, &Entry::name);
+    entries_ = std::move(now);
+    if (!same || chips_.empty()) rebuild();
+    for (std::size_t i = 0; i < entries_.size() && i < chips_.size(); ++i)
+        if (auto* words = chips_[i]->findChild<QToolButton*>(entries_[i].name + "Chip"))
+            words->setText(entries_[i].words);
     layOut(width(), true);
 }
 

@@ -1,16 +1,17 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include <QTimer>
 #include <QWidget>
 
-#include "ui/bind/Binder.h"
+#include "ui/bind/GroupBox.h"
 
 namespace tavrin {
 
-/// What is set here: a chip for every control away from its default. A click on its words leads to the control, its
-/// cross puts the default back.
+/// What is set here: a chip for every effect that is on, and for every other control away from its default. A click
+/// on its words leads there; its cross switches the effect off, or puts the default back.
 class Chips : public QWidget {
     Q_OBJECT
 
@@ -22,20 +23,31 @@ class Chips : public QWidget {
     int heightForWidth(int width) const override { return layOut(width, false); }
 
   signals:
-    void wanted(const ControlRow* row);
+    void wanted(const QWidget* item);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    /// Something that is set, and how it is told and undone.
+    struct Entry {
+        QString name, label, words, toolTip, offToolTip;
+        const QWidget* place;  ///< where it can be changed
+        std::function<void()> off;
+    };
+
+    std::vector<Entry> entries() const;
+    Entry entryOf(ControlRow* row) const;
+    Entry entryOf(const GroupBox* group) const;
     void refresh();
-    QWidget* makeChip(ControlRow* row);
+    void rebuild();
+    QWidget* makeChip(const Entry& entry);
     int layOut(int width, bool place) const;
 
     Binder& binder_;
     QTimer due_;
     bool all_ = false;  ///< more than the first few
-    std::vector<ControlRow*> rows_;
+    std::vector<Entry> entries_;
     std::vector<QWidget*> chips_;
 };
 

@@ -1,0 +1,79 @@
+#include "ui/effects/ColourRow.h"
+
+#include <QColorDialog>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QToolButton>
+
+namespace tavrin {
+
+namespace {
+
+constexpr QSize kSwatch(32, 18);
+
+}  // namespace
+
+ColourRow::ColourRow(const ColourSetting& setting, Binder& binder, QWidget* parent)
+    : QWidget(parent), setting_(setting), binder_(binder), button_(new QToolButton(this)) {
+    setAccessibleName(ControlRow::translated(setting.label));
+    button_->setObjectName(setting.control);
+    button_->setProperty("handler", setting.handler);
+    button_->setText(accessibleName());
+    button_->setToolTip(ControlRow::translated(setting.toolTip));
+    button_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button_->setIconSize(kSwatch);
+    button_->setFocusPolicy(Qt::StrongFocus);
+    button_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(button_, &QToolButton::clicked, this, &ColourRow::choose);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(button_);
+    connect(&binder, &Binder::shown, this, &ColourRow::refresh);
+    refresh();
+}
+
+QColor ColourRow::colour() const {
+    const auto channel = [this](const char* setting) {
+        return qBound(0, QString::fromStdString(binder_.editor().value(setting)).toInt(), 255);
+    };
+    return {channel(setting_.red), channel(setting_.green), channel(setting_.blue)};
+}
+
+void ColourRow::choose() {
+    const QColor before = colour();
+    auto* dialog = new QColorDialog(before, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setObjectName(QString(setting_.control) + "Dialog");
+    dialog->setWindowTitle(ControlRow::translated(setting_.dialogTitle));
+    binder_.editor().beginStep(accessibleName().toStdString());
+    connect(dialog, &QColorDialog::currentColorChanged, this, &ColourRow::set);
+    connect(dialog, &QDialog::rejected, this, [this, before] { set(before); });
+    connect(dialog, &QDialog::finished, this, [this] {
+        binder_.editor().endStep();
+        emit binder_.changed();
+    });
+    dialog->open();
+}
+
+void ColourRow::set(const QColor& colour) {
+    if (colour == this->colour()) return;
+    binder_.run(accessibleName(), [&](SettingEditor& editor) {
+        editor.set(setting_.red, std::to_string(colour.red()));
+        editor.set(setting_.green, std::to_string(colour.green()));
+        editor.set(setting_.blue, std::to_string(colour.blue()));
+    });
+}
+
+void ColourRow::refresh() {
+    const double scale = devicePixelRatioF();
+    QPixmap swatch(kSwatch * scale);
+    swatch.setDevicePixelRatio(scale);
+    swatch.fill(colour());
+    QPainter painter(&swatch);
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawRect(QRectF(0.5, 0.5, kSwatch.width() - 1.0, kSwatch.height() - 1.0));
+    painter.end();
+    button_->setIcon(swatch);
+}
+
+}  // namespace tavrin

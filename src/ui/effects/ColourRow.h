@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+#include "ui/bind/Binder.h"
+
+class QToolButton;
+
+namespace tavrin {
+
+/// A colour that three settings hold, 0 to 255 each. Texts are translated in the context "Panel".
+struct ColourSetting {
+    const char* control;             ///< name of the button that shows the colour and opens the dialog
+    const char* handler;             ///< operations of both
+    const char *red, *green, *blue;  ///< the settings
+    const char *label, *toolTip, *dialogTitle;
+};
+
+/// Shows a colour and lets it be chosen; the picture follows while the dialog is open. What a dialog did is one step.
+class ColourRow : public QWidget {
+    Q_OBJECT
+
+  public:
+    ColourRow(const ColourSetting& setting, Binder& binder, QWidget* parent = nullptr);
+
+    QColor colour() const;
+    void choose();
+
+  private:
+    void set(const QColor& colour);
+    void refresh();
+
+    const ColourSetting& setting_;
+    Binder& binder_;
+    QToolButton* button_;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+#include "ui/effects/ColourRow.h"
+#include "ui/effects/PictureRow.h"
+
+namespace tavrin {
+
+/// The picture files and colours of the effect groups, each with the name of its group.
+struct GroupPicture {
+    const char* group;
+    PictureSetting setting;
+};
+struct GroupColour {
+    const char* group;
+    ColourSetting setting;
+};
+
+const std::vector<GroupPicture>& effectPictures();
+const std::vector<GroupColour>& effectColours();
+
+}  // namespace tavrin
