@@ -46,8 +46,8 @@ void replaceItem(SettingEditor& editor, std::size_t row, const FontObject& item)
 void removeItem(SettingEditor& editor, std::size_t row) {
     std::vector<FontObject> items = listOf(editor);
     if (row >= items.size()) return;
-    std::rotate(items.begin() + static_cast<std::ptrdiff_t>(row), items.begin() + static_cast<std::ptrdiff_t>(row) + 1,
-                items.end());
+    std::rotate(items.begin() + static_cast<std::ptrdiff_t>(row),
+                items.begin() + static_cast<std::ptrdiff_t>(row) + 1, items.end());
     items.back() = FontObject();  // so that taking it back finds a plain one, as a new item is
     editor.beginStep("");
     putList(editor, items);

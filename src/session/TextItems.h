@@ -20,7 +20,8 @@ void replaceItem(SettingEditor& editor, std::size_t row, const FontObject& item)
 /// Takes an item out of the list, which closes up. A row that is not there changes nothing.
 void removeItem(SettingEditor& editor, std::size_t row);
 
-/// Moves an item to another row: what stands later in the list is drawn later. Rows that are not there change nothing.
+/// Moves an item to another row: what stands later in the list is drawn later. Rows that are not there change
+/// nothing.
 void moveItem(SettingEditor& editor, std::size_t from, std::size_t to);
 
 }  // namespace tavrin

@@ -1,12 +1,10 @@
-#include "session/TextItems.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
 #include <memory>
 
 #include "core/state/ChangeFlags.h"
 #include "core/state/SettingNames.h"
+#include "session/TextItems.h"
 
 namespace tavrin {
 namespace {

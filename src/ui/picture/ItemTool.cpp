@@ -2,11 +2,9 @@
 
 #include <utility>
 
-#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "core/files/NameText.h"
 #include "core/state/ChangeFlags.h"
 #include "session/TextItems.h"
 
@@ -18,8 +16,7 @@ constexpr double kLeastScale = 0.01;
 
 }  // namespace
 
-ItemTool::ItemTool(Binder& binder, PictureView* view)
-    : QObject(view), binder_(binder), view_(view) {
+ItemTool::ItemTool(Binder& binder, PictureView* view) : QObject(view), binder_(binder), view_(view) {
     textSelectTimer_.setInterval(500);
     connect(&textSelectTimer_, &QTimer::timeout, this, &ItemTool::OnTextSelectTimer);
     connect(view_, &PictureView::zoomed, this, [this] {
@@ -61,7 +58,8 @@ void ItemTool::press(const QPoint& at, bool selects) {
         const ItemBox box = *view_->selection();
         if (isAtCorner(at, box.x2, box.y2)) {
             view_->setSelection(std::nullopt);
-            return EditTextImage();
+            emit selected(-1);
+            return void(emit editWanted(iSelectedFontIndex_));
         }
         if (isAtCorner(at, box.x1, box.y1)) {
             hideFrame();
@@ -75,10 +73,8 @@ void ItemTool::press(const QPoint& at, bool selects) {
     for (std::size_t i = 0; selects && i < items.size(); ++i) {
         const ItemBox box(items[i], scale());
         if (!box.holds(at)) continue;
-        view_->setSelection(box);
         iSelectedFontIndex_ = static_cast<int>(i);
-        iTextShowCount_ = kShowCount;
-        if (!textSelectTimer_.isActive()) textSelectTimer_.start();
+        showFrame();
         break;
     }
     emit selected(bShowTextCursor() ? iSelectedFontIndex_ : -1);
@@ -140,20 +136,16 @@ void ItemTool::endDrag() {
     emit binder_.changed();
 }
 
-void ItemTool::EditTextImage() {
-    if (!hasItem()) return;
-    auto* dialog = new QInputDialog(view_);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setObjectName("editItem");
-    dialog->setWindowTitle(item().isImage ? tr("Edit Picture Item") : tr("Edit Text"));
-    dialog->setLabelText(item().isImage ? tr("File of the picture") : tr("Text"));
-    if (!item().isImage) dialog->setOption(QInputDialog::UsePlainTextEditForTextInput);
-    dialog->setTextValue(textOfName(item().sText));
-    connect(dialog, &QInputDialog::textValueSelected, this, [this, key = name("sText")](const QString& text) {
-        binder_.run(tr("Text of an item"), [&](SettingEditor& editor) { editor.set(key, nameOfText(text)); });
-    });
-    dialog->open();
-    emit selected(-1);
+void ItemTool::show(int row) {
+    iSelectedFontIndex_ = row;
+    if (row < 0) return hideFrame();
+    showFrame();
+}
+
+void ItemTool::showFrame() {
+    place();
+    iTextShowCount_ = kShowCount;
+    if (!textSelectTimer_.isActive()) textSelectTimer_.start();
 }
 
 void ItemTool::askToDelete(int row) {

@@ -27,17 +27,20 @@ class ItemTool : public QObject {
     void dragTo(int mode, const QPointF& points);
     void endDrag();
     void hideFrame();
-    /// Asks in which words or with which file the selected item is to go on.
-    void EditTextImage();
+    /// Shows the frame of an item that was selected elsewhere; -1: of none.
+    void show(int row);
     void deleteTextItemRow(int row);
 
   signals:
     /// Another item is selected, or none (-1); or the selected one was changed.
     void selected(int index);
+    /// The icon that edits was pressed.
+    void editWanted(int index);
 
   private:
     void OnTextSelectTimer();
     void place();
+    void showFrame();
     void askToDelete(int row);
     void beginDrag(int mode);
     void moveTo(const QPointF& points);

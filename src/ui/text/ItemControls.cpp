@@ -8,6 +8,7 @@
 #include "core/files/NameText.h"
 #include "core/text/TextLayers.h"
 #include "core/text/TextMacros.h"
+#include "ui/bind/ColourRow.h"
 #include "ui/text/WordRows.h"
 
 namespace tavrin {
@@ -53,13 +54,29 @@ BindingGroup textGroup() {
          QT_TRANSLATE_NOOP("Panel", "Heavier letters")},
         {"checkItalic", &kFont, kItem, "isItallic", &kState, 0, 1, 0, QT_TRANSLATE_NOOP("Panel", "Italic"),
          QT_TRANSLATE_NOOP("Panel", "Slanted letters")},
-        {"radioJustify", &kJustify, kItem, "iJustify", &kPlain, 0, 2, 0, QT_TRANSLATE_NOOP("Panel", "Lines"),
+        {"radioJustify",
+         &kJustify,
+         kItem,
+         "iJustify",
+         &kPlain,
+         0,
+         2,
+         0,
+         QT_TRANSLATE_NOOP("Panel", "Lines"),
          QT_TRANSLATE_NOOP("Panel", "Where shorter lines stand"),
          {{"radioJustifyLeft", "1", 0, QT_TRANSLATE_NOOP("Panel", "Left")},
           {"radioJustifyCenter", "2", 1, QT_TRANSLATE_NOOP("Panel", "Centre")},
           {"radioJustifyRight", "3", 2, QT_TRANSLATE_NOOP("Panel", "Right")}}},
-        {"radioFill", &kFill, kItem, "iFontOutlineThickness", &kPlain, -3, 3, 0,
-         QT_TRANSLATE_NOOP("Panel", "Letters"), QT_TRANSLATE_NOOP("Panel", "What is drawn of them"),
+        {"radioFill",
+         &kFill,
+         kItem,
+         "iFontOutlineThickness",
+         &kPlain,
+         -3,
+         3,
+         0,
+         QT_TRANSLATE_NOOP("Panel", "Letters"),
+         QT_TRANSLATE_NOOP("Panel", "What is drawn of them"),
          {{"radioFillOnly", "1", 0, QT_TRANSLATE_NOOP("Panel", "Filled")},
           {"radioOutlineOnly", "2", 3, QT_TRANSLATE_NOOP("Panel", "Outline")},
           {"radioFillAndOutline", "3", -3, QT_TRANSLATE_NOOP("Panel", "Both")}}},
@@ -79,11 +96,24 @@ BindingGroup textGroup() {
 
 BindingGroup imageGroup() {
     std::vector<Binding> bindings = scales("sliderImageScaleX", "sliderImageScaleY");
-    bindings.push_back({"sliderImageTransparency", &kFade, Owner::item, "dTransparency", &kHundredths, 0, 100, 1,
-                        QT_TRANSLATE_NOOP("Panel", "Opacity"),
-                        QT_TRANSLATE_NOOP("Panel", "At 0 the picture cannot be seen, at 100 it hides what is below.")});
+    bindings.push_back(
+        {"sliderImageTransparency", &kFade, Owner::item, "dTransparency", &kHundredths, 0, 100, 1,
+         QT_TRANSLATE_NOOP("Panel", "Opacity"),
+         QT_TRANSLATE_NOOP("Panel", "At 0 the picture cannot be seen, at 100 it hides what is below.")});
     return {"MyImagePanel", QT_TRANSLATE_NOOP("Panel", "Selected picture"), nullptr, std::move(bindings)};
 }
+
+constexpr ColourSetting kColours[] = {
+    {"colorFontFill", "colorChangedFontFill:", "dFontFillRed", "dFontFillGreen", "dFontFillBlue",
+     QT_TRANSLATE_NOOP("Panel", "Colour of the letters"), QT_TRANSLATE_NOOP("Panel", "Fills the letters"),
+     QT_TRANSLATE_NOOP("Panel", "Select Font Fill Color"), 1.0, Owner::item},
+    {"colorFontOutline", "colorChangedFontOutline:", "dFontOutlineRed", "dFontOutlineGreen", "dFontOutlineBlue",
+     QT_TRANSLATE_NOOP("Panel", "Colour of the outline"), QT_TRANSLATE_NOOP("Panel", "Goes round the letters"),
+     QT_TRANSLATE_NOOP("Panel", "Select Font Outline Color"), 1.0, Owner::item},
+    {"colorFontShadow", "colorChangedShadow:", "dFontDropshadowGlowRed", "dFontDropshadowGlowGreen",
+     "dFontDropshadowGlowBlue", QT_TRANSLATE_NOOP("Panel", "Colour of the shadow"),
+     QT_TRANSLATE_NOOP("Panel", "Of the letters' shadow"), QT_TRANSLATE_NOOP("Panel", "Select Font Shadow Color"),
+     1.0, Owner::item}};
 
 /// A menu of what the text can hold that is filled in for each portrait, with what that would be now.
 QToolButton* makeMacros(Binder& binder, TextRow* words) {
@@ -137,14 +167,17 @@ const FontObject* selectedItem(const SystemInfo& info) {
 
 GroupBox* makeTextControls(Binder& binder, QWidget* parent) {
     static const BindingGroup group = textGroup();
-    auto* words = new TextRow({"textItemWords", &kWords, Owner::item, "sText", QT_TRANSLATE_NOOP("Panel", "Words"),
-                               QT_TRANSLATE_NOOP("Panel", "What stands on the picture, in as many lines as you like")},
-                              binder);
+    auto* words =
+        new TextRow({"textItemWords", &kWords, Owner::item, "sText", QT_TRANSLATE_NOOP("Panel", "Words"),
+                     QT_TRANSLATE_NOOP("Panel", "What stands on the picture, in as many lines as you like")},
+                    binder);
     auto* font = new FontRow({"fontPicker", &kFont, Owner::item, "sFontName", QT_TRANSLATE_NOOP("Panel", "Font"),
                               QT_TRANSLATE_NOOP("Panel", "The typeface of the words")},
                              binder);
     auto* level = new PickRow(levelOf("comboTextLevel", &kTextLevel), kLevels, binder);
     auto* box = new GroupBox(group, binder, parent, {words, makeMacros(binder, words), font});
+    for (const ColourSetting& colour : kColours)
+        box->addItem(new ColourRow(colour, binder));
     box->addItem(level);
     showOnlyFor(box, binder, false);
     return box;

@@ -8,7 +8,7 @@
 #include <QToolButton>
 
 #include "core/files/NameText.h"
-#include "core/image/PictureFile.h"
+#include "core/image/ImageReader.h"
 #include "core/text/TextLayers.h"
 #include "session/TextItems.h"
 #include "ui/FileFilters.h"
@@ -36,7 +36,7 @@ void putInMiddle(const SystemInfo& info, FontObject& item, double width, double 
 }  // namespace
 
 TextPage::TextPage(Binder& binder, QWidget* parent)
-    : PanelPage({"panelText", "TabText", 2, QT_TRANSLATE_NOOP("Panel", "Text"),
+    : PanelPage({"panelText", "TabText", 4, QT_TRANSLATE_NOOP("Panel", "Text"),
                  QT_TRANSLATE_NOOP("Panel", "Words and pictures on the picture")},
                 parent),
       binder_(binder),
@@ -49,6 +49,11 @@ TextPage::TextPage(Binder& binder, QWidget* parent)
     group->addItem(makeButtons());
     textControls_ = makeTextControls(binder, this);
     imageControls_ = makeImageControls(binder, this);
+    QToolButton* file = makeButton("buttonImageFile", "loadImageItem", tr("Another picture..."),
+                                   tr("Puts another picture in the place of the selected one"));
+    connect(file, &QToolButton::clicked, this,
+            [this] { askForImage(tr("Choose a Picture"), &TextPage::replaceImage); });
+    imageControls_->addItem(file);
     addGroup(textControls_);
     addGroup(imageControls_);
     connect(&binder, &Binder::shown, this, &TextPage::refresh);
@@ -77,7 +82,8 @@ QWidget* TextPage::makeList() {
     return list_;
 }
 
-QToolButton* TextPage::makeButton(const char* name, const char* handler, const QString& text, const QString& toolTip) {
+QToolButton* TextPage::makeButton(const char* name, const char* handler, const QString& text,
+                                  const QString& toolTip) {
     auto* button = new QToolButton;
     button->setObjectName(name);
     button->setProperty("handler", handler);
@@ -104,7 +110,7 @@ QWidget* TextPage::makeButtons() {
     later_ = makeButton("buttonItemLater", "moveItem", tr("Further up"),
                         tr("Draws the selected item later, so that it covers the others"));
     connect(text, &QToolButton::clicked, this, &TextPage::addText);
-    connect(image, &QToolButton::clicked, this, [this] { addImage(); });
+    connect(image, &QToolButton::clicked, this, [this] { askForImage(tr("Add a Picture"), &TextPage::addImage); });
     connect(edit_, &QToolButton::clicked, this, [this] { EditTextImage(list_->currentRow()); });
     connect(delete_, &QToolButton::clicked, this, [this] {
         binder_.run(tr("Delete an item"), [this](SettingEditor& editor) {
@@ -130,34 +136,55 @@ void TextPage::addText() {
     add(item);
 }
 
-void TextPage::addImage() {
-    auto* dialog = new QFileDialog(this, tr("Choose a Picture"));
+void TextPage::askForImage(const QString& title, void (TextPage::*take)(const QString& path)) {
+    auto* dialog = new QFileDialog(this, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setObjectName("addImageDialog");
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilter(pictureFilter());
-    connect(dialog, &QFileDialog::fileSelected, this, qOverload<const QString&>(&TextPage::addImage));
+    connect(dialog, &QFileDialog::fileSelected, this, take);
     dialog->open();
 }
 
-void TextPage::addImage(const QString& path) {
-    const ReadPicture picture = readPicture(nameOfText(path));
-    if (picture.image.isNull()) {
-        emit binder_.told(tr("%1: %2").arg(path.section('/', -1), QString::fromStdString(picture.problem)));
-        return;
+/// Names the file and its size in the item. A file that is no picture is told.
+bool TextPage::readImage(const QString& path, FontObject& item) {
+    const PictureFacts facts = readPictureFacts(nameOfText(path));
+    if (facts.width < 1) {
+        emit binder_.told(
+            tr("%1 cannot be read: %2.").arg(path.section('/', -1), QString::fromStdString(facts.error)));
+        return false;
     }
-    const SystemInfo& info = binder_.editor().info();
-    FontObject item;
     item.isImage = true;
     item.sText = nameOfText(path);
-    item.imageSizeWidth = picture.image.width();
-    item.imageSizeHeight = picture.image.height();
-    const double scale = info.iOutputPixelWidth / 3.0 / picture.image.width();
+    item.imageSizeWidth = facts.width;
+    item.imageSizeHeight = facts.height;
+    return true;
+}
+
+void TextPage::addImage(const QString& path) {
+    FontObject item;
+    if (!readImage(path, item)) return;
+    const SystemInfo& info = binder_.editor().info();
+    const double scale = info.iOutputPixelWidth / 3.0 / item.imageSizeWidth;
     item.dGlobalScaleX = scale;
     item.dGlobalScaleY = scale;
-    const double dpi = std::max(1, info.iOutputImageDPI.load());
-    putInMiddle(info, item, picture.image.width() * scale / dpi, picture.image.height() * scale / dpi);
+    const double perInch = scale / std::max(1, info.iOutputImageDPI.load());
+    putInMiddle(info, item, item.imageSizeWidth * perInch, item.imageSizeHeight * perInch);
     add(item);
+}
+
+void TextPage::replaceImage(const QString& path) {
+    const SystemInfo& info = binder_.editor().info();
+    const FontObject* before = selectedItem(info);
+    if (!before || !before->isImage) return;
+    FontObject item = *before;
+    if (!readImage(path, item)) return;
+    const double wider = before->imageSizeWidth / item.imageSizeWidth;
+    item.dGlobalScaleX = item.dGlobalScaleX * wider;
+    item.dGlobalScaleY = item.dGlobalScaleY * wider;
+    binder_.run(tr("Another picture"), [&](SettingEditor& editor) {
+        replaceItem(editor, static_cast<std::size_t>(info.iSelectedFontObject), item);
+    });
 }
 
 void TextPage::add(const FontObject& item) {

@@ -17,10 +17,10 @@ class TextPage : public PanelPage {
     explicit TextPage(Binder& binder, QWidget* parent = nullptr);
 
     void addText();
-    /// Asks for a picture.
-    void addImage();
     /// Adds a picture in the middle, a third as wide as the whole. One that cannot be read is told and not added.
     void addImage(const QString& path);
+    /// Gives the selected picture another file, which fills the width of the one before.
+    void replaceImage(const QString& path);
     /// Selects an item, shows its controls and asks to be turned to.
     void EditTextImage(int row);
     /// Selects an item; -1: none.
@@ -35,6 +35,8 @@ class TextPage : public PanelPage {
     QWidget* makeList();
     QWidget* makeButtons();
     QToolButton* makeButton(const char* name, const char* handler, const QString& text, const QString& toolTip);
+    void askForImage(const QString& title, void (TextPage::*take)(const QString& path));
+    bool readImage(const QString& path, FontObject& item);
     void add(const FontObject& item);
     void changedSelection();
     void move(int by);
