@@ -13,7 +13,7 @@ std::string benchFile() {
 }
 
 void fill(SystemInfo& info) {
-    info.oFontObject.assign(TextState::kMaxFontObjects, FontObject());
+    info.oFontObject.resize(TextState::kMaxFontObjects);
     for (FontObject& item : info.oFontObject)
         item.sText = "Class of 2026, first row:\nAnna, \"Ben\" & Çelik";
 }

@@ -41,7 +41,7 @@ BitmapContext* contextOf(const SystemInfo& info, int res) {
 void drawItem(benchmark::State& state, const char* text, int radius, int outline) {
     needFonts();
     const auto info = makeState();
-    FontObject& item = info->oFontObject.emplace_back();
+    FontObject& item = info->oFontObject.push_back();
     item.sText = text;
     item.xPos = item.yPos = 0.5;
     item.rectSizeWidth = 504.0;

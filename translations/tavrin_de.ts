@@ -1413,6 +1413,290 @@
         <source>Pages to print on, with places for pictures</source>
         <translation>Seiten zum Drucken, mit Plätzen für Bilder</translation>
     </message>
+    <message>
+        <source>Behind the subject, over the background&apos;s overlay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Over the subject</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Over the subject&apos;s overlay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Over everything but frames</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How wide the item is, in percent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>How high the item is, in percent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the letters, in points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heavier letters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slanted letters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where shorter lines stand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is drawn of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Softness of the shadow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How soft the edge of the letters&apos; shadow is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shadow to the right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far the letters&apos; shadow stands to the right; below 0 to the left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shadow upward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far the letters&apos; shadow stands above them; below 0 under them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At 0 the picture cannot be seen, at 100 it hides what is below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour of the letters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fills the letters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Font Fill Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour of the outline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goes round the letters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour of the shadow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the letters&apos; shadow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Font Shadow Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the item lies over, and what covers it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What stands on the picture, in as many lines as you like</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The typeface of the words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extra large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top centre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom centre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By the ground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shadow of the words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes the words stand out from an unquiet ground.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One line on the picture; @filename puts the portrait&apos;s name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How large the words are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Where the words stand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>White, black, or what can be read best on the ground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Words and pictures on the picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts and pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -1889,26 +2173,6 @@
     <message>
         <source>Size of an item</source>
         <translation>Größe eines Elements</translation>
-    </message>
-    <message>
-        <source>Edit Picture Item</source>
-        <translation>Bildelement bearbeiten</translation>
-    </message>
-    <message>
-        <source>Edit Text</source>
-        <translation>Text bearbeiten</translation>
-    </message>
-    <message>
-        <source>File of the picture</source>
-        <translation>Datei des Bildes</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Text of an item</source>
-        <translation>Text eines Elements</translation>
     </message>
     <message>
         <source>Are you shure you want to delete the text?</source>
@@ -3638,6 +3902,136 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>The print pages cannot be kept.</source>
         <translation>Die Druckseiten können nicht aufgehoben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TextPage</name>
+    <message>
+        <source>IMAGE: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TEXT: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another picture...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts another picture in the place of the selected one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts and pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is drawn first stands first; drag to change the order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of the items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add, edit and delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts a new text on the picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add picture...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts a picture, such as a logo, on the picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the controls of the selected item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Takes the selected item away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws the selected item earlier, so that the others cover it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws the selected item later, so that it covers the others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete an item</source>
+        <translation>Element löschen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>Another picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a text</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TextRow</name>
+    <message>
+        <source>Insert...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert what is filled in for each portrait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File name, number, date or time, filled in for each portrait</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -90,7 +90,7 @@ class StateReader {
         copyLeaves<LayerSettings>(state_.combined, *info.pCombinedBitmapInfo);
         for (std::size_t i = 0; i < state_.labels.size(); ++i)
             copyLeaves(state_.labels[i], info.oFontLabelObject[i]);
-        info.oFontObject = state_.items;
+        info.oFontObject.assign(state_.items);
         copyLeaves(state_.texture, *info.oImageTexture);
         copyFrame(state_.frame, *info.oFrame);
         copyFrame(state_.frameOverlay, *info.oFrameOverlay);

@@ -40,10 +40,6 @@ void saveItems(const SystemInfo& info, ProcessXML& xml) {
 }  // namespace
 
 std::string saveImageStateToXML(const SystemInfo& info, const std::string& path) {
-    if (info.oFontObject.size() > TextState::kMaxFontObjects) {
-        return path + " cannot be saved: FontObject stands " + std::to_string(info.oFontObject.size()) +
-               " times, and a state has room for " + std::to_string(TextState::kMaxFontObjects) + ".";
-    }
     ProcessXML xml;
     xml.StartXMLSave(path);
     xml.OpenNode("ImageState");

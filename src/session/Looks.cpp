@@ -14,8 +14,6 @@ namespace tavrin {
 
 namespace {
 
-constexpr const char* kItemCount = "iFontObjectCount";
-
 bool isOneOf(std::string_view word, std::initializer_list<std::string_view> words) {
     return std::find(words.begin(), words.end(), word) != words.end();
 }
@@ -104,8 +102,7 @@ std::vector<LookChange> changesBy(const SystemInfo& info, const SettingValues& l
     std::vector<LookChange> changes;
     for (const auto& [name, value] : look) {
         const auto part = partOf(name);
-        const std::string before =
-            name == kItemCount ? std::to_string(info.iFontObjectCount()) : fieldValue(info, name).value_or("");
+        const std::string before = fieldValue(info, name).value_or("");
         if (part && before != value) changes.push_back({*part, name, before, value});
     }
     return changes;

@@ -20,7 +20,6 @@ namespace tavrin {
 namespace {
 
 constexpr std::string_view kPortrait = "foreground.sSourceImageFullPath";
-constexpr std::string_view kItemCount = "iFontObjectCount";
 
 /// Found out with the source and the size.
 bool isMeasured(std::string_view name) {
@@ -28,15 +27,6 @@ bool isMeasured(std::string_view name) {
                                                            "foreground.fOrgScale",  "background.iOrgWidth",
                                                            "background.iOrgHeight", "background.fOrgScale"};
     return std::find(kMeasured.begin(), kMeasured.end(), name) != kMeasured.end();
-}
-
-void resizeItems(SystemInfo& info, const std::string& count) {
-    std::size_t items = 0;
-    std::from_chars(count.data(), count.data() + count.size(), items);
-    items = std::min(items, TextState::kMaxFontObjects);
-    if (items == info.oFontObject.size()) return;
-    raiseFlags(info, kRedoBackgroundLayer);  // one of them may lie there
-    info.oFontObject.resize(items);
 }
 
 std::string chooseSizeOf(SystemInfo& info, const SettingValues& settings) {
@@ -141,9 +131,11 @@ Recipe presentRecipe(const SettingEditor& editor) {
 }
 
 std::string useSettings(SystemInfo& info, const SettingValues& settings) {
-    for (const auto& [name, value] : settings)
-        if (name == kItemCount) resizeItems(info, value);
     std::string problems;
+    for (const auto& [name, value] : settings) {
+        if (name == kItemCount && fieldValue(info, name) != value)
+            addLine(problems, changeSetting(info, name, value));
+    }
     for (const auto& [name, value] : settings) {
         if (name == kItemCount || isMeasured(name) || findLeaf(OutputGeometry::leaves(), name) ||
             fieldValue(info, name) == value)

@@ -23,7 +23,7 @@ class TextStagesTest : public testing::Test {
     }
     // A stripe across the picture, over the disc and over the background beside it.
     void addStripe(const char* level, double inchesFromTop, QColor color) {
-        FontObject& item = info_->oFontObject.emplace_back();
+        FontObject& item = info_->oFontObject.push_back();
         item.isImage = true;
         item.sText = plain((std::string("stripe") + level + ".png").c_str(), 92, 8, color);
         item.imageSizeWidth = 92.0;

@@ -76,7 +76,7 @@ class TextPage {
     /// A new list item with a box of an inch in height, an inch from the left and from the bottom; the reference
     /// holds until the next.
     FontObject& add(const char* text, int points = 72) {
-        FontObject& item = info->oFontObject.emplace_back();
+        FontObject& item = info->oFontObject.push_back();
         item.sText = text;
         item.iFontSize = points;
         item.rectSizeWidth = 500.0;

@@ -4,7 +4,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QNativeGestureEvent>
@@ -318,14 +317,9 @@ TEST_F(PictureToolsTest, TheIconsOfAnItemEditItAndDeleteItAfterAQuestion) {
     };
     select();
     QTest::mouseClick(view_, Qt::LeftButton, {}, box().topRight().toPoint());
-    auto* dialog = view_->findChild<QInputDialog*>("editItem");
-    ASSERT_TRUE(dialog);
     EXPECT_FALSE(view_->selection());
-    dialog->setTextValue("elsewhere.png");
-    dialog->accept();
-    EXPECT_EQ(info_->oFontObject[0].sText.load(), "elsewhere.png");
-    action("UndoButton")->trigger();
-    EXPECT_NE(info_->oFontObject[0].sText.load(), "elsewhere.png");
+    EXPECT_EQ(window_->panel()->page(), window_->panel()->texts());
+    EXPECT_EQ(info_->iSelectedFontObject, 0);
 
     const std::string text = info_->oFontObject[0].sText;
     select();
@@ -335,16 +329,14 @@ TEST_F(PictureToolsTest, TheIconsOfAnItemEditItAndDeleteItAfterAQuestion) {
     select();
     QTest::mouseClick(view_, Qt::LeftButton, {}, box().bottomLeft().toPoint());
     answer("Yes");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 0; }, 20000));
+    EXPECT_EQ(info_->iFontObjectCount(), 0);
     EXPECT_TRUE(waitForPicture());
-    EXPECT_FALSE(action("RedoButton")->isEnabled()) << "steps of an item that is gone";
     EXPECT_TRUE(editor().isUnsaved());
-    EXPECT_TRUE(presentRecipe(editor()).history.steps.empty()) << "the list is not kept with the steps";
     action("UndoButton")->trigger();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 1; }, 20000));
+    ASSERT_EQ(info_->iFontObjectCount(), 1);
     EXPECT_EQ(info_->oFontObject[0].sText.load(), text);
     action("RedoButton")->trigger();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 0; }, 20000));
+    EXPECT_EQ(info_->iFontObjectCount(), 0);
     EXPECT_TRUE(waitForPicture());
 }
 

@@ -3,6 +3,8 @@
 #include <charconv>
 #include <unordered_map>
 
+#include "core/state/SettingNames.h"
+
 namespace tavrin {
 
 namespace {
@@ -37,6 +39,7 @@ constexpr Rule kRules[] = {
     {"iGlobalSmoothingLambda", kRedoForegroundLayer},
     {"dSliderBlur", kRedoBackgroundLayer},
     {"bHaveBackgroundOverlay", kRedoBackgroundLayer},
+    {kItemCount, kRedoBackgroundLayer},  // one of those that came or went may lie there
     {"sBackgroundOverlay", kRedoBackgroundLayer},
     // The preview of the background keeps the red line on which a reflection stands.
     {"bHaveReflection", kRedoBackgroundLayer},

@@ -8,8 +8,8 @@
 
 #include "core/state/BitmapInfo.h"
 #include "core/state/FinishedPictures.h"
-#include "core/state/FontObject.h"
 #include "core/state/ImageFrame.h"
+#include "core/state/ItemList.h"
 #include "core/state/PageLists.h"
 
 namespace tavrin {
@@ -48,10 +48,10 @@ struct PageState {
 
 /// Labels and the list of text and picture items.
 struct TextState {
-    static constexpr std::size_t kMaxFontObjects = 200;
+    static constexpr std::size_t kMaxFontObjects = ItemList::kMost;
 
     std::array<FontObject, 3> oFontLabelObject;
-    std::vector<FontObject> oFontObject;  ///< at most kMaxFontObjects; drawn in this order
+    ItemList oFontObject;
 
     std::int32_t iFontObjectCount() const { return static_cast<std::int32_t>(oFontObject.size()); }
 };

@@ -93,12 +93,23 @@ std::string nearestSetting(const SystemInfo& info, const std::string& wrong) {
     return nearest;
 }
 
+std::string setItemCount(SystemInfo& info, const std::string& value) {
+    std::size_t count = 0;
+    if (!readNumber(std::string_view(value), count) || count > TextState::kMaxFontObjects) {
+        return std::string(kItemCount) + " takes a whole number from 0 to " +
+               std::to_string(TextState::kMaxFontObjects) + ", not \"" + value + "\"";
+    }
+    info.oFontObject.resize(count);
+    return "";
+}
+
 }  // namespace
 
 std::string setField(SystemInfo& info, const std::string& name, const std::string& value) {
+    if (name == kItemCount) return setItemCount(info, value);
     const std::size_t items = info.oFontObject.size();
     const bool isNew = items < TextState::kMaxFontObjects && name.starts_with("text" + std::to_string(items) + ".");
-    if (isNew) info.oFontObject.emplace_back();
+    if (isNew) info.oFontObject.push_back();
     bool found = false;
     std::string problem;
     visitObjects(info, [&](const std::string& prefix, auto& object, auto leaves) {
@@ -108,7 +119,7 @@ std::string setField(SystemInfo& info, const std::string& name, const std::strin
         found = true;
         std::visit([&](auto member) { problem = assign(object.*member, name, value); }, leaf->member);
     });
-    if (isNew && (!found || !problem.empty())) info.oFontObject.pop_back();
+    if (isNew && (!found || !problem.empty())) info.oFontObject.resize(items);
     if (!found) return "There is no field " + name + "; did you mean " + nearestSetting(info, name) + "?";
     return problem;
 }
@@ -123,7 +134,15 @@ std::vector<std::pair<std::string, std::string>> listFields(const SystemInfo& in
     return fields;
 }
 
+std::vector<std::pair<std::string, std::string>> listFields(const FontObject& item) {
+    std::vector<std::pair<std::string, std::string>> fields;
+    for (const auto& leaf : FontObject::leaves())
+        std::visit([&](auto member) { fields.emplace_back(leaf.key, show((item.*member).load())); }, leaf.member);
+    return fields;
+}
+
 std::optional<std::string> fieldValue(const SystemInfo& info, const std::string& name) {
+    if (name == kItemCount) return std::to_string(info.iFontObjectCount());
     std::optional<std::string> value;
     visitObjects(info, [&](const std::string& prefix, const auto& object, auto leaves) {
         if (value || !name.starts_with(prefix)) return;

@@ -149,6 +149,17 @@ void DrawTextAtLevel(SystemInfo& info, BitmapContext* context, const std::string
     });
 }
 
+void fitTextBox(const SystemInfo& info, FontObject& item) {
+    if (item.isImage || item.iFontSize < 1 || !whyNoFonts().empty()) return;
+    TextSetting setting = settingOf(item);
+    setting.width = 0.0;
+    const LaidOutText text = layOutText(stringOf(item, pageOf(info, Resolution::full)), setting);
+    const double perUnit = item.iFontSize / LaidOutText::kSize;
+    // A hair wider than the lines: broken at exactly their width, rounding may part them.
+    item.rectSizeWidth = std::ceil(text.width * perUnit) + 1.0;
+    item.rectSizeHeight = std::ceil(text.height * perUnit);
+}
+
 std::string textProblem(const SystemInfo& info) {
     const Page page = pageOf(info, Resolution::full);
     const bool labels = std::any_of(info.oFontLabelObject.begin(), info.oFontLabelObject.end(),

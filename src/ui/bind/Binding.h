@@ -10,8 +10,9 @@
 
 namespace tavrin {
 
-/// Whose setting a control drives. `active` is the layer that the panels edit (`iActiveBitmap`).
-enum class Owner { state, active, combined };
+/// Whose setting a control drives. `active` is the layer that the panels edit (`iActiveBitmap`), `item` the text or
+/// picture item that is selected (`iSelectedFontObject`).
+enum class Owner { state, active, combined, item };
 
 /// What a change of a control is called, and what it does besides writing the setting.
 struct Handler {
@@ -73,6 +74,7 @@ struct BindingGroup {
 inline std::string ownerPrefix(const SystemInfo& info, Owner owner) {
     if (owner == Owner::state) return "";
     if (owner == Owner::combined) return "combined.";
+    if (owner == Owner::item) return "text" + std::to_string(info.iSelectedFontObject) + '.';
     return info.iActiveBitmap == 0 ? "foreground." : "background.";
 }
 

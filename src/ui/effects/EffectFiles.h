@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "ui/effects/ColourRow.h"
+#include "ui/bind/ColourRow.h"
 #include "ui/effects/PictureRow.h"
 
 namespace tavrin {

@@ -80,10 +80,14 @@ void MainWindow::connectParts() {
 /// The small maps follow what is done on the picture, and end the frame of what they move.
 void MainWindow::connectMaps() {
     TextScaleView* item = panel_->textScaleView();
-    connect(&tools_->items(), &ItemTool::selected, item, [item](int index) {
-        if (index >= 0) item->showItem(index);
+    connect(&tools_->items(), &ItemTool::selected, item, [this, item](int index) {
+        if (index < 0) return;
+        item->showItem(index);
+        panel_->texts()->select(index);
     });
     connect(item, &PlaceView::grabbed, &tools_->items(), &ItemTool::hideFrame);
+    connect(&tools_->items(), &ItemTool::editWanted, panel_->texts(), &TextPage::EditTextImage);
+    connect(panel_->texts(), &TextPage::selected, &tools_->items(), &ItemTool::show);
     for (PlaceView* map : {static_cast<PlaceView*>(item), static_cast<PlaceView*>(panel_->scaleView())}) {
         connect(view_, &PictureView::dragged, map, qOverload<>(&QWidget::update));
         connect(&bridge_, &WindowBridge::placed, map, qOverload<>(&QWidget::update), Qt::QueuedConnection);

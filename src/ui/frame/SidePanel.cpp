@@ -49,7 +49,8 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
       found_(new QWidget),
       scroll_(makePages()),
       adjust_(new AdjustPage(binder)),
-      effects_(new EffectsPage(binder)) {
+      effects_(new EffectsPage(binder)),
+      texts_(new TextPage(binder)) {
     setObjectName("ControlPickerWindow");
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     auto* whole = new QWidget(this);
@@ -65,6 +66,8 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
     connect(effects_, &EffectsPage::wanted, this, &SidePanel::reveal);
     addPage(adjust_);
     addPage(effects_);
+    connect(texts_, &TextPage::wanted, this, &SidePanel::reveal);
+    addPage(texts_);
 }
 
 QLineEdit* SidePanel::makeSearch() {

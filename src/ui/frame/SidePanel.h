@@ -8,6 +8,7 @@
 #include "ui/bind/Command.h"
 #include "ui/effects/EffectsPage.h"
 #include "ui/look/Chips.h"
+#include "ui/text/TextPage.h"
 
 class QAction;
 class QButtonGroup;
@@ -48,6 +49,7 @@ class SidePanel : public QDockWidget {
     ScaleView* scaleView() const { return adjust_->scaleView(); }
     TextScaleView* textScaleView() const { return adjust_->textScaleView(); }
     EffectsPage* effects() const { return effects_; }
+    TextPage* texts() const { return texts_; }
 
   private:
     QLineEdit* makeSearch();
@@ -69,6 +71,7 @@ class SidePanel : public QDockWidget {
     QScrollArea* scroll_;
     AdjustPage* adjust_;
     EffectsPage* effects_;
+    TextPage* texts_;
     std::vector<QAction*> actions_;
     std::vector<PanelPage*> pages_;
     std::vector<GroupBox*> groups_;

@@ -2,13 +2,11 @@
 
 #include <utility>
 
-#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "core/files/NameText.h"
 #include "core/state/ChangeFlags.h"
-#include "session/Looks.h"
+#include "session/TextItems.h"
 
 namespace tavrin {
 
@@ -18,8 +16,7 @@ constexpr double kLeastScale = 0.01;
 
 }  // namespace
 
-ItemTool::ItemTool(Binder& binder, CombineThread& loop, PictureView* view)
-    : QObject(view), binder_(binder), loop_(loop), view_(view) {
+ItemTool::ItemTool(Binder& binder, PictureView* view) : QObject(view), binder_(binder), view_(view) {
     textSelectTimer_.setInterval(500);
     connect(&textSelectTimer_, &QTimer::timeout, this, &ItemTool::OnTextSelectTimer);
     connect(view_, &PictureView::zoomed, this, [this] {
@@ -61,7 +58,8 @@ void ItemTool::press(const QPoint& at, bool selects) {
         const ItemBox box = *view_->selection();
         if (isAtCorner(at, box.x2, box.y2)) {
             view_->setSelection(std::nullopt);
-            return EditTextImage();
+            emit selected(-1);
+            return void(emit editWanted(iSelectedFontIndex_));
         }
         if (isAtCorner(at, box.x1, box.y1)) {
             hideFrame();
@@ -75,10 +73,8 @@ void ItemTool::press(const QPoint& at, bool selects) {
     for (std::size_t i = 0; selects && i < items.size(); ++i) {
         const ItemBox box(items[i], scale());
         if (!box.holds(at)) continue;
-        view_->setSelection(box);
         iSelectedFontIndex_ = static_cast<int>(i);
-        iTextShowCount_ = kShowCount;
-        if (!textSelectTimer_.isActive()) textSelectTimer_.start();
+        showFrame();
         break;
     }
     emit selected(bShowTextCursor() ? iSelectedFontIndex_ : -1);
@@ -140,20 +136,16 @@ void ItemTool::endDrag() {
     emit binder_.changed();
 }
 
-void ItemTool::EditTextImage() {
-    if (!hasItem()) return;
-    auto* dialog = new QInputDialog(view_);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setObjectName("editItem");
-    dialog->setWindowTitle(item().isImage ? tr("Edit Picture Item") : tr("Edit Text"));
-    dialog->setLabelText(item().isImage ? tr("File of the picture") : tr("Text"));
-    if (!item().isImage) dialog->setOption(QInputDialog::UsePlainTextEditForTextInput);
-    dialog->setTextValue(textOfName(item().sText));
-    connect(dialog, &QInputDialog::textValueSelected, this, [this, key = name("sText")](const QString& text) {
-        binder_.run(tr("Text of an item"), [&](SettingEditor& editor) { editor.set(key, nameOfText(text)); });
-    });
-    dialog->open();
-    emit selected(-1);
+void ItemTool::show(int row) {
+    iSelectedFontIndex_ = row;
+    if (row < 0) return hideFrame();
+    showFrame();
+}
+
+void ItemTool::showFrame() {
+    place();
+    iTextShowCount_ = kShowCount;
+    if (!textSelectTimer_.isActive()) textSelectTimer_.start();
 }
 
 void ItemTool::askToDelete(int row) {
@@ -168,37 +160,11 @@ void ItemTool::askToDelete(int row) {
     question->open();
 }
 
-/// The list as a whole comes back with the step, so that steps before it find their items by their numbers again.
 void ItemTool::deleteTextItemRow(int row) {
     iSelectedFontIndex_ = -1;
     hideFrame();
-    loop_.post([this, row] {
-        SystemInfo& info = binder_.editor().info();
-        if (row < 0 || row >= info.iFontObjectCount()) return;
-        raiseFlags(info, redoOf(info, "text" + std::to_string(row) + ".sText"));
-        const SettingValues before = partsOf(settingsOf(info), {LookPart::texts});
-        info.oFontObject.erase(info.oFontObject.begin() + row);
-        const SettingValues after = partsOf(settingsOf(info), {LookPart::texts});
-        QMetaObject::invokeMethod(
-            this,
-            [this, before, after] {
-                binder_.editor().beginStep(tr("Delete an item").toStdString());
-                binder_.editor().note(
-                    {[this, before] { giveItems(before); }, [this, after] { giveItems(after); }, true});
-                binder_.editor().endStep();
-                emit binder_.changed();
-            },
-            Qt::QueuedConnection);
-    });
-}
-
-void ItemTool::giveItems(const SettingValues& items) {
-    hideFrame();
-    loop_.post([this, items] {
-        useSettings(binder_.editor().info(), items);
-        QMetaObject::invokeMethod(
-            this, [this] { emit binder_.changed(); }, Qt::QueuedConnection);
-    });
+    binder_.run(tr("Delete an item"),
+                [row](SettingEditor& editor) { removeItem(editor, static_cast<std::size_t>(row)); });
 }
 
 }  // namespace tavrin

@@ -3,8 +3,6 @@
 #include <QObject>
 #include <QTimer>
 
-#include "pipeline/CombineThread.h"
-#include "session/Recipe.h"
 #include "ui/bind/Binder.h"
 #include "ui/views/PictureView.h"
 
@@ -18,7 +16,7 @@ class ItemTool : public QObject {
   public:
     static constexpr int kShowCount = 8;  ///< half seconds for which an untouched frame stays
 
-    ItemTool(Binder& binder, CombineThread& loop, PictureView* view);
+    ItemTool(Binder& binder, PictureView* view);
 
     bool bShowTextCursor() const { return view_->selection().has_value(); }
     /// The item of the list that was selected last; -1 before.
@@ -29,18 +27,20 @@ class ItemTool : public QObject {
     void dragTo(int mode, const QPointF& points);
     void endDrag();
     void hideFrame();
-    /// Asks in which words or with which file the selected item is to go on.
-    void EditTextImage();
+    /// Shows the frame of an item that was selected elsewhere; -1: of none.
+    void show(int row);
     void deleteTextItemRow(int row);
-    void giveItems(const SettingValues& items);
 
   signals:
     /// Another item is selected, or none (-1); or the selected one was changed.
     void selected(int index);
+    /// The icon that edits was pressed.
+    void editWanted(int index);
 
   private:
     void OnTextSelectTimer();
     void place();
+    void showFrame();
     void askToDelete(int row);
     void beginDrag(int mode);
     void moveTo(const QPointF& points);
@@ -52,7 +52,6 @@ class ItemTool : public QObject {
     std::string name(const char* field) const;
 
     Binder& binder_;
-    CombineThread& loop_;
     PictureView* view_;
     QTimer textSelectTimer_;
     int iSelectedFontIndex_ = -1, iTextShowCount_ = 0;

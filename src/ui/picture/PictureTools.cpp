@@ -18,7 +18,7 @@ PictureTools::PictureTools(Binder& binder, CombineThread& loop, WindowBridge& br
       reader_(info_, loop, this),
       asker_(info_, loop, this),
       drag_(binder.editor()),
-      items_(binder, loop, view) {
+      items_(binder, view) {
     view_->setItemIcons(info_.TextEditIcon.Image, info_.TextDeleteIcon.Image);
     zoomRests_.setSingleShot(true);
     zoomRests_.setInterval(120);

@@ -1,4 +1,4 @@
-#include "ui/effects/ColourRow.h"
+#include "ui/bind/ColourRow.h"
 
 #include <QColorDialog>
 #include <QHBoxLayout>
@@ -32,9 +32,14 @@ ColourRow::ColourRow(const ColourSetting& setting, Binder& binder, QWidget* pare
     refresh();
 }
 
+std::string ColourRow::name(const char* setting) const {
+    return ownerPrefix(binder_.editor().info(), setting_.owner) + setting;
+}
+
 QColor ColourRow::colour() const {
     const auto channel = [this](const char* setting) {
-        return qBound(0, QString::fromStdString(binder_.editor().value(setting)).toInt(), 255);
+        const double value = QString::fromStdString(binder_.editor().value(name(setting))).toDouble();
+        return qBound(0, qRound(value * 255.0 / setting_.most), 255);
     };
     return {channel(setting_.red), channel(setting_.green), channel(setting_.blue)};
 }
@@ -58,9 +63,12 @@ void ColourRow::choose() {
 void ColourRow::set(const QColor& colour) {
     if (colour == this->colour()) return;
     binder_.run(accessibleName(), [&](SettingEditor& editor) {
-        editor.set(setting_.red, std::to_string(colour.red()));
-        editor.set(setting_.green, std::to_string(colour.green()));
-        editor.set(setting_.blue, std::to_string(colour.blue()));
+        const auto put = [&](const char* setting, int channel) {
+            editor.set(name(setting), QString::number(channel * setting_.most / 255.0, 'g', 17).toStdString());
+        };
+        put(setting_.red, colour.red());
+        put(setting_.green, colour.green());
+        put(setting_.blue, colour.blue());
     });
 }
 

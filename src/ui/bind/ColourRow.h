@@ -9,12 +9,14 @@ class QToolButton;
 
 namespace tavrin {
 
-/// A colour that three settings hold, 0 to 255 each. Texts are translated in the context "Panel".
+/// A colour that three settings hold, from 0 to `most` each. Texts are translated in the context "Panel".
 struct ColourSetting {
     const char* control;             ///< name of the button that shows the colour and opens the dialog
     const char* handler;             ///< operations of both
     const char *red, *green, *blue;  ///< the settings
     const char *label, *toolTip, *dialogTitle;
+    double most = 255.0;
+    Owner owner = Owner::state;
 };
 
 /// Shows a colour and lets it be chosen; the picture follows while the dialog is open. What a dialog did is one step.
@@ -29,6 +31,7 @@ class ColourRow : public QWidget {
 
   private:
     void set(const QColor& colour);
+    std::string name(const char* setting) const;
     void refresh();
 
     const ColourSetting& setting_;

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+
+#include "ui/bind/PanelPage.h"
+
+class QListWidget;
+class QToolButton;
+
+namespace tavrin {
+
+/// Words and pictures on the picture: three labels, the list of items, and the controls of the selected one.
+class TextPage : public PanelPage {
+    Q_OBJECT
+
+  public:
+    explicit TextPage(Binder& binder, QWidget* parent = nullptr);
+
+    void addText();
+    /// Adds a picture in the middle, a third as wide as the whole. One that cannot be read is told and not added.
+    void addImage(const QString& path);
+    /// Gives the selected picture another file, which fills the width of the one before.
+    void replaceImage(const QString& path);
+    /// Selects an item, shows its controls and asks to be turned to.
+    void EditTextImage(int row);
+    /// Selects an item; -1: none.
+    void select(int row);
+
+  signals:
+    void wanted(const QWidget* item);
+    /// The selection of the list was changed by a person.
+    void selected(int row);
+
+  private:
+    QWidget* makeList();
+    QWidget* makeButtons();
+    QToolButton* makeButton(const char* name, const char* handler, const QString& text, const QString& toolTip);
+    void askForImage(const QString& title, void (TextPage::*take)(const QString& path));
+    bool readImage(const QString& path, FontObject& item);
+    void add(const FontObject& item);
+    void changedSelection();
+    void move(int by);
+    void refresh();
+
+    Binder& binder_;
+    QListWidget* list_;
+    QToolButton *edit_ = nullptr, *delete_ = nullptr, *earlier_ = nullptr, *later_ = nullptr;
+    GroupBox *textControls_ = nullptr, *imageControls_ = nullptr;
+};
+
+}  // namespace tavrin
