@@ -34,6 +34,7 @@ ROOMS = {
     "core": [["."], ["files"], ["raster"], ["image"], ["state"], ["text"]],
     "key": [["pixel"], ["screen", "skin", "guard", "refine"], ["hair", "spill"], ["light"], ["."]],
     "effects": [["."], ["frame", "shadow", "sketch", "smoothing", "star"]],
+    "editor": [["brush"], ["."]],
     "ui": [["."], ["bind", "views"], ["adjust", "effects", "settings", "sizes", "strip", "text"], ["look", "picture"], ["frame"]],
     "apps": [["cli", "desktop"]],
 }

@@ -15,6 +15,7 @@ struct JobSources {
     std::string out;                  ///< folder of the pictures
     std::string listFile;             ///< batch list; empty: all combinations
     bool subfolders = false;          ///< foregrounds lie in subfolders that are named like their background
+    bool editsBeside = false;         ///< files of edits lie among the foregrounds
     int style = 1;                    ///< `OutputStyle`
     std::string betweenNames;         ///< what parts the names in a combined one
     int fileType = 1;

@@ -18,7 +18,7 @@ class Inputs {
         if (seen_.insert(path).second) files_.add(path);
     }
     void add(const BatchJob& job, PictureMaker& maker) {
-        for (const std::string& path : {job.foreground, job.background, job.state})
+        for (const std::string& path : {job.foreground, job.background, job.state, maker.editsOf(job)})
             add(path);
         if (!states_.insert({job.state, job.switches.has_value()}).second) return;
         for (const std::string& path : maker.filesOf(job))

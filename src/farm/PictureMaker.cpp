@@ -8,6 +8,7 @@
 #include "core/state/NamedFiles.h"
 #include "core/state/SettingNames.h"
 #include "core/text/TextLayers.h"
+#include "editor/PlayEdits.h"
 #include "pipeline/CombineThread.h"
 #include "session/OutputSizes.h"
 #include "session/Sources.h"
@@ -102,7 +103,13 @@ std::string PictureMaker::recipeOf(const BatchJob& job, std::string& problem) {
     std::lock_guard lock(mutex_);
     const Recipe& known = recipe(job);
     problem = known.problem;
-    return known.digest;
+    const std::string edits = editsOf(job);
+    if (edits.empty() || known.digest.empty()) return known.digest;
+    return digestOfText(known.digest + digestOfFile(edits) + (scaleRadius_ ? " radius to scale" : ""));
+}
+
+std::string PictureMaker::editsOf(const BatchJob& job) const {
+    return editsUndoFolder_.empty() ? "" : editsBeside(job.foreground);
 }
 
 std::string PictureMaker::backgroundOf(const BatchJob& job, std::string& problem) {
@@ -124,6 +131,11 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     Alerts alerts;
     const auto info = prepare(job, made.problem);
     if (!info) return made;
+    ReadEdits edits;
+    if (const std::string path = editsOf(job); !path.empty()) edits = readEditFile(path);
+    made.problem = edits.problem;
+    if (!made.problem.empty()) return made;
+    if (edits.file.seed) info->randomSeeds.startAt(*edits.file.seed);
     made.problem = textProblem(*info);
     if (!made.problem.empty()) return made;
     info->pInterface = &alerts;
@@ -140,6 +152,13 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     made.leftOut = alerts.all;
     made.judgement = check.judge(*info, Resolution::full);
     made.warnings = check.warnings(*info, made.judgement);
+    if (!edits.file.path.empty()) {
+        PlayedEdits played = playEdits(*info, edits.file, scaleRadius_, editsUndoFolder_);
+        made.problem = played.problem;
+        if (!made.problem.empty()) return made;
+        for (std::string& line : played.warnings)
+            made.warnings.push_back({"edits", std::move(line)});
+    }
     const PassGeometry size = info->geometry(Resolution::full);
     made.width = size.width;
     made.height = size.height;

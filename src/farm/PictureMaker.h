@@ -48,12 +48,19 @@ class PictureMaker {
     /// From here on each picture is keyed as green or blue as its portrait shows it, except where a list says which.
     void chooseScreens() { choosesScreens_ = true; }
 
+    /// From here on the edits beside each portrait are played on its picture.
+    /// @param undoFolder a folder for what they undo, which is emptied
+    void playEditsBeside(std::string undoFolder, bool scaleRadius) {
+        editsUndoFolder_ = std::move(undoFolder);
+        scaleRadius_ = scaleRadius;
+    }
+
     /// The state for a job, with its files named and not read.
     /// @return null after `problem` was set
     std::unique_ptr<SystemInfo> prepare(const BatchJob& job, std::string& problem) const;
 
     /// Digest of all settings that make the picture: those of the state file, the command line and the job, and of
-    /// the files that they name. Remembered for each state file as long as that does not change.
+    /// the files that they name, edits among them. Remembered for each state file as long as that does not change.
     std::string recipeOf(const BatchJob& job, std::string& problem);
 
     /// One at a time.
@@ -64,6 +71,8 @@ class PictureMaker {
 
     /// The files that the state and the settings of a job name; none when the state cannot be read.
     std::vector<std::string> filesOf(const BatchJob& job);
+    /// The file of edits that are played on the picture of a job; "" for none.
+    std::string editsOf(const BatchJob& job) const;
 
   private:
     struct Recipe {
@@ -77,6 +86,8 @@ class PictureMaker {
     const StartSettings start_;
     const ApplySettings settings_;
     bool choosesScreens_ = false;
+    std::string editsUndoFolder_;  // empty while no edits are played
+    bool scaleRadius_ = false;
     std::mutex mutex_;
     std::map<std::string, Recipe> recipes_;
 };

@@ -79,6 +79,7 @@ std::vector<std::string> findPassedOver(const JobSources& sources) {
         const std::set<std::string> pictures(taken.begin(), taken.end());
         for (const std::string& name : names) {
             const std::string path = place + "/" + name;
+            if (sources.editsBeside && place == sources.foregrounds && name.ends_with(".edits")) continue;
             if (name[0] != '.' && !pictures.contains(name) && !fs::is_directory(path, ignored)) paths.push_back(path);
         }
     }

@@ -7,6 +7,7 @@
 #include "apps/cli/BatchConsole.h"
 #include "apps/cli/CommonPlace.h"
 #include "apps/cli/Console.h"
+#include "apps/cli/EditOptions.h"
 #include "apps/cli/PictureOptions.h"
 #include "apps/cli/SheetCommand.h"
 #include "apps/cli/Usage.h"
@@ -23,8 +24,8 @@ namespace {
 struct CommandOptions {
     BatchOptions batch;
     PictureOptions picture;
-    std::string shard;
-    bool json = false;
+    std::string shard, edits;
+    bool scaleRadius = false, json = false;
 };
 
 void withoutLastSlash(std::string& path) {
@@ -37,6 +38,7 @@ Refusal complete(CommandOptions& options) {
     JobSources& sources = batch.sources;
     for (std::string* path : {&sources.foregrounds, &sources.backgrounds, &sources.states, &sources.out})
         withoutLastSlash(*path);
+    sources.editsBeside = !options.edits.empty();
     if (sources.foregrounds.empty() && sources.listFile.empty())
         return {kUsage, "--foregrounds or --list is missing."};
     if (!sources.listFile.empty() && !sources.foregrounds.empty())
@@ -88,6 +90,7 @@ int runBatch(CommandOptions options) {
     placeAlike(options, PictureMaker(*base, start, apply));
     PictureMaker maker(*base, start, apply);
     if (options.picture.choosesScreen()) maker.chooseScreens();
+    if (!options.edits.empty()) maker.playEditsBeside(editsUndoFolder(), options.scaleRadius);
     for (const PictureWarning& warning : rangeWarnings(options.picture))
         warn(warning.text);
     const BatchOptions& batch = options.batch;
@@ -166,6 +169,10 @@ void addBatchCommand(CLI::App& app, int& result) {
     CLI::App* command = app.add_subcommand("batch", "Key folders of portraits over folders of backgrounds");
     addSources(*command, batch.sources);
     addPictureOptions(*command, options->picture);
+    command->add_option("--edits", options->edits, "beside: play PORTRAIT.edits, a file beside each portrait")
+        ->check(oneOf({"beside"}))
+        ->type_name("NAME");
+    addScaleRadius(*command, options->scaleRadius);
     CLI::Option* watch = command->add_flag("--watch", batch.watch, "Do not end; take pictures as they arrive");
     command->add_flag("--poll", batch.pollOnly, "Look for them every two seconds, without the system's help")
         ->needs(watch);

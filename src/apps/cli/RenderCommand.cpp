@@ -13,6 +13,7 @@
 #include <QJsonObject>
 
 #include "apps/cli/Console.h"
+#include "apps/cli/EditOptions.h"
 #include "apps/cli/Output.h"
 #include "apps/cli/PictureOptions.h"
 #include "apps/cli/Refusal.h"
@@ -25,6 +26,7 @@
 #include "core/state/NamedFiles.h"
 #include "core/state/SystemInfo.h"
 #include "core/text/TextLayers.h"
+#include "editor/PlayEdits.h"
 #include "farm/BatchReport.h"
 #include "farm/JudgementText.h"
 #include "formats/ImageState.h"
@@ -46,6 +48,7 @@ struct RenderOptions {
     std::string foreground, background, out, alpha, type;
     std::string state, saveState;
     PictureOptions picture;
+    EditOptions edits;
     std::optional<std::uint64_t> seed;
     bool preview = false, fast = false, json = false;
 };
@@ -63,7 +66,7 @@ Refusal checkFiles(const RenderOptions& options) {
     if (fileTypeForPath(options.out) == 0) {
         return {kUsage, options.out + ": the picture's name must end in .jpg, .jpeg, .png, .tif or .tiff."};
     }
-    for (const std::string& path : {options.out, options.alpha, options.saveState}) {
+    for (const std::string& path : {options.out, options.alpha, options.edits.alpha, options.saveState}) {
         if (path.empty()) continue;
         if (Refusal refusal = checkTarget(path); refusal.code != kDone) return refusal;
     }
@@ -72,11 +75,15 @@ Refusal checkFiles(const RenderOptions& options) {
 
 /// Nothing is written over what the picture is made from, and no two outputs have one place.
 Refusal checkOutputs(const SystemInfo& info, const RenderOptions& options) {
-    const std::pair<const char*, std::string> outputs[] = {
-        {"--out", options.out}, {"--alpha", options.alpha}, {"--save-state", options.saveState}};
+    const std::pair<const char*, std::string> outputs[] = {{"--out", options.out},
+                                                           {"--alpha", options.alpha},
+                                                           {"--edits-alpha", options.edits.alpha},
+                                                           {"--save-state", options.saveState}};
     for (const auto& [option, path] : outputs) {
         std::string problem = whyNotOver(info, path);
-        if (problem.empty() && isSameFile(path, options.state)) problem = overwritesInput(path, options.state);
+        for (const std::string& read : {options.state, options.edits.file}) {
+            if (problem.empty() && isSameFile(path, read)) problem = overwritesInput(path, read);
+        }
         if (!problem.empty()) return {kUsage, std::string(option) + " " + problem + "."};
         for (const auto& [other, taken] : outputs) {
             if (other == option) break;
@@ -164,11 +171,27 @@ Said tellWarnings(const SystemInfo& info, const RenderOptions& options, const Pi
     return said;
 }
 
+/// The alpha goes to a file as it stands, if one is wanted.
+bool saveAlpha(SystemInfo& info, const RenderOptions& options, const std::string& path) {
+    return path.empty() || saveMatteToDisk(info, path, options.preview ? 0 : 1);
+}
+
+/// @return whether there was nothing to play or all was played; what could not be was told
+bool play(SystemInfo& info, const RenderOptions& options, const EditFile& edits, Said& said) {
+    if (options.edits.file.empty()) return true;
+    const PlayedEdits played = playEdits(info, edits, options.edits.scaleRadius, editsUndoFolder());
+    if (!played.problem.empty()) complain(played.problem);
+    for (const std::string& line : played.warnings) {
+        said.warnings.push_back({"edits", line});
+        warn(line);
+    }
+    return played.problem.empty();
+}
+
 /// @return whether all files of the picture were written; what could not be was told
 bool save(SystemInfo& info, const RenderOptions& options) {
-    const int res = options.preview ? 0 : 1;
-    if (!saveImageToDisk(info, options.out, fileTypeForPath(options.out), res)) return false;
-    if (!options.alpha.empty() && !saveMatteToDisk(info, options.alpha, res)) return false;
+    if (!saveImageToDisk(info, options.out, fileTypeForPath(options.out), options.preview ? 0 : 1)) return false;
+    if (!saveAlpha(info, options, options.edits.alpha)) return false;
     if (options.saveState.empty()) return true;
     useFullPaths(info);
     const std::string problem = saveImageStateToXML(info, options.saveState);
@@ -217,17 +240,19 @@ int render(RenderOptions options) {
     startCommandLine(*info);
     // A saved state names the pictures that it uses, so they have to lie where they stay.
     if (!options.saveState.empty()) Places::current().setPicturesFolder(pictures);
-    if (options.seed) info->randomSeeds.startAt(*options.seed);
     Console console;
     info->pInterface = &console;
     bool sends = false;
-    Refusal refusal = useStreams(options, sends);
+    EditFile edits;
+    Refusal refusal = readEdits(options.edits, edits);
+    if (const auto seed = options.seed ? options.seed : edits.seed) info->randomSeeds.startAt(*seed);
+    if (refusal.code == kDone) refusal = useStreams(options, sends);
     if (refusal.code == kDone) refusal = prepare(*info, options);
     if (refusal.code != kDone) {
         complain(refusal.line);
         return refusal.code;
     }
-    removeAbandonedParts({options.out, options.alpha});
+    removeAbandonedParts({options.out, options.alpha, options.edits.alpha});
     PictureCheck check(options.picture.choosesScreen());
     readThrough(*info, check);
     compute(*info, options);
@@ -237,7 +262,9 @@ int render(RenderOptions options) {
         if (!console.hadAlert()) complain(problem + ".");
         return kFailed;
     }
-    const Said said = tellWarnings(*info, options, check);
+    Said said = tellWarnings(*info, options, check);
+    // Of the two alphas that of the key goes out before the edits change it.
+    if (!saveAlpha(*info, options, options.alpha) || !play(*info, options, edits, said)) return kFailed;
     if (!save(*info, options)) return kFailed;
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
     if (sends && !sendFile(options.out)) return kFailed;
@@ -252,6 +279,7 @@ Examples:
       --set bOutputTransparency=1 --set combined.sliderWhiteAdjust=0 --set foreground.iContrast=60
   tavrin-cli render --state school.qlx --foreground anna.jpg --out anna-school.jpg
   tavrin-cli render --foreground toy.jpg --background sky.jpg --out toy-sky.jpg --blue --fast
+  tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna-mended.jpg --edits anna.edits
   tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna-floor.jpg --shadow floor --frame oval
       --texture canvas --set frame.iFrameThickness=15
 
@@ -281,6 +309,7 @@ void addRenderCommand(CLI::App& app, int& result) {
     command->add_option("--alpha", options->alpha, "Also write the key's alpha as a grey PNG");
     command->add_flag("--preview", options->preview, "Stop at the preview and save that");
     command->add_flag("--fast", options->fast, "The short path: key, text and overlays only")->excludes("--preview");
+    addEditOptions(*command, options->edits);
     command->add_flag("--json", options->json, "Print what was made as one JSON line");
     command->footer(kExamples);
     command->callback([options, &result] { result = render(*options); });

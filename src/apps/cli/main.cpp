@@ -8,6 +8,7 @@
 #include "apps/cli/BatchCommand.h"
 #include "apps/cli/Completion.h"
 #include "apps/cli/Console.h"
+#include "apps/cli/EditOptions.h"
 #include "apps/cli/EffectOptions.h"
 #include "apps/cli/InfoCommand.h"
 #include "apps/cli/ListCommands.h"
@@ -77,6 +78,7 @@ int main(int argc, char** argv) {
     cli::addInfoCommand(app, result);
     cli::addStateCommand(app, result);
     cli::addListCommands(app, result);
+    cli::addEditsCommand(app, result);
     cli::addEffectsCommand(app, result);
     cli::addCompletionCommand(app, result);
     addCommonOptions(app);

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "editor/brush/EditorKey.h"
+#include "editor/brush/EditorPixels.h"
+
+namespace tavrin {
+
+/// Pixels near a colour, which the brushes must leave alone. While they are selected the picture itself shows a
+/// checker pattern on them; their records in the snapshot keep what is below it.
+struct ColorSelection {
+    static constexpr int kForegroundColor = 0, kCombinedColor = 2, kNone = 4;
+
+    bool bSelected = false;
+    std::int64_t iSelectionMode = kNone;  ///< whose colours are compared
+    double dSelectTolerance = 0.25;       ///< 0 to 1
+    HsvColor selectColor{0.0, 0.0, 0.0};  ///< `HSelectColor`, `SSelectColor`, `VSelectColor`
+
+    /// Protects the pixels within the tolerance, or with `invert` those beyond it.
+    /// @return whether it did; not while one stands, nor without a source of colours
+    bool SelectColorRange(EditorPixels& pixels, const EditorKey& key, bool invert);
+    /// Takes the pattern off and sets all pixels free.
+    /// @return whether one stood
+    bool DeselectColorRange(EditorPixels& pixels);
+};
+
+}  // namespace tavrin

@@ -1,0 +1,147 @@
+#include "editor/brush/Stamp.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/raster/Rows.h"
+
+namespace tavrin {
+
+namespace {
+
+constexpr int kGrain = 8;  // rows of a piece of a stamp
+
+bool comparesWithScreen(int brush) {
+    return brush == kEraseForeground || brush == kFilterColor || brush == kRestoreHair;
+}
+
+bool spills(const Stamp& stamp) {
+    return stamp.brush == kBlendForeground || stamp.brush == kRemoveGreenSpill ||
+           (stamp.brush == kRestoreForeground && !stamp.settings.bCheckBoxValue);
+}
+
+int touchOf(double strength) {
+    return static_cast<int>(strength * 255.0);
+}
+
+// Colours of a picture with transparency carry their alpha.
+std::uint8_t premultiplied(std::uint8_t color, std::uint8_t alpha) {
+    return static_cast<std::uint8_t>(std::uint32_t{color} * alpha * 32897u >> 23);
+}
+
+// All pixels of a stamp inside the picture in its own order, column by column, until `visit` says false.
+template <class Visit>
+void walkColumns(const Stamp& stamp, const EditorPixels& pixels, const Visit& visit) {
+    for (int dx = -stamp.iRadius; dx <= stamp.iRadius; ++dx) {
+        const int h = stamp.halfHeight(dx);
+        for (int dy = -h; dy <= h; ++dy) {
+            const int x = stamp.iXCursor + dx, y = stamp.iYCursor + dy;
+            if (pixels.isInside(x, y) && !visit(x, y)) return;
+        }
+    }
+}
+
+}  // namespace
+
+Stamp::Stamp(int tool, const GUI_BrushInfo& info, bool blueLogic)
+    : brush(tool),
+      settings(info),
+      swaps(blueLogic && comparesWithScreen(tool)),
+      color{static_cast<double>(info.red), static_cast<double>(info.green), static_cast<double>(info.blue)} {
+    if (swaps) std::swap(color.g, color.b);
+    in = toHsv(color);
+}
+
+int Stamp::halfHeight(int dx) const {
+    const double r = iRadius;
+    return static_cast<int>(std::sqrt(r * r - static_cast<double>(dx) * dx));
+}
+
+double Stamp::strength(int dx, int dy) const {
+    const double r = iRadius, hard = settings.dHardness * r;
+    const int d = static_cast<int>(std::sqrt(static_cast<double>(dx) * dx + static_cast<double>(dy) * dy));
+    const double e = d - hard;
+    const double fallOff = static_cast<int>(e) < 1 ? 1.0 : 1.0 - e / (r - hard);
+    return settings.dTransparency * fallOff;
+}
+
+double likenessToScreen(const HsvColor& base, const HsvColor& pixel, const HsvColor& tool) {
+    const double iError = editorDistance(base, pixel), iError2 = editorDistance(base, tool);
+    return 1.0 - 1.2 * iError / (iError2 + 1.0);
+}
+
+bool StampPainter::reachesAny(const Stamp& stamp) const {
+    bool found = false;
+    walkColumns(stamp, pixels_, [&](int x, int y) {
+        const int touch = touchOf(stamp.strength(x - stamp.iXCursor, y - stamp.iYCursor));
+        found = pixels_.isFree(x, y) && pixels_.snapShot(x, y).percent <= touch;
+        return !found;
+    });
+    return found;
+}
+
+// Where pixels depend on those before them: the first spill of a visit sees another white balance, and a copy in a
+// transparent picture may meet records that this stamp has emptied.
+bool StampPainter::takesOrder(const Stamp& stamp) const {
+    return (spills(stamp) && !key_.bSpilled) || (stamp.brush == kCopy && key_.bOutputTransparency);
+}
+
+EditedRows StampPainter::paint(const Stamp& stamp) {
+    const int first = std::max(stamp.iYCursor - stamp.iRadius, 0);
+    const int last = std::min(stamp.iYCursor + stamp.iRadius + 1, pixels_.iHeight);
+    if (first >= last) return {};
+    prepareNeighbours(stamp);
+    inOrder_ = takesOrder(stamp);
+    if (inOrder_) {
+        walkColumns(stamp, pixels_, [&](int x, int y) {
+            paintPixel(stamp, x, y);
+            return true;
+        });
+        return {first, last};
+    }
+    const int left = std::max(stamp.iXCursor - stamp.iRadius, 0);
+    const int right = std::min(stamp.iXCursor + stamp.iRadius + 1, pixels_.iWidth);
+    runRows({}, last - first, kGrain, [&](int row) {
+        const int y = first + row, dy = std::abs(y - stamp.iYCursor);
+        if (half_ > 0) sumRow(y);
+        for (int x = left; x < right; ++x) {
+            if (stamp.halfHeight(x - stamp.iXCursor) >= dy) paintPixel(stamp, x, y);
+        }
+    });
+    return {first, last};
+}
+
+void StampPainter::paintPixel(const Stamp& stamp, int x, int y) {
+    const std::size_t pixel = pixels_.index(x, y);
+    if (pixels_.pMaskSelection[pixel] == 0) return;
+    QLXPixel& s = pixels_.oSnapShot[pixel];
+    const double t = stamp.strength(x - stamp.iXCursor, y - stamp.iYCursor);
+    const int touch = touchOf(t);
+    if (s.percent > touch) return;  // as strong is let through again
+    s.percent = static_cast<std::uint8_t>(touch);
+    if (const std::optional<OutColor> out = outColor(stamp, s, x, y)) {
+        writeBack(s, pixel, t, *out);
+        pixels_.oSnapShotTouch[static_cast<std::size_t>(y)] = 1;
+    }
+}
+
+// The next snapshot takes the bytes as they stand, so a later stroke starts from premultiplied colours.
+void StampPainter::writeBack(QLXPixel& s, std::size_t pixel, double t, const OutColor& out) {
+    const auto blended = [t](double from, double to) { return toByte(from * (1.0 - t) + t * to); };
+    std::uint8_t* p = pixels_.pS + pixel * kPixelBytes;
+    const std::uint8_t alpha = blended(s.alpha, out.alpha);
+    if (pixels_.bOutputTransparency) {
+        if (s.alpha <= 4) s.red = s.green = s.blue = 0;
+        p[0] = premultiplied(blended(s.red, out.color.r), alpha);
+        p[1] = premultiplied(blended(s.green, out.color.g), alpha);
+        p[2] = premultiplied(blended(s.blue, out.color.b), alpha);
+        p[3] = alpha;
+    } else {
+        p[0] = blended(s.red, out.color.r);
+        p[1] = blended(s.green, out.color.g);
+        p[2] = blended(s.blue, out.color.b);
+    }
+    pixels_.pB[pixel * kPixelBytes + 3] = alpha;
+}
+
+}  // namespace tavrin
