@@ -9,6 +9,7 @@
 #include "core/state/SettingNames.h"
 #include "formats/SafeFile.h"
 #include "session/RecipeStore.h"
+#include "session/TextItems.h"
 
 namespace tavrin {
 
@@ -108,17 +109,12 @@ std::vector<LookChange> changesBy(const SystemInfo& info, const SettingValues& l
     return changes;
 }
 
-void takeLook(SettingEditor& editor, const std::string& label, const SettingValues& look,
-              const std::function<void(const SettingValues&)>& toLoop) {
-    const std::set<LookPart> texts = {LookPart::texts};
-    const SettingValues after = partsOf(look, texts), before = partsOf(settingsOf(editor.info()), texts);
+void takeLook(SettingEditor& editor, const std::string& label, const SettingValues& look) {
     editor.beginStep(label);
     for (const auto& [name, value] : look)
-        if (partOf(name) != LookPart::texts) editor.set(name, value);
-    if (!changesBy(editor.info(), after).empty()) {
-        editor.note({[toLoop, before] { toLoop(before); }, [toLoop, after] { toLoop(after); }, true});
-        toLoop(after);
-    }
+        if (name == kItemCount) setItemCount(editor, value);
+    for (const auto& [name, value] : look)
+        if (name != kItemCount && editor.value(name) != value) editor.set(name, value);
     editor.endStep();
 }
 

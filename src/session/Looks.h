@@ -32,9 +32,8 @@ struct LookChange {
 };
 std::vector<LookChange> changesBy(const SystemInfo& info, const SettingValues& look);
 
-/// Takes settings of a look over, as one step. Texts are given to `toLoop` with their list, and back with the step.
-void takeLook(SettingEditor& editor, const std::string& label, const SettingValues& look,
-              const std::function<void(const SettingValues&)>& toLoop);
+/// Takes settings of a look over, as one step.
+void takeLook(SettingEditor& editor, const std::string& label, const SettingValues& look);
 
 /// A look that is pasted on portraits which are not shown. It waits in their recipes, and becomes a step of their
 /// history when they are opened.

@@ -84,19 +84,6 @@ std::vector<SettingEditor::Step> stepsOf(const QJsonArray& array) {
     return steps;
 }
 
-/// Without the steps that rest on another list of items than the last one has: what changed that list is not kept.
-SettingEditor::History lastingHistory(SettingEditor::History history) {
-    std::size_t first = 0;
-    for (std::size_t i = 0; i < history.done; ++i)
-        if (history.steps[i].elsewhere.changesItems) first = i + 1;
-    const auto next = std::find_if(history.steps.begin() + static_cast<std::ptrdiff_t>(history.done),
-                                   history.steps.end(), [](const auto& step) { return step.elsewhere.changesItems; });
-    history.steps.erase(next, history.steps.end());
-    history.steps.erase(history.steps.begin(), history.steps.begin() + static_cast<std::ptrdiff_t>(first));
-    history.done -= first;
-    return history;
-}
-
 }  // namespace
 
 std::string Recipe::portrait() const {
@@ -127,7 +114,7 @@ SettingValues settingsOf(const SystemInfo& info) {
 }
 
 Recipe presentRecipe(const SettingEditor& editor) {
-    return {settingsOf(editor.info()), lastingHistory(editor.history()), {}};
+    return {settingsOf(editor.info()), editor.history(), {}};
 }
 
 std::string useSettings(SystemInfo& info, const SettingValues& settings) {

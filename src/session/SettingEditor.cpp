@@ -98,8 +98,7 @@ void SettingEditor::goTo(std::size_t done) {
 
 std::uint64_t SettingEditor::position() const {
     for (std::size_t i = history_.done; i > 0; --i)
-        if (const Step& step = history_.steps[i - 1]; !step.changes.empty() || step.elsewhere.changesItems)
-            return step.number;
+        if (const Step& step = history_.steps[i - 1]; !step.changes.empty()) return step.number;
     return 0;
 }
 

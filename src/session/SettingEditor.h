@@ -21,7 +21,6 @@ class SettingEditor {
     /// What a step did besides settings. It lives as long as the program.
     struct Elsewhere {
         std::function<void()> takeBack, doAgain;
-        bool changesItems = false;  ///< the list of items: steps before it name them by other numbers
     };
     struct Step {
         std::string label;  ///< what was changed, in the user's words

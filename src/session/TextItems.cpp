@@ -1,6 +1,7 @@
 #include "session/TextItems.h"
 
 #include <algorithm>
+#include <charconv>
 #include <vector>
 
 #include "core/state/SettingNames.h"
@@ -33,6 +34,17 @@ std::string addItem(SettingEditor& editor, const FontObject& item) {
     return "";
 }
 
+void setItemCount(SettingEditor& editor, const std::string& count) {
+    std::size_t wanted = 0;
+    std::from_chars(count.data(), count.data() + count.size(), wanted);
+    editor.beginStep("");
+    // Those that go are made plain before: taking that back gives each what it had.
+    for (std::size_t row = wanted; row < editor.info().oFontObject.size(); ++row)
+        replaceItem(editor, row, FontObject());
+    editor.set(kItemCount, count);
+    editor.endStep();
+}
+
 void replaceItem(SettingEditor& editor, std::size_t row, const FontObject& item) {
     const auto before = listFields(editor.info().oFontObject[row]), after = listFields(item);
     const std::string prefix = "text" + std::to_string(row) + '.';
@@ -48,10 +60,9 @@ void removeItem(SettingEditor& editor, std::size_t row) {
     if (row >= items.size()) return;
     std::rotate(items.begin() + static_cast<std::ptrdiff_t>(row),
                 items.begin() + static_cast<std::ptrdiff_t>(row) + 1, items.end());
-    items.back() = FontObject();  // so that taking it back finds a plain one, as a new item is
     editor.beginStep("");
     putList(editor, items);
-    editor.set(kItemCount, std::to_string(items.size() - 1));
+    setItemCount(editor, std::to_string(items.size() - 1));
     editor.endStep();
 }
 

@@ -14,6 +14,9 @@ namespace tavrin {
 /// @return "" when done; otherwise one plain line, and nothing is changed
 std::string addItem(SettingEditor& editor, const FontObject& item);
 
+/// Makes the list longer by plain items, or shorter.
+void setItemCount(SettingEditor& editor, const std::string& count);
+
 /// Gives an item of the list what another one is.
 void replaceItem(SettingEditor& editor, std::size_t row, const FontObject& item);
 

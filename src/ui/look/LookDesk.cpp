@@ -63,10 +63,7 @@ void LookDesk::choose(const QString& title, const SettingValues& look,
 }
 
 void LookDesk::takeHere(const QString& label, const SettingValues& look) {
-    binder_.run(label, [&](SettingEditor& editor) {
-        takeLook(editor, label.toStdString(), look,
-                 [keeping = &keeping_](const SettingValues& texts) { keeping->giveToLoop(texts); });
-    });
+    binder_.run(label, [&](SettingEditor& editor) { takeLook(editor, label.toStdString(), look); });
 }
 
 void LookDesk::paste() {

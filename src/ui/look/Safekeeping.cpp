@@ -80,28 +80,13 @@ void Safekeeping::takeUp(Recipe recipe, std::optional<LeftRecipe> from) {
 void Safekeeping::finishTaking(Recipe recipe, std::optional<LeftRecipe> from, const QString& problems) {
     editor_.setHistory(std::move(recipe.history));
     for (const auto& [label, settings] : recipe.pasted)
-        takeLook(editor_, label, settings, [this](const SettingValues& texts) { giveToLoop(texts); });
+        takeLook(editor_, label, settings);
     if (!background_.empty()) openBackground(editor_.info(), background_);
     if (!recipe.pasted.empty() || !background_.empty()) editor_.info().StartUpdate();
     worked_ = !recipe.pasted.empty() || from || !background_.empty();
     instead_ = std::move(from);
     touch();
     emit tookUp(problems);
-}
-
-void Safekeeping::giveToLoop(const SettingValues& settings) {
-    ++underWay_;
-    loop_.post([this, mine = opened_.load(), settings] {
-        const std::string problems = mine == opened_ ? useSettings(editor_.info(), settings) : "";
-        QMetaObject::invokeMethod(
-            this,
-            [this, problems] {
-                --underWay_;
-                touch();
-                emit tookUp(QString::fromStdString(problems));
-            },
-            Qt::QueuedConnection);
-    });
 }
 
 void Safekeeping::pasteOn(std::vector<std::string> portraits, const QString& label, const SettingValues& look) {

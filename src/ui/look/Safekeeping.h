@@ -35,8 +35,6 @@ class Safekeeping : public QObject {
     /// Gives the state a recipe, on the loop's thread, and then the editor its history. `tookUp` follows, unless
     /// something else was opened meanwhile.
     void takeUp(Recipe recipe, std::optional<LeftRecipe> from = {});
-    /// Gives the state settings that only the loop may change: the list of items.
-    void giveToLoop(const SettingValues& settings);
     /// Pastes a look on other portraits, off the main thread; `pasted` follows, and the editor has a step for it.
     void pasteOn(std::vector<std::string> portraits, const QString& label, const SettingValues& look);
     /// Ends that with the next portrait; those that have the look are the step.
