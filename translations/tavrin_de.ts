@@ -1415,23 +1415,23 @@
     </message>
     <message>
         <source>Behind the subject, over the background&apos;s overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter der Person, über dem Überzug des Hintergrunds</translation>
     </message>
     <message>
         <source>Over the subject</source>
-        <translation type="unfinished"></translation>
+        <translation>Über der Person</translation>
     </message>
     <message>
         <source>Over the subject&apos;s overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Über dem Überzug der Person</translation>
     </message>
     <message>
         <source>Over everything but frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Über allem außer Rahmen</translation>
     </message>
     <message>
         <source>How wide the item is, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie breit das Element ist, in Prozent.</translation>
     </message>
     <message>
         <source>Height</source>
@@ -1439,239 +1439,239 @@
     </message>
     <message>
         <source>How high the item is, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie hoch das Element ist, in Prozent.</translation>
     </message>
     <message>
         <source>Of the letters, in points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Buchstaben, in Punkt.</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fett</translation>
     </message>
     <message>
         <source>Heavier letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Kräftigere Buchstaben</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kursiv</translation>
     </message>
     <message>
         <source>Slanted letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Schräge Buchstaben</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen</translation>
     </message>
     <message>
         <source>Where shorter lines stand</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo kürzere Zeilen stehen</translation>
     </message>
     <message>
         <source>Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>Letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben</translation>
     </message>
     <message>
         <source>What is drawn of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Was von ihnen gezeichnet wird</translation>
     </message>
     <message>
         <source>Filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefüllt</translation>
     </message>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Umriss</translation>
     </message>
     <message>
         <source>Softness of the shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichheit des Schattens</translation>
     </message>
     <message>
         <source>How soft the edge of the letters&apos; shadow is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weich der Rand des Schattens der Buchstaben ist.</translation>
     </message>
     <message>
         <source>Shadow to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Schatten nach rechts</translation>
     </message>
     <message>
         <source>How far the letters&apos; shadow stands to the right; below 0 to the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit der Schatten der Buchstaben rechts steht; unter 0 links.</translation>
     </message>
     <message>
         <source>Shadow upward</source>
-        <translation type="unfinished"></translation>
+        <translation>Schatten nach oben</translation>
     </message>
     <message>
         <source>How far the letters&apos; shadow stands above them; below 0 under them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit der Schatten über den Buchstaben steht; unter 0 darunter.</translation>
     </message>
     <message>
         <source>Selected text</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählter Text</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>At 0 the picture cannot be seen, at 100 it hides what is below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei 0 ist das Bild nicht zu sehen, bei 100 verdeckt es, was darunter liegt.</translation>
     </message>
     <message>
         <source>Selected picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewähltes Bild</translation>
     </message>
     <message>
         <source>Colour of the letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Buchstaben</translation>
     </message>
     <message>
         <source>Fills the letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllt die Buchstaben</translation>
     </message>
     <message>
         <source>Select Font Fill Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllfarbe der Schrift wählen</translation>
     </message>
     <message>
         <source>Colour of the outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe des Umrisses</translation>
     </message>
     <message>
         <source>Goes round the letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft um die Buchstaben</translation>
     </message>
     <message>
         <source>Colour of the shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe des Schattens</translation>
     </message>
     <message>
         <source>Of the letters&apos; shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Des Schattens der Buchstaben</translation>
     </message>
     <message>
         <source>Select Font Shadow Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattenfarbe der Schrift wählen</translation>
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene</translation>
     </message>
     <message>
         <source>What the item lies over, and what covers it</source>
-        <translation type="unfinished"></translation>
+        <translation>Worüber das Element liegt und was es verdeckt</translation>
     </message>
     <message>
         <source>Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>What stands on the picture, in as many lines as you like</source>
-        <translation type="unfinished"></translation>
+        <translation>Was auf dem Bild steht, in beliebig vielen Zeilen</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift</translation>
     </message>
     <message>
         <source>The typeface of the words</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schriftart des Textes</translation>
     </message>
     <message>
         <source>Small</source>
-        <translation type="unfinished"></translation>
+        <translation>Klein</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>Large</source>
-        <translation type="unfinished"></translation>
+        <translation>Groß</translation>
     </message>
     <message>
         <source>Extra large</source>
-        <translation type="unfinished"></translation>
+        <translation>Sehr groß</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links</translation>
     </message>
     <message>
         <source>Top centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben Mitte</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben rechts</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte links</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte rechts</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten links</translation>
     </message>
     <message>
         <source>Bottom centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten Mitte</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten rechts</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiß</translation>
     </message>
     <message>
         <source>By the ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Je nach Grund</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Notiz</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlass</translation>
     </message>
     <message>
         <source>Shadow of the words</source>
-        <translation type="unfinished"></translation>
+        <translation>Schatten des Textes</translation>
     </message>
     <message>
         <source>Makes the words stand out from an unquiet ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebt den Text von unruhigem Grund ab.</translation>
     </message>
     <message>
         <source>One line on the picture; @filename puts the portrait&apos;s name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zeile auf dem Bild; @filename setzt den Namen des Porträts ein.</translation>
     </message>
     <message>
         <source>How large the words are</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie groß der Text ist</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1679,11 +1679,11 @@
     </message>
     <message>
         <source>Where the words stand</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo der Text steht</translation>
     </message>
     <message>
         <source>White, black, or what can be read best on the ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiß, schwarz oder was auf dem Grund am besten zu lesen ist</translation>
     </message>
     <message>
         <source>Text</source>
@@ -1691,11 +1691,23 @@
     </message>
     <message>
         <source>Words and pictures on the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte und Bilder auf dem Bild</translation>
     </message>
     <message>
         <source>Texts and pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte und Bilder</translation>
+    </message>
+    <message>
+        <source>Insert...</source>
+        <translation>Einfügen...</translation>
+    </message>
+    <message>
+        <source>Insert what is filled in for each portrait</source>
+        <translation>Einfügen, was für jedes Porträt ausgefüllt wird</translation>
+    </message>
+    <message>
+        <source>File name, number, date or time, filled in for each portrait</source>
+        <translation>Dateiname, Nummer, Datum oder Uhrzeit, für jedes Porträt ausgefüllt</translation>
     </message>
 </context>
 <context>
@@ -3908,63 +3920,63 @@ oder beide im Menü Datei öffnen.</translation>
     <name>tavrin::TextPage</name>
     <message>
         <source>IMAGE: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>BILD: %1</translation>
     </message>
     <message>
         <source>TEXT: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>TEXT: %1</translation>
     </message>
     <message>
         <source>Another picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderes Bild...</translation>
     </message>
     <message>
         <source>Puts another picture in the place of the selected one</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt ein anderes Bild an die Stelle des gewählten</translation>
     </message>
     <message>
         <source>Choose a Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wählen</translation>
     </message>
     <message>
         <source>Texts and pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte und Bilder</translation>
     </message>
     <message>
         <source>What is drawn first stands first; drag to change the order</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zuerst gezeichnet wird, steht oben; ziehen ändert die Reihenfolge</translation>
     </message>
     <message>
         <source>Order of the items</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge der Elemente</translation>
     </message>
     <message>
         <source>Add, edit and delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen, ändern und löschen</translation>
     </message>
     <message>
         <source>Add text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text hinzufügen</translation>
     </message>
     <message>
         <source>Puts a new text on the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt einen neuen Text auf das Bild</translation>
     </message>
     <message>
         <source>Add picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild hinzufügen...</translation>
     </message>
     <message>
         <source>Puts a picture, such as a logo, on the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt ein Bild, etwa ein Logo, auf das Bild</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Shows the controls of the selected item</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Regler des gewählten Elements</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -3972,27 +3984,27 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
     <message>
         <source>Takes the selected item away</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt das gewählte Element</translation>
     </message>
     <message>
         <source>Further down</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter nach unten</translation>
     </message>
     <message>
         <source>Draws the selected item earlier, so that the others cover it</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet das gewählte Element früher, so dass die anderen es verdecken</translation>
     </message>
     <message>
         <source>Further up</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter nach oben</translation>
     </message>
     <message>
         <source>Draws the selected item later, so that it covers the others</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet das gewählte Element später, so dass es die anderen verdeckt</translation>
     </message>
     <message>
         <source>Add a Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild hinzufügen</translation>
     </message>
     <message>
         <source>Delete an item</source>
@@ -4008,30 +4020,15 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
     <message>
         <source>Another picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderes Bild</translation>
     </message>
     <message>
         <source>Add a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild hinzufügen</translation>
     </message>
     <message>
         <source>Add a text</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>tavrin::TextRow</name>
-    <message>
-        <source>Insert...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Insert what is filled in for each portrait</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>File name, number, date or time, filled in for each portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Text hinzufügen</translation>
     </message>
 </context>
 <context>

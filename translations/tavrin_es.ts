@@ -1415,23 +1415,23 @@
     </message>
     <message>
         <source>Behind the subject, over the background&apos;s overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Detrás de la persona, sobre la capa del fondo</translation>
     </message>
     <message>
         <source>Over the subject</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre la persona</translation>
     </message>
     <message>
         <source>Over the subject&apos;s overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre la capa de la persona</translation>
     </message>
     <message>
         <source>Over everything but frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre todo menos los marcos</translation>
     </message>
     <message>
         <source>How wide the item is, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>La anchura del elemento, en porcentaje.</translation>
     </message>
     <message>
         <source>Height</source>
@@ -1439,239 +1439,239 @@
     </message>
     <message>
         <source>How high the item is, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>La altura del elemento, en porcentaje.</translation>
     </message>
     <message>
         <source>Of the letters, in points.</source>
-        <translation type="unfinished"></translation>
+        <translation>De las letras, en puntos.</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Negrita</translation>
     </message>
     <message>
         <source>Heavier letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Letras más gruesas</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Cursiva</translation>
     </message>
     <message>
         <source>Slanted letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Letras inclinadas</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas</translation>
     </message>
     <message>
         <source>Where shorter lines stand</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde quedan las líneas más cortas</translation>
     </message>
     <message>
         <source>Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>Letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Letras</translation>
     </message>
     <message>
         <source>What is drawn of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué se dibuja de ellas</translation>
     </message>
     <message>
         <source>Filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Relleno</translation>
     </message>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>Softness of the shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavidad de la sombra</translation>
     </message>
     <message>
         <source>How soft the edge of the letters&apos; shadow is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo suave que es el borde de la sombra de las letras.</translation>
     </message>
     <message>
         <source>Shadow to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombra a la derecha</translation>
     </message>
     <message>
         <source>How far the letters&apos; shadow stands to the right; below 0 to the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto se aparta la sombra hacia la derecha; por debajo de 0, a la izquierda.</translation>
     </message>
     <message>
         <source>Shadow upward</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombra hacia arriba</translation>
     </message>
     <message>
         <source>How far the letters&apos; shadow stands above them; below 0 under them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto se aparta la sombra hacia arriba; por debajo de 0, hacia abajo.</translation>
     </message>
     <message>
         <source>Selected text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto elegido</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacidad</translation>
     </message>
     <message>
         <source>At 0 the picture cannot be seen, at 100 it hides what is below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con 0 la imagen no se ve; con 100 oculta lo que hay debajo.</translation>
     </message>
     <message>
         <source>Selected picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen elegida</translation>
     </message>
     <message>
         <source>Colour of the letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de las letras</translation>
     </message>
     <message>
         <source>Fills the letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Rellena las letras</translation>
     </message>
     <message>
         <source>Select Font Fill Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el color de relleno de las letras</translation>
     </message>
     <message>
         <source>Colour of the outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del contorno</translation>
     </message>
     <message>
         <source>Goes round the letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Rodea las letras</translation>
     </message>
     <message>
         <source>Colour of the shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de la sombra</translation>
     </message>
     <message>
         <source>Of the letters&apos; shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>De la sombra de las letras</translation>
     </message>
     <message>
         <source>Select Font Shadow Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el color de la sombra de las letras</translation>
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa</translation>
     </message>
     <message>
         <source>What the item lies over, and what covers it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre qué está el elemento y qué lo cubre</translation>
     </message>
     <message>
         <source>Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>What stands on the picture, in as many lines as you like</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que aparece en la imagen, en las líneas que se quiera</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Letra</translation>
     </message>
     <message>
         <source>The typeface of the words</source>
-        <translation type="unfinished"></translation>
+        <translation>El tipo de letra del texto</translation>
     </message>
     <message>
         <source>Small</source>
-        <translation type="unfinished"></translation>
+        <translation>Pequeño</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediano</translation>
     </message>
     <message>
         <source>Large</source>
-        <translation type="unfinished"></translation>
+        <translation>Grande</translation>
     </message>
     <message>
         <source>Extra large</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy grande</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba a la izquierda</translation>
     </message>
     <message>
         <source>Top centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba en el centro</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba a la derecha</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>En medio a la izquierda</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>En medio</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>En medio a la derecha</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo a la izquierda</translation>
     </message>
     <message>
         <source>Bottom centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo en el centro</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo a la derecha</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanco</translation>
     </message>
     <message>
         <source>By the ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Según el fondo</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Nota</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento</translation>
     </message>
     <message>
         <source>Shadow of the words</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombra del texto</translation>
     </message>
     <message>
         <source>Makes the words stand out from an unquiet ground.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hace que el texto destaque sobre un fondo inquieto.</translation>
     </message>
     <message>
         <source>One line on the picture; @filename puts the portrait&apos;s name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una línea en la imagen; @filename pone el nombre del retrato.</translation>
     </message>
     <message>
         <source>How large the words are</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo grande que es el texto</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1679,11 +1679,11 @@
     </message>
     <message>
         <source>Where the words stand</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde está el texto</translation>
     </message>
     <message>
         <source>White, black, or what can be read best on the ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanco, negro o lo que mejor se lea sobre el fondo</translation>
     </message>
     <message>
         <source>Text</source>
@@ -1691,11 +1691,23 @@
     </message>
     <message>
         <source>Words and pictures on the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos e imágenes sobre la imagen</translation>
     </message>
     <message>
         <source>Texts and pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos e imágenes</translation>
+    </message>
+    <message>
+        <source>Insert...</source>
+        <translation>Insertar...</translation>
+    </message>
+    <message>
+        <source>Insert what is filled in for each portrait</source>
+        <translation>Insertar lo que se rellena en cada retrato</translation>
+    </message>
+    <message>
+        <source>File name, number, date or time, filled in for each portrait</source>
+        <translation>Nombre del archivo, número, fecha u hora, rellenados en cada retrato</translation>
     </message>
 </context>
 <context>
@@ -3908,63 +3920,63 @@ o ábralos desde el menú Archivo.</translation>
     <name>tavrin::TextPage</name>
     <message>
         <source>IMAGE: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>IMAGEN: %1</translation>
     </message>
     <message>
         <source>TEXT: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>TEXTO: %1</translation>
     </message>
     <message>
         <source>Another picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra imagen...</translation>
     </message>
     <message>
         <source>Puts another picture in the place of the selected one</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone otra imagen en el lugar de la elegida</translation>
     </message>
     <message>
         <source>Choose a Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir una imagen</translation>
     </message>
     <message>
         <source>Texts and pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos e imágenes</translation>
     </message>
     <message>
         <source>What is drawn first stands first; drag to change the order</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se dibuja primero está primero; arrastre para cambiar el orden</translation>
     </message>
     <message>
         <source>Order of the items</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de los elementos</translation>
     </message>
     <message>
         <source>Add, edit and delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir, editar y borrar</translation>
     </message>
     <message>
         <source>Add text</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir texto</translation>
     </message>
     <message>
         <source>Puts a new text on the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone un texto nuevo en la imagen</translation>
     </message>
     <message>
         <source>Add picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir imagen...</translation>
     </message>
     <message>
         <source>Puts a picture, such as a logo, on the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone una imagen, como un logotipo, sobre la imagen</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>Shows the controls of the selected item</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra los controles del elemento elegido</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -3972,27 +3984,27 @@ o ábralos desde el menú Archivo.</translation>
     </message>
     <message>
         <source>Takes the selected item away</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita el elemento elegido</translation>
     </message>
     <message>
         <source>Further down</source>
-        <translation type="unfinished"></translation>
+        <translation>Más abajo</translation>
     </message>
     <message>
         <source>Draws the selected item earlier, so that the others cover it</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja antes el elemento elegido, de modo que los otros lo cubren</translation>
     </message>
     <message>
         <source>Further up</source>
-        <translation type="unfinished"></translation>
+        <translation>Más arriba</translation>
     </message>
     <message>
         <source>Draws the selected item later, so that it covers the others</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja después el elemento elegido, de modo que cubre los otros</translation>
     </message>
     <message>
         <source>Add a Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una imagen</translation>
     </message>
     <message>
         <source>Delete an item</source>
@@ -4008,30 +4020,15 @@ o ábralos desde el menú Archivo.</translation>
     </message>
     <message>
         <source>Another picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra imagen</translation>
     </message>
     <message>
         <source>Add a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una imagen</translation>
     </message>
     <message>
         <source>Add a text</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>tavrin::TextRow</name>
-    <message>
-        <source>Insert...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Insert what is filled in for each portrait</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>File name, number, date or time, filled in for each portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir un texto</translation>
     </message>
 </context>
 <context>

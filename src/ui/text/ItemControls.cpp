@@ -120,9 +120,11 @@ QToolButton* makeMacros(Binder& binder, TextRow* words) {
     auto* button = new QToolButton;
     button->setObjectName("buttonMacros");
     button->setProperty("handler", "insertMacro");
-    button->setText(TextRow::tr("Insert..."));
-    button->setAccessibleName(TextRow::tr("Insert what is filled in for each portrait"));
-    button->setToolTip(TextRow::tr("File name, number, date or time, filled in for each portrait"));
+    button->setText(ControlRow::translated(QT_TRANSLATE_NOOP("Panel", "Insert...")));
+    button->setAccessibleName(
+        ControlRow::translated(QT_TRANSLATE_NOOP("Panel", "Insert what is filled in for each portrait")));
+    button->setToolTip(ControlRow::translated(
+        QT_TRANSLATE_NOOP("Panel", "File name, number, date or time, filled in for each portrait")));
     button->setPopupMode(QToolButton::InstantPopup);
     button->setFocusPolicy(Qt::StrongFocus);
     auto* menu = new QMenu(button);
