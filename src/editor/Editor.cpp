@@ -42,6 +42,7 @@ void Editor::setScreenZoom(double home) {
 
 EditedRows Editor::DeselectColorRange() {
     if (!isReady() || !selection.DeselectColorRange(pixels_)) return {};
+    painter_->beginStroke();
     return {0, pixels_.iHeight};
 }
 
@@ -100,6 +101,7 @@ void Editor::actLive(const EditItem& item) {
 }
 
 void Editor::act(const EditItem& item) {
+    if (painter_ && item.kind != kMouseDragged) painter_->beginStroke();
     const Point mouse{static_cast<std::int32_t>(item.V1), static_cast<std::int32_t>(item.V2)};
     switch (item.kind) {
         case kMouseDown:

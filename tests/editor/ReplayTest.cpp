@@ -114,6 +114,32 @@ TEST(Replay, GivesTheBytesOfTheLiveEdit) {
     }
 }
 
+// Presses along a line are made anew one by one; a drag leaves out what would come out the same.
+TEST(Replay, ADragGivesTheBytesOfItsStampsOneByOne) {
+    for (const char key : std::string("bper67s3w2f45ch")) {
+        for (const bool transparent : {false, true}) {
+            SCOPED_TRACE(std::string(1, key) + (transparent ? " transparent" : ""));
+            NoiseScene dragged(transparent), pressed(transparent);
+            for (NoiseScene* scene : {&dragged, &pressed}) {
+                for (std::size_t i = 0; i < scene->background.size(); i += 3)
+                    scene->background[i][3] = static_cast<std::uint8_t>(i % 8);  // nothing, or next to it
+                scene->enter();
+                scene->choose(key);
+                scene->live({kCheckBox, key == 'p'});
+                scene->live({kKeyPressed, 3, 3, 'a'});
+                scene->sliders(40, 4, 30, 60);
+                scene->press(12, 26);
+            }
+            dragged.drag(24, 26);
+            for (int x = 12; x <= 24; ++x)
+                pressed.press(x, 26);
+            dragged.release();
+            pressed.release();
+            expectSamePicture(dragged, pressed);
+        }
+    }
+}
+
 TEST(Replay, KeepsTheBrushesOfTheFirstItemAndFiveThousandItems) {
     EditScene scene(4, 4);
     scene.enter();

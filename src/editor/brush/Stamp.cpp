@@ -29,6 +29,10 @@ std::uint8_t premultiplied(std::uint8_t color, std::uint8_t alpha) {
     return static_cast<std::uint8_t>(std::uint32_t{color} * alpha * 32897u >> 23);
 }
 
+int distanceOf(int dx, int dy) {
+    return static_cast<int>(std::sqrt(static_cast<double>(dx) * dx + static_cast<double>(dy) * dy));
+}
+
 // All pixels of a stamp inside the picture in its own order, column by column, until `visit` says false.
 template <class Visit>
 void walkColumns(const Stamp& stamp, const EditorPixels& pixels, const Visit& visit) {
@@ -57,10 +61,9 @@ int Stamp::halfHeight(int dx) const {
     return static_cast<int>(std::sqrt(r * r - static_cast<double>(dx) * dx));
 }
 
-double Stamp::strength(int dx, int dy) const {
+double Stamp::strength(int distance) const {
     const double r = iRadius, hard = settings.dHardness * r;
-    const int d = static_cast<int>(std::sqrt(static_cast<double>(dx) * dx + static_cast<double>(dy) * dy));
-    const double e = d - hard;
+    const double e = distance - hard;
     const double fallOff = static_cast<int>(e) < 1 ? 1.0 : 1.0 - e / (r - hard);
     return settings.dTransparency * fallOff;
 }
@@ -70,10 +73,36 @@ double likenessToScreen(const HsvColor& base, const HsvColor& pixel, const HsvCo
     return 1.0 - 1.2 * iError / (iError2 + 1.0);
 }
 
+StampPainter::StampPainter(EditorPixels& pixels, EditorKey& key)
+    : pixels_(pixels), key_(key), doneBy_(pixels.oSnapShot.size(), 0) {}
+
+void StampPainter::beginStroke() {
+    if (++stroke_ != 0) return;
+    std::fill(doneBy_.begin(), doneBy_.end(), std::uint8_t{0});
+    stroke_ = 1;
+}
+
+// Strengths fall with the distance, so those of one touch value follow each other.
+void StampPainter::layOutLevels(const Stamp& stamp) {
+    levels_.clear();
+    const int last = std::min(stamp.iRadius, pixels_.iWidth + pixels_.iHeight);
+    for (int distance = 0; distance <= last; ++distance) {
+        const double strength = stamp.strength(distance);
+        levels_.push_back({strength, touchOf(strength), true});
+    }
+    for (std::size_t first = 0, end = 0; first < levels_.size(); first = end) {
+        while (end < levels_.size() && levels_[end].touch == levels_[first].touch)
+            ++end;
+        const bool alone = levels_[first].strength == levels_[end - 1].strength;
+        for (std::size_t i = first; i < end; ++i)
+            levels_[i].alone = alone;
+    }
+}
+
 bool StampPainter::reachesAny(const Stamp& stamp) const {
     bool found = false;
     walkColumns(stamp, pixels_, [&](int x, int y) {
-        const int touch = touchOf(stamp.strength(x - stamp.iXCursor, y - stamp.iYCursor));
+        const int touch = touchOf(stamp.strength(distanceOf(x - stamp.iXCursor, y - stamp.iYCursor)));
         found = pixels_.isFree(x, y) && pixels_.snapShot(x, y).percent <= touch;
         return !found;
     });
@@ -90,6 +119,7 @@ EditedRows StampPainter::paint(const Stamp& stamp) {
     const int first = std::max(stamp.iYCursor - stamp.iRadius, 0);
     const int last = std::min(stamp.iYCursor + stamp.iRadius + 1, pixels_.iHeight);
     if (first >= last) return {};
+    layOutLevels(stamp);
     prepareNeighbours(stamp);
     inOrder_ = takesOrder(stamp);
     if (inOrder_) {
@@ -115,12 +145,14 @@ void StampPainter::paintPixel(const Stamp& stamp, int x, int y) {
     const std::size_t pixel = pixels_.index(x, y);
     if (pixels_.pMaskSelection[pixel] == 0) return;
     QLXPixel& s = pixels_.oSnapShot[pixel];
-    const double t = stamp.strength(x - stamp.iXCursor, y - stamp.iYCursor);
-    const int touch = touchOf(t);
-    if (s.percent > touch) return;  // as strong is let through again
-    s.percent = static_cast<std::uint8_t>(touch);
+    const Level& level = levels_[static_cast<std::size_t>(distanceOf(x - stamp.iXCursor, y - stamp.iYCursor))];
+    if (s.percent > level.touch) return;  // as strong is let through again
+    if (s.percent == level.touch && level.alone && doneBy_[pixel] == stroke_) return;  // and would be the same
+    s.percent = static_cast<std::uint8_t>(level.touch);
+    // A record that is emptied gives something else the second time, and so may what goes by the order.
+    doneBy_[pixel] = inOrder_ || (pixels_.bOutputTransparency && s.alpha <= 4) ? std::uint8_t{0} : stroke_;
     if (const std::optional<OutColor> out = outColor(stamp, s, x, y)) {
-        writeBack(s, pixel, t, *out);
+        writeBack(s, pixel, level.strength, *out);
         pixels_.oSnapShotTouch[static_cast<std::size_t>(y)] = 1;
     }
 }

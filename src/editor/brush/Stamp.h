@@ -26,8 +26,8 @@ struct Stamp {
 
     /// Rows above and below the centre at a column `dx` beside it.
     int halfHeight(int dx) const;
-    /// What the stroke takes on at (dx, dy) from the centre: strength times fall-off.
-    double strength(int dx, int dy) const;
+    /// What the stroke takes on so many whole pixels from the centre: strength times fall-off.
+    double strength(int distance) const;
 };
 
 /// What a tool wants at a pixel: real channels, which may lie beyond 0 to 255, and alpha.
@@ -40,7 +40,11 @@ struct OutColor {
 /// strong as all of the stroke before it, so going over a place twice does not add up.
 class StampPainter {
   public:
-    StampPainter(EditorPixels& pixels, EditorKey& key) : pixels_(pixels), key_(key) {}
+    StampPainter(EditorPixels& pixels, EditorKey& key);
+
+    /// From here on every pixel is made anew, also where a stamp is as strong as the last one: to be called before
+    /// whatever is not one more stamp of the same tool with the same settings on the same snapshot.
+    void beginStroke();
 
     /// @return the rows that were changed
     EditedRows paint(const Stamp& stamp);
@@ -57,7 +61,15 @@ class StampPainter {
         bool isGreen;  ///< more than a little above its red and its blue
     };
 
+    /// Strength at a whole distance from the centre.
+    struct Level {
+        double strength;
+        int touch;
+        bool alone;  ///< no other strength of the stamp has this touch value
+    };
+
     bool takesOrder(const Stamp& stamp) const;
+    void layOutLevels(const Stamp& stamp);
     void paintPixel(const Stamp& stamp, int x, int y);
     void writeBack(QLXPixel& s, std::size_t pixel, double t, const OutColor& out);
     std::optional<OutColor> outColor(const Stamp& stamp, const QLXPixel& s, int x, int y);
@@ -73,6 +85,9 @@ class StampPainter {
     EditorPixels& pixels_;
     EditorKey& key_;
     bool inOrder_ = false;
+    std::vector<Level> levels_;         // by the distance from the centre
+    std::vector<std::uint8_t> doneBy_;  // for each pixel the stroke that has made it, where again would be the same
+    std::uint8_t stroke_ = 1;
     int half_ = 0;                          // of the neighbourhood's square
     int left_ = 0, top_ = 0, columns_ = 0;  // what the two below cover
     std::vector<Sums> sums_;                // for each row of the stamp, sums up to a column
