@@ -30,6 +30,8 @@ class ControlsTest : public testing::Test {
                                              std::pair("frame.sFrameImagePath", "/gone/oak.jpg"),
                                              std::pair("frameOverlay.sFrameImagePath", "/gone/oak.jpg")})
             ASSERT_EQ(setField(info_, setting, value), "");
+        info_.oFontObject.resize(2);
+        info_.oFontObject[1].isImage = true;
         for (GroupBox* group : panel_.groups())
             group->setFolded(false);
         for (PanelPage* page : panel_.pages())
@@ -40,6 +42,11 @@ class ControlsTest : public testing::Test {
         binder_.UpdateAllUI();
     }
 
+    /// Controls of items are grey until one of their kind is selected.
+    void selectItemOf(const Binding& binding) {
+        info_.iSelectedFontObject = std::string_view(binding.control).starts_with("sliderImage") ? 1 : 0;
+        binder_.UpdateAllUI();
+    }
     double setting(const ControlRow* row) const {
         const std::string text = editor_.value(binder_.settingOf(row->binding()));
         double number = 0.0;
@@ -94,6 +101,7 @@ TEST_F(ControlsTest, ADragMovesTheSettingAndIsOneStepOfUndo) {
     for (SliderRow* row : sliders()) {
         const Binding& binding = row->binding();
         SCOPED_TRACE(binding.control);
+        selectItemOf(binding);
         auto* groove = find<Groove>(binding.control);
         const double before = setting(row);
         const std::size_t steps = editor_.stepsDone();
@@ -131,6 +139,7 @@ TEST_F(ControlsTest, NumbersAreTypedHeldAtTheEndsAndSaid) {
         const Binding& binding = row->binding();
         const Mapping& mapping = *binding.mapping;
         SCOPED_TRACE(binding.control);
+        selectItemOf(binding);
         const double middle =
             mapping.toSetting(std::floor(binding.minimum + 0.3 * (binding.maximum - binding.minimum)));
         type(fieldOf(row), QString::number(middle * mapping.shownBy));
@@ -157,6 +166,7 @@ TEST_F(ControlsTest, ArrowsStepAndTheWheelWaitsForTheFocus) {
     for (SliderRow* row : sliders()) {
         const Binding& binding = row->binding();
         SCOPED_TRACE(binding.control);
+        selectItemOf(binding);
         auto* groove = find<Groove>(binding.control);
         const auto value = [&] { return binding.mapping->toControl(setting(row)); };
         const double first = value();
@@ -188,6 +198,7 @@ TEST_F(ControlsTest, BoxesAndChoicesWriteTheirValues) {
     for (ControlRow* row : binder_.rows()) {
         const Binding& binding = row->binding();
         SCOPED_TRACE(binding.control);
+        selectItemOf(binding);
         for (const Choice& choice : binding.choices) {
             find<QToolButton>(choice.control)->click();
             EXPECT_EQ(setting(row), choice.value);
@@ -207,6 +218,7 @@ TEST_F(ControlsTest, ADotMarksWhatDiffersAndTheLabelTakesItBack) {
     for (ControlRow* row : binder_.rows()) {
         const Binding& binding = row->binding();
         SCOPED_TRACE(binding.control);
+        selectItemOf(binding);
         editor_.set(binder_.settingOf(binding), settingText(*binding.mapping, binding.reset));
         binder_.UpdateAllUI();
         auto* dot = find<QToolButton>(QString(binding.control) + "Reset");
@@ -259,6 +271,7 @@ TEST_F(ControlsTest, TheFlagsFollowFromTheSetting) {
     };
     for (ControlRow* row : binder_.rows()) {
         SCOPED_TRACE(row->binding().control);
+        selectItemOf(row->binding());
         takeFlags();
         emit row->changed(row->binding().mapping->toSetting(row->binding().maximum));
         const auto flags = expected.find(row->binding().control);
@@ -322,6 +335,7 @@ TEST_F(ControlsTest, EasySettingsMoveTheKeyAndTheKeyLeavesThem) {
 TEST_F(ControlsTest, ALoadedStateIsShownInEveryControl) {
     for (ControlRow* row : binder_.rows()) {
         const Binding& binding = row->binding();
+        selectItemOf(binding);
         const double value =
             binding.choices.empty() ? binding.mapping->toSetting(binding.maximum) : binding.choices.back().value;
         ASSERT_EQ(setField(info_, binder_.settingOf(binding), settingText(*binding.mapping, value)), "");
@@ -330,6 +344,7 @@ TEST_F(ControlsTest, ALoadedStateIsShownInEveryControl) {
     for (ControlRow* row : binder_.rows()) {
         const Binding& binding = row->binding();
         SCOPED_TRACE(binding.control);
+        selectItemOf(binding);
         if (!binding.choices.empty()) {
             EXPECT_TRUE(find<QToolButton>(binding.choices.back().control)->isChecked());
         } else if (binding.mapping == &kState) {
@@ -361,7 +376,7 @@ TEST_F(ControlsTest, KeysOfTheMenuTurnOneLayerAndReadTheActiveOneAgain) {
 }
 
 TEST_F(ControlsTest, SearchFindsControlsByWordsInAnyOrder) {
-    for (const int key : {1, 0})
+    for (const int key : {1, 4, 0})
         panel_.selectMainTab(key);
     const auto shown = [&] {
         QStringList names;

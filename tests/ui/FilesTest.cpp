@@ -77,10 +77,12 @@ TEST_F(FilesTest, AHostApplicationGetsItsOwnFileBack) {
     action("AutoState")->setChecked(true);
     const QString file = drawn("host.png");
     window_->openForHost(file);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return info_->pForegroundBitmapInfo->sSourceImageFullPath.load() == file.toStdString(); }, 20000));
     ASSERT_TRUE(waitForPicture());
     EXPECT_EQ(action("Save")->text(), "Return To Lightroom");
-    const QImage shown = window_->view()->fullPicture();
     ASSERT_TRUE(QTest::qWaitFor([&] { return action("Save")->isEnabled(); }, 20000));
+    const QImage shown = window_->view()->fullPicture();
     action("Save")->trigger();
     EXPECT_EQ(action("Save")->text(), "Save");
     ASSERT_TRUE(saved());

@@ -132,12 +132,11 @@ void SidePanel::addPage(PanelPage* page) {
 /// By their keys, a few in a line.
 void SidePanel::layOutTabs() {
     std::ranges::sort(pages_, {}, [](const PanelPage* page) { return page->title().key; });
-    QWidget* before = nullptr;
     for (int i = 0; i < static_cast<int>(pages_.size()); ++i) {
         QAbstractButton* tab = tabGroup_->button(pages_[static_cast<std::size_t>(i)]->title().key);
         tabs_->addWidget(tab, i / kTabsInALine, i % kTabsInALine);
-        if (before) setTabOrder(before, tab);
-        before = tab;
+        setTabOrder(search_, tab);  // behind it, and it behind the tab: before it, after the tabs that were there
+        setTabOrder(tab, search_);
     }
 }
 

@@ -153,8 +153,10 @@ WordSetting levelOf(const char* control, const Handler* handler) {
 void showOnlyFor(GroupBox* box, Binder& binder, bool isImage) {
     const auto refresh = [box, &binder, isImage] {
         const FontObject* item = selectedItem(binder.editor().info());
-        box->setEnabled(item && item->isImage == isImage);
-        box->setFolded(!box->isEnabled());
+        const bool is = item && item->isImage == isImage;
+        if (is == box->isEnabled()) return;
+        box->setEnabled(is);
+        box->setFolded(!is);
     };
     QObject::connect(&binder, &Binder::shown, box, refresh);
     refresh();
