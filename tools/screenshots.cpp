@@ -319,6 +319,8 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
         for (GroupBox* group : window.panel()->groups())
             group->setFolded(group->group().name != std::string_view("groupPlace"));
         save("item");
+        window.panel()->texts()->EditTextImage(0);
+        save("textItem");
     }
     return all;
 }

@@ -1990,6 +1990,26 @@
         <source>Switch it off</source>
         <translation>Ausschalten</translation>
     </message>
+    <message>
+        <source>Texts and pictures</source>
+        <translation>Texte und Bilder</translation>
+    </message>
+    <message>
+        <source>Texts and pictures: %1</source>
+        <translation>Texte und Bilder: %1</translation>
+    </message>
+    <message>
+        <source>On the picture; a click leads to the controls</source>
+        <translation>Auf dem Bild; ein Klick führt zu den Reglern</translation>
+    </message>
+    <message>
+        <source>Take all of them away</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Take all texts and pictures away</source>
+        <translation>Alle Texte und Bilder entfernen</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ChoiceRow</name>
@@ -3980,7 +4000,7 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation>Entf</translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Takes the selected item away</source>

@@ -1990,6 +1990,26 @@
         <source>Switch it off</source>
         <translation>Desactivar</translation>
     </message>
+    <message>
+        <source>Texts and pictures</source>
+        <translation>Textos e imágenes</translation>
+    </message>
+    <message>
+        <source>Texts and pictures: %1</source>
+        <translation>Textos e imágenes: %1</translation>
+    </message>
+    <message>
+        <source>On the picture; a click leads to the controls</source>
+        <translation>Sobre la imagen; un clic lleva a los controles</translation>
+    </message>
+    <message>
+        <source>Take all of them away</source>
+        <translation>Quitarlos todos</translation>
+    </message>
+    <message>
+        <source>Take all texts and pictures away</source>
+        <translation>Quitar todos los textos e imágenes</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ChoiceRow</name>
@@ -3980,7 +4000,7 @@ o ábralos desde el menú Archivo.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation>Supr</translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Takes the selected item away</source>

@@ -370,6 +370,7 @@ TEST_F(EffectsTest, TheFreezeStandsOnThePageToo) {
     EXPECT_FALSE(told->isVisible());
     press("buttonWall");
     ASSERT_TRUE(waitForPicture());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return part<QToolButton>("buttonFreeze")->isEnabled(); }, 20000));
     press("buttonFreeze");
     ASSERT_TRUE(QTest::qWaitFor([&] { return told->isVisible(); }, 20000));
     EXPECT_TRUE(info_->bBackgroundFrozen);

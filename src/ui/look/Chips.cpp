@@ -5,6 +5,8 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
+#include "session/TextItems.h"
+
 namespace tavrin {
 
 namespace {
@@ -67,6 +69,21 @@ Chips::Entry Chips::entryOf(const GroupBox* group) const {
             [this, group] { binder_.switchOff(group->group()); }};
 }
 
+Chips::Entry Chips::itemsEntry() const {
+    const auto row =
+        std::ranges::find(binder_.rows(), Owner::item, [](ControlRow* one) { return one->binding().owner; });
+    return {"items",
+            tr("Texts and pictures"),
+            tr("Texts and pictures: %1").arg(binder_.editor().info().iFontObjectCount()),
+            tr("On the picture; a click leads to the controls"),
+            tr("Take all of them away"),
+            row == binder_.rows().end() ? nullptr : *row,
+            [this] {
+                binder_.run(tr("Take all texts and pictures away"),
+                            [](SettingEditor& editor) { setItemCount(editor, "0"); });
+            }};
+}
+
 /// An effect counts as one, however many of its controls are set.
 std::vector<Chips::Entry> Chips::entries() const {
     std::vector<Entry> entries;
@@ -80,6 +97,7 @@ std::vector<Chips::Entry> Chips::entries() const {
         }
         last = group;
     }
+    if (binder_.editor().info().iFontObjectCount() > 0) entries.push_back(itemsEntry());
     return entries;
 }
 

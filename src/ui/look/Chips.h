@@ -39,6 +39,7 @@ class Chips : public QWidget {
     std::vector<Entry> entries() const;
     Entry entryOf(ControlRow* row) const;
     Entry entryOf(const GroupBox* group) const;
+    Entry itemsEntry() const;
     void refresh();
     void rebuild();
     void placeInTabOrder();

@@ -28,6 +28,10 @@ constexpr Handler kFill{"clickedFillRadiobutton:"}, kJustify{"clickedJustifyRadi
 constexpr Handler kShadow{"shadowSliders:"}, kScaleItem{"textViewScaleSlider:"};
 constexpr Handler kTextLevel{"changedLevel:"}, kImageLevel{"changedImageLevel:"}, kFade{"imageTrasparencySlider:"};
 
+// The list of items tells of all of them at once.
+const PanelActs kTextPanel{"addText:, closeAddTextDialog:", "updateTextUI", {}};
+const PanelActs kImagePanel{"addImage:, closeImageTextDialog:", "updateTextUI", {}};
+
 constexpr Mapping kHundredths{"value / 100", [](double v) { return v / 100.0; }, [](double s) { return s * 100.0; },
                               1, 100.0};
 
@@ -91,7 +95,8 @@ BindingGroup textGroup() {
          QT_TRANSLATE_NOOP("Panel", "How far the letters' shadow stands above them; below 0 under them.")}};
     for (Binding& scale : scales("sliderTextScaleX", "sliderTextScaleY"))
         bindings.push_back(std::move(scale));
-    return {"MyTextPanel", QT_TRANSLATE_NOOP("Panel", "Selected text"), nullptr, std::move(bindings)};
+    return {"MyTextPanel", QT_TRANSLATE_NOOP("Panel", "Selected text"), nullptr, std::move(bindings), false,
+            &kTextPanel};
 }
 
 BindingGroup imageGroup() {
@@ -100,7 +105,8 @@ BindingGroup imageGroup() {
         {"sliderImageTransparency", &kFade, Owner::item, "dTransparency", &kHundredths, 0, 100, 1,
          QT_TRANSLATE_NOOP("Panel", "Opacity"),
          QT_TRANSLATE_NOOP("Panel", "At 0 the picture cannot be seen, at 100 it hides what is below.")});
-    return {"MyImagePanel", QT_TRANSLATE_NOOP("Panel", "Selected picture"), nullptr, std::move(bindings)};
+    return {"MyImagePanel", QT_TRANSLATE_NOOP("Panel", "Selected picture"), nullptr, std::move(bindings), false,
+            &kImagePanel};
 }
 
 constexpr ColourSetting kColours[] = {

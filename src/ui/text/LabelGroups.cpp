@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "core/files/NameText.h"
 #include "core/text/TextLayers.h"
 #include "ui/text/WordRows.h"
 
@@ -45,6 +46,15 @@ constexpr PickRow::Word kColours[] = {{"White", QT_TRANSLATE_NOOP("Panel", "Whit
                                       {"Black", QT_TRANSLATE_NOOP("Panel", "Black")},
                                       {kColorByGround, QT_TRANSLATE_NOOP("Panel", "By the ground")}};
 
+/// A label is on while it has words, and they stand on its chip.
+template <int at>
+QString wordsOn(const SystemInfo& info) {
+    return textOfName(info.oFontLabelObject[at].sText);
+}
+const PanelActs kActs[] = {{"fold", "updateLabelUI", {{"label0.sText", ""}}, wordsOn<0>},
+                           {"fold", "updateLabelUI", {{"label1.sText", ""}}, wordsOn<1>},
+                           {"fold", "updateLabelUI", {{"label2.sText", ""}}, wordsOn<2>}};
+
 /// What the controls of one label are called, and which settings they drive.
 struct LabelNames {
     const char *group, *title;
@@ -73,7 +83,8 @@ BindingGroup groupOf(const LabelNames& names) {
             {{names.shadow, names.handler, Owner::state, names.bDropShadow, &kState, 0, 1, 0,
               QT_TRANSLATE_NOOP("Panel", "Shadow of the words"),
               QT_TRANSLATE_NOOP("Panel", "Makes the words stand out from an unquiet ground.")}},
-            names.handler == &kEvent};
+            names.handler == &kEvent,
+            &kActs[&names - kLabels]};
 }
 
 std::vector<QWidget*> wordsOf(const LabelNames& names, Binder& binder) {

@@ -52,7 +52,8 @@ void WordRow::addControl(QWidget* control) {
     auto* label = new QLabel(accessibleName(), this);
     label->setBuddy(control);
     label->setMinimumWidth(kLabelWidth);
-    label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    const bool isHigh = qobject_cast<QPlainTextEdit*>(control);
+    label->setAlignment((isHigh ? Qt::AlignTop : Qt::AlignVCenter) | Qt::AlignLeading);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(label);
