@@ -45,8 +45,8 @@ void shrinkToFit(const SystemInfo& info, FontObject& label, double inches);
 /// What a label shows: its text, or the name of the foreground's file for "@filename". "" when that is nothing.
 std::string labelString(const SystemInfo& info, const FontObject& label);
 
-/// Makes the box of a text item as large as its lines are, so that it frames them and nothing wraps. Without fonts, and
-/// for a picture, it stays.
+/// Makes the box of a text item as large as its lines are, so that it frames them and nothing wraps. Without fonts,
+/// and for a picture, it stays.
 void fitTextBox(const SystemInfo& info, FontObject& item);
 
 /// "", or why the text of the state cannot be drawn as one plain line: there is some, and no font for it.
