@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "key/refine/CellRows.h"
 #include "key/refine/Cells.h"
 #include "key/refine/Mask.h"
 

@@ -8,6 +8,8 @@
 #include "key/refine/Areas.h"
 #include "key/refine/Cells.h"
 #include "key/refine/MatteLoops.h"
+#include "key/refine/Parts.h"
+#include "key/refine/SumLoops.h"
 #include "support/VectorTargets.h"
 
 namespace tavrin {
@@ -132,12 +134,12 @@ TEST(RefineLoops, SumsOfColoursAreExactOnEveryTarget) {
                     for (std::size_t k = 0; k < 10; ++k)
                         wanted[k * width + i % width] += weights[i] * static_cast<float>(terms[k]);
                 }
-                refine::rowLoops().sumProducts({pixels.data(), kPitch, weights.data(), kRows, count}, blue,
+                refine::sumLoops().sumProducts({pixels.data(), kPitch, weights.data(), kRows, count}, blue,
                                                sums.data());
                 EXPECT_EQ(sums, wanted) << count << blue;
                 std::fill(sums.begin(), sums.end(), 0.0f);
                 std::fill(wanted.begin() + static_cast<std::ptrdiff_t>(4 * width), wanted.end(), 0.0f);
-                refine::rowLoops().sumColors({pixels.data(), kPitch, weights.data(), kRows, count}, blue,
+                refine::sumLoops().sumColors({pixels.data(), kPitch, weights.data(), kRows, count}, blue,
                                              sums.data());
                 EXPECT_EQ(sums, wanted) << count << blue;
             }

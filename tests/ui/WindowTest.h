@@ -38,9 +38,13 @@ class WindowTest : public testing::Test {
         ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
         ASSERT_TRUE(waitForPicture());
     }
+    /// The finished picture is shown.
     bool waitForPicture() {
-        return QTest::qWaitFor(
+        const bool came = QTest::qWaitFor(
             [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
+        // The rows of the key may have been shown while what follows it was made: its rows are on their way.
+        QCoreApplication::sendPostedEvents();
+        return came;
     }
     QAction* action(const char* id) { return window_->commands().action(id); }
     SettingEditor& editor() { return window_->binder().editor(); }

@@ -22,7 +22,8 @@ int sheetCommand(const SheetOrder& order) {
         return kFailed;
     }
     if (made.gone > 0) warn(countedPictures(made.gone, "of the sheet cannot be read any more; the cells say so."));
-    if (made.failed > 0) warn(countedPictures(made.failed, "of the report failed; there is nothing of them to show."));
+    if (made.failed > 0)
+        warn(countedPictures(made.failed, "of the report failed; there is nothing of them to show."));
     if (!isQuiet()) printLine(order.out + ": the worst " + std::to_string(made.pictures) + " of " + order.report);
     return kDone;
 }

@@ -1,11 +1,12 @@
 #include "key/refine/Cells.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
+#include "key/refine/CellRows.h"
 #include "key/refine/MatteLoops.h"
 #include "key/refine/RowRing.h"
+#include "key/refine/SumLoops.h"
 
 namespace tavrin::refine {
 
@@ -62,7 +63,7 @@ class PullRow {
             padded_.pad(i + 1, 1);
             rows[i + 1] = row;
         }
-        rowLoops().boxSums(rows, 1, level_.columns(), padded_.row(3), to);
+        sumLoops().boxSums(rows, 1, level_.columns(), padded_.row(3), to);
     }
 
     const Cells& level_;
@@ -80,45 +81,6 @@ Cells meanOf(const Cells& cells) {
     return mean;
 }
 
-// Set cells side by side, by their places in scan order.
-struct Run {
-    int begin, end;
-    std::size_t joined;  // an earlier run of the same part, or itself
-};
-
-// The first run of its part, as far as the parts are joined.
-std::size_t firstOf(const std::vector<Run>& runs, std::size_t i) {
-    while (runs[i].joined != i)
-        i = runs[i].joined;
-    return i;
-}
-
-// The runs of the rows, each joined to those that touch it above; `slant` is 1 where corners touch too.
-std::vector<Run> joinedRuns(int columns, int rows, const std::vector<std::uint8_t>& set, int slant) {
-    std::vector<Run> runs;
-    const auto isSet = [&](int at) { return set[static_cast<std::size_t>(at)] != 0; };
-    std::size_t above = 0;
-    for (int y = 0; y < rows; ++y) {
-        const std::size_t first = runs.size();
-        for (int at = y * columns, end = at + columns; at < end; ++at) {
-            if (!isSet(at)) continue;
-            const int begin = at;
-            while (at < end && isSet(at))
-                ++at;
-            const std::size_t own = runs.size();
-            runs.push_back({begin, at, own});
-            while (above < first && runs[above].end + columns + slant <= begin)
-                ++above;
-            for (std::size_t i = above; i < first && runs[i].begin + columns < at + slant; ++i) {
-                const std::size_t one = firstOf(runs, i), other = firstOf(runs, own);
-                runs[std::max(one, other)].joined = std::min(one, other);
-            }
-        }
-        above = first;
-    }
-    return runs;
-}
-
 }  // namespace
 
 Cells::Cells(int columns, int rows, int planes)
@@ -134,71 +96,6 @@ double Cells::sum(int plane) const {
     for (std::size_t i = 0; i < count(); ++i)
         sum += static_cast<double>(values[i]);
     return sum;
-}
-
-// The strip begins in the middle of a segment between two cells, and may begin or end beyond them all.
-CellRows::CellRows(const Cells& cells, int size, int left, int width)
-    : cells_(cells),
-      size_(size),
-      width_(width),
-      spreadRows_(2 * static_cast<std::size_t>(cells.planes()), -1),
-      shares_(static_cast<std::size_t>(size + 3)) {
-    const int start = left - size / 2 + size;  // from the segment before the first cell's middle on
-    first_ = start / size - 1;
-    before_ = start % size;
-    count_ = (before_ + width + size - 1) / size;
-    line_.resize(static_cast<std::size_t>(count_) + 2);
-    rows_.resize(spreadRows_.size() * static_cast<std::size_t>(count_ * size + 8));
-    for (int i = 0; i < size; ++i)
-        shares_[static_cast<std::size_t>(i)] =
-            (static_cast<float>(size / 2 + i) + 0.5f) / static_cast<float>(size) - 0.5f;
-}
-
-// A row of cells as a row of pixels.
-const float* CellRows::spread(int cellRow, int plane) {
-    const auto slot = static_cast<std::size_t>(2 * plane + (cellRow & 1));
-    float* const to = rows_.data() + slot * static_cast<std::size_t>(count_ * size_ + 8);
-    if (std::exchange(spreadRows_[slot], cellRow) == cellRow) return to + before_;
-    // Cells first_ to first_ + count_, of which the first and the last may not be there.
-    const float* cells = cells_.row(cellRow, plane) + first_;
-    if (first_ < 0 || first_ + count_ >= cells_.columns()) {
-        for (int i = 0; i <= count_; ++i)
-            line_[static_cast<std::size_t>(i)] = cells[std::clamp(i, -first_, cells_.columns() - 1 - first_)];
-        cells = line_.data();
-    }
-    rowLoops().spread(cells, shares_.data(), size_, count_, to);
-    return to + before_;
-}
-
-void CellRows::fill(int y, int plane, float* to) {
-    const int next = (y - size_ / 2 + size_) / size_, last = cells_.rows() - 1;
-    const int above = std::clamp(next - 1, 0, last), below = std::min(next, last);
-    const float share = shares_[static_cast<std::size_t>((y - size_ / 2 + size_) % size_)];
-    rowLoops().mix(spread(above, plane), spread(below, plane), share, width_, to);
-}
-
-CellPoints::CellPoints(const Cells& cells, int size, int width, int step) : cells_(cells), size_(size) {
-    for (int x = 0; x < width; x += step)
-        columns_.push_back(place(std::min(x + step / 2, width - 1), cells.columns()));
-}
-
-CellPoints::Point CellPoints::place(int at, int count) const {
-    const int next = (at - size_ / 2 + size_) / size_, beyond = (at - size_ / 2 + size_) % size_;
-    const auto size = static_cast<float>(size_);
-    return {std::clamp(next - 1, 0, count - 1), std::min(next, count - 1),
-            (static_cast<float>(size_ / 2 + beyond) + 0.5f) / size - 0.5f};
-}
-
-void CellPoints::fill(int y, int plane, float* to) const {
-    const Point row = place(y, cells_.rows());
-    const float *const above = cells_.row(row.before, plane), *const below = cells_.row(row.after, plane);
-    const auto along = [](const float* line, const Point& at) {
-        return line[at.before] + (line[at.after] - line[at.before]) * at.share;
-    };
-    for (const Point& column : columns_) {
-        const float upper = along(above, column);
-        *to++ = upper + (along(below, column) - upper) * row.share;
-    }
 }
 
 Cells pushPull(const RunContext& context, const Cells& cells) {
@@ -228,7 +125,7 @@ Cells sharesOf(const RunContext& context, const Mask& mask, int size) {
         std::vector<int> counts(static_cast<std::size_t>(cells.columns()));
         const int first = row * size, last = std::min(first + size, mask.height());
         for (int y = first; y < last; ++y) {
-            rowLoops().countBits(mask.row(y), size, mask.width(), counts.data());
+            sumLoops().countBits(mask.row(y), size, mask.width(), counts.data());
         }
         for (int c = 0; c < cells.columns(); ++c) {
             const int pixels = (std::min((c + 1) * size, mask.width()) - c * size) * (last - first);
@@ -300,19 +197,6 @@ Cells least5(const Cells& cells) {
         }
     }
     return result;
-}
-
-Parts findParts(int columns, int rows, const std::vector<std::uint8_t>& set, Neighbours neighbours) {
-    const std::vector<Run> runs = joinedRuns(columns, rows, set, neighbours == Neighbours::eight ? 1 : 0);
-    Parts parts;
-    parts.labels.resize(set.size());
-    std::vector<int> numbers(runs.size());  // of the parts whose first run it is
-    for (std::size_t i = 0; i < runs.size(); ++i) {
-        const std::size_t first = firstOf(runs, i);
-        if (first == i) numbers[i] = ++parts.count;
-        std::fill(parts.labels.begin() + runs[i].begin, parts.labels.begin() + runs[i].end, numbers[first]);
-    }
-    return parts;
 }
 
 }  // namespace tavrin::refine

@@ -36,43 +36,6 @@ class Cells {
     std::vector<float> values_;
 };
 
-/// Rows of a picture made of a plane by linear interpolation; each cell covers `size` pixels. Beyond the middles of
-/// the outer cells their values go on. For one thread.
-class CellRows {
-  public:
-    /// Columns `left` to `left + width` of the picture.
-    CellRows(const Cells& cells, int size, int left, int width);
-
-    void fill(int y, int plane, float* to);
-
-  private:
-    const float* spread(int cellRow, int plane);
-
-    const Cells& cells_;
-    int size_, before_, first_, count_, width_;
-    std::vector<int> spreadRows_;  // of each plane: the two rows of cells that were spread last, the even one first
-    std::vector<float> shares_, line_, rows_;
-};
-
-/// The same interpolation at single columns of a picture: those `step` apart, from the middle of the first step on.
-class CellPoints {
-  public:
-    CellPoints(const Cells& cells, int size, int width, int step);
-    /// One number for each step of row `y`, the last of which may be cut.
-    void fill(int y, int plane, float* to) const;
-
-  private:
-    struct Point {
-        int before, after;  // cells
-        float share;        // of the second one
-    };
-    Point place(int at, int count) const;
-
-    const Cells& cells_;
-    int size_;
-    std::vector<Point> columns_;
-};
-
 /// Fills what has no weight from what lies around: halves the cells until few are left, and coming back keeps a
 /// level's own mean of 3 x 3 cells as far as its weight reaches a quarter.
 /// @param cells values times weight; the last plane is the weight, 0 to 1
@@ -89,13 +52,5 @@ Mask maskOf(const RunContext& context, int width, int height, int size, const st
 Cells blurred(const RunContext& context, const Cells& cells, double reach);
 /// The least of the 5 x 5 cells around each, one plane.
 Cells least5(const Cells& cells);
-
-/// Connected parts of set cells: their numbers from 1, row by row; 0 where none is.
-struct Parts {
-    int count = 0;
-    std::vector<int> labels;
-};
-enum class Neighbours { four, eight };
-Parts findParts(int columns, int rows, const std::vector<std::uint8_t>& set, Neighbours neighbours);
 
 }  // namespace tavrin::refine

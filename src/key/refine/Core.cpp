@@ -4,8 +4,10 @@
 #include <cmath>
 
 #include "key/refine/Areas.h"
+#include "key/refine/Parts.h"
 #include "key/refine/RowRing.h"
 #include "key/refine/ScreenRatio.h"
+#include "key/refine/SumLoops.h"
 
 namespace tavrin::refine {
 
@@ -40,7 +42,7 @@ void lookAt(const RunContext& context, const Shot& shot, const Plate& plate, con
     std::vector<std::uint8_t> flags(static_cast<std::size_t>(strip.width) + 8);
     const std::uint8_t* const own = flags.data() + (area.left - strip.left);
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
-        rowLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
+        sumLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
         rowLoops().above(scratch.row(1), kCoreAlpha * 9.0f, strip.width, flags.data());
         look.high.pack(y, area.left, area.width(), own);
         rowLoops().above(alphas.at(y, 0), kSureAlpha, strip.width, flags.data());
@@ -68,7 +70,7 @@ void findCloth(const RunContext& context, const Shot& shot, const Plate& plate, 
     const float *const sum = scratch.row(1) + inset, *const light = scratch.row(2) + inset,
                        *const cover = scratch.row(3) + inset;
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
-        rowLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
+        sumLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
         ratio.cover(y, scratch.row(2), scratch.row(3));
         const std::uint8_t* const key = shot.keyRow(y) + area.left;
         for (int x = 0; x < area.width(); ++x) {
@@ -93,7 +95,7 @@ Cells roughness(const RunContext& context, const Shot& shot, int size) {
         float* const mean = scratch.row(1);
         const int first = row * size, last = std::min(first + size, shot.height);
         for (int y = first; y < last; ++y) {
-            rowLoops().boxSums(lumas.around(y, 0, 2), 2, shot.width, scratch.row(0), mean);
+            sumLoops().boxSums(lumas.around(y, 0, 2), 2, shot.width, scratch.row(0), mean);
             const float* const luma = lumas.at(y, 0);
             for (int x = 0; x < shot.width; ++x)
                 mean[x] = std::abs(luma[x] - mean[x] / 25.0f);

@@ -5,6 +5,7 @@
 
 #include "key/refine/Areas.h"
 #include "key/refine/MatteLoops.h"
+#include "key/refine/SumLoops.h"
 
 namespace tavrin::refine {
 
@@ -119,7 +120,7 @@ void DetailRows::fill(int y, float* mean, float* detail) {
     float* const sums[] = {mean, scratch_.row(1), scratch_.row(2), scratch_.row(3)};
     const int width = strip_.width;
     for (int plane = 0; plane < 4; ++plane)
-        rowLoops().boxSums(ring_.around(y, plane, kReach), kReach, width, scratch_.row(4), sums[plane]);
+        sumLoops().boxSums(ring_.around(y, plane, kReach), kReach, width, scratch_.row(4), sums[plane]);
     loadLuma(strip_, y, rest);
     const float* const half = ring_.at(y, 1);
     for (int x = 0; x < width; ++x)

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "key/refine/FinishLoops.h"
+#include "key/refine/SumLoops.h"
 
 namespace tavrin::refine {
 
@@ -85,7 +86,7 @@ void FinishRows::fill(int y, float* alpha) {
     } else {
         finishLoops().levels(alphas_.at(y, 0), alphas_.at(y, 0), 0.0f, width, alpha);
     }
-    rowLoops().boxSums(alphas_.around(y, 0, 2), 2, width, scratch_.row(2), mean);
+    sumLoops().boxSums(alphas_.around(y, 0, 2), 2, width, scratch_.row(2), mean);
     for (int x = 0; x < width; ++x)
         mean[x] /= 25.0f;
     finishLoops().quieten(mean, noise_, width, alpha);
@@ -103,7 +104,7 @@ void FinishRows::holdBack(int y, float* alpha) {
     const int width = strip_.width;
     near_.fill(y, 0, near);
     if (std::all_of(near, near + width, [](float share) { return share >= 1.0f; })) return;
-    rowLoops().boxSums(keys_.around(y, 0, 2), 2, width, scratch_.row(2), sums);
+    sumLoops().boxSums(keys_.around(y, 0, 2), 2, width, scratch_.row(2), sums);
     finishLoops().holdBack(near, sums, width, alpha);
 }
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "key/refine/CellRows.h"
 #include "key/refine/Detail.h"
 #include "key/refine/RefineKey.h"
 

@@ -6,8 +6,10 @@
 #include <numeric>
 
 #include "key/refine/Areas.h"
+#include "key/refine/CellRows.h"
 #include "key/refine/MatteLoops.h"
 #include "key/refine/RowRing.h"
+#include "key/refine/SumLoops.h"
 
 namespace tavrin::refine {
 
@@ -31,13 +33,13 @@ void sumColors(const Shot& shot, const Mask& sure, int row, int firstCell, int e
     float *const sums = lines.data(), *const weights = sums + (kSums + 1) * length;
     for (int y = top; y < bottom; ++y)
         sure.unpack(y, left, width, weights + std::ptrdiff_t{y - top} * width);
-    rowLoops().sumProducts({shot.pixelRow(top) + left, shot.width, weights, bottom - top, width}, shot.blue, sums);
+    sumLoops().sumProducts({shot.pixelRow(top) + left, shot.width, weights, bottom - top, width}, shot.blue, sums);
     const int whole = width / size, rest = width % size;
     for (int plane = 0; plane <= kSums; ++plane) {
         // The weight comes last in the cells.
         const float* const from = sums + (plane + 1) % (kSums + 1) * width;
         float* const to = cells.row(row, plane) + firstCell;
-        rowLoops().sumGroups(from, size, whole, to);
+        sumLoops().sumGroups(from, size, whole, to);
         for (int c = 0; c < whole; ++c)
             to[c] /= static_cast<float>(size * (bottom - top));
         if (rest > 0)
@@ -151,7 +153,7 @@ Mask surePixels(const RunContext& context, const Fit& fit, const Mask& solid, co
         PaddedRows scratch(strip.width, 2);
         std::vector<std::uint8_t> flags(static_cast<std::size_t>(strip.width) + 8);
         for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
-            rowLoops().boxSums(ring.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
+            sumLoops().boxSums(ring.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
             rowLoops().above(scratch.row(1), kSureAlpha * 9.0f, strip.width, flags.data());
             whole.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
         }

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "key/refine/CellRows.h"
 #include "key/refine/Core.h"
 
 namespace tavrin::refine {

@@ -6,7 +6,9 @@
 #include <numeric>
 
 #include "core/raster/Pixels.h"
+#include "key/refine/CellRows.h"
 #include "key/refine/FinishLoops.h"
+#include "key/refine/SumLoops.h"
 
 namespace tavrin::refine {
 
@@ -113,7 +115,7 @@ ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, const 
 void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
     const int width = strip_.width;
     for (int plane = 0; plane < 4; ++plane)
-        rowLoops().boxSums(shares_.around(y, plane, 1), 1, width, scratch_.row(11), scratch_.row(plane));
+        sumLoops().boxSums(shares_.around(y, plane, 1), 1, width, scratch_.row(11), scratch_.row(plane));
     for (int c = 0; c < 3; ++c)
         subject_.fill(y, c, scratch_.row(4 + c));
     own_.fill(y, 0, scratch_.row(7));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "key/refine/Areas.h"
+#include "key/refine/CellRows.h"
 #include "key/refine/Finish.h"
 
 namespace tavrin::refine {

@@ -9,6 +9,7 @@
 #include "key/pixel/ChannelRoles.h"
 #include "key/refine/Areas.h"
 #include "key/refine/MatteLoops.h"
+#include "key/refine/SumLoops.h"
 
 namespace tavrin::refine {
 
@@ -92,12 +93,12 @@ void sumCells(const Shot& shot, const Mask& screen, int row, int left, int count
     const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
     for (int y = first; y < last; ++y)
         screen.unpack(y, left, count, weights + std::ptrdiff_t{y - first} * count);
-    rowLoops().sumColors({shot.pixelRow(first) + left, shot.width, weights, last - first, count}, shot.blue, sums);
+    sumLoops().sumColors({shot.pixelRow(first) + left, shot.width, weights, last - first, count}, shot.blue, sums);
     const int whole = count / kPlateCell, rest = count % kPlateCell;
     for (std::size_t plane = 0; plane < 4; ++plane) {
         const float* const from = sums + (plane + 1) % 4 * length;  // the weight comes last in the cells
         float* const to = cells.row(row, static_cast<int>(plane)) + left / kPlateCell;
-        rowLoops().sumGroups(from, kPlateCell, whole, to);
+        sumLoops().sumGroups(from, kPlateCell, whole, to);
         for (int c = 0; c < whole; ++c)
             to[c] /= static_cast<float>(kPlateCell * (last - first));
         if (rest > 0)

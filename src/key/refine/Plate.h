@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "key/refine/CellRows.h"
 #include "key/refine/Cells.h"
 #include "key/refine/Mask.h"
 #include "key/refine/RowLoops.h"

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "key/refine/CellRows.h"
 #include "key/refine/MatteLoops.h"
 #include "key/refine/Plate.h"
 #include "key/refine/RowRing.h"
+#include "key/refine/SumLoops.h"
 
 namespace tavrin::refine {
 
@@ -43,7 +45,7 @@ class ScreenRatio {
 
     void look(int y) {
         for (int plane = 0; plane < 3; ++plane) {
-            rowLoops().boxSums(colors_.around(y, plane, 1), 1, width_, scratch_.row(6), scratch_.row(plane));
+            sumLoops().boxSums(colors_.around(y, plane, 1), 1, width_, scratch_.row(6), scratch_.row(plane));
             plate_.fill(y, plane, scratch_.row(3 + plane));
         }
     }

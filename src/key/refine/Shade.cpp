@@ -2,9 +2,11 @@
 #include <cmath>
 
 #include "key/refine/Areas.h"
+#include "key/refine/Parts.h"
 #include "key/refine/Plate.h"
 #include "key/refine/RowRing.h"
 #include "key/refine/ScreenRatio.h"
+#include "key/refine/SumLoops.h"
 
 namespace tavrin::refine {
 
@@ -34,7 +36,7 @@ void findNear(const RunContext& context, const Shot& shot, const Plate& plate, c
     std::vector<std::uint8_t> flags(static_cast<std::size_t>(strip.width) + 8);
     const float limit = kFarSpreads * std::max(plate.spread, kLeastSpread) * 25.0f;
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
-        rowLoops().boxSums(strays.around(y, 0, 2), 2, strip.width, scratch.row(0), scratch.row(1));
+        sumLoops().boxSums(strays.around(y, 0, 2), 2, strip.width, scratch.row(0), scratch.row(1));
         rowLoops().below(scratch.row(1), limit, strip.width, flags.data());
         near.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
     }
