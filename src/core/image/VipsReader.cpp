@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/BackgroundThread.h"
 #include "core/HandOver.h"
 #include "core/Log.h"
 #include "core/image/ExifCheck.h"
@@ -211,7 +212,8 @@ QImage decodeWithVips(VipsImage* image, std::string& error, DecodeOn on) {
     }
     RowSink sink{UprightPixels(result, orientation, width, height), {}, 0};
     sink.handOver.pass();
-    const bool failed = on == DecodeOn::thisThread ? !readHere(srgb.get(), sink)
+    const bool alone = on == DecodeOn::thisThread || isBackgroundThread();
+    const bool failed = alone ? !readHere(srgb.get(), sink)
                                                    : vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0;
     sink.handOver.pass();
     if (failed) {

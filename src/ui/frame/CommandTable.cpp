@@ -33,7 +33,7 @@ void MainWindow::findAction() {
         const QString menu = QString(command.menu).remove('|').remove('&');
         entries.push_back({action->text().section('\t', 0, 0).remove('&'),
                            menu.isEmpty() ? MainWindow::tr("Key") : menu,
-                           command.shortcut.toString(QKeySequence::NativeText), command.toolTip + ' ' + command.id,
+                           command.shortcut.toString(QKeySequence::NativeText), command.toolTip,
                            action->isEnabled(), [action] { action->trigger(); }});
     }
     for (const GroupBox* group : panel_->groups())
@@ -41,7 +41,7 @@ void MainWindow::findAction() {
             entries.push_back({GroupBox::nameOf(*item),
                                ControlRow::translated(group->group().title),
                                {},
-                               group->wordsOf(*item),
+                               group->toldOf(*item),
                                true,
                                [this, item] { panel_->reveal(item); }});
     (new ActionSearch(std::move(entries), this))->show();

@@ -15,6 +15,7 @@
 #include "ui/DroppedFiles.h"
 #include "ui/FileFilters.h"
 #include "ui/WindowSettings.h"
+#include "ui/frame/Habits.h"
 
 namespace tavrin {
 
@@ -130,6 +131,10 @@ void MainWindow::connectSettings() {
     connect(settings_, &SettingsPage::told, messages_, &MessageBar::tell);
     for (const char* id : {"FramePortraits", "AutoState", "ForegroundReset", "BackgroundReset"})
         settings_->addBox(commands_->action(id));
+    for (ListSetting& list : habitLists())
+        settings_->addList(std::move(list));
+    for (const char* id : {"ThemeDesktop", "ThemeLight", "ThemeDark"})
+        connect(commands_->action(id), &QAction::triggered, settings_, &SettingsPage::refresh);
 }
 
 /// Sizes and pages know each other, and a size in force may have become another one.
