@@ -89,9 +89,11 @@ TEST_F(SizesTest, ALengthThatIsNoNumberGoesBackWhenTheTabKeyLeavesIt) {
     window_->panel()->selectMainTab(7);
     press("buttonAddImageSizes");
     auto* field = part<QLineEdit>("textImageSizeWidth");
+    field->window()->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(field->window()));
     for (const char* typed : {"wide", ""}) {
         field->setFocus();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return field->hasFocus(); }, 5000));
         field->selectAll();
         QTest::keyClick(field, Qt::Key_Delete);
         QTest::keyClicks(field, typed);
