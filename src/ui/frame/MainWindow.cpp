@@ -16,6 +16,7 @@
 #include "ui/FileFilters.h"
 #include "ui/WindowSettings.h"
 #include "ui/frame/Habits.h"
+#include "ui/frame/TipGuard.h"
 
 namespace tavrin {
 
@@ -39,7 +40,8 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
-      tools_(new PictureTools(binder_, *loop_, bridge_, view_)) {
+      tools_(new PictureTools(binder_, *loop_, bridge_, view_)),
+      tips_(new TipGuard(this)) {
     setObjectName("MainDisplay");
     setWindowTitle(tr("Main Window - Adjust/Load Mode"));
     setAcceptDrops(true);

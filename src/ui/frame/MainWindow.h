@@ -30,6 +30,7 @@ class QProgressBar;
 namespace tavrin {
 
 struct SaveTarget;
+class TipGuard;
 
 /// The settings of an overlay: whether there is one, and its file.
 struct OverlaySetting {
@@ -173,6 +174,7 @@ class MainWindow : public QMainWindow {
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
     PictureTools* tools_;
+    TipGuard* tips_;
     Commands* commands_ = nullptr;
     QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;
     QProgressBar* progress_ = nullptr;
