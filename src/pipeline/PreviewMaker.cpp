@@ -22,6 +22,10 @@ ReadPicture readSource(const SystemInfo& info, const BitmapInfo& record) {
 
 }  // namespace
 
+PreviewMaker::PreviewMaker(std::unique_ptr<SystemInfo> state) : info_(std::move(state)) {
+    info_->pInterface = &nobody_;
+}
+
 /// What cannot be read is told to nobody but the caller.
 bool PreviewMaker::load(BitmapInfo& record) {
     ReadPicture read = readSource(*info_, record);
@@ -45,7 +49,6 @@ bool PreviewMaker::preparePortrait() {
 }
 
 /// The screen's colour is that of the source again: layer and key begin with it, whatever was made before.
-
 bool PreviewMaker::prepareBackground(const std::string& path) {
     SystemInfo& info = *info_;
     BitmapInfo& background = *info.pBackgroundBitmapInfo;

@@ -5,6 +5,7 @@
 
 #include <QImage>
 
+#include "core/state/Interface.h"
 #include "core/state/SystemInfo.h"
 #include "key/Combine.h"
 
@@ -16,7 +17,7 @@ namespace tavrin {
 class PreviewMaker {
   public:
     /// @param state with settings, size and portrait named, and nothing read yet
-    explicit PreviewMaker(std::unique_ptr<SystemInfo> state) : info_(std::move(state)) {}
+    explicit PreviewMaker(std::unique_ptr<SystemInfo> state);
 
     /// @param background "" for that of the state
     /// @return the combined preview, RGBA; null on failure, with `problem` set
@@ -25,11 +26,17 @@ class PreviewMaker {
     const std::string& problem() const { return problem_; }
 
   private:
+    /// Alerts are for who opens a picture.
+    class Nobody : public Interface {
+        bool wantsPixels() const override { return false; }
+    };
+
     bool load(BitmapInfo& record);
     bool preparePortrait();
     bool prepareBackground(const std::string& background);
     void key();
 
+    Nobody nobody_;
     const std::unique_ptr<SystemInfo> info_;
     RefinedSubject subject_;
     ScreenColor screen_;  // before the first key

@@ -19,7 +19,7 @@ bool isLeftAlone(const std::string& name) {
            name.find("ImageSize") != std::string::npos || name.find("OutputImage") != std::string::npos;
 }
 
-constexpr int kRounds = test::kSanitized ? 12 : 30;
+constexpr int kRounds = test::kSanitized ? 6 : 30;
 
 class WildSettingsTest : public testing::Test {
   protected:

@@ -104,6 +104,15 @@ TEST_F(SidePicturesTest, APortraitThatIsNotOpenLooksAsItWillWhenItIs) {
     EXPECT_FALSE(gone.problem().empty());
 }
 
+TEST_F(SidePicturesTest, AlertsAreLeftToWhoOpensThePicture) {
+    const auto info = stateWith({{"sForegroundOverlay", folder_.file("gone.png")}, {"bHaveForegroundOverlay", "1"}},
+                                backgrounds_[0]);
+    PreviewMaker maker(stateFor(sceneOf(*info), {portrait_, "", 0, false, false}));
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(maker.over().isNull()) << "without the overlay";
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
 TEST_F(SidePicturesTest, WorksOnlyWhileTheLoopIsIdleAndDropsWhatIsNoLongerWanted) {
     std::mutex mutex;
     std::condition_variable changed;

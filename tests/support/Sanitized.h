@@ -7,7 +7,7 @@ namespace tavrin::test {
 /// checkers look for other faults than wrong values.
 #if defined(__SANITIZE_ADDRESS__)
 inline constexpr bool kSanitized = true;
-inline constexpr int kTimesFewer = 5;
+inline constexpr int kTimesFewer = 11;
 #elif defined(__SANITIZE_THREAD__)
 inline constexpr bool kSanitized = true;
 inline constexpr int kTimesFewer = 23;

@@ -228,6 +228,7 @@ TEST_F(KeepingTest, WhatAStateBroughtToAPortraitComesBackToo) {
     window_->openForeground(QString::fromStdString(portrait_));
     window_->openBackground(QString::fromStdString(other_));
     ASSERT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 33; }, 5000));
+    ASSERT_TRUE(waitForPicture());
     QTest::qWait(50);
     EXPECT_EQ(info_->pBackgroundBitmapInfo->sSourceImageFullPath.load(), other_);
 }

@@ -11,7 +11,7 @@ namespace tavrin::cli {
 
 namespace {
 
-std::string counted(int count, const char* what) {
+std::string countedPictures(int count, const char* what) {
     return std::to_string(count) + (count == 1 ? " picture " : " pictures ") + what;
 }
 
@@ -21,8 +21,8 @@ int sheetCommand(const SheetOrder& order) {
         complain(made.problem);
         return kFailed;
     }
-    if (made.gone > 0) warn(counted(made.gone, "of the sheet cannot be read any more; the cells say so."));
-    if (made.failed > 0) warn(counted(made.failed, "of the report failed; there is nothing of them to show."));
+    if (made.gone > 0) warn(countedPictures(made.gone, "of the sheet cannot be read any more; the cells say so."));
+    if (made.failed > 0) warn(countedPictures(made.failed, "of the report failed; there is nothing of them to show."));
     if (!isQuiet()) printLine(order.out + ": the worst " + std::to_string(made.pictures) + " of " + order.report);
     return kDone;
 }

@@ -48,7 +48,7 @@ QString handlerOf(const QWidget* widget) {
 }
 
 void addBinding(QJsonObject& entry, const Binding& binding) {
-    static constexpr const char* kOwners[] = {"", "active layer: ", "combined."};
+    static constexpr const char* kOwners[] = {"", "active layer: ", "combined.", "selected text: "};
     entry["label"] = ControlRow::translated(binding.label);
     entry["setting"] = QString(kOwners[static_cast<int>(binding.owner)]) + binding.setting;
     entry["mapping"] = binding.mapping->text;
