@@ -301,6 +301,8 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
             if (auto* opens = window.findChild<QAbstractButton*>(button)) opens->click();
             grabDialog(dialog);
         }
+        window.binder().run("Contrast", [](SettingEditor& editor) { editor.set("foreground.iContrast", "55"); });
+        settle(window, *info);
         window.close();  // asks, since the picture was changed
         grabDialog("closeQuestion");
         window.commands().action("ShowLooks")->trigger();

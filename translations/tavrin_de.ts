@@ -2595,7 +2595,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Entf</translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Deletes the look; undo brings it back</source>
@@ -3247,6 +3247,14 @@
     <message>
         <source>Save to Batch</source>
         <translation>In den Stapel speichern</translation>
+    </message>
+    <message>
+        <source>Tool Ti&amp;ps</source>
+        <translation>&amp;Hinweise</translation>
+    </message>
+    <message>
+        <source>Shows what a control does while the pointer rests on it</source>
+        <translation>Zeigt, was ein Regler tut, solange der Zeiger auf ihm ruht</translation>
     </message>
 </context>
 <context>

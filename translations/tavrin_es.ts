@@ -2595,7 +2595,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Supr</translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Deletes the look; undo brings it back</source>
@@ -3247,6 +3247,14 @@
     <message>
         <source>Save to Batch</source>
         <translation>Guardar en el lote</translation>
+    </message>
+    <message>
+        <source>Tool Ti&amp;ps</source>
+        <translation>Indicacione&amp;s</translation>
+    </message>
+    <message>
+        <source>Shows what a control does while the pointer rests on it</source>
+        <translation>Muestra qué hace un control mientras el puntero descansa en él</translation>
     </message>
 </context>
 <context>

@@ -33,7 +33,7 @@ void MainWindow::findAction() {
         QAction* action = commands_->action(command.id);
         const QString menu = QString(command.menu).remove('|').remove('&');
         entries.push_back({action->text().section('\t', 0, 0).remove('&'),
-                           menu.isEmpty() ? MainWindow::tr("Key") : menu,
+                           menu.isEmpty() ? MainWindow::tr("Shortcut") : menu,
                            command.shortcut.toString(QKeySequence::NativeText), command.toolTip, action->isEnabled(),
                            [action] { action->trigger(); }});
     }

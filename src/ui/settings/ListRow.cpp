@@ -30,8 +30,8 @@ ListRow::ListRow(ListSetting setting, QWidget* parent)
     label->setBuddy(list_);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 4);
-    layout->addWidget(label);
-    layout->addWidget(list_, 1);
+    layout->addWidget(label, 2);
+    layout->addWidget(list_, 3);  // the same for every list, so that they stand in line
     refresh();
 }
 
