@@ -1,6 +1,7 @@
-// Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1, 1.5 and 2, with the
-// groups as they are at first, all open, a message, a folder in the strip, and its dialogs; in German and Spanish at
-// scale 1. File names say which is which. screenshots FOLDER SCALE LANGUAGE makes those of one run. screenshots FOLDER guide makes the pictures of docs/guide.md.
+// Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1, 1.5 and 2, with
+// the groups as they are at first, all open, a message, a folder in the strip, and its dialogs; in German and Spanish
+// at scale 1. File names say which is which. screenshots FOLDER SCALE LANGUAGE makes those of one run, screenshots
+// FOLDER guide the pictures of docs/guide.md.
 #include <algorithm>
 #include <cstdio>
 #include <functional>

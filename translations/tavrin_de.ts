@@ -2096,10 +2096,6 @@
         <translation>Tastenkürzel</translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation>Freistellen</translation>
-    </message>
-    <message>
         <source>What it does</source>
         <translation>Was sie tut</translation>
     </message>
@@ -2158,6 +2154,10 @@
     <message>
         <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
         <translation>Auf dem Streifen oder einem ganz gezeigten Bild: das vorige oder nächste Porträt öffnen</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Taste</translation>
     </message>
 </context>
 <context>
@@ -2985,10 +2985,6 @@
         <translation>Ordner der Hintergründe</translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation>Freistellen</translation>
-    </message>
-    <message>
         <source>Find an &amp;Action...</source>
         <translation>Befehl &amp;suchen...</translation>
     </message>
@@ -3255,6 +3251,10 @@
     <message>
         <source>Shows what a control does while the pointer rests on it</source>
         <translation>Zeigt, was ein Regler tut, solange der Zeiger auf ihm ruht</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Taste</translation>
     </message>
 </context>
 <context>

@@ -2096,10 +2096,6 @@
         <translation>Atajos de teclado</translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation>Croma</translation>
-    </message>
-    <message>
         <source>What it does</source>
         <translation>Lo que hace</translation>
     </message>
@@ -2158,6 +2154,10 @@
     <message>
         <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
         <translation>En la tira, o en una imagen que se ve entera: abrir el retrato anterior o el siguiente</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Tecla</translation>
     </message>
 </context>
 <context>
@@ -2985,10 +2985,6 @@
         <translation>Carpeta de los fondos</translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation>Croma</translation>
-    </message>
-    <message>
         <source>Find an &amp;Action...</source>
         <translation>Buscar una &amp;acción...</translation>
     </message>
@@ -3255,6 +3251,10 @@
     <message>
         <source>Shows what a control does while the pointer rests on it</source>
         <translation>Muestra qué hace un control mientras el puntero descansa en él</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Tecla</translation>
     </message>
 </context>
 <context>

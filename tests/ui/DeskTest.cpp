@@ -115,6 +115,7 @@ TEST_F(DeskTest, NoTipCoversWhatIsDoneAndAKeyHidesAllOfThem) {
     auto* button = window_->findChild<QToolButton*>("mainTabAdjust");
     ASSERT_TRUE(button);
     const QPoint middle = button->rect().center();
+    QTest::mouseRelease(window_->view(), Qt::LeftButton);  // whatever a test before held
     const auto tip = [&] {
         QHelpEvent rests(QEvent::ToolTip, middle, button->mapToGlobal(middle));
         QApplication::sendEvent(button, &rests);

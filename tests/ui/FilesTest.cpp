@@ -1,9 +1,8 @@
 // What opening a picture resets, and the ways out of the window.
-#include <gtest/gtest.h>
-
 #include <chrono>
 #include <functional>
 #include <future>
+#include <gtest/gtest.h>
 #include <vector>
 
 #include <QTest>

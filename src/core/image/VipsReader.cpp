@@ -213,8 +213,7 @@ QImage decodeWithVips(VipsImage* image, std::string& error, DecodeOn on) {
     RowSink sink{UprightPixels(result, orientation, width, height), {}, 0};
     sink.handOver.pass();
     const bool alone = on == DecodeOn::thisThread || isBackgroundThread();
-    const bool failed = alone ? !readHere(srgb.get(), sink)
-                                                   : vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0;
+    const bool failed = alone ? !readHere(srgb.get(), sink) : vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0;
     sink.handOver.pass();
     if (failed) {
         const int percent = static_cast<int>(std::int64_t{100} * sink.rows / std::max(height, 1));

@@ -51,8 +51,8 @@ std::vector<Command> fileCommands(MainWindow& w) {
         const auto areOn = [&w, which] {
             return std::ranges::any_of(which, [&](std::size_t i) { return isOn(w.binder(), kOverlays[i]); });
         };
-        return Command{id, menu, text, MainWindow::tr("Takes it off the picture; the file stays as it is"), "", {},
-                       areOn, [&w, which, text](bool) { w.clearOverlays(which, text); }};
+        return Command{id, menu, text,  MainWindow::tr("Takes it off the picture; the file stays as it is"),
+                       "", {},   areOn, [&w, which, text](bool) { w.clearOverlays(which, text); }};
     };
     return {
         {"MendResult",
@@ -63,10 +63,9 @@ std::vector<Command> fileCommands(MainWindow& w) {
          {},
          {},
          [&w](bool) { w.askForReview(); }},
-        overlay(
-            "loadFrameOverlay", "|&Picture", MainWindow::tr("Overlay over the &Whole..."),
-            MainWindow::tr("Lays a picture with clear parts over everything, such as a frame"),
-            [&w] { w.loadOverlay(kOverlays[0], MainWindow::tr("Select Frame Overlay")); }),
+        overlay("loadFrameOverlay", "|&Picture", MainWindow::tr("Overlay over the &Whole..."),
+                MainWindow::tr("Lays a picture with clear parts over everything, such as a frame"),
+                [&w] { w.loadOverlay(kOverlays[0], MainWindow::tr("Select Frame Overlay")); }),
         overlay("loadForegroundOverlay", "&Picture", MainWindow::tr("Overlay over the P&ortrait..."),
                 MainWindow::tr("Lays a picture with clear parts over the portrait"),
                 [&w] { w.loadOverlay(kOverlays[1], MainWindow::tr("Select Forground Overlay")); }),

@@ -60,10 +60,11 @@ ListSetting threadsList() {
     std::vector<ListSetting::Entry> entries = {{"", words(QT_TRANSLATE_NOOP("Habits", "All"))}};
     for (unsigned n = 1; n < std::thread::hardware_concurrency(); ++n)
         entries.push_back({QString::number(n), QString::number(n)});
-    ListSetting list = keptList(
-        "settingsThreads", kThreads, words(QT_TRANSLATE_NOOP("Habits", "Processors")),
-        words(QT_TRANSLATE_NOOP("Habits", "How many processors work on a picture; fewer leave some to other programs")),
-        std::move(entries));
+    ListSetting list =
+        keptList("settingsThreads", kThreads, words(QT_TRANSLATE_NOOP("Habits", "Processors")),
+                 words(QT_TRANSLATE_NOOP(
+                     "Habits", "How many processors work on a picture; fewer leave some to other programs")),
+                 std::move(entries));
     list.choose = [](const QString& value) {
         windowSettings().setValue(kThreads, value);
         useChosenThreads();
@@ -73,9 +74,9 @@ ListSetting threadsList() {
 
 ListSetting fileTypeList() {
     return keptList("settingsFileType", kFileType, words(QT_TRANSLATE_NOOP("Habits", "Kind of file")),
-                    words(QT_TRANSLATE_NOOP(
-                        "Habits", "What names of saved pictures end with, until another ending is typed. "
-                                  "A clear background is always proposed as PNG")),
+                    words(QT_TRANSLATE_NOOP("Habits",
+                                            "What names of saved pictures end with, until another ending is typed. "
+                                            "A clear background is always proposed as PNG")),
                     {{"", words(QT_TRANSLATE_NOOP("Habits", "As the portrait"))},
                      {".jpg", QStringLiteral("JPEG")},
                      {".png", QStringLiteral("PNG")},

@@ -194,7 +194,8 @@ void MainWindow::saveReviewed() {
 
 void MainWindow::askForReview() {
     const QString folder = textOfName(standardizePath(info_.oQLXInfo->sLastBatchOutput));
-    const QString path = QFileDialog::getOpenFileName(this, tr("Select a Result of a Batch"), folder, pictureFilter());
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Select a Result of a Batch"), folder, pictureFilter());
     if (!path.isEmpty()) openForReview(path);
 }
 

@@ -12,9 +12,9 @@
 
 namespace tavrin {
 
-/// What is set here: a chip for every effect that is on, and for every other control that stands elsewhere than at the
-/// program's start, whose state may be the user's own. A click on its words leads there; its cross switches the effect
-/// off, or puts back what stood there at the start.
+/// What is set here: a chip for every effect that is on, and for every other control that stands elsewhere than at
+/// the program's start, whose state may be the user's own. A click on its words leads there; its cross switches the
+/// effect off, or puts back what stood there at the start.
 class Chips : public QWidget {
     Q_OBJECT
 
