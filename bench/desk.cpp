@@ -199,6 +199,7 @@ int main(int argc, char** argv) {
                                    most = std::max(most, used);
                                return most;
                            }};
+    bench::measureLargePortrait(desk, account.filePath("pictures").toStdString());
     bench::measureStrip(desk, account.filePath("pictures").toStdString());
     return 0;
 }

@@ -1,10 +1,12 @@
-// Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1 and 2, with the
-// groups as they are at first, all open, a message, and a folder in the strip; in German and Spanish at scale 1. File
-// names say which is which. screenshots FOLDER guide makes the pictures of docs/guide.md.
+// Renders the main window with the shipped sample: screenshots FOLDER. Light and dark, at scale 1, 1.5 and 2, with
+// the groups as they are at first, all open, a message, a folder in the strip, and its dialogs; in German and Spanish
+// at scale 1. File names say which is which. screenshots FOLDER SCALE LANGUAGE makes those of one run, screenshots
+// FOLDER guide the pictures of docs/guide.md.
 #include <algorithm>
 #include <cstdio>
 #include <functional>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
@@ -28,6 +30,13 @@ namespace {
 using namespace tavrin;
 
 constexpr int kWidth = 1440, kHeight = 900;
+
+// The buttons that open a dialog, and the dialog.
+constexpr std::pair<const char*, const char*> kDialogs[] = {
+    {"buttonAddImageSizes", "panelAddEditImageSizes"},
+    {"addCustomTemplate", "panelAddEditTemplate"},
+    {"colorWellFrameOverlay", "colorWellFrameOverlayDialog"},
+};
 
 void settle(MainWindow& window, SystemInfo& info) {
     QElapsedTimer time;
@@ -287,6 +296,16 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
         window.commands().action("FindAction")->trigger();
         if (auto* field = window.findChild<QLineEdit*>("searchActions")) field->setText("green");
         grabDialog("actionSearch");
+        window.commands().action("Shortcuts")->trigger();
+        grabDialog("shortcuts");
+        for (const auto& [button, dialog] : kDialogs) {
+            if (auto* opens = window.findChild<QAbstractButton*>(button)) opens->click();
+            grabDialog(dialog);
+        }
+        window.binder().run("Contrast", [](SettingEditor& editor) { editor.set("foreground.iContrast", "55"); });
+        settle(window, *info);
+        window.close();  // asks, since the picture was changed
+        grabDialog("closeQuestion");
         window.commands().action("ShowLooks")->trigger();
         window.commands().action("ShowHistory")->trigger();
         for (GroupBox* group : window.panel()->groups())
@@ -334,7 +353,7 @@ int main(int argc, char** argv) {
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     if (argc == 2) {  // the scale is one for a whole process
-        const char* const runs[][2] = {{"1", "en"}, {"2", "en"}, {"1", "de"}, {"1", "es"}};
+        const char* const runs[][2] = {{"1", "en"}, {"1.5", "en"}, {"2", "en"}, {"1", "de"}, {"1", "es"}};
         for (const auto& [scale, language] : runs) {
             qputenv("QT_SCALE_FACTOR", scale);
             if (QProcess::execute(argv[0], {argv[1], scale, language}) != 0) return 1;

@@ -13,6 +13,65 @@
     </message>
 </context>
 <context>
+    <name>Habits</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>The words of the window, from the next start on</source>
+        <translation>Die Sprache des Fensters, ab dem nächsten Start</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie die Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source>The words change with the next start.</source>
+        <translation>Die Sprache wechselt mit dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>The colours of the window</source>
+        <translation>Die Farben des Fensters</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Processors</source>
+        <translation>Prozessoren</translation>
+    </message>
+    <message>
+        <source>How many processors work on a picture; fewer leave some to other programs</source>
+        <translation>Wie viele Prozessoren an einem Bild arbeiten; weniger lassen anderen Programmen welche</translation>
+    </message>
+    <message>
+        <source>Kind of file</source>
+        <translation>Art der Datei</translation>
+    </message>
+    <message>
+        <source>What names of saved pictures end with, until another ending is typed. A clear background is always proposed as PNG</source>
+        <translation>Womit die Namen gespeicherter Bilder enden, bis eine andere Endung getippt wird. Ein durchsichtiger Hintergrund wird immer als PNG vorgeschlagen</translation>
+    </message>
+    <message>
+        <source>As the portrait</source>
+        <translation>Wie das Porträt</translation>
+    </message>
+</context>
+<context>
     <name>Menu</name>
     <message>
         <source>&amp;File</source>
@@ -1709,6 +1768,18 @@
         <source>File name, number, date or time, filled in for each portrait</source>
         <translation>Dateiname, Nummer, Datum oder Uhrzeit, für jedes Porträt ausgefüllt</translation>
     </message>
+    <message>
+        <source>Quick</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Zeichnung</translation>
+    </message>
+    <message>
+        <source>Guard</source>
+        <translation>Schutz</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -1963,10 +2034,6 @@
         <translation>Hier gesetzt; ein Klick führt zum Regler</translation>
     </message>
     <message>
-        <source>Put the default back</source>
-        <translation>Vorgabewert zurückholen</translation>
-    </message>
-    <message>
         <source>fewer</source>
         <translation>weniger</translation>
     </message>
@@ -2010,6 +2077,10 @@
         <source>Take all texts and pictures away</source>
         <translation>Alle Texte und Bilder entfernen</translation>
     </message>
+    <message>
+        <source>Put back what it is at the start</source>
+        <translation>Den Wert vom Start zurückholen</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ChoiceRow</name>
@@ -2023,10 +2094,6 @@
     <message>
         <source>Keyboard Shortcuts</source>
         <translation>Tastenkürzel</translation>
-    </message>
-    <message>
-        <source>Key</source>
-        <translation>Freistellen</translation>
     </message>
     <message>
         <source>What it does</source>
@@ -2087,6 +2154,10 @@
     <message>
         <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
         <translation>Auf dem Streifen oder einem ganz gezeigten Bild: das vorige oder nächste Porträt öffnen</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Taste</translation>
     </message>
 </context>
 <context>
@@ -2524,7 +2595,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Entf</translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Deletes the look; undo brings it back</source>
@@ -2914,10 +2985,6 @@
         <translation>Ordner der Hintergründe</translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation>Freistellen</translation>
-    </message>
-    <message>
         <source>Find an &amp;Action...</source>
         <translation>Befehl &amp;suchen...</translation>
     </message>
@@ -3132,6 +3199,62 @@
     <message>
         <source>All</source>
         <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Takes it off the picture; the file stays as it is</source>
+        <translation>Nimmt sie vom Bild; die Datei bleibt, wie sie ist</translation>
+    </message>
+    <message>
+        <source>&amp;Mend a Result of a Batch...</source>
+        <translation>Ergebnis eines Stapels &amp;nachbessern...</translation>
+    </message>
+    <message>
+        <source>Opens a batch&apos;s picture with its settings; Save then replaces it</source>
+        <translation>Öffnet ein Bild eines Stapels mit seinen Einstellungen; Speichern ersetzt es dann</translation>
+    </message>
+    <message>
+        <source>No Overlay over the W&amp;hole</source>
+        <translation>Keine Auflage über dem &amp;Ganzen</translation>
+    </message>
+    <message>
+        <source>No Overlay over the Portrait</source>
+        <translation>Keine Auflage über dem Porträt</translation>
+    </message>
+    <message>
+        <source>No Overlay over the Background</source>
+        <translation>Keine Auflage über dem Hintergrund</translation>
+    </message>
+    <message>
+        <source>No Overla&amp;ys</source>
+        <translation>Keine Au&amp;flagen</translation>
+    </message>
+    <message>
+        <source>%1 has no state, so the present settings stay.</source>
+        <translation>%1 hat keinen Stand, daher bleiben die jetzigen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>A batch saves one beside each picture while &quot;%1&quot; is on.</source>
+        <translation>Ein Stapel speichert einen neben jedem Bild, solange „%1“ an ist.</translation>
+    </message>
+    <message>
+        <source>Select a Result of a Batch</source>
+        <translation>Ergebnis eines Stapels wählen</translation>
+    </message>
+    <message>
+        <source>Save to Batch</source>
+        <translation>In den Stapel speichern</translation>
+    </message>
+    <message>
+        <source>Tool Ti&amp;ps</source>
+        <translation>&amp;Hinweise</translation>
+    </message>
+    <message>
+        <source>Shows what a control does while the pointer rests on it</source>
+        <translation>Zeigt, was ein Regler tut, solange der Zeiger auf ihm ruht</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Taste</translation>
     </message>
 </context>
 <context>
@@ -3450,6 +3573,17 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Place of the background</source>
         <translation>Lage des Hintergrunds</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SegmentBar</name>
+    <message>
+        <source>Go to: %1</source>
+        <translation>Gehe zu: %1</translation>
+    </message>
+    <message>
+        <source>Scrolls to this part of the page</source>
+        <translation>Rollt zu diesem Teil der Seite</translation>
     </message>
 </context>
 <context>

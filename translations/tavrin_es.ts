@@ -13,6 +13,65 @@
     </message>
 </context>
 <context>
+    <name>Habits</name>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>The words of the window, from the next start on</source>
+        <translation>El idioma de la ventana, a partir del próximo inicio</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Como el escritorio</translation>
+    </message>
+    <message>
+        <source>The words change with the next start.</source>
+        <translation>El idioma cambia con el próximo inicio.</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Colores</translation>
+    </message>
+    <message>
+        <source>The colours of the window</source>
+        <translation>Los colores de la ventana</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Processors</source>
+        <translation>Procesadores</translation>
+    </message>
+    <message>
+        <source>How many processors work on a picture; fewer leave some to other programs</source>
+        <translation>Cuántos procesadores trabajan en una imagen; menos dejan algunos a otros programas</translation>
+    </message>
+    <message>
+        <source>Kind of file</source>
+        <translation>Tipo de archivo</translation>
+    </message>
+    <message>
+        <source>What names of saved pictures end with, until another ending is typed. A clear background is always proposed as PNG</source>
+        <translation>Con qué terminan los nombres de las imágenes guardadas, hasta que se escriba otra terminación. Un fondo transparente se propone siempre como PNG</translation>
+    </message>
+    <message>
+        <source>As the portrait</source>
+        <translation>Como el retrato</translation>
+    </message>
+</context>
+<context>
     <name>Menu</name>
     <message>
         <source>&amp;File</source>
@@ -1709,6 +1768,18 @@
         <source>File name, number, date or time, filled in for each portrait</source>
         <translation>Nombre del archivo, número, fecha u hora, rellenados en cada retrato</translation>
     </message>
+    <message>
+        <source>Quick</source>
+        <translation>Rápido</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Dibujo</translation>
+    </message>
+    <message>
+        <source>Guard</source>
+        <translation>Protección</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -1963,10 +2034,6 @@
         <translation>Ajustado aquí; un clic lleva al control</translation>
     </message>
     <message>
-        <source>Put the default back</source>
-        <translation>Devolver el valor inicial</translation>
-    </message>
-    <message>
         <source>fewer</source>
         <translation>menos</translation>
     </message>
@@ -2010,6 +2077,10 @@
         <source>Take all texts and pictures away</source>
         <translation>Quitar todos los textos e imágenes</translation>
     </message>
+    <message>
+        <source>Put back what it is at the start</source>
+        <translation>Devolver lo que hay al inicio</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::ChoiceRow</name>
@@ -2023,10 +2094,6 @@
     <message>
         <source>Keyboard Shortcuts</source>
         <translation>Atajos de teclado</translation>
-    </message>
-    <message>
-        <source>Key</source>
-        <translation>Croma</translation>
     </message>
     <message>
         <source>What it does</source>
@@ -2087,6 +2154,10 @@
     <message>
         <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
         <translation>En la tira, o en una imagen que se ve entera: abrir el retrato anterior o el siguiente</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Tecla</translation>
     </message>
 </context>
 <context>
@@ -2524,7 +2595,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Supr</translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Deletes the look; undo brings it back</source>
@@ -2914,10 +2985,6 @@
         <translation>Carpeta de los fondos</translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation>Croma</translation>
-    </message>
-    <message>
         <source>Find an &amp;Action...</source>
         <translation>Buscar una &amp;acción...</translation>
     </message>
@@ -3132,6 +3199,62 @@
     <message>
         <source>All</source>
         <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Takes it off the picture; the file stays as it is</source>
+        <translation>La quita de la imagen; el archivo queda como está</translation>
+    </message>
+    <message>
+        <source>&amp;Mend a Result of a Batch...</source>
+        <translation>&amp;Retocar un resultado de un lote...</translation>
+    </message>
+    <message>
+        <source>Opens a batch&apos;s picture with its settings; Save then replaces it</source>
+        <translation>Abre una imagen de un lote con sus ajustes; Guardar la reemplaza después</translation>
+    </message>
+    <message>
+        <source>No Overlay over the W&amp;hole</source>
+        <translation>Sin superposición sobre &amp;todo</translation>
+    </message>
+    <message>
+        <source>No Overlay over the Portrait</source>
+        <translation>Sin superposición sobre el retrato</translation>
+    </message>
+    <message>
+        <source>No Overlay over the Background</source>
+        <translation>Sin superposición sobre el fondo</translation>
+    </message>
+    <message>
+        <source>No Overla&amp;ys</source>
+        <translation>Sin superposi&amp;ciones</translation>
+    </message>
+    <message>
+        <source>%1 has no state, so the present settings stay.</source>
+        <translation>%1 no tiene estado, así que quedan los ajustes actuales.</translation>
+    </message>
+    <message>
+        <source>A batch saves one beside each picture while &quot;%1&quot; is on.</source>
+        <translation>Un lote guarda uno junto a cada imagen mientras «%1» está activado.</translation>
+    </message>
+    <message>
+        <source>Select a Result of a Batch</source>
+        <translation>Elegir un resultado de un lote</translation>
+    </message>
+    <message>
+        <source>Save to Batch</source>
+        <translation>Guardar en el lote</translation>
+    </message>
+    <message>
+        <source>Tool Ti&amp;ps</source>
+        <translation>Indicacione&amp;s</translation>
+    </message>
+    <message>
+        <source>Shows what a control does while the pointer rests on it</source>
+        <translation>Muestra qué hace un control mientras el puntero descansa en él</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Tecla</translation>
     </message>
 </context>
 <context>
@@ -3450,6 +3573,17 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>Place of the background</source>
         <translation>Posición del fondo</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SegmentBar</name>
+    <message>
+        <source>Go to: %1</source>
+        <translation>Ir a: %1</translation>
+    </message>
+    <message>
+        <source>Scrolls to this part of the page</source>
+        <translation>Se desplaza a esta parte de la página</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,21 @@ void measurePaste(const Desk& desk, const std::string& place) {
 
 }  // namespace
 
+void measureLargePortrait(const Desk& desk, const std::string& folder) {
+    fs::create_directories(folder + "/large");
+    const QString path = QString::fromStdString(folder + "/large/portrait.jpg");
+    QImage(TAVRIN_SOURCE_DIR "/data/sample/portrait.jpg")
+        .scaled(4000, 6000, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation)
+        .copy(0, 0, 4000, 6000)
+        .save(path, "JPEG", 92);
+    const double before = megabytes("VmRSS:");
+    desk.window.openForeground(path);
+    desk.waitForPicture();
+    std::printf("a portrait of 24 megapixels at %d x %d: memory %.0f MB, %.0f MB before; %.0f MB at most so far\n",
+                desk.info.iOutputPixelWidth.load(), desk.info.iOutputPixelHeight.load(), megabytes("VmRSS:"), before,
+                megabytes("VmHWM:"));
+}
+
 void measureStrip(const Desk& desk, const std::string& folder) {
     const std::string place = makeFolder(folder, "portraits", kFiles);
     Shelf& shelf = *desk.window.strip()->portraits();

@@ -20,4 +20,7 @@ struct Desk {
 /// small pictures of a page, how many a second, memory, and from a key to the next portrait's preview on the screen.
 void measureStrip(const Desk& desk, const std::string& folder);
 
+/// Memory of the window with a portrait of 24 megapixels open, which is made in `folder`.
+void measureLargePortrait(const Desk& desk, const std::string& folder);
+
 }  // namespace tavrin::bench

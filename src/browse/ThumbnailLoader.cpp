@@ -2,24 +2,9 @@
 
 #include <algorithm>
 
-#ifdef __linux__
-#include <sys/resource.h>
-#include <unistd.h>
-#endif
+#include "core/BackgroundThread.h"
 
 namespace tavrin {
-
-namespace {
-
-/// What starts from such a thread inherits its priority for good, so it calls nothing that starts another one.
-void lowerPriorityOfThread() {
-#ifdef __linux__
-    constexpr int kNice = 10;
-    ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), kNice);
-#endif
-}
-
-}  // namespace
 
 ThumbnailLoader::ThumbnailLoader(Done done) : done_(std::move(done)) {
     for (const Duty duty : {Duty::seen, Duty::seen, Duty::all})
@@ -47,7 +32,7 @@ void ThumbnailLoader::want(std::vector<std::string> paths, std::size_t seen, Thu
 }
 
 void ThumbnailLoader::work(const std::stop_token& ended, Duty duty) {
-    if (duty == Duty::all) lowerPriorityOfThread();
+    if (duty == Duty::all) becomeBackgroundThread();
     std::unique_lock lock(mutex_);
     while (changed_.wait(lock, ended, [&] { return duty == Duty::seen ? seen_ > 0 : !wanted_.empty(); })) {
         const std::string path = std::move(wanted_.back());

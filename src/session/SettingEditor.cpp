@@ -89,6 +89,14 @@ bool SettingEditor::redo() {
     return true;
 }
 
+bool SettingEditor::dropStep(std::uint64_t number) {
+    if (history_.done == 0 || history_.done < history_.steps.size() || history_.steps.back().number != number ||
+        !undo())
+        return false;
+    history_.steps.pop_back();
+    return true;
+}
+
 void SettingEditor::goTo(std::size_t done) {
     while (history_.done > done && undo()) {
     }
@@ -105,6 +113,8 @@ std::uint64_t SettingEditor::position() const {
 void SettingEditor::setHistory(History history) {
     history_ = std::move(history);
     history_.done = std::min(history_.done, history_.steps.size());
+    open_.changes.clear();
+    open_.elsewhere = {};
     for (const Step& step : history_.steps)
         lastNumber_ = std::max(lastNumber_, step.number);
 }

@@ -59,6 +59,9 @@ class SettingEditor {
     /// @return whether there was one
     bool undo();
     bool redo();
+    /// Takes the last step back for good, if it has this number and is in force: another takes its place.
+    /// @return whether it was that
+    bool dropStep(std::uint64_t number);
     /// Takes back or does again until that many steps are in force, as far as there are steps.
     void goTo(std::size_t done);
     const std::vector<Step>& steps() const { return history_.steps; }
@@ -71,7 +74,8 @@ class SettingEditor {
     bool isUnsaved() const { return position() != history_.saved; }
 
     const History& history() const { return history_; }
-    /// Goes on with the steps of another time, on the settings that they led to.
+    /// Goes on with the steps of another time, on the settings that they led to. What a step that is open did before
+    /// belongs to neither.
     void setHistory(History history);
     /// Forgets all steps: another state was loaded, on which they do not rest.
     void forgetSteps() { setHistory({}); }

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstring>
 #include <memory>
 #include <new>
 #include <optional>
 #include <utility>
 
+#include "core/BackgroundThread.h"
 #include "core/image/SmallPicture.h"
 #include "pipeline/PreviewMaker.h"
 #include "pipeline/SubjectPlace.h"
@@ -21,6 +23,18 @@ namespace {
 constexpr int kDraftSide = 640;  // a preview has about 300,000 pixels
 constexpr auto kLookAgain = std::chrono::milliseconds(20);
 
+/// As the scaling wants it, row by row: for many pixels the toolkit starts threads of its own.
+QImage premultiplied(const QImage& picture) {
+    QImage result(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    if (result.isNull()) throw std::bad_alloc();
+    for (int y = 0; y < picture.height(); ++y) {
+        const QImage row(picture.constScanLine(y), picture.width(), 1, picture.bytesPerLine(), picture.format());
+        std::memcpy(result.scanLine(y), row.convertToFormat(result.format()).constScanLine(0),
+                    static_cast<std::size_t>(result.bytesPerLine()));
+    }
+    return result;
+}
+
 /// The maker of the last picture: while only the background changes the portrait is not keyed again.
 struct LastMaker {
     std::uint64_t scene = 0;
@@ -32,12 +46,12 @@ struct LastMaker {
             prepare(from, made.scene, made.wish);
             made.picture = maker->over(made.wish.background);
             made.problem = maker->problem();
+            if (const int side = made.wish.side; side > 0 && !made.picture.isNull())
+                made.picture =
+                    premultiplied(made.picture).scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         } catch (const std::bad_alloc&) {
             made.problem = kNoMemory;
         }
-        const int side = made.wish.side;
-        if (side > 0 && !made.picture.isNull())
-            made.picture = made.picture.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     }
 
     void prepare(const Scene& from, std::uint64_t number, SideWish wanted) {
@@ -131,6 +145,7 @@ void SidePictures::want(std::vector<SideWish> wishes) {
 }
 
 void SidePictures::work(const std::stop_token& ended) {
+    becomeBackgroundThread();
     LastMaker last;
     std::unique_lock lock(mutex_);
     while (!ended.stop_requested()) {

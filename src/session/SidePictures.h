@@ -37,8 +37,8 @@ struct SideWish {
     bool operator==(const SideWish&) const = default;
 };
 
-/// Makes pictures beside the one under work, on a thread of its own and while the loop has nothing to do: portraits
-/// that are not open, as they would be, and one portrait over many backgrounds, keyed once.
+/// Makes pictures beside the one under work, on a thread of its own with a low priority and while the loop has
+/// nothing to do: portraits that are not open, as they would be, and one portrait over many backgrounds, keyed once.
 class SidePictures {
   public:
     struct Made {

@@ -75,5 +75,26 @@ TEST(SettingEditorTest, WhatChangesNothingLeavesNoStep) {
     EXPECT_FALSE(editor.undo());
 }
 
+TEST(SettingEditorTest, AStepCanGiveItsPlaceToAnotherAndNoneReachesIntoAnotherHistory) {
+    SystemInfo info;
+    SettingEditor editor(info);
+    editor.set("iBlendEdges", "30");
+    editor.set("iBlendEdges", "40");
+    EXPECT_FALSE(editor.dropStep(editor.steps()[0].number)) << "another one rests on it";
+    EXPECT_TRUE(editor.dropStep(editor.position()));
+    EXPECT_EQ(editor.value("iBlendEdges"), "30");
+    EXPECT_FALSE(editor.redo()) << "it is gone for good";
+    editor.undo();
+    EXPECT_FALSE(editor.dropStep(editor.steps()[0].number)) << "it is not in force";
+
+    editor.beginStep("a drag that goes on while another portrait is opened");
+    editor.set("iBlendEdges", "50");
+    editor.forgetSteps();
+    editor.set("iBlendEdges", "60");
+    editor.endStep();
+    ASSERT_EQ(editor.steps().size(), 1u);
+    EXPECT_EQ(editor.steps()[0].changes[0].before, "50") << "what was before belongs to the other";
+}
+
 }  // namespace
 }  // namespace tavrin

@@ -1,7 +1,14 @@
 // Pictures that nobody has open, against those that the loop makes of the same portrait and background.
 #include <condition_variable>
 #include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <future>
 #include <gtest/gtest.h>
+
+#ifdef __linux__
+#include <sys/resource.h>
+#endif
 
 #include "core/files/Places.h"
 #include "pipeline/CombineThread.h"
@@ -135,6 +142,42 @@ TEST_F(SidePicturesTest, WorksOnlyWhileTheLoopIsIdleAndDropsWhatIsNoLongerWanted
     EXPECT_TRUE(made[1].picture.isNull());
     EXPECT_FALSE(made[1].problem.empty());
 }
+
+#ifdef __linux__
+/// The niceness of every thread of this program, and what the thread is called.
+std::vector<std::pair<int, std::string>> prioritiesOfThreads() {
+    std::vector<std::pair<int, std::string>> all;
+    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::string name;
+        std::getline(std::ifstream(task.path() / "comm"), name);
+        all.emplace_back(::getpriority(PRIO_PROCESS, static_cast<id_t>(std::stoi(task.path().filename().string()))),
+                         name);
+    }
+    return all;
+}
+
+TEST_F(SidePicturesTest, OnlyTheirOwnThreadHasALowPriority) {
+    const int own = ::getpriority(PRIO_PROCESS, 0);
+    if (own > 9) GTEST_SKIP() << "this program has a low priority itself";
+    std::promise<std::vector<std::pair<int, std::string>>> seen;
+    const auto info = stateWith({}, backgrounds_[0]);
+    // The portrait is read whole, in the way that uses the image library's own threads elsewhere.
+    SidePictures pictures([] { return true; },
+                          [&](const SidePictures::Made& made) {
+                              EXPECT_FALSE(made.picture.isNull()) << made.problem;
+                              EXPECT_GT(::getpriority(PRIO_PROCESS, 0), own);
+                              seen.set_value(prioritiesOfThreads());
+                          });
+    pictures.setScene(sceneOf(*info), 1);
+    pictures.want({{portrait_, backgrounds_[1], 200, false, false}});
+    auto future = seen.get_future();
+    ASSERT_EQ(future.wait_for(std::chrono::seconds(20)), std::future_status::ready);
+    auto threads = future.get();
+    std::erase_if(threads, [&](const auto& one) { return one.first <= own; });
+    EXPECT_EQ(threads.size(), 1u) << "what it starts would keep its priority, and work for others: "
+                                  << testing::PrintToString(threads);
+}
+#endif
 
 }  // namespace
 }  // namespace tavrin

@@ -6,10 +6,14 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QHelpEvent>
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QTest>
+#include <QToolButton>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "formats/SettingsFile.h"
@@ -95,14 +99,43 @@ TEST_F(DeskTest, EveryControlDrivesSomethingAndHasANameOfItsOwn) {
         EXPECT_EQ(names[name], 1) << name;
 }
 
-TEST_F(DeskTest, NoTwoActionsHaveOneShortcut) {
+TEST_F(DeskTest, NoTwoActionsHaveOneShortcutAndNoneTakesAKeyOfTheDesktop) {
+    const QRegularExpression desktops("Meta\\+|Ctrl\\+Alt\\+|Alt\\+F\\d|Ctrl\\+F\\d|Alt\\+Tab");
     std::set<QString> keys;
     for (const Command& command : window_->commands().table()) {
         const QString key = command.shortcut.toString();
         EXPECT_TRUE(key.isEmpty() || keys.insert(key).second) << key.toStdString() << ' ' << command.id;
+        EXPECT_FALSE(desktops.match(key).hasMatch()) << key.toStdString() << ' ' << command.id;
     }
     window_->commands().showShortcuts();
     EXPECT_TRUE(window_->findChild<QWidget*>("shortcuts")->isVisible());
+}
+
+TEST_F(DeskTest, NoTipCoversWhatIsDoneAndAKeyHidesAllOfThem) {
+    auto* button = window_->findChild<QToolButton*>("mainTabAdjust");
+    ASSERT_TRUE(button);
+    const QPoint middle = button->rect().center();
+    QTest::mouseRelease(window_->view(), Qt::LeftButton);  // whatever a test before held
+    const auto tip = [&] {
+        QHelpEvent rests(QEvent::ToolTip, middle, button->mapToGlobal(middle));
+        QApplication::sendEvent(button, &rests);
+        const bool shown = !QToolTip::text().isEmpty();
+        QToolTip::hideText();
+        QTest::qWait(400);  // it fades
+        return shown;
+    };
+    EXPECT_TRUE(tip());
+    QTest::mousePress(window_->view(), Qt::LeftButton);
+    EXPECT_FALSE(tip()) << "a button is down";
+    QTest::mouseRelease(window_->view(), Qt::LeftButton);
+    EXPECT_TRUE(tip());
+    EXPECT_EQ(action("ToolTips")->shortcut(), QKeySequence(Qt::SHIFT | Qt::Key_F1));
+    action("ToolTips")->trigger();
+    EXPECT_FALSE(tip());
+    EXPECT_FALSE(action("ToolTips")->isChecked()) << "the menu says so";
+    open();
+    EXPECT_FALSE(action("ToolTips")->isChecked()) << "kept";
+    action("ToolTips")->trigger();
 }
 
 TEST_F(DeskTest, UndoAndRedoStepThroughSettingsAndEndWithAState) {

@@ -206,6 +206,7 @@ TEST_F(EffectsTest, AColourFollowsItsDialogAndIsOneStep) {
     EXPECT_EQ(first->windowTitle(), "Select Frame Overlay Color");
     first->setCurrentColor(QColor(10, 20, 30));
     EXPECT_EQ(value("frameOverlay.iFrameColorGreen"), "20") << "the picture follows";
+    EXPECT_EQ(editor().steps().size(), 1u) << "it is kept while the dialog stands open";
     first->setCurrentColor(QColor(200, 100, 50));
     first->accept();
     EXPECT_EQ(value("frameOverlay.iFrameColorRed"), "200");
@@ -214,6 +215,7 @@ TEST_F(EffectsTest, AColourFollowsItsDialogAndIsOneStep) {
     QColorDialog* second = dialog();
     ASSERT_TRUE(second);
     second->setCurrentColor(Qt::white);
+    EXPECT_EQ(editor().steps().size(), 2u);
     second->reject();
     EXPECT_EQ(value("frameOverlay.iFrameColorRed"), "200");
     EXPECT_EQ(editor().steps().size(), 1u) << "it came to nothing";

@@ -1,9 +1,14 @@
 // What opening a picture resets, and the ways out of the window.
+#include <chrono>
+#include <functional>
+#include <future>
 #include <gtest/gtest.h>
+#include <vector>
 
 #include <QTest>
 
 #include "formats/ImageState.h"
+#include "session/States.h"
 #include "ui/WindowTest.h"
 
 namespace tavrin {
@@ -108,6 +113,122 @@ TEST_F(FilesTest, AHostsFileThatCannotBeWrittenStaysTheHosts) {
     EXPECT_TRUE(info_->bLightroomActive) << "the next try is for the host too";
     EXPECT_EQ(action("Save")->text(), "Return To Lightroom");
     EXPECT_FALSE(window_->isMinimized());
+}
+
+TEST_F(FilesTest, AnotherPortraitIsNeverSavedOverAFileThatWasOpenedToBeReplaced) {
+    const QString host = drawn("host.png"), other = drawn("other.png");
+    window_->openForHost(host);
+    window_->openForeground(other);
+    ASSERT_TRUE(waitForPicture());
+    EXPECT_EQ(action("Save")->text(), "Save");
+    EXPECT_FALSE(info_->bLightroomActive);
+    window_->openForReview(QString::fromStdString(folder_.file("gone.png")));
+    EXPECT_EQ(action("Save")->text(), "Save to Batch");
+    window_->openForeground(other);
+    EXPECT_EQ(action("Save")->text(), "Save");
+    EXPECT_FALSE(info_->bBatchReviewActive);
+}
+
+TEST_F(FilesTest, AResultOfABatchIsMendedFromItsStateAndReplacedWithItsMask) {
+    std::filesystem::create_directories(folder_.file("out"));
+    const std::string result = folder_.file("out/anna.png");
+    test::savePng(test::noisePicture(24, 30, 3), result);
+    info_->pForegroundBitmapInfo->iBrightness = 12;
+    ASSERT_EQ(saveImageStateToXML(*info_, folder_.file("out/anna.qlx")), "");
+    info_->pForegroundBitmapInfo->iBrightness = 30;
+    action("AutoState")->setChecked(true);
+    window_->openForReview(QString::fromStdString(result));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return portraitLight() == 12; }, 20000));
+    ASSERT_TRUE(waitForPicture());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return action("Save")->isEnabled(); }, 20000));
+    EXPECT_EQ(action("Save")->text(), "Save to Batch");
+    EXPECT_EQ(info_->oQLXInfo->sSavePath.load() + "/", folder_.file("out/"));
+    window_->binder().run("Light", [](SettingEditor& e) { e.set("foreground.iBrightness", "13"); });
+    ASSERT_TRUE(waitForPicture());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return action("Save")->isEnabled(); }, 20000));
+    const PassGeometry small = info_->geometry(Resolution::preview);
+    const std::uint8_t* preview = info_->pCombinedBitmapInfo->pBitmapDataLowRes;
+    const std::vector<std::uint8_t> shown(preview, preview + std::size_t{4} * small.width * small.height);
+    action("Save")->trigger();
+    ASSERT_TRUE(saved());
+    EXPECT_EQ(action("Save")->text(), "Save");
+    EXPECT_EQ(QImage(QString::fromStdString(result)).size(), QSize(240, 300));
+    const QImage mask(QString::fromStdString(folder_.file("out/Thumbs/TQTQanna.png")));
+    ASSERT_EQ(mask.size(), QSize(small.width, small.height));
+    EXPECT_EQ(qRed(mask.pixel(small.width / 2, small.height / 2)), 0) << "the subject is black";
+    EXPECT_EQ(qRed(mask.pixel(1, 1)), 255);
+    EXPECT_TRUE(std::equal(shown.begin(), shown.end(), info_->pCombinedBitmapInfo->pBitmapDataLowRes))
+        << "what is shown is no mask";
+    SystemInfo kept;
+    ASSERT_EQ(loadState(kept, folder_.file("out/anna.qlx")).problem, "");
+    EXPECT_EQ(kept.pForegroundBitmapInfo->iBrightness, 13);
+}
+
+TEST_F(FilesTest, OverlaysAreTakenOffOneByOneAndAllAsOneStep) {
+    const std::string overlay = test::savePng(test::noisePicture(24, 30, 3), folder_.file("o.png"));
+    EXPECT_FALSE(action("clearOverlays")->isEnabled());
+    window_->binder().run("Overlays", [&](SettingEditor& e) {
+        for (const char* which : {"Frame", "Foreground", "Background"}) {
+            e.set(std::string("bHave") + which + "Overlay", "1");
+            e.set(std::string("s") + which + "Overlay", overlay);
+        }
+    });
+    info_->pBackgroundBitmapInfo->bScaleChange = false;
+    action("clearForegroundOverlay")->trigger();
+    EXPECT_FALSE(info_->bHaveForegroundOverlay);
+    EXPECT_EQ(info_->sForegroundOverlay.load(), "");
+    EXPECT_TRUE(info_->bHaveFrameOverlay);
+    EXPECT_FALSE(action("clearForegroundOverlay")->isEnabled());
+    ASSERT_TRUE(waitForPicture());
+    action("clearOverlays")->trigger();
+    EXPECT_FALSE(info_->bHaveFrameOverlay);
+    EXPECT_FALSE(info_->bHaveBackgroundOverlay);
+    action("UndoButton")->trigger();
+    EXPECT_TRUE(info_->bHaveFrameOverlay);
+    EXPECT_EQ(info_->sBackgroundOverlay.load(), overlay);
+    EXPECT_FALSE(info_->bHaveForegroundOverlay);
+}
+
+TEST_F(FilesTest, AStateThatIsOpenedRightBeforeAnotherFileStepsBack) {
+    const auto state = [&](const char* name, const std::string& portrait, int light) {
+        const auto other = test::stateForOutput(240, 300);
+        other->pForegroundBitmapInfo->sSourceImageFullPath = portrait;
+        other->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
+        other->pForegroundBitmapInfo->iBrightness = light;
+        EXPECT_EQ(saveImageStateToXML(*other, folder_.file(name)), "");
+        return QString::fromStdString(folder_.file(name));
+    };
+    const QString first = state("a.qlx", portrait_, 21), second = state("b.qlx", portrait_, 22);
+    const QString ben = drawn("ben.png"), slow = drawn("slow.png");
+    const auto whileTheLoopReads = [&](const std::function<void()>& open) {
+        std::promise<void> reading, go;
+        info_->readSource = [&, gate = go.get_future().share()](const std::string& path) {
+            if (path == slow.toStdString()) {
+                reading.set_value();
+                gate.wait();
+            }
+            return readPicture(path);
+        };
+        window_->openForeground(slow);
+        EXPECT_EQ(reading.get_future().wait_for(std::chrono::seconds(20)), std::future_status::ready);
+        open();
+        go.set_value();
+        EXPECT_TRUE(waitForPicture());
+        QTest::qWait(50);
+    };
+    whileTheLoopReads([&] {
+        window_->openState(first);
+        window_->openForeground(ben);
+    });
+    EXPECT_EQ(info_->pForegroundBitmapInfo->sSourceImageFullPath.load(), ben.toStdString());
+    EXPECT_EQ(portraitLight(), 30);
+    whileTheLoopReads([&] {
+        window_->openState(first);
+        window_->openState(second);
+    });
+    EXPECT_EQ(portraitLight(), 22);
+    EXPECT_FALSE(PictureFiles::recentFiles().contains(first)) << "nobody has seen it";
+    EXPECT_TRUE(editor().steps().empty());
 }
 
 }  // namespace

@@ -98,6 +98,8 @@ TEST_F(LanguageTest, NothingThatIsSeenEscapesTranslation) {
     for (const char* const name : {"de", "es"}) {
         QTranslator words;
         ASSERT_TRUE(words.load(QLocale(name), "tavrin", "_", ":/translations"));
+        EXPECT_NE(words.translate("tavrin::LooksPanel", "Delete"), words.translate("tavrin::Commands", "Delete"))
+            << name << ": a button, and a key of the keyboard";
         for (const auto& [context, text] : language.asked) {
             if (context.starts_with('Q')) continue;  // the toolkit's
             if (text.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz") == text.npos) continue;

@@ -133,6 +133,8 @@ TEST_F(LookTest, ALongPasteShowsHowFarItIsAndStopsWithWhatItHasDone) {
 
 TEST_F(LookTest, LooksByNameAreSavedTakenAndDeletedToUndo) {
     set("foreground.iBrightness", "30");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return action("Save")->isEnabled(); }, 20000))
+        << "its picture is a finished one";
     ASSERT_TRUE(window_->looks().save("School"));
     EXPECT_FALSE(window_->looks().save("a/b"));
     EXPECT_FALSE(window_->messages()->details().isEmpty());

@@ -2,7 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
 
@@ -10,6 +13,8 @@
 #include "formats/SettingsFile.h"
 #include "ui/WindowTest.h"
 #include "ui/bind/Groove.h"
+#include "ui/frame/Habits.h"
+#include "ui/frame/Theme.h"
 
 namespace tavrin {
 namespace {
@@ -81,6 +86,33 @@ TEST_F(PanelTest, TheSearchFindsControlsOfEveryPageAndWhatIsRevealedTurnsToItsPa
     EXPECT_TRUE(part<QLineEdit>("settingsPrefix")->hasFocus());
 }
 
+TEST_F(PanelTest, SegmentsLeadToThePartsOfALongPageAndFollowTheScrolling) {
+    for (GroupBox* group : panel().groups())
+        group->setFolded(group->objectName() == "groupLight");
+    panel().selectMainTab(0);
+    press("selectAdjustmentTabSegment3");
+    EXPECT_EQ(info_->iSelectedAdjustment, 3);
+    EXPECT_TRUE(part<Groove>("sliderBrightness")->isVisible());
+    EXPECT_FALSE(part<Groove>("sliderBrightness")->visibleRegion().isEmpty()) << "it is scrolled to";
+    press("selectAdjustmentTabSegment4");
+    EXPECT_TRUE(part<QWidget>("sliderScale")->isVisible()) << "unfolded";
+    EXPECT_FALSE(part<QWidget>("selectEffectsTabSegment0")->isVisible());
+    auto* bar = part<QScrollArea>("")->verticalScrollBar();
+    bar->setValue(0);
+    EXPECT_EQ(info_->iSelectedAdjustment, 0);
+    EXPECT_TRUE(part<QToolButton>("selectAdjustmentTabSegment0")->isChecked());
+    press("selectAdjustmentTabSegment3");
+    panel().selectMainTab(1);
+    EXPECT_TRUE(part<QWidget>("selectEffectsTabSegment0")->isVisible());
+    press("selectEffectsTabSegment4");
+    EXPECT_EQ(info_->iSelectedEffect, 4);
+    EXPECT_EQ(info_->iSelectedAdjustment, 3);
+    panel().selectMainTab(0);
+    EXPECT_TRUE(part<QToolButton>("selectAdjustmentTabSegment3")->isChecked()) << "it comes back";
+    panel().searchField()->setText("sharpen");
+    EXPECT_FALSE(part<QWidget>("selectAdjustmentTabSegment0")->isVisible());
+}
+
 TEST_F(PanelTest, SettingsAreKeptAsTheyAreMade) {
     panel().selectMainTab(7);
     auto* prefix = part<QLineEdit>("settingsPrefix");
@@ -105,6 +137,36 @@ TEST_F(PanelTest, SettingsAreKeptAsTheyAreMade) {
     box->click();
     EXPECT_FALSE(action("AutoState")->isChecked());
     EXPECT_FALSE(keptSettings().bAutoQLXSave);
+}
+
+TEST_F(PanelTest, LanguageColoursProcessorsAndKindOfFileAreChosenForEveryStart) {
+    panel().selectMainTab(7);
+    const auto choose = [&](const char* name, const QString& value) {
+        auto* list = part<QComboBox>(name);
+        const int index = list->findData(value);
+        ASSERT_GE(index, 0) << name;
+        list->setFocus();
+        while (list->currentIndex() != index)
+            QTest::keyClick(list, list->currentIndex() < index ? Qt::Key_Down : Qt::Key_Up);
+    };
+    EXPECT_EQ(chosenLanguage(), QLocale::system());
+    choose("settingsLanguage", "es");
+    EXPECT_EQ(chosenLanguage().language(), QLocale::Spanish);
+    EXPECT_EQ(window_->messages()->message(), "The words change with the next start.");
+    choose("settingsLanguage", "");
+    EXPECT_EQ(chosenLanguage(), QLocale::system());
+
+    choose("settingsTheme", "dark");
+    EXPECT_EQ(chosenTheme(), Theme::dark);
+    action("ThemeLight")->trigger();
+    EXPECT_EQ(part<QComboBox>("settingsTheme")->currentData().toString(), "light") << "the menu has it, too";
+
+    choose("settingsFileType", ".tif");
+    EXPECT_EQ(chosenFileType(), ".tif");
+    EXPECT_TRUE(window_->suggestedName().endsWith("/anna.tif")) << window_->suggestedName().toStdString();
+    info_->bOutputTransparency = true;
+    EXPECT_TRUE(window_->suggestedName().endsWith("/anna-combined.png")) << "a clear background wants it";
+    choose("settingsFileType", "");
 }
 
 }  // namespace

@@ -59,6 +59,8 @@ TEST_F(SearchTest, OneFieldFindsCommandsAndControlsInAnyOrderAndWithSlips) {
     EXPECT_TRUE(foundFor("shrotcuts").value(0).startsWith("Keyboard Shortcuts"));
     EXPECT_FALSE(foundFor("hiar").value(0).startsWith("Nothing"));
     EXPECT_TRUE(foundFor("zzzz").value(0).startsWith("Nothing"));
+    EXPECT_TRUE(foundFor("clickedButtonfreeze").value(0).startsWith("Nothing")) << "a name that nobody reads";
+    EXPECT_EQ(foundFor("undo"), QStringList("Undo   (Edit)    Ctrl+Z")) << "and no command whose tip tells of it";
 
     set("Light", "foreground.iBrightness", "30");
     findAndTake("undo");
@@ -110,6 +112,21 @@ TEST_F(SearchTest, ChipsTellWhatIsSetAndPutItBackAsOneStep) {
     EXPECT_EQ(brightness(), 0);
     EXPECT_EQ(editor().steps().size(), steps + 2);
     EXPECT_FALSE(window_->findChild<QToolButton*>("sliderBrightnessChip"));
+}
+
+TEST_F(SearchTest, ChipsNameWhatIsOtherThanAtTheStart) {
+    info_->pCombinedBitmapInfo->sliderWhiteAdjust = 70;
+    open();
+    QTest::qWait(60);
+    const auto chip = [&] { return window_->findChild<QToolButton*>("sliderWhiteAdjustChip"); };
+    EXPECT_FALSE(chip()) << "every portrait begins with it";
+    set("White", "combined.sliderWhiteAdjust", "40");
+    QTest::qWait(60);
+    ASSERT_TRUE(chip()) << "its default is something else here";
+    QTest::mouseClick(window_->findChild<QToolButton*>("sliderWhiteAdjustChipReset"), Qt::LeftButton);
+    QTest::qWait(60);
+    EXPECT_EQ(info_->pCombinedBitmapInfo->sliderWhiteAdjust, 70);
+    EXPECT_FALSE(chip());
 }
 
 TEST_F(SearchTest, ResetAllIsOneStepForBothLayers) {

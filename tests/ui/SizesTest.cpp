@@ -85,6 +85,26 @@ TEST_F(SizesTest, ASizeOfOnesOwnIsAddedTakenEditedAndDeleted) {
     EXPECT_EQ(info_->iOutputPixelHeight, 100);
 }
 
+TEST_F(SizesTest, ALengthThatIsNoNumberGoesBackWhenTheTabKeyLeavesIt) {
+    window_->panel()->selectMainTab(7);
+    press("buttonAddImageSizes");
+    auto* field = part<QLineEdit>("textImageSizeWidth");
+    field->window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(field->window()));
+    for (const char* typed : {"wide", ""}) {
+        field->setFocus();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return field->hasFocus(); }, 5000));
+        field->selectAll();
+        QTest::keyClick(field, Qt::Key_Delete);
+        QTest::keyClicks(field, typed);
+        EXPECT_EQ(field->text(), typed) << "it may still be on its way";
+        QTest::keyClick(field, Qt::Key_Tab);
+        EXPECT_FALSE(field->hasFocus());
+        EXPECT_EQ(field->text(), "1") << typed;
+    }
+    part<QDialog>("panelAddEditImageSizes")->reject();
+}
+
 TEST_F(SizesTest, ASizeThatMakesNoPictureKeepsTheDialogOpen) {
     press("buttonAddImageSizes");
     type("textImageSizeWidth", "200");

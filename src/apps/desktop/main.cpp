@@ -14,6 +14,7 @@
 #include "core/raster/PixelMemory.h"
 #include "core/state/SystemInfo.h"
 #include "session/StartUp.h"
+#include "ui/frame/Habits.h"
 #include "ui/frame/Language.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
@@ -112,7 +113,8 @@ int main(int argc, char** argv) {
     // A pass takes the memory that the last one gave back.
     tavrin::keepPixelMemory(std::size_t{1} << 28);
 
-    tavrin::useLanguage(QLocale::system());
+    tavrin::useLanguage(tavrin::chosenLanguage());
+    tavrin::useChosenThreads();
     tavrin::useTheme(tavrin::chosenTheme());
     const auto info = std::make_unique<tavrin::SystemInfo>();
     const std::string problems = tavrin::startSystem(*info);

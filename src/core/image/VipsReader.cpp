@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/BackgroundThread.h"
 #include "core/HandOver.h"
 #include "core/Log.h"
 #include "core/image/ExifCheck.h"
@@ -211,8 +212,8 @@ QImage decodeWithVips(VipsImage* image, std::string& error, DecodeOn on) {
     }
     RowSink sink{UprightPixels(result, orientation, width, height), {}, 0};
     sink.handOver.pass();
-    const bool failed = on == DecodeOn::thisThread ? !readHere(srgb.get(), sink)
-                                                   : vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0;
+    const bool alone = on == DecodeOn::thisThread || isBackgroundThread();
+    const bool failed = alone ? !readHere(srgb.get(), sink) : vips_sink_disc(srgb.get(), RowSink::write, &sink) != 0;
     sink.handOver.pass();
     if (failed) {
         const int percent = static_cast<int>(std::int64_t{100} * sink.rows / std::max(height, 1));

@@ -5,6 +5,8 @@
 #include <oneapi/tbb/global_control.h>
 #include <oneapi/tbb/parallel_for.h>
 
+#include "core/BackgroundThread.h"
+
 namespace tavrin {
 
 namespace {
@@ -35,7 +37,12 @@ struct Band {
 
     bool run(int first, int last) {
         stopped.store(false, std::memory_order_release);
-        oneapi::tbb::parallel_for(Range(first, last, static_cast<std::size_t>(grain)), std::cref(*this));
+        const Range rows(first, last, static_cast<std::size_t>(grain));
+        if (isBackgroundThread()) {
+            (*this)(rows);
+        } else {
+            oneapi::tbb::parallel_for(rows, std::cref(*this));
+        }
         finished.load(std::memory_order_acquire);
         return !stopped.load(std::memory_order_relaxed);
     }

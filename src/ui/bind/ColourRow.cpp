@@ -1,5 +1,7 @@
 #include "ui/bind/ColourRow.h"
 
+#include <utility>
+
 #include <QColorDialog>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -45,23 +47,28 @@ QColor ColourRow::colour() const {
 }
 
 void ColourRow::choose() {
-    const QColor before = colour();
-    auto* dialog = new QColorDialog(before, this);
+    auto* dialog = new QColorDialog(colour(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setObjectName(QString(setting_.control) + "Dialog");
     dialog->setWindowTitle(ControlRow::translated(setting_.dialogTitle));
-    binder_.editor().beginStep(accessibleName().toStdString());
+    step_ = 0;
     connect(dialog, &QColorDialog::currentColorChanged, this, &ColourRow::set);
-    connect(dialog, &QDialog::rejected, this, [this, before] { set(before); });
-    connect(dialog, &QDialog::finished, this, [this] {
-        binder_.editor().endStep();
-        emit binder_.changed();
+    connect(dialog, &QDialog::rejected, this, [this] {
+        takeBack();
+        binder_.run({}, [](SettingEditor&) {});  // shows what is there now
     });
     dialog->open();
 }
 
+/// A dialog may stand open for long, so no step does: each colour takes the place of the one before.
+void ColourRow::takeBack() {
+    if (const std::uint64_t step = std::exchange(step_, 0)) binder_.editor().dropStep(step);
+}
+
 void ColourRow::set(const QColor& colour) {
     if (colour == this->colour()) return;
+    takeBack();
+    const std::uint64_t position = binder_.editor().position();
     binder_.run(accessibleName(), [&](SettingEditor& editor) {
         const auto put = [&](const char* setting, int channel) {
             editor.set(name(setting), QString::number(channel * setting_.most / 255.0, 'g', 17).toStdString());
@@ -70,6 +77,7 @@ void ColourRow::set(const QColor& colour) {
         put(setting_.green, colour.green());
         put(setting_.blue, colour.blue());
     });
+    if (binder_.editor().position() != position) step_ = binder_.editor().position();
 }
 
 void ColourRow::refresh() {

@@ -31,12 +31,14 @@ class ColourRow : public QWidget {
 
   private:
     void set(const QColor& colour);
+    void takeBack();
     std::string name(const char* setting) const;
     void refresh();
 
     const ColourSetting& setting_;
     Binder& binder_;
     QToolButton* button_;
+    std::uint64_t step_ = 0;  ///< what the dialog has made so far; 0: nothing
 };
 
 }  // namespace tavrin

@@ -100,17 +100,25 @@ QString GroupBox::nameOf(const QWidget& item) {
     return row ? ControlRow::translated(row->binding().label) : item.accessibleName();
 }
 
-QString GroupBox::wordsOf(const QWidget& item) const {
+QString GroupBox::toldOf(const QWidget& item) const {
     QString text = ControlRow::translated(group_.title) + ' ' + nameOf(item) + ' ' + item.toolTip();
     if (const auto* row = qobject_cast<const ControlRow*>(&item)) {
-        const Binding& binding = row->binding();
-        text += ' ' + ControlRow::translated(binding.toolTip) + ' ' + binding.control + ' ' + binding.setting;
-        for (const Choice& choice : binding.choices)
+        text += ' ' + ControlRow::translated(row->binding().toolTip);
+        for (const Choice& choice : row->binding().choices)
             text += ' ' + ControlRow::translated(choice.label);
         return text;
     }
     for (const QWidget* part : item.findChildren<QWidget*>())
-        text += ' ' + part->accessibleName() + ' ' + part->toolTip() + ' ' + part->objectName();
+        text += ' ' + part->accessibleName() + ' ' + part->toolTip();
+    return text;
+}
+
+QString GroupBox::wordsOf(const QWidget& item) const {
+    if (const auto* row = qobject_cast<const ControlRow*>(&item))
+        return toldOf(item) + ' ' + row->binding().control + ' ' + row->binding().setting;
+    QString text = toldOf(item);
+    for (const QWidget* part : item.findChildren<QWidget*>())
+        text += ' ' + part->objectName();
     return text;
 }
 

@@ -40,8 +40,10 @@ class GroupBox : public QWidget {
     const std::vector<ControlRow*>& rows() const { return rows_; }
     /// Rows and added items, from top to bottom.
     const std::vector<QWidget*>& items() const { return items_; }
-    /// What an item is called, and all that it is found by.
+    /// What an item is called, what people are told of it, and all that it is found by: the names of its parts and
+    /// its setting, too.
     static QString nameOf(const QWidget& item);
+    QString toldOf(const QWidget& item) const;
     QString wordsOf(const QWidget& item) const;
 
   private:

@@ -38,7 +38,7 @@ ActionSearch::ActionSearch(std::vector<Entry> entries, QWidget* parent)
     move(parent->mapToGlobal(QPoint((parent->width() - width()) / 2, 60)));
 }
 
-/// Names that have the words come before those that are found by the tip, and slips of the fingers last.
+/// Names that have the words; where there is none, names with slips of the fingers, and what is told of them.
 void ActionSearch::find(const QString& typed) {
     const QStringList words = searchWords(typed);
     std::vector<std::size_t> found;
@@ -53,8 +53,7 @@ void ActionSearch::find(const QString& typed) {
         }
     };
     add(Slips::none, false);
-    const std::size_t named = found.size();
-    add(Slips::none, true);
+    if (found.empty()) add(Slips::none, true);
     if (found.empty()) add(Slips::some, false);
     if (found.empty()) add(Slips::some, true);
     list_->clear();
@@ -65,9 +64,7 @@ void ActionSearch::find(const QString& typed) {
         item->setData(Qt::UserRole, static_cast<qulonglong>(i));
         if (!entry.enabled) item->setFlags(Qt::NoItemFlags);
     }
-    // A command that cannot be used now hands Enter on to one of its name, not to one that is found by its tip.
-    const int last = named > 0 ? static_cast<int>(named) : list_->count();
-    for (int row = 0; row < last && !list_->currentItem(); ++row)
+    for (int row = 0; row < list_->count() && !list_->currentItem(); ++row)
         if (list_->item(row)->flags() & Qt::ItemIsEnabled) list_->setCurrentRow(row);
     if (found.empty()) (new QListWidgetItem(tr("Nothing has these words."), list_))->setFlags(Qt::NoItemFlags);
 }

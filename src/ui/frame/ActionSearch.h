@@ -20,7 +20,7 @@ class ActionSearch : public QDialog {
         QString text;   ///< what it is called
         QString place;  ///< its menu or group
         QString key;    ///< its shortcut
-        QString words;  ///< what else it is found by
+        QString words;  ///< what else it is found by, where no name has what was typed
         bool enabled = true;
         std::function<void()> run;
     };

@@ -4,6 +4,7 @@
 #include "ui/frame/ActionSearch.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
+#include "ui/frame/TipGuard.h"
 
 namespace tavrin {
 
@@ -32,16 +33,16 @@ void MainWindow::findAction() {
         QAction* action = commands_->action(command.id);
         const QString menu = QString(command.menu).remove('|').remove('&');
         entries.push_back({action->text().section('\t', 0, 0).remove('&'),
-                           menu.isEmpty() ? MainWindow::tr("Key") : menu,
-                           command.shortcut.toString(QKeySequence::NativeText), command.toolTip + ' ' + command.id,
-                           action->isEnabled(), [action] { action->trigger(); }});
+                           menu.isEmpty() ? MainWindow::tr("Shortcut") : menu,
+                           command.shortcut.toString(QKeySequence::NativeText), command.toolTip, action->isEnabled(),
+                           [action] { action->trigger(); }});
     }
     for (const GroupBox* group : panel_->groups())
         for (const QWidget* item : group->items())
             entries.push_back({GroupBox::nameOf(*item),
                                ControlRow::translated(group->group().title),
                                {},
-                               group->wordsOf(*item),
+                               group->toldOf(*item),
                                true,
                                [this, item] { panel_->reveal(item); }});
     (new ActionSearch(std::move(entries), this))->show();
@@ -226,6 +227,16 @@ std::vector<Command> commandTable(MainWindow& w) {
          {},
          [&w](bool on) { w.setFullScreen(on); },
          Kind::checked},
+        {"ToolTips",
+         "|&View",
+         MainWindow::tr("Tool Ti&ps"),
+         MainWindow::tr("Shows what a control does while the pointer rests on it"),
+         "",
+         QKeySequence(Qt::SHIFT | Qt::Key_F1),
+         {},
+         [&w](bool on) { w.tips_->setWanted(on); },
+         Kind::checked,
+         [&w] { return w.tips_->areWanted(); }},
         theme("ThemeDesktop", "|&View", MainWindow::tr("Colours of the &Desktop"), Theme::desktop),
         theme("ThemeLight", "&View", MainWindow::tr("L&ight Colours"), Theme::light),
         theme("ThemeDark", "&View", MainWindow::tr("&Dark Colours"), Theme::dark),
@@ -256,7 +267,7 @@ std::vector<Command> commandTable(MainWindow& w) {
          MainWindow::tr("&Keyboard Shortcuts"),
          MainWindow::tr("Every key and what it does"),
          "",
-         QKeySequence(Qt::CTRL | Qt::Key_F1),
+         QKeySequence(Qt::Key_F1),
          {},
          [&w](bool) { w.commands_->showShortcuts(); }},
     };

@@ -122,7 +122,7 @@ void Commands::showShortcuts() {
     dialog->setWindowTitle(tr("Keyboard Shortcuts"));
     auto* list = new QTableWidget(0, 2, dialog);
     list->setAccessibleName(dialog->windowTitle());
-    list->setHorizontalHeaderLabels({tr("Key"), tr("What it does")});
+    list->setHorizontalHeaderLabels({tr("Shortcut"), tr("What it does")});
     list->horizontalHeader()->setStretchLastSection(true);
     list->verticalHeader()->hide();
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -15,6 +15,8 @@
 #include "ui/DroppedFiles.h"
 #include "ui/FileFilters.h"
 #include "ui/WindowSettings.h"
+#include "ui/frame/Habits.h"
+#include "ui/frame/TipGuard.h"
 
 namespace tavrin {
 
@@ -38,7 +40,8 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
-      tools_(new PictureTools(binder_, *loop_, bridge_, view_)) {
+      tools_(new PictureTools(binder_, *loop_, bridge_, view_)),
+      tips_(new TipGuard(this)) {
     setObjectName("MainDisplay");
     setWindowTitle(tr("Main Window - Adjust/Load Mode"));
     setAcceptDrops(true);
@@ -130,6 +133,10 @@ void MainWindow::connectSettings() {
     connect(settings_, &SettingsPage::told, messages_, &MessageBar::tell);
     for (const char* id : {"FramePortraits", "AutoState", "ForegroundReset", "BackgroundReset"})
         settings_->addBox(commands_->action(id));
+    for (ListSetting& list : habitLists())
+        settings_->addList(std::move(list));
+    for (const char* id : {"ThemeDesktop", "ThemeLight", "ThemeDark"})
+        connect(commands_->action(id), &QAction::triggered, settings_, &SettingsPage::refresh);
 }
 
 /// Sizes and pages know each other, and a size in force may have become another one.

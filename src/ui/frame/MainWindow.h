@@ -29,6 +29,14 @@ class QProgressBar;
 
 namespace tavrin {
 
+struct SaveTarget;
+class TipGuard;
+
+/// The settings of an overlay: whether there is one, and its file.
+struct OverlaySetting {
+    const char *have, *file;
+};
+
 /// The main window: the running picture, the controls beside it, and the way for pictures in and out. It owns the
 /// processing thread of the state it shows, which ends with it.
 class MainWindow : public QMainWindow {
@@ -51,10 +59,14 @@ class MainWindow : public QMainWindow {
     void openPictures(const QStringList& paths);
     /// Opens a portrait of another program, which gets it back: what is saved next replaces that file.
     void openForHost(const QString& path);
+    /// Opens the state of a batch's result to mend it: what is saved next replaces the result and its mask.
+    void openForReview(const QString& path);
     /// Has the full picture that stands saved, as `saveTargetOf` tells, and its state where that is wanted. The
     /// window tells when it is done, or why it is not.
     /// @return false when there is no finished picture
     bool saveTo(const QString& path);
+    /// The path that is proposed for saving the picture.
+    QString suggestedName() const;
     /// Pictures and states that are still to be saved. A window that is closed meanwhile goes when they are, and
     /// stays when one cannot be.
     int savesUnderWay() const { return files_->savesUnderWay(); }
@@ -114,13 +126,19 @@ class MainWindow : public QMainWindow {
     void loadForeground();
     void loadBackground();
     void openReset(const QString& path);
-    void loadOverlay(const char* have, const char* name, const QString& title);
+    void loadOverlay(const OverlaySetting& overlay, const QString& title);
+    void clearOverlays(const std::vector<std::size_t>& which, const QString& label);
     void loadAutomaticOverlays();
     void saveImage();
     void saveForHost();
+    void saveReviewed();
+    bool tellTaken(bool taken, const SaveTarget& target);
+    void askForReview();
+    void setBatchReviewActive(const QString& path);
+    void setBatchReviewNotActive();
+    void leaveWaysOfSaving();
     void tellSaveButton();
     void keepSettings();
-    QString suggestedName() const;
     void askForStateToOpen();
     void askForStateToSave();
     void askForSave();
@@ -156,6 +174,7 @@ class MainWindow : public QMainWindow {
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
     PictureTools* tools_;
+    TipGuard* tips_;
     Commands* commands_ = nullptr;
     QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;
     QProgressBar* progress_ = nullptr;

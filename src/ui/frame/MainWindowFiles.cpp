@@ -8,6 +8,7 @@
 #include "formats/SettingsFile.h"
 #include "session/SaveTarget.h"
 #include "ui/FileFilters.h"
+#include "ui/frame/Habits.h"
 #include "ui/frame/MainWindow.h"
 
 namespace tavrin {
@@ -18,6 +19,7 @@ void MainWindow::openFile(const QString& path) {
 }
 
 void MainWindow::openForeground(const QString& path) {
+    leaveWaysOfSaving();
     keeping_->leavePortrait();
     std::optional<Recipe> known = keeping_->knownOf(path);
     if (!known && commands_->action("ForegroundReset")->isChecked()) return openReset(path);
@@ -42,6 +44,7 @@ void MainWindow::openBackground(const QString& path) {
 }
 
 void MainWindow::openState(const QString& path) {
+    leaveWaysOfSaving();
     finished_ = false;
     commands_->refresh();
     keeping_->leavePortrait();
@@ -69,7 +72,6 @@ void MainWindow::loadForeground() {
     const QString path = selectImageToOpen(tr("Select Foreground File"), info_.oQLXInfo->sForegroundPath,
                                            pictureFilter() + ";;" + stateFilter());
     if (path.isEmpty()) return;
-    info_.bBatchReviewActive = false;
     path.contains(".qlx", Qt::CaseInsensitive) ? openState(path) : openForeground(path);
 }
 
@@ -101,20 +103,20 @@ QString MainWindow::suggestedName() const {
     const QFileInfo source(textOfName(info_.pForegroundBitmapInfo->sSourceImageFullPath));
     const QString folder = textOfName(standardizePath(info_.oQLXInfo->sSavePath));
     const QString prefix = QString::fromStdString(info_.oQLXInfo->sPrefix);
-    const QString name = info_.bOutputTransparency ? source.completeBaseName() + ".png" : source.fileName();
+    const QString type = info_.bOutputTransparency ? QStringLiteral(".png") : chosenFileType();
+    const QString name = type.isEmpty() ? source.fileName() : source.completeBaseName() + type;
     const QString path = (folder.isEmpty() ? source.path() : folder) + '/' + prefix;
     const SaveTarget target = saveTargetOf(nameOfText(path + name));
     if (QFileInfo(textOfName(target.picture())) != source) return textOfName(target.picture());
     return path + source.completeBaseName() + "-combined" + textOfName(target.picture().substr(target.stem.size()));
 }
 
-/// The host application's file and a reviewed one are written again without a question; else a dialog asks.
+/// The host application's file and a reviewed result are written again without a question; else a dialog asks.
 void MainWindow::saveImage() {
     if (info_.bLightroomActive) {
         saveForHost();
     } else if (info_.bBatchReviewActive) {
-        const QString path = textOfName(info_.sBatchReviewFileSavePath);
-        if (saveTo(path)) info_.bBatchReviewActive = false;
+        saveReviewed();
     } else {
         askForSave();
     }
@@ -136,7 +138,11 @@ void MainWindow::askForSave() {
 
 bool MainWindow::saveTo(const QString& path) {
     const SaveTarget target = saveTargetOf(nameOfText(path));
-    const bool taken = files_->savePicture(textOfName(target.picture()));
+    return tellTaken(files_->savePicture(textOfName(target.picture())), target);
+}
+
+/// @param taken whether there was a finished picture to save
+bool MainWindow::tellTaken(bool taken, const SaveTarget& target) {
     if (!taken) {
         messages_->tell(tr("The picture is not finished yet."));
     } else if (info_.oQLXInfo->bAutoQLXSave) {
@@ -144,6 +150,53 @@ bool MainWindow::saveTo(const QString& path) {
     }
     tellProgress();
     return taken;
+}
+
+/// A result of a batch is mended from the state that was saved beside it; without one it is shown with the settings
+/// that are there.
+void MainWindow::openForReview(const QString& path) {
+    const QString state = textOfName(saveTargetOf(nameOfText(path)).state());
+    if (QFileInfo::exists(state)) {
+        openState(state);
+    } else {
+        messages_->fail(tr("%1 has no state, so the present settings stay.").arg(QFileInfo(path).fileName()),
+                        tr("A batch saves one beside each picture while \"%1\" is on.")
+                            .arg(commands_->action("AutoState")->text().remove('&')));
+    }
+    info_.oQLXInfo->sSavePath = nameOfText(QFileInfo(path).path());
+    keepSettings();
+    setBatchReviewActive(path);
+}
+
+void MainWindow::setBatchReviewActive(const QString& path) {
+    info_.bLightroomActive = false;
+    info_.bBatchReviewActive = true;
+    info_.sBatchReviewFileSavePath = nameOfText(path);
+    tellSaveButton();
+}
+
+void MainWindow::setBatchReviewNotActive() {
+    info_.bBatchReviewActive = false;
+    tellSaveButton();
+}
+
+/// What is saved in the place of a file belongs to the portrait that was opened for that, and to no other.
+void MainWindow::leaveWaysOfSaving() {
+    info_.bLightroomActive = false;
+    setBatchReviewNotActive();
+}
+
+/// Written in the place of the result, with the mask that the review pages show beside it.
+void MainWindow::saveReviewed() {
+    const SaveTarget target = saveTargetOf(info_.sBatchReviewFileSavePath);
+    if (tellTaken(files_->saveReviewed(textOfName(target.picture())), target)) setBatchReviewNotActive();
+}
+
+void MainWindow::askForReview() {
+    const QString folder = textOfName(standardizePath(info_.oQLXInfo->sLastBatchOutput));
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Select a Result of a Batch"), folder, pictureFilter());
+    if (!path.isEmpty()) openForReview(path);
 }
 
 void MainWindow::openForHost(const QString& path) {
@@ -164,7 +217,9 @@ void MainWindow::saveForHost() {
 }
 
 void MainWindow::tellSaveButton() {
-    commands_->action("Save")->setText(info_.bLightroomActive ? tr("Return To Lightroom") : tr("Save"));
+    commands_->action("Save")->setText(info_.bLightroomActive     ? tr("Return To Lightroom")
+                                       : info_.bBatchReviewActive ? tr("Save to Batch")
+                                                                  : tr("Save"));
 }
 
 }  // namespace tavrin

@@ -8,6 +8,7 @@
 #include "core/state/NamedFiles.h"
 #include "formats/ImageState.h"
 #include "formats/SafeFile.h"
+#include "pipeline/MaskThumbnail.h"
 #include "pipeline/SaveImage.h"
 #include "pipeline/SubjectPlace.h"
 #include "session/Sources.h"
@@ -114,15 +115,26 @@ void PictureFiles::saveState(const QString& path) {
     });
 }
 
-bool PictureFiles::savePicture(const QString& path) {
+/// @param then what follows in the same turn when the picture is there
+bool PictureFiles::savePicture(const QString& path,
+                               const std::function<void(const std::string& path, int type)>& then) {
     if (!isFinished()) return false;
     KnownFiles sources;  // another portrait may be opened before the picture has its turn
     for (const BitmapInfo* record : {info_.pForegroundBitmapInfo.get(), info_.pBackgroundBitmapInfo.get()})
         sources.add(record->sSourceImageFullPath);
-    saveInTurn(path, [this, target = nameOfText(path), sources = std::move(sources)] {
-        return saveImageToDisk(info_, target, fileTypeForPath(target), 1, sources);
+    saveInTurn(path, [this, then, target = nameOfText(path), sources = std::move(sources)] {
+        const int type = fileTypeForPath(target);
+        const bool done = saveImageToDisk(info_, target, type, 1, sources);
+        if (done && then) then(target, type);
+        return done;
     });
     return true;
+}
+
+bool PictureFiles::saveReviewed(const QString& path) {
+    return savePicture(path, [this](const std::string& target, int type) {
+        static_cast<void>(saveMaskThumbnail(info_, target, type));  // which tells its own failure
+    });
 }
 
 /// The whole file is there beside the old one before it takes its name.

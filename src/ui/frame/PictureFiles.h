@@ -35,9 +35,11 @@ class PictureFiles : public QObject {
     /// Has the full picture that stands saved after what was to be saved before; the type follows the name's
     /// extension.
     /// @return false when there is no finished picture
-    bool savePicture(const QString& path);
+    bool savePicture(const QString& path) { return savePicture(path, {}); }
     /// The same in the place of a file that the picture may be made from.
     bool saveOver(const QString& path);
+    /// The same for a result of a batch, with the small picture of its mask (`saveMaskThumbnail`).
+    bool saveReviewed(const QString& path);
     int savesUnderWay() const { return saves_; }
 
     /// The files that were opened last, the newest first.
@@ -50,6 +52,7 @@ class PictureFiles : public QObject {
     void saved(const QString& path, bool done);
 
   private:
+    bool savePicture(const QString& path, const std::function<void(const std::string& path, int type)>& then);
     void saveInTurn(const QString& path, std::function<bool()> save);
     void openInTurn(const QString& path, std::function<std::string()> open);
     bool isFinished() const { return info_.iCurrentThreadCount > info_.iNewThreadCount; }  // no pass is due

@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "ui/WindowSettings.h"
+#include "ui/frame/SegmentBar.h"
 
 namespace tavrin {
 
@@ -21,6 +22,7 @@ namespace {
 
 constexpr const char* kPageKey = "mainTab";
 constexpr int kTabsInALine = 4;
+constexpr int kEventTab = 3;
 
 /// The part of an item that takes the keys; of buttons to choose from, the one in force.
 void giveFocus(QWidget* item) {
@@ -61,6 +63,10 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
     auto* chips = new Chips(binder, whole);
     connect(chips, &Chips::wanted, this, &SidePanel::reveal);
     column->addWidget(chips);
+    SystemInfo& info = binder.editor().info();
+    segments_ = {adjustmentSegments(*adjust_, *scroll_, info), effectSegments(*effects_, *scroll_, info)};
+    for (SegmentBar* bar : segments_)
+        column->addWidget(bar);
     column->addWidget(scroll_, 1);
     setWidget(whole);
     connect(effects_, &EffectsPage::wanted, this, &SidePanel::reveal);
@@ -143,7 +149,7 @@ void SidePanel::layOutTabs() {
 void SidePanel::selectMainTab(int key) {
     const auto page = std::ranges::find(pages_, key, [](const PanelPage* one) { return one->title().key; });
     if (page == pages_.end()) return;
-    binder_.editor().info().bEventModeShowing = false;
+    binder_.editor().info().bEventModeShowing = key == kEventTab;
     windowSettings().setValue(kPageKey, (*page)->title().name);
     search_->clear();
     showPage(*page);
@@ -159,9 +165,16 @@ void SidePanel::showPage(PanelPage* page) {
     }
     current_ = page;
     page->show();
+    showSegments();
     tabGroup_->button(page->title().key)->setChecked(true);
     scroll_->widget()->layout()->activate();
     scroll_->verticalScrollBar()->setValue(page->property("scrolledTo").toInt());
+}
+
+/// Those of the page that is turned to, unless pages are mixed by a search.
+void SidePanel::showSegments() {
+    for (SegmentBar* bar : segments_)
+        bar->setVisible(&bar->page() == current_ && search_->text().isEmpty());
 }
 
 /// Words with slips of the fingers count only where there is nothing without.
@@ -171,6 +184,7 @@ void SidePanel::find(const QString& text) {
     for (PanelPage* page : pages_)
         if (words.isEmpty()) page->setVisible(page == current_);
     nothing_->setVisible(!any);
+    showSegments();
 }
 
 /// While words are searched for, every page that has them is shown.
@@ -192,7 +206,7 @@ bool SidePanel::showActions(const QStringList& words, Slips slips) {
     for (QAction* action : actions_) {
         if (words.isEmpty() || shown == kMost) break;
         const QString text = action->text().section('\t', 0, 0).remove('&');
-        if (!hasWords(text + ' ' + action->toolTip() + ' ' + action->objectName(), words, slips)) continue;
+        if (!hasWords(text + ' ' + action->toolTip(), words, slips)) continue;
         auto* button = new QToolButton(found_);
         button->setObjectName(action->objectName() + "Found");
         button->setProperty("handler", action->objectName());

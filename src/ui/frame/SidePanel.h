@@ -20,6 +20,8 @@ class QVBoxLayout;
 
 namespace tavrin {
 
+class SegmentBar;
+
 /// The controls beside the picture, in pages with a main tab for each. It stands left, right or by itself, and finds
 /// any control of any page by words.
 class SidePanel : public QDockWidget {
@@ -55,6 +57,7 @@ class SidePanel : public QDockWidget {
     QLineEdit* makeSearch();
     QScrollArea* makePages();
     void showPage(PanelPage* page);
+    void showSegments();
     void layOutTabs();
     void find(const QString& text);
     bool showFound(const QStringList& words, Slips slips);
@@ -75,6 +78,7 @@ class SidePanel : public QDockWidget {
     std::vector<QAction*> actions_;
     std::vector<PanelPage*> pages_;
     std::vector<GroupBox*> groups_;
+    std::vector<SegmentBar*> segments_;
     PanelPage* current_ = nullptr;
 };
 

@@ -121,6 +121,14 @@ bool desktopIsDark() {
 
 }  // namespace
 
+QString nameOf(Theme theme) {
+    return theme == Theme::dark ? "dark" : theme == Theme::light ? "light" : "desktop";
+}
+
+Theme themeOf(const QString& name) {
+    return name == "dark" ? Theme::dark : name == "light" ? Theme::light : Theme::desktop;
+}
+
 void useTheme(Theme theme) {
     const bool dark = theme == Theme::dark || (theme == Theme::desktop && desktopIsDark());
     useIconTheme(dark);
@@ -130,12 +138,11 @@ void useTheme(Theme theme) {
 }
 
 Theme chosenTheme() {
-    const QString name = windowSettings().value(kThemeKey).toString();
-    return name == "dark" ? Theme::dark : name == "light" ? Theme::light : Theme::desktop;
+    return themeOf(windowSettings().value(kThemeKey).toString());
 }
 
 void chooseTheme(Theme theme) {
-    windowSettings().setValue(kThemeKey, theme == Theme::dark ? "dark" : theme == Theme::light ? "light" : "desktop");
+    windowSettings().setValue(kThemeKey, nameOf(theme));
     useTheme(theme);
 }
 

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
+#include "session/Recipe.h"
 #include "session/TextItems.h"
 
 namespace tavrin {
@@ -34,9 +35,15 @@ const GroupBox* groupOf(const QWidget* row) {
     return nullptr;
 }
 
+std::map<std::string, std::string> startOf(const SystemInfo& info) {
+    const SettingValues values = settingsOf(info);
+    return {values.begin(), values.end()};
+}
+
 }  // namespace
 
-Chips::Chips(Binder& binder, QWidget* parent) : QWidget(parent), binder_(binder) {
+Chips::Chips(Binder& binder, QWidget* parent)
+    : QWidget(parent), binder_(binder), start_(startOf(binder.editor().info())) {
     setObjectName("chips");
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     policy.setHeightForWidth(true);
@@ -48,14 +55,25 @@ Chips::Chips(Binder& binder, QWidget* parent) : QWidget(parent), binder_(binder)
     });
 }
 
+/// An item on the picture was not there at the start, so its defaults stand for that.
+bool Chips::isAtStart(const ControlRow& row) const {
+    const auto start = start_.find(binder_.settingOf(row.binding()));
+    if (row.binding().owner == Owner::item || start == start_.end()) return row.isAtDefault();
+    return start->second == binder_.editor().value(start->first);
+}
+
 Chips::Entry Chips::entryOf(ControlRow* row) const {
     return {row->binding().control,
             ControlRow::translated(row->binding().label),
             wordsOf(row),
             tr("Set here; a click leads to the control"),
-            tr("Put the default back"),
+            tr("Put back what it is at the start"),
             row,
-            [row] { emit row->resetWanted(); }};
+            [this, row] {
+                const auto start = start_.find(binder_.settingOf(row->binding()));
+                if (row->binding().owner == Owner::item || start == start_.end()) return emit row->resetWanted();
+                emit row->changed(QString::fromStdString(start->second).toDouble());
+            }};
 }
 
 Chips::Entry Chips::entryOf(const GroupBox* group) const {
@@ -91,7 +109,7 @@ std::vector<Chips::Entry> Chips::entries() const {
     for (ControlRow* row : binder_.rows()) {
         const GroupBox* group = groupOf(row);
         if (!group || !group->group().acts) {
-            if (!row->isAtDefault()) entries.push_back(entryOf(row));
+            if (!isAtStart(*row)) entries.push_back(entryOf(row));
         } else if (group != last && binder_.isOn(group->group())) {
             entries.push_back(entryOf(group));
         }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <string>
 #include <vector>
 
 #include <QTimer>
@@ -10,8 +12,9 @@
 
 namespace tavrin {
 
-/// What is set here: a chip for every effect that is on, and for every other control away from its default. A click
-/// on its words leads there; its cross switches the effect off, or puts the default back.
+/// What is set here: a chip for every effect that is on, and for every other control that stands elsewhere than at
+/// the program's start, whose state may be the user's own. A click on its words leads there; its cross switches the
+/// effect off, or puts back what stood there at the start.
 class Chips : public QWidget {
     Q_OBJECT
 
@@ -37,6 +40,7 @@ class Chips : public QWidget {
     };
 
     std::vector<Entry> entries() const;
+    bool isAtStart(const ControlRow& row) const;
     Entry entryOf(ControlRow* row) const;
     Entry entryOf(const GroupBox* group) const;
     Entry itemsEntry() const;
@@ -47,6 +51,7 @@ class Chips : public QWidget {
     int layOut(int width, bool place) const;
 
     Binder& binder_;
+    const std::map<std::string, std::string> start_;  ///< every setting, as it was when the window came to be
     QTimer due_;
     bool all_ = false;  ///< more than the first few
     std::vector<Entry> entries_;

@@ -93,6 +93,12 @@ void SettingsPage::controlTextDidChange(const QString& prefix) {
     emit changed();
 }
 
+void SettingsPage::addList(ListSetting setting) {
+    auto* row = new ListRow(std::move(setting));
+    connect(row, &ListRow::told, this, &SettingsPage::told);
+    habits_->addItem(row);
+}
+
 void SettingsPage::addBox(QAction* action) {
     auto* box = new QCheckBox(QString(action->text()).remove('&'));
     box->setObjectName("checkbox" + action->objectName());
@@ -111,6 +117,8 @@ void SettingsPage::addSizes(QWidget* sizes) {
 
 void SettingsPage::refresh() {
     for (PathRow* row : findChildren<PathRow*>())
+        row->refresh();
+    for (ListRow* row : findChildren<ListRow*>())
         row->refresh();
     if (!prefix_->hasFocus()) prefix_->setText(QString::fromStdString(settings_.sPrefix));
 }

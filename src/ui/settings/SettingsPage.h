@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/bind/PanelPage.h"
+#include "ui/settings/ListRow.h"
 #include "ui/settings/PathRow.h"
 
 class QAction;
@@ -16,6 +17,8 @@ class SettingsPage : public PanelPage {
   public:
     explicit SettingsPage(Binder& binder, QWidget* parent = nullptr);
 
+    /// Adds a list to choose from.
+    void addList(ListSetting setting);
     /// Adds a box that is on while a command is.
     void addBox(QAction* action);
     /// Adds the list of output sizes.
