@@ -8,6 +8,7 @@
 #include "pipeline/CombineThread.h"
 #include "ui/WindowBridge.h"
 #include "ui/bind/Binder.h"
+#include "ui/editor/Airbrush.h"
 #include "ui/frame/Commands.h"
 #include "ui/frame/MessageBar.h"
 #include "ui/frame/PictureFiles.h"
@@ -69,6 +70,7 @@ class MainWindow : public QMainWindow {
     SizeBox* sizeBox() const { return sizeBox_; }
     SidePanel* panel() const { return panel_; }
     PictureTools* pictureTools() const { return tools_; }
+    Airbrush* airbrush() const { return airbrush_; }
     Strip* strip() const { return strip_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
@@ -99,6 +101,8 @@ class MainWindow : public QMainWindow {
     void connectMaps();
     void connectBridge();
     void connectStrip();
+    void connectAirbrush();
+    void offerLostStrokes(int strokes);
     void connectSettings();
     void connectLists();
     void askForFolder();
@@ -156,6 +160,7 @@ class MainWindow : public QMainWindow {
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
     PictureTools* tools_;
+    Airbrush* airbrush_;
     Commands* commands_ = nullptr;
     QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;
     QProgressBar* progress_ = nullptr;

@@ -136,7 +136,12 @@ void MainWindow::askForSave() {
 
 bool MainWindow::saveTo(const QString& path) {
     const SaveTarget target = saveTargetOf(nameOfText(path));
-    const bool taken = files_->savePicture(textOfName(target.picture()));
+    if (airbrush_->isReplaying()) {
+        messages_->tell(tr("The edits are still being replayed."));
+        return false;
+    }
+    bool taken = false;
+    airbrush_->withoutPattern([&] { taken = files_->savePicture(textOfName(target.picture())); });
     if (!taken) {
         messages_->tell(tr("The picture is not finished yet."));
     } else if (info_.oQLXInfo->bAutoQLXSave) {
@@ -155,8 +160,9 @@ void MainWindow::openForHost(const QString& path) {
 /// No state is written beside the host's file. With the picture the host gets the screen back.
 void MainWindow::saveForHost() {
     const SaveTarget target = saveTargetOf(info_.pForegroundBitmapInfo->sSourceImageFullPath);
-    if (!files_->saveOver(textOfName(target.picture())))
-        return messages_->tell(tr("The picture is not finished yet."));
+    bool taken = false;
+    airbrush_->withoutPattern([&] { taken = files_->saveOver(textOfName(target.picture())); });
+    if (!taken) return messages_->tell(tr("The picture is not finished yet."));
     info_.bLightroomActive = false;
     returning_ = true;
     tellSaveButton();
