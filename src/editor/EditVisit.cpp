@@ -45,11 +45,15 @@ std::vector<EditItem> itemsTo(const EditVisit& wanted, const EditVisit& from) {
     return items;
 }
 
+int strokesOf(const EditVisit& visit) {
+    return static_cast<int>(std::ranges::count(visit.items, std::int64_t{kMouseDown}, &EditItem::kind));
+}
+
 int strokesOf(const std::vector<EditVisit>& visits) {
-    std::ptrdiff_t strokes = 0;
+    int strokes = 0;
     for (const EditVisit& visit : visits)
-        strokes += std::ranges::count(visit.items, std::int64_t{kMouseDown}, &EditItem::kind);
-    return static_cast<int>(strokes);
+        strokes += strokesOf(visit);
+    return strokes;
 }
 
 EditFile fileOf(const std::vector<EditVisit>& visits, int width, int height, double zoom) {

@@ -19,7 +19,8 @@ struct EditVisit {
 /// What brings the tools from the start of one visit to that of another.
 std::vector<EditItem> itemsTo(const EditVisit& wanted, const EditVisit& from);
 
-/// Strokes that were begun in these visits.
+/// Strokes that were begun in a visit, or in all of these.
+int strokesOf(const EditVisit& visit);
 int strokesOf(const std::vector<EditVisit>& visits);
 
 /// All that visits did, one after the other, as a file that begins with the tools as they are when the program

@@ -79,16 +79,21 @@ EditorFace EditorDoor::face() {
     face.undoBytes = undoBytes_;
     face.recorded = editor_.recording.count();
     face.replaying = replaying_;
-    std::vector<EditVisit> done = visits_;
-    if (face.recorded > 0) done.push_back(present());
-    if (!lost_.empty() && !isAnother()) done = lost_;
-    face.lost = isSamePortrait() && (isAnother() || !lost_.empty()) ? strokesOf(done) : 0;
-    face.replayable = lost_.empty() ? strokesOf({last_}) : strokesOf(lost_);
+    if (isSamePortrait()) face.lost = strokesOf(overwritten());
+    face.replayable = lost_.empty() ? strokesOf(last_) : strokesOf(lost_);
     if (problem_.empty()) problem_ = std::exchange(editor_.undoFiles.problem, "");
     if (problem_.empty() && face.recorded == kMostEditItems && !std::exchange(toldFull_, true))
         problem_ = "The recording is full: what is done from here on stays in the picture, but no replay has it.";
     face.problem = std::exchange(problem_, "");
     return face;
+}
+
+// What the present picture was made without.
+std::vector<EditVisit> EditorDoor::overwritten() const {
+    std::vector<EditVisit> gone;
+    if (isAnother()) gone = visits_;
+    if (isAnother() && editor_.recording.count() > 0) gone.push_back(present());
+    return gone.empty() ? lost_ : gone;
 }
 
 void EditorDoor::enter() {
@@ -171,7 +176,7 @@ void EditorDoor::leave() {
 void EditorDoor::closeForPass() {
     {
         const std::lock_guard lock(mutex_);
-        pieces_.clear();
+        std::erase_if(pieces_, [](const Piece& piece) { return piece.ofPicture; });
     }
     editor_.ExitEditorMode();
     editor_.armEyeDropper(false);
@@ -198,19 +203,21 @@ EditedRows EditorDoor::doNow(const EditItem& item) {
 
 void EditorDoor::applyAt(std::int64_t kind, double x, double y, std::int64_t character) {
     push({[=, this]() -> EditedRows {
-        const double up = info_.geometry(Resolution::full).height - std::floor(y);
-        const auto point = [&](double pixels) {
-            return static_cast<std::int64_t>(std::floor(pixels / editor_.dScreenZoom));
-        };
-        return doNow({kind, point(std::floor(x)), point(up), character});
-    }});
+              const double up = info_.geometry(Resolution::full).height - std::floor(y);
+              const auto point = [&](double pixels) {
+                  return static_cast<std::int64_t>(std::floor(pixels / editor_.dScreenZoom));
+              };
+              return doNow({kind, point(std::floor(x)), point(up), character});
+          },
+          false, true});
 }
 
 void EditorDoor::armEyeDropper(bool on) {
     push({[this, on]() -> EditedRows {
-        editor_.armEyeDropper(on && editor_.bShowCursor);
-        return {};
-    }});
+              editor_.armEyeDropper(on && editor_.bShowCursor);
+              return {};
+          },
+          false, true});
 }
 
 void EditorDoor::look() {

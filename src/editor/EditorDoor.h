@@ -50,6 +50,8 @@ class EditorDoor {
     void replay();
     /// Plays a file of edits on the present picture.
     void play(EditFile file);
+    /// Strokes that were kept with the portrait at hand: they count as overwritten.
+    void offer(EditFile file);
     /// Hands over what was done to the present picture, or what a replay would bring; on the loop's thread.
     void askForFile(std::function<void(const EditFile&)> take);
     /// Does work that lets the picture out, and wants none of the selection's pattern in it.
@@ -68,7 +70,8 @@ class EditorDoor {
   private:
     struct Piece {
         std::function<EditedRows()> run;
-        bool sliders = false;
+        bool sliders = false;    ///< one behind another takes its place
+        bool ofPicture = false;  ///< means the picture that stands, and goes with it
     };
 
     void push(Piece piece);
@@ -84,10 +87,12 @@ class EditorDoor {
     double homeZoom() const;
     EditedRows replayNow();
     EditedRows playNow(EditFile file);
+    EditVisit visitOf(const EditFile& file) const;
     EditVisit tools() const;
     void begin(const EditVisit& visit);
     EditedRows tick();
     EditVisit present() const;
+    std::vector<EditVisit> overwritten() const;
 
     SystemInfo& info_;
     CombineThread& loop_;

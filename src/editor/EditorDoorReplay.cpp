@@ -24,7 +24,7 @@ EditedRows EditorDoor::replayNow() {
     whole_.insert(whole_.end(), toPlay_.begin(), toPlay_.end());
     replaying_ = true;
     begin(toPlay_.front());
-    push({[this] { return tick(); }});
+    push({[this] { return tick(); }, false, true});
     return {};
 }
 
@@ -36,6 +36,12 @@ EditedRows EditorDoor::playNow(EditFile file) {
         frameHeight_ = frame;
         editor_.setScreenZoom(homeZoom());
     }
+    lost_ = {visitOf(file)};
+    return replayNow();
+}
+
+EditVisit EditorDoor::visitOf(const EditFile& file) const {
+    const double frame = file.height / file.zoom;
     const auto scaled = [&](std::int64_t v) {
         return frame == frameHeight_ ? v : std::llround(static_cast<double>(v) * frameHeight_ / frame);
     };
@@ -47,8 +53,21 @@ EditedRows EditorDoor::playNow(EditFile file) {
         }
         visit.items.push_back(item);
     }
-    lost_ = {std::move(visit)};
-    return replayNow();
+    return visit;
+}
+
+void EditorDoor::offer(EditFile file) {
+    push({[this, file = std::move(file)]() -> EditedRows {
+        if (editor_.bShowCursor) return {};
+        visits_.clear();
+        editor_.recording.clear();
+        frameHeight_ = file.height / file.zoom;
+        lost_ = {visitOf(file)};
+        last_ = lost_.back();
+        portrait_ = info_.pForegroundBitmapInfo->sSourceImageFullPath.load();
+        number_ = -1;
+        return {};
+    }});
 }
 
 // Behind strokes of this visit the way to the other tools is recorded, too.
@@ -83,7 +102,7 @@ EditedRows EditorDoor::tick() {
             begin(toPlay_.front());
         }
     }
-    if (replaying_) push({[this] { return tick(); }});
+    if (replaying_) push({[this] { return tick(); }, false, true});
     return changed;
 }
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QColorSpace>
 #include <QComboBox>
 #include <QLabel>
 #include <QRadioButton>
@@ -24,6 +25,8 @@ class EditorTest : public test::WindowTest {
   protected:
     void SetUp() override {
         WindowTest::SetUp();
+        test::addSize(*info_, "large", 480.0 / 92, 600.0 / 92, 92);
+        chooseSizeByName(*info_, "test");
         open({1300, 800});
         window_->strip()->setFolded(true);
         QTest::qWait(20);
@@ -281,13 +284,77 @@ TEST_F(EditorTest, WhatIsSavedIsWhatIsSeenWithoutThePatternOfASelection) {
     find<QRadioButton>("radioCombineSelect")->click();
     ASSERT_TRUE(QTest::qWaitFor([&] { return face().iSelectionMode == ColorSelection::kCombinedColor; }));
     find<QCheckBox>("editCheckbox")->click();  // all but black is protected
-    ASSERT_TRUE(QTest::qWaitFor([&] { return picture() != edited; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return face().brush.bCheckBoxValue; }));
+    QTest::qWait(50);
     const QImage pattern = picture();
+    EXPECT_NE(pattern, edited);
     const QString path = QString::fromStdString(folder_.file("out.png"));
     ASSERT_TRUE(window_->saveTo(path));
     ASSERT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 10000));
-    EXPECT_EQ(QImage(path).convertToFormat(QImage::Format_RGB32), edited.convertToFormat(QImage::Format_RGB32));
+    QImage saved(path);
+    saved.setColorSpace({});
+    EXPECT_EQ(saved.convertToFormat(QImage::Format_RGB32), edited.convertToFormat(QImage::Format_RGB32));
     EXPECT_TRUE(QTest::qWaitFor([&] { return picture() == pattern; }));  // and it is seen again
+}
+
+TEST_F(EditorTest, StrokesComeBackAfterAKillAndWithTheirPortrait) {
+    ASSERT_TRUE(enter());
+    choose(kPaint);
+    stroke({60, 40}, {90, 60});
+    stroke({100, 120}, {140, 180});
+    const QImage edited = picture();
+    QTest::qWait(100);
+    window_->endFromOutside();
+    window_.reset();
+    info_ = test::stateForOutput(240, 300);
+    info_->pForegroundBitmapInfo->sSourceImageFullPath = background_;
+    info_->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
+    open({1300, 800});
+    view_ = window_->view();
+    window_->offerLeftRecipes();
+    find<QToolButton>("TakeUp")->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->messages()->question().contains("airbrush"); }, 10000));
+    EXPECT_NE(picture(), edited);
+    find<QToolButton>("BringBack")->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return picture() == edited && face().step == 2; }, 10000));
+    EXPECT_TRUE(face().canUndo);
+    // Another portrait has none of them, and the first one gets its own again.
+    const std::string ben = test::savePng(test::discOnScreen(200, 300), folder_.file("ben.png"));
+    window_->openForeground(QString::fromStdString(ben));
+    ASSERT_TRUE(waitForPicture());
+    QTest::qWait(100);
+    EXPECT_EQ(face().lost, 0);
+    window_->openForeground(QString::fromStdString(portrait_));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return face().lost == 2; }, 10000));
+}
+
+TEST_F(EditorTest, AnotherOutputSizeTakesTheStrokesToTheSamePlaces) {
+    ASSERT_TRUE(enter());
+    choose(kPaint);
+    stroke({60, 40}, {90, 60});
+    const int index = window_->sizeBox()->findText("large");
+    ASSERT_GE(index, 0);
+    window_->sizeBox()->setCurrentIndex(index);
+    emit window_->sizeBox()->activated(index);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return view_->fullPicture().width() == 480 && view_->isFull() && airbrush().isOpen(); }, 10000));
+    EXPECT_NE(picture().pixelColor(150, 100), QColor(40, 40, 150));
+    find<QToolButton>("buttonReplayEdits")->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture().pixelColor(150, 100) == QColor(40, 40, 150); }));
+    stroke({300, 500}, {320, 520});  // new strokes lie where the mouse is
+    EXPECT_EQ(picture().pixelColor(310, 510), QColor(40, 40, 150));
+}
+
+TEST_F(EditorTest, AFullRecordingIsToldAndStopsNoStroke) {
+    ASSERT_TRUE(enter());
+    view_->setFocus();
+    for (int i = 0; i < kMostEditItems; ++i)
+        QTest::keyClick(view_, i % 2 ? Qt::Key_P : Qt::Key_E);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return face().recorded == kMostEditItems; }));
+    EXPECT_TRUE(window_->messages()->details().contains("recording is full"));
+    stroke({60, 40}, {90, 60});
+    EXPECT_EQ(picture().pixelColor(75, 50), QColor(40, 40, 150));
+    EXPECT_TRUE(action("UndoButton")->isEnabled());
 }
 
 TEST_F(EditorTest, AFolderThatCannotTakeStepsCostsOnlyTheUndo) {

@@ -55,7 +55,10 @@ void Airbrush::take(const EditorFace& face) {
         view_->setDrawing(face.open);
         emit modeChanged(face.open);
     }
-    if (before.step != face.step || before.replaying != face.replaying) emit edited();
+    if (before.step != face.step || before.replaying != face.replaying) {
+        emit edited();
+        if (face.open && !face.replaying && face.recorded > 0) keepStrokes();
+    }
     emit changed();
     if (face.lost == 0) lostTold_ = 0;
     if (finished_ && !face.replaying && std::exchange(lostTold_, face.lost) != face.lost && face.lost > 0)
@@ -64,6 +67,18 @@ void Airbrush::take(const EditorFace& face) {
 
 void Airbrush::replay() {
     door_.replay();
+}
+
+void Airbrush::keepStrokes() {
+    door_.askForFile([this](const EditFile& file) {
+        QMetaObject::invokeMethod(
+            this, [this, file] { emit strokesChanged(file); }, Qt::QueuedConnection);
+    });
+}
+
+void Airbrush::offer(const std::string& edits) {
+    ReadEdits read = parseEdits("", edits);
+    if (read.problem.empty()) door_.offer(std::move(read.file));
 }
 
 QString Airbrush::suggestedFile() const {

@@ -33,6 +33,9 @@ class Airbrush : public QObject {
     void replay();
     void saveEdits(const QString& path);
     void loadEdits(const QString& path);
+    /// Strokes that were kept with the portrait at hand, as the text of a file of edits, to be brought back when
+    /// asked.
+    void offer(const std::string& edits);
     void askForFileToSave();
     void askForFileToLoad();
     /// Does what lets the picture out, without the pattern of a selection.
@@ -47,6 +50,8 @@ class Airbrush : public QObject {
     void changed();
     /// The picture has other pixels than after the last stroke.
     void edited();
+    /// All strokes that the present picture has, or had.
+    void strokesChanged(const EditFile& file);
     /// The present picture was made without so many strokes, which a replay brings back.
     void strokesLost(int strokes);
     void told(const QString& line);
@@ -54,6 +59,7 @@ class Airbrush : public QObject {
 
   private:
     void take(const EditorFace& face);
+    void keepStrokes();
     void write(const QString& path, const EditFile& file);
     QString suggestedFile() const;
 

@@ -27,6 +27,9 @@ BrushSlider::BrushSlider(const char* name, QWidget* parent)
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setVerticalSpacing(0);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
+    number_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     layout->addWidget(text_, 0, 0, 1, 2);
     layout->addWidget(number_, 0, 2, 2, 1);
     layout->addWidget(groove_, 1, 0, 1, 2);

@@ -16,6 +16,9 @@ void MainWindow::connectAirbrush() {
     connect(airbrush_, &Airbrush::strokesLost, this, &MainWindow::offerLostStrokes);
     connect(airbrush_, &Airbrush::told, messages_, &MessageBar::tell);
     connect(airbrush_, &Airbrush::failed, messages_, &MessageBar::fail);
+    connect(airbrush_, &Airbrush::strokesChanged, keeping_,
+            [this](const EditFile& file) { keeping_->noteEdits(editText(file)); });
+    connect(keeping_, &Safekeeping::tookUpEdits, airbrush_, &Airbrush::offer);
     EditorPage* page = airbrush_->page();
     page->addAction(commands_->action("UndoButton"), "editorUndo", "undo:");
     page->addAction(commands_->action("RedoButton"), "editorRedo", "redo:");

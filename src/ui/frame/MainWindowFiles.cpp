@@ -19,6 +19,7 @@ void MainWindow::openFile(const QString& path) {
 
 void MainWindow::openForeground(const QString& path) {
     keeping_->leavePortrait();
+    keeping_->forgetEdits();
     std::optional<Recipe> known = keeping_->knownOf(path);
     if (!known && commands_->action("ForegroundReset")->isChecked()) return openReset(path);
     files_->openForeground(path, (!known || known->settings.empty()) && frameAction()->isChecked());
@@ -45,6 +46,7 @@ void MainWindow::openState(const QString& path) {
     finished_ = false;
     commands_->refresh();
     keeping_->leavePortrait();
+    keeping_->forgetEdits();
     files_->openState(path);
     keeping_->waitForState();
 }

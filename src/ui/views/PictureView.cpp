@@ -71,7 +71,7 @@ void PictureView::takeRows(const PublishedRows& rows) {
 void PictureView::takeEdited(const PublishedRows& rows) {
     const bool smallStands = smallOf_ == full_.cacheKey() && !small_.isNull();
     putRows(rows.isPreview() ? preview_ : full_, rows);
-    if (rows.isPreview() || !smallStands) return;
+    if (rows.isPreview() || !smallStands || rows.height != full_.height()) return;
     shrinkRows(full_, rows.firstRow, rows.firstRow + rows.rowCount, small_);
     smallOf_ = full_.cacheKey();
 }
