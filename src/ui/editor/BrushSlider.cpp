@@ -57,6 +57,11 @@ void BrushSlider::setTexts(const QString& text, const QString& least, const QStr
     number_->setAccessibleName(tr("%1, number").arg(spoken));
 }
 
+void BrushSlider::setTip(const QString& tip) {
+    for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(groove_)})
+        part->setToolTip(tip);
+}
+
 int BrushSlider::value() const {
     return groove_->value();
 }

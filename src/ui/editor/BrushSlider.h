@@ -17,6 +17,7 @@ class BrushSlider : public QWidget {
     explicit BrushSlider(const char* name, QWidget* parent = nullptr);
 
     void setTexts(const QString& text, const QString& least, const QString& most);
+    void setTip(const QString& tip);
     int value() const;
     /// Shows a value, unless a hand is on the slider.
     void showValue(int value);

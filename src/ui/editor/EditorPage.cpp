@@ -198,12 +198,13 @@ QWidget* EditorPage::makeSliders() {
     connect(box_, &QCheckBox::clicked, this, [this](bool on) { door_.apply({kCheckBox, on}); });
     column->addWidget(box_);
     radius_->setTexts(tr("Radius"), tr("Small"), tr("Large"));
-    radius_->setToolTip(tr("How wide the brush is; [ and ] on the picture"));
+    radius_->setTip(tr("How wide the brush is; [ and ] on the picture"));
     hardness_->setTexts(tr("Hardness"), tr("Soft"), tr("Hard"));
-    hardness_->setToolTip(tr("How far from its middle the brush has its full strength"));
+    hardness_->setTip(tr("How far from its middle the brush has its full strength"));
     transparency_->setTexts(tr("Transparency"), tr("Faint"), tr("Full"));
-    transparency_->setToolTip(tr("How much a stroke does in the middle of the brush"));
-    general_->setToolTip(tr("What this tool does, from its least to its most"));
+    transparency_->setTip(tr("How much a stroke does in the middle of the brush"));
+    general_->setTexts(tr("Tool"), {}, {});
+    general_->setTip(tr("What this tool does, from its least to its most"));
     for (BrushSlider* slider : {general_, radius_, hardness_, transparency_}) {
         column->addWidget(slider);
         connect(slider, &BrushSlider::moved, this, &EditorPage::editSliderChange);
@@ -354,8 +355,9 @@ void EditorPage::showTool(const EditorFace& face) {
     swatch.fill(colour_);
     well_->setIcon(swatch);
     general_->setVisible(brush.bSliderEnabled);
-    general_->setTexts(translatedWord(brush.sSliderText), translatedWord(brush.sSliderMin),
-                       translatedWord(brush.sSliderMax));
+    if (brush.bSliderEnabled)
+        general_->setTexts(translatedWord(brush.sSliderText), translatedWord(brush.sSliderMin),
+                           translatedWord(brush.sSliderMax));
     for (BrushSlider* slider : {radius_, hardness_, transparency_})
         slider->setVisible(!selects);
     general_->showValue(percent(brush.dBrushSlider));
