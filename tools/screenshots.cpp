@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -142,6 +143,44 @@ void shootEffects(MainWindow& window, const std::function<void(const char*)>& sa
     window.binder().editor().forgetSteps();
 }
 
+/// The airbrush with strokes on the picture, and its controls for a selection.
+void shootAirbrush(MainWindow& window, SystemInfo& info, const std::function<void(const char*)>& save) {
+    PictureView* view = window.view();
+    window.panel()->selectMainTab(2);
+    settle(window, info);
+    const auto choose = [&](int brush) {
+        window.findChild<QAbstractButton*>(QString("buttonBrush%1").arg(brush))->click();
+        settle(window, info);
+    };
+    const auto mouse = [&](QEvent::Type type, double x, double y) {
+        const QPointF at =
+            view->zoom().viewAt({x * view->zoom().picture().width(), y * view->zoom().picture().height()});
+        QMouseEvent event(type, at, view->mapToGlobal(at), Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view, &event);
+    };
+    const auto stroke = [&](double x, double y, double toX, double toY) {
+        mouse(QEvent::MouseButtonPress, x, y);
+        for (int i = 1; i <= 20; ++i)
+            mouse(QEvent::MouseMove, x + (toX - x) * i / 20, y + (toY - y) * i / 20);
+        mouse(QEvent::MouseButtonRelease, toX, toY);
+        settle(window, info);
+    };
+    choose(kPaint);
+    stroke(0.15, 0.2, 0.4, 0.12);
+    choose(kEraseForeground);
+    stroke(0.4, 0.8, 0.6, 0.85);
+    save("airbrush");
+    choose(kSelection);
+    window.findChild<QAbstractButton*>("radioCombineSelect")->click();
+    save("airbrush-selection");
+    window.findChild<QAbstractButton*>("radioNoSelect")->click();
+    window.panel()->selectMainTab(0);
+    info.StartUpdate();
+    settle(window, info);
+    if (auto* leave = window.findChild<QAbstractButton*>("LeaveThem")) leave->click();
+}
+
 /// The pictures of the user's guide: a small window in the light theme, with few colours so that they stay small.
 class Guide {
   public:
@@ -244,6 +283,7 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
             window.panel()->selectMainTab(page->title().key);
             save(page->title().name);
         }
+        shootAirbrush(window, *info, save);
         shootEffects(window, save);
         window.panel()->selectMainTab(0);
         const auto action = [&](const char* id) { return window.commands().action(id); };

@@ -1780,6 +1780,198 @@
         <source>Guard</source>
         <translation>Schutz</translation>
     </message>
+    <message>
+        <source>Erase Foreground</source>
+        <translation>Vordergrund löschen</translation>
+    </message>
+    <message>
+        <source>Takes the portrait away, so that the background shows</source>
+        <translation>Nimmt das Porträt weg, so dass der Hintergrund zu sehen ist</translation>
+    </message>
+    <message>
+        <source>Restore Foreground</source>
+        <translation>Vordergrund zurückholen</translation>
+    </message>
+    <message>
+        <source>Brings back what the key took from the portrait</source>
+        <translation>Holt zurück, was beim Freistellen vom Porträt verloren ging</translation>
+    </message>
+    <message>
+        <source>Blend Foreground</source>
+        <translation>Vordergrund mischen</translation>
+    </message>
+    <message>
+        <source>Mixes portrait and background as the slider says</source>
+        <translation>Mischt Porträt und Hintergrund, wie es der Regler sagt</translation>
+    </message>
+    <message>
+        <source>Restore Hair</source>
+        <translation>Haare zurückholen</translation>
+    </message>
+    <message>
+        <source>Brings hair of the chosen colour back, without the screen in it</source>
+        <translation>Holt Haare der gewählten Farbe zurück, ohne die Leinwand darin</translation>
+    </message>
+    <message>
+        <source>Remove Green Spill</source>
+        <translation>Grünstich entfernen</translation>
+    </message>
+    <message>
+        <source>Takes the screen&apos;s light off skin, hair and clothes</source>
+        <translation>Nimmt das Licht der Leinwand von Haut, Haaren und Kleidung</translation>
+    </message>
+    <message>
+        <source>Filter Color</source>
+        <translation>Farbe filtern</translation>
+    </message>
+    <message>
+        <source>Keeps what is near the chosen colour, and takes the screen out of it</source>
+        <translation>Behält, was der gewählten Farbe nahe ist, und nimmt die Leinwand heraus</translation>
+    </message>
+    <message>
+        <source>Blend Edge</source>
+        <translation>Kante mischen</translation>
+    </message>
+    <message>
+        <source>Softens an edge where green is near</source>
+        <translation>Macht eine Kante weich, wo Grün in der Nähe ist</translation>
+    </message>
+    <message>
+        <source>Restore Black</source>
+        <translation>Schwarz zurückholen</translation>
+    </message>
+    <message>
+        <source>Makes dark places grey again that turned green</source>
+        <translation>Macht dunkle Stellen wieder grau, die grün geworden sind</translation>
+    </message>
+    <message>
+        <source>Make Whiter</source>
+        <translation>Weißer machen</translation>
+    </message>
+    <message>
+        <source>Takes a tint off what is nearly white, such as a veil</source>
+        <translation>Nimmt den Farbstich von fast Weißem, etwa einem Schleier</translation>
+    </message>
+    <message>
+        <source>Makes darker or brighter</source>
+        <translation>Macht dunkler oder heller</translation>
+    </message>
+    <message>
+        <source>Less or more contrast</source>
+        <translation>Weniger oder mehr Kontrast</translation>
+    </message>
+    <message>
+        <source>Makes a place unsharp</source>
+        <translation>Macht eine Stelle unscharf</translation>
+    </message>
+    <message>
+        <source>Evens out the light of skin and cloth, and leaves its colour</source>
+        <translation>Gleicht das Licht von Haut und Stoff aus und lässt die Farbe</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>Malen</translation>
+    </message>
+    <message>
+        <source>Paints with the chosen colour</source>
+        <translation>Malt mit der gewählten Farbe</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copies from the place where A was pressed on the picture</source>
+        <translation>Kopiert von der Stelle, an der auf dem Bild A gedrückt wurde</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Protects what is near a colour from all the other tools</source>
+        <translation>Schützt, was einer Farbe nahe ist, vor allen anderen Werkzeugen</translation>
+    </message>
+    <message>
+        <source>Keep Grayscale</source>
+        <translation>Helligkeit behalten</translation>
+    </message>
+    <message>
+        <source>Erase only if green</source>
+        <translation>Nur Grünes löschen</translation>
+    </message>
+    <message>
+        <source>Restore Green Areas</source>
+        <translation>Auch Grünes zurückholen</translation>
+    </message>
+    <message>
+        <source>Lock Anchor</source>
+        <translation>Anker festhalten</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Auswahl umkehren</translation>
+    </message>
+    <message>
+        <source>Blend</source>
+        <translation>Mischung</translation>
+    </message>
+    <message>
+        <source>Foreground</source>
+        <translation>Vordergrund</translation>
+    </message>
+    <message>
+        <source>Darker</source>
+        <translation>Dunkler</translation>
+    </message>
+    <message>
+        <source>Brighter</source>
+        <translation>Heller</translation>
+    </message>
+    <message>
+        <source>Tolerance</source>
+        <translation>Toleranz</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Gering</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Edge Sample</source>
+        <translation>Kantenbereich</translation>
+    </message>
+    <message>
+        <source>Blur Radius</source>
+        <translation>Radius der Unschärfe</translation>
+    </message>
+    <message>
+        <source>Smooth Radius</source>
+        <translation>Radius der Glättung</translation>
+    </message>
+    <message>
+        <source>Airbrush</source>
+        <translation>Airbrush</translation>
+    </message>
+    <message>
+        <source>Mends the finished picture by hand</source>
+        <translation>Bessert das fertige Bild von Hand aus</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Pinsel</translation>
+    </message>
+    <message>
+        <source>Steps and edits</source>
+        <translation>Schritte und Striche</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -1990,6 +2182,89 @@
     </message>
 </context>
 <context>
+    <name>tavrin::Airbrush</name>
+    <message>
+        <source>Airbrush</source>
+        <translation>Airbrush</translation>
+    </message>
+    <message>
+        <source>Save Edits</source>
+        <translation>Striche speichern</translation>
+    </message>
+    <message>
+        <source>Edits (*.edits)</source>
+        <translation>Striche (*.edits)</translation>
+    </message>
+    <message>
+        <source>Load Edits</source>
+        <translation>Striche laden</translation>
+    </message>
+    <message>
+        <source>Edits (*.edits);;All files (*)</source>
+        <translation>Striche (*.edits);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The edits cannot be saved.</source>
+        <translation>Die Striche können nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Not all edits are in the file.</source>
+        <translation>Nicht alle Striche stehen in der Datei.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 items, and there were %3 more.</source>
+        <translation>%1 fasst %2 Einträge, und es waren %3 mehr.</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>The edits cannot be loaded.</source>
+        <translation>Die Striche können nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>The edits were made for a picture of %1 x %2 pixels, and this one has %3 x %4: their places go with its height.</source>
+        <translation>Die Striche wurden für ein Bild von %1 x %2 Pixel gemacht, und dieses hat %3 x %4: Ihre Stellen richten sich nach der Höhe.</translation>
+    </message>
+    <message>
+        <source>The file has more than %1 items; %2 were left out.</source>
+        <translation>Die Datei hat mehr als %1 Einträge; %2 wurden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Items of kinds that are not known here were left out: %1.</source>
+        <translation>Einträge unbekannter Art wurden ausgelassen: %1.</translation>
+    </message>
+    <message>
+        <source>The edits were loaded.</source>
+        <translation>Die Striche wurden geladen.</translation>
+    </message>
+    <message>
+        <source>Replay &amp;Edits</source>
+        <translation>Striche &amp;wiederholen</translation>
+    </message>
+    <message>
+        <source>Does again what was done with the airbrush, on the picture that stands</source>
+        <translation>Macht auf dem jetzigen Bild noch einmal, was mit dem Airbrush gemacht wurde</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Edits...</source>
+        <translation>Striche s&amp;peichern...</translation>
+    </message>
+    <message>
+        <source>Writes all strokes into a file, to be played on this or another picture</source>
+        <translation>Schreibt alle Striche in eine Datei, für dieses oder ein anderes Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Load Edits...</source>
+        <translation>Striche &amp;laden...</translation>
+    </message>
+    <message>
+        <source>Plays the strokes of a file on this picture</source>
+        <translation>Macht die Striche einer Datei auf diesem Bild</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::BackgroundGrid</name>
     <message>
         <source>All Backgrounds</source>
@@ -2025,6 +2300,17 @@
     <message>
         <source>%1 off</source>
         <translation>%1 aus</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::BrushSlider</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1, number</source>
+        <translation>%1, Zahl</translation>
     </message>
 </context>
 <context>
@@ -2169,6 +2455,177 @@
     <message>
         <source>Reset %1</source>
         <translation>%1 zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::EditorPage</name>
+    <message>
+        <source>Keeps light and dark, and changes only the colour</source>
+        <translation>Behält Hell und Dunkel und ändert nur die Farbe</translation>
+    </message>
+    <message>
+        <source>Leaves what has another hue than the screen</source>
+        <translation>Lässt stehen, was einen anderen Farbton als die Leinwand hat</translation>
+    </message>
+    <message>
+        <source>Brings back also what is as green as the screen</source>
+        <translation>Holt auch zurück, was so grün wie die Leinwand ist</translation>
+    </message>
+    <message>
+        <source>Every stroke begins at the anchor again</source>
+        <translation>Jeder Strich beginnt wieder beim Anker</translation>
+    </message>
+    <message>
+        <source>Protects what is not near the colour</source>
+        <translation>Schützt, was der Farbe nicht nahe ist</translation>
+    </message>
+    <message>
+        <source>The airbrush opens when the full picture is there.</source>
+        <translation>Der Airbrush öffnet sich, wenn das ganze Bild da ist.</translation>
+    </message>
+    <message>
+        <source>Undo, replay and files of edits</source>
+        <translation>Rückgängig, Wiederholen und Dateien der Striche</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>Werkzeug</translation>
+    </message>
+    <message>
+        <source>%1 (key %2)</source>
+        <translation>%1 (Taste %2)</translation>
+    </message>
+    <message>
+        <source>Radius, hardness, transparency, colour</source>
+        <translation>Radius, Härte, Deckkraft, Farbe</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>How wide the brush is; [ and ] on the picture</source>
+        <translation>Wie breit der Pinsel ist; [ und ] auf dem Bild</translation>
+    </message>
+    <message>
+        <source>Hardness</source>
+        <translation>Härte</translation>
+    </message>
+    <message>
+        <source>Soft</source>
+        <translation>Weich</translation>
+    </message>
+    <message>
+        <source>Hard</source>
+        <translation>Hart</translation>
+    </message>
+    <message>
+        <source>How far from its middle the brush has its full strength</source>
+        <translation>Wie weit von der Mitte der Pinsel seine volle Stärke hat</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparenz</translation>
+    </message>
+    <message>
+        <source>Faint</source>
+        <translation>Schwach</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Voll</translation>
+    </message>
+    <message>
+        <source>How much a stroke does in the middle of the brush</source>
+        <translation>Wie viel ein Strich in der Mitte des Pinsels bewirkt</translation>
+    </message>
+    <message>
+        <source>What this tool does, from its least to its most</source>
+        <translation>Was dieses Werkzeug bewirkt, vom Wenigsten zum Meisten</translation>
+    </message>
+    <message>
+        <source>Colour...</source>
+        <translation>Farbe...</translation>
+    </message>
+    <message>
+        <source>The colour of this tool</source>
+        <translation>Die Farbe dieses Werkzeugs</translation>
+    </message>
+    <message>
+        <source>From the picture</source>
+        <translation>Aus dem Bild</translation>
+    </message>
+    <message>
+        <source>The next click on the picture takes its colour</source>
+        <translation>Der nächste Klick auf das Bild nimmt dessen Farbe</translation>
+    </message>
+    <message>
+        <source>No selection</source>
+        <translation>Keine Auswahl</translation>
+    </message>
+    <message>
+        <source>Nothing is protected</source>
+        <translation>Nichts ist geschützt</translation>
+    </message>
+    <message>
+        <source>Colours of the portrait</source>
+        <translation>Farben des Porträts</translation>
+    </message>
+    <message>
+        <source>Protects by the colours that the portrait was taken with</source>
+        <translation>Schützt nach den Farben, mit denen das Porträt aufgenommen wurde</translation>
+    </message>
+    <message>
+        <source>Colours of the result</source>
+        <translation>Farben des Ergebnisses</translation>
+    </message>
+    <message>
+        <source>Protects by the colours that are seen</source>
+        <translation>Schützt nach den Farben, die zu sehen sind</translation>
+    </message>
+    <message>
+        <source>Pressure of a pen</source>
+        <translation>Druck eines Stifts</translation>
+    </message>
+    <message>
+        <source>Changes nothing</source>
+        <translation>Ändert nichts</translation>
+    </message>
+    <message>
+        <source>Changes the radius</source>
+        <translation>Ändert den Radius</translation>
+    </message>
+    <message>
+        <source>Changes the strength</source>
+        <translation>Ändert die Stärke</translation>
+    </message>
+    <message>
+        <source>What a pen on a tablet changes by how hard it is pressed</source>
+        <translation>Was ein Stift auf einem Tablett durch seinen Druck ändert</translation>
+    </message>
+    <message>
+        <source>Show alpha</source>
+        <translation>Alpha zeigen</translation>
+    </message>
+    <message>
+        <source>Colour of the Tool</source>
+        <translation>Farbe des Werkzeugs</translation>
+    </message>
+    <message>
+        <source>The edits are replayed...</source>
+        <translation>Die Striche werden wiederholt...</translation>
+    </message>
+    <message>
+        <source>%1 steps to take back, %2 MB on the disk; %3 of %4 items recorded</source>
+        <translation>%1 Schritte zum Zurücknehmen, %2 MB auf der Platte; %3 von %4 Einträgen aufgezeichnet</translation>
     </message>
 </context>
 <context>
@@ -3255,6 +3712,42 @@
     <message>
         <source>Shortcut</source>
         <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Take the last stroke back</source>
+        <translation>Den letzten Strich zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Do the stroke again</source>
+        <translation>Den Strich wieder machen</translation>
+    </message>
+    <message>
+        <source>Main Window - Airbrush Editor Mode</source>
+        <translation>Hauptfenster - Airbrush</translation>
+    </message>
+    <message>
+        <source>The picture was made anew, without the strokes of the airbrush: %1.</source>
+        <translation>Das Bild wurde neu gemacht, ohne die Striche des Airbrushs: %1.</translation>
+    </message>
+    <message>
+        <source>Bring Them Back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Turns to the airbrush and replays the strokes</source>
+        <translation>Wechselt zum Airbrush und wiederholt die Striche</translation>
+    </message>
+    <message>
+        <source>Leave Them</source>
+        <translation>Weglassen</translation>
+    </message>
+    <message>
+        <source>The picture stays as it is</source>
+        <translation>Das Bild bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>The edits are still being replayed.</source>
+        <translation>Die Striche werden noch wiederholt.</translation>
     </message>
 </context>
 <context>

@@ -1780,6 +1780,198 @@
         <source>Guard</source>
         <translation>Protección</translation>
     </message>
+    <message>
+        <source>Erase Foreground</source>
+        <translation>Borrar primer plano</translation>
+    </message>
+    <message>
+        <source>Takes the portrait away, so that the background shows</source>
+        <translation>Quita el retrato y deja ver el fondo</translation>
+    </message>
+    <message>
+        <source>Restore Foreground</source>
+        <translation>Recuperar primer plano</translation>
+    </message>
+    <message>
+        <source>Brings back what the key took from the portrait</source>
+        <translation>Recupera lo que el recorte quitó del retrato</translation>
+    </message>
+    <message>
+        <source>Blend Foreground</source>
+        <translation>Mezclar primer plano</translation>
+    </message>
+    <message>
+        <source>Mixes portrait and background as the slider says</source>
+        <translation>Mezcla retrato y fondo según el control</translation>
+    </message>
+    <message>
+        <source>Restore Hair</source>
+        <translation>Recuperar pelo</translation>
+    </message>
+    <message>
+        <source>Brings hair of the chosen colour back, without the screen in it</source>
+        <translation>Recupera el pelo del color elegido, sin la tela en él</translation>
+    </message>
+    <message>
+        <source>Remove Green Spill</source>
+        <translation>Quitar reflejo verde</translation>
+    </message>
+    <message>
+        <source>Takes the screen&apos;s light off skin, hair and clothes</source>
+        <translation>Quita la luz de la tela de piel, pelo y ropa</translation>
+    </message>
+    <message>
+        <source>Filter Color</source>
+        <translation>Filtrar color</translation>
+    </message>
+    <message>
+        <source>Keeps what is near the chosen colour, and takes the screen out of it</source>
+        <translation>Conserva lo cercano al color elegido y le quita la tela</translation>
+    </message>
+    <message>
+        <source>Blend Edge</source>
+        <translation>Mezclar borde</translation>
+    </message>
+    <message>
+        <source>Softens an edge where green is near</source>
+        <translation>Suaviza un borde donde hay verde cerca</translation>
+    </message>
+    <message>
+        <source>Restore Black</source>
+        <translation>Recuperar negro</translation>
+    </message>
+    <message>
+        <source>Makes dark places grey again that turned green</source>
+        <translation>Vuelve grises las zonas oscuras que quedaron verdes</translation>
+    </message>
+    <message>
+        <source>Make Whiter</source>
+        <translation>Blanquear</translation>
+    </message>
+    <message>
+        <source>Takes a tint off what is nearly white, such as a veil</source>
+        <translation>Quita el tinte de lo casi blanco, como un velo</translation>
+    </message>
+    <message>
+        <source>Makes darker or brighter</source>
+        <translation>Oscurece o aclara</translation>
+    </message>
+    <message>
+        <source>Less or more contrast</source>
+        <translation>Menos o más contraste</translation>
+    </message>
+    <message>
+        <source>Makes a place unsharp</source>
+        <translation>Desenfoca una zona</translation>
+    </message>
+    <message>
+        <source>Evens out the light of skin and cloth, and leaves its colour</source>
+        <translation>Iguala la luz de piel y tela, y deja su color</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>Pintar</translation>
+    </message>
+    <message>
+        <source>Paints with the chosen colour</source>
+        <translation>Pinta con el color elegido</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copies from the place where A was pressed on the picture</source>
+        <translation>Copia del lugar donde se pulsó A sobre la imagen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message>
+        <source>Protects what is near a colour from all the other tools</source>
+        <translation>Protege lo cercano a un color de las demás herramientas</translation>
+    </message>
+    <message>
+        <source>Keep Grayscale</source>
+        <translation>Conservar tonos</translation>
+    </message>
+    <message>
+        <source>Erase only if green</source>
+        <translation>Borrar solo lo verde</translation>
+    </message>
+    <message>
+        <source>Restore Green Areas</source>
+        <translation>Recuperar también verdes</translation>
+    </message>
+    <message>
+        <source>Lock Anchor</source>
+        <translation>Fijar ancla</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Invertir selección</translation>
+    </message>
+    <message>
+        <source>Blend</source>
+        <translation>Mezcla</translation>
+    </message>
+    <message>
+        <source>Foreground</source>
+        <translation>Primer plano</translation>
+    </message>
+    <message>
+        <source>Darker</source>
+        <translation>Más oscuro</translation>
+    </message>
+    <message>
+        <source>Brighter</source>
+        <translation>Más claro</translation>
+    </message>
+    <message>
+        <source>Tolerance</source>
+        <translation>Tolerancia</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baja</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Edge Sample</source>
+        <translation>Muestra del borde</translation>
+    </message>
+    <message>
+        <source>Blur Radius</source>
+        <translation>Radio del desenfoque</translation>
+    </message>
+    <message>
+        <source>Smooth Radius</source>
+        <translation>Radio del suavizado</translation>
+    </message>
+    <message>
+        <source>Airbrush</source>
+        <translation>Aerógrafo</translation>
+    </message>
+    <message>
+        <source>Mends the finished picture by hand</source>
+        <translation>Retoca a mano la imagen terminada</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Herramientas</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Pincel</translation>
+    </message>
+    <message>
+        <source>Steps and edits</source>
+        <translation>Pasos y trazos</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -1990,6 +2182,89 @@
     </message>
 </context>
 <context>
+    <name>tavrin::Airbrush</name>
+    <message>
+        <source>Airbrush</source>
+        <translation>Aerógrafo</translation>
+    </message>
+    <message>
+        <source>Save Edits</source>
+        <translation>Guardar trazos</translation>
+    </message>
+    <message>
+        <source>Edits (*.edits)</source>
+        <translation>Trazos (*.edits)</translation>
+    </message>
+    <message>
+        <source>Load Edits</source>
+        <translation>Cargar trazos</translation>
+    </message>
+    <message>
+        <source>Edits (*.edits);;All files (*)</source>
+        <translation>Trazos (*.edits);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The edits cannot be saved.</source>
+        <translation>No se pueden guardar los trazos.</translation>
+    </message>
+    <message>
+        <source>Not all edits are in the file.</source>
+        <translation>No todos los trazos están en el archivo.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 items, and there were %3 more.</source>
+        <translation>%1 admite %2 entradas, y había %3 más.</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 guardado</translation>
+    </message>
+    <message>
+        <source>The edits cannot be loaded.</source>
+        <translation>No se pueden cargar los trazos.</translation>
+    </message>
+    <message>
+        <source>The edits were made for a picture of %1 x %2 pixels, and this one has %3 x %4: their places go with its height.</source>
+        <translation>Los trazos se hicieron para una imagen de %1 x %2 píxeles, y esta tiene %3 x %4: sus lugares siguen la altura.</translation>
+    </message>
+    <message>
+        <source>The file has more than %1 items; %2 were left out.</source>
+        <translation>El archivo tiene más de %1 entradas; se omitieron %2.</translation>
+    </message>
+    <message>
+        <source>Items of kinds that are not known here were left out: %1.</source>
+        <translation>Se omitieron entradas de tipo desconocido: %1.</translation>
+    </message>
+    <message>
+        <source>The edits were loaded.</source>
+        <translation>Se cargaron los trazos.</translation>
+    </message>
+    <message>
+        <source>Replay &amp;Edits</source>
+        <translation>Repetir &amp;trazos</translation>
+    </message>
+    <message>
+        <source>Does again what was done with the airbrush, on the picture that stands</source>
+        <translation>Repite sobre la imagen actual lo hecho con el aerógrafo</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Edits...</source>
+        <translation>&amp;Guardar trazos...</translation>
+    </message>
+    <message>
+        <source>Writes all strokes into a file, to be played on this or another picture</source>
+        <translation>Escribe todos los trazos en un archivo, para esta u otra imagen</translation>
+    </message>
+    <message>
+        <source>&amp;Load Edits...</source>
+        <translation>&amp;Cargar trazos...</translation>
+    </message>
+    <message>
+        <source>Plays the strokes of a file on this picture</source>
+        <translation>Aplica los trazos de un archivo a esta imagen</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::BackgroundGrid</name>
     <message>
         <source>All Backgrounds</source>
@@ -2025,6 +2300,17 @@
     <message>
         <source>%1 off</source>
         <translation>%1: no</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::BrushSlider</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>%1, number</source>
+        <translation>%1, número</translation>
     </message>
 </context>
 <context>
@@ -2169,6 +2455,177 @@
     <message>
         <source>Reset %1</source>
         <translation>Restablecer %1</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::EditorPage</name>
+    <message>
+        <source>Keeps light and dark, and changes only the colour</source>
+        <translation>Conserva luces y sombras y cambia solo el color</translation>
+    </message>
+    <message>
+        <source>Leaves what has another hue than the screen</source>
+        <translation>Deja lo que tiene otro tono que la tela</translation>
+    </message>
+    <message>
+        <source>Brings back also what is as green as the screen</source>
+        <translation>Recupera también lo que es tan verde como la tela</translation>
+    </message>
+    <message>
+        <source>Every stroke begins at the anchor again</source>
+        <translation>Cada trazo empieza de nuevo en el ancla</translation>
+    </message>
+    <message>
+        <source>Protects what is not near the colour</source>
+        <translation>Protege lo que no está cerca del color</translation>
+    </message>
+    <message>
+        <source>The airbrush opens when the full picture is there.</source>
+        <translation>El aerógrafo se abre cuando está la imagen completa.</translation>
+    </message>
+    <message>
+        <source>Undo, replay and files of edits</source>
+        <translation>Deshacer, repetir y archivos de trazos</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>Herramienta</translation>
+    </message>
+    <message>
+        <source>%1 (key %2)</source>
+        <translation>%1 (tecla %2)</translation>
+    </message>
+    <message>
+        <source>Radius, hardness, transparency, colour</source>
+        <translation>Radio, dureza, opacidad, color</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Pequeño</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>How wide the brush is; [ and ] on the picture</source>
+        <translation>Lo ancho que es el pincel; [ y ] sobre la imagen</translation>
+    </message>
+    <message>
+        <source>Hardness</source>
+        <translation>Dureza</translation>
+    </message>
+    <message>
+        <source>Soft</source>
+        <translation>Suave</translation>
+    </message>
+    <message>
+        <source>Hard</source>
+        <translation>Duro</translation>
+    </message>
+    <message>
+        <source>How far from its middle the brush has its full strength</source>
+        <translation>Hasta dónde desde el centro el pincel tiene toda su fuerza</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparencia</translation>
+    </message>
+    <message>
+        <source>Faint</source>
+        <translation>Débil</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Plena</translation>
+    </message>
+    <message>
+        <source>How much a stroke does in the middle of the brush</source>
+        <translation>Cuánto hace un trazo en el centro del pincel</translation>
+    </message>
+    <message>
+        <source>What this tool does, from its least to its most</source>
+        <translation>Lo que hace esta herramienta, de menos a más</translation>
+    </message>
+    <message>
+        <source>Colour...</source>
+        <translation>Color...</translation>
+    </message>
+    <message>
+        <source>The colour of this tool</source>
+        <translation>El color de esta herramienta</translation>
+    </message>
+    <message>
+        <source>From the picture</source>
+        <translation>De la imagen</translation>
+    </message>
+    <message>
+        <source>The next click on the picture takes its colour</source>
+        <translation>El próximo clic en la imagen toma su color</translation>
+    </message>
+    <message>
+        <source>No selection</source>
+        <translation>Sin selección</translation>
+    </message>
+    <message>
+        <source>Nothing is protected</source>
+        <translation>Nada está protegido</translation>
+    </message>
+    <message>
+        <source>Colours of the portrait</source>
+        <translation>Colores del retrato</translation>
+    </message>
+    <message>
+        <source>Protects by the colours that the portrait was taken with</source>
+        <translation>Protege por los colores con que se tomó el retrato</translation>
+    </message>
+    <message>
+        <source>Colours of the result</source>
+        <translation>Colores del resultado</translation>
+    </message>
+    <message>
+        <source>Protects by the colours that are seen</source>
+        <translation>Protege por los colores que se ven</translation>
+    </message>
+    <message>
+        <source>Pressure of a pen</source>
+        <translation>Presión del lápiz</translation>
+    </message>
+    <message>
+        <source>Changes nothing</source>
+        <translation>No cambia nada</translation>
+    </message>
+    <message>
+        <source>Changes the radius</source>
+        <translation>Cambia el radio</translation>
+    </message>
+    <message>
+        <source>Changes the strength</source>
+        <translation>Cambia la fuerza</translation>
+    </message>
+    <message>
+        <source>What a pen on a tablet changes by how hard it is pressed</source>
+        <translation>Lo que cambia un lápiz de tableta según su presión</translation>
+    </message>
+    <message>
+        <source>Show alpha</source>
+        <translation>Mostrar alfa</translation>
+    </message>
+    <message>
+        <source>Colour of the Tool</source>
+        <translation>Color de la herramienta</translation>
+    </message>
+    <message>
+        <source>The edits are replayed...</source>
+        <translation>Se repiten los trazos...</translation>
+    </message>
+    <message>
+        <source>%1 steps to take back, %2 MB on the disk; %3 of %4 items recorded</source>
+        <translation>%1 pasos para deshacer, %2 MB en el disco; %3 de %4 entradas grabadas</translation>
     </message>
 </context>
 <context>
@@ -3255,6 +3712,42 @@
     <message>
         <source>Shortcut</source>
         <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>Take the last stroke back</source>
+        <translation>Deshacer el último trazo</translation>
+    </message>
+    <message>
+        <source>Do the stroke again</source>
+        <translation>Rehacer el trazo</translation>
+    </message>
+    <message>
+        <source>Main Window - Airbrush Editor Mode</source>
+        <translation>Ventana principal - Aerógrafo</translation>
+    </message>
+    <message>
+        <source>The picture was made anew, without the strokes of the airbrush: %1.</source>
+        <translation>La imagen se hizo de nuevo, sin los trazos del aerógrafo: %1.</translation>
+    </message>
+    <message>
+        <source>Bring Them Back</source>
+        <translation>Recuperarlos</translation>
+    </message>
+    <message>
+        <source>Turns to the airbrush and replays the strokes</source>
+        <translation>Pasa al aerógrafo y repite los trazos</translation>
+    </message>
+    <message>
+        <source>Leave Them</source>
+        <translation>Dejarlos</translation>
+    </message>
+    <message>
+        <source>The picture stays as it is</source>
+        <translation>La imagen queda como está</translation>
+    </message>
+    <message>
+        <source>The edits are still being replayed.</source>
+        <translation>Todavía se repiten los trazos.</translation>
     </message>
 </context>
 <context>

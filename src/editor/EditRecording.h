@@ -14,6 +14,7 @@ class EditRecording {
 
     /// Appends an item; from the 5,001st on it is dropped, while the edit itself goes on.
     void AddReplayItem(const EditItem& item, const BrushTable& brushes, int iActiveButton);
+    void clear() { state_.iReplayBufferCount = 0; }
     /// Moves the recording aside, for a replay, and begins a new one.
     void moveAside();
     /// Puts a list in the place of the last recording, at most `kMostEditItems` of it, made with these brushes.

@@ -41,7 +41,13 @@ void Editor::setScreenZoom(double home) {
 }
 
 EditedRows Editor::DeselectColorRange() {
-    if (!isReady() || !selection.DeselectColorRange(pixels_)) return {};
+    if (!key_ || !selection.DeselectColorRange(pixels_)) return {};
+    painter_->beginStroke();
+    return {0, pixels_.iHeight};
+}
+
+EditedRows Editor::SelectColorRange() {
+    if (!key_ || !selection.SelectColorRange(pixels_, *key_, oBrushInfo[kSelection].bCheckBoxValue)) return {};
     painter_->beginStroke();
     return {0, pixels_.iHeight};
 }

@@ -46,8 +46,14 @@ class Editor {
     void setScreenZoom(double home);
     /// Stamps are this much larger than their brushes tell; 1 unless edits are played at another size.
     void setRadiusScale(double scale) { radiusScale_ = scale; }
-    /// Takes the pattern of a selection off, before the picture goes out.
+    bool picksColor() const { return bSelectColorMode_; }
+    /// The colour well, which stamps take their colour from: nothing until somebody has set it.
+    const std::optional<GUI_BrushInfo>& well() const { return well_; }
+    void putWell(std::optional<GUI_BrushInfo> well) { well_ = std::move(well); }
+    /// Takes the pattern of a selection off, before the picture goes out, and puts it on again. Also after the editor
+    /// was left, as long as the picture is the one that was edited.
     EditedRows DeselectColorRange();
+    EditedRows SelectColorRange();
 
     /// Begins to play the last recording. Brushes are put as they were when it began, at the first tick.
     void startReplay() { iReplayIndex_ = 0; }

@@ -138,6 +138,17 @@ bool UndoFiles::redo(EditorPixels& pixels) {
     return done;
 }
 
+std::uintmax_t UndoFiles::sizeOnDisk() const {
+    std::uintmax_t bytes = 0;
+    std::error_code failed;
+    for (fs::directory_iterator file(folder_, failed), end; !failed && file != end; file.increment(failed)) {
+        std::error_code gone;
+        const std::uintmax_t size = file->is_regular_file(gone) ? file->file_size(gone) : 0;
+        if (!gone) bytes += size;
+    }
+    return bytes;
+}
+
 // What is needed to redo comes first: without it the step would be gone for good.
 bool UndoFiles::undoStep(EditorPixels& pixels, std::int32_t step) {
     const std::vector<char> records = read(fileOf("Snapshot", step), pixels);

@@ -34,6 +34,9 @@ class UndoFiles {
     bool undo(EditorPixels& pixels);
     bool redo(EditorPixels& pixels);
 
+    /// What the steps take on the disk, in bytes.
+    std::uintmax_t sizeOnDisk() const;
+
     std::int32_t iSaveSnapShot = 0;         ///< step that the picture stands on
     std::int32_t iMaxSaveSnapShot = 0;      ///< highest step that exists
     bool canUndo = false, canRedo = false;  ///< state of the two buttons

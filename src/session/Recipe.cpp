@@ -142,7 +142,8 @@ std::string bytesOf(const Recipe& recipe) {
                             {"steps", arrayOf(recipe.history.steps)},
                             {"done", static_cast<qint64>(recipe.history.done)},
                             {"saved", static_cast<qint64>(recipe.history.saved)},
-                            {"pasted", pasted}};
+                            {"pasted", pasted},
+                            {"edits", text(recipe.edits)}};
     return QJsonDocument(whole).toJson(QJsonDocument::Compact).toStdString();
 }
 
@@ -158,6 +159,7 @@ std::optional<Recipe> recipeOf(const std::string& bytes) {
         const QJsonObject look = entry.toObject();
         recipe.pasted.emplace_back(nameOfText(look["label"].toString()), settingsOf(look["settings"].toObject()));
     }
+    recipe.edits = nameOfText(document["edits"].toString());
     return recipe;
 }
 

@@ -20,6 +20,7 @@ struct Recipe {
     SettingEditor::History history;
     /// Looks that were pasted while another portrait was shown: each becomes a step when this one is opened.
     std::vector<std::pair<std::string, SettingValues>> pasted;
+    std::string edits = {};  ///< strokes of the airbrush, as the text of a file of edits; "" without any
 
     std::string portrait() const;  ///< its file, "" when the recipe does not say
 };

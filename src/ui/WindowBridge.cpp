@@ -7,6 +7,7 @@
 #include <QThread>
 
 #include "core/Log.h"
+#include "editor/EditorDoor.h"
 
 namespace tavrin {
 
@@ -52,6 +53,14 @@ void WindowBridge::performAndWait(const std::function<void()>& job) {
     } else {
         QMetaObject::invokeMethod(this, job, Qt::BlockingQueuedConnection);
     }
+}
+
+bool WindowBridge::editorIsOpen() const {
+    return editor_ && editor_->isOpen();
+}
+
+void WindowBridge::exitEditorMode() {
+    if (editor_) editor_->closeForPass();
 }
 
 void WindowBridge::setMouse(bool down, int mode) {

@@ -10,6 +10,8 @@
 
 namespace tavrin {
 
+class EditorDoor;
+
 /// Carries what the engine asks of the window over to the main thread. Nothing here makes the processing thread
 /// wait, but for `performAndWait`. Previews that come faster than the window paints replace each other.
 class WindowBridge : public QObject, public Interface {
@@ -30,6 +32,11 @@ class WindowBridge : public QObject, public Interface {
     bool mouseDown() const override { return mouseDown_.load(std::memory_order_relaxed); }
     int eventMouseMode() const override { return mouseMode_.load(std::memory_order_relaxed); }
 
+    bool editorIsOpen() const override;
+    void exitEditorMode() override;
+
+    /// The window's editor, which every pass closes; before the loop starts.
+    void setEditor(EditorDoor* door) { editor_ = door; }
     /// From the view: a layer is held with the mouse, and which (1 is the foreground).
     void setMouse(bool down, int mode);
     /// Takes what has been published since the last call; for the slot behind `published`.
@@ -52,6 +59,7 @@ class WindowBridge : public QObject, public Interface {
     void placed();
 
   private:
+    EditorDoor* editor_ = nullptr;
     std::mutex mutex_;
     std::vector<PublishedRows> pending_;
     std::atomic<bool> mouseDown_ = false;

@@ -67,6 +67,11 @@ QWidget* GroupBox::makeHeader() {
     return line;
 }
 
+void GroupBox::setTitle(const QString& title) {
+    header_->setText(title);
+    header_->setAccessibleName(title);
+}
+
 bool GroupBox::isFolded() const {
     return body_->isHidden();
 }

@@ -23,6 +23,8 @@ class GroupBox : public QWidget {
              const std::vector<QWidget*>& leads = {});
 
     const BindingGroup& group() const { return group_; }
+    /// Another title than the group's, for as long as it says more.
+    void setTitle(const QString& title);
     /// Adds what the search leaves alone, below the rows.
     void addWidget(QWidget* widget) { body_->layout()->addWidget(widget); }
     /// Adds what tells something and takes no focus, above all else; the search leaves it alone.

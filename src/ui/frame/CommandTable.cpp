@@ -102,11 +102,16 @@ std::vector<Command> commandTable(MainWindow& w) {
          {},
          [&w](bool) { w.close(); }},
         {"UndoButton", "&Edit", MainWindow::tr("&Undo"), MainWindow::tr("Takes the last change of a setting back"),
-         "edit-undo/undo", QKeySequence::Undo, [&w] { return w.editor_.stepsDone() > 0; },
-         [&w](bool) { w.binder_.undo(); }},
+         "edit-undo/undo", QKeySequence::Undo,
+         [&w] { return w.airbrush_->isOpen() ? w.airbrush_->face().canUndo : w.editor_.stepsDone() > 0; },
+         [&w](bool) { w.airbrush_->isOpen() ? w.airbrush_->undo() : w.binder_.undo(); }},
         {"RedoButton", "&Edit", MainWindow::tr("&Redo"), MainWindow::tr("Does again what was taken back"),
          "edit-redo/redo", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
-         [&w] { return w.editor_.stepsDone() < w.editor_.steps().size(); }, [&w](bool) { w.binder_.redo(); }},
+         [&w] {
+             return w.airbrush_->isOpen() ? w.airbrush_->face().canRedo
+                                          : w.editor_.stepsDone() < w.editor_.steps().size();
+         },
+         [&w](bool) { w.airbrush_->isOpen() ? w.airbrush_->redo() : w.binder_.redo(); }},
         {"FindControl",
          "|&Edit",
          MainWindow::tr("&Find a Control"),
@@ -142,7 +147,10 @@ std::vector<Command> commandTable(MainWindow& w) {
          "zoom-fit-best/fit",
          QKeySequence(Qt::Key_F),
          {},
-         [&w](bool) { w.view_->setZoomHome(); }},
+         [&w](bool) {
+             w.view_->setZoomHome();
+             w.airbrush_->noteZoom(kZoomHome);
+         }},
         {"setZoomMagnify",
          "&View",
          MainWindow::tr("A Little &Larger"),
@@ -150,7 +158,10 @@ std::vector<Command> commandTable(MainWindow& w) {
          "",
          QKeySequence(Qt::Key_S),
          {},
-         [&w](bool) { w.view_->setZoomMagnify(); }},
+         [&w](bool) {
+             w.view_->setZoomMagnify();
+             w.airbrush_->noteZoom(kZoomIn);
+         }},
         {"ZoomPixels",
          "&View",
          MainWindow::tr("&100 %"),

@@ -41,6 +41,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
       tools_(new PictureTools(binder_, *loop_, bridge_, view_)),
+      airbrush_(new Airbrush(binder_, *loop_, bridge_, view_)),
       tips_(new TipGuard(this)) {
     setObjectName("MainDisplay");
     setWindowTitle(tr("Main Window - Adjust/Load Mode"));
@@ -49,6 +50,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectParts();
     connectBridge();
     connectStrip();
+    connectAirbrush();
     connectKeeping();
     comeBack();
     connectSettings();
@@ -60,6 +62,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
 MainWindow::~MainWindow() {
     hide();  // ends what is held, while there is a loop to tell
     heldLoop_->letGo();
+    airbrush_->letGo();
     loop_.reset();  // the thread ends before the bridge it talks to
     heldLoop_->finish();
     info_.pInterface = nullptr;
@@ -120,6 +123,7 @@ void MainWindow::connectBridge() {
             tellSaveButton();
             commands_->refresh();
             tellProgress();
+            airbrush_->setFinished(enabled);
             if (!enabled) return;
             tools_->pictureFinished();
             templates_->view()->refresh();
@@ -156,6 +160,11 @@ void MainWindow::connectLists() {
 
 /// The tips of both buttons say what they would do.
 void MainWindow::tellUndo() {
+    if (airbrush_->isOpen()) {
+        commands_->action("UndoButton")->setToolTip(tr("Take the last stroke back"));
+        commands_->action("RedoButton")->setToolTip(tr("Do the stroke again"));
+        return;
+    }
     const auto& steps = editor_.steps();
     const std::size_t done = editor_.stepsDone();
     const auto label = [&](std::size_t i) { return QString::fromStdString(steps[i].label); };

@@ -8,6 +8,7 @@
 #include "pipeline/CombineThread.h"
 #include "ui/WindowBridge.h"
 #include "ui/bind/Binder.h"
+#include "ui/editor/Airbrush.h"
 #include "ui/frame/Commands.h"
 #include "ui/frame/MessageBar.h"
 #include "ui/frame/PictureFiles.h"
@@ -81,6 +82,7 @@ class MainWindow : public QMainWindow {
     SizeBox* sizeBox() const { return sizeBox_; }
     SidePanel* panel() const { return panel_; }
     PictureTools* pictureTools() const { return tools_; }
+    Airbrush* airbrush() const { return airbrush_; }
     Strip* strip() const { return strip_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
@@ -111,6 +113,8 @@ class MainWindow : public QMainWindow {
     void connectMaps();
     void connectBridge();
     void connectStrip();
+    void connectAirbrush();
+    void offerLostStrokes(int strokes);
     void connectSettings();
     void connectLists();
     void askForFolder();
@@ -132,7 +136,8 @@ class MainWindow : public QMainWindow {
     void saveImage();
     void saveForHost();
     void saveReviewed();
-    bool tellTaken(bool taken, const SaveTarget& target);
+    bool takeFinished(const std::function<bool()>& save);
+    void saveStateBeside(const SaveTarget& target);
     void askForReview();
     void setBatchReviewActive(const QString& path);
     void setBatchReviewNotActive();
@@ -174,6 +179,7 @@ class MainWindow : public QMainWindow {
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
     PictureTools* tools_;
+    Airbrush* airbrush_;
     TipGuard* tips_;
     Commands* commands_ = nullptr;
     QLabel *sizeText_ = nullptr, *zoomText_ = nullptr, *stateText_ = nullptr;

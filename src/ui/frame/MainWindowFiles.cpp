@@ -21,6 +21,7 @@ void MainWindow::openFile(const QString& path) {
 void MainWindow::openForeground(const QString& path) {
     leaveWaysOfSaving();
     keeping_->leavePortrait();
+    keeping_->forgetEdits();
     std::optional<Recipe> known = keeping_->knownOf(path);
     if (!known && commands_->action("ForegroundReset")->isChecked()) return openReset(path);
     files_->openForeground(path, (!known || known->settings.empty()) && frameAction()->isChecked());
@@ -48,6 +49,7 @@ void MainWindow::openState(const QString& path) {
     finished_ = false;
     commands_->refresh();
     keeping_->leavePortrait();
+    keeping_->forgetEdits();
     files_->openState(path);
     keeping_->waitForState();
 }
@@ -138,18 +140,26 @@ void MainWindow::askForSave() {
 
 bool MainWindow::saveTo(const QString& path) {
     const SaveTarget target = saveTargetOf(nameOfText(path));
-    return tellTaken(files_->savePicture(textOfName(target.picture())), target);
+    if (!takeFinished([&] { return files_->savePicture(textOfName(target.picture())); })) return false;
+    saveStateBeside(target);
+    return true;
 }
 
-/// @param taken whether there was a finished picture to save
-bool MainWindow::tellTaken(bool taken, const SaveTarget& target) {
-    if (!taken) {
-        messages_->tell(tr("The picture is not finished yet."));
-    } else if (info_.oQLXInfo->bAutoQLXSave) {
-        files_->saveState(textOfName(target.state()));
+/// @param save takes what is to be written, and says whether there was a finished picture
+bool MainWindow::takeFinished(const std::function<bool()>& save) {
+    if (airbrush_->isReplaying()) {
+        messages_->tell(tr("The edits are still being replayed."));
+        return false;
     }
+    bool taken = false;
+    airbrush_->withoutPattern([&] { taken = save(); });
+    if (!taken) messages_->tell(tr("The picture is not finished yet."));
     tellProgress();
     return taken;
+}
+
+void MainWindow::saveStateBeside(const SaveTarget& target) {
+    if (info_.oQLXInfo->bAutoQLXSave) files_->saveState(textOfName(target.state()));
 }
 
 /// A result of a batch is mended from the state that was saved beside it; without one it is shown with the settings
@@ -189,7 +199,9 @@ void MainWindow::leaveWaysOfSaving() {
 /// Written in the place of the result, with the mask that the review pages show beside it.
 void MainWindow::saveReviewed() {
     const SaveTarget target = saveTargetOf(info_.sBatchReviewFileSavePath);
-    if (tellTaken(files_->saveReviewed(textOfName(target.picture())), target)) setBatchReviewNotActive();
+    if (!takeFinished([&] { return files_->saveReviewed(textOfName(target.picture())); })) return;
+    saveStateBeside(target);
+    setBatchReviewNotActive();
 }
 
 void MainWindow::askForReview() {
@@ -208,12 +220,10 @@ void MainWindow::openForHost(const QString& path) {
 /// No state is written beside the host's file. With the picture the host gets the screen back.
 void MainWindow::saveForHost() {
     const SaveTarget target = saveTargetOf(info_.pForegroundBitmapInfo->sSourceImageFullPath);
-    if (!files_->saveOver(textOfName(target.picture())))
-        return messages_->tell(tr("The picture is not finished yet."));
+    if (!takeFinished([&] { return files_->saveOver(textOfName(target.picture())); })) return;
     info_.bLightroomActive = false;
     returning_ = true;
     tellSaveButton();
-    tellProgress();
 }
 
 void MainWindow::tellSaveButton() {

@@ -32,6 +32,7 @@ void MainWindow::layOut() {
     setCentralWidget(middle);
     settings_->addSizes(sizes_);
     panel_->addPage(settings_);
+    panel_->addPage(airbrush_->page());
     panel_->addPage(new PrintPage(binder_, templates_));
     addDockWidget(Qt::RightDockWidgetArea, panel_);
     tabifyDockWidget(panel_, history_);
@@ -40,6 +41,7 @@ void MainWindow::layOut() {
     looksPanel_->hide();
     std::vector<Command> table = commandTable(*this);
     std::ranges::move(pictureCommands(*tools_, binder_, [this] { return finished_; }), std::back_inserter(table));
+    std::ranges::move(editorCommands(*airbrush_), std::back_inserter(table));
     std::ranges::move(stripCommands(*this), std::back_inserter(table));
     std::ranges::move(fileCommands(*this), std::back_inserter(table));
     std::ranges::move(pageCommands(*panel_), std::back_inserter(table));

@@ -155,6 +155,7 @@ void SidePanel::selectMainTab(int key) {
     showPage(*page);
     show();
     raise();
+    emit mainTabSelected(key);
 }
 
 /// Each page comes back where it was scrolled to.

@@ -53,6 +53,10 @@ class SidePanel : public QDockWidget {
     EffectsPage* effects() const { return effects_; }
     TextPage* texts() const { return texts_; }
 
+  signals:
+    /// A main tab was chosen.
+    void mainTabSelected(int key);
+
   private:
     QLineEdit* makeSearch();
     QScrollArea* makePages();

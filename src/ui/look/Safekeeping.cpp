@@ -44,13 +44,24 @@ void Safekeeping::keep() {
     sinceKept_.start();
     if (const std::string problem = keeper_.takeProblem(); !problem.empty())
         emit failed(tr("The present settings cannot be kept for a next start."), QString::fromStdString(problem));
-    keeper_.keep(presentRecipe(editor_), std::exchange(instead_, {}));
+    keeper_.keep(present(), std::exchange(instead_, {}));
+}
+
+Recipe Safekeeping::present() const {
+    Recipe recipe = presentRecipe(editor_);
+    recipe.edits = edits_;
+    return recipe;
+}
+
+void Safekeeping::noteEdits(std::string edits) {
+    edits_ = std::move(edits);
+    noteWork();
 }
 
 void Safekeeping::leavePortrait() {
     ++opened_;
     if (underWay_ > 0 || !std::exchange(worked_, false)) return;
-    keeper_.keepPortrait(editor_.value(kPortrait), presentRecipe(editor_));
+    keeper_.keepPortrait(editor_.value(kPortrait), present());
 }
 
 std::optional<Recipe> Safekeeping::knownOf(const QString& portrait) const {
@@ -62,6 +73,7 @@ void Safekeeping::takeUp(Recipe recipe, std::optional<LeftRecipe> from) {
     const int mine = ++opened_;
     ++underWay_;
     background_.clear();
+    edits_ = recipe.edits;
     editor_.forgetSteps();
     loop_.post([this, mine, recipe = std::move(recipe), from = std::move(from)] {
         const bool due = mine == opened_;
@@ -87,6 +99,7 @@ void Safekeeping::finishTaking(Recipe recipe, std::optional<LeftRecipe> from, co
     instead_ = std::move(from);
     touch();
     emit tookUp(problems);
+    if (!recipe.edits.empty()) emit tookUpEdits(recipe.edits);
 }
 
 void Safekeeping::pasteOn(std::vector<std::string> portraits, const QString& label, const SettingValues& look) {

@@ -28,6 +28,11 @@ class Safekeeping : public QObject {
     /// The loop may have changed something by itself, which counts once a person did.
     void look();
 
+    /// The strokes of the airbrush on the portrait at hand, as the text of a file of edits.
+    void noteEdits(std::string edits);
+    /// Another portrait was opened, of which no strokes are known.
+    void forgetEdits() { edits_.clear(); }
+
     /// Keeps the recipe of the portrait that is about to be left. Another state follows: nothing is kept meanwhile.
     void leavePortrait();
     /// @return what is known of a portrait that is about to be opened
@@ -51,6 +56,8 @@ class Safekeeping : public QObject {
 
   signals:
     void tookUp(const QString& problems);
+    /// What was taken up had strokes of the airbrush, as the text of a file of edits.
+    void tookUpEdits(const std::string& edits);
     void pasteBegun(std::size_t portraits);
     /// While it lasts, from another thread: so many portraits have been looked at.
     void pasting(std::size_t portraits);
@@ -59,6 +66,7 @@ class Safekeeping : public QObject {
 
   private:
     void keep();
+    Recipe present() const;
     void finishTaking(Recipe recipe, std::optional<LeftRecipe> from, const QString& problems);
 
     SettingEditor& editor_;
@@ -70,7 +78,8 @@ class Safekeeping : public QObject {
     std::atomic<int> opened_ = 0;  ///< counts what was opened, so that an older job steps back
     int underWay_ = 0;             ///< jobs that may replace settings and lists
     bool touched_ = false;
-    bool worked_ = false;     ///< on the portrait at hand, since its recipe was written
+    bool worked_ = false;  ///< on the portrait at hand, since its recipe was written
+    std::string edits_;
     std::string background_;  ///< chosen while a recipe is under way
     std::optional<LeftRecipe> instead_;
 };

@@ -49,7 +49,7 @@ void PictureView::show(const PublishedRows& rows) {
 }
 
 void PictureView::takeRows(const PublishedRows& rows) {
-    if (rows.edited) return putRows(rows.isPreview() ? preview_ : full_, rows);
+    if (rows.edited) return takeEdited(rows);
     if (rows.isPreview()) {
         preview_ = rows.pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied);
         fullRows_ = 0;
@@ -65,6 +65,15 @@ void PictureView::takeRows(const PublishedRows& rows) {
     fullRows_ = rows.firstRow + rows.rowCount;
     setOutputSize(full_.size());
     if (isFull()) speak();
+}
+
+/// Only their part of the small picture is made anew, so that a stroke is seen at once.
+void PictureView::takeEdited(const PublishedRows& rows) {
+    const bool smallStands = smallOf_ == full_.cacheKey() && !small_.isNull();
+    putRows(rows.isPreview() ? preview_ : full_, rows);
+    if (rows.isPreview() || !smallStands || rows.height != full_.height()) return;
+    shrinkRows(full_, rows.firstRow, rows.firstRow + rows.rowCount, small_);
+    smallOf_ = full_.cacheKey();
 }
 
 void PictureView::setOutputSize(QSize pixels) {
@@ -125,6 +134,11 @@ void PictureView::setItemIcons(const QImage& edit, const QImage& remove) {
 
 void PictureView::setAsking(bool on) {
     asking_ = on;
+    showCursor();
+}
+
+void PictureView::setDrawing(bool on) {
+    drawing_ = on;
     showCursor();
 }
 
@@ -252,7 +266,7 @@ void PictureView::leaveEvent(QEvent*) {
 void PictureView::showCursor() {
     if (panning_) return setCursor(Qt::ClosedHandCursor);
     if (spaceHeld_) return setCursor(Qt::OpenHandCursor);
-    asking_ ? setCursor(Qt::CrossCursor) : unsetCursor();
+    asking_ || drawing_ ? setCursor(Qt::CrossCursor) : unsetCursor();
 }
 
 /// Arrows move what is shown, as a drag with the middle button does.

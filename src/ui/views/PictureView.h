@@ -47,6 +47,10 @@ class PictureView : public QWidget {
     /// A click asks about its pixel, and no drag moves anything.
     void setAsking(bool on);
     bool isAsking() const { return asking_; }
+    /// A tool draws on the picture with the left button.
+    void setDrawing(bool on);
+    /// The left button moves what is shown: Space is held.
+    bool isPanHeld() const { return spaceHeld_ || panning_; }
     /// What is shown, in words: for those who do not see it.
     QString description() const;
     /// A point of the view, from the lower left corner of the picture's frame, y upward.
@@ -102,6 +106,7 @@ class PictureView : public QWidget {
     void placeSplit();
     void speak();
     void takeRows(const PublishedRows& rows);
+    void takeEdited(const PublishedRows& rows);
     void point(const QPointF& at);
     void beginPress(const QPointF& at);
     void showCursor();
@@ -127,7 +132,7 @@ class PictureView : public QWidget {
     QImage small_;        // `full_` at the size of its frame
     qint64 smallOf_ = 0;  // and of which `full_`
     bool transparent_ = false, spaceHeld_ = false, panning_ = false;
-    bool pressed_ = false, dragging_ = false, asking_ = false;
+    bool pressed_ = false, dragging_ = false, asking_ = false, drawing_ = false;
     QPoint pointed_{-1, -1};
     QPointF panFrom_, pressedAt_;
     DropZone dropZone_ = DropZone::none;

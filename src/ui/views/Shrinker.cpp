@@ -1,6 +1,11 @@
 #include "ui/views/Shrinker.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstring>
 #include <utility>
+
+#include "core/raster/Resampling.h"
 
 namespace tavrin {
 
@@ -39,6 +44,22 @@ void Shrinker::start() {
             },
             Qt::QueuedConnection);
     });
+}
+
+/// A row more on each side than those that change: they mix into their neighbours.
+void shrinkRows(const QImage& picture, int first, int last, QImage& small) {
+    const double down = static_cast<double>(small.height()) / picture.height();
+    const int top = std::max(static_cast<int>(std::floor(first * down)) - 1, 0);
+    const int bottom = std::min(static_cast<int>(std::ceil(last * down)) + 1, small.height());
+    if (top >= bottom) return;
+    const int from = std::max(static_cast<int>(std::floor(top / down)) - 2, 0);
+    const int to = std::min(static_cast<int>(std::ceil(bottom / down)) + 2, picture.height());
+    const QImage strip =
+        picture.copy(0, from, picture.width(), to - from).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QImage onto(small.width(), bottom - top, QImage::Format_ARGB32_Premultiplied);
+    drawResampled(strip, QRectF(0, from * down - top, small.width(), (to - from) * down), onto);
+    for (int y = 0; y < onto.height(); ++y)
+        std::memcpy(small.scanLine(top + y), onto.constScanLine(y), static_cast<std::size_t>(onto.bytesPerLine()));
 }
 
 }  // namespace tavrin

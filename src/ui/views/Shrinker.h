@@ -31,4 +31,8 @@ class Shrinker : public QObject {
     bool busy_ = false, again_ = false;
 };
 
+/// Makes rows [first, last) of a picture anew in a smaller one of the whole of it, which stands for the rest.
+/// @param small `Format_ARGB32_Premultiplied`
+void shrinkRows(const QImage& picture, int first, int last, QImage& small);
+
 }  // namespace tavrin

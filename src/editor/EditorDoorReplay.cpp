@@ -1,0 +1,120 @@
+// The part of the door that plays what was done before, and hands it out.
+#include <cmath>
+#include <utility>
+
+#include "editor/EditorDoor.h"
+
+namespace tavrin {
+
+void EditorDoor::replay() {
+    push({[this] { return replayNow(); }});
+}
+
+void EditorDoor::play(EditFile file) {
+    push({[this, file = std::move(file)] { return playNow(file); }});
+}
+
+EditedRows EditorDoor::replayNow() {
+    if (!editor_.bShowCursor || replaying_) return {};
+    if (lost_.empty() && last_.items.empty()) return {};
+    toPlay_.assign(lost_.begin(), lost_.end());
+    if (lost_.empty()) toPlay_.push_back(last_);
+    whole_ = visits_;
+    if (editor_.recording.count() > 0) whole_.push_back(present());
+    whole_.insert(whole_.end(), toPlay_.begin(), toPlay_.end());
+    replaying_ = true;
+    begin(toPlay_.front());
+    push({[this] { return tick(); }, false, true});
+    return {};
+}
+
+// Positions of the file come to the points that are recorded here. While nothing is, its own points are taken.
+EditedRows EditorDoor::playNow(EditFile file) {
+    if (!editor_.bShowCursor || replaying_) return {};
+    const double frame = file.height / file.zoom;
+    if (visits_.empty() && editor_.recording.count() == 0) {
+        frameHeight_ = frame;
+        editor_.setScreenZoom(homeZoom());
+    }
+    lost_ = {visitOf(file)};
+    return replayNow();
+}
+
+EditVisit EditorDoor::visitOf(const EditFile& file) const {
+    const double frame = file.height / file.zoom;
+    const auto scaled = [&](std::int64_t v) {
+        return frame == frameHeight_ ? v : std::llround(static_cast<double>(v) * frameHeight_ / frame);
+    };
+    EditVisit visit;
+    for (EditItem item : file.items) {
+        if (item.kind == kMouseDown || item.kind == kMouseDragged || item.kind == kKeyPressed) {
+            item.V1 = scaled(item.V1);
+            item.V2 = scaled(item.V2);
+        }
+        visit.items.push_back(item);
+    }
+    return visit;
+}
+
+void EditorDoor::offer(EditFile file) {
+    push({[this, file = std::move(file)]() -> EditedRows {
+        if (editor_.bShowCursor) return {};
+        visits_.clear();
+        editor_.recording.clear();
+        frameHeight_ = file.height / file.zoom;
+        lost_ = {visitOf(file)};
+        last_ = lost_.back();
+        portrait_ = info_.pForegroundBitmapInfo->sSourceImageFullPath.load();
+        number_ = -1;
+        return {};
+    }});
+}
+
+// Behind strokes of this visit the way to the other tools is recorded, too.
+void EditorDoor::begin(const EditVisit& visit) {
+    if (editor_.recording.count() == 0) {
+        start_ = visit;
+        start_.items.clear();
+        editor_.setScreenZoom(homeZoom());
+        editor_.putWell(visit.well);
+    } else {
+        editor_.apply({kZoomHome}, EditOrigin::live);
+        for (const EditItem& item : itemsTo(visit, tools()))
+            editor_.apply(item, EditOrigin::live);
+    }
+    editor_.recording.setSaved(visit.items, visit.brushes, visit.iActiveButton);
+    editor_.startReplay();
+}
+
+// Each visit began with an editor that was entered anew, and so it is played.
+EditedRows EditorDoor::tick() {
+    EditedRows changed;
+    if (!replaying_) return changed;
+    if (!editor_.OnReplayTimer(changed)) {
+        if (!toPlay_.empty()) toPlay_.pop_front();
+        replaying_ = !toPlay_.empty();
+        if (!replaying_) {
+            lost_.clear();
+        } else {
+            keepVisit();
+            editor_.ExitEditorMode();
+            problem_ = enterEditor();
+            begin(toPlay_.front());
+        }
+    }
+    if (replaying_) push({[this] { return tick(); }, false, true});
+    return changed;
+}
+
+void EditorDoor::askForFile(std::function<void(const EditFile&)> take) {
+    push({[this, take = std::move(take)]() -> EditedRows {
+        std::vector<EditVisit> done = visits_;
+        if (editor_.recording.count() > 0) done.push_back(present());
+        if (done.empty()) done = lost_;
+        const PassGeometry size = info_.geometry(Resolution::full);
+        take(fileOf(done, size.width, size.height, homeZoom()));
+        return {};
+    }});
+}
+
+}  // namespace tavrin
