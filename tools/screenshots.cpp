@@ -104,7 +104,7 @@ void shootEffects(MainWindow& window, const std::function<void(const char*)>& sa
         {"MyEffectsTextureReflectionPanel", "MyEffectsBWPanel", "groupBlur", "MyEffectsCartoonPanel"},
         {"MyEffectsTexturePanel", "MyEffectsSmoothPanel"},
         {"myGlobalSmoothingPanel", "myStarFilterPanel", "MyEffectsSilhouettePanel"},
-        {"myGreenGuardPanel", "groupFreeze"}};
+        {"groupOverlays", "myGreenGuardPanel", "groupFreeze"}};
     window.panel()->selectMainTab(1);
     window.binder().run("", [&](SettingEditor& editor) {
         for (const char* look : {"shadow wall", "frame oval", "texture canvas"}) {
@@ -131,6 +131,44 @@ void shootEffects(MainWindow& window, const std::function<void(const char*)>& sa
         for (const GroupBox* group : window.panel()->effects()->groups())
             if (group->objectName() == effect) window.binder().resetGroup(group->group());
     window.binder().editor().forgetSteps();
+}
+
+/// A run of the batch page, with a picture that fails.
+void shootBatch(MainWindow& window, SystemInfo& info, const std::function<void(const char*)>& save) {
+    const QTemporaryDir folder;
+    const QString portraits = folder.path() + "/Portraits", backgrounds = folder.path() + "/Scenes";
+    fillFolders(portraits, backgrounds);
+    for (int i = 4; i <= 30; ++i)
+        QFile::remove(QString("%1/IMG_%2.jpg").arg(portraits).arg(i, 4, 10, QChar('0')));
+    QFile(portraits + "/IMG_0002.jpg").resize(9);
+    QDir(folder.path()).mkdir("Done");
+    QLXInfo& settings = *info.oQLXInfo;
+    settings.sLastBatchForeground = portraits.toStdString();
+    settings.sLastBatchBackground = backgrounds.toStdString();
+    settings.sLastBatchOutput = (folder.path() + "/Done").toStdString();
+    settings.bLastBatchCheckForNewFiles = false;
+    BatchEngine& engine = window.batch()->engine();
+    engine.nextBatchForegroundFile.setFolderToCheck(settings.sLastBatchForeground);
+    engine.nextBatchBackgroundFile.setFolderToCheck(settings.sLastBatchBackground);
+    engine.nextBatchForegroundFile.setHistoryFileLocation(settings.sLastBatchOutput, "ForegroundHistory.dat");
+    window.batch()->setNotify([](const QString&, const QString&) {});
+    window.panel()->selectMainTab(window.batch()->title().key);
+    const auto rest = [](int ms, const std::function<bool()>& enough) {
+        QElapsedTimer time;
+        for (time.start(); time.elapsed() < ms && !enough();)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    };
+    rest(1500, [] { return false; });
+    save("batch-plan");
+    window.batch()->startFast();
+    rest(60000, [&] { return !window.batch()->isRunning(); });
+    rest(500, [] { return false; });
+    save("batch-done");
+    for (GroupBox* group : window.batch()->groups())
+        group->setFolded(group->objectName() == "groupBatchFolders" || group->objectName() == "groupBatchChoices");
+    save("batch-lists");
+    window.messages()->hide();
+    settings.sLastBatchForeground = settings.sLastBatchBackground = settings.sLastBatchOutput = "";
 }
 
 /// The pictures of the user's guide: a small window in the light theme, with few colours so that they stay small.
@@ -236,6 +274,7 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
             save(page->title().name);
         }
         shootEffects(window, save);
+        shootBatch(window, *info, save);
         window.panel()->selectMainTab(0);
         const auto action = [&](const char* id) { return window.commands().action(id); };
         const auto shoots = [&](const char* id, const char* name) {

@@ -7,6 +7,7 @@
 
 #include "pipeline/CombineThread.h"
 #include "ui/WindowBridge.h"
+#include "ui/batch/BatchPage.h"
 #include "ui/bind/Binder.h"
 #include "ui/frame/Commands.h"
 #include "ui/frame/MessageBar.h"
@@ -70,6 +71,7 @@ class MainWindow : public QMainWindow {
     SidePanel* panel() const { return panel_; }
     PictureTools* pictureTools() const { return tools_; }
     Strip* strip() const { return strip_; }
+    BatchPage* batch() const { return batch_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
@@ -101,12 +103,14 @@ class MainWindow : public QMainWindow {
     void connectStrip();
     void connectSettings();
     void connectLists();
+    void connectBatch();
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
     void connectKeeping();
     void offerNextLeft();
     void askBeforeClosing();
+    void askBeforeEndingBatch();
     void comeBack();
     void refillRecentFiles();
     void frameNewPortraits(bool wanted);
@@ -152,6 +156,7 @@ class MainWindow : public QMainWindow {
     HeldLoop* heldLoop_;
     SizesPanel* sizes_;
     TemplatesPanel* templates_;
+    BatchPage* batch_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;

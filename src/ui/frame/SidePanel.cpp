@@ -60,6 +60,8 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
     column->addWidget(search_);
     auto* chips = new Chips(binder, whole);
     connect(chips, &Chips::wanted, this, &SidePanel::reveal);
+    for (PictureRow* slot : effects_->overlays())
+        chips->addSlot(slot);
     column->addWidget(chips);
     column->addWidget(scroll_, 1);
     setWidget(whole);

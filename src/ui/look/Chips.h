@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "ui/bind/GroupBox.h"
+#include "ui/effects/PictureRow.h"
 
 namespace tavrin {
 
@@ -17,6 +18,8 @@ class Chips : public QWidget {
 
   public:
     explicit Chips(Binder& binder, QWidget* parent = nullptr);
+    /// A picture that gets a chip while it is there.
+    void addSlot(PictureRow* slot) { slots_.push_back(slot); }
 
     QSize sizeHint() const override;
     bool hasHeightForWidth() const override { return true; }
@@ -40,6 +43,7 @@ class Chips : public QWidget {
     Entry entryOf(ControlRow* row) const;
     Entry entryOf(const GroupBox* group) const;
     Entry itemsEntry() const;
+    Entry entryOf(PictureRow* slot) const;
     void refresh();
     void rebuild();
     void placeInTabOrder();
@@ -47,6 +51,7 @@ class Chips : public QWidget {
     int layOut(int width, bool place) const;
 
     Binder& binder_;
+    std::vector<PictureRow*> slots_;
     QTimer due_;
     bool all_ = false;  ///< more than the first few
     std::vector<Entry> entries_;
