@@ -1,7 +1,9 @@
 // The batch page: its controls, both runs, what fails, and what a person does meanwhile.
 #include <algorithm>
+#include <csignal>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QCheckBox>
 #include <QDir>
@@ -269,6 +271,51 @@ TEST_F(BatchTest, ClosingAWindowWithARunAsks) {
     part<QPushButton>("stopBatchAndClose")->click();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->isVisible(); }, 30000));
     EXPECT_FALSE(window_->batch()->isRunning());
+}
+
+TEST_F(BatchTest, AFolderThatVanishesInARunIsSaidAndTheRunGoesOnWhenItIsBack) {
+    fillFolders();
+    part<QCheckBox>("checkboxBatchWatch")->click();
+    press("buttonBatchStart");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return made().size() == 2; }, 30000));
+    fs::rename(folder_.file("fg"), folder_.file("elsewhere"));
+    auto* problem = part<QLabel>("textBatchProblem");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return problem->text().endsWith("fg is not there."); }, 15000));
+    EXPECT_TRUE(window_->batch()->isRunning());
+    fs::rename(folder_.file("elsewhere"), folder_.file("fg"));
+    portrait("fg/late.png");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return made().size() == 3; }, 30000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return problem->isHidden(); }, 15000));
+    press("buttonBatchStop");
+    ASSERT_TRUE(waitForEnd());
+}
+
+TEST_F(BatchTest, AFastRunThatIsKilledTakesNothingAndTheNextMakesTheRest) {
+    fillFolders();
+    part<QCheckBox>("checkboxBatchWatch")->click();
+    press("buttonBatchFast");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return made().size() == 2; }, 30000));
+    const std::string self = std::to_string(::getpid());
+    std::ifstream children("/proc/" + self + "/task/" + self + "/children");
+    pid_t program = 0;
+    if (!(children >> program)) {
+        press("buttonBatchStop");
+        ASSERT_TRUE(waitForEnd());
+        GTEST_SKIP() << "this system does not tell the children of a process";
+    }
+    ::kill(program, SIGKILL);
+    ASSERT_TRUE(waitForEnd());
+    ASSERT_EQ(list("listBatchFailures")->count(), 1);
+    EXPECT_TRUE(rows("listBatchFailures")[0].startsWith("The fast batch broke off."));
+    EXPECT_TRUE(window_->isVisible());
+    part<QCheckBox>("checkboxBatchWatch")->click();
+    portrait("fg/late.png");
+    press("buttonBatchFast");
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(made().size(), 3);
+    EXPECT_EQ(list("listBatchFailures")->count(), 0) << rows("listBatchFailures").join('|').toStdString();
+    EXPECT_TRUE(part<QLabel>("batchTimeLeft")->text().contains("made before: 2"))
+        << part<QLabel>("batchTimeLeft")->text().toStdString();
 }
 
 }  // namespace
