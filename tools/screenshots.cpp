@@ -114,7 +114,7 @@ void shootEffects(MainWindow& window, const std::function<void(const char*)>& sa
         {"MyEffectsTextureReflectionPanel", "MyEffectsBWPanel", "groupBlur", "MyEffectsCartoonPanel"},
         {"MyEffectsTexturePanel", "MyEffectsSmoothPanel"},
         {"myGlobalSmoothingPanel", "myStarFilterPanel", "MyEffectsSilhouettePanel"},
-        {"myGreenGuardPanel", "groupFreeze"}};
+        {"groupOverlays", "myGreenGuardPanel", "groupFreeze"}};
     window.panel()->selectMainTab(1);
     window.binder().run("", [&](SettingEditor& editor) {
         for (const char* look : {"shadow wall", "frame oval", "texture canvas"}) {
@@ -179,6 +179,44 @@ void shootAirbrush(MainWindow& window, SystemInfo& info, const std::function<voi
     info.StartUpdate();
     settle(window, info);
     if (auto* leave = window.findChild<QAbstractButton*>("LeaveThem")) leave->click();
+}
+
+/// A run of the batch page, with a picture that fails.
+void shootBatch(MainWindow& window, SystemInfo& info, const std::function<void(const char*)>& save) {
+    const QTemporaryDir folder;
+    const QString portraits = folder.path() + "/Portraits", backgrounds = folder.path() + "/Scenes";
+    fillFolders(portraits, backgrounds);
+    for (int i = 4; i <= 30; ++i)
+        QFile::remove(QString("%1/IMG_%2.jpg").arg(portraits).arg(i, 4, 10, QChar('0')));
+    QFile(portraits + "/IMG_0002.jpg").resize(9);
+    QDir(folder.path()).mkdir("Done");
+    QLXInfo& settings = *info.oQLXInfo;
+    settings.sLastBatchForeground = portraits.toStdString();
+    settings.sLastBatchBackground = backgrounds.toStdString();
+    settings.sLastBatchOutput = (folder.path() + "/Done").toStdString();
+    settings.bLastBatchCheckForNewFiles = false;
+    BatchEngine& engine = window.batch()->engine();
+    engine.nextBatchForegroundFile.setFolderToCheck(settings.sLastBatchForeground);
+    engine.nextBatchBackgroundFile.setFolderToCheck(settings.sLastBatchBackground);
+    engine.nextBatchForegroundFile.setHistoryFileLocation(settings.sLastBatchOutput, "ForegroundHistory.dat");
+    window.batch()->setNotify([](const QString&, const QString&) {});
+    window.panel()->selectMainTab(window.batch()->title().key);
+    const auto rest = [](int ms, const std::function<bool()>& enough) {
+        QElapsedTimer time;
+        for (time.start(); time.elapsed() < ms && !enough();)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    };
+    rest(1500, [] { return false; });
+    save("batch-plan");
+    window.batch()->startFast();
+    rest(60000, [&] { return !window.batch()->isRunning(); });
+    rest(500, [] { return false; });
+    save("batch-done");
+    for (GroupBox* group : window.batch()->groups())
+        group->setFolded(group->objectName() == "groupBatchFolders" || group->objectName() == "groupBatchChoices");
+    save("batch-lists");
+    window.messages()->hide();
+    settings.sLastBatchForeground = settings.sLastBatchBackground = settings.sLastBatchOutput = "";
 }
 
 /// The pictures of the user's guide: a small window in the light theme, with few colours so that they stay small.
@@ -285,6 +323,7 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
         }
         shootAirbrush(window, *info, save);
         shootEffects(window, save);
+        shootBatch(window, *info, save);
         window.panel()->selectMainTab(0);
         const auto action = [&](const char* id) { return window.commands().action(id); };
         const auto shoots = [&](const char* id, const char* name) {

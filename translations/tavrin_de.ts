@@ -1972,6 +1972,122 @@
         <source>Steps and edits</source>
         <translation>Schritte und Striche</translation>
     </message>
+    <message>
+        <source>Folders of the batch</source>
+        <translation>Ordner des Stapels</translation>
+    </message>
+    <message>
+        <source>Files and names</source>
+        <translation>Dateien und Namen</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Lauf</translation>
+    </message>
+    <message>
+        <source>What will be made</source>
+        <translation>Was gemacht wird</translation>
+    </message>
+    <message>
+        <source>Last pictures</source>
+        <translation>Letzte Bilder</translation>
+    </message>
+    <message>
+        <source>Failures</source>
+        <translation>Fehlschläge</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Stapel</translation>
+    </message>
+    <message>
+        <source>Whole folders of portraits over folders of backgrounds</source>
+        <translation>Ganze Ordner von Porträts über Ordnern von Hintergründen</translation>
+    </message>
+    <message>
+        <source>Portraits</source>
+        <translation>Porträts</translation>
+    </message>
+    <message>
+        <source>The folder with the portraits; without one the present portrait is taken</source>
+        <translation>Der Ordner mit den Porträts; ohne ihn wird das jetzige Porträt genommen</translation>
+    </message>
+    <message>
+        <source>Backgrounds</source>
+        <translation>Hintergründe</translation>
+    </message>
+    <message>
+        <source>Every portrait is laid over every background of this folder; without one over the present background</source>
+        <translation>Jedes Porträt wird über jeden Hintergrund dieses Ordners gelegt; ohne ihn über den jetzigen Hintergrund</translation>
+    </message>
+    <message>
+        <source>States</source>
+        <translation>Stände</translation>
+    </message>
+    <message>
+        <source>State files, each of which makes pictures of its own; without a folder the present settings are taken</source>
+        <translation>Standdateien, von denen jede eigene Bilder macht; ohne Ordner gelten die jetzigen Einstellungen</translation>
+    </message>
+    <message>
+        <source>Finished pictures</source>
+        <translation>Fertige Bilder</translation>
+    </message>
+    <message>
+        <source>The folder into which the pictures go</source>
+        <translation>Der Ordner, in den die Bilder kommen</translation>
+    </message>
+    <message>
+        <source>Overlay over the background</source>
+        <translation>Auflage über dem Hintergrund</translation>
+    </message>
+    <message>
+        <source>A picture with clear parts between background and portrait. A file can be dropped here.</source>
+        <translation>Ein Bild mit durchsichtigen Teilen zwischen Hintergrund und Porträt. Eine Datei kann hier abgelegt werden.</translation>
+    </message>
+    <message>
+        <source>Select Background Overlay</source>
+        <translation>Auflage für den Hintergrund wählen</translation>
+    </message>
+    <message>
+        <source>No background overlay loaded</source>
+        <translation>Keine Auflage über dem Hintergrund</translation>
+    </message>
+    <message>
+        <source>Overlay over the portrait</source>
+        <translation>Auflage über dem Porträt</translation>
+    </message>
+    <message>
+        <source>A picture with clear parts over the portrait. A file can be dropped here.</source>
+        <translation>Ein Bild mit durchsichtigen Teilen über dem Porträt. Eine Datei kann hier abgelegt werden.</translation>
+    </message>
+    <message>
+        <source>Select Forground Overlay</source>
+        <translation>Auflage für das Porträt wählen</translation>
+    </message>
+    <message>
+        <source>No foreground overlay loaded</source>
+        <translation>Keine Auflage über dem Porträt</translation>
+    </message>
+    <message>
+        <source>Overlay over the whole</source>
+        <translation>Auflage über dem Ganzen</translation>
+    </message>
+    <message>
+        <source>A picture with clear parts over everything, such as a frame. A file can be dropped here.</source>
+        <translation>Ein Bild mit durchsichtigen Teilen über allem, etwa ein Rahmen. Eine Datei kann hier abgelegt werden.</translation>
+    </message>
+    <message>
+        <source>Select Frame Overlay</source>
+        <translation>Auflage für das Ganze wählen</translation>
+    </message>
+    <message>
+        <source>No frame overlay loaded</source>
+        <translation>Keine Auflage über dem Ganzen</translation>
+    </message>
+    <message>
+        <source>Overlays</source>
+        <translation>Auflagen</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -2285,6 +2401,239 @@
     <message>
         <source>%1 pictures are being made...</source>
         <translation>%1 Bilder entstehen noch...</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::BatchChoices</name>
+    <message>
+        <source>Go on as files arrive</source>
+        <translation>Weitermachen, wenn Dateien kommen</translation>
+    </message>
+    <message>
+        <source>A run does not end; it takes portraits, backgrounds and states as they come</source>
+        <translation>Ein Lauf endet nicht; er nimmt Porträts, Hintergründe und Stände, wie sie kommen</translation>
+    </message>
+    <message>
+        <source>Low resolution (kept only)</source>
+        <translation>Kleine Auflösung (nur gemerkt)</translation>
+    </message>
+    <message>
+        <source>Is kept with the settings; a run makes full pictures all the same</source>
+        <translation>Wird mit den Einstellungen gemerkt; ein Lauf macht trotzdem volle Bilder</translation>
+    </message>
+    <message>
+        <source>Subfolders are named like their background</source>
+        <translation>Unterordner heißen wie ihr Hintergrund</translation>
+    </message>
+    <message>
+        <source>Portraits lie in subfolders of the portraits&apos; folder; each is laid over the background of its subfolder&apos;s name</source>
+        <translation>Porträts liegen in Unterordnern des Porträtordners; jedes kommt über den Hintergrund mit dem Namen seines Unterordners</translation>
+    </message>
+    <message>
+        <source>Take the jobs from a list file</source>
+        <translation>Aufträge aus einer Listendatei</translation>
+    </message>
+    <message>
+        <source>The first XML file in the portraits&apos; folder says what is made; it is moved into the folder SavedXML there as soon as it is read</source>
+        <translation>Die erste XML-Datei im Porträtordner sagt, was gemacht wird; sobald sie gelesen ist, kommt sie dort in den Ordner SavedXML</translation>
+    </message>
+    <message>
+        <source>Type and names of the pictures, watching, lists</source>
+        <translation>Art und Namen der Bilder, Überwachen, Listen</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>JPEG</source>
+        <translation>JPEG</translation>
+    </message>
+    <message>
+        <source>Small files</source>
+        <translation>Kleine Dateien</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>Without loss, and can be clear in parts</source>
+        <translation>Ohne Verlust, und kann durchsichtige Teile haben</translation>
+    </message>
+    <message>
+        <source>TIFF</source>
+        <translation>TIFF</translation>
+    </message>
+    <message>
+        <source>Without loss, for printers</source>
+        <translation>Ohne Verlust, für Druckereien</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Namen</translation>
+    </message>
+    <message>
+        <source>Joined</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>The names of portrait, background and state, one behind the other</source>
+        <translation>Die Namen von Porträt, Hintergrund und Stand hintereinander</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Nummern</translation>
+    </message>
+    <message>
+        <source>BatchFile1, BatchFile2 and so on; what lies there stays</source>
+        <translation>BatchFile1, BatchFile2 und so weiter; was schon da ist, bleibt</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>A folder for each background, and in it one for each state</source>
+        <translation>Ein Ordner je Hintergrund, darin einer je Stand</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::BatchPage</name>
+    <message>
+        <source>Pictures in the batch</source>
+        <translation>Bilder im Stapel</translation>
+    </message>
+    <message>
+        <source>In the history</source>
+        <translation>Im Verlauf</translation>
+    </message>
+    <message>
+        <source>Start, stop and history</source>
+        <translation>Start, Halt und Verlauf</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Makes the pictures one by one in this window, where each is seen</source>
+        <translation>Macht die Bilder eins nach dem anderen in diesem Fenster, wo jedes zu sehen ist</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Halt</translation>
+    </message>
+    <message>
+        <source>Ends the run after the picture in hand; the next run goes on there</source>
+        <translation>Beendet den Lauf nach dem Bild in Arbeit; der nächste macht dort weiter</translation>
+    </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Verlauf leeren</translation>
+    </message>
+    <message>
+        <source>Forgets what was made, so that a run makes all of it again</source>
+        <translation>Vergisst, was gemacht ist, so dass ein Lauf alles noch einmal macht</translation>
+    </message>
+    <message>
+        <source>Start fast</source>
+        <translation>Schnell starten</translation>
+    </message>
+    <message>
+        <source>Makes the pictures beside this window, several at a time; the picture that is open stays. It has a history of its own in the folder of the pictures.</source>
+        <translation>Macht die Bilder neben diesem Fenster, mehrere zugleich; das offene Bild bleibt. Der Lauf hat einen eigenen Verlauf im Ordner der Bilder.</translation>
+    </message>
+    <message>
+        <source>Look ahead, fast</source>
+        <translation>Vorschau, schnell</translation>
+    </message>
+    <message>
+        <source>Lists what the fast run would make, and makes nothing</source>
+        <translation>Nennt, was der schnelle Lauf machen würde, und macht nichts</translation>
+    </message>
+    <message>
+        <source>Try these again</source>
+        <translation>Diese noch einmal</translation>
+    </message>
+    <message>
+        <source>Makes what failed once more, as soon as its cause is gone</source>
+        <translation>Macht noch einmal, was misslang, sobald der Grund weg ist</translation>
+    </message>
+    <message>
+        <source>Choose a Folder: %1</source>
+        <translation>Ordner wählen: %1</translation>
+    </message>
+    <message>
+        <source>The batch cannot start.</source>
+        <translation>Der Stapel kann nicht beginnen.</translation>
+    </message>
+    <message>
+        <source>The batch stops after the pictures in hand.</source>
+        <translation>Der Stapel hält nach den Bildern in Arbeit.</translation>
+    </message>
+    <message>
+        <source>There is no list file in the portraits&apos; folder.</source>
+        <translation>Im Porträtordner ist keine Listendatei.</translation>
+    </message>
+    <message>
+        <source>The batch has ended early.</source>
+        <translation>Der Stapel ist vorzeitig zu Ende.</translation>
+    </message>
+    <message>
+        <source>Nothing: all of it was made before.</source>
+        <translation>Nichts: alles ist schon gemacht.</translation>
+    </message>
+    <message>
+        <source>The batch has ended.</source>
+        <translation>Der Stapel ist fertig.</translation>
+    </message>
+    <message>
+        <source>The batch has ended. %1</source>
+        <translation>Der Stapel ist fertig. %1</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::BatchProgress</name>
+    <message>
+        <source>Progress of the batch</source>
+        <translation>Fortschritt des Stapels</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Working...</source>
+        <translation>In Arbeit ...</translation>
+    </message>
+    <message>
+        <source>About %1 left</source>
+        <translation>Noch etwa %1</translation>
+    </message>
+    <message>
+        <source>Pictures made: %1, in %2</source>
+        <translation>Gemachte Bilder: %1, in %2</translation>
+    </message>
+    <message>
+        <source>; made before: %1</source>
+        <translation>; schon gemacht: %1</translation>
+    </message>
+    <message>
+        <source>; failed: %1</source>
+        <translation>; misslungen: %1</translation>
     </message>
 </context>
 <context>
@@ -2671,6 +3020,75 @@
     </message>
 </context>
 <context>
+    <name>tavrin::FailureList</name>
+    <message>
+        <source>What could not be made</source>
+        <translation>Was nicht gemacht werden konnte</translation>
+    </message>
+    <message>
+        <source>Pictures that could not be made, each with its reason</source>
+        <translation>Bilder, die nicht gemacht werden konnten, jedes mit seinem Grund</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::FastBatch</name>
+    <message>
+        <source>The program tavrin-cli cannot be started: %1</source>
+        <translation>Das Programm tavrin-cli lässt sich nicht starten: %1</translation>
+    </message>
+    <message>
+        <source>The present settings cannot be handed over: %1</source>
+        <translation>Die jetzigen Einstellungen lassen sich nicht übergeben: %1</translation>
+    </message>
+    <message>
+        <source>The fast batch broke off. What it has made is there; start it again for the rest.</source>
+        <translation>Der schnelle Stapel ist abgebrochen. Was er gemacht hat, ist da; für den Rest noch einmal starten.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::FolderRow</name>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen ...</translation>
+    </message>
+    <message>
+        <source>Choose: %1</source>
+        <translation>Wählen: %1</translation>
+    </message>
+    <message>
+        <source>Take none: %1</source>
+        <translation>Keinen nehmen: %1</translation>
+    </message>
+    <message>
+        <source>Take none</source>
+        <translation>Keinen nehmen</translation>
+    </message>
+    <message>
+        <source>Choose a folder for the finished pictures.</source>
+        <translation>Bitte einen Ordner für die fertigen Bilder wählen.</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not there.</source>
+        <translation>Der Ordner %1 ist nicht da.</translation>
+    </message>
+    <message>
+        <source>Nothing may be written into the folder %1.</source>
+        <translation>In den Ordner %1 darf nichts geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The folder %1 may not be read.</source>
+        <translation>Der Ordner %1 darf nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::GroupBox</name>
     <message>
         <source>Fold the group away, or open it</source>
@@ -2749,6 +3167,17 @@
     <message>
         <source>Delete an item</source>
         <translation>Element löschen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LastPictures</name>
+    <message>
+        <source>Last pictures</source>
+        <translation>Letzte Bilder</translation>
+    </message>
+    <message>
+        <source>The pictures that were made last</source>
+        <translation>Die Bilder, die zuletzt gemacht wurden</translation>
     </message>
 </context>
 <context>
@@ -3749,6 +4178,18 @@
         <source>The edits are still being replayed.</source>
         <translation>Die Striche werden noch wiederholt.</translation>
     </message>
+    <message>
+        <source>A batch is running.</source>
+        <translation>Ein Stapel läuft.</translation>
+    </message>
+    <message>
+        <source>The pictures in hand are finished first. The next run goes on with the rest.</source>
+        <translation>Die Bilder in Arbeit werden noch fertig. Der nächste Lauf macht mit dem Rest weiter.</translation>
+    </message>
+    <message>
+        <source>Stop and &amp;Close</source>
+        <translation>Anhalten und s&amp;chließen</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4036,6 +4477,25 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>%1 x %2 pixels, %3 percent, %4</source>
         <translation>%1 x %2 Bildpunkte, %3 Prozent, %4</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PlanList</name>
+    <message>
+        <source>What will be made</source>
+        <translation>Was gemacht wird</translation>
+    </message>
+    <message>
+        <source>The pictures of the next run, in its order; what was made before is left out</source>
+        <translation>Die Bilder des nächsten Laufs in seiner Reihenfolge; was schon gemacht ist, fehlt</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>%1 from %2</source>
+        <translation>%1 aus %2</translation>
     </message>
 </context>
 <context>

@@ -1972,6 +1972,122 @@
         <source>Steps and edits</source>
         <translation>Pasos y trazos</translation>
     </message>
+    <message>
+        <source>Folders of the batch</source>
+        <translation>Carpetas del lote</translation>
+    </message>
+    <message>
+        <source>Files and names</source>
+        <translation>Archivos y nombres</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Proceso</translation>
+    </message>
+    <message>
+        <source>What will be made</source>
+        <translation>Qué se hará</translation>
+    </message>
+    <message>
+        <source>Last pictures</source>
+        <translation>Últimas imágenes</translation>
+    </message>
+    <message>
+        <source>Failures</source>
+        <translation>Fallos</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Lote</translation>
+    </message>
+    <message>
+        <source>Whole folders of portraits over folders of backgrounds</source>
+        <translation>Carpetas enteras de retratos sobre carpetas de fondos</translation>
+    </message>
+    <message>
+        <source>Portraits</source>
+        <translation>Retratos</translation>
+    </message>
+    <message>
+        <source>The folder with the portraits; without one the present portrait is taken</source>
+        <translation>La carpeta de los retratos; sin ella se toma el retrato actual</translation>
+    </message>
+    <message>
+        <source>Backgrounds</source>
+        <translation>Fondos</translation>
+    </message>
+    <message>
+        <source>Every portrait is laid over every background of this folder; without one over the present background</source>
+        <translation>Cada retrato se pone sobre cada fondo de esta carpeta; sin ella, sobre el fondo actual</translation>
+    </message>
+    <message>
+        <source>States</source>
+        <translation>Estados</translation>
+    </message>
+    <message>
+        <source>State files, each of which makes pictures of its own; without a folder the present settings are taken</source>
+        <translation>Archivos de estado; cada uno hace sus propias imágenes; sin carpeta se toman los ajustes actuales</translation>
+    </message>
+    <message>
+        <source>Finished pictures</source>
+        <translation>Imágenes terminadas</translation>
+    </message>
+    <message>
+        <source>The folder into which the pictures go</source>
+        <translation>La carpeta donde van las imágenes</translation>
+    </message>
+    <message>
+        <source>Overlay over the background</source>
+        <translation>Capa sobre el fondo</translation>
+    </message>
+    <message>
+        <source>A picture with clear parts between background and portrait. A file can be dropped here.</source>
+        <translation>Una imagen con partes transparentes entre el fondo y el retrato. Se puede soltar aquí un archivo.</translation>
+    </message>
+    <message>
+        <source>Select Background Overlay</source>
+        <translation>Elegir la capa del fondo</translation>
+    </message>
+    <message>
+        <source>No background overlay loaded</source>
+        <translation>Ninguna capa sobre el fondo</translation>
+    </message>
+    <message>
+        <source>Overlay over the portrait</source>
+        <translation>Capa sobre el retrato</translation>
+    </message>
+    <message>
+        <source>A picture with clear parts over the portrait. A file can be dropped here.</source>
+        <translation>Una imagen con partes transparentes sobre el retrato. Se puede soltar aquí un archivo.</translation>
+    </message>
+    <message>
+        <source>Select Forground Overlay</source>
+        <translation>Elegir la capa del retrato</translation>
+    </message>
+    <message>
+        <source>No foreground overlay loaded</source>
+        <translation>Ninguna capa sobre el retrato</translation>
+    </message>
+    <message>
+        <source>Overlay over the whole</source>
+        <translation>Capa sobre el conjunto</translation>
+    </message>
+    <message>
+        <source>A picture with clear parts over everything, such as a frame. A file can be dropped here.</source>
+        <translation>Una imagen con partes transparentes sobre todo, como un marco. Se puede soltar aquí un archivo.</translation>
+    </message>
+    <message>
+        <source>Select Frame Overlay</source>
+        <translation>Elegir la capa del conjunto</translation>
+    </message>
+    <message>
+        <source>No frame overlay loaded</source>
+        <translation>Ninguna capa sobre el conjunto</translation>
+    </message>
+    <message>
+        <source>Overlays</source>
+        <translation>Capas</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -2285,6 +2401,239 @@
     <message>
         <source>%1 pictures are being made...</source>
         <translation>Se están haciendo %1 imágenes...</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::BatchChoices</name>
+    <message>
+        <source>Go on as files arrive</source>
+        <translation>Seguir cuando lleguen archivos</translation>
+    </message>
+    <message>
+        <source>A run does not end; it takes portraits, backgrounds and states as they come</source>
+        <translation>El proceso no termina; toma retratos, fondos y estados según llegan</translation>
+    </message>
+    <message>
+        <source>Low resolution (kept only)</source>
+        <translation>Baja resolución (solo se guarda)</translation>
+    </message>
+    <message>
+        <source>Is kept with the settings; a run makes full pictures all the same</source>
+        <translation>Se guarda con los ajustes; el proceso hace imágenes completas de todos modos</translation>
+    </message>
+    <message>
+        <source>Subfolders are named like their background</source>
+        <translation>Las subcarpetas se llaman como su fondo</translation>
+    </message>
+    <message>
+        <source>Portraits lie in subfolders of the portraits&apos; folder; each is laid over the background of its subfolder&apos;s name</source>
+        <translation>Los retratos están en subcarpetas de su carpeta; cada uno va sobre el fondo que se llama como su subcarpeta</translation>
+    </message>
+    <message>
+        <source>Take the jobs from a list file</source>
+        <translation>Tomar los trabajos de una lista</translation>
+    </message>
+    <message>
+        <source>The first XML file in the portraits&apos; folder says what is made; it is moved into the folder SavedXML there as soon as it is read</source>
+        <translation>El primer archivo XML de la carpeta de retratos dice qué se hace; al leerlo se mueve allí a la carpeta SavedXML</translation>
+    </message>
+    <message>
+        <source>Type and names of the pictures, watching, lists</source>
+        <translation>Tipo y nombres de las imágenes, vigilancia, listas</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>JPEG</source>
+        <translation>JPEG</translation>
+    </message>
+    <message>
+        <source>Small files</source>
+        <translation>Archivos pequeños</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>Without loss, and can be clear in parts</source>
+        <translation>Sin pérdida, y puede tener partes transparentes</translation>
+    </message>
+    <message>
+        <source>TIFF</source>
+        <translation>TIFF</translation>
+    </message>
+    <message>
+        <source>Without loss, for printers</source>
+        <translation>Sin pérdida, para imprentas</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Nombres</translation>
+    </message>
+    <message>
+        <source>Joined</source>
+        <translation>Unidos</translation>
+    </message>
+    <message>
+        <source>The names of portrait, background and state, one behind the other</source>
+        <translation>Los nombres de retrato, fondo y estado, uno tras otro</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Números</translation>
+    </message>
+    <message>
+        <source>BatchFile1, BatchFile2 and so on; what lies there stays</source>
+        <translation>BatchFile1, BatchFile2 y así; lo que ya está se queda</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <source>A folder for each background, and in it one for each state</source>
+        <translation>Una carpeta por fondo, y dentro una por estado</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::BatchPage</name>
+    <message>
+        <source>Pictures in the batch</source>
+        <translation>Imágenes del lote</translation>
+    </message>
+    <message>
+        <source>In the history</source>
+        <translation>En el historial</translation>
+    </message>
+    <message>
+        <source>Start, stop and history</source>
+        <translation>Inicio, parada e historial</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Makes the pictures one by one in this window, where each is seen</source>
+        <translation>Hace las imágenes una a una en esta ventana, donde se ve cada una</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Ends the run after the picture in hand; the next run goes on there</source>
+        <translation>Termina el proceso tras la imagen en curso; el siguiente sigue allí</translation>
+    </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Borrar historial</translation>
+    </message>
+    <message>
+        <source>Forgets what was made, so that a run makes all of it again</source>
+        <translation>Olvida lo hecho, para que un proceso lo haga todo otra vez</translation>
+    </message>
+    <message>
+        <source>Start fast</source>
+        <translation>Inicio rápido</translation>
+    </message>
+    <message>
+        <source>Makes the pictures beside this window, several at a time; the picture that is open stays. It has a history of its own in the folder of the pictures.</source>
+        <translation>Hace las imágenes al lado de esta ventana, varias a la vez; la imagen abierta se queda. Tiene su propio historial en la carpeta de las imágenes.</translation>
+    </message>
+    <message>
+        <source>Look ahead, fast</source>
+        <translation>Ver antes, rápido</translation>
+    </message>
+    <message>
+        <source>Lists what the fast run would make, and makes nothing</source>
+        <translation>Muestra lo que haría el proceso rápido, sin hacer nada</translation>
+    </message>
+    <message>
+        <source>Try these again</source>
+        <translation>Intentar otra vez</translation>
+    </message>
+    <message>
+        <source>Makes what failed once more, as soon as its cause is gone</source>
+        <translation>Hace otra vez lo que falló, cuando la causa ya no está</translation>
+    </message>
+    <message>
+        <source>Choose a Folder: %1</source>
+        <translation>Elegir una carpeta: %1</translation>
+    </message>
+    <message>
+        <source>The batch cannot start.</source>
+        <translation>El lote no puede empezar.</translation>
+    </message>
+    <message>
+        <source>The batch stops after the pictures in hand.</source>
+        <translation>El lote para tras las imágenes en curso.</translation>
+    </message>
+    <message>
+        <source>There is no list file in the portraits&apos; folder.</source>
+        <translation>No hay ninguna lista en la carpeta de retratos.</translation>
+    </message>
+    <message>
+        <source>The batch has ended early.</source>
+        <translation>El lote terminó antes de tiempo.</translation>
+    </message>
+    <message>
+        <source>Nothing: all of it was made before.</source>
+        <translation>Nada: todo está ya hecho.</translation>
+    </message>
+    <message>
+        <source>The batch has ended.</source>
+        <translation>El lote ha terminado.</translation>
+    </message>
+    <message>
+        <source>The batch has ended. %1</source>
+        <translation>El lote ha terminado. %1</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::BatchProgress</name>
+    <message>
+        <source>Progress of the batch</source>
+        <translation>Progreso del lote</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Working...</source>
+        <translation>Trabajando...</translation>
+    </message>
+    <message>
+        <source>About %1 left</source>
+        <translation>Quedan unos %1</translation>
+    </message>
+    <message>
+        <source>Pictures made: %1, in %2</source>
+        <translation>Imágenes hechas: %1, en %2</translation>
+    </message>
+    <message>
+        <source>; made before: %1</source>
+        <translation>; hechas antes: %1</translation>
+    </message>
+    <message>
+        <source>; failed: %1</source>
+        <translation>; fallidas: %1</translation>
     </message>
 </context>
 <context>
@@ -2671,6 +3020,75 @@
     </message>
 </context>
 <context>
+    <name>tavrin::FailureList</name>
+    <message>
+        <source>What could not be made</source>
+        <translation>Lo que no se pudo hacer</translation>
+    </message>
+    <message>
+        <source>Pictures that could not be made, each with its reason</source>
+        <translation>Imágenes que no se pudieron hacer, cada una con su causa</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::FastBatch</name>
+    <message>
+        <source>The program tavrin-cli cannot be started: %1</source>
+        <translation>No se puede iniciar el programa tavrin-cli: %1</translation>
+    </message>
+    <message>
+        <source>The present settings cannot be handed over: %1</source>
+        <translation>No se pueden entregar los ajustes actuales: %1</translation>
+    </message>
+    <message>
+        <source>The fast batch broke off. What it has made is there; start it again for the rest.</source>
+        <translation>El lote rápido se interrumpió. Lo que hizo está ahí; inícielo otra vez para el resto.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::FolderRow</name>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Choose: %1</source>
+        <translation>Elegir: %1</translation>
+    </message>
+    <message>
+        <source>Take none: %1</source>
+        <translation>No tomar ninguna: %1</translation>
+    </message>
+    <message>
+        <source>Take none</source>
+        <translation>No tomar ninguna</translation>
+    </message>
+    <message>
+        <source>Choose a folder for the finished pictures.</source>
+        <translation>Elija una carpeta para las imágenes terminadas.</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not there.</source>
+        <translation>La carpeta %1 no está.</translation>
+    </message>
+    <message>
+        <source>Nothing may be written into the folder %1.</source>
+        <translation>No se puede escribir en la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>The folder %1 may not be read.</source>
+        <translation>No se puede leer la carpeta %1.</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::GroupBox</name>
     <message>
         <source>Fold the group away, or open it</source>
@@ -2749,6 +3167,17 @@
     <message>
         <source>Delete an item</source>
         <translation>Borrar un elemento</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::LastPictures</name>
+    <message>
+        <source>Last pictures</source>
+        <translation>Últimas imágenes</translation>
+    </message>
+    <message>
+        <source>The pictures that were made last</source>
+        <translation>Las últimas imágenes hechas</translation>
     </message>
 </context>
 <context>
@@ -3749,6 +4178,18 @@
         <source>The edits are still being replayed.</source>
         <translation>Todavía se repiten los trazos.</translation>
     </message>
+    <message>
+        <source>A batch is running.</source>
+        <translation>Hay un lote en marcha.</translation>
+    </message>
+    <message>
+        <source>The pictures in hand are finished first. The next run goes on with the rest.</source>
+        <translation>Primero se terminan las imágenes en curso. El siguiente proceso sigue con el resto.</translation>
+    </message>
+    <message>
+        <source>Stop and &amp;Close</source>
+        <translation>Parar y &amp;cerrar</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4036,6 +4477,25 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>%1 x %2 pixels, %3 percent, %4</source>
         <translation>%1 x %2 píxeles, %3 por ciento, %4</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PlanList</name>
+    <message>
+        <source>What will be made</source>
+        <translation>Qué se hará</translation>
+    </message>
+    <message>
+        <source>The pictures of the next run, in its order; what was made before is left out</source>
+        <translation>Las imágenes del próximo proceso, en su orden; lo ya hecho no aparece</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>%1 from %2</source>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,7 @@ void BatchEngine::clickedButtonClearBatchHistory() {
     {
         std::lock_guard lock(scanners_);
         nextBatchForegroundFile.ClearHistoryFile();
+        failed_.clear();  // any run takes them now
     }
     ShowBatchStatus();
 }
@@ -139,6 +140,7 @@ std::int32_t BatchEngine::ComputeNumberOfFilesInBatchUsingXMLFile() {
     iNextFileNumber = next;
     std::move(list.jobs.begin(), list.jobs.end(), myBatchElements.begin());
     moveListFileAway(folder, name);
+    if (!list.jobs.empty()) listFile_ = (fs::path(folder) / "SavedXML" / name).string();
     iXMLBatchElements = static_cast<std::int32_t>(list.jobs.size());
     if (list.refused > 0) {
         info_.alert("The batch list " + name + " has too many jobs.",
@@ -155,6 +157,11 @@ void BatchEngine::moveListFileAway(const std::string& folder, const std::string&
     fs::create_directories(saved, ignored);
     fs::copy_file(fs::path(folder) / name, saved / name, ignored);
     fs::remove(fs::path(folder) / name, ignored);
+}
+
+std::string BatchEngine::listFile() const {
+    std::lock_guard lock(scanners_);
+    return listFile_;
 }
 
 void BatchEngine::updateBatchUI() {

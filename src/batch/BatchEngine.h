@@ -20,6 +20,19 @@
 
 namespace tavrin {
 
+/// A picture that a run would make.
+struct PlannedPicture {
+    BatchSources names;
+    std::string picture;  ///< path without extension
+};
+
+/// What a run would make.
+struct BatchOutlook {
+    static constexpr int kMostCounted = 100000;
+    std::vector<PlannedPicture> first;  ///< those that come first
+    int left = 0;                       ///< all of them, as far as they are counted
+};
+
 /// The batch of the desktop program: combinations of foregrounds, backgrounds and states go through the processing
 /// thread that serves the screen, one picture at a time. `nextBatchImageToProcess` does one step: it saves what has
 /// just been finished, chooses the next job, loads it and asks for its picture. An idle job of the loop, it is called
@@ -41,6 +54,8 @@ class BatchEngine : public IdleJob {
     void clickedButtonStartBatch();
     void clickedButtonStopBatch();
     void clickedButtonClearBatchHistory();
+    /// Takes the jobs that failed once more, before all others, and starts a run unless one is on.
+    void clickedButtonBatchAgain();
 
     /// One step. Processing thread only.
     void nextBatchImageToProcess();
@@ -56,6 +71,12 @@ class BatchEngine : public IdleJob {
     /// Loads a list file from the foreground folder and moves it away, unless one that held jobs was loaded before.
     /// @return its jobs
     std::int32_t ComputeNumberOfFilesInBatchUsingXMLFile();
+
+    /// What a run would make now, in its order, with the first of them by name. It looks into the folders as a run
+    /// does, and makes nothing. Any thread.
+    BatchOutlook outlook(std::size_t most);
+    /// Where the list whose jobs are loaded lies now; "" without one.
+    std::string listFile() const;
 
     void updateBatchUI();
     void chooseBatchForegroundFolder();
@@ -94,7 +115,8 @@ class BatchEngine : public IdleJob {
         std::string foregroundPath, backgroundPath, statePath;
         std::string historyKey;
         std::string foregroundName = names.foreground;  ///< tells whether the foreground is loaded already
-        bool fromList = false;
+        std::optional<std::size_t> element = {};        ///< its place in the list that it comes from
+        bool again = false;                             ///< it failed before
     };
 
     /// What the last look at a portrait saw.
@@ -114,19 +136,28 @@ class BatchEngine : public IdleJob {
     void moveListFileAway(const std::string& folder, const std::string& name);
 
     void saveFinishedJob();
+    void tellEnd(bool saved, const std::string& problem);
     void drawMask();
     void stopRun();
     void takeJob();
     void beginJob(const Selection& job);
     std::optional<Selection> chooseJob();
+    bool hasAgain();
+    std::optional<Selection> chooseAgain();
     std::optional<Selection> chooseCombination();
     std::optional<Selection> chooseFromList();
+    Selection useElement(std::size_t place);
+    Selection ofElement(std::size_t place) const;
+    void fillEmptySlots();
+    void eachOpenJob(const std::function<bool(Selection)>& take,
+                     const std::function<void(const std::string& entry)>& loose);
     void refuseOnce(const std::string& problem);
     void loadState(const Selection& job);
     void loadBackground(const Selection& job);
     void loadForeground(const Selection& job);
     bool isStable(const Selection& job);
     void nameOutput(const Selection& job);
+    std::string outputOf(const Selection& job, std::int32_t& number, const MakeFolder& makeFolder) const;
     std::string whyNotSaved();
     KnownFiles inputFiles();
 
@@ -138,9 +169,12 @@ class BatchEngine : public IdleJob {
     SystemInfo& info_;
     QLXInfo& settings_;
     BatchInterface& view_;
-    std::recursive_mutex scanners_;   ///< the panel and a run both look into the folders
-    std::optional<Selection> taken_;  ///< the job whose portrait is waited for, and what was seen of it
+    mutable std::recursive_mutex scanners_;  ///< the panel and a run both look into the folders
+    std::optional<Selection> taken_;         ///< the job whose portrait is waited for, and what was seen of it
     std::optional<Seen> seen_;
+    std::optional<Selection> underWork_;     ///< the job whose picture is made
+    std::vector<Selection> failed_, again_;  ///< under the lock
+    std::string listFile_;                   ///< under the lock
     std::optional<Searched> searchedInVain_;
     bool refused_ = false;  ///< a message about an entry that has no place was shown in this run
 };

@@ -7,22 +7,25 @@
 namespace tavrin {
 
 void BatchEngine::nameOutput(const Selection& job) {
+    std::int32_t number = iNextFileNumber;
+    sSaveFileName = outputOf(job, number, makeFolders);
+    iNextFileNumber = number;
+}
+
+/// @param number of the next numbered picture; counted on
+std::string BatchEngine::outputOf(const Selection& job, std::int32_t& number, const MakeFolder& makeFolder) const {
     const std::string folder = settings_.sLastBatchOutput;
     switch (settings_.iLastBatchLastOutputStyle) {
         case kNumberFiles:
             // Every start counts from one, and what an earlier run made stays.
-            iNextFileNumber = freeNumber(folder, iNextFileNumber, settings_.iLastBatchLastOutputFileType);
-            sSaveFileName = numberedName(folder, iNextFileNumber);
-            iNextFileNumber = iNextFileNumber + 1;
-            break;
+            number = freeNumber(folder, number, settings_.iLastBatchLastOutputFileType);
+            return numberedName(folder, number++);
         case kCombineNames:
-            sSaveFileName = combinedName(folder, job.names);
-            break;
+            return combinedName(folder, job.names);
         case kSplitIntoFolders:
-            sSaveFileName = splitName(folder, job.names, makeFolders);
-            break;
+            return splitName(folder, job.names, makeFolder);
         default:
-            break;
+            return sSaveFileName;
     }
 }
 

@@ -1,13 +1,11 @@
 #include <algorithm>
 #include <filesystem>
-#include <unordered_set>
 #include <utility>
 
 #include "batch/BatchEngine.h"
 #include "core/Log.h"
 #include "formats/ImageState.h"
 #include "pipeline/SaveImage.h"
-#include "session/SettingChanges.h"
 #include "session/Sources.h"
 #include "session/States.h"
 
@@ -26,14 +24,15 @@ void BatchEngine::nextBatchImageToProcess() {
 void BatchEngine::takeJob() {
     ShowBatchStatus();
     const bool watch = settings_.bLastBatchCheckForNewFiles;
-    if (iTotalInBatch == 0 && !bStopBatchProcessing) {
+    if (iTotalInBatch == 0 && !hasAgain() && !bStopBatchProcessing) {
         if (watch) return;
         bStopBatchProcessing = true;
     }
     if (bSaveNextImage) saveFinishedJob();
     if (bStopBatchProcessing) return stopRun();
 
-    std::optional<Selection> job = chooseJob();
+    std::optional<Selection> job = chooseAgain();
+    if (!job) job = chooseJob();
     if (!job) {
         if (!watch) stopRun();
         return;
@@ -45,13 +44,14 @@ void BatchEngine::takeJob() {
 
 void BatchEngine::beginJob(const Selection& job) {
     loadForeground(job);
-    if (!job.fromList) nameOutput(job);
+    if (!job.element) nameOutput(job);
     if (const std::string problem = whyNotSaved(); !problem.empty()) {
         info_.alert("The batch has stopped: a picture cannot go where it should.", problem + ".");
         return stopRun();
     }
     bSaveNextImage = true;
-    if (!job.fromList) {
+    underWork_ = job;
+    if (!job.element && !job.again) {
         // Before the picture is made: a job that breaks the program is not tried for ever.
         std::lock_guard lock(scanners_);
         nextBatchForegroundFile.AddProcessedFiles(job.historyKey);
@@ -75,7 +75,8 @@ void BatchEngine::saveFinishedJob() {
         // What the buffers hold is another job's picture. The alert has been shown.
         logError(path + extensionFor(type) + " is not made: " + problem + ".");
         sLastForegroundFile = sLastBackgroundFile = kUseCurrent;  // the next job reads its files in any case
-        return;
+        sSaveFileName = path + extensionFor(type);
+        return tellEnd(false, problem);
     }
     if (settings_.bAutoQLXSave) {
         const std::string problem = saveImageStateToXML(info_, path + ".qlx");
@@ -87,7 +88,18 @@ void BatchEngine::saveFinishedJob() {
     makeFolders(thumbs.string());
     drawMask();
     saveImageToDisk(info_, (thumbs / ("TQTQ" + fs::path(path).filename().string())).string(), type, 0);
-    saveImageToDisk(info_, path, type, 1);
+    tellEnd(saveImageToDisk(info_, path, type, 1), "");
+}
+
+/// A job that failed can be taken again.
+void BatchEngine::tellEnd(bool saved, const std::string& problem) {
+    if (!underWork_) return;
+    Selection job = *std::exchange(underWork_, std::nullopt);
+    view_.batchJobEnded({job.names.foreground, sSaveFileName, saved, problem});
+    if (saved) return;
+    job.again = true;
+    std::lock_guard lock(scanners_);
+    failed_.push_back(std::move(job));
 }
 
 /// The thumbnail is a picture of the mask: black is the subject.
@@ -105,84 +117,6 @@ void BatchEngine::drawMask() {
             std::fill_n(out + pixelOffset(width, x, y), 3, static_cast<std::uint8_t>(255 - from));
         }
     });
-}
-
-std::optional<BatchEngine::Selection> BatchEngine::chooseJob() {
-    std::lock_guard lock(scanners_);
-    for (NextFileInFolder* scanner : {&nextBatchForegroundFile, &nextBatchBackgroundFile, &nextBatchQLXFile}) {
-        // An empty slot counts once. A list that was not searched anew has it already.
-        std::vector<std::string>& names = scanner->oFilesInFolder;
-        if (scanner->iFileCount == 0 && (names.empty() || names.back() != kUseCurrent)) names.push_back(kUseCurrent);
-    }
-    const bool subfolders = settings_.bUseBackgroundSubfolders;
-    if (!subfolders && settings_.bUseBatchXMLFile) return chooseFromList();
-    // A watch looks ten times a second, and combinations are many: what was searched in vain is not searched again.
-    const Searched now = {subfolders, nextBatchForegroundFile.changes() + nextBatchBackgroundFile.changes() +
-                                          nextBatchQLXFile.changes()};
-    if (searchedInVain_ == now) return std::nullopt;
-    std::optional<Selection> job = chooseCombination();
-    if (!job) searchedInVain_ = now;
-    return job;
-}
-
-/// The first combination that is not in the history. With subfolders, one of the foreground folder is named like the
-/// background of its portraits, and state files play no part; the plain search never descends, so this mode has one
-/// that does. A portrait that lies in no subfolder has no background and is refused.
-std::optional<BatchEngine::Selection> BatchEngine::chooseCombination() {
-    static const std::string kNoState = kUseCurrent;
-    const std::vector<std::string>& history = nextBatchForegroundFile.oProcessedFiles;
-    const std::unordered_set<std::string_view> done(history.begin(), history.end());
-    BatchSlots slots = {nextBatchForegroundFile.oFilesInFolder, nextBatchBackgroundFile.oFilesInFolder,
-                        nextBatchQLXFile.oFilesInFolder};
-    std::optional<Selection> next;
-    const auto take = [&](const Combination& at) {
-        const std::string& entry = slots.foregrounds[at.foreground];
-        const BatchSources names = {entry.substr(entry.find('/') + 1),  // behind its subfolder, or the whole
-                                    slots.backgrounds[at.background], slots.states[at.state]};
-        const std::string key = names.foreground + names.background + names.state;
-        if (done.contains(key)) return true;
-        next = Selection{names,
-                         nextBatchForegroundFile.sFolderToCheck + "/" + entry,
-                         nextBatchBackgroundFile.sFolderToCheck + "/" + names.background,
-                         nextBatchQLXFile.sFolderToCheck + "/" + names.state,
-                         key,
-                         entry};  // two folders may hold portraits of one name
-        return false;
-    };
-    if (settings_.bUseBackgroundSubfolders) {
-        slots.states = {&kNoState, 1};
-        eachInSubfolders(slots, take, [this](const std::string& entry) {
-            if (entry != kUseCurrent) refuseOnce(entry);
-        });
-    } else {
-        eachCombination(slots, take);
-    }
-    return next;
-}
-
-void BatchEngine::refuseOnce(const std::string& entry) {
-    if (refused_) return;
-    refused_ = true;
-    info_.alert("The batch leaves out pictures that lie in no subfolder.",
-                entry +
-                    " lies in the foreground folder itself; with named subfolders it belongs into one that is named "
-                    "like its background");
-}
-
-std::optional<BatchEngine::Selection> BatchEngine::chooseFromList() {
-    if (iNextXMLBatchElement >= iXMLBatchElements) return std::nullopt;
-    const BatchElement& element = myBatchElements[static_cast<std::size_t>(iNextXMLBatchElement.load())];
-    iNextXMLBatchElement = iNextXMLBatchElement + 1;
-    settings_.iLastBatchLastOutputFileType = element.iOutputFileType;
-    useSwitches(info_, {element.OutputTransparency, element.NoGreenScreenProcessing, element.BlueScreenProcessing});
-    sSaveFileName = element.sOutputFile;
-    Selection job{{element.sForegroundFile, element.sBackgroundFile, element.sQLXFile},
-                  element.sForegroundFile,
-                  element.sBackgroundFile,
-                  nextBatchQLXFile.sFolderToCheck + "/" + element.sQLXFile,
-                  ""};
-    job.fromList = true;
-    return job;
 }
 
 void BatchEngine::loadState(const Selection& job) {

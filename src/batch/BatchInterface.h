@@ -5,7 +5,15 @@
 
 namespace tavrin {
 
-/// What the batch engine asks of the batch panel. The first three may be called from the processing thread: they post
+/// What became of one job of the desktop program's batch.
+struct BatchOutcome {
+    std::string foreground;  ///< its portrait, by name
+    std::string picture;     ///< path of the picture, which is there when it was saved
+    bool saved = false;
+    std::string problem;  ///< why it was not, where no alert has told it
+};
+
+/// What the batch engine asks of the batch panel. The first four may be called from the processing thread: they post
 /// and return at once. The default does nothing, so that a batch runs without a window.
 class BatchInterface {
   public:
@@ -16,6 +24,8 @@ class BatchInterface {
     /// `buttonBatchStart` and `buttonBatchStop`.
     virtual void enableBatchStart(bool) {}
     virtual void enableBatchStop(bool) {}
+    /// A job came to its end.
+    virtual void batchJobEnded(const BatchOutcome&) {}
 
     /// Shows the folders, boxes and choices of `QLXInfo` again. Main thread.
     virtual void showBatchSettings() {}

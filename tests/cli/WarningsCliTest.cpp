@@ -1,5 +1,6 @@
 // What tavrin-cli starts from, and what it says of the pictures it sees.
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
@@ -7,6 +8,8 @@
 #include <QJsonObject>
 
 #include "key/screen/ScreenLook.h"
+#include "session/OutputSizes.h"
+#include "session/Recipe.h"
 #include "support/Cli.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
@@ -78,6 +81,31 @@ TEST_F(WarningsCliTest, StartsFromTheShippedStateTheDefaultsOrThoseOfTheAccount)
     const test::CliOutcome again = test::runCli(batch + QStringList{"--bare"});
     EXPECT_TRUE(again.err.contains("1 picture made"))
         << "another start is another picture: " << again.err.toStdString();
+}
+
+TEST_F(WarningsCliTest, ARecipeOfTheWindowGivesEverySettingAndTheBackground) {
+    const QString anna = portrait("anna.png");
+    SystemInfo info;
+    chooseOwnSize(info, "card", 5.0, 3.0, 48);
+    ASSERT_EQ(useChosenSize(info), "");
+    info.pBackgroundBitmapInfo->sSourceImageFullPath = background_.toStdString();
+    info.iForegroundOutputMode = 1;  // which a state file would give to the background
+    const std::string bytes = bytesOf({settingsOf(info), {}, {}});
+    std::ofstream(folder_.file("card.recipe"), std::ios::binary) << bytes;
+    const QStringList batch = {"batch",    "--foregrounds",    anna, "--out", file("batch"), "--type", "png",
+                               "--recipe", file("card.recipe")};
+    const test::CliOutcome done = test::runCli(batch);
+    ASSERT_EQ(done.code, 0) << done.err.toStdString();
+    const QImage picture(file("batch/anna.png"));
+    ASSERT_EQ(picture.size(), QSize(240, 144));
+    const QColor subject = picture.pixelColor(120, 72);
+    EXPECT_EQ(subject.red(), subject.green()) << "black and white";
+    EXPECT_EQ(picture.pixelColor(3, 3), QImage(background_).pixelColor(3, 3)) << "and the background is not";
+    std::ofstream(folder_.file("bad.recipe")) << "no recipe";
+    const test::CliOutcome bad = render(anna, {"--recipe", file("bad.recipe")});
+    EXPECT_EQ(bad.code, 1);
+    EXPECT_TRUE(bad.err.contains("bad.recipe is no recipe that can be read.")) << bad.err.toStdString();
+    EXPECT_EQ(render(anna, {"--recipe", file("card.recipe"), "--bare"}).code, 2);
 }
 
 TEST_F(WarningsCliTest, TakesTheScreenThatIsThereUnlessOneIsGiven) {

@@ -382,5 +382,47 @@ TEST_F(EffectsTest, TheFreezeStandsOnThePageToo) {
     EXPECT_FALSE(told->isVisible());
 }
 
+TEST_F(EffectsTest, OverlaySlotsTakePicturesAndHaveChips) {
+    const struct {
+        const char *slot, *have, *setting, *none;
+    } cases[] = {
+        {"slotBackgroundOverlay", "bHaveBackgroundOverlay", "sBackgroundOverlay", "No background overlay loaded"},
+        {"slotForegroundOverlay", "bHaveForegroundOverlay", "sForegroundOverlay", "No foreground overlay loaded"},
+        {"slotFrameOverlay", "bHaveFrameOverlay", "sFrameOverlay", "No frame overlay loaded"}};
+    openPanel("groupOverlays");
+    const std::string gold = test::savePng(test::noisePicture(30, 40, 2), file("gold.png"));
+    std::ofstream(file("bad.png")) << "no picture";
+    for (const auto& [slot, have, setting, none] : cases) {
+        SCOPED_TRACE(slot);
+        PictureRow* row = pictureRow(slot);
+        auto* button = part<QToolButton>(slot);
+        EXPECT_EQ(button->text(), none);
+        row->take(QString::fromStdString(file("bad.png")));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return row->problem().contains("bad.png"); }));
+        EXPECT_EQ(value(have), "0") << "and nothing is lost";
+        info_->pBackgroundBitmapInfo->bScaleChange = false;
+        const std::size_t steps = editor().stepsDone();
+        row->take(QString::fromStdString(gold));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return value(have) == "1"; }));
+        EXPECT_EQ(value(setting), gold);
+        EXPECT_EQ(editor().stepsDone(), steps + 1);
+        EXPECT_EQ(button->text(), "gold.png");
+        EXPECT_FALSE(button->icon().isNull());
+        EXPECT_EQ(info_->oQLXInfo->sOverlayDir.load(), gold) << "the next dialog begins there";
+        const QString chip = QString(slot) + "Chip";
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window_->panel()->findChild<QToolButton*>(chip) != nullptr; }));
+        part<QToolButton>(chip + "Reset")->click();
+        EXPECT_EQ(value(have), "0");
+        EXPECT_EQ(button->text(), none);
+        action("UndoButton")->trigger();
+        EXPECT_EQ(value(have), "1");
+        EXPECT_EQ(button->text(), "gold.png");
+        press((std::string(slot) + "Clear").c_str());
+        EXPECT_EQ(value(have), "0");
+    }
+    EXPECT_EQ(part<QToolButton>("buttonOverlaySet")->defaultAction(), action("loadAutomaticOverlays"));
+    ASSERT_TRUE(waitForPicture());
+}
+
 }  // namespace
 }  // namespace tavrin

@@ -43,7 +43,8 @@ Refusal complete(CommandOptions& options) {
         return {kUsage, "--foregrounds or --list is missing."};
     if (!sources.listFile.empty() && !sources.foregrounds.empty())
         return {kUsage, "--list names its foregrounds itself; --foregrounds does not go with it."};
-    if (sources.listFile.empty() && sources.backgrounds.empty() && sources.states.empty())
+    if (sources.listFile.empty() && sources.backgrounds.empty() && sources.states.empty() &&
+        options.picture.start.recipe.empty())
         return {kUsage, "--backgrounds is missing, or --states that name their backgrounds."};
     if (options.picture.place.isSame() && batch.watch)
         return {kUsage, "--place same looks at the portraits beforehand; it does not go with --watch."};

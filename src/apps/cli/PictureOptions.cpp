@@ -86,7 +86,7 @@ std::string applySettings(SystemInfo& info, const PictureOptions& options) {
 }  // namespace
 
 bool PictureOptions::choosesScreen() const {
-    if (key.screen.empty()) return !start.bare && !setsAny(set, "bUseBlueLogic=");
+    if (key.screen.empty()) return !start.bare && start.recipe.empty() && !setsAny(set, "bUseBlueLogic=");
     return key.screen == "auto";
 }
 

@@ -305,6 +305,7 @@ void addRenderCommand(CLI::App& app, int& result) {
     command->add_option("--save-state", options->saveState, "Also write the settings as a .qlx file");
     addPictureOptions(*command, options->picture);
     command->get_option("--my-defaults")->excludes("--state");
+    command->get_option("--recipe")->excludes("--state");
     command->add_option("--seed", options->seed, "Where the random numbers of texture and skin noise start");
     command->add_option("--alpha", options->alpha, "Also write the key's alpha as a grey PNG");
     command->add_flag("--preview", options->preview, "Stop at the preview and save that");

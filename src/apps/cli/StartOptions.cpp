@@ -1,10 +1,14 @@
 #include "apps/cli/StartOptions.h"
 
+#include <fstream>
+#include <iterator>
+
 #include "core/files/StandardPath.h"
 #include "core/text/TextLayers.h"
 #include "formats/SafeFile.h"
 #include "formats/SettingsFile.h"
 #include "session/OutputSizes.h"
+#include "session/Recipe.h"
 
 namespace tavrin::cli {
 
@@ -28,9 +32,22 @@ LoadedState startFromAccount(SystemInfo& info) {
     return loaded.problem.empty() ? loadState(info, path) : loaded;
 }
 
+LoadedState startFromRecipe(SystemInfo& info, const std::string& path) {
+    LoadedState loaded;
+    std::ifstream file(path, std::ios::binary);
+    const std::optional<Recipe> recipe = recipeOf({std::istreambuf_iterator<char>(file), {}});
+    if (!recipe) {
+        loaded.problem = path + " is no recipe that can be read.";
+    } else if (loaded.problem = useSettings(info, recipe->settings); loaded.problem.empty()) {
+        loaded.sizeProblem = chooseStoredSize(info, sizeIn(recipe->settings));
+    }
+    return loaded;
+}
+
 }  // namespace
 
 LoadedState startSettings(SystemInfo& info, const StartOptions& options) {
+    if (!options.recipe.empty()) return startFromRecipe(info, options.recipe);
     if (options.myDefaults) return startFromAccount(info);
     LoadedState loaded = options.bare ? startBare(info) : loadShippedState(info);
     updateLabelSettings(info);  // nobody has styled these labels by hand
@@ -42,6 +59,9 @@ void addStartOptions(CLI::App& command, StartOptions& options) {
         command.add_flag("--bare", options.bare, "Start from the settings' own defaults, not from the shipped state");
     command.add_flag("--my-defaults", options.myDefaults, "Start from the default state of this account")
         ->excludes(bare);
+    command.add_option("--recipe", options.recipe, "Start from all settings of a recipe that the window kept")
+        ->excludes(bare)
+        ->excludes("--my-defaults");
 }
 
 }  // namespace tavrin::cli

@@ -7,10 +7,11 @@
 
 namespace tavrin::cli {
 
-/// What a picture without a state file starts from; without either of these from the state that the program ships.
+/// What a picture without a state file starts from; without any of these from the state that the program ships.
 struct StartOptions {
     bool bare = false;        ///< the fields' own defaults
     bool myDefaults = false;  ///< the default state of the user's account
+    std::string recipe;       ///< file with a recipe, as the window keeps them
 };
 
 void addStartOptions(CLI::App& command, StartOptions& options);

@@ -87,4 +87,28 @@ const std::vector<GroupColour>& effectColours() {
     return list;
 }
 
+const std::vector<PictureSetting>& overlaySlots() {
+    static const std::vector<PictureSetting> list = {
+        {"slotBackgroundOverlay", "loadBackgroundOverlay:", "clearBackgroundOverlay:", "sBackgroundOverlay",
+         "bHaveBackgroundOverlay", "1", "0", QT_TRANSLATE_NOOP("Panel", "Overlay over the background"),
+         QT_TRANSLATE_NOOP("Panel",
+                           "A picture with clear parts between background and portrait. A file can be "
+                           "dropped here."),
+         QT_TRANSLATE_NOOP("Panel", "Select Background Overlay"), pictures,
+         QT_TRANSLATE_NOOP("Panel", "No background overlay loaded"), true, &QLXInfo::sOverlayDir},
+        {"slotForegroundOverlay", "loadForegroundOverlay:", "clearForegroundOverlay:", "sForegroundOverlay",
+         "bHaveForegroundOverlay", "1", "0", QT_TRANSLATE_NOOP("Panel", "Overlay over the portrait"),
+         QT_TRANSLATE_NOOP("Panel", "A picture with clear parts over the portrait. A file can be dropped here."),
+         QT_TRANSLATE_NOOP("Panel", "Select Forground Overlay"), pictures,
+         QT_TRANSLATE_NOOP("Panel", "No foreground overlay loaded"), true, &QLXInfo::sOverlayDir},
+        {"slotFrameOverlay", "loadFrameOverlay:", "clearFrameOverlay:", "sFrameOverlay", "bHaveFrameOverlay", "1",
+         "0", QT_TRANSLATE_NOOP("Panel", "Overlay over the whole"),
+         QT_TRANSLATE_NOOP("Panel",
+                           "A picture with clear parts over everything, such as a frame. A file can be "
+                           "dropped here."),
+         QT_TRANSLATE_NOOP("Panel", "Select Frame Overlay"), pictures,
+         QT_TRANSLATE_NOOP("Panel", "No frame overlay loaded"), true, &QLXInfo::sOverlayDir}};
+    return list;
+}
+
 }  // namespace tavrin

@@ -19,5 +19,7 @@ struct GroupColour {
 
 const std::vector<GroupPicture>& effectPictures();
 const std::vector<GroupColour>& effectColours();
+/// The slots for overlays, from the lowest.
+const std::vector<PictureSetting>& overlaySlots();
 
 }  // namespace tavrin

@@ -58,6 +58,12 @@ EffectsPage::EffectsPage(Binder& binder, QWidget* parent)
         made[group.name] = makeGroup(group);
     for (const char* name : effectsFromTopToBottom())
         addGroup(made.at(name));
+    static const BindingGroup overlays{"groupOverlays", QT_TRANSLATE_NOOP("Panel", "Overlays"), nullptr, {}, true};
+    overlays_ = PanelPage::addGroup(overlays, binder);
+    for (const PictureSetting& slot : overlaySlots()) {
+        slots_.push_back(new PictureRow(slot, binder));
+        overlays_->addItem(slots_.back());
+    }
     freeze_ = PanelPage::addGroup(freeze, binder);
     freeze_->addStatus(frozen_);
     connect(&binder, &Binder::shown, this, &EffectsPage::refresh);
@@ -122,11 +128,20 @@ void EffectsPage::askForFramePicture(GroupBox* frame, PictureRow* picture) {
 }
 
 void EffectsPage::addFreeze(QAction* freeze, QAction* clear) {
+    addActions(freeze_, {{freeze, "buttonFreeze"}, {clear, "buttonFreezeClear"}});
+}
+
+void EffectsPage::addOverlaySet(QAction* load) {
+    addActions(overlays_, {{load, "buttonOverlaySet"}});
+}
+
+/// A line of buttons that do what these actions do.
+void EffectsPage::addActions(GroupBox* group, const std::vector<std::pair<QAction*, const char*>>& actions) {
     auto* line = new QWidget;
-    line->setAccessibleName(ControlRow::translated(freeze_->group().title));
+    line->setAccessibleName(ControlRow::translated(group->group().title));
     auto* layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
-    for (const auto& [action, name] : {std::pair(freeze, "buttonFreeze"), std::pair(clear, "buttonFreezeClear")}) {
+    for (const auto& [action, name] : actions) {
         auto* button = new QToolButton(line);
         button->setDefaultAction(action);
         button->setObjectName(name);
@@ -136,7 +151,7 @@ void EffectsPage::addFreeze(QAction* freeze, QAction* clear) {
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         layout->addWidget(button);
     }
-    freeze_->addItem(line);
+    group->addItem(line);
 }
 
 void EffectsPage::openPanel(const QString& group) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "ui/bind/Command.h"
 #include "ui/bind/PanelPage.h"
 
@@ -25,6 +28,10 @@ class EffectsPage : public PanelPage {
     void showSmoothProgress(double percent);
     /// Adds the buttons of the freeze, which are commands of the window.
     void addFreeze(QAction* freeze, QAction* clear);
+    /// Adds the button of the overlays that belong together, a command of the window.
+    void addOverlaySet(QAction* load);
+    /// The slots of the overlays, from the lowest.
+    const std::vector<PictureRow*>& overlays() const { return slots_; }
 
   signals:
     void wanted(const QWidget* item);
@@ -34,13 +41,15 @@ class EffectsPage : public PanelPage {
     std::vector<QWidget*> leadsOf(const BindingGroup& group) const;
     void addFiles(GroupBox* box);
     void addStatuses(GroupBox* box);
+    void addActions(GroupBox* group, const std::vector<std::pair<QAction*, const char*>>& actions);
     void askForFramePicture(GroupBox* frame, PictureRow* picture);
     void refresh();
 
     Binder& binder_;
     QLabel *shadowType_, *guardStatus_, *frozen_;
     QProgressBar* progress_;
-    GroupBox* freeze_;
+    GroupBox *overlays_, *freeze_;
+    std::vector<PictureRow*> slots_;
 };
 
 /// The commands that open the panels.

@@ -8,7 +8,9 @@
 #include <QToolButton>
 
 #include "core/files/NameText.h"
+#include "core/files/StandardPath.h"
 #include "core/image/SmallPicture.h"
+#include "formats/SettingsFile.h"
 #include "ui/DroppedFiles.h"
 #include "ui/FileFilters.h"
 
@@ -61,8 +63,10 @@ PictureRow::PictureRow(const PictureSetting& setting, Binder& binder, QWidget* p
 }
 
 void PictureRow::choose() {
-    auto* dialog = new QFileDialog(this, ControlRow::translated(setting_.dialogTitle), textOfName(setting_.folder()),
-                                   pictureFilter());
+    const QLXInfo& settings = *binder_.editor().info().oQLXInfo;
+    const std::string last = setting_.lastFile ? standardizePath(settings.*setting_.lastFile) : "";
+    const QString folder = last.empty() ? textOfName(setting_.folder()) : QFileInfo(textOfName(last)).path();
+    auto* dialog = new QFileDialog(this, ControlRow::translated(setting_.dialogTitle), folder, pictureFilter());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
     connect(dialog, &QFileDialog::fileSelected, this, &PictureRow::take);
@@ -99,19 +103,23 @@ void PictureRow::takeRead(const std::string& path) {
         editor.set(setting_.file, path);
         if (*setting_.onValue) editor.set(setting_.on, setting_.onValue);
     });
+    if (!setting_.lastFile) return;
+    QLXInfo& settings = *binder_.editor().info().oQLXInfo;
+    settings.*setting_.lastFile = path;
+    tell(QString::fromStdString(SaveQLXFile(settings)));
 }
 
 void PictureRow::clear() {
     tell({});
     binder_.run(tr("%1: none").arg(accessibleName()), [this](SettingEditor& editor) {
         if (*setting_.offValue) editor.set(setting_.on, setting_.offValue);
-        editor.set(setting_.file, "");
+        if (!setting_.keepsFile) editor.set(setting_.file, "");
     });
 }
 
 /// As the setting is now, which undo or a state may have changed.
 void PictureRow::refresh() {
-    const std::string path = binder_.editor().value(setting_.file);
+    const std::string path = file();
     cross_->setEnabled(!path.empty());
     if (path == shown_) return;
     showPicture(path, {});
@@ -122,8 +130,10 @@ void PictureRow::showPicture(const std::string& path, const QImage& small) {
     shown_ = path;
     tell({});
     const QString name = QFileInfo(textOfName(path)).fileName();
-    const QString words = path.empty() ? tr("Choose: %1...").arg(accessibleName()) : name;
-    button_->setText(words.size() > kLongestName
+    const QString none =
+        setting_.none ? ControlRow::translated(setting_.none) : tr("Choose: %1...").arg(accessibleName());
+    const QString words = path.empty() ? none : name;
+    button_->setText(!path.empty() && words.size() > kLongestName
                          ? words.left(kLongestName - 8) + QStringLiteral("\u2026") + words.right(7)
                          : words);
     const QString tip = ControlRow::translated(setting_.toolTip);
@@ -132,8 +142,10 @@ void PictureRow::showPicture(const std::string& path, const QImage& small) {
     button_->setIcon(small.isNull() ? QIcon() : QIcon(QPixmap::fromImage(small)));
 }
 
-bool PictureRow::hasFile() const {
-    return !binder_.editor().value(setting_.file).empty();
+std::string PictureRow::file() const {
+    const SettingEditor& editor = binder_.editor();
+    if (setting_.keepsFile && editor.value(setting_.on) == setting_.offValue) return "";
+    return editor.value(setting_.file);
 }
 
 QString PictureRow::problem() const {

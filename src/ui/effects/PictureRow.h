@@ -5,6 +5,7 @@
 #include <QThreadPool>
 #include <QWidget>
 
+#include "core/state/QLXInfo.h"
 #include "ui/bind/Binder.h"
 
 class QLabel;
@@ -20,7 +21,10 @@ struct PictureSetting {
     const char* on;                  ///< a setting that tells whether the picture is used; "" for none
     const char *onValue, *offValue;  ///< what it becomes by choosing and by having none; "": stays
     const char *label, *toolTip, *dialogTitle;
-    std::string (*folder)();  ///< where the dialog begins
+    std::string (*folder)();     ///< where the dialog begins
+    const char* none = nullptr;  ///< what stands there without a picture; null: that one is chosen here
+    bool keepsFile = false;      ///< having none only switches it off, and the name of the file stays
+    Field<std::string> QLXInfo::*lastFile = nullptr;  ///< where the dialog begins, once there is one
 };
 
 /// Shows the picture of a setting by its name and small, and takes another one by a dialog or a drop. One that cannot
@@ -35,7 +39,10 @@ class PictureRow : public QWidget {
     void choose();
     /// Reads a file beside the main thread, and takes it if it is a picture.
     void take(const QString& path);
-    bool hasFile() const;
+    bool hasFile() const { return !file().empty(); }
+    const PictureSetting& setting() const { return setting_; }
+    /// Takes the picture away.
+    void clear();
     /// Why the last file was not taken, or the present one cannot be shown; "" for no fault.
     QString problem() const;
 
@@ -44,7 +51,7 @@ class PictureRow : public QWidget {
     void dropEvent(QDropEvent* event) override;
 
   private:
-    void clear();
+    std::string file() const;
     void refresh();
     void read(const std::string& path, bool toTake);
     void takeRead(const std::string& path);

@@ -37,6 +37,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       heldLoop_(new HeldLoop(*loop_, this)),
       sizes_(new SizesPanel(info, *heldLoop_)),
       templates_(new TemplatesPanel(info, *heldLoop_, [this] { return view_->fullPicture(); })),
+      batch_(new BatchPage(binder_)),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
@@ -55,6 +56,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     comeBack();
     connectSettings();
     connectLists();
+    connectBatch();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
 }
@@ -158,6 +160,27 @@ void MainWindow::connectLists() {
     });
 }
 
+/// A run through the window takes the portrait's place: its work is kept, and the steps do not rest on what comes.
+void MainWindow::connectBatch() {
+    loop_->addIdleJob(batch_->engine());
+    connect(batch_, &BatchPage::told, messages_, &MessageBar::tell);
+    connect(batch_, &BatchPage::failed, messages_, &MessageBar::fail);
+    connect(batch_, &BatchPage::takesOver, this, [this] {
+        keeping_->leavePortrait();
+        editor_.forgetSteps();
+        tellUndo();
+    });
+    connect(batch_, &BatchPage::ended, this, [this] {
+        if (!batch_->lastWasFast()) {
+            editor_.forgetSteps();
+            showState();
+            finished_ = info_.whyNotFinished(Resolution::full).empty();
+            tellProgress();
+        }
+        if (closing_ && savesUnderWay() == 0) close();
+    });
+}
+
 /// The tips of both buttons say what they would do.
 void MainWindow::tellUndo() {
     if (airbrush_->isOpen()) {
@@ -229,6 +252,7 @@ void MainWindow::takePublished() {
 }
 
 void MainWindow::showAlert(const QString& message, const QString& reason) {
+    if (batch_->takeAlert(message, reason)) return;
     auto* box = new QMessageBox(QMessageBox::Warning, "Tavrin", message, QMessageBox::Ok, this);
     box->setInformativeText(reason);
     box->setAttribute(Qt::WA_DeleteOnClose);

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <memory>
 
 #include <QMainWindow>
 
 #include "pipeline/CombineThread.h"
 #include "ui/WindowBridge.h"
+#include "ui/batch/BatchPage.h"
 #include "ui/bind/Binder.h"
 #include "ui/editor/Airbrush.h"
 #include "ui/frame/Commands.h"
@@ -84,6 +86,7 @@ class MainWindow : public QMainWindow {
     PictureTools* pictureTools() const { return tools_; }
     Airbrush* airbrush() const { return airbrush_; }
     Strip* strip() const { return strip_; }
+    BatchPage* batch() const { return batch_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
@@ -117,12 +120,14 @@ class MainWindow : public QMainWindow {
     void offerLostStrokes(int strokes);
     void connectSettings();
     void connectLists();
+    void connectBatch();
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
     void connectKeeping();
     void offerNextLeft();
     void askBeforeClosing();
+    void askBeforeEndingBatch();
     void comeBack();
     void refillRecentFiles();
     void frameNewPortraits(bool wanted);
@@ -175,6 +180,7 @@ class MainWindow : public QMainWindow {
     HeldLoop* heldLoop_;
     SizesPanel* sizes_;
     TemplatesPanel* templates_;
+    BatchPage* batch_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;

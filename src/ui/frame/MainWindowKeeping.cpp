@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "core/files/NameText.h"
 #include "ui/WindowSettings.h"
@@ -88,6 +89,7 @@ void MainWindow::endSave(const QString& path, bool done) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (question_) return;  // asked already
+    if (batch_->isRunning()) return askBeforeEndingBatch();
     closing_ = savesUnderWay() > 0;
     if (closing_) return messages_->tell(tr("The window closes when everything is saved."));
     if (editor_.isUnsaved() && !closeUnsaved_) return askBeforeClosing();
@@ -118,6 +120,25 @@ void MainWindow::askBeforeClosing() {
             closeUnsaved_ = true;
             close();
         }
+    });
+    question_->open();
+}
+
+/// The pictures in hand are finished, then the window goes.
+void MainWindow::askBeforeEndingBatch() {
+    question_ =
+        new QMessageBox(QMessageBox::Question, "Tavrin", tr("A batch is running."), QMessageBox::Cancel, this);
+    question_->setObjectName("batchQuestion");
+    question_->setInformativeText(tr("The pictures in hand are finished first. The next run goes on with the rest."));
+    QPushButton* stop = question_->addButton(tr("Stop and &Close"), QMessageBox::AcceptRole);
+    stop->setObjectName("stopBatchAndClose");
+    question_->setDefaultButton(QMessageBox::Cancel);
+    question_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(question_, &QMessageBox::finished, this, [this] { question_ = nullptr; });
+    connect(stop, &QPushButton::clicked, this, [this] {
+        closing_ = true;
+        question_ = nullptr;
+        batch_->isRunning() ? batch_->clickedButtonStopBatch() : void(close());
     });
     question_->open();
 }

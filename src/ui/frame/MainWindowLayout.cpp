@@ -34,6 +34,7 @@ void MainWindow::layOut() {
     panel_->addPage(settings_);
     panel_->addPage(airbrush_->page());
     panel_->addPage(new PrintPage(binder_, templates_));
+    panel_->addPage(batch_);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
     tabifyDockWidget(panel_, history_);
     tabifyDockWidget(panel_, looksPanel_);
@@ -55,6 +56,7 @@ void MainWindow::layOut() {
         actions.push_back(commands_->action(command.id));
     panel_->effects()->addFreeze(commands_->action("clickedButtonfreezebackground"),
                                  commands_->action("clickedButtonfreezebackgroundclear"));
+    panel_->effects()->addOverlaySet(commands_->action("loadAutomaticOverlays"));
     panel_->setActions(std::move(actions));
     auto* recent = new QMenu(tr("Open &Recent"), this);
     recent->setObjectName("recentFiles");

@@ -62,6 +62,8 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
     column->addWidget(search_);
     auto* chips = new Chips(binder, whole);
     connect(chips, &Chips::wanted, this, &SidePanel::reveal);
+    for (PictureRow* slot : effects_->overlays())
+        chips->addSlot(slot);
     column->addWidget(chips);
     SystemInfo& info = binder.editor().info();
     segments_ = {adjustmentSegments(*adjust_, *scroll_, info), effectSegments(*effects_, *scroll_, info)};

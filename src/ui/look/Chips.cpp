@@ -102,6 +102,13 @@ Chips::Entry Chips::itemsEntry() const {
             }};
 }
 
+Chips::Entry Chips::entryOf(PictureRow* slot) const {
+    return {slot->setting().control,  slot->accessibleName(),
+            slot->accessibleName(),   tr("Switched on; a click leads to its controls"),
+            tr("Switch it off"),      slot,
+            [slot] { slot->clear(); }};
+}
+
 /// An effect counts as one, however many of its controls are set.
 std::vector<Chips::Entry> Chips::entries() const {
     std::vector<Entry> entries;
@@ -115,6 +122,8 @@ std::vector<Chips::Entry> Chips::entries() const {
         }
         last = group;
     }
+    for (PictureRow* slot : slots_)
+        if (slot->hasFile()) entries.push_back(entryOf(slot));
     if (binder_.editor().info().iFontObjectCount() > 0) entries.push_back(itemsEntry());
     return entries;
 }

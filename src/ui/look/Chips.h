@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include "ui/bind/GroupBox.h"
+#include "ui/effects/PictureRow.h"
 
 namespace tavrin {
 
@@ -20,6 +21,8 @@ class Chips : public QWidget {
 
   public:
     explicit Chips(Binder& binder, QWidget* parent = nullptr);
+    /// A picture that gets a chip while it is there.
+    void addSlot(PictureRow* slot) { slots_.push_back(slot); }
 
     QSize sizeHint() const override;
     bool hasHeightForWidth() const override { return true; }
@@ -44,6 +47,7 @@ class Chips : public QWidget {
     Entry entryOf(ControlRow* row) const;
     Entry entryOf(const GroupBox* group) const;
     Entry itemsEntry() const;
+    Entry entryOf(PictureRow* slot) const;
     void refresh();
     void rebuild();
     void placeInTabOrder();
@@ -52,6 +56,7 @@ class Chips : public QWidget {
 
     Binder& binder_;
     const std::map<std::string, std::string> start_;  ///< every setting, as it was when the window came to be
+    std::vector<PictureRow*> slots_;
     QTimer due_;
     bool all_ = false;  ///< more than the first few
     std::vector<Entry> entries_;
