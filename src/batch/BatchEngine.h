@@ -137,7 +137,6 @@ class BatchEngine : public IdleJob {
 
     void saveFinishedJob();
     void tellEnd(bool saved, const std::string& problem);
-    void drawMask();
     void stopRun();
     void takeJob();
     void beginJob(const Selection& job);

@@ -1,10 +1,10 @@
-#include <algorithm>
 #include <filesystem>
 #include <utility>
 
 #include "batch/BatchEngine.h"
 #include "core/Log.h"
 #include "formats/ImageState.h"
+#include "pipeline/MaskThumbnail.h"
 #include "pipeline/SaveImage.h"
 #include "session/Sources.h"
 #include "session/States.h"
@@ -84,10 +84,7 @@ void BatchEngine::saveFinishedJob() {
     }
     path += extensionFor(type);
     sSaveFileName = path;
-    const fs::path thumbs = fs::path(path).parent_path() / "Thumbs";
-    makeFolders(thumbs.string());
-    drawMask();
-    saveImageToDisk(info_, (thumbs / ("TQTQ" + fs::path(path).filename().string())).string(), type, 0);
+    static_cast<void>(saveMaskThumbnail(info_, path, type));  // which tells its own failure
     tellEnd(saveImageToDisk(info_, path, type, 1), "");
 }
 
@@ -100,23 +97,6 @@ void BatchEngine::tellEnd(bool saved, const std::string& problem) {
     job.again = true;
     std::lock_guard lock(scanners_);
     failed_.push_back(std::move(job));
-}
-
-/// The thumbnail is a picture of the mask: black is the subject.
-void BatchEngine::drawMask() {
-    const std::uint8_t* alpha = info_.pBackgroundBitmapInfo->pBitmapData;
-    std::uint8_t* out = info_.pCombinedBitmapInfo->pBitmapDataLowRes;
-    const std::int64_t fullWidth = info_.iOutputPixelWidth, fullHeight = info_.iOutputPixelHeight;
-    const int width = info_.iOutputPixelLowResWidth, height = info_.iOutputPixelLowResHeight;
-    if (!alpha || !out) return;
-    runRows({}, height, 32, [&](int y) {
-        const int fromY = static_cast<int>(y * fullHeight / height);
-        for (int x = 0; x < width; ++x) {
-            const int fromX = static_cast<int>(x * fullWidth / width);
-            const std::uint8_t from = alpha[pixelOffset(static_cast<int>(fullWidth), fromX, fromY) + 3];
-            std::fill_n(out + pixelOffset(width, x, y), 3, static_cast<std::uint8_t>(255 - from));
-        }
-    });
 }
 
 void BatchEngine::loadState(const Selection& job) {

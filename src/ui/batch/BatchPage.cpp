@@ -94,19 +94,6 @@ void BatchPage::addFolders() {
     }
 }
 
-QToolButton* BatchPage::makeButton(const char* name, const char* handler, const QString& text,
-                                   const QString& toolTip) {
-    auto* button = new QToolButton;
-    button->setObjectName(name);
-    button->setProperty("handler", handler);
-    button->setText(text);
-    button->setAccessibleName(text);
-    button->setToolTip(toolTip);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    return button;
-}
-
 void BatchPage::addRun() {
     GroupBox* group = addGroup(kRunGroup, binder_);
     auto* counts = new QWidget;

@@ -72,7 +72,6 @@ class BatchPage : public PanelPage {
     void addLists();
     void connectEngine();
     void connectFast();
-    QToolButton* makeButton(const char* name, const char* handler, const QString& text, const QString& toolTip);
     void ask(FolderRow* row);
     void changedChoices();
     void takeFirstChoices();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QLabel>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace tavrin {
@@ -59,6 +60,19 @@ QWidget* PanelPage::firstShown() const {
             if (!item->isHidden()) return item;
     }
     return nullptr;
+}
+
+QToolButton* PanelPage::makeButton(const char* name, const char* handler, const QString& text,
+                                   const QString& toolTip) {
+    auto* button = new QToolButton;
+    button->setObjectName(name);
+    button->setProperty("handler", handler);
+    button->setText(text);
+    button->setAccessibleName(text);
+    button->setToolTip(toolTip);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return button;
 }
 
 }  // namespace tavrin

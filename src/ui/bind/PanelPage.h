@@ -5,6 +5,7 @@
 #include "ui/bind/GroupBox.h"
 
 class QLabel;
+class QToolButton;
 class QVBoxLayout;
 
 namespace tavrin {
@@ -39,6 +40,11 @@ class PanelPage : public QWidget {
     bool showMatching(const QStringList& words, Slips slips = Slips::none);
     /// The first item that is shown, whatever the search left; null without any.
     QWidget* firstShown() const;
+
+  protected:
+    /// A button with words, as wide as its place.
+    static QToolButton* makeButton(const char* name, const char* handler, const QString& text,
+                                   const QString& toolTip);
 
   private:
     PageTitle title_;

@@ -171,19 +171,6 @@ QWidget* EditorPage::makeTools() {
     return tools;
 }
 
-QToolButton* EditorPage::makeButton(const char* name, const char* handler, const QString& text,
-                                    const QString& toolTip) {
-    auto* button = new QToolButton;
-    button->setObjectName(name);
-    button->setProperty("handler", handler);
-    button->setText(text);
-    button->setAccessibleName(text);
-    button->setToolTip(toolTip);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    return button;
-}
-
 /// One item for the search: what of it is seen is the active tool's matter.
 QWidget* EditorPage::makeSliders() {
     auto* all = new QWidget;

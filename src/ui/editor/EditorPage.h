@@ -47,7 +47,6 @@ class EditorPage : public PanelPage {
     QWidget* makeColour();
     QWidget* makeSources();
     QWidget* makePen();
-    QToolButton* makeButton(const char* name, const char* handler, const QString& text, const QString& toolTip);
     void editSliderChange();
     void chooseColour();
     void showTool(const EditorFace& face);

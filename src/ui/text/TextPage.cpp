@@ -82,19 +82,6 @@ QWidget* TextPage::makeList() {
     return list_;
 }
 
-QToolButton* TextPage::makeButton(const char* name, const char* handler, const QString& text,
-                                  const QString& toolTip) {
-    auto* button = new QToolButton;
-    button->setObjectName(name);
-    button->setProperty("handler", handler);
-    button->setText(text);
-    button->setAccessibleName(text);
-    button->setToolTip(toolTip);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    return button;
-}
-
 QWidget* TextPage::makeButtons() {
     auto* buttons = new QWidget;
     buttons->setAccessibleName(tr("Add, edit and delete"));

@@ -34,7 +34,6 @@ class TextPage : public PanelPage {
   private:
     QWidget* makeList();
     QWidget* makeButtons();
-    QToolButton* makeButton(const char* name, const char* handler, const QString& text, const QString& toolTip);
     void askForImage(const QString& title, void (TextPage::*take)(const QString& path));
     bool readImage(const QString& path, FontObject& item);
     void add(const FontObject& item);
