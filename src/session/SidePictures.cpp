@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstring>
 #include <memory>
 #include <new>
 #include <optional>
@@ -10,6 +9,7 @@
 
 #include "core/BackgroundThread.h"
 #include "core/image/SmallPicture.h"
+#include "core/raster/BitmapContext.h"
 #include "pipeline/PreviewMaker.h"
 #include "pipeline/SubjectPlace.h"
 #include "session/OutputSizes.h"
@@ -23,15 +23,15 @@ namespace {
 constexpr int kDraftSide = 640;  // a preview has about 300,000 pixels
 constexpr auto kLookAgain = std::chrono::milliseconds(20);
 
-/// As the scaling wants it, row by row: for many pixels the toolkit starts threads of its own.
-QImage premultiplied(const QImage& picture) {
-    QImage result(picture.size(), QImage::Format_ARGB32_Premultiplied);
+/// The toolkit's own scaling starts threads for many pixels, and they would keep this one's priority.
+QImage scaledWithin(const QImage& picture, int side) {
+    const QSize size = picture.size().scaled(side, side, Qt::KeepAspectRatio).expandedTo({1, 1});
+    QImage result(size, QImage::Format_RGBA8888_Premultiplied);
     if (result.isNull()) throw std::bad_alloc();
-    for (int y = 0; y < picture.height(); ++y) {
-        const QImage row(picture.constScanLine(y), picture.width(), 1, picture.bytesPerLine(), picture.format());
-        std::memcpy(result.scanLine(y), row.convertToFormat(result.format()).constScanLine(0),
-                    static_cast<std::size_t>(result.bytesPerLine()));
-    }
+    result.fill(Qt::transparent);
+    QImage carriesAlpha = picture;  // as the engine's buffers do
+    carriesAlpha.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
+    BitmapContext(result.bits(), size.width(), size.height()).drawImage(carriesAlpha, QRectF({0, 0}, size));
     return result;
 }
 
@@ -47,8 +47,7 @@ struct LastMaker {
             made.picture = maker->over(made.wish.background);
             made.problem = maker->problem();
             if (const int side = made.wish.side; side > 0 && !made.picture.isNull())
-                made.picture =
-                    premultiplied(made.picture).scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+                made.picture = scaledWithin(made.picture, side);
         } catch (const std::bad_alloc&) {
             made.problem = kNoMemory;
         }

@@ -60,14 +60,17 @@ TEST_F(SearchTest, OneFieldFindsCommandsAndControlsInAnyOrderAndWithSlips) {
     EXPECT_FALSE(foundFor("hiar").value(0).startsWith("Nothing"));
     EXPECT_TRUE(foundFor("zzzz").value(0).startsWith("Nothing"));
     EXPECT_TRUE(foundFor("clickedButtonfreeze").value(0).startsWith("Nothing")) << "a name that nobody reads";
-    EXPECT_EQ(foundFor("undo"), QStringList("Undo   (Edit)    Ctrl+Z")) << "and no command whose tip tells of it";
+    const QStringList undo = foundFor("undo");
+    EXPECT_EQ(undo.value(0), "Undo   (Edit)    Ctrl+Z");
+    EXPECT_EQ(undo.filter("Undo").size(), undo.size()) << "no command of which only the tip tells of it";
 
     set("Light", "foreground.iBrightness", "30");
     findAndTake("undo");
     EXPECT_EQ(brightness(), 0) << "a command is done";
-    findAndTake("undo");  // cannot be used now: Enter takes nothing
-    EXPECT_TRUE(window_->findChild<QLineEdit*>("searchActions"));
-    QTest::keyClick(window_->findChild<QLineEdit*>("searchActions"), Qt::Key_Escape);
+    findAndTake("save edits");  // cannot be used now: Enter takes nothing
+    auto* open = window_->findChild<QLineEdit*>("searchActions");
+    ASSERT_TRUE(open);
+    QTest::keyClick(open, Qt::Key_Escape);
     QTest::qWait(10);
 
     for (GroupBox* group : window_->panel()->groups())
