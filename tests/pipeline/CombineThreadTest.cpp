@@ -9,6 +9,7 @@
 #include "pipeline/WholePicture.h"
 #include "session/OutputSizes.h"
 #include "support/Pictures.h"
+#include "support/Sanitized.h"
 #include "support/TestData.h"
 
 namespace tavrin {
@@ -257,7 +258,7 @@ TEST_F(CombineThreadTest, ANewerRequestAtAnyMomentLosesNothing) {
         CombineThread loop(*info_);
         loop.addIdleJob(idle);
         loop.StartMainThread();
-        for (int moment = 0; moment < 30; ++moment) {
+        for (int moment = 0; moment < 30; moment += test::kSanitized ? 3 : 1) {
             place(*info_, 1.3);
             pause(moment * 200);
             place(*info_, 0.7);
