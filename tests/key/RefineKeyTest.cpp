@@ -3,63 +3,20 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "core/raster/Rows.h"
-#include "key/KeyScene.h"
-#include "key/refine/KeptResult.h"
-#include "support/VectorTargets.h"
+#include "key/DiscScene.h"
+#include "key/refine/RefineKey.h"
 
 namespace tavrin {
 namespace {
 
+using test::discAlpha;
+using test::DiscScene;
 using test::KeyScene;
+using test::kHeight;
+using test::kWidth;
+using test::mixed;
 using test::Pixel;
-
-constexpr int kWidth = 240, kHeight = 180;
-
-/// Share of a disc with a soft edge.
-double discAlpha(int x, int y) {
-    const double far = std::hypot(x - kWidth / 2 + 0.3, y - kHeight / 2 - 0.2);
-    return std::clamp((62.0 - far) / 4.0, 0.0, 1.0);
-}
-
-Pixel mixed(const Rgb& subject, const Rgb& screen, double alpha) {
-    const auto byte = [&](double s, double b) { return toByte(s * alpha + b * (1.0 - alpha) + 0.5); };
-    return {byte(subject.r, screen.r), byte(subject.g, screen.g), byte(subject.b, screen.b), 255};
-}
-
-Rgb rgbOf(const Pixel& pixel) {
-    return {static_cast<double>(pixel[0]), static_cast<double>(pixel[1]), static_cast<double>(pixel[2])};
-}
-
-/// A warm disc before a screen that grows darker to the right, with a little noise.
-struct DiscScene : KeyScene {
-    explicit DiscScene(bool blue = false) : KeyScene(kWidth, kHeight) {
-        std::mt19937 random(7);
-        info.bUseBlueLogic = blue;
-        for (int y = 0; y < kHeight; ++y) {
-            for (int x = 0; x < kWidth; ++x) {
-                const double light = 1.0 - 0.15 * x / kWidth, noise = static_cast<double>(random() % 5) - 2.0;
-                const Rgb screen{40.0 * light + noise, 200.0 * light + noise, 60.0 * light + noise};
-                Pixel& pixel = at(foreground, x, y) =
-                    mixed({170.0 + noise, 110.0 + noise, 90.0}, screen, discAlpha(x, y));
-                if (blue) std::swap(pixel[1], pixel[2]);
-            }
-        }
-    }
-
-    void key(bool refined) {
-        info.bRefineKey = refined;
-        Combine(info, 1, 1);
-    }
-    double alphaError() {
-        double sum = 0.0;
-        for (int y = 0; y < kHeight; ++y) {
-            for (int x = 0; x < kWidth; ++x)
-                sum += std::abs(alpha(x, y) / 255.0 - discAlpha(x, y));
-        }
-        return sum / (kWidth * kHeight);
-    }
-};
+using test::rgbOf;
 
 TEST(RefineKey, IsNearerToTheTruthOnGreenAndOnBlue) {
     for (const bool blue : {false, true}) {
@@ -79,90 +36,6 @@ TEST(RefineKey, IsNearerToTheTruthOnGreenAndOnBlue) {
         EXPECT_NEAR(rim[0], 170, 25) << blue;
         EXPECT_LT(rim[blue ? 2 : 1], 145) << blue;
     }
-}
-
-TEST(RefineKey, GivesTheSameBytesForAnyNumberOfThreads) {
-    std::vector<std::vector<Pixel>> results;
-    for (const int threads : {1, 2, 5}) {
-        const ThreadLimit limit(threads);
-        DiscScene scene;
-        scene.info.iSliderRefineSoftness = 30;
-        scene.key(true);
-        scene.combined.insert(scene.combined.end(), scene.background.begin(), scene.background.end());
-        results.push_back(scene.combined);
-    }
-    EXPECT_TRUE(results[1] == results[0]);
-    EXPECT_TRUE(results[2] == results[0]);
-}
-
-TEST(RefineKey, GivesTheSameBytesOnEveryVectorTarget) {
-    for (const bool blue : {false, true}) {
-        DiscScene plain(blue);
-        plain.info.iSliderRefineSoftness = -20;
-        plain.key(true);
-        test::onEveryTarget([&] {
-            DiscScene scene(blue);
-            scene.info.iSliderRefineSoftness = -20;
-            scene.key(true);
-            EXPECT_TRUE(scene.combined == plain.combined) << blue;
-            EXPECT_TRUE(scene.background == plain.background) << blue;
-        });
-    }
-}
-
-TEST(RefineKey, PreviewAndFullPictureOfOneSizeAreAlike) {
-    DiscScene full, preview;
-    full.key(true);
-    preview.info.bRefineKey = true;
-    Combine(preview.info, 1, 0);
-    EXPECT_TRUE(full.combined == preview.combined);
-}
-
-/// What the second look makes of a shot, and how often it asked for a newer request on its way.
-struct LookedAt {
-    std::vector<std::uint8_t> result = std::vector<std::uint8_t>(kWidth * kHeight * 4);
-    refine::Refined outcome;
-    int asked = 0;
-
-    template <class Look>
-    LookedAt(const Look& look, const refine::Shot& shot, const refine::RefineTaste& taste) {
-        RunContext context;
-        context.superseded = [this] { return ++asked < 0; };
-        const ThreadLimit limit(1);
-        outcome = look(context, shot, taste, result.data());
-    }
-};
-
-TEST(RefineKey, APreviewThatIsAskedForAgainCostsNothingAndIsNeverStale) {
-    DiscScene scene;
-    scene.key(false);
-    std::vector<std::uint8_t> key;
-    for (const Pixel& pixel : scene.background)
-        key.push_back(pixel[3]);
-    refine::Shot shot{kWidth, kHeight, scene.foreground.front().data(), key.data(), false};
-    refine::RefineTaste taste;
-    taste.softness = 0.37f;  // as in no other test
-    const auto expectFresh = [&](const char* change) {
-        SCOPED_TRACE(change);
-        const LookedAt first(refine::refinePreview, shot, taste), again(refine::refinePreview, shot, taste);
-        EXPECT_GT(first.asked, 0);
-        EXPECT_EQ(again.asked, 0);
-        const LookedAt fresh(refine::refineKey, shot, taste);
-        EXPECT_EQ(first.outcome, fresh.outcome);
-        EXPECT_EQ(again.outcome, fresh.outcome);
-        EXPECT_TRUE(first.result == fresh.result);
-        EXPECT_TRUE(again.result == fresh.result);
-    };
-    expectFresh("nothing kept yet");
-    EXPECT_EQ(LookedAt(refine::refinePreview, shot, taste).outcome, refine::Refined::done);
-    scene.at(scene.foreground, kWidth / 2 + 60, kHeight / 2) = {10, 20, 250, 255};
-    expectFresh("a pixel");
-    key[static_cast<std::size_t>(kWidth * (kHeight / 2) + kWidth / 2 - 60)] ^= 64;
-    expectFresh("the key of a pixel");
-    taste.shift = 0.1f;
-    expectFresh("what the settings ask for");
-    std::swap(shot.width, shot.height);
-    expectFresh("the shape of the same bytes, in which there is no screen");
 }
 
 TEST(RefineKey, LeavesThePlainKeyWhereItHasNothingToGoBy) {
@@ -416,39 +289,6 @@ TEST(RefineKey, GlowTakesItsAlpha) {
     scene.key(true);
     EXPECT_TRUE(scene.background == alpha);
     EXPECT_FALSE(scene.combined == refined);
-}
-
-TEST(RefineKey, ANewerRequestEndsItWithinARow) {
-    // The state is overtaken at one moment after the other; what a run leaves is either untouched or not announced.
-    DiscScene whole;
-    whole.key(true);
-    int asked = 0;
-    for (int stop = 1; stop < 4000; stop += 97) {
-        DiscScene scene;
-        asked = 0;
-        RunContext context;
-        context.superseded = [&] { return ++asked >= stop; };
-        const ThreadLimit limit(1);
-        const refine::Shot shot{kWidth, kHeight, scene.foreground.front().data(), whole.background.front().data(),
-                                false};
-        std::vector<std::uint8_t> key(static_cast<std::size_t>(kWidth * kHeight));
-        for (std::size_t i = 0; i < key.size(); ++i)
-            key[i] = whole.background[i][3];
-        refine::Shot keyed = shot;
-        keyed.key = key.data();
-        const refine::Refined result = refine::refineKey(context, keyed, {}, scene.combined.front().data());
-        if (asked < stop) break;
-        EXPECT_EQ(result, refine::Refined::superseded) << stop;
-        EXPECT_LT(asked, stop + 40) << "it went on for many rows";
-    }
-}
-
-TEST(RefineKey, ANewerRequestEndsIt) {
-    DiscScene scene;
-    const auto before = scene.combined;
-    scene.info.iNewThreadCount = scene.info.iCurrentThreadCount + 1;
-    scene.key(true);
-    EXPECT_TRUE(scene.combined == before);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "ui/batch/FastBatch.h"
 
-#include <unistd.h>
-
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -9,12 +7,16 @@
 #include <QJsonObject>
 #include <QStandardPaths>
 
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 namespace tavrin {
 
 namespace {
 
-constexpr int kNicer = 5;        // so that the window comes first
-constexpr int kPatience = 3000;  // milliseconds for a program that is told to end
+[[maybe_unused]] constexpr int kNicer = 5;  // so that the window comes first
+constexpr int kPatience = 3000;             // milliseconds for a program that is told to end
 
 /// Beside this program, as it is installed; else the one of the path.
 QString programFile() {
@@ -25,7 +27,9 @@ QString programFile() {
 }  // namespace
 
 FastBatch::FastBatch(QObject* parent) : QObject(parent) {
+#ifdef Q_OS_UNIX
     process_.setChildProcessModifier([] { static_cast<void>(::nice(kNicer)); });
+#endif
     process_.setStandardInputFile(QProcess::nullDevice());
     connect(&process_, &QProcess::readyReadStandardOutput, this, &FastBatch::readLines);
     connect(&process_, &QProcess::readyReadStandardError, this, &FastBatch::readErrors);
