@@ -80,7 +80,7 @@ class BatchTest : public test::WindowTest {
         useFolders();
     }
     bool waitForEnd() {
-        return QTest::qWaitFor([this] { return !window_->batch()->isRunning(); }, 60000);
+        return test::eventually([this] { return !window_->batch()->isRunning(); });
     }
     QStringList made(const char* sub = "out") {
         return QDir(QString::fromStdString(folder_.file(sub))).entryList({"*.png", "*.jpg", "*.tif"}, QDir::Files);
@@ -146,7 +146,7 @@ TEST_F(BatchTest, ARunShowsItsPlanItsPicturesAndItsSums) {
     settings().iLastBatchLastOutputFileType = 2;
     settings().iLastBatchLastOutputStyle = 1;
     window_->batch()->updateBatchUI();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return list("listBatchPlan")->count() == 2; }));
+    ASSERT_TRUE(test::eventually([&] { return list("listBatchPlan")->count() == 2; }));
     EXPECT_EQ(rows("listBatchPlan"),
               (QStringList{"adasea.png from ada.png + sea.png", "bensea.png from ben.png + sea.png"}));
     EXPECT_EQ(part<QLabel>("textBatchFileCount")->text(), "2");
@@ -158,15 +158,15 @@ TEST_F(BatchTest, ARunShowsItsPlanItsPicturesAndItsSums) {
     ASSERT_TRUE(waitForEnd());
     EXPECT_EQ(made(), (QStringList{"adasea.png", "bensea.png"}));
     EXPECT_EQ(list("listBatchResults")->count(), 2);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !list("listBatchResults")->item(0)->icon().isNull(); }));
+    EXPECT_TRUE(test::eventually([&] { return !list("listBatchResults")->item(0)->icon().isNull(); }));
     EXPECT_TRUE(part<QLabel>("batchTimeLeft")->text().startsWith("Pictures made: 2, in "));
     ASSERT_EQ(notices_.size(), 1);
     EXPECT_TRUE(notices_[0].startsWith("The batch has ended. Pictures made: 2"));
     EXPECT_TRUE(part<QToolButton>("buttonBatchStart")->isEnabled());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list("listBatchPlan")->count() == 0; })) << "all of it was made";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return part<QLabel>("textBatchProcessedCount")->text() == "2"; }));
+    EXPECT_TRUE(test::eventually([&] { return list("listBatchPlan")->count() == 0; })) << "all of it was made";
+    EXPECT_TRUE(test::eventually([&] { return part<QLabel>("textBatchProcessedCount")->text() == "2"; }));
     press("buttonBatchClearHistory");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list("listBatchPlan")->count() == 2; }));
+    EXPECT_TRUE(test::eventually([&] { return list("listBatchPlan")->count() == 2; }));
 }
 
 TEST_F(BatchTest, WhatFailsIsListedWithoutADialogAndMadeAgain) {
@@ -246,9 +246,9 @@ TEST_F(BatchTest, ARunThatWatchesGoesOnUntilItIsStopped) {
         const std::size_t there = static_cast<std::size_t>(made().size());
         press(start);
         if (there == 0) {
-            ASSERT_TRUE(QTest::qWaitFor([&] { return made().size() == 2; }, 30000));
+            ASSERT_TRUE(test::eventually([&] { return made().size() == 2; }));
             portrait("fg/late.png");
-            ASSERT_TRUE(QTest::qWaitFor([&] { return made().size() == 3; }, 30000));
+            ASSERT_TRUE(test::eventually([&] { return made().size() == 3; }));
         } else {
             QTest::qWait(1500);
         }
@@ -269,7 +269,7 @@ TEST_F(BatchTest, ClosingAWindowWithARunAsks) {
     EXPECT_TRUE(window_->batch()->isRunning());
     window_->close();
     part<QPushButton>("stopBatchAndClose")->click();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !window_->isVisible(); }, 30000));
+    EXPECT_TRUE(test::eventually([this] { return !window_->isVisible(); }));
     EXPECT_FALSE(window_->batch()->isRunning());
 }
 
@@ -277,15 +277,15 @@ TEST_F(BatchTest, AFolderThatVanishesInARunIsSaidAndTheRunGoesOnWhenItIsBack) {
     fillFolders();
     part<QCheckBox>("checkboxBatchWatch")->click();
     press("buttonBatchStart");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return made().size() == 2; }, 30000));
+    ASSERT_TRUE(test::eventually([&] { return made().size() == 2; }));
     fs::rename(folder_.file("fg"), folder_.file("elsewhere"));
     auto* problem = part<QLabel>("textBatchProblem");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return problem->text().endsWith("fg is not there."); }, 15000));
+    EXPECT_TRUE(test::eventually([&] { return problem->text().endsWith("fg is not there."); }));
     EXPECT_TRUE(window_->batch()->isRunning());
     fs::rename(folder_.file("elsewhere"), folder_.file("fg"));
     portrait("fg/late.png");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return made().size() == 3; }, 30000));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return problem->isHidden(); }, 15000));
+    EXPECT_TRUE(test::eventually([&] { return made().size() == 3; }));
+    EXPECT_TRUE(test::eventually([&] { return problem->isHidden(); }));
     press("buttonBatchStop");
     ASSERT_TRUE(waitForEnd());
 }
@@ -294,7 +294,7 @@ TEST_F(BatchTest, AFastRunThatIsKilledTakesNothingAndTheNextMakesTheRest) {
     fillFolders();
     part<QCheckBox>("checkboxBatchWatch")->click();
     press("buttonBatchFast");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return made().size() == 2; }, 30000));
+    ASSERT_TRUE(test::eventually([&] { return made().size() == 2; }));
     const std::string self = std::to_string(::getpid());
     std::ifstream children("/proc/" + self + "/task/" + self + "/children");
     pid_t program = 0;

@@ -13,6 +13,7 @@
 #include <QWheelEvent>
 
 #include "core/state/SettingNames.h"
+#include "ui/Eventually.h"
 #include "ui/adjust/AdjustGroups.h"
 #include "ui/adjust/Rotation.h"
 #include "ui/bind/Groove.h"
@@ -38,7 +39,7 @@ class ControlsTest : public testing::Test {
             page->show();
         panel_.resize(460, 6000);
         panel_.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&panel_));
+        ASSERT_TRUE(test::becomesActive(&panel_));
         binder_.UpdateAllUI();
     }
 

@@ -121,7 +121,7 @@ TEST_F(DeskTest, NoTipCoversWhatIsDoneAndAKeyHidesAllOfThem) {
         QApplication::sendEvent(button, &rests);
         const bool shown = !QToolTip::text().isEmpty();
         QToolTip::hideText();
-        QTest::qWait(400);  // it fades
+        EXPECT_TRUE(test::eventually([] { return QToolTip::text().isEmpty(); }));  // it fades
         return shown;
     };
     EXPECT_TRUE(tip());
@@ -153,11 +153,10 @@ TEST_F(DeskTest, UndoAndRedoStepThroughSettingsAndEndWithAState) {
 
     const QString file = QString::fromStdString(folder_.file("a.qlx"));
     window_->saveState(file);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return window_->savesUnderWay() == 0; }));
     brightness->setValue(80);
     window_->openState(file);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return brightness->value() == 140; }, 20000))
-        << "controls show what was loaded";
+    EXPECT_TRUE(test::eventually([&] { return brightness->value() == 140; })) << "controls show what was loaded";
     EXPECT_FALSE(action("UndoButton")->isEnabled());
 }
 
@@ -203,14 +202,14 @@ TEST_F(DeskTest, AHeldKeyShowsThePortraitAsItWasTaken) {
         return view->grab().toImage().pixelColor(
             (frame.topLeft() + QPointF(x * frame.width(), y * frame.height())).toPoint());
     };
-    ASSERT_TRUE(QTest::qWaitFor([&] { return action("ShowOriginal")->isEnabled(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return action("ShowOriginal")->isEnabled(); }));
     QTest::keyPress(view, Qt::Key_B);
     const QColor screen = test::discOnScreen(240, 300).pixelColor(5, 150);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return middleOfFrame(0.02, 0.5) == screen; }, 20000));
+    EXPECT_TRUE(test::eventually([&] { return middleOfFrame(0.02, 0.5) == screen; }));
     QTest::keyRelease(view, Qt::Key_B);
     EXPECT_NE(middleOfFrame(0.02, 0.5), screen);
     QTest::keyPress(view, Qt::Key_B);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return middleOfFrame(0.02, 0.5) == screen; }, 20000));
+    EXPECT_TRUE(test::eventually([&] { return middleOfFrame(0.02, 0.5) == screen; }));
     QEvent elsewhere(QEvent::WindowDeactivate);  // where the key is let go
     QApplication::sendEvent(window_.get(), &elsewhere);
     EXPECT_NE(middleOfFrame(0.02, 0.5), screen);
@@ -224,10 +223,10 @@ TEST_F(DeskTest, TheAlphaIsShownUntilItIsTurnedOffAndFollowsThePicture) {
             (frame.topLeft() + QPointF(x * frame.width(), y * frame.height())).toPoint());
     };
     action("ShowAlpha")->setChecked(true);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(0, 0, 0); }, 20000)) << "the subject";
+    EXPECT_TRUE(test::eventually([&] { return shown(0.5, 0.5) == QColor(0, 0, 0); })) << "the subject";
     EXPECT_EQ(shown(0.02, 0.5), QColor(255, 255, 255)) << "the screen";
     window_->panel()->findChild<Groove*>("sliderClipTop")->setValue(90);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return shown(0.5, 0.5) == QColor(255, 255, 255); }, 20000));
+    EXPECT_TRUE(test::eventually([&] { return shown(0.5, 0.5) == QColor(255, 255, 255); }));
     action("ShowAlpha")->setChecked(false);
     EXPECT_NE(shown(0.5, 0.5), QColor(255, 255, 255));
 }
@@ -236,7 +235,7 @@ TEST_F(DeskTest, AStateIsSavedWithThePictureWhenThatIsWanted) {
     action("AutoState")->setChecked(true);
     ASSERT_TRUE(waitForPicture());
     EXPECT_TRUE(window_->saveTo(QString::fromStdString(folder_.file("out.png"))));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return window_->savesUnderWay() == 0; }));
     EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(folder_.file("out.png"))));
     EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(folder_.file("out.qlx"))));
     QLXInfo kept;
@@ -250,16 +249,14 @@ TEST_F(DeskTest, TransparentPartsShowTheGrid) {
     ASSERT_TRUE(waitForPicture());
     std::set<QRgb> colours;
     const QRect frame = view->zoom().frame().toRect();
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] {
-            colours.clear();
-            const QImage shown = view->grab().toImage();
-            for (int x = 0; x < 12; ++x)
-                for (int y = 0; y < 12; ++y)
-                    colours.insert(shown.pixel(frame.left() + 8 + x, frame.top() + 8 + y));
-            return colours.size() == 2;
-        },
-        20000));
+    ASSERT_TRUE(test::eventually([&] {
+        colours.clear();
+        const QImage shown = view->grab().toImage();
+        for (int x = 0; x < 12; ++x)
+            for (int y = 0; y < 12; ++y)
+                colours.insert(shown.pixel(frame.left() + 8 + x, frame.top() + 8 + y));
+        return colours.size() == 2;
+    }));
     EXPECT_EQ(colours, (std::set<QRgb>{0xffcccccc, 0xffffffff}));
 }
 
@@ -270,11 +267,9 @@ TEST_F(DeskTest, ALayerGoesWithThePointerAndComesBackWithOneUndo) {
         for (int i = 1; i <= 10; ++i)
             QTest::mouseMove(view, from + by * i / 10);
         // The last move is shown while the layer is held, so only the release can have it drawn in full.
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] {
-                return !info_->pForegroundBitmapInfo->bScaleChange && !info_->pBackgroundBitmapInfo->bScaleChange;
-            },
-            20000));
+        EXPECT_TRUE(test::eventually([&] {
+            return !info_->pForegroundBitmapInfo->bScaleChange && !info_->pBackgroundBitmapInfo->bScaleChange;
+        }));
         QTest::mouseRelease(view, Qt::LeftButton, {}, from + by);
         EXPECT_TRUE(waitForPicture());
     };

@@ -37,7 +37,7 @@ class EditorTest : public test::WindowTest {
     void turnTo(const char* tab) { find<QToolButton>(tab)->click(); }
     bool enter() {
         turnTo("mainTabAirbrush");
-        return QTest::qWaitFor([&] { return airbrush().isOpen(); }, 10000);
+        return test::eventually([&] { return airbrush().isOpen(); });
     }
     template <class Widget>
     Widget* find(const char* name) {
@@ -47,7 +47,7 @@ class EditorTest : public test::WindowTest {
     }
     void choose(int brush) {
         find<QToolButton>(qPrintable(QString("buttonBrush%1").arg(brush)))->click();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return face().iActiveButton == brush; }));
+        EXPECT_TRUE(test::eventually([&] { return face().iActiveButton == brush; }));
     }
     QPoint viewAt(double x, double y) { return view_->zoom().viewAt({x + 0.5, y + 0.5}).toPoint(); }
     /// A drag between two pixels of the picture; waits until it is a step.
@@ -58,7 +58,7 @@ class EditorTest : public test::WindowTest {
         for (int i = 1; i <= 8; ++i)
             QTest::mouseMove(view_, start + (end - start) * i / 8);
         QTest::mouseRelease(view_, Qt::LeftButton, keys, end);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return face().step == before + 1; }));
+        EXPECT_TRUE(test::eventually([&] { return face().step == before + 1; }));
         QTest::qWait(20);
     }
     QImage picture() { return view_->fullPicture().copy(); }
@@ -82,29 +82,29 @@ class EditorTest : public test::WindowTest {
 TEST_F(EditorTest, AStrokeIsSeenAtOnceTakenBackAndDoneAgain) {
     EXPECT_FALSE(airbrush().isOpen());
     QTest::keyClick(window_.get(), Qt::Key_2, Qt::AltModifier);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return airbrush().isOpen(); }));
+    ASSERT_TRUE(test::eventually([&] { return airbrush().isOpen(); }));
     EXPECT_EQ(window_->windowTitle(), "Main Window - Airbrush Editor Mode");
     EXPECT_FALSE(action("UndoButton")->isEnabled());
     const QImage before = picture();
     const QColor shown = shownAt(120, 150);
     QTest::mousePress(view_, Qt::LeftButton, {}, viewAt(120, 150));  // on the portrait
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture() != before; }));
+    EXPECT_TRUE(test::eventually([&] { return picture() != before; }));
     EXPECT_EQ(picture().pixelColor(120, 150), QColor(QImage(QString::fromStdString(background_)).pixel(120, 150)));
     EXPECT_NE(shownAt(120, 150), shown);
     EXPECT_EQ(picture().copy(0, 0, 240, 90), before.copy(0, 0, 240, 90));  // the rest stays
     QTest::mouseRelease(view_, Qt::LeftButton, {}, viewAt(120, 150));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return action("UndoButton")->isEnabled(); }));
+    ASSERT_TRUE(test::eventually([&] { return action("UndoButton")->isEnabled(); }));
     const QImage after = picture();
     view_->setFocus();
     QTest::keyClick(view_, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture() == before; }));
+    EXPECT_TRUE(test::eventually([&] { return picture() == before; }));
     EXPECT_EQ(shownAt(120, 150), shown);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return action("RedoButton")->isEnabled(); }));
+    ASSERT_TRUE(test::eventually([&] { return action("RedoButton")->isEnabled(); }));
     QTest::keyClick(view_, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture() == after; }));
+    EXPECT_TRUE(test::eventually([&] { return picture() == after; }));
     EXPECT_EQ(ofState(), after);
     turnTo("mainTabAdjust");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !airbrush().isOpen(); }));
+    EXPECT_TRUE(test::eventually([&] { return !airbrush().isOpen(); }));
     EXPECT_EQ(window_->windowTitle(), "Main Window - Adjust/Load Mode");
     EXPECT_EQ(picture(), after);  // leaving makes nothing anew
     EXPECT_TRUE(std::filesystem::is_empty(Places::current().tempFilesFolder()));
@@ -116,7 +116,7 @@ TEST_F(EditorTest, APassClosesTheEditorAndAReplayBringsEveryVisitBack) {
     choose(kPaint);
     stroke({60, 40}, {90, 60});
     turnTo("mainTabAdjust");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !airbrush().isOpen(); }));
+    ASSERT_TRUE(test::eventually([&] { return !airbrush().isOpen(); }));
     ASSERT_TRUE(enter());
     QTest::keyClick(view_, Qt::Key_BracketRight);
     stroke({150, 200}, {180, 220});
@@ -126,11 +126,11 @@ TEST_F(EditorTest, APassClosesTheEditorAndAReplayBringsEveryVisitBack) {
     ASSERT_TRUE(waitForPicture());
     setBrightness(0);
     ASSERT_TRUE(waitForPicture());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->messages()->question().isEmpty() && airbrush().isOpen(); }));
+    ASSERT_TRUE(test::eventually([&] { return !window_->messages()->question().isEmpty() && airbrush().isOpen(); }));
     EXPECT_NE(picture(), edited);
     EXPECT_EQ(face().lost, 3);
     find<QToolButton>("BringBack")->click();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture() == edited && !airbrush().isReplaying(); }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return picture() == edited && !airbrush().isReplaying(); }));
     EXPECT_EQ(ofState(), edited);
     EXPECT_EQ(face().lost, 0);
 }
@@ -140,14 +140,14 @@ TEST_F(EditorTest, ASavedFilePlaysToTheSamePictureOnTheCommandLinesWay) {
     choose(kPaint);
     stroke({60, 40}, {90, 60});
     turnTo("mainTabAdjust");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !airbrush().isOpen(); }));
+    ASSERT_TRUE(test::eventually([&] { return !airbrush().isOpen(); }));
     ASSERT_TRUE(enter());  // with another tool and radius than the program's first
     QTest::keyClick(view_, Qt::Key_BracketLeft);
     stroke({100, 120}, {140, 180});
     const QImage edited = picture();
     const QString path = QString::fromStdString(folder_.file("anna.edits"));
     airbrush().saveEdits(path);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(path.toStdString()); }));
+    ASSERT_TRUE(test::eventually([&] { return std::filesystem::exists(path.toStdString()); }));
     const ReadEdits read = readEditFile(path.toStdString());
     ASSERT_EQ(read.problem, "");
     const auto other = test::stateForOutput(240, 300);
@@ -163,7 +163,7 @@ TEST_F(EditorTest, ASavedFilePlaysToTheSamePictureOnTheCommandLinesWay) {
     ASSERT_TRUE(waitForPicture());
     ASSERT_TRUE(enter());
     airbrush().loadEdits(path);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture() == edited && !airbrush().isReplaying(); }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return picture() == edited && !airbrush().isReplaying(); }));
     std::ofstream(folder_.file("bad.edits")) << "tavrin-edits 1\nview 9 9\n1 x\n";
     airbrush().loadEdits(QString::fromStdString(folder_.file("bad.edits")));
     EXPECT_TRUE(window_->messages()->details().contains("line 3"));
@@ -186,9 +186,9 @@ TEST_F(EditorTest, ThePanelShowsTheControlsOfTheActiveTool) {
     EXPECT_FALSE(seen("editCheckbox"));
     find<QWidget>("editSlider")->setFocus();
     QTest::keyClick(find<QWidget>("editSlider"), Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return face().brush.dBrushSlider == 0.26; }));
+    EXPECT_TRUE(test::eventually([&] { return face().brush.dBrushSlider == 0.26; }));
     QTest::keyClick(find<QWidget>("editSlider"), Qt::Key_P);  // a tool's key, as nothing is typed there
-    EXPECT_TRUE(QTest::qWaitFor([&] { return face().iActiveButton == kPaint; }));
+    EXPECT_TRUE(test::eventually([&] { return face().iActiveButton == kPaint; }));
     EXPECT_TRUE(seen("editColorWell") && seen("buttonGetColorFromImage"));
     choose(kSelection);
     EXPECT_EQ(title(), "Paint");
@@ -201,9 +201,9 @@ TEST_F(EditorTest, KeysOnThePictureAndTheEyeDropper) {
     view_->setFocus();
     choose(kPaint);
     find<QToolButton>("buttonGetColorFromImage")->click();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return face().picksColor; }));
+    ASSERT_TRUE(test::eventually([&] { return face().picksColor; }));
     QTest::mouseClick(view_, Qt::LeftButton, {}, viewAt(120, 150));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !face().picksColor; }));
+    ASSERT_TRUE(test::eventually([&] { return !face().picksColor; }));
     const QColor under = picture().pixelColor(120, 150);
     EXPECT_EQ(QColor(face().red, face().green, face().blue), under);
     EXPECT_EQ(face().step, 0);  // a click that only looks is no stroke
@@ -211,9 +211,9 @@ TEST_F(EditorTest, KeysOnThePictureAndTheEyeDropper) {
     EXPECT_EQ(picture().pixelColor(35, 35), under);
     view_->setFocus();
     QTest::keyClick(view_, Qt::Key_Z);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return face().step == 0; }));
+    EXPECT_TRUE(test::eventually([&] { return face().step == 0; }));
     QTest::keyClick(view_, Qt::Key_V);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return face().step == 1; }));
+    EXPECT_TRUE(test::eventually([&] { return face().step == 1; }));
     const double zoom = view_->zoom().dZoom();
     QTest::keyClick(view_, Qt::Key_S);
     EXPECT_GT(view_->zoom().dZoom(), zoom);
@@ -224,10 +224,10 @@ TEST_F(EditorTest, KeysOnThePictureAndTheEyeDropper) {
     choose(kCopy);
     QTest::mouseMove(view_, viewAt(120, 150));
     QTest::keyClick(view_, Qt::Key_A);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return face().bShowAnchorCursor; }));
+    EXPECT_TRUE(test::eventually([&] { return face().bShowAnchorCursor; }));
     EXPECT_FALSE(action("ShowAlpha")->isChecked());  // the key is the tool's now
     QTest::mouseClick(view_, Qt::LeftButton, {}, viewAt(30, 250));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture().pixelColor(30, 250) == before.pixelColor(120, 150); }));
+    EXPECT_TRUE(test::eventually([&] { return picture().pixelColor(30, 250) == before.pixelColor(120, 150); }));
 }
 
 TEST_F(EditorTest, ShiftDrawsAStraightLineAndAPenChangesWhatWasChosen) {
@@ -235,10 +235,10 @@ TEST_F(EditorTest, ShiftDrawsAStraightLineAndAPenChangesWhatWasChosen) {
     choose(kPaint);
     for (int i = 0; i < 11; ++i)
         QTest::keyClick(view_, Qt::Key_BracketLeft);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return face().brush.radiusInPixels() == 6; }));
+    ASSERT_TRUE(test::eventually([&] { return face().brush.radiusInPixels() == 6; }));
     QTest::mouseClick(view_, Qt::LeftButton, {}, viewAt(30, 30));
     QTest::mouseClick(view_, Qt::LeftButton, Qt::ShiftModifier, viewAt(90, 110));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture().pixelColor(60, 70) == QColor(40, 40, 150); }));
+    EXPECT_TRUE(test::eventually([&] { return picture().pixelColor(60, 70) == QColor(40, 40, 150); }));
 
     const int recorded = face().recorded;
     find<QComboBox>("comboPenPressure")->setCurrentIndex(1);
@@ -247,7 +247,7 @@ TEST_F(EditorTest, ShiftDrawsAStraightLineAndAPenChangesWhatWasChosen) {
                      0, 0, 0.0, 0.0, 0.0, {}, Qt::LeftButton, Qt::LeftButton);
     QApplication::sendEvent(view_, &pen);
     QTest::mouseClick(view_, Qt::LeftButton, {}, at.toPoint());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return face().recorded >= recorded + 4; }));  // sliders, down, up, sliders
+    ASSERT_TRUE(test::eventually([&] { return face().recorded >= recorded + 4; }));  // sliders, down, up, sliders
     QTest::qWait(30);
     EXPECT_EQ(picture().pixelColor(150, 250), QColor(40, 40, 150));
     EXPECT_NE(picture().pixelColor(153, 250), QColor(40, 40, 150));  // no pressure, no width
@@ -282,19 +282,19 @@ TEST_F(EditorTest, WhatIsSavedIsWhatIsSeenWithoutThePatternOfASelection) {
     const QImage edited = picture();
     choose(kSelection);
     find<QRadioButton>("radioCombineSelect")->click();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return face().iSelectionMode == ColorSelection::kCombinedColor; }));
+    ASSERT_TRUE(test::eventually([&] { return face().iSelectionMode == ColorSelection::kCombinedColor; }));
     find<QCheckBox>("editCheckbox")->click();  // all but black is protected
-    ASSERT_TRUE(QTest::qWaitFor([&] { return face().brush.bCheckBoxValue; }));
+    ASSERT_TRUE(test::eventually([&] { return face().brush.bCheckBoxValue; }));
     QTest::qWait(50);
     const QImage pattern = picture();
     EXPECT_NE(pattern, edited);
     const QString path = QString::fromStdString(folder_.file("out.png"));
     ASSERT_TRUE(window_->saveTo(path));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 10000));
+    ASSERT_TRUE(test::eventually([&] { return window_->savesUnderWay() == 0; }));
     QImage saved(path);
     saved.setColorSpace({});
     EXPECT_EQ(saved.convertToFormat(QImage::Format_RGB32), edited.convertToFormat(QImage::Format_RGB32));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture() == pattern; }));  // and it is seen again
+    EXPECT_TRUE(test::eventually([&] { return picture() == pattern; }));  // and it is seen again
 }
 
 TEST_F(EditorTest, StrokesComeBackAfterAKillAndWithTheirPortrait) {
@@ -313,10 +313,10 @@ TEST_F(EditorTest, StrokesComeBackAfterAKillAndWithTheirPortrait) {
     view_ = window_->view();
     window_->offerLeftRecipes();
     find<QToolButton>("TakeUp")->click();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->messages()->question().contains("airbrush"); }, 10000));
+    ASSERT_TRUE(test::eventually([&] { return window_->messages()->question().contains("airbrush"); }));
     EXPECT_NE(picture(), edited);
     find<QToolButton>("BringBack")->click();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return picture() == edited && face().step == 2; }, 10000));
+    ASSERT_TRUE(test::eventually([&] { return picture() == edited && face().step == 2; }));
     EXPECT_TRUE(face().canUndo);
     // Another portrait has none of them, and the first one gets its own again.
     const std::string ben = test::savePng(test::discOnScreen(200, 300), folder_.file("ben.png"));
@@ -325,7 +325,7 @@ TEST_F(EditorTest, StrokesComeBackAfterAKillAndWithTheirPortrait) {
     QTest::qWait(100);
     EXPECT_EQ(face().lost, 0);
     window_->openForeground(QString::fromStdString(portrait_));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return face().lost == 2; }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return face().lost == 2; }));
 }
 
 TEST_F(EditorTest, AnotherOutputSizeTakesTheStrokesToTheSamePlaces) {
@@ -336,11 +336,11 @@ TEST_F(EditorTest, AnotherOutputSizeTakesTheStrokesToTheSamePlaces) {
     ASSERT_GE(index, 0);
     window_->sizeBox()->setCurrentIndex(index);
     emit window_->sizeBox()->activated(index);
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return view_->fullPicture().width() == 480 && view_->isFull() && airbrush().isOpen(); }, 10000));
+    ASSERT_TRUE(test::eventually(
+        [&] { return view_->fullPicture().width() == 480 && view_->isFull() && airbrush().isOpen(); }));
     EXPECT_NE(picture().pixelColor(150, 100), QColor(40, 40, 150));
     find<QToolButton>("buttonReplayEdits")->click();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture().pixelColor(150, 100) == QColor(40, 40, 150); }));
+    EXPECT_TRUE(test::eventually([&] { return picture().pixelColor(150, 100) == QColor(40, 40, 150); }));
     stroke({300, 500}, {320, 520});  // new strokes lie where the mouse is
     EXPECT_EQ(picture().pixelColor(310, 510), QColor(40, 40, 150));
 }
@@ -350,7 +350,7 @@ TEST_F(EditorTest, AFullRecordingIsToldAndStopsNoStroke) {
     view_->setFocus();
     for (int i = 0; i < kMostEditItems; ++i)
         QTest::keyClick(view_, i % 2 ? Qt::Key_P : Qt::Key_E);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return face().recorded == kMostEditItems; }));
+    ASSERT_TRUE(test::eventually([&] { return face().recorded == kMostEditItems; }));
     EXPECT_TRUE(window_->messages()->details().contains("recording is full"));
     stroke({60, 40}, {90, 60});
     EXPECT_EQ(picture().pixelColor(75, 50), QColor(40, 40, 150));
@@ -370,7 +370,7 @@ TEST_F(EditorTest, AFolderThatCannotTakeStepsCostsOnlyTheUndo) {
         << window_->messages()->details().toStdString();
     std::filesystem::remove(temporary.substr(0, temporary.size() - 1));
     stroke({60, 40}, {80, 60});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return action("UndoButton")->isEnabled(); }));
+    EXPECT_TRUE(test::eventually([&] { return action("UndoButton")->isEnabled(); }));
 }
 
 }  // namespace

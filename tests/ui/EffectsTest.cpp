@@ -153,7 +153,7 @@ TEST_F(EffectsTest, APictureIsTakenByDropOrStaysWhenTheNewOneCannotBeRead) {
         QApplication::sendEvent(row, &event);
     };
     drop(good);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return info_->oImageTexture->bHaveTexture.load(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return info_->oImageTexture->bHaveTexture.load(); }));
     EXPECT_EQ(value("texture.sTextureFileName"), good);
     auto* button = part<QToolButton>("loadTextureImage");
     EXPECT_EQ(button->text(), QString::fromUtf8("linen \303\244.png"));
@@ -162,7 +162,7 @@ TEST_F(EffectsTest, APictureIsTakenByDropOrStaysWhenTheNewOneCannotBeRead) {
 
     std::ofstream(file("broken.jpg")) << "no picture";
     drop(file("broken.jpg"));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !row->problem().isEmpty(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return !row->problem().isEmpty(); }));
     EXPECT_TRUE(row->problem().startsWith("broken.jpg cannot be read: ")) << row->problem().toStdString();
     EXPECT_TRUE(part<QLabel>("loadTextureImageProblem")->isVisible());
     EXPECT_EQ(value("texture.sTextureFileName"), good) << "the old one stays";
@@ -188,7 +188,7 @@ TEST_F(EffectsTest, AFrameOfAPictureAsksForOneAndCancellingLeavesIt) {
     EXPECT_EQ(value("frameOverlay.sFrameImagePath"), "");
     const std::string oak = test::savePng(test::noisePicture(40, 30, 3), file("oak.png"));
     pictureRow("loadFrameImageOverlay")->take(QString::fromStdString(oak));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return value("frameOverlay.sFrameImagePath") == oak; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return value("frameOverlay.sFrameImagePath") == oak; }));
     press("buttonFrameColorOverlay");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     press("buttonFrameImageOverlay");
@@ -268,13 +268,13 @@ TEST_F(EffectsTest, WhatIsOnStandsInTheListOnceAndCanBeSwitchedOff) {
         return window_->panel()->findChild<QToolButton*>(QString(name) + "Chip");
     };
     press("buttonWall");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return chip("groupShadow"); }));
+    ASSERT_TRUE(test::eventually([&] { return chip("groupShadow"); }));
     EXPECT_EQ(chip("groupShadow")->text(), "Shadow: wall");
     EXPECT_FALSE(chip("sliderShadowScale")) << "its sliders belong to it";
     openPanel("MyEffectsFrame1Panel");
     press("buttonFrameOval");
     press("buttonFloor");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return chip("MyEffectsFrame1Panel"); }));
+    ASSERT_TRUE(test::eventually([&] { return chip("MyEffectsFrame1Panel"); }));
     EXPECT_EQ(chip("MyEffectsFrame1Panel")->text(), "Frame: Oval");
     EXPECT_EQ(chip("groupShadow")->text(), "Shadow: floor");
     window_->panel()->selectMainTab(0);
@@ -285,7 +285,7 @@ TEST_F(EffectsTest, WhatIsOnStandsInTheListOnceAndCanBeSwitchedOff) {
     EXPECT_EQ(info_->iHaveShadow, 1);
     EXPECT_EQ(value("iSliderShadowBlur"), "250") << "it comes back as it was";
     EXPECT_EQ(editor().stepsDone(), steps + 1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !chip("groupShadow"); }));
+    EXPECT_TRUE(test::eventually([&] { return !chip("groupShadow"); }));
     part<QToolButton>("effectsFrameReset:")->click();
     EXPECT_EQ(info_->oFrame->iFrameType, 0);
 }
@@ -309,14 +309,14 @@ TEST_F(EffectsTest, EverySettingOfTheEffectsIsSavedAndShownAgain) {
     const auto before = listFields(*info_);
     const QString state = QString::fromStdString(file("all.qlx"));
     window_->saveState(state);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return window_->savesUnderWay() == 0; }));
     part<QToolButton>("effectsFrameReset:")->click();
     window_->panel()->resetAll();
     EXPECT_FALSE(info_->oImageTexture->bHaveTexture);
     EXPECT_EQ(info_->iHaveShadow, 1);
     window_->openState(state);
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return info_->iHaveShadow == 3 && part<QToolButton>("buttonFloorAndWall")->isChecked(); }, 20000));
+    ASSERT_TRUE(test::eventually(
+        [&] { return info_->iHaveShadow == 3 && part<QToolButton>("buttonFloorAndWall")->isChecked(); }));
     const auto after = listFields(*info_);
     for (std::size_t i = 0; i < before.size(); ++i) {
         const std::string& name = before[i].first;
@@ -363,7 +363,7 @@ TEST_F(EffectsTest, TheSmoothingOfSkinTellsHowFarItIs) {
     press("startSkin");
     EXPECT_EQ(info_->iSmoothMode, 1);
     ASSERT_TRUE(waitForPicture());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return values.size() >= 2 && !bar->isVisible(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return values.size() >= 2 && !bar->isVisible(); }));
 }
 
 TEST_F(EffectsTest, TheFreezeStandsOnThePageToo) {
@@ -372,9 +372,9 @@ TEST_F(EffectsTest, TheFreezeStandsOnThePageToo) {
     EXPECT_FALSE(told->isVisible());
     press("buttonWall");
     ASSERT_TRUE(waitForPicture());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return part<QToolButton>("buttonFreeze")->isEnabled(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return part<QToolButton>("buttonFreeze")->isEnabled(); }));
     press("buttonFreeze");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return told->isVisible(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return told->isVisible(); }));
     EXPECT_TRUE(info_->bBackgroundFrozen);
     EXPECT_EQ(part<QLabel>("textShadowType")->text(), "No Shadow Active") << "it is baked in";
     ASSERT_TRUE(waitForPicture());
@@ -398,19 +398,19 @@ TEST_F(EffectsTest, OverlaySlotsTakePicturesAndHaveChips) {
         auto* button = part<QToolButton>(slot);
         EXPECT_EQ(button->text(), none);
         row->take(QString::fromStdString(file("bad.png")));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return row->problem().contains("bad.png"); }));
+        EXPECT_TRUE(test::eventually([&] { return row->problem().contains("bad.png"); }));
         EXPECT_EQ(value(have), "0") << "and nothing is lost";
         info_->pBackgroundBitmapInfo->bScaleChange = false;
         const std::size_t steps = editor().stepsDone();
         row->take(QString::fromStdString(gold));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return value(have) == "1"; }));
+        ASSERT_TRUE(test::eventually([&] { return value(have) == "1"; }));
         EXPECT_EQ(value(setting), gold);
         EXPECT_EQ(editor().stepsDone(), steps + 1);
         EXPECT_EQ(button->text(), "gold.png");
         EXPECT_FALSE(button->icon().isNull());
         EXPECT_EQ(info_->oQLXInfo->sOverlayDir.load(), gold) << "the next dialog begins there";
         const QString chip = QString(slot) + "Chip";
-        ASSERT_TRUE(QTest::qWaitFor([&] { return window_->panel()->findChild<QToolButton*>(chip) != nullptr; }));
+        ASSERT_TRUE(test::eventually([&] { return window_->panel()->findChild<QToolButton*>(chip) != nullptr; }));
         part<QToolButton>(chip + "Reset")->click();
         EXPECT_EQ(value(have), "0");
         EXPECT_EQ(button->text(), none);

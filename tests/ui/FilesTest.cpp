@@ -1,8 +1,7 @@
 // What opening a picture resets, and the ways out of the window.
-#include <chrono>
 #include <functional>
-#include <future>
 #include <gtest/gtest.h>
+#include <semaphore>
 #include <vector>
 
 #include <QTest>
@@ -33,7 +32,7 @@ class FilesTest : public test::WindowTest {
         return QString::fromStdString(test::savePng(test::discOnScreen(240, 300), folder_.file(name)));
     }
     bool saved() {
-        return QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000);
+        return test::eventually([&] { return window_->savesUnderWay() == 0; });
     }
 
     const std::string start_ = folder_.file("start.qlx");
@@ -46,7 +45,7 @@ TEST_F(FilesTest, APortraitThatIsOpenedBeginsWithTheStartUpStateWhereThatIsWante
     action("ForegroundReset")->setChecked(true);
     const QString clara = drawn("clara.png");
     window_->openForeground(clara);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return portraitLight() == 7; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return portraitLight() == 7; }));
     EXPECT_EQ(info_->pForegroundBitmapInfo->sSourceImageFullPath.load(), clara.toStdString());
     EXPECT_EQ(backgroundLight(), 40);
     EXPECT_EQ(info_->pBackgroundBitmapInfo->sSourceImageFullPath.load(), background_);
@@ -59,7 +58,7 @@ TEST_F(FilesTest, APortraitThatIsOpenedBeginsWithTheStartUpStateWhereThatIsWante
     action("BackgroundReset")->setChecked(true);
     info_->pForegroundBitmapInfo->iBrightness = 31;
     window_->openBackground(other);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return backgroundLight() == 9; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return backgroundLight() == 9; }));
     EXPECT_EQ(portraitLight(), 31);
     EXPECT_EQ(info_->pBackgroundBitmapInfo->sSourceImageFullPath.load(), other.toStdString());
     ASSERT_TRUE(waitForPicture());
@@ -72,7 +71,7 @@ TEST_F(FilesTest, AResetWithoutItsStateOpensThePortraitAndSaysSo) {
     std::filesystem::remove(start_);
     const QString ben = drawn("ben.png");
     window_->openForeground(ben);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->messages()->message().isEmpty(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return !window_->messages()->message().isEmpty(); }));
     EXPECT_EQ(window_->messages()->message(), "The settings were not reset.");
     EXPECT_EQ(info_->pForegroundBitmapInfo->sSourceImageFullPath.load(), ben.toStdString());
     EXPECT_EQ(portraitLight(), 30);
@@ -82,11 +81,11 @@ TEST_F(FilesTest, AHostApplicationGetsItsOwnFileBack) {
     action("AutoState")->setChecked(true);
     const QString file = drawn("host.png");
     window_->openForHost(file);
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return info_->pForegroundBitmapInfo->sSourceImageFullPath.load() == file.toStdString(); }, 20000));
+    ASSERT_TRUE(test::eventually(
+        [&] { return info_->pForegroundBitmapInfo->sSourceImageFullPath.load() == file.toStdString(); }));
     ASSERT_TRUE(waitForPicture());
     EXPECT_EQ(action("Save")->text(), "Return To Lightroom");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return action("Save")->isEnabled(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return action("Save")->isEnabled(); }));
     const QImage shown = window_->view()->fullPicture();
     action("Save")->trigger();
     EXPECT_EQ(action("Save")->text(), "Save");
@@ -106,7 +105,7 @@ TEST_F(FilesTest, AHostsFileThatCannotBeWrittenStaysTheHosts) {
     const QString file = drawn("gone/host.png");
     window_->openForHost(file);
     ASSERT_TRUE(waitForPicture());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return action("Save")->isEnabled(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return action("Save")->isEnabled(); }));
     std::filesystem::rename(folder_.file("gone"), folder_.file("away"));
     action("Save")->trigger();
     ASSERT_TRUE(saved());
@@ -138,14 +137,14 @@ TEST_F(FilesTest, AResultOfABatchIsMendedFromItsStateAndReplacedWithItsMask) {
     info_->pForegroundBitmapInfo->iBrightness = 30;
     action("AutoState")->setChecked(true);
     window_->openForReview(QString::fromStdString(result));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return portraitLight() == 12; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return portraitLight() == 12; }));
     ASSERT_TRUE(waitForPicture());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return action("Save")->isEnabled(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return action("Save")->isEnabled(); }));
     EXPECT_EQ(action("Save")->text(), "Save to Batch");
     EXPECT_EQ(info_->oQLXInfo->sSavePath.load() + "/", folder_.file("out/"));
     window_->binder().run("Light", [](SettingEditor& e) { e.set("foreground.iBrightness", "13"); });
     ASSERT_TRUE(waitForPicture());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return action("Save")->isEnabled(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return action("Save")->isEnabled(); }));
     const PassGeometry small = info_->geometry(Resolution::preview);
     const std::uint8_t* preview = info_->pCombinedBitmapInfo->pBitmapDataLowRes;
     const std::vector<std::uint8_t> shown(preview, preview + std::size_t{4} * small.width * small.height);
@@ -200,33 +199,32 @@ TEST_F(FilesTest, AStateThatIsOpenedRightBeforeAnotherFileStepsBack) {
     };
     const QString first = state("a.qlx", portrait_, 21), second = state("b.qlx", portrait_, 22);
     const QString ben = drawn("ben.png"), slow = drawn("slow.png");
+    std::counting_semaphore<> reading(0), go(0);
+    info_->readSource = [&](const std::string& path) {
+        if (path == slow.toStdString()) {
+            reading.release();
+            go.acquire();
+        }
+        return readPicture(path);
+    };
     const auto whileTheLoopReads = [&](const std::function<void()>& open) {
-        std::promise<void> reading, go;
-        info_->readSource = [&, gate = go.get_future().share()](const std::string& path) {
-            if (path == slow.toStdString()) {
-                reading.set_value();
-                gate.wait();
-            }
-            return readPicture(path);
-        };
         window_->openForeground(slow);
-        EXPECT_EQ(reading.get_future().wait_for(std::chrono::seconds(20)), std::future_status::ready);
+        reading.acquire();
         open();
-        go.set_value();
-        EXPECT_TRUE(waitForPicture());
-        QTest::qWait(50);
+        go.release();
     };
     whileTheLoopReads([&] {
         window_->openState(first);
         window_->openForeground(ben);
     });
+    ASSERT_TRUE(waitForPicture());
     EXPECT_EQ(info_->pForegroundBitmapInfo->sSourceImageFullPath.load(), ben.toStdString());
     EXPECT_EQ(portraitLight(), 30);
     whileTheLoopReads([&] {
         window_->openState(first);
         window_->openState(second);
     });
-    EXPECT_EQ(portraitLight(), 22);
+    EXPECT_TRUE(test::eventually([&] { return portraitLight() == 22; }));
     EXPECT_FALSE(PictureFiles::recentFiles().contains(first)) << "nobody has seen it";
     EXPECT_TRUE(editor().steps().empty());
 }

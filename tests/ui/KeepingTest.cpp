@@ -57,9 +57,9 @@ class KeepingTest : public test::WindowTest {
         ASSERT_TRUE(program.waitForStarted());
     }
     /// A state with a setting of its own, to be opened by the program.
-    QString stateFile(const char* name, const std::string& foreground) {
+    QString stateFile(const char* name, const std::string& foreground, int brightness = 33) {
         SystemInfo state;
-        state.pForegroundBitmapInfo->iBrightness = 33;
+        state.pForegroundBitmapInfo->iBrightness = brightness;
         state.pForegroundBitmapInfo->sSourceImageFullPath = foreground;
         state.pBackgroundBitmapInfo->sSourceImageFullPath = background_;
         const std::string path = folder_.file(name);
@@ -67,18 +67,15 @@ class KeepingTest : public test::WindowTest {
         return QString::fromStdString(path);
     }
     bool waitForKept(const std::string& value) {
-        return QTest::qWaitFor(
-            [&] {
-                for (const auto& entry : std::filesystem::directory_iterator(Places::current().recoveryFolder())) {
-                    if (entry.path().extension() != ".recipe") continue;
-                    const auto recipe = readRecipeFile(entry.path().string());
-                    for (const auto& setting : recipe->settings)
-                        if (setting == std::pair<std::string, std::string>("foreground.iBrightness", value))
-                            return true;
-                }
-                return false;
-            },
-            20000);
+        return test::eventually([&] {
+            for (const auto& entry : std::filesystem::directory_iterator(Places::current().recoveryFolder())) {
+                if (entry.path().extension() != ".recipe") continue;
+                const auto recipe = readRecipeFile(entry.path().string());
+                for (const auto& setting : recipe->settings)
+                    if (setting == std::pair<std::string, std::string>("foreground.iBrightness", value)) return true;
+            }
+            return false;
+        });
     }
 
     const std::string other_ = test::savePng(test::discOnScreen(240, 300), folder_.file("ben.png"));
@@ -101,11 +98,10 @@ TEST_F(KeepingTest, AKilledProgramsWorkIsOfferedAndGoesOnlyWithTheAnswer) {
     ASSERT_EQ(keptRecipes(), 1u);
     window_->offerLeftRecipes();
     click<QToolButton>("TakeUp");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 33; }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return portrait().iBrightness == 33; }));
     EXPECT_EQ(portrait().sSourceImageFullPath.load(), portrait_);
     EXPECT_TRUE(window_->messages()->question().isEmpty());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return keptRecipes() == 0; }, 5000))
-        << "its place is taken by that of the window";
+    EXPECT_TRUE(test::eventually([&] { return keptRecipes() == 0; })) << "its place is taken by that of the window";
     window_.reset();
     ASSERT_EQ(keptRecipes(), 1u) << "what was taken up is kept in turn";
     open();
@@ -135,12 +131,12 @@ TEST_F(KeepingTest, ASecondStartHandsItsFilesToTheFirst) {
     QProcessEnvironment address;
     address.insert("DBUS_SESSION_BUS_ADDRESS", QString::fromUtf8(bus.readLine().trimmed()));
     QProcess first, second;
-    start(first, {QString::fromStdString(other_)}, address);
-    QTest::qWait(500);
-    start(second, {stateFile("odd name %41.qlx", portrait_)}, address);
-    EXPECT_TRUE(second.waitForFinished(20000));
+    start(first, {stateFile("ben.qlx", other_)}, address);
+    ASSERT_TRUE(waitForKept("33"));
+    start(second, {stateFile("odd name %41.qlx", portrait_, 44)}, address);
+    EXPECT_TRUE(second.waitForFinished(test::kPatienceMs));
     EXPECT_EQ(second.exitCode(), 0);
-    EXPECT_TRUE(waitForKept("33")) << "the first has opened the state";
+    EXPECT_TRUE(waitForKept("44")) << "the first has opened the state";
     EXPECT_EQ(first.state(), QProcess::Running);
     first.terminate();
     EXPECT_TRUE(first.waitForFinished());
@@ -162,7 +158,7 @@ TEST_F(KeepingTest, ClosingAsksOnceAndOnlyAboutUnsavedWork) {
     const QString saved = QString::fromStdString(folder_.file("anna.qlx"));
     window_->saveState(saved);
     brighten(40);  // behind the save
-    ASSERT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return window_->savesUnderWay() == 0; }));
     EXPECT_TRUE(editor().isUnsaved());
     editor().undo();
     EXPECT_FALSE(editor().isUnsaved()) << "that is what was saved";
@@ -181,7 +177,7 @@ TEST_F(KeepingTest, APortraitComesBackWithItsSettingsAndItsHistory) {
     EXPECT_TRUE(editor().steps().empty());
     brighten(-7);
     window_->openForeground(QString::fromStdString(portrait_));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return editor().steps().size() == 2u; }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return editor().steps().size() == 2u; }));
     EXPECT_EQ(portrait().iBrightness, 40);
     EXPECT_EQ(portrait().sSourceImageFullPath.load(), portrait_);
     window_->commands().action("UndoButton")->trigger();
@@ -192,8 +188,7 @@ TEST_F(KeepingTest, APortraitComesBackWithItsSettingsAndItsHistory) {
     portrait().iBrightness = 0;
     open();
     window_->openForeground(QString::fromStdString(portrait_));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return editor().steps().size() == 2u; }, 5000))
-        << "the program ended in between";
+    ASSERT_TRUE(test::eventually([&] { return editor().steps().size() == 2u; })) << "the program ended in between";
     EXPECT_EQ(portrait().iBrightness, 20);
     window_->commands().action("RedoButton")->trigger();
     EXPECT_EQ(portrait().iBrightness, 40);
@@ -202,7 +197,7 @@ TEST_F(KeepingTest, APortraitComesBackWithItsSettingsAndItsHistory) {
     window_->openForeground(QString::fromStdString(other_));
     window_->openForeground(QString::fromStdString(portrait_));
     window_->openForeground(QString::fromStdString(other_));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return editor().steps().size() == 1u; }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return editor().steps().size() == 1u; }));
     ASSERT_TRUE(waitForPicture());
     EXPECT_EQ(portrait().iBrightness, -7);
     EXPECT_EQ(portrait().sSourceImageFullPath.load(), other_);
@@ -213,24 +208,24 @@ TEST_F(KeepingTest, WhatAStateBroughtToAPortraitComesBackToo) {
     brighten(20);
     window_->openForeground(QString::fromStdString(other_));
     window_->openForeground(QString::fromStdString(portrait_));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 20; }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return portrait().iBrightness == 20; }));
     window_->openState(stateFile("anna.qlx", portrait_));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 33; }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return portrait().iBrightness == 33; }));
     ASSERT_TRUE(waitForPicture());
     QTest::qWait(50);
     window_->openForeground(QString::fromStdString(other_));
     brighten(1);
     window_->openForeground(QString::fromStdString(portrait_));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 33; }, 5000));
+    EXPECT_TRUE(test::eventually([&] { return portrait().iBrightness == 33; }));
 
     // A background that is chosen before the loop has given the portrait its recipe holds.
     window_->openForeground(QString::fromStdString(other_));
+    ASSERT_TRUE(test::eventually([&] { return portrait().iBrightness == 1; }));
     window_->openForeground(QString::fromStdString(portrait_));
     window_->openBackground(QString::fromStdString(other_));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return portrait().iBrightness == 33; }, 5000));
-    ASSERT_TRUE(waitForPicture());
-    QTest::qWait(50);
-    EXPECT_EQ(info_->pBackgroundBitmapInfo->sSourceImageFullPath.load(), other_);
+    ASSERT_TRUE(test::eventually([&] { return portrait().iBrightness == 33; }));
+    EXPECT_TRUE(
+        test::eventually([&] { return info_->pBackgroundBitmapInfo->sSourceImageFullPath.load() == other_; }));
 }
 
 }  // namespace

@@ -75,19 +75,19 @@ TEST_F(LookTest, ALookOnOtherPortraitsIsThereWhenTheyAreOpenedAndOneUndoTakesItB
     const auto paste = [&] {
         window_->looks().pasteOn({QString::fromStdString(other_)});
         accept();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return editor().steps().size() == 2u; }, 5000));
+        ASSERT_TRUE(test::eventually([&] { return editor().steps().size() == 2u; }));
     };
     paste();
     EXPECT_TRUE(loadRecipe(other_));
     trigger("UndoButton");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !loadRecipe(other_); }, 5000));
+    EXPECT_TRUE(test::eventually([&] { return !loadRecipe(other_); }));
     EXPECT_EQ(portrait().iBrightness, 30) << "this portrait was not among them";
 
     trigger("RedoButton");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return loadRecipe(other_).has_value(); }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return loadRecipe(other_).has_value(); }));
     set("foreground.iBrightness", "-20");
     window_->openForeground(QString::fromStdString(other_));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !editor().steps().empty(); }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return !editor().steps().empty(); }));
     EXPECT_EQ(portrait().iBrightness, 30);
     trigger("UndoButton");
     EXPECT_EQ(portrait().iBrightness, -20) << "it is a step there";
@@ -101,14 +101,14 @@ TEST_F(LookTest, TitlesGoAlongOnOtherPortraitsWhenTheyAreTicked) {
     window_->looks().pasteOn({QString::fromStdString(other_)});
     tick("Text", true);
     accept();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return loadRecipe(other_).has_value(); }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return loadRecipe(other_).has_value(); }));
     info_->oFontObject.clear();
     window_->openForeground(QString::fromStdString(other_));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 1; }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return info_->iFontObjectCount() == 1; }));
     EXPECT_EQ(info_->oFontObject[0].sText.load(), "Class of 26");
     ASSERT_TRUE(waitForPicture());
     trigger("UndoButton");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return info_->iFontObjectCount() == 0; }, 5000));
+    EXPECT_TRUE(test::eventually([&] { return info_->iFontObjectCount() == 0; }));
 }
 
 TEST_F(LookTest, ALongPasteShowsHowFarItIsAndStopsWithWhatItHasDone) {
@@ -121,20 +121,19 @@ TEST_F(LookTest, ALongPasteShowsHowFarItIsAndStopsWithWhatItHasDone) {
     window_->looks().pasteOn(portraits);
     accept();
     auto* stop = window_->findChild<QToolButton*>("stopWork");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return stop->isVisible(); }, 5000));
+    ASSERT_TRUE(test::eventually([&] { return stop->isVisible(); }));
     QTest::mouseClick(stop, Qt::LeftButton);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return editor().steps().size() == 2u; }, 1000));
+    ASSERT_TRUE(test::eventually([&] { return editor().steps().size() == 2u; }));
     EXPECT_FALSE(stop->isVisible());
     EXPECT_TRUE(loadRecipe(portraits.first().toStdString()));
     EXPECT_FALSE(loadRecipe(portraits.last().toStdString()));
     trigger("UndoButton");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !loadRecipe(portraits.first().toStdString()); }, 5000));
+    EXPECT_TRUE(test::eventually([&] { return !loadRecipe(portraits.first().toStdString()); }));
 }
 
 TEST_F(LookTest, LooksByNameAreSavedTakenAndDeletedToUndo) {
     set("foreground.iBrightness", "30");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return action("Save")->isEnabled(); }, 20000))
-        << "its picture is a finished one";
+    ASSERT_TRUE(test::eventually([&] { return action("Save")->isEnabled(); })) << "its picture is a finished one";
     ASSERT_TRUE(window_->looks().save("School"));
     EXPECT_FALSE(window_->looks().save("a/b"));
     EXPECT_FALSE(window_->messages()->details().isEmpty());

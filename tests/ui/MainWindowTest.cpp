@@ -16,6 +16,7 @@
 #include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
+#include "ui/Eventually.h"
 #include "ui/frame/MainWindow.h"
 
 namespace tavrin {
@@ -32,8 +33,8 @@ class MainWindowTest : public testing::Test {
         window_->show();
     }
     bool waitForPicture() {
-        const bool idle = QTest::qWaitFor(
-            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
+        const bool idle = test::eventually(
+            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; });
         QCoreApplication::processEvents();  // the last rows were sent before the loop fell idle, and may still wait
         return idle && window_->view()->isFull();
     }
@@ -47,7 +48,7 @@ class MainWindowTest : public testing::Test {
     /// Has something saved and waits until the window has told how it ended.
     /// @return whether it was saved
     bool waitForSave(const QString& path) {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return window_->savesUnderWay() == 0; }, 20000));
+        EXPECT_TRUE(test::eventually([&] { return window_->savesUnderWay() == 0; }));
         return window_->messages()->message() == "Saved " + path;
     }
     bool savePicture(const std::string& path) {
@@ -174,7 +175,7 @@ TEST_F(MainWindowTest, AWindowThatIsClosedWaitsForItsSavesAndStaysWhenOneFails) 
     window_->saveTo(QString::fromStdString(folder_.file("a.png")));
     window_->saveState(QString::fromStdString(folder_.file("a.qlx")));
     EXPECT_FALSE(window_->close());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window_->isVisible(); }, 20000));
+    EXPECT_TRUE(test::eventually([&] { return !window_->isVisible(); }));
     EXPECT_FALSE(QImage(QString::fromStdString(folder_.file("a.png"))).isNull());
     EXPECT_TRUE(std::filesystem::exists(folder_.file("a.qlx")));
 

@@ -65,7 +65,7 @@ TEST_F(PictureToolsTest, TheSplitShowsThePortraitOnItsLeftAndStaysAtItsPlaceOfTh
     const QColor screen = test::discOnScreen(240, 300).pixelColor(5, 150);
     action("ShowSplit")->setChecked(true);
     SplitLine* line = view_->splitLine();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return shownAt(viewAt(20, 290)) == screen; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return shownAt(viewAt(20, 290)) == screen; }));
     EXPECT_NE(shownAt(viewAt(220, 290)), screen);
     const int half = line->geometry().center().x();
     const QPoint from = line->geometry().center();
@@ -124,14 +124,14 @@ TEST_F(PictureToolsTest, TheReadOutTellsThePixelUnderThePointer) {
         QTest::mouseMove(view_, at);
         EXPECT_LE((pixel - view_->zoom().pixelAt(at)).manhattanLength(), view_->devicePixelRatioF() == 1.0 ? 0 : 4)
             << "between points of the screen";
-        EXPECT_TRUE(QTest::qWaitFor([&] { return readOut().startsWith(tells(pixel)); }, 20000))
+        EXPECT_TRUE(test::eventually([&] { return readOut().startsWith(tells(pixel)); }))
             << readOut().toStdString() << " for " << tells(pixel).toStdString();
     }
     const QString before = readOut();
     info_->pBackgroundBitmapInfo->iBrightness = 60;
     info_->iSliderClipTop = 90;
     info_->StartUpdate();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return readOut() != before && readOut().startsWith(tells(pixel)); }, 20000))
+    EXPECT_TRUE(test::eventually([&] { return readOut() != before && readOut().startsWith(tells(pixel)); }))
         << "it follows the picture: " << readOut().toStdString();
     QTest::mouseMove(view_, {2, 2});
     EXPECT_EQ(readOut(), "");
@@ -144,7 +144,7 @@ TEST_F(PictureToolsTest, AClickAsksForTheStoryOfAPixelAndMovesNothing) {
     QPoint pixel;
     QObject::connect(view_, &PictureView::asked, [&](const QPoint& at) { pixel = at; });
     QTest::mouseClick(view_, Qt::LeftButton, {}, clicked);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return panel->isVisible(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return panel->isVisible(); }));
     const PixelStory story = PixelProbe(*info_).tell(pixel.x(), pixel.y());
     QStringList shown, wanted;
     for (const QLabel* label : panel->findChildren<QLabel*>())
@@ -178,13 +178,11 @@ TEST_F(PictureToolsTest, APictureAtAHundredPercentIsShownPixelByPixelAtEveryScal
                 wrong += shown.pixelColor(x, y) != full.pixelColor(QPoint(x, y) - origin) ? 1 : 0;
         return wrong;
     };
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-            view_->zoomToPixels();  // again, should the window have fitted a new size meanwhile
-            return pixelsDiffer() == 0;
-        },
-        5000))
-        << "scale " << ratio;
+    EXPECT_TRUE(test::eventually([&] {
+        view_->zoomToPixels();  // again, should the window have fitted a new size meanwhile
+        return pixelsDiffer() == 0;
+    })) << "scale "
+        << ratio;
     QTest::mousePress(view_, Qt::MiddleButton, {}, {300, 300});
     QTest::mouseMove(view_, {283, 311});
     QTest::mouseRelease(view_, Qt::MiddleButton, {}, {283, 311});
@@ -271,7 +269,7 @@ TEST_F(PictureToolsTest, ItemsAreSelectedOnlyWhenTheyAreTheTargetAndTheFrameGoes
     EXPECT_NEAR(box.right(), viewAt(92 + 60, 0).x(), 4) << "each step is cut to whole points";
     EXPECT_FALSE(window_->panel()->textScaleView()->isHidden());
     const int asked = info_->iNewThreadCount;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !items.bShowTextCursor(); }, 6000));
+    EXPECT_TRUE(test::eventually([&] { return !items.bShowTextCursor(); }));
     EXPECT_EQ(info_->iNewThreadCount, asked + 1) << "a new picture goes with it";
 }
 
@@ -310,11 +308,11 @@ TEST_F(PictureToolsTest, TheIconsOfAnItemEditItAndDeleteItAfterAQuestion) {
     const auto box = [&] { return view_->selection()->inView(view_->zoom().frame()); };
     const auto answer = [&](const char* word) {
         QMessageBox* question = nullptr;
-        EXPECT_TRUE(QTest::qWaitFor([&] { return (question = view_->findChild<QMessageBox*>()) != nullptr; }, 5000));
+        EXPECT_TRUE(test::eventually([&] { return (question = view_->findChild<QMessageBox*>()) != nullptr; }));
         EXPECT_EQ(question->text(), "Are you shure you want to delete the text?");
         for (QAbstractButton* button : question->buttons())
             if (button->text() == word) button->click();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return view_->findChild<QMessageBox*>() == nullptr; }, 5000));
+        EXPECT_TRUE(test::eventually([&] { return view_->findChild<QMessageBox*>() == nullptr; }));
     };
     select();
     QTest::mouseClick(view_, Qt::LeftButton, {}, box().topRight().toPoint());

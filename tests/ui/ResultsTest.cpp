@@ -28,7 +28,7 @@ class ResultsTest : public test::WindowTest {
         info_->pForegroundBitmapInfo->sSourceImageFullPath = portrait(0);
         info_->pBackgroundBitmapInfo->sSourceImageFullPath = background(0);
         open();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return portraits().rowCount() == 3 && backgrounds().rowCount() == 3; }));
+        ASSERT_TRUE(test::eventually([&] { return portraits().rowCount() == 3 && backgrounds().rowCount() == 3; }));
         window_->view()->setFocus();
     }
     void TearDown() override {
@@ -50,17 +50,15 @@ class ResultsTest : public test::WindowTest {
 };
 
 TEST_F(ResultsTest, TheStripShowsWhatTheKeyMakesOfEachPortraitAndFollowsTheSettings) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return isGreen(cornerOf(portraits(), 2)); }, 10000));
+    ASSERT_TRUE(test::eventually([&] { return isGreen(cornerOf(portraits(), 2)); }));
     QTest::keyClick(window_->view(), Qt::Key_R);
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] {
-            return !isGreen(cornerOf(portraits(), 0)) && !isGreen(cornerOf(portraits(), 1)) &&
-                   !isGreen(cornerOf(portraits(), 2));
-        },
-        20000));
+    ASSERT_TRUE(test::eventually([&] {
+        return !isGreen(cornerOf(portraits(), 0)) && !isGreen(cornerOf(portraits(), 1)) &&
+               !isGreen(cornerOf(portraits(), 2));
+    }));
     const int before = cornerOf(portraits(), 2).blue();
     window_->openBackground(QString::fromStdString(background(2)));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return cornerOf(portraits(), 2).blue() > before + 60; }, 20000));
+    EXPECT_TRUE(test::eventually([&] { return cornerOf(portraits(), 2).blue() > before + 60; }));
     QTest::keyClick(window_->view(), Qt::Key_R);
     EXPECT_TRUE(isGreen(cornerOf(portraits(), 2)));
 }
@@ -74,7 +72,7 @@ TEST_F(ResultsTest, AGridHasThePortraitOverEveryBackgroundAndAClickLaysOneBehind
             if (std::abs(cornerOf(grid->list(), row).blue() - (60 + 60 * row)) > 3) return false;
         return true;
     };
-    ASSERT_TRUE(QTest::qWaitFor(isMade, 20000));
+    ASSERT_TRUE(test::eventually(isMade));
     auto* view = grid->findChild<QListView*>("backgroundGridView");
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
                       view->visualRect(grid->list().index(2, 0)).center());
@@ -83,13 +81,13 @@ TEST_F(ResultsTest, AGridHasThePortraitOverEveryBackgroundAndAClickLaysOneBehind
     EXPECT_TRUE(grid->list().index(2).data(PictureList::PresentRole).toBool());
     // Another portrait is laid over all of them anew.
     window_->strip()->walk(1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !grid->list().wantedResults(0, 2).empty(); }, 10000));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return grid->list().wantedResults(0, 2).empty(); }, 20000));
+    EXPECT_TRUE(test::eventually([&] { return !grid->list().wantedResults(0, 2).empty(); }));
+    EXPECT_TRUE(test::eventually([&] { return grid->list().wantedResults(0, 2).empty(); }));
 }
 
 TEST_F(ResultsTest, TheNextPortraitIsShownAtOnceWithItsOwnPreview) {
     Results& results = window_->strip()->results();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return results.previewOf(portrait(1)).has_value(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return results.previewOf(portrait(1)).has_value(); }));
     const QImage ready = *results.previewOf(portrait(1));
     QTest::keyClick(window_->view(), Qt::Key_PageDown);
     EXPECT_FALSE(window_->view()->isFull());  // it is the preview, with no event in between
@@ -99,7 +97,7 @@ TEST_F(ResultsTest, TheNextPortraitIsShownAtOnceWithItsOwnPreview) {
                         QImage::Format_RGBA8888);
     EXPECT_TRUE(ready == byLoop);
     // What was made with other settings is not shown.
-    ASSERT_TRUE(QTest::qWaitFor([&] { return results.previewOf(portrait(2)).has_value(); }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return results.previewOf(portrait(2)).has_value(); }));
     editor().set("foreground.iBrightness", "30");
     EXPECT_FALSE(results.previewOf(portrait(2)).has_value());
 }

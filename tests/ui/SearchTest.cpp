@@ -28,7 +28,7 @@ class SearchTest : public test::WindowTest {
     /// Types into the search of actions and takes what stands first, or what so many keys lead to.
     void findAndTake(const QString& words, int down = 0) {
         window_->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        ASSERT_TRUE(test::becomesActive(window_.get()));
         QTest::keyClick(window_->view(), Qt::Key_K, Qt::ControlModifier);
         auto* field = window_->findChild<QLineEdit*>("searchActions");
         ASSERT_TRUE(field);
@@ -77,7 +77,7 @@ TEST_F(SearchTest, OneFieldFindsCommandsAndControlsInAnyOrderAndWithSlips) {
         group->setFolded(true);
     findAndTake("clip left");
     window_->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    ASSERT_TRUE(test::becomesActive(window_.get()));
     EXPECT_EQ(focus(), "tavrin::Groove sliderClipLeft") << "a control is shown";
     EXPECT_TRUE(QApplication::focusWidget()->isVisible());
 }
@@ -99,22 +99,19 @@ TEST_F(SearchTest, TheSearchOfControlsFindsCommandsToo) {
 }
 
 TEST_F(SearchTest, ChipsTellWhatIsSetAndPutItBackAsOneStep) {
+    const auto chip = [&] { return window_->findChild<QToolButton*>("sliderBrightnessChip"); };
     window_->panel()->resetAll();
-    QTest::qWait(60);
+    ASSERT_TRUE(test::eventually([&] { return !chip(); }));
     const std::size_t steps = editor().steps().size();
-    EXPECT_FALSE(window_->findChild<QToolButton*>("sliderBrightnessChip"));
     set("Light", "foreground.iBrightness", "30");
-    QTest::qWait(60);
-    auto* chip = window_->findChild<QToolButton*>("sliderBrightnessChip");
-    ASSERT_TRUE(chip);
-    EXPECT_EQ(chip->text(), "Brightness: 30");
-    QTest::mouseClick(chip, Qt::LeftButton);
+    ASSERT_TRUE(test::eventually(chip));
+    EXPECT_EQ(chip()->text(), "Brightness: 30");
+    QTest::mouseClick(chip(), Qt::LeftButton);
     EXPECT_EQ(focus(), "tavrin::Groove sliderBrightness");
     QTest::mouseClick(window_->findChild<QToolButton*>("sliderBrightnessChipReset"), Qt::LeftButton);
-    QTest::qWait(60);
+    EXPECT_TRUE(test::eventually([&] { return !chip(); }));
     EXPECT_EQ(brightness(), 0);
     EXPECT_EQ(editor().steps().size(), steps + 2);
-    EXPECT_FALSE(window_->findChild<QToolButton*>("sliderBrightnessChip"));
 }
 
 TEST_F(SearchTest, ChipsNameWhatIsOtherThanAtTheStart) {
@@ -124,12 +121,10 @@ TEST_F(SearchTest, ChipsNameWhatIsOtherThanAtTheStart) {
     const auto chip = [&] { return window_->findChild<QToolButton*>("sliderWhiteAdjustChip"); };
     EXPECT_FALSE(chip()) << "every portrait begins with it";
     set("White", "combined.sliderWhiteAdjust", "40");
-    QTest::qWait(60);
-    ASSERT_TRUE(chip()) << "its default is something else here";
+    ASSERT_TRUE(test::eventually(chip)) << "its default is something else here";
     QTest::mouseClick(window_->findChild<QToolButton*>("sliderWhiteAdjustChipReset"), Qt::LeftButton);
-    QTest::qWait(60);
+    EXPECT_TRUE(test::eventually([&] { return !chip(); }));
     EXPECT_EQ(info_->pCombinedBitmapInfo->sliderWhiteAdjust, 70);
-    EXPECT_FALSE(chip());
 }
 
 TEST_F(SearchTest, ResetAllIsOneStepForBothLayers) {

@@ -31,7 +31,7 @@ class SizesTest : public test::WindowTest {
     void press(const char* name) { part<QAbstractButton>(name)->click(); }
     void type(const char* name, const QString& text) {
         auto* field = part<QLineEdit>(name);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(field->window()));
+        ASSERT_TRUE(test::becomesActive(field->window()));
         field->setFocus();
         field->selectAll();
         QTest::keyClicks(field, text);
@@ -43,7 +43,7 @@ class SizesTest : public test::WindowTest {
     }
     template <class Condition>
     bool soon(const Condition& condition) {
-        return QTest::qWaitFor(condition, 20000);
+        return test::eventually(condition);
     }
     QString inBox(int i) { return window_->sizeBox()->itemText(i); }
 };
@@ -90,10 +90,10 @@ TEST_F(SizesTest, ALengthThatIsNoNumberGoesBackWhenTheTabKeyLeavesIt) {
     press("buttonAddImageSizes");
     auto* field = part<QLineEdit>("textImageSizeWidth");
     field->window()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(field->window()));
+    ASSERT_TRUE(test::becomesActive(field->window()));
     for (const char* typed : {"wide", ""}) {
         field->setFocus();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return field->hasFocus(); }, 5000));
+        ASSERT_TRUE(test::eventually([&] { return field->hasFocus(); }));
         field->selectAll();
         QTest::keyClick(field, Qt::Key_Delete);
         QTest::keyClicks(field, typed);

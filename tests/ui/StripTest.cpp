@@ -42,7 +42,7 @@ class StripTest : public test::WindowTest {
     }
     void openListed() {
         open();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return list().rowCount() == 5; }, 10000));
+        ASSERT_TRUE(test::eventually([&] { return list().rowCount() == 5; }));
         window_->view()->setFocus();
     }
     std::string portrait(int i) const { return folder_.file("portraits/p" + std::to_string(i) + ".png"); }
@@ -87,7 +87,7 @@ class StripTest : public test::WindowTest {
 TEST_F(StripTest, ShowsTheFolderOfThePortraitAndWalksThroughIt) {
     StripView* view = strip().portraits()->view();
     EXPECT_TRUE(
-        QTest::qWaitFor([&] { return !list().index(4).data(Qt::DecorationRole).value<QPixmap>().isNull(); }, 10000));
+        test::eventually([&] { return !list().index(4).data(Qt::DecorationRole).value<QPixmap>().isNull(); }));
     EXPECT_EQ(spoken(1), "p2.png, open now");
     EXPECT_EQ(QAccessible::queryAccessibleInterface(view)->child(1)->text(QAccessible::Name), "p2.png, open now");
     click(view, 3);
@@ -124,19 +124,18 @@ TEST_F(StripTest, ShowsTheFolderOfThePortraitAndWalksThroughIt) {
 
 TEST_F(StripTest, FollowsItsFolder) {
     test::savePng(test::discOnScreen(12, 15), folder_.file("portraits/p0.png"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list().rowCount() == 6; }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return list().rowCount() == 6; }));
     EXPECT_EQ(spoken(2), "p2.png, open now");
     fs::remove(portrait(5));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list().rowCount() == 5; }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return list().rowCount() == 5; }));
     fs::rename(folder_.file("portraits"), folder_.file("moved"));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return window_->messages()->message() == "The folder cannot be read."; }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return window_->messages()->message() == "The folder cannot be read."; }));
     EXPECT_EQ(list().rowCount(), 5) << "it may come back";
 }
 
 TEST_F(StripTest, ABackgroundIsLaidBehindByAClickAndItsFolderCanBeAnother) {
     PictureList& backgrounds = strip().backgrounds()->list();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return backgrounds.rowCount() == 5; }, 10000));
+    ASSERT_TRUE(test::eventually([&] { return backgrounds.rowCount() == 5; }));
     click(strip().backgrounds()->view(), 2);
     EXPECT_EQ(presentBackground(), "b3");
     EXPECT_EQ(present(), "p2");
@@ -147,7 +146,7 @@ TEST_F(StripTest, ABackgroundIsLaidBehindByAClickAndItsFolderCanBeAnother) {
     test::savePng(test::noisePicture(12, 15, 8), folder_.file("more/m.png"));
     drop({QString::fromStdString(folder_.file("more"))}, false);
     EXPECT_EQ(info_->oQLXInfo->sPickDirectory.load(), folder_.file("more"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return backgrounds.rowCount() == 1; }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return backgrounds.rowCount() == 1; }));
     EXPECT_EQ(presentBackground(), "b4") << "nothing is opened by it";
     window_->openBackground(QString::fromStdString(background(1)));
     QTest::qWait(700);
@@ -159,7 +158,7 @@ TEST_F(StripTest, AFolderOrManyPicturesFillItAndTheFirstIsOpened) {
     for (const char* name : {"class/z.png", "class/k.png", "class/m.png"})
         test::savePng(test::discOnScreen(120, 150), folder_.file(name));
     drop({QString::fromStdString(folder_.file("class"))}, true);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return present() == "k"; }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return present() == "k"; }));
     EXPECT_EQ(shown(), (std::vector<std::string>{"k", "m", "z"}));
     drop({QString::fromStdString(portrait(4)), QString::fromStdString(folder_.file("class/m.png")),
           QString::fromStdString(portrait(1))},
@@ -170,11 +169,11 @@ TEST_F(StripTest, AFolderOrManyPicturesFillItAndTheFirstIsOpened) {
     EXPECT_EQ(present(), "m");
     EXPECT_EQ(list().rowCount(), 3) << "and it stays";
     window_->openFile(QString::fromStdString(folder_.file("class")));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return present() == "k"; }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return present() == "k"; }));
     fs::create_directories(folder_.file("empty"));
     window_->openFile(QString::fromStdString(folder_.file("empty")));
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return window_->messages()->message() == "There is no picture in the folder."; }, 10000));
+    EXPECT_TRUE(
+        test::eventually([&] { return window_->messages()->message() == "There is no picture in the folder."; }));
     EXPECT_EQ(present(), "k");
 }
 
@@ -239,13 +238,13 @@ TEST_F(StripTest, IsFoldedAwayByItsKeyAndStaysSo) {
 TEST_F(StripTest, APortraitThatCannotBeReadIsShownAsSuchAndTheOldPictureStays) {
     const QImage before = window_->view()->fullPicture();
     test::writeFile(portrait(3), "no picture");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return spoken(2) == "p3.png, cannot be read"; }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return spoken(2) == "p3.png, cannot be read"; }));
     press(window_->view(), Qt::Key_Right);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window_->findChildren<QMessageBox*>().isEmpty(); }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return !window_->findChildren<QMessageBox*>().isEmpty(); }));
     delete window_->findChild<QMessageBox*>();
     QCoreApplication::processEvents();  // the keys are the window's again
     window_->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    ASSERT_TRUE(test::becomesActive(window_.get()));
     window_->view()->setFocus();
     ASSERT_TRUE(waitForPicture());
     EXPECT_EQ(window_->view()->fullPicture(), before);
@@ -255,9 +254,9 @@ TEST_F(StripTest, APortraitThatCannotBeReadIsShownAsSuchAndTheOldPictureStays) {
 
 TEST_F(StripTest, ThePortraitsBesideTheOpenOneAreReadAhead) {
     const auto ahead = [&](int i) { return strip().isReadAhead(QString::fromStdString(portrait(i))); };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ahead(1) && ahead(2) && ahead(3); }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return ahead(1) && ahead(2) && ahead(3); }));
     press(window_->view(), Qt::Key_Right);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ahead(4); }, 10000));
+    EXPECT_TRUE(test::eventually([&] { return ahead(4); }));
     EXPECT_FALSE(ahead(1)) << "only what lies beside it";
     EXPECT_TRUE(ahead(2));
     ASSERT_TRUE(waitForPicture());
@@ -270,7 +269,7 @@ TEST_F(StripTest, AFolderOfTenThousandIsScrolledThroughWithFewPicturesInMemory) 
     for (int i = 0; i < 10000; ++i)
         fs::create_hard_link(portrait(1), many + "/n" + std::to_string(10000 + i) + ".png");
     window_->openFolder(QString::fromStdString(many));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return list().rowCount() == 10000; }, 20000));
+    ASSERT_TRUE(test::eventually([&] { return list().rowCount() == 10000; }));
     StripView* view = strip().portraits()->view();
     const auto hasSmall = [&](int row) {
         return !list().index(row).data(Qt::DecorationRole).value<QPixmap>().isNull();
@@ -279,7 +278,7 @@ TEST_F(StripTest, AFolderOfTenThousandIsScrolledThroughWithFewPicturesInMemory) 
         view->horizontalScrollBar()->setValue(view->horizontalScrollBar()->maximum() / 10 * part);
         const auto [first, last] = view->visibleRows();
         EXPECT_EQ(view->indexAt({1, 10}).row(), first);
-        EXPECT_TRUE(QTest::qWaitFor([&, row = last] { return hasSmall(row); }, 10000)) << part;
+        EXPECT_TRUE(test::eventually([&, row = last] { return hasSmall(row); })) << part;
     }
     int held = 0;
     for (int row = 0; row < 10000; ++row)

@@ -11,6 +11,7 @@
 #include "session/OutputSizes.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
+#include "ui/Eventually.h"
 #include "ui/frame/MainWindow.h"
 
 namespace tavrin::test {
@@ -35,13 +36,13 @@ class WindowTest : public testing::Test {
         window_ = std::make_unique<MainWindow>(*info_);
         window_->resize(size);
         window_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        ASSERT_TRUE(becomesActive(window_.get()));
         ASSERT_TRUE(waitForPicture());
     }
     /// The finished picture is shown.
     bool waitForPicture() {
-        const bool came = QTest::qWaitFor(
-            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; }, 20000);
+        const bool came = eventually(
+            [&] { return window_->view()->isFull() && info_->iCurrentThreadCount > info_->iNewThreadCount; });
         // The rows of the key may have been shown while what follows it was made: its rows are on their way.
         QCoreApplication::sendPostedEvents();
         return came;
