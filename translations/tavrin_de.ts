@@ -4190,6 +4190,22 @@
         <source>Stop and &amp;Close</source>
         <translation>Anhalten und s&amp;chließen</translation>
     </message>
+    <message>
+        <source>Saving was stopped, and nothing under the name %1 was changed.</source>
+        <translation>Das Speichern wurde angehalten; unter dem Namen %1 hat sich nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Ends this work; what is done stays, and can be taken back</source>
+        <translation>Beendet diese Arbeit; was fertig ist, bleibt und lässt sich zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Ends the saving; what was there before under the name stays</source>
+        <translation>Hält das Speichern an; was unter dem Namen da war, bleibt</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>%1 wird gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4579,6 +4595,14 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>the folder is being read...</source>
         <translation>der Ordner wird gelesen...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Gives up reading this folder; the pictures that are shown stay</source>
+        <translation>Liest diesen Ordner nicht weiter; die gezeigten Bilder bleiben</translation>
     </message>
 </context>
 <context>
@@ -5158,10 +5182,6 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Stop</source>
         <translation>Anhalten</translation>
-    </message>
-    <message>
-        <source>Ends this work; what is done stays, and can be taken back</source>
-        <translation>Beendet diese Arbeit; was fertig ist, bleibt und lässt sich zurücknehmen</translation>
     </message>
     <message>
         <source>Stopping...</source>

@@ -4190,6 +4190,22 @@
         <source>Stop and &amp;Close</source>
         <translation>Parar y &amp;cerrar</translation>
     </message>
+    <message>
+        <source>Saving was stopped, and nothing under the name %1 was changed.</source>
+        <translation>Se detuvo el guardado y nada cambió con el nombre %1.</translation>
+    </message>
+    <message>
+        <source>Ends this work; what is done stays, and can be taken back</source>
+        <translation>Termina este trabajo; lo hecho queda y se puede deshacer</translation>
+    </message>
+    <message>
+        <source>Ends the saving; what was there before under the name stays</source>
+        <translation>Detiene el guardado; lo que había con ese nombre se queda</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>Guardando %1</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4579,6 +4595,14 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>the folder is being read...</source>
         <translation>se está leyendo la carpeta...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Gives up reading this folder; the pictures that are shown stay</source>
+        <translation>Deja de leer esta carpeta; las imágenes mostradas se quedan</translation>
     </message>
 </context>
 <context>
@@ -5158,10 +5182,6 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>Stop</source>
         <translation>Parar</translation>
-    </message>
-    <message>
-        <source>Ends this work; what is done stays, and can be taken back</source>
-        <translation>Termina este trabajo; lo hecho se queda y se puede deshacer</translation>
     </message>
     <message>
         <source>Stopping...</source>

@@ -16,9 +16,9 @@ namespace {
 using namespace std::chrono_literals;
 constexpr auto kRest = 500ms;
 
-FolderPictures listPictures(const std::string& folder) {
+FolderPictures listPictures(const std::string& folder, const std::atomic<bool>& unwanted) {
     FolderPictures pictures{folder, {}, {}};
-    std::vector<std::string> names = namesInFolder(folder, pictureExtensions(), &pictures.problem);
+    std::vector<std::string> names = namesInFolder(folder, pictureExtensions(), &pictures.problem, &unwanted);
     std::erase_if(names, [](const std::string& name) { return name.starts_with('.'); });
     sortAsPeopleDo(names);
     pictures.paths.reserve(names.size());
@@ -40,13 +40,14 @@ FolderFollower::FolderFollower(Told told)
     : told_(std::move(told)), thread_([this](const std::stop_token& ended) { work(ended); }) {}
 
 FolderFollower::~FolderFollower() {
+    isUnwanted_ = true;
     thread_.request_stop();
     thread_.join();
 }
 
 void FolderFollower::follow(const std::string& folder) {
     std::lock_guard lock(mutex_);
-    isNew_ = isNew_ || folder != folder_;
+    if (folder != folder_) isNew_ = isUnwanted_ = true;
     folder_ = folder;
     changed_.notify_all();
 }
@@ -61,12 +62,16 @@ void FolderFollower::work(const std::stop_token& ended) {
         changed_.wait_for(lock, ended, folder_.empty() ? 24h : kRest, [this] { return isNew_; });
         const bool isNew = std::exchange(isNew_, false);
         const std::string folder = folder_;
+        isUnwanted_ = false;
         if (ended.stop_requested() || folder.empty()) continue;
         lock.unlock();
         if (isNew) watch->watch({folder});
         const FolderNews news = watch->wait(0ms);
         const auto now = timeOf(folder);
-        if (isNew || news.lost || !news.closed.empty() || now != listed) told_(listPictures(folder));
+        if (isNew || news.lost || !news.closed.empty() || now != listed) {
+            FolderPictures pictures = listPictures(folder, isUnwanted_);
+            if (!isUnwanted_) told_(std::move(pictures));
+        }
         listed = now;
         lock.lock();
     }

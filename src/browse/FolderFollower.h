@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <condition_variable>
 #include <functional>
 #include <mutex>
@@ -27,7 +28,7 @@ class FolderFollower {
     FolderFollower(const FolderFollower&) = delete;
     FolderFollower& operator=(const FolderFollower&) = delete;
 
-    /// Follows this folder from now on, and no other; "" for none.
+    /// Follows this folder from now on, and no other; "" for none. What was being listed is not read to its end.
     void follow(const std::string& folder);
 
   private:
@@ -38,6 +39,7 @@ class FolderFollower {
     std::condition_variable_any changed_;
     std::string folder_;
     bool isNew_ = false;
+    std::atomic<bool> isUnwanted_ = false;  ///< what is being listed
     std::jthread thread_;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,8 @@ struct FolderListing {
     std::string problem;             ///< one plain line with the folder's name, when that was not to its end
 };
 
-FolderListing listFolder(const std::string& folder);
+/// @param stop is set when nobody wants the list any longer: then it ends with the names until there, without a
+/// problem
+FolderListing listFolder(const std::string& folder, const std::atomic<bool>* stop = nullptr);
 
 }  // namespace tavrin

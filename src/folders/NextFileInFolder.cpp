@@ -58,8 +58,8 @@ const std::vector<std::string>& pictureExtensions() {
 // Only names directly in the folder ever count, so a walk need not descend. Nobody asks whether an entry is a folder:
 // one that is called "x.jpg" is a candidate, and fails later like any other file that is no picture.
 std::vector<std::string> namesInFolder(const std::string& folder, const std::vector<std::string>& extensions,
-                                       std::string* problem) {
-    FolderListing listing = listFolder(folder);
+                                       std::string* problem, const std::atomic<bool>* stop) {
+    FolderListing listing = listFolder(folder, stop);
     if (problem && problem->empty()) *problem = std::move(listing.problem);
     std::erase_if(listing.names, [&extensions](const std::string& name) {
         return std::find(extensions.begin(), extensions.end(), upperExtension(name)) == extensions.end();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -63,8 +64,9 @@ class NextFileInFolder {
 /// The names directly in a folder, folders among them, whose extension (without the dot, in capitals) is in the list;
 /// in the order that the platform gives.
 /// @param problem when it is there and empty: set to why the folder could not be read to its end
+/// @param stop as `listFolder` takes it
 std::vector<std::string> namesInFolder(const std::string& folder, const std::vector<std::string>& extensions,
-                                       std::string* problem = nullptr);
+                                       std::string* problem = nullptr, const std::atomic<bool>* stop = nullptr);
 
 /// Extensions of what counts as a photo.
 const std::vector<std::string>& photoExtensions();

@@ -40,8 +40,8 @@ int fileTypeForPath(const std::string& path) {
     return type ? type->fileType : 0;
 }
 
-bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes,
-                     const KnownFiles& sources) {
+bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType, int myRes, const KnownFiles& sources,
+                     const std::atomic<bool>* stop) {
     if (theFileType < kJpegFile || theFileType > kTiffFile) {
         return refuse(info, path + ": there is no file type " + std::to_string(theFileType) + ".");
     }
@@ -53,7 +53,8 @@ bool saveImageToDisk(SystemInfo& info, const std::string& path, int theFileType,
     if (const std::string* source = sources.find(path)) return refuse(info, overwritesInput(path, *source) + ".");
 
     const std::string error = writePicture(
-        path, {pixels, size.width, size.height, theFileType, size.dpi, info.pForegroundBitmapInfo->sourceExif});
+        path, {pixels, size.width, size.height, theFileType, size.dpi, info.pForegroundBitmapInfo->sourceExif, stop});
+    if (error == kWritingStopped) return false;
     return error.empty() || refuse(info, path + ": " + error + ".");
 }
 

@@ -1,10 +1,12 @@
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include "core/files/AtomicFile.h"
 #include "core/image/Exif.h"
 #include "core/image/ImageReader.h"
 #include "core/image/ImageWriter.h"
@@ -232,6 +234,22 @@ TEST(ImageWriter, AFullDiskLeavesTheOldPictureAlone) {
             const SmallDisk disk(room);
             EXPECT_NE(writePicture(path, other.request(type)), "") << path << " in " << room;
         }
+        EXPECT_EQ(test::readBytes(path), old);
+    }
+    EXPECT_EQ(filesIn(folder.path()), 3u);
+}
+
+TEST(ImageWriter, AFileThatNobodyWantsAnyLongerLeavesTheOldOne) {
+    const TempFolder folder;
+    const Sample sample, other(true);
+    const std::atomic<bool> stop = true;
+    for (const int type : {kJpegFile, kPngFile, kTiffFile}) {
+        const std::string path = folder.file(kNames[type]);
+        ASSERT_EQ(writePicture(path, sample.request(type)), "");
+        const std::vector<std::uint8_t> old = test::readBytes(path);
+        WriteRequest request = other.request(type);
+        request.stop = &stop;
+        EXPECT_EQ(writePicture(path, request), kWritingStopped);
         EXPECT_EQ(test::readBytes(path), old);
     }
     EXPECT_EQ(filesIn(folder.path()), 3u);

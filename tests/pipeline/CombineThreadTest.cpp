@@ -258,7 +258,7 @@ TEST_F(CombineThreadTest, ANewerRequestAtAnyMomentLosesNothing) {
         CombineThread loop(*info_);
         loop.addIdleJob(idle);
         loop.StartMainThread();
-        for (int moment = 0; moment < 30; moment += test::kSanitized ? 3 : 1) {
+        for (int moment = 0; moment < 30; moment += test::kSanitized ? 7 : 1) {
             place(*info_, 1.3);
             pause(moment * 200);
             place(*info_, 0.7);

@@ -7,10 +7,10 @@ namespace tavrin::test {
 /// checkers look for other faults than wrong values.
 #if defined(__SANITIZE_ADDRESS__)
 inline constexpr bool kSanitized = true;
-inline constexpr int kTimesFewer = 11;
+inline constexpr int kTimesFewer = 23;
 #elif defined(__SANITIZE_THREAD__)
 inline constexpr bool kSanitized = true;
-inline constexpr int kTimesFewer = 23;
+inline constexpr int kTimesFewer = 47;
 #else
 inline constexpr bool kSanitized = false;
 inline constexpr int kTimesFewer = 1;

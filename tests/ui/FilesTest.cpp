@@ -1,13 +1,17 @@
 // What opening a picture resets, and the ways out of the window.
+#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <semaphore>
 #include <vector>
 
 #include <QTest>
+#include <QToolButton>
 
 #include "formats/ImageState.h"
 #include "session/States.h"
+#include "support/Files.h"
+#include "ui/HeldLoop.h"
 #include "ui/WindowTest.h"
 
 namespace tavrin {
@@ -186,6 +190,23 @@ TEST_F(FilesTest, OverlaysAreTakenOffOneByOneAndAllAsOneStep) {
     EXPECT_TRUE(info_->bHaveFrameOverlay);
     EXPECT_EQ(info_->sBackgroundOverlay.load(), overlay);
     EXPECT_FALSE(info_->bHaveForegroundOverlay);
+}
+
+TEST_F(FilesTest, SavingCanBeStoppedAndTheOldFileStays) {
+    const std::string path = folder_.file("out.png");
+    std::ofstream(path) << "old";
+    const auto saveAndStop = [&](bool stop) {
+        window_->findChild<HeldLoop*>()->run([] {});  // the loop comes to the save when the events do
+        ASSERT_TRUE(window_->saveTo(QString::fromStdString(path)));
+        if (stop) window_->findChild<QToolButton*>("stopSaving")->click();
+        ASSERT_TRUE(saved());
+    };
+    saveAndStop(true);
+    EXPECT_EQ(test::readFile(path), "old");
+    EXPECT_TRUE(window_->messages()->message().startsWith("Saving was stopped"));
+    saveAndStop(false);
+    EXPECT_EQ(window_->messages()->message(), "Saved " + QString::fromStdString(path));
+    EXPECT_FALSE(QImage(QString::fromStdString(path)).isNull());
 }
 
 TEST_F(FilesTest, AStateThatIsOpenedRightBeforeAnotherFileStepsBack) {

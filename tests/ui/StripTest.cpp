@@ -11,8 +11,10 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolButton>
 #include <QWheelEvent>
 
+#include "core/files/NameText.h"
 #include "support/Files.h"
 #include "ui/WindowTest.h"
 
@@ -131,6 +133,21 @@ TEST_F(StripTest, FollowsItsFolder) {
     fs::rename(folder_.file("portraits"), folder_.file("moved"));
     EXPECT_TRUE(test::eventually([&] { return window_->messages()->message() == "The folder cannot be read."; }));
     EXPECT_EQ(list().rowCount(), 5) << "it may come back";
+}
+
+TEST_F(StripTest, ReadingAFolderCanBeGivenUp) {
+    Shelf& shelf = *strip().backgrounds();
+    ASSERT_TRUE(test::eventually([&] { return shelf.list().rowCount() == 5; }));
+    auto* stop = shelf.findChild<QToolButton*>(shelf.view()->objectName() + "Stop");
+    ASSERT_TRUE(stop);
+    EXPECT_FALSE(stop->isVisible());
+    shelf.follow(folder_.file("portraits"));  // what is listed comes with the events
+    stop->click();
+    EXPECT_EQ(shelf.folder(), "");
+    QTest::qWait(700);
+    EXPECT_FALSE(stop->isVisible());
+    EXPECT_EQ(shelf.list().rowCount(), 5);
+    EXPECT_EQ(QFileInfo(textOfName(shelf.list().path(0))).fileName(), "b1.png");
 }
 
 TEST_F(StripTest, ABackgroundIsLaidBehindByAClickAndItsFolderCanBeAnother) {

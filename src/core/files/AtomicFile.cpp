@@ -174,9 +174,14 @@ bool AtomicFile::fail(int code) {
     return false;
 }
 
+bool AtomicFile::isStopped() {
+    if (error_.empty() && stop_ && *stop_) error_ = kWritingStopped;
+    return !error_.empty();
+}
+
 bool AtomicFile::write(const void* bytes, std::size_t size) {
     const char* from = static_cast<const char*>(bytes);
-    if (!error_.empty()) return false;
+    if (isStopped()) return false;
     while (size > 0) {
         const ssize_t done = ::write(file_, from, size);
         if (done < 0 && errno == EINTR) continue;
@@ -214,7 +219,7 @@ long long AtomicFile::size() {
 }
 
 bool AtomicFile::commit() {
-    if (!error_.empty()) return false;
+    if (isStopped()) return false;
     if (::fsync(file_) != 0) return fail(errno);
     const Interruption::Hold hold;
     if (::rename(hidden_.c_str(), target_.c_str()) != 0) return fail(errno);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
@@ -12,6 +13,9 @@ namespace tavrin {
 
 /// The `error` when there is no room: the one that may go away by itself.
 inline constexpr const char* kDiskFull = "the disk is full";
+
+/// The `error` of a file that nobody wants any longer.
+inline constexpr const char* kWritingStopped = "it was stopped";
 
 /// Why something could not be written, for an error number of the system, as a few plain words.
 /// @param folder the folder that it was to be written into
@@ -29,6 +33,10 @@ class AtomicFile {
     ~AtomicFile();
     AtomicFile(const AtomicFile&) = delete;
     AtomicFile& operator=(const AtomicFile&) = delete;
+
+    /// From when this is set on every write, and the `commit`, fails.
+    /// @param stop lives as long as the file
+    void stopWhen(const std::atomic<bool>* stop) { stop_ = stop; }
 
     bool write(const void* bytes, std::size_t size);
     /// Bytes read, fewer at the end of the file; -1 on failure.
@@ -51,10 +59,12 @@ class AtomicFile {
   private:
     bool create(const std::filesystem::path& folder);
     bool fail(int code);
+    bool isStopped();
     void close();
 
     std::string target_, folder_, hidden_, error_;
     int file_ = -1;
+    const std::atomic<bool>* stop_ = nullptr;
     std::optional<Leftover> leftover_;
 };
 

@@ -43,6 +43,7 @@ std::string encode(AtomicFile& file, const WriteRequest& request) {
 std::string write(const std::string& path, const WriteRequest& request) {
     AtomicFile file(path);
     if (!file.error().empty()) return file.error();
+    file.stopWhen(request.stop);
     WriteRequest own = request;
     own.exif = carryOverExif(request.exif, request.width, request.height, request.dpi);
     const std::string failed = encode(file, own);

@@ -141,13 +141,15 @@ std::string writeJpeg(AtomicFile& file, const WriteRequest& request, const std::
 
     const int rows = kBlock * blockRows(request.width);
     std::vector<Strip> strips(static_cast<std::size_t>((request.height - 1) / rows + 1));
-    runRows({}, static_cast<int>(strips.size()), 1,
-            [&](int i) { strips[static_cast<std::size_t>(i)] = encodeStrip(request, rows, i); });
+    runRows({}, static_cast<int>(strips.size()), 1, [&](int i) {
+        if (!request.stop || !*request.stop) strips[static_cast<std::size_t>(i)] = encodeStrip(request, rows, i);
+    });
     bool written = file.write(head.bytes(), head.written());
     for (const Strip& strip : strips) {
+        if (!written) break;
         const Encoder& encoder = *strip.encoder;
         if (!strip.done) return problemOf(encoder);
-        written = written && file.write(encoder.bytes() + strip.head, encoder.size() - strip.head);
+        written = file.write(encoder.bytes() + strip.head, encoder.size() - strip.head);
     }
     return written ? std::string() : file.error();
 }

@@ -34,6 +34,7 @@ namespace tavrin {
 
 struct SaveTarget;
 class TipGuard;
+class WorkBar;
 
 /// The settings of an overlay: whether there is one, and its file.
 struct OverlaySetting {
@@ -112,6 +113,7 @@ class MainWindow : public QMainWindow {
     void layOut();
     void makeToolBar();
     void makeStatusLine();
+    WorkBar* makeSaveBar();
     void connectParts();
     void connectMaps();
     void connectBridge();

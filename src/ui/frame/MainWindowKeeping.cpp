@@ -36,6 +36,12 @@ void MainWindow::connectKeeping() {
     looks_->setSelection([this] { return strip_->selectedPortraits(); });
     looks_->setPicture([this] { return finished_ ? view_->fullPicture() : QImage(); });
     connect(files_, &PictureFiles::saving, this, [this] { savedPositions_.push_back(editor_.position()); });
+    connect(
+        files_, &PictureFiles::stopped, this,
+        [this](const QString& path) {
+            messages_->tell(tr("Saving was stopped, and nothing under the name %1 was changed.").arg(path));
+        },
+        Qt::QueuedConnection);
     connect(files_, &PictureFiles::saved, this, [this](const QString&, bool done) {
         const std::uint64_t position = savedPositions_.front();
         savedPositions_.pop_front();

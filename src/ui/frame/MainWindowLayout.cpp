@@ -106,7 +106,7 @@ void MainWindow::makeStatusLine() {
     pixel->setObjectName("pixelReadOut");
     connect(tools_, &PictureTools::readOut, pixel, &QLabel::setText);
     statusBar()->addWidget(pixel);
-    auto* work = new WorkBar(this);
+    auto* work = new WorkBar("Work", tr("Ends this work; what is done stays, and can be taken back"), this);
     connect(keeping_, &Safekeeping::pasteBegun, work, [this, work](std::size_t all) {
         work->begin(tr("Pasting the look"), static_cast<int>(all), [this] { keeping_->stopPasting(); });
     });
@@ -115,6 +115,7 @@ void MainWindow::makeStatusLine() {
     connect(keeping_, &Safekeeping::pasted, work, &WorkBar::end);
     connect(keeping_, &Safekeeping::pasted, strip_, [this] { strip_->results().forget(); });
     statusBar()->addPermanentWidget(work);
+    statusBar()->addPermanentWidget(makeSaveBar());
     statusBar()->addPermanentWidget(stateText_);
     statusBar()->addPermanentWidget(progress_);
 }
@@ -131,6 +132,18 @@ void MainWindow::tellProgress() {
     stateText_->setText(savesUnderWay() > 0 ? tr("Saving...")
                         : finished_         ? tr("Ready")
                                             : tr("Full picture %1 %").arg(percent));
+}
+
+WorkBar* MainWindow::makeSaveBar() {
+    auto* bar = new WorkBar("Saving", tr("Ends the saving; what was there before under the name stays"), this);
+    connect(files_, &PictureFiles::saving, bar, [this, bar](const QString& path) {
+        if (savesUnderWay() == 1)
+            bar->begin(tr("Saving %1").arg(QFileInfo(path).fileName()), 0, [this] { files_->stopSaving(); });
+    });
+    connect(files_, &PictureFiles::saved, bar, [this, bar] {
+        if (savesUnderWay() == 0) bar->end();
+    });
+    return bar;
 }
 
 /// Size, place and folded panels are those of the last time, on the screens that there are now.

@@ -104,7 +104,7 @@ std::string PictureFiles::writeState(const std::string& name) {
 }
 
 void PictureFiles::saveState(const QString& path) {
-    saveInTurn(path, [this, path] {
+    saveInTurn(path, [this, path](const auto&) {
         const std::string problem = writeState(nameOfText(path));
         if (problem.empty()) {
             emit bridge_.stateSaved(path);
@@ -122,9 +122,9 @@ bool PictureFiles::savePicture(const QString& path,
     KnownFiles sources;  // another portrait may be opened before the picture has its turn
     for (const BitmapInfo* record : {info_.pForegroundBitmapInfo.get(), info_.pBackgroundBitmapInfo.get()})
         sources.add(record->sSourceImageFullPath);
-    saveInTurn(path, [this, then, target = nameOfText(path), sources = std::move(sources)] {
+    saveInTurn(path, [this, then, target = nameOfText(path), sources = std::move(sources)](const auto& stop) {
         const int type = fileTypeForPath(target);
-        const bool done = saveImageToDisk(info_, target, type, 1, sources);
+        const bool done = saveImageToDisk(info_, target, type, 1, sources, &stop);
         if (done && then) then(target, type);
         return done;
     });
@@ -140,9 +140,9 @@ bool PictureFiles::saveReviewed(const QString& path) {
 /// The whole file is there beside the old one before it takes its name.
 bool PictureFiles::saveOver(const QString& path) {
     if (!isFinished()) return false;
-    saveInTurn(path, [this, target = nameOfText(path)] {
+    saveInTurn(path, [this, target = nameOfText(path)](const auto& stop) {
         const std::string beside = ownNameBeside(target);
-        if (!saveImageToDisk(info_, beside, fileTypeForPath(target), 1)) return false;
+        if (!saveImageToDisk(info_, beside, fileTypeForPath(target), 1, {}, &stop)) return false;
         std::error_code problem;
         std::filesystem::rename(beside, target, problem);
         if (!problem) return true;
@@ -155,13 +155,16 @@ bool PictureFiles::saveOver(const QString& path) {
 
 /// Buffers and lists are the loop's, so what saves them is a job of the loop's. However it ends, the window hears of
 /// it.
-void PictureFiles::saveInTurn(const QString& path, std::function<bool()> save) {
-    ++saves_;
+void PictureFiles::saveInTurn(const QString& path, std::function<bool(const std::atomic<bool>& stop)> save) {
+    if (saves_++ == 0) stop_ = std::make_shared<std::atomic<bool>>(false);
     emit saving(path);
-    loop_.edit([this, path, save = std::move(save)]() -> std::vector<ChangedRows> {
+    loop_.edit([this, path, save = std::move(save), stop = stop_]() -> std::vector<ChangedRows> {
         bool done = false;
-        const auto tell = qScopeGuard([&] { emit bridge_.saveEnded(path, done); });
-        done = save();
+        const auto tell = qScopeGuard([&] {
+            if (!done && *stop) emit stopped(path);
+            emit bridge_.saveEnded(path, done);
+        });
+        done = save(*stop);
         return {};
     });
 }

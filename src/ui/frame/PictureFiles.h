@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 
 #include <QObject>
 #include <QStringList>
@@ -41,6 +42,8 @@ class PictureFiles : public QObject {
     /// The same for a result of a batch, with the small picture of its mask (`saveMaskThumbnail`).
     bool saveReviewed(const QString& path);
     int savesUnderWay() const { return saves_; }
+    /// Ends the saves that are under way or wait; the files that were there before stay.
+    void stopSaving() { *stop_ = true; }
 
     /// The files that were opened last, the newest first.
     static QStringList recentFiles();
@@ -50,10 +53,11 @@ class PictureFiles : public QObject {
     void opened(const QString& path);
     void saving(const QString& path);
     void saved(const QString& path, bool done);
+    void stopped(const QString& path);
 
   private:
     bool savePicture(const QString& path, const std::function<void(const std::string& path, int type)>& then);
-    void saveInTurn(const QString& path, std::function<bool()> save);
+    void saveInTurn(const QString& path, std::function<bool(const std::atomic<bool>& stop)> save);
     void openInTurn(const QString& path, std::function<std::string()> open);
     bool isFinished() const { return info_.iCurrentThreadCount > info_.iNewThreadCount; }  // no pass is due
     std::string writeState(const std::string& name);
@@ -62,6 +66,7 @@ class PictureFiles : public QObject {
     CombineThread& loop_;
     WindowBridge& bridge_;
     int saves_ = 0;
+    std::shared_ptr<std::atomic<bool>> stop_ = std::make_shared<std::atomic<bool>>(false);  ///< of these saves
     std::atomic<int> opened_ = 0;  ///< portraits and states, so that an older job steps back
 };
 

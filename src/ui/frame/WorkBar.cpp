@@ -7,16 +7,16 @@
 
 namespace tavrin {
 
-WorkBar::WorkBar(QWidget* parent)
+WorkBar::WorkBar(const QString& name, const QString& stopTip, QWidget* parent)
     : QWidget(parent), label_(new QLabel(this)), progress_(new QProgressBar(this)), button_(new QToolButton(this)) {
-    setObjectName("workBar");
-    progress_->setObjectName("workProgress");
+    setObjectName("bar" + name);
+    progress_->setObjectName("progress" + name);
     progress_->setFixedWidth(140);
     progress_->setFormat("%v / %m");
-    button_->setObjectName("stopWork");
-    button_->setProperty("handler", "stopWork");
+    button_->setObjectName("stop" + name);
+    button_->setProperty("handler", "stop" + name);
     button_->setText(tr("Stop"));
-    button_->setToolTip(tr("Ends this work; what is done stays, and can be taken back"));
+    button_->setToolTip(stopTip);
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
     for (QWidget* part :

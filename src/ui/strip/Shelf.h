@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 #include "browse/FolderFollower.h"
@@ -8,6 +9,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QToolButton;
 
 namespace tavrin {
 
@@ -35,6 +37,8 @@ class Shelf : public QWidget {
     QHBoxLayout* line() const { return line_; }
     void tellCount();
     void showPresent();
+    /// Gives up a folder that is still being read; what is shown stays.
+    void stopReading();
 
   signals:
     /// The pictures of a folder have been looked at.
@@ -50,9 +54,11 @@ class Shelf : public QWidget {
     PictureList list_;
     StripView* view_;
     QLabel* count_;
+    QToolButton* stop_;
     QHBoxLayout* line_;
     std::string folder_;
-    bool isListed_ = true;
+    bool isListed_ = true, isLate_ = false;
+    QTimer late_;              ///< what takes longer is told and can be given up
     FolderFollower follower_;  // the last, so that it ends first
 };
 
