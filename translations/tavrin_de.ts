@@ -4760,6 +4760,18 @@ oder beide im Menü Datei öffnen.</translation>
         <source>The sizes cannot be kept.</source>
         <translation>Die Größen können nicht aufgehoben werden.</translation>
     </message>
+    <message>
+        <source>New size</source>
+        <translation>Neue Größe</translation>
+    </message>
+    <message>
+        <source>Edit size</source>
+        <translation>Größe ändern</translation>
+    </message>
+    <message>
+        <source>Delete size</source>
+        <translation>Größe löschen</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::SliderRow</name>
@@ -5045,6 +5057,26 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>The print pages cannot be kept.</source>
         <translation>Die Druckseiten können nicht aufgehoben werden.</translation>
+    </message>
+    <message>
+        <source>New print page</source>
+        <translation>Neue Druckseite</translation>
+    </message>
+    <message>
+        <source>Edit print page</source>
+        <translation>Druckseite ändern</translation>
+    </message>
+    <message>
+        <source>Place on the page</source>
+        <translation>Platz auf der Seite</translation>
+    </message>
+    <message>
+        <source>Delete print page</source>
+        <translation>Druckseite löschen</translation>
+    </message>
+    <message>
+        <source>Delete place on the page</source>
+        <translation>Platz auf der Seite löschen</translation>
     </message>
 </context>
 <context>

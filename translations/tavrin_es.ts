@@ -4760,6 +4760,18 @@ o ábralos desde el menú Archivo.</translation>
         <source>The sizes cannot be kept.</source>
         <translation>Los tamaños no se pueden conservar.</translation>
     </message>
+    <message>
+        <source>New size</source>
+        <translation>Tamaño nuevo</translation>
+    </message>
+    <message>
+        <source>Edit size</source>
+        <translation>Editar tamaño</translation>
+    </message>
+    <message>
+        <source>Delete size</source>
+        <translation>Eliminar tamaño</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::SliderRow</name>
@@ -5045,6 +5057,26 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>The print pages cannot be kept.</source>
         <translation>Las páginas de impresión no se pueden conservar.</translation>
+    </message>
+    <message>
+        <source>New print page</source>
+        <translation>Página de impresión nueva</translation>
+    </message>
+    <message>
+        <source>Edit print page</source>
+        <translation>Editar página de impresión</translation>
+    </message>
+    <message>
+        <source>Place on the page</source>
+        <translation>Lugar en la página</translation>
+    </message>
+    <message>
+        <source>Delete print page</source>
+        <translation>Eliminar página de impresión</translation>
+    </message>
+    <message>
+        <source>Delete place on the page</source>
+        <translation>Eliminar lugar de la página</translation>
     </message>
 </context>
 <context>

@@ -43,20 +43,6 @@ std::string keepPages(SystemInfo& info, PrinterPage* changed) {
     return SaveCustomPrinterTemplates(info);
 }
 
-/// Places in the list, found again by the titles.
-void findChosenPages(SystemInfo& info) {
-    QLXInfo& settings = *info.oQLXInfo;
-    const auto find = [&](const Field<std::string>& title, Field<std::int32_t>& index) {
-        const std::string wanted = title;
-        index = 0;
-        for (std::int32_t i = 0; i < info.iPrinterPageCount(); ++i)
-            if (pageAt(info, i)->sPageTitle.load() == wanted) index = i;
-    };
-    find(settings.sSelectedPrinterTemplate, settings.iSelectedPrinterTemplate);
-    find(settings.sSelectedBatchPrinterTemplate, settings.iSelectedBatchPrinterTemplate);
-    find(settings.sEventModeSelectedTemplate, settings.iEventModeSelectedTemplate);
-}
-
 }  // namespace
 
 PageEntry pageEntryOf(const PrinterPage& page) {
@@ -141,6 +127,19 @@ std::string deleteSlot(SystemInfo& info, std::int32_t index, std::size_t slot) {
     if (!page || slot >= page->oPrinterPageImages.size()) return "";
     page->oPrinterPageImages.erase(page->oPrinterPageImages.begin() + static_cast<std::ptrdiff_t>(slot));
     return keepPages(info, page);
+}
+
+void findChosenPages(SystemInfo& info) {
+    QLXInfo& settings = *info.oQLXInfo;
+    const auto find = [&](const Field<std::string>& title, Field<std::int32_t>& index) {
+        const std::string wanted = title;
+        index = 0;
+        for (std::int32_t i = 0; i < info.iPrinterPageCount(); ++i)
+            if (pageAt(info, i)->sPageTitle.load() == wanted) index = i;
+    };
+    find(settings.sSelectedPrinterTemplate, settings.iSelectedPrinterTemplate);
+    find(settings.sSelectedBatchPrinterTemplate, settings.iSelectedBatchPrinterTemplate);
+    find(settings.sEventModeSelectedTemplate, settings.iEventModeSelectedTemplate);
 }
 
 void choosePrinterPage(SystemInfo& info, std::int32_t index) {

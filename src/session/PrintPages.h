@@ -39,6 +39,9 @@ PrinterPageImage slotOf(const PrinterPage& page, const SlotEntry& entry);
 std::string putSlot(SystemInfo& info, std::int32_t index, std::size_t slot, const SlotEntry& entry);
 std::string deleteSlot(SystemInfo& info, std::int32_t index, std::size_t slot);
 
+/// Finds the chosen pages again by their titles after the list has changed; one that is gone is the first.
+void findChosenPages(SystemInfo& info);
+
 /// Chooses the page to print on.
 void choosePrinterPage(SystemInfo& info, std::int32_t index);
 

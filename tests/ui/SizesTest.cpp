@@ -148,6 +148,29 @@ TEST_F(SizesTest, APageIsMadeFilledShownAndDeleted) {
     ASSERT_TRUE(soon([&] { return info_->iPrinterPageCount() == 0; }));
 }
 
+TEST_F(SizesTest, WhatIsDeletedComesBackWithUndo) {
+    press("buttonAddImageSizes");
+    press("panelAddEditImageSizesDone");
+    ASSERT_TRUE(soon([&] { return info_->iImageSizeCount() == 2; }));
+    window_->sizeBox()->setCurrentIndex(1);
+    emit window_->sizeBox()->activated(1);
+    ASSERT_TRUE(soon([&] { return info_->iSelecteImageSize == 1; }));
+    ASSERT_TRUE(waitForPicture());
+    part<QTableWidget>("tableImageSizes")->selectRow(1);
+    press("buttonDeleteImageSizes");
+    ASSERT_TRUE(soon([&] { return info_->iImageSizeCount() == 1; }));
+    EXPECT_TRUE(action("UndoButton")->toolTip().endsWith("Delete size"));
+    action("UndoButton")->trigger();
+    ASSERT_TRUE(soon([&] { return info_->iImageSizeCount() == 2; }));
+    EXPECT_EQ(inBox(1), "1x2 100 Vert **");
+    EXPECT_EQ(info_->iSelecteImageSize, 1);
+    SystemInfo later;
+    static_cast<void>(LoadImageSizesFromXML(later));  // which misses the shipped list here
+    EXPECT_EQ(later.iImageSizeCount(), 1) << "it is in the file again";
+    action("RedoButton")->trigger();
+    EXPECT_TRUE(soon([&] { return info_->iImageSizeCount() == 1; }));
+}
+
 TEST_F(SizesTest, AListThatCannotBeKeptIsToldAndUsedAllTheSame) {
     std::filesystem::remove_all(Places::current().xmlFolder());
     press("buttonAddImageSizes");

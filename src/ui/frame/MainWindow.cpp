@@ -35,8 +35,8 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       panel_(new SidePanel(binder_, this)),
       settings_(new SettingsPage(binder_)),
       heldLoop_(new HeldLoop(*loop_, this)),
-      sizes_(new SizesPanel(info, *heldLoop_)),
-      templates_(new TemplatesPanel(info, *heldLoop_, [this] { return view_->fullPicture(); })),
+      sizes_(new SizesPanel(editor_, *heldLoop_)),
+      templates_(new TemplatesPanel(editor_, *heldLoop_, [this] { return view_->fullPicture(); })),
       batch_(new BatchPage(binder_)),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
@@ -151,7 +151,9 @@ void MainWindow::connectLists() {
     connect(templates_, &TemplatesPanel::failed, messages_, &MessageBar::fail);
     connect(templates_, &TemplatesPanel::pageChosen, this, &MainWindow::keepSettings);
     connect(templates_, &TemplatesPanel::listChanged, sizes_, &SizesPanel::refresh);
+    connect(templates_, &TemplatesPanel::listChanged, this, &MainWindow::tellUndo);
     connect(sizes_, &SizesPanel::listChanged, this, [this] {
+        tellUndo();
         sizeBox_->reload();
         templates_->refresh();
         if (!info_.bChangeImageSize) return;

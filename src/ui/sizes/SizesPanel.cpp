@@ -6,12 +6,13 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ui/sizes/ListStep.h"
 #include "ui/sizes/SizeDialog.h"
 
 namespace tavrin {
 
-SizesPanel::SizesPanel(SystemInfo& info, HeldLoop& loop, QWidget* parent)
-    : QWidget(parent), info_(info), loop_(loop), table_(new QTableWidget(0, 3, this)) {
+SizesPanel::SizesPanel(SettingEditor& editor, HeldLoop& loop, QWidget* parent)
+    : QWidget(parent), editor_(editor), info_(editor.info()), loop_(loop), table_(new QTableWidget(0, 3, this)) {
     setObjectName("panelImageSizes");
     setAccessibleName(tr("Output sizes"));
     setToolTip(tr("Sizes of your own; two stars mark them"));
@@ -102,22 +103,24 @@ void SizesPanel::clickedEditImageSizes() {
 void SizesPanel::openDialog(std::int32_t index) {
     auto* dialog = new SizeDialog(info_, index, this);
     connect(dialog, &SizeDialog::entered, this, [this](std::int32_t place, const SizeEntry& entry) {
-        change([this, place, entry] { return putImageSize(info_, place, entry); });
+        change(place < 0 ? tr("New size") : tr("Edit size"),
+               [this, place, entry] { return putImageSize(info_, place, entry); });
     });
 }
 
 void SizesPanel::clickedDeleteImageSizes() {
     const std::int32_t row = selected();
-    change([this, row] { return deleteImageSize(info_, row); });
+    change(tr("Delete size"), [this, row] { return deleteImageSize(info_, row); });
 }
 
-void SizesPanel::change(std::function<std::string()> work) {
-    loop_.run([this, work = std::move(work)] {
-        const std::string problem = work();
-        refresh();
-        emit listChanged();
-        if (!problem.empty()) emit failed(tr("The sizes cannot be kept."), QString::fromStdString(problem));
-    });
+void SizesPanel::change(const QString& label, std::function<std::string()> work) {
+    changeLists(editor_, loop_, {label, std::move(work), [this](const std::string& problem) {
+                                     refresh();
+                                     emit listChanged();
+                                     if (!problem.empty())
+                                         emit failed(tr("The sizes cannot be kept."),
+                                                     QString::fromStdString(problem));
+                                 }});
 }
 
 }  // namespace tavrin

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "session/SettingEditor.h"
 #include "ui/HeldLoop.h"
 
 class QTableWidget;
@@ -16,7 +17,7 @@ class SizesPanel : public QWidget {
     Q_OBJECT
 
   public:
-    SizesPanel(SystemInfo& info, HeldLoop& loop, QWidget* parent = nullptr);
+    SizesPanel(SettingEditor& editor, HeldLoop& loop, QWidget* parent = nullptr);
 
     /// Shows the list as it is now.
     void refresh();
@@ -33,10 +34,10 @@ class SizesPanel : public QWidget {
     void clickedEditImageSizes();
     void clickedDeleteImageSizes();
     void openDialog(std::int32_t index);
-    /// Changes the list while nobody else walks it.
-    void change(std::function<std::string()> work);
+    void change(const QString& label, std::function<std::string()> work);
     void showButtons();
 
+    SettingEditor& editor_;
     SystemInfo& info_;
     HeldLoop& loop_;
     QTableWidget* table_;

@@ -49,7 +49,7 @@ void TemplatesPanel::openPageDialog(std::int32_t index) {
                               centimetres->isChecked()};
         const std::string problem = whyNoPrinterPage(info_, index, typed);
         if (!problem.empty()) return QString::fromStdString(problem);
-        change([this, index, typed] {
+        change(index < 0 ? tr("New print page") : tr("Edit print page"), [this, index, typed] {
             const std::string kept = putPrinterPage(info_, index, typed);
             choosePrinterPage(info_, index < 0 ? info_.iPrinterPageCount() - 1 : index);
             emit pageChosen();
@@ -79,7 +79,7 @@ void TemplatesPanel::openSlotDialog(std::size_t slot, const SlotEntry& entry) {
         const PrinterPage& page = info_.oPrinterPages[static_cast<std::size_t>(index)];
         if (!isOnPage(page, slotOf(page, typed)))
             return tr("The place is larger than the page or lies beside it, so nothing would be printed there.");
-        change([this, index, slot, typed] { return putSlot(info_, index, slot, typed); });
+        change(tr("Place on the page"), [this, index, slot, typed] { return putSlot(info_, index, slot, typed); });
         return QString();
     });
 }

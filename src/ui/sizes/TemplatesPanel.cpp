@@ -8,15 +8,18 @@
 #include <QVBoxLayout>
 
 #include "ui/bind/WheelGuard.h"
+#include "ui/sizes/ListStep.h"
 
 namespace tavrin {
 
-TemplatesPanel::TemplatesPanel(SystemInfo& info, HeldLoop& loop, std::function<QImage()> picture, QWidget* parent)
+TemplatesPanel::TemplatesPanel(SettingEditor& editor, HeldLoop& loop, std::function<QImage()> picture,
+                               QWidget* parent)
     : QWidget(parent),
-      info_(info),
+      editor_(editor),
+      info_(editor.info()),
       loop_(loop),
       combo_(new QComboBox(this)),
-      view_(new TemplateView(info, std::move(picture), this)),
+      view_(new TemplateView(info_, std::move(picture), this)),
       slots_(new QTableWidget(0, 4, this)) {
     setObjectName("panelPrinterTemplates");
     setAccessibleName(tr("Print pages"));
@@ -151,7 +154,7 @@ void TemplatesPanel::changeSelectedTemplate(int index) {
 }
 
 void TemplatesPanel::deleteTemplate() {
-    change([this, index = page()] { return deletePrinterPage(info_, index); });
+    change(tr("Delete print page"), [this, index = page()] { return deletePrinterPage(info_, index); });
 }
 
 void TemplatesPanel::addImageLocationToTemplate() {
@@ -170,17 +173,19 @@ void TemplatesPanel::editTemplateImageLocation() {
 
 void TemplatesPanel::deleteTemplateImageLocation() {
     if (slot() < 0) return;
-    change(
-        [this, index = page(), place = static_cast<std::size_t>(slot())] { return deleteSlot(info_, index, place); });
+    change(tr("Delete place on the page"), [this, index = page(), place = static_cast<std::size_t>(slot())] {
+        return deleteSlot(info_, index, place);
+    });
 }
 
-void TemplatesPanel::change(std::function<std::string()> work) {
-    loop_.run([this, work = std::move(work)] {
-        const std::string problem = work();
-        refresh();
-        emit listChanged();
-        if (!problem.empty()) emit failed(tr("The print pages cannot be kept."), QString::fromStdString(problem));
-    });
+void TemplatesPanel::change(const QString& label, std::function<std::string()> work) {
+    changeLists(editor_, loop_, {label, std::move(work), [this](const std::string& problem) {
+                                     refresh();
+                                     emit listChanged();
+                                     if (!problem.empty())
+                                         emit failed(tr("The print pages cannot be kept."),
+                                                     QString::fromStdString(problem));
+                                 }});
 }
 
 }  // namespace tavrin

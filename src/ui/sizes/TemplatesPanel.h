@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "session/PrintPages.h"
+#include "session/SettingEditor.h"
 #include "ui/HeldLoop.h"
 #include "ui/sizes/TemplateView.h"
 
@@ -20,7 +21,7 @@ class TemplatesPanel : public QWidget {
 
   public:
     /// @param picture asks for the combined picture; it may be null
-    TemplatesPanel(SystemInfo& info, HeldLoop& loop, std::function<QImage()> picture, QWidget* parent = nullptr);
+    TemplatesPanel(SettingEditor& editor, HeldLoop& loop, std::function<QImage()> picture, QWidget* parent = nullptr);
 
     /// Shows the list and the chosen page as they are now.
     void refresh();
@@ -52,8 +53,9 @@ class TemplatesPanel : public QWidget {
     void deleteTemplateImageLocation();
     void openPageDialog(std::int32_t index);
     void openSlotDialog(std::size_t slot, const SlotEntry& entry);
-    void change(std::function<std::string()> work);
+    void change(const QString& label, std::function<std::string()> work);
 
+    SettingEditor& editor_;
     SystemInfo& info_;
     HeldLoop& loop_;
     QComboBox* combo_;
