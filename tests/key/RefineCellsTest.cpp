@@ -70,5 +70,58 @@ TEST(RefineCells, HolesTakeWhatLiesAroundAndRowsAreStraightLines) {
     }
 }
 
+// Each of the ways to spread a row: several cells to a vector, one, or several vectors to a cell.
+TEST(RefineCells, RowsAreTheSameForEverySizeAndStrip) {
+    std::mt19937 random(5);
+    refine::Cells cells(7, 3, 1);
+    for (int i = 0; i < 21; ++i)
+        cells.row(0, 0)[i] = static_cast<float>(random() % 1000);
+    for (const int size : {2, 3, 4, 5, 8, 10, 16, 21}) {
+        for (const int left : {0, 1, 3 * size, 6 * size + size / 2, 9 * size}) {
+            refine::CellRows rows(cells, size, left, 40);
+            std::vector<float> row(40);
+            for (int y = 0; y < 3 * size; ++y) {
+                rows.fill(y, 0, row.data());
+                for (int x = 0; x < 40; ++x) {
+                    const auto place = [size](int at, int count) {
+                        return std::clamp((at + 0.5) / size - 0.5, 0.0, count - 1.0);
+                    };
+                    const double c = place(left + x, 7), r = place(y, 3);
+                    const int column = std::min(static_cast<int>(c), 5), line = std::min(static_cast<int>(r), 1);
+                    const auto along = [&](int at) {
+                        const float* const from = cells.row(at, 0) + column;
+                        return from[0] + (from[1] - from[0]) * (c - column);
+                    };
+                    const double wanted = along(line) + (along(line + 1) - along(line)) * (r - line);
+                    ASSERT_NEAR(row[static_cast<std::size_t>(x)], wanted, 1e-2) << size << ' ' << left << ' ' << x;
+                }
+            }
+        }
+    }
+}
+
+TEST(RefineCells, SomeCellsAreFilledAsAllAre) {
+    std::mt19937 random(7);
+    refine::Cells cells(90, 50, 3);
+    refine::Mask wanted(90, 50);
+    for (int y = 0; y < 50; ++y) {
+        for (int x = 0; x < 90; ++x) {
+            const bool known = random() % 4 == 0;
+            for (int plane = 0; plane < 3; ++plane)
+                cells.row(y, plane)[x] = known ? (plane == 2 ? 1.0f : static_cast<float>(random() % 256)) : 0.0f;
+        }
+        if (y > 20 && y < 40) wanted.set(y, 3 * y - 60, 3 * y - 30);
+    }
+    const refine::Cells all = refine::pushPull({}, cells), some = refine::pushPull({}, cells, wanted);
+    for (int y = 0; y < 50; ++y) {
+        for (int x = 0; x < 90; ++x) {
+            if (!wanted.at(x, y)) continue;
+            ASSERT_EQ(some.row(y, 1)[x], all.row(y, 1)[x]) << x << ' ' << y;
+        }
+    }
+    EXPECT_EQ(some.row(0, 0)[0], 0.0f);
+    EXPECT_NE(all.row(0, 0)[0], 0.0f);
+}
+
 }  // namespace
 }  // namespace tavrin

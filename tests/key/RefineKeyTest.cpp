@@ -234,6 +234,31 @@ TEST(RefineKey, ADeepShadowInAGapIsScreenWhereTheKeyHasNothing) {
     EXPECT_EQ(scene.at(scene.combined, 160, 350)[3], 255);
 }
 
+TEST(RefineKey, DarkHairThatTheKeyTookAwayIsNoShadowInASmallPicture) {
+    // Strands beside a dark head, before a screen of the purest green: their colours are those of its shadows.
+    constexpr int kSize = 480;
+    for (const int period : {7, 8, 10}) {
+        KeyScene scene(kSize, kSize, {0, 255, 0, 255});
+        std::vector<std::uint8_t> key(kSize * kSize);
+        const auto strands = [period](int x) { return 0.3 + 0.2 * std::sin(x * 2.0 * M_PI / period); };
+        for (int y = 200; y < kSize; ++y) {
+            for (int x = y < 320 ? 60 : 160; x < 320; ++x) {
+                const double alpha = x < 160 ? strands(x) : 1.0;
+                scene.at(scene.foreground, x, y) = mixed({40, 30, 20}, {0, 255, 0}, alpha);
+                if (x >= 160) key[static_cast<std::size_t>(y * kSize + x)] = 255;
+            }
+        }
+        const refine::Shot shot{kSize, kSize, scene.foreground.front().data(), key.data(), false};
+        ASSERT_EQ(refine::refineKey({}, shot, {}, scene.combined.front().data()), refine::Refined::done);
+        double error = 0.0;
+        for (int y = 210; y < 310; ++y) {
+            for (int x = 70; x < 150; ++x)
+                error += std::abs(scene.at(scene.combined, x, y)[3] / 255.0 - strands(x));
+        }
+        EXPECT_LT(error / 8000.0, 0.03) << period;
+    }
+}
+
 TEST(RefineKey, KeepsTheSubjectsOwnGreenAsFarAsItsSliderSays) {
     KeyScene scene(400, 300);
     for (int y = 100; y < 300; ++y) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "key/refine/Areas.h"
 #include "key/refine/CellRows.h"
 #include "key/refine/MatteLoops.h"
 #include "key/refine/RowRing.h"
@@ -31,53 +32,61 @@ Cells halved(const RunContext& context, const Cells& cells) {
     return half;
 }
 
-// One row of a level, from its own means and the finished coarser level.
+// Rows of some columns of a level, from its own means and the finished coarser level.
 class PullRow {
   public:
-    PullRow(const Cells& level, const Cells& coarser)
+    PullRow(const Cells& level, const Cells& coarser, int left, int width)
         : level_(level),
-          coarse_(coarser, 2, 0, level.columns()),
-          padded_(level.columns(), 5),
-          weight_(static_cast<std::size_t>(level.columns())),
-          rest_(weight_.size()),
-          sums_(weight_.size()),
-          far_(weight_.size()) {}
+          left_(left),
+          width_(width),
+          coarse_(coarser, 2, left, width),
+          padded_(width, 4),
+          lines_(4 * static_cast<std::size_t>(width)) {}
 
     void work(int y, Cells& to) {
-        const int columns = level_.columns(), values = level_.planes() - 1;
-        boxSums(y, values, sums_.data());
-        matteLoops().shares(sums_.data(), columns, weight_.data(), rest_.data());
+        const int values = level_.planes() - 1;
+        float *const weight = line(0), *const rest = line(1), *const sums = line(2), *const far = line(3);
+        boxSums(y, values, sums);
+        matteLoops().shares(sums, width_, weight, rest);
         for (int plane = 0; plane < values; ++plane) {
-            boxSums(y, plane, sums_.data());
-            coarse_.fill(y, plane, far_.data());
-            matteLoops().blend(sums_.data(), weight_.data(), far_.data(), rest_.data(), columns, to.row(y, plane));
+            boxSums(y, plane, sums);
+            coarse_.fill(y, plane, far);
+            matteLoops().blend(sums, weight, far, rest, width_, to.row(y, plane) + left_);
         }
     }
 
   private:
+    float* line(std::size_t i) { return lines_.data() + i * static_cast<std::size_t>(width_); }
+
     void boxSums(int y, int plane, float* to) {
+        const int columns = level_.columns(), first = std::max(left_ - 1, 0),
+                  last = std::min(left_ + width_ + 1, columns);
         const float* rows[3];
         for (int i = -1; i <= 1; ++i) {
             float* const row = padded_.row(i + 1);
-            std::copy_n(level_.row(mirrored(y + i, level_.rows()), plane), level_.columns(), row);
-            padded_.pad(i + 1, 1);
+            const float* const from = level_.row(mirrored(y + i, level_.rows()), plane);
+            std::copy(from + first, from + last, row + (first - left_));
+            row[-1] = from[mirrored(left_ - 1, columns)];
+            row[width_] = from[mirrored(left_ + width_, columns)];
             rows[i + 1] = row;
         }
-        sumLoops().boxSums(rows, 1, level_.columns(), padded_.row(3), to);
+        sumLoops().boxSums(rows, 1, width_, padded_.row(3), to);
     }
 
     const Cells& level_;
+    int left_, width_;
     CellRows coarse_;
     PaddedRows padded_;
-    std::vector<float> weight_, rest_, sums_, far_;
+    std::vector<float> lines_;
 };
 
 // One cell of a value everywhere: the mean of all.
 Cells meanOf(const Cells& cells) {
     Cells mean(1, 1, cells.planes() - 1);
-    const double weight = std::max(cells.sum(cells.planes() - 1), 1e-6);
+    const std::vector<double> sums = cells.sums();
+    const double weight = std::max(sums.back(), 1e-6);
     for (int plane = 0; plane < mean.planes(); ++plane)
-        *mean.row(0, plane) = static_cast<float>(cells.sum(plane) / weight);
+        *mean.row(0, plane) = static_cast<float>(sums[static_cast<std::size_t>(plane)] / weight);
     return mean;
 }
 
@@ -90,15 +99,17 @@ Cells Cells::over(int width, int height, int size, int planes) {
     return Cells((width + size - 1) / size, (height + size - 1) / size, planes);
 }
 
-double Cells::sum(int plane) const {
-    double sum = 0.0;
-    const float* const values = row(0, plane);
-    for (std::size_t i = 0; i < count(); ++i)
-        sum += static_cast<double>(values[i]);
-    return sum;
+// Side by side: each sum waits for its last addition.
+std::vector<double> Cells::sums() const {
+    std::vector<double> sums(static_cast<std::size_t>(planes_));
+    for (std::size_t i = 0; i < count(); ++i) {
+        for (std::size_t plane = 0; plane < sums.size(); ++plane)
+            sums[plane] += static_cast<double>(values_[plane * count() + i]);
+    }
+    return sums;
 }
 
-Cells pushPull(const RunContext& context, const Cells& cells) {
+Cells pushPull(const RunContext& context, const Cells& cells, const Mask& wanted) {
     std::vector<Cells> coarser;
     const auto level = [&](std::size_t i) -> const Cells& { return i == 0 ? cells : coarser[i - 1]; };
     while (std::min(level(coarser.size()).columns(), level(coarser.size()).rows()) > kFewCells) {
@@ -110,13 +121,21 @@ Cells pushPull(const RunContext& context, const Cells& cells) {
         const Cells& own = level(i);
         Cells next(own.columns(), own.rows(), own.planes() - 1);
         runRowRanges(context, own.rows(), kGrainRows, [&](int first, int last) {
-            PullRow row(own, filled);
-            for (int y = first; y < last; ++y)
-                row.work(y, next);
+            const auto work = [&](int left, int right) {
+                PullRow row(own, filled, left, right - left);
+                for (int y = first; y < last; ++y)
+                    row.work(y, next);
+            };
+            // The finest level is most of the work.
+            i == 0 ? forColumns(wanted, first, last, work) : work(0, own.columns());
         });
         filled = std::move(next);
     }
     return filled;
+}
+
+Cells pushPull(const RunContext& context, const Cells& cells) {
+    return pushPull(context, cells, Mask(cells.columns(), cells.rows()).inverted());
 }
 
 Cells sharesOf(const RunContext& context, const Mask& mask, int size) {
@@ -127,11 +146,12 @@ Cells sharesOf(const RunContext& context, const Mask& mask, int size) {
         for (int y = first; y < last; ++y) {
             sumLoops().countBits(mask.row(y), size, mask.width(), counts.data());
         }
-        for (int c = 0; c < cells.columns(); ++c) {
-            const int pixels = (std::min((c + 1) * size, mask.width()) - c * size) * (last - first);
-            cells.row(row, 0)[c] =
-                static_cast<float>(counts[static_cast<std::size_t>(c)]) / static_cast<float>(pixels);
-        }
+        const int whole = mask.width() / size, rest = mask.width() % size;
+        const auto pixels = static_cast<float>(size * (last - first));
+        float* const to = cells.row(row, 0);
+        for (int c = 0; c < whole; ++c)
+            to[c] = static_cast<float>(counts[static_cast<std::size_t>(c)]) / pixels;
+        if (rest > 0) to[whole] = static_cast<float>(counts.back()) / static_cast<float>(rest * (last - first));
     });
     return cells;
 }
@@ -140,12 +160,10 @@ Mask maskOf(const RunContext& context, int width, int height, int size, const st
     Mask mask(width, height);
     const Cells grid = Cells::over(width, height, size, 0);
     runRows(context, grid.rows(), 4, [&](int row) {
-        std::uint64_t* const first = mask.row(row * size);
         for (int c = 0; c < grid.columns(); ++c) {
-            if (!isSet(c, row)) continue;
-            for (int x = c * size, end = std::min(x + size, width); x < end; ++x)
-                first[x / 64] |= std::uint64_t{1} << (x % 64);
+            if (isSet(c, row)) mask.set(row * size, c * size, std::min((c + 1) * size, width));
         }
+        const std::uint64_t* const first = mask.row(row * size);
         for (int y = row * size + 1; y < std::min((row + 1) * size, height); ++y)
             std::copy_n(first, mask.words(), mask.row(y));
     });

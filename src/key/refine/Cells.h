@@ -28,8 +28,8 @@ class Cells {
                    static_cast<std::size_t>(columns_);
     }
     const float* row(int y, int plane) const { return const_cast<Cells*>(this)->row(y, plane); }
-    /// The sum of a plane, in scan order.
-    double sum(int plane) const;
+    /// The sums of the planes, each in scan order.
+    std::vector<double> sums() const;
 
   private:
     int columns_ = 0, rows_ = 0, planes_ = 0;
@@ -39,7 +39,10 @@ class Cells {
 /// Fills what has no weight from what lies around: halves the cells until few are left, and coming back keeps a
 /// level's own mean of 3 x 3 cells as far as its weight reaches a quarter.
 /// @param cells values times weight; the last plane is the weight, 0 to 1
+/// @param wanted the cells to fill; others may stay 0
 /// @return the values, one plane less
+Cells pushPull(const RunContext& context, const Cells& cells, const Mask& wanted);
+/// The same for all cells.
 Cells pushPull(const RunContext& context, const Cells& cells);
 
 /// Shares of set pixels in cells of `size` pixels, 0 to 1.

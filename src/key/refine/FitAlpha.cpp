@@ -59,10 +59,11 @@ Symmetric3 covariance(const std::array<double, kSums>& means) {
 }
 
 std::array<double, kSums> overallMeans(const Cells& cells) {
-    const double weight = std::max(cells.sum(kSums), 1e-6);
+    const std::vector<double> sums = cells.sums();
+    const double weight = std::max(sums[kSums], 1e-6);
     std::array<double, kSums> means;
-    for (int i = 0; i < kSums; ++i)
-        means[static_cast<std::size_t>(i)] = cells.sum(i) / weight;
+    for (std::size_t i = 0; i < kSums; ++i)
+        means[i] = sums[i] / weight;
     return means;
 }
 
@@ -74,11 +75,24 @@ Symmetric3 commonCovariance(const Cells& cells) {
     return common;
 }
 
-}  // namespace
+// The cells that rows of the areas around the open pixels are spread from.
+Mask cellsAround(const Shot& shot, const Mask& open, int size) {
+    Cells grid = Cells::over(shot.width, shot.height, size, 0);
+    Mask cells(grid.columns(), grid.rows());
+    const auto cell = [size](int pixel, int count) { return std::clamp(pixel / size, 0, count - 1); };
+    for (int top = 0; top < shot.height; top += kBlockRows) {
+        const int first = cell(top - 1 - size, grid.rows()), last = cell(top + kBlockRows + size, grid.rows());
+        forColumns(open, top, std::min(top + kBlockRows, shot.height), [&](int left, int right) {
+            const int begin = cell(left - kHalo - size, grid.columns()),
+                      end = cell(right + kHalo + size, grid.columns());
+            for (int row = first; row <= last; ++row)
+                cells.set(row, begin, end + 1);
+        });
+    }
+    return cells;
+}
 
-Separation separate(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& sure) {
-    Separation result;
-    const int size = result.size = shot.cell(kCell);
+Cells sumsOf(const RunContext& context, const Shot& shot, const Mask& sure, int size) {
     Cells cells = Cells::over(shot.width, shot.height, size, kSums + 1);
     runRows(context, cells.rows(), 2, [&](int row) {
         int done = 0;  // cells that were summed already
@@ -88,25 +102,39 @@ Separation separate(const RunContext& context, const Shot& shot, const Plate& pl
             if (begin < done) sumColors(shot, sure, row, begin, done, size, cells);
         });
     });
+    return cells;
+}
+
+}  // namespace
+
+Separation separate(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& sure,
+                    const Mask& open) {
+    Separation result;
+    const int size = result.size = shot.cell(kCell);
+    const Cells cells = sumsOf(context, shot, sure, size);
     const Symmetric3 common = commonCovariance(cells);
-    const Cells means = pushPull(context, cells);
+    const Mask wanted = cellsAround(shot, open, size);
+    const Cells means = pushPull(context, cells, wanted);
     result.weights = result.subject = Cells(cells.columns(), cells.rows(), 3);
     result.certainty = Cells(cells.columns(), cells.rows(), 1);
-    const int columns = cells.columns();
     const CellPoints middles(plate.colors, kPlateCell, shot.width, size);
     runRows(context, cells.rows(), 4, [&](int row) {
-        std::vector<float> screen(3 * static_cast<std::size_t>(columns));
-        for (int plane = 0; plane < 3; ++plane)
-            middles.fill(std::min(row * size + size / 2, shot.height - 1), plane, screen.data() + plane * columns);
-        const float* from[kSums];
-        for (int i = 0; i < kSums; ++i)
-            from[i] = means.row(row, i);
-        float* const to[] = {result.weights.row(row, 0), result.weights.row(row, 1), result.weights.row(row, 2),
-                             result.certainty.row(row, 0)};
-        matteLoops().directions(from, {screen.data(), screen.data() + columns, screen.data() + 2 * columns},
-                                common.data(), columns, to);
-        for (int i = 0; i < 3; ++i)
-            std::copy_n(from[i], columns, result.subject.row(row, i));
+        std::vector<float> screen(3 * static_cast<std::size_t>(cells.columns()));
+        float *const r = screen.data(), *const g = r + cells.columns(), *const b = g + cells.columns();
+        forColumns(wanted, row, row + 1, [&](int left, int right) {
+            const int y = std::min(row * size + size / 2, shot.height - 1);
+            middles.fill(y, 0, left, right, r);
+            middles.fill(y, 1, left, right, g);
+            middles.fill(y, 2, left, right, b);
+            const float* from[kSums];
+            for (int i = 0; i < kSums; ++i)
+                from[i] = means.row(row, i) + left;
+            float* const to[] = {result.weights.row(row, 0) + left, result.weights.row(row, 1) + left,
+                                 result.weights.row(row, 2) + left, result.certainty.row(row, 0) + left};
+            matteLoops().directions(from, {r, g, b}, common.data(), right - left, to);
+            for (int i = 0; i < 3; ++i)
+                std::copy(from[i], from[i] + (right - left), result.subject.row(row, i) + left);
+        });
     });
     return result;
 }

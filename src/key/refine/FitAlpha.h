@@ -18,7 +18,9 @@ struct Separation {
 
 /// Means and covariances of the subject's colours around each cell, from the sure pixels, and the direction in which
 /// they lie farthest from the screen's.
-Separation separate(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& sure);
+/// @param open the pixels whose areas are asked for; cells far from them stay 0
+Separation separate(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& sure,
+                    const Mask& open);
 
 /// Where colours cannot tell: what lies nearer, the inside (1) or the screen (0). Cells of `kNearCell`.
 inline constexpr int kNearCell = 8;

@@ -1,6 +1,7 @@
 #include "key/refine/Mask.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 
@@ -9,6 +10,16 @@ namespace tavrin::refine {
 namespace {
 
 constexpr std::uint64_t kAll = ~std::uint64_t{0};
+
+// Four bits as numbers.
+constexpr auto kNumbers = [] {
+    std::array<std::array<float, 4>, 16> numbers{};
+    for (unsigned bits = 0; bits < 16; ++bits) {
+        for (unsigned i = 0; i < 4; ++i)
+            numbers[bits][i] = (bits >> i & 1) != 0 ? 1.0f : 0.0f;
+    }
+    return numbers;
+}();
 
 // Each bit of the first `count` words becomes the conjunction of itself and the one `step` further on; `step / 64 +
 // 1` words more are there to be read.
@@ -52,6 +63,15 @@ Mask::Mask(int width, int height)
       words_((width + 63) / 64),
       bits_(static_cast<std::size_t>(words_) * static_cast<std::size_t>(height)) {}
 
+void Mask::set(int y, int left, int right) {
+    std::uint64_t* const to = row(y);
+    for (int x = left; x < right;) {
+        const int bits = std::min(64 - x % 64, right - x);
+        to[x / 64] |= kAll >> (64 - bits) << (x % 64);
+        x += bits;
+    }
+}
+
 bool Mask::isClear(int y, int left, int right) const {
     const std::uint64_t* const from = row(y);
     for (int x = left; x < right;) {
@@ -88,7 +108,10 @@ void Mask::unpack(int y, int left, int count, float* values) const {
         if ((word & all) == 0 || (word & all) == all) {
             std::fill(values, values + bits, (word & all) == 0 ? 0.0f : 1.0f);
         } else {
-            for (int i = 0; i < bits; ++i)
+            int i = 0;
+            for (; i + 4 <= bits; i += 4)
+                std::memcpy(values + i, kNumbers[word >> i & 15].data(), sizeof kNumbers[0]);
+            for (; i < bits; ++i)
                 values[i] = static_cast<float>(static_cast<int>(word >> i & 1));
         }
         values += bits;

@@ -24,6 +24,8 @@ class Mask {
     const std::uint64_t* row(int y) const { return const_cast<Mask*>(this)->row(y); }
 
     bool at(int x, int y) const { return (row(y)[x / 64] >> (x % 64) & 1) != 0; }
+    /// Sets the columns [left, right) of row `y`.
+    void set(int y, int left, int right);
     /// Whether none of the columns [left, right) of row `y` is set.
     bool isClear(int y, int left, int right) const;
     /// Sets `count` pixels of row `y` from the column `left` on, a multiple of 8, from bytes of 0 and 1; there must

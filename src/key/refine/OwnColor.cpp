@@ -76,7 +76,7 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     GreenLimits limits;
     const Cells green = ownGreen(context, findings);
     limits.own = Cells(green.columns(), green.rows(), 1);
-    if (green.sum(1) > kFewCells) {
+    if (green.sums()[1] > kFewCells) {
         const float usual = findings.plate.difference;
         Cells least = least5(pushPull(context, green));
         // Much and smooth, or it is spill: on black that stays below.

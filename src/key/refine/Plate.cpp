@@ -65,10 +65,14 @@ std::vector<float> strayAlphas(const RunContext& context, const Shot& shot, cons
             if (plate.screen.isClear(y, 0, shot.width)) continue;
             rows.go(y);
             rows.alpha(alpha.data());
+            std::vector<float>& strays = found[static_cast<std::size_t>(i)];
+            strays.resize(static_cast<std::size_t>((shot.width + step - 1) / step));
+            std::size_t count = 0;
             for (int x = i % step; x < shot.width; x += step) {
-                if (plate.screen.at(x, y))
-                    found[static_cast<std::size_t>(i)].push_back(std::abs(alpha[static_cast<std::size_t>(x)]));
+                strays[count] = std::abs(alpha[static_cast<std::size_t>(x)]);
+                count += plate.screen.at(x, y) ? 1 : 0;
             }
+            strays.resize(count);
         }
     });
     std::vector<float> all;

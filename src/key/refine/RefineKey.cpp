@@ -77,10 +77,10 @@ Refined refineKey(const RunContext& context, const Shot& shot, const RefineTaste
     if (context.isSuperseded() || core.sure.count() < kFewestSure) return gaveUp();
     const Cells nearer = nearerSide(context, core.solid, plate->screen);
     const Mask open = openPixels(context, plate->screen, core.solid);
-    const Separation first = separate(context, shot, *plate, core.sure);
+    const Separation first = separate(context, shot, *plate, core.sure, open);
     const Mask sure = surePixels(context, {shot, *plate, first, nearer}, core.solid, open);
     if (context.isSuperseded()) return Refined::superseded;
-    const Separation separation = separate(context, shot, *plate, sure);
+    const Separation separation = separate(context, shot, *plate, sure, open);
     const AlphaPlane alpha = fitAlpha(context, {shot, *plate, separation, nearer}, core.solid, open);
     if (context.isSuperseded()) return Refined::superseded;
     const float missing = missingDetail(context, shot, alpha, open);

@@ -51,11 +51,27 @@ void mix(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b, float share, 
         to[x] = a[x] + (b[x] - a[x]) * share;
 }
 
-void spread(const float* HWY_RESTRICT values, const float* HWY_RESTRICT shares, int size, int count,
-            float* HWY_RESTRICT to) {
+// Several small cells to a vector, or several vectors to a cell; what a cell has too many the next one writes over.
+void spread(const float* values, const float* shares, int size, int count, float* to) {
     namespace hn = hwy::HWY_NAMESPACE;
-    const hn::CappedTag<float, 4> d;
+    const hn::CappedTag<float, refine::kSpreadBeyond> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
+    if (lanes % size == 0) {
+        std::int32_t cells[refine::kSpreadBeyond];
+        float steps[refine::kSpreadBeyond];
+        for (int i = 0; i < lanes; ++i) {
+            cells[i] = i / size;
+            steps[i] = shares[i % size];
+        }
+        const auto places = hn::SetTableIndices(d, cells);
+        const auto share = hn::LoadU(d, steps);
+        for (int c = 0; c < count; c += lanes / size, to += lanes) {
+            const auto from = hn::LoadU(d, values + c), next = hn::LoadU(d, values + c + 1);
+            const auto step = hn::TableLookupLanes(hn::Sub(next, from), places);
+            hn::StoreU(hn::Add(hn::TableLookupLanes(from, places), hn::Mul(step, share)), d, to);
+        }
+        return;
+    }
     for (int c = 0; c < count; ++c, to += size) {
         const auto from = hn::Set(d, values[c]), step = hn::Set(d, values[c + 1] - values[c]);
         for (int i = 0; i < size; i += lanes)

@@ -10,6 +10,9 @@ struct ChannelRow {
     const float *r, *g, *b;
 };
 
+/// Elements that a spread row needs beyond its end.
+inline constexpr int kSpreadBeyond = 16;
+
 /// Loops over the numbers of a row, compiled for every vector target. All go element by element, so the bytes are
 /// those of the plain form. What is read and what is written lie apart.
 struct RowLoops {
@@ -21,8 +24,8 @@ struct RowLoops {
                   std::uint8_t* flags);
     /// a + (b - a) share
     void (*mix)(const float* a, const float* b, float share, int count, float* to);
-    /// `size` steps from each of `count` values to the one after it; a multiple of 4 is written, 4 to 7 elements
-    /// beyond the last. `shares` has that many.
+    /// `size` steps from each of `count` values to the one after it, by the shares of the first `size`. All three
+    /// have room for `kSpreadBeyond` elements beyond their last.
     void (*spread)(const float* values, const float* shares, int size, int count, float* to);
     /// Adds what the screen's channel has beyond the mean of the others, as far as it has, times the weight; and the
     /// weight.

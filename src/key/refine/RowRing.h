@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 namespace tavrin::refine {
@@ -24,9 +25,9 @@ class PaddedRows {
     PaddedRows(int width, int rows)
         : width_(width),
           stride_(static_cast<std::size_t>(width) + 2 * kRowPad),
-          values_(stride_ * static_cast<std::size_t>(rows)) {}
+          values_(std::make_unique_for_overwrite<float[]>(stride_ * static_cast<std::size_t>(rows))) {}
 
-    float* row(int index) { return values_.data() + stride_ * static_cast<std::size_t>(index) + kRowPad; }
+    float* row(int index) { return values_.get() + stride_ * static_cast<std::size_t>(index) + kRowPad; }
 
     /// Mirrors `reach` columns at both ends of a row.
     void pad(int index, int reach) {
@@ -40,7 +41,7 @@ class PaddedRows {
   private:
     int width_;
     std::size_t stride_;
-    std::vector<float> values_;
+    std::unique_ptr<float[]> values_;
 };
 
 /// The rows around the one under work, each made once: `make(y, planes)` fills the planes of row `y`. Rows outside

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kHalo = 4;  // columns beyond an area that its windows look at
 constexpr double kSmoothReach = 6.0, kReachCell = 8.0;
+constexpr int kLeastSmoothReach = 2;  // in a window of 3 x 3 the crests of dark hair are as smooth as a shadow
 constexpr float kFarSpreads = 3.0f, kLeastSpread = 0.008f;
 constexpr float kLeastLight = 0.4f, kMostLight = 1.15f;  // of the plate's
 constexpr std::uint8_t kMostKey = 89;                    // the key's alpha below 0.35
@@ -44,7 +45,7 @@ void findNear(const RunContext& context, const Shot& shot, const Plate& plate, c
 
 // Which pixels of an area may be smooth shadow on the screen.
 void findSoft(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& soft) {
-    const int reach = std::min(shot.px(kSmoothReach), kRowPad - 1);
+    const int reach = std::clamp(shot.px(kSmoothReach), kLeastSmoothReach, kRowPad - 1);
     const Strip strip = area.strip(shot, reach + kHalo);
     ScreenRatio ratio(strip, plate);
     RowRing<2, std::function<void(int, float**)>> ratios(

@@ -24,6 +24,14 @@ void boxSums(const float* const* rows, int r, int count, float* HWY_RESTRICT col
                                         *const HWY_RESTRICT c = rows[2] - r;
         for (int x = 0; x < all; ++x)
             first[x] = (a[x] + b[x]) + c[x];
+    } else if (r == 4) {
+        const float *const HWY_RESTRICT a = rows[0] - r, *const HWY_RESTRICT b = rows[1] - r,
+                                        *const HWY_RESTRICT c = rows[2] - r, *const HWY_RESTRICT d = rows[3] - r,
+                                        *const HWY_RESTRICT e = rows[4] - r, *const HWY_RESTRICT f = rows[5] - r,
+                                        *const HWY_RESTRICT g = rows[6] - r, *const HWY_RESTRICT h = rows[7] - r,
+                                        *const HWY_RESTRICT i = rows[8] - r;
+        for (int x = 0; x < all; ++x)
+            first[x] = a[x] + b[x] + c[x] + d[x] + e[x] + f[x] + g[x] + h[x] + i[x];
     } else {
         const float *const HWY_RESTRICT a = rows[0] - r, *const HWY_RESTRICT b = rows[1] - r;
         for (int x = 0; x < all; ++x)
@@ -43,6 +51,10 @@ void boxSums(const float* const* rows, int r, int count, float* HWY_RESTRICT col
     } else if (r == 2) {
         for (int x = 0; x < count; ++x)
             sums[x] = (((first[x] + first[x + 1]) + first[x + 2]) + first[x + 3]) + first[x + 4];
+    } else if (r == 4) {
+        for (int x = 0; x < count; ++x)
+            sums[x] = first[x] + first[x + 1] + first[x + 2] + first[x + 3] + first[x + 4] + first[x + 5] +
+                      first[x + 6] + first[x + 7] + first[x + 8];
     } else {
         for (int x = 0; x < count; ++x)
             sums[x] = first[x];
