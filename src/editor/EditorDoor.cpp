@@ -74,11 +74,12 @@ EditorFace EditorDoor::face() {
     const UndoFiles& undo = editor_.undoFiles;
     face.canUndo = undo.canUndo && !replaying_;
     face.canRedo = undo.canRedo && !replaying_;
+    face.scalesRadius = scalesRadius_;
     face.step = undo.iSaveSnapShot;
     if (std::exchange(stepSeen_, face.step) != face.step) undoBytes_ = undo.sizeOnDisk();
     face.undoBytes = undoBytes_;
     face.recorded = editor_.recording.count();
-    face.replaying = replaying_;
+    face.replaying = replaying_ || waits_;
     if (isSamePortrait()) face.lost = strokesOf(overwritten());
     face.replayable = lost_.empty() ? strokesOf(last_) : strokesOf(lost_);
     if (problem_.empty()) problem_ = std::exchange(editor_.undoFiles.problem, "");
@@ -136,7 +137,7 @@ EditedRows EditorDoor::enterNow() {
     // A visit in which nothing was done does not cost the recording of the one before.
     if (editor_.recording.savedCount() == 0)
         editor_.recording.setSaved(last_.items, last_.brushes, last_.iActiveButton);
-    return {};
+    return std::exchange(waits_, false) && !lost_.empty() ? replayNow() : EditedRows{};
 }
 
 // The present picture was made without them. Those of another portrait are none of this one's.
@@ -154,6 +155,7 @@ std::string EditorDoor::enterEditor() {
     editor_.setScreenZoom(homeZoom());
     const std::string problem = editor_.EnterEditorMode();
     start_ = tools();
+    start_.height = info_.geometry(Resolution::full).height;
     toldFull_ = false;
     stepSeen_ = -1;
     return problem;
@@ -162,6 +164,7 @@ std::string EditorDoor::enterEditor() {
 // A replay comes to its end first, so that the picture has all of it.
 void EditorDoor::leave() {
     push({[this]() -> EditedRows {
+        waits_ = false;
         if (replaying_) {
             leave();
         } else if (editor_.bShowCursor) {
@@ -195,7 +198,7 @@ void EditorDoor::apply(const EditItem& item) {
 // What would do nothing is not recorded: played behind another visit it would take a stroke of that one.
 EditedRows EditorDoor::doNow(const EditItem& item) {
     const std::int64_t key = item.kind == kKeyPressed ? item.V3 & 223 : 0;
-    if (!editor_.bShowCursor || replaying_) return {};
+    if (!editor_.bShowCursor || replaying_ || waits_) return {};
     if ((item.kind == kUndo || key == 'Z') && !editor_.undoFiles.canUndo) return {};
     if ((item.kind == kRedo || key == 'V') && !editor_.undoFiles.canRedo) return {};
     return editor_.apply(item, EditOrigin::live);
@@ -218,6 +221,13 @@ void EditorDoor::armEyeDropper(bool on) {
               return {};
           },
           false, true});
+}
+
+void EditorDoor::scaleRadius(bool on) {
+    push({[this, on]() -> EditedRows {
+        scalesRadius_ = on;
+        return {};
+    }});
 }
 
 void EditorDoor::look() {

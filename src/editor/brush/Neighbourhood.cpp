@@ -48,14 +48,20 @@ void StampPainter::prepareNeighbours(const Stamp& stamp) {
     });
 }
 
-// Sums of the columns from the left up to each one, over the rows in reach of row y.
-void StampPainter::sumRow(int y) {
+// Its colour was made before: no sums are needed for it.
+bool StampPainter::isKept(const QLXPixel& s, int x, int y) {
+    return keeps_ && !pixels_.isEmptied(s) && kept_.at(x, y).state != KeptColors::State::unknown;
+}
+
+// Sums of the columns from the left up to each one, over the rows in reach of row y, for its pixels [from, to).
+void StampPainter::sumRow(int y, int from, int to) {
     Sums* sums = &sums_[static_cast<std::size_t>(y - top_) * static_cast<std::size_t>(columns_ + 1)];
-    std::fill(sums, sums + columns_ + 1, Sums{});
+    const int begin = std::max(from - half_ - left_, 0), end = std::min(to + half_ - left_, columns_);
+    std::fill(sums + begin, sums + end + 1, Sums{});
     const int first = std::max(y - half_, 0), last = std::min(y + half_, pixels_.iHeight - 1);
     for (int row = first; row <= last; ++row) {
         const QLXPixel* pixels = &pixels_.snapShot(left_, row);
-        for (int column = 0; column < columns_; ++column) {
+        for (int column = begin; column < end; ++column) {
             const QLXPixel& p = pixels[column];
             if (!counts(p)) continue;
             Sums& sum = sums[column + 1];
@@ -66,7 +72,7 @@ void StampPainter::sumRow(int y) {
             ++sum.count;
         }
     }
-    for (int column = 0; column < columns_; ++column) {
+    for (int column = begin; column < end; ++column) {
         const Sums& before = sums[column];
         Sums& sum = sums[column + 1];
         sum = {sum.red + before.red, sum.green + before.green, sum.blue + before.blue, sum.largest + before.largest,
