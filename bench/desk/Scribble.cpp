@@ -39,7 +39,9 @@ QPointF placeOf(int move) {
 /// Notes which moves a paint shows: the editor says how many it has recorded before it hands its rows on.
 class Shown : public QObject {
   public:
-    Shown(MainWindow& window, std::vector<Clock::time_point>& times) : window_(window), times_(times) {
+    /// @param before items that were recorded before the first move
+    Shown(MainWindow& window, std::vector<Clock::time_point>& times, std::size_t before)
+        : window_(window), times_(times), before_(before) {
         picture_ = window.view()->fullPicture().cacheKey();
         window.view()->installEventFilter(this);
     }
@@ -50,18 +52,18 @@ class Shown : public QObject {
         const qint64 picture = window_.view()->fullPicture().cacheKey();
         if (event->type() != QEvent::Paint || picture == picture_) return false;
         picture_ = picture;
-        for (; shown < std::min(recorded - before, times_.size()); ++shown)
+        for (; shown < std::min(recorded - before_, times_.size()); ++shown)
             lags.push_back(Milliseconds(Clock::now() - times_[shown]).count());
         return false;
     }
 
-    std::size_t before = 0;  ///< items that were recorded before the first move
     std::size_t shown = 0;
     std::vector<double> lags;
 
   private:
     MainWindow& window_;
     std::vector<Clock::time_point>& times_;
+    std::size_t before_;
     qint64 picture_;
 };
 
@@ -85,11 +87,11 @@ void measureScribble(const Desk& desk, int brush, double seconds) {
     };
     const int moves = static_cast<int>(seconds * kMovesInSecond);
     std::vector<Clock::time_point> times(static_cast<std::size_t>(moves));
-    Shown shown(window, times);
     const int recorded = airbrush.face().recorded;
     post(QEvent::MouseButtonPress, placeOf(0));
     waitFor([&] { return airbrush.face().recorded > recorded; });
-    shown.before = static_cast<std::size_t>(airbrush.face().recorded);
+    desk.waitForPicture();
+    Shown shown(window, times, static_cast<std::size_t>(airbrush.face().recorded));
     desk.beginEvents();
     std::atomic<bool> ended = false;
     std::thread hand([&] {

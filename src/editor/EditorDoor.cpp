@@ -9,6 +9,10 @@ namespace tavrin {
 namespace {
 
 constexpr auto kShowEvery = std::chrono::milliseconds(25);  // what has been done by then is shown
+// So many moves that wait are more than a tenth of a second of a hand's: showing costs time, too, and comes less
+// often.
+constexpr std::size_t kBehind = 8;
+constexpr auto kShowBehind = std::chrono::milliseconds(100);
 
 }  // namespace
 
@@ -30,6 +34,7 @@ void EditorDoor::push(Piece piece) {
 
 std::vector<ChangedRows> EditorDoor::work() {
     const auto begun = std::chrono::steady_clock::now();
+    auto showEvery = kShowEvery;
     EditedRows changed;
     try {
         for (bool more = true; more;) {
@@ -38,12 +43,13 @@ std::vector<ChangedRows> EditorDoor::work() {
                 const std::lock_guard lock(mutex_);
                 scheduled_ = !pieces_.empty();
                 if (!scheduled_) break;
+                if (pieces_.size() > kBehind) showEvery = kShowBehind;
                 piece = std::move(pieces_.front());
                 pieces_.pop_front();
             }
             const EditedRows rows = piece.run();
             changed.add(rows.first, rows.last);
-            more = std::chrono::steady_clock::now() - begun < kShowEvery;
+            more = std::chrono::steady_clock::now() - begun < showEvery;
             if (!more) loop_.edit([this] { return work(); });
         }
     } catch (...) {
