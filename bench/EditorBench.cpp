@@ -43,8 +43,12 @@ void BM_Stamp(benchmark::State& state, char key, bool checked) {
     desk.play({kBrushSliders, 100, 25, 50, 100});
     desk.play({kCheckBox, checked});
     desk.play({kKeyPressed, 1000, 1000, 'a'});
-    for (auto _ : state)
+    int slider = 100;
+    for (auto _ : state) {
+        desk.play({kBrushSliders, slider, 25, 50, 100});  // another slider: what the last press has made is of no use
+        slider = 199 - slider;
         desk.play({kMouseDown, 750, 1900});  // every press makes its pixels anew
+    }
 }
 
 void threads(benchmark::internal::Benchmark* bench) {

@@ -1,5 +1,6 @@
 // How the window feels, in figures: start, the longest event of the main thread while a slider is dragged, from a
-// move to the preview on the screen, painting, and the strip. desk_bench [SECONDS of dragging]
+// move to the preview on the screen, painting, and the strip. desk_bench [SECONDS of dragging [scribble, for that
+// alone]]
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -17,7 +18,7 @@
 
 #include "core/files/Places.h"
 #include "core/raster/PixelMemory.h"
-#include "desk/StripFigures.h"
+#include "desk/Scribble.h"
 #include "session/OutputSizes.h"
 #include "session/StartUp.h"
 #include "ui/bind/Groove.h"
@@ -133,65 +134,6 @@ void drag(MainWindow& window, SystemInfo& info, TimedApplication& application, c
         if (used > 1.0) std::printf("    events of type %d: at most %.1f ms of CPU\n", type, used);
 }
 
-/// A hand that scribbles over the portrait with a tool: how long the picture waits behind it.
-void scribble(MainWindow& window, SystemInfo& info, TimedApplication& application, int brush, double seconds) {
-    window.panel()->selectMainTab(2);
-    const Airbrush& airbrush = *window.airbrush();
-    const auto until = [&](const auto& holds) {
-        for (const auto from = Clock::now(); !holds() && since(from) < 20000.0;)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-    };
-    waitForPicture(window, info);
-    until([&] { return airbrush.isOpen(); });
-    window.findChild<QAbstractButton*>(QString("buttonBrush%1").arg(brush))->click();
-    until([&] { return airbrush.face().iActiveButton == brush; });
-    PictureView* view = window.view();
-    const QRectF frame = view->zoom().frame();
-    const auto mouse = [&](QEvent::Type type, double x, double y) {
-        const QPointF at = frame.topLeft() + QPointF(frame.width() * x, frame.height() * y);
-        QMouseEvent event(type, at, view->mapToGlobal(at), Qt::LeftButton,
-                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(view, &event);
-    };
-    PaintWatch watch;
-    view->installEventFilter(&watch);
-    application.longest = 0.0;
-    application.longestUsed.clear();
-    std::vector<double> lags;
-    mouse(QEvent::MouseButtonPress, 0.5, 0.3);
-    int seen = airbrush.face().recorded;
-    const auto start = Clock::now();
-    for (int i = 1; since(start) < 1000.0 * seconds; ++i) {
-        const auto moved = Clock::now();
-        mouse(QEvent::MouseMove, 0.5 + 0.3 * std::sin(0.21 * i), 0.5 + 0.3 * std::sin(0.047 * i));
-        const qint64 before = view->fullPicture().cacheKey();
-        bool arrived = false, shown = false;
-        // A move whose stamps change nothing shows nothing.
-        const auto done = [&] { return shown || (!arrived && airbrush.face().recorded > seen); };
-        while (since(moved) < 1000.0 / 60.0 || (!done() && since(moved) < 1000.0)) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents);
-            if (!arrived && view->fullPicture().cacheKey() != before) {
-                arrived = true;
-                watch.painted = false;
-            }
-            if (arrived && watch.painted && !shown) {
-                lags.push_back(since(moved));
-                shown = true;
-            }
-            QThread::usleep(200);
-        }
-        seen = airbrush.face().recorded;
-    }
-    mouse(QEvent::MouseButtonRelease, 0.5, 0.3);
-    std::sort(lags.begin(), lags.end());
-    if (lags.empty()) return;
-    std::printf(
-        "scribble with tool %d: %zu moves; move to paint, median %.1f, longest %.1f ms; longest event %.1f ms\n",
-        brush, lags.size(), lags[lags.size() / 2], lags.back(), application.longest);
-    window.panel()->selectMainTab(0);
-    until([&] { return !airbrush.isOpen(); });
-}
-
 void paint(MainWindow& window, SystemInfo& info, const char* what) {
     waitForPicture(window, info);
     for (int i = 0; i < 60; ++i) {  // the small picture is made elsewhere
@@ -238,10 +180,19 @@ int main(int argc, char** argv) {
     chooseSizeByName(*info, "8x10 300 Vert");
     info->StartUpdate();
     window.resize(1600, 1000);
+    const bench::Desk desk{window, *info, [&] { waitForPicture(window, *info); },
+                           [&] { application.longestUsed.clear(); },
+                           [&] {
+                               double most = 0.0;
+                               for (const auto& [type, used] : application.longestUsed)
+                                   most = std::max(most, used);
+                               return most;
+                           }};
+    for (const int brush : {kPaint, kEraseForeground, kRestoreHair, kBlendEdge})
+        bench::measureScribble(desk, brush, seconds);
+    if (argc > 2) return 0;
     for (const char* name : {"sliderRemoveGreenAreas", "sliderBrightness", "sliderScale"})
         drag(window, *info, application, name, seconds);
-    for (const int brush : {kPaint, kEraseForeground, kRestoreHair, kBlendEdge})
-        scribble(window, *info, application, brush, seconds);
     window.view()->setFixedSize(1600, 1000);
     paint(window, *info, "fitted");
     window.commands().action("ShowSplit")->setChecked(true);
@@ -254,14 +205,6 @@ int main(int argc, char** argv) {
 
     window.view()->setZoomHome();
     qputenv("XDG_CACHE_HOME", account.filePath("cache").toLocal8Bit());
-    const bench::Desk desk{window, *info, [&] { waitForPicture(window, *info); },
-                           [&] { application.longestUsed.clear(); },
-                           [&] {
-                               double most = 0.0;
-                               for (const auto& [type, used] : application.longestUsed)
-                                   most = std::max(most, used);
-                               return most;
-                           }};
     bench::measureLargePortrait(desk, account.filePath("pictures").toStdString());
     bench::measureStrip(desk, account.filePath("pictures").toStdString());
     return 0;

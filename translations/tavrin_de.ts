@@ -99,6 +99,141 @@
     </message>
 </context>
 <context>
+    <name>Edits</name>
+    <message>
+        <source>There is no full picture to edit.</source>
+        <translation>Es gibt kein volles Bild zum Bearbeiten.</translation>
+    </message>
+    <message>
+        <source>Nothing can be edited: the picture of the silhouette cannot be read.</source>
+        <translation>Nichts kann bearbeitet werden: Das Bild der Silhouette ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>This step cannot be undone: %1.</source>
+        <translation>Dieser Schritt lässt sich nicht zurücknehmen: %1.</translation>
+    </message>
+    <message>
+        <source>This step stays: its file %1 cannot be read.</source>
+        <translation>Dieser Schritt bleibt: Seine Datei %1 ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The last stroke cannot be undone: its file could not be written.</source>
+        <translation>Der letzte Strich lässt sich nicht zurücknehmen: Seine Datei konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The recording is full: what is done from here on stays in the picture, but no replay has it.</source>
+        <translation>Die Aufzeichnung ist voll: Was ab hier geschieht, bleibt im Bild, wird aber nicht wiederholt.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3.</source>
+        <translation>%1, Zeile %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>den Ordner %1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>no permission to write into the folder %1</source>
+        <translation>keine Erlaubnis, in den Ordner %1 zu schreiben</translation>
+    </message>
+    <message>
+        <source>the folder %1 can only be read</source>
+        <translation>der Ordner %1 ist nur lesbar</translation>
+    </message>
+    <message>
+        <source>the file would be larger than this disk allows</source>
+        <translation>die Datei wäre größer, als dieser Datenträger erlaubt</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>die Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>that is no file of edits</source>
+        <translation>das ist keine Datei mit Strichen</translation>
+    </message>
+    <message>
+        <source>it is too large for a file of edits</source>
+        <translation>sie ist zu groß für eine Datei mit Strichen</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>sie ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>it does not begin with &quot;%1&quot;</source>
+        <translation>sie beginnt nicht mit „%1“</translation>
+    </message>
+    <message>
+        <source>it has no line &quot;view WIDTH HEIGHT&quot;</source>
+        <translation>ihr fehlt die Zeile „view WIDTH HEIGHT“</translation>
+    </message>
+    <message>
+        <source>a file of edits begins with &quot;%1&quot;</source>
+        <translation>eine Datei mit Strichen beginnt mit „%1“</translation>
+    </message>
+    <message>
+        <source>only version %1 of files of edits is known here</source>
+        <translation>hier ist nur Version %1 solcher Dateien bekannt</translation>
+    </message>
+    <message>
+        <source>there is a view already</source>
+        <translation>view steht schon da</translation>
+    </message>
+    <message>
+        <source>view takes width and height in pixels, each 1 to 100000</source>
+        <translation>view nimmt Breite und Höhe in Pixeln, je 1 bis 100000</translation>
+    </message>
+    <message>
+        <source>zoom stands before the first item</source>
+        <translation>zoom steht vor dem ersten Eintrag</translation>
+    </message>
+    <message>
+        <source>zoom takes the pixels of a point of the view, 0.001 to 1000</source>
+        <translation>zoom nimmt die Pixel je Punkt der Ansicht, 0.001 bis 1000</translation>
+    </message>
+    <message>
+        <source>seed takes a whole number from 0 on</source>
+        <translation>seed nimmt eine ganze Zahl ab 0</translation>
+    </message>
+    <message>
+        <source>the line &quot;view WIDTH HEIGHT&quot; comes before the items</source>
+        <translation>die Zeile „view WIDTH HEIGHT“ steht vor den Einträgen</translation>
+    </message>
+    <message>
+        <source>an item is a kind and up to four values</source>
+        <translation>ein Eintrag ist eine Art und bis zu vier Werte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number</source>
+        <translation>„%1“ ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>%1 takes 1 value</source>
+        <translation>%1 nimmt 1 Wert</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 values</source>
+        <translation>%1 nimmt %2 Werte</translation>
+    </message>
+    <message>
+        <source>%1, and it goes from %2 to %3</source>
+        <translation>%1 – erlaubt ist %2 bis %3</translation>
+    </message>
+</context>
+<context>
     <name>Panel</name>
     <message>
         <source>Quick settings</source>
@@ -2808,6 +2943,14 @@
 </context>
 <context>
     <name>tavrin::EditorPage</name>
+    <message>
+        <source>Radius follows the picture&apos;s size</source>
+        <translation>Radius folgt der Bildgröße</translation>
+    </message>
+    <message>
+        <source>Strokes that are replayed at another size of the picture become as much thicker or thinner</source>
+        <translation>Striche, die bei anderer Bildgröße wiederholt werden, werden entsprechend dicker oder dünner</translation>
+    </message>
     <message>
         <source>Keeps light and dark, and changes only the colour</source>
         <translation>Behält Hell und Dunkel und ändert nur die Farbe</translation>

@@ -99,6 +99,141 @@
     </message>
 </context>
 <context>
+    <name>Edits</name>
+    <message>
+        <source>There is no full picture to edit.</source>
+        <translation>No hay ninguna imagen completa que retocar.</translation>
+    </message>
+    <message>
+        <source>Nothing can be edited: the picture of the silhouette cannot be read.</source>
+        <translation>No se puede retocar nada: no se puede leer la imagen de la silueta.</translation>
+    </message>
+    <message>
+        <source>This step cannot be undone: %1.</source>
+        <translation>Este paso no se puede deshacer: %1.</translation>
+    </message>
+    <message>
+        <source>This step stays: its file %1 cannot be read.</source>
+        <translation>Este paso se queda: no se puede leer su archivo %1.</translation>
+    </message>
+    <message>
+        <source>The last stroke cannot be undone: its file could not be written.</source>
+        <translation>El último trazo no se puede deshacer: no se pudo escribir su archivo.</translation>
+    </message>
+    <message>
+        <source>The recording is full: what is done from here on stays in the picture, but no replay has it.</source>
+        <translation>La grabación está llena: lo que se haga desde ahora queda en la imagen, pero no se repetirá.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3.</source>
+        <translation>%1, línea %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>el disco está lleno</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>la carpeta %1 no existe</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 no es una carpeta</translation>
+    </message>
+    <message>
+        <source>no permission to write into the folder %1</source>
+        <translation>sin permiso para escribir en la carpeta %1</translation>
+    </message>
+    <message>
+        <source>the folder %1 can only be read</source>
+        <translation>la carpeta %1 es de solo lectura</translation>
+    </message>
+    <message>
+        <source>the file would be larger than this disk allows</source>
+        <translation>el archivo sería mayor de lo que permite este disco</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ese archivo no existe</translation>
+    </message>
+    <message>
+        <source>that is no file of edits</source>
+        <translation>no es un archivo de trazos</translation>
+    </message>
+    <message>
+        <source>it is too large for a file of edits</source>
+        <translation>es demasiado grande para un archivo de trazos</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>it does not begin with &quot;%1&quot;</source>
+        <translation>no empieza por «%1»</translation>
+    </message>
+    <message>
+        <source>it has no line &quot;view WIDTH HEIGHT&quot;</source>
+        <translation>le falta la línea «view WIDTH HEIGHT»</translation>
+    </message>
+    <message>
+        <source>a file of edits begins with &quot;%1&quot;</source>
+        <translation>un archivo de trazos empieza por «%1»</translation>
+    </message>
+    <message>
+        <source>only version %1 of files of edits is known here</source>
+        <translation>aquí solo se conoce la versión %1 de estos archivos</translation>
+    </message>
+    <message>
+        <source>there is a view already</source>
+        <translation>ya hay un view</translation>
+    </message>
+    <message>
+        <source>view takes width and height in pixels, each 1 to 100000</source>
+        <translation>view lleva ancho y alto en píxeles, de 1 a 100000</translation>
+    </message>
+    <message>
+        <source>zoom stands before the first item</source>
+        <translation>zoom va antes del primer elemento</translation>
+    </message>
+    <message>
+        <source>zoom takes the pixels of a point of the view, 0.001 to 1000</source>
+        <translation>zoom lleva los píxeles de un punto de la vista, de 0.001 a 1000</translation>
+    </message>
+    <message>
+        <source>seed takes a whole number from 0 on</source>
+        <translation>seed lleva un número entero desde 0</translation>
+    </message>
+    <message>
+        <source>the line &quot;view WIDTH HEIGHT&quot; comes before the items</source>
+        <translation>la línea «view WIDTH HEIGHT» va antes de los elementos</translation>
+    </message>
+    <message>
+        <source>an item is a kind and up to four values</source>
+        <translation>un elemento es una clase y hasta cuatro valores</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number</source>
+        <translation>«%1» no es un número entero</translation>
+    </message>
+    <message>
+        <source>%1 takes 1 value</source>
+        <translation>%1 lleva 1 valor</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 values</source>
+        <translation>%1 lleva %2 valores</translation>
+    </message>
+    <message>
+        <source>%1, and it goes from %2 to %3</source>
+        <translation>%1, y va de %2 a %3</translation>
+    </message>
+</context>
+<context>
     <name>Panel</name>
     <message>
         <source>Quick settings</source>
@@ -2808,6 +2943,14 @@
 </context>
 <context>
     <name>tavrin::EditorPage</name>
+    <message>
+        <source>Radius follows the picture&apos;s size</source>
+        <translation>El radio sigue el tamaño de la imagen</translation>
+    </message>
+    <message>
+        <source>Strokes that are replayed at another size of the picture become as much thicker or thinner</source>
+        <translation>Los trazos que se repiten con otro tamaño de imagen se hacen más gruesos o más finos en proporción</translation>
+    </message>
     <message>
         <source>Keeps light and dark, and changes only the colour</source>
         <translation>Conserva luces y sombras y cambia solo el color</translation>

@@ -1,6 +1,8 @@
 #include "editor/ColorSelection.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 
 #include "core/raster/Rows.h"
 
@@ -20,24 +22,29 @@ int largestWithin(double limit) {
     return square;
 }
 
+// The squares of the distances that a colour's steps have, by which it is within the limit or not.
 class ColorRange {
   public:
-    ColorRange(const HsvColor& picked, double tolerance)
-        : h_(static_cast<int>(picked.h)),
-          s_(static_cast<int>(100.0 * picked.s)),
-          v_(static_cast<int>(picked.v / 2.0)),
-          square_(largestWithin(tolerance * 255.0)) {}
-
-    bool holds(const QLXPixel& color) const {
-        const HsvColor c = toHsv(color.red, color.green, color.blue);
-        int h = std::abs(static_cast<int>(c.h) - h_);
-        if (h >= 181) h = 360 - h;
-        const int ds = static_cast<int>(100.0 * c.s) - s_, dv = static_cast<int>(c.v / 2.0) - v_;
-        return 4 * h * h + ds * ds + dv * dv <= square_;
+    ColorRange(const HsvColor& picked, double tolerance) : square_(largestWithin(tolerance * 255.0)) {
+        const int h = static_cast<int>(picked.h), s = static_cast<int>(100.0 * picked.s);
+        const int v = static_cast<int>(picked.v / 2.0);
+        for (int i = 0; i < static_cast<int>(hues_.size()); ++i) {
+            const int away = std::abs(i - h), folded = away >= 181 ? 360 - away : away;
+            hues_[static_cast<std::size_t>(i)] = 4 * folded * folded;
+        }
+        for (int i = 0; i < static_cast<int>(saturations_.size()); ++i)
+            saturations_[static_cast<std::size_t>(i)] = (i - s) * (i - s);
+        for (int i = 0; i < static_cast<int>(values_.size()); ++i)
+            values_[static_cast<std::size_t>(i)] = (i - v) * (i - v);
     }
 
+    bool holds(const ColorSteps& c) const { return hues_[c.h] + saturations_[c.s] + values_[c.v] <= square_; }
+
   private:
-    int h_, s_, v_, square_;
+    std::array<int, 360> hues_;
+    std::array<int, 101> saturations_;
+    std::array<int, 128> values_;
+    int square_;
 };
 
 void drawPattern(std::uint8_t* p, int x, int y) {
@@ -46,8 +53,32 @@ void drawPattern(std::uint8_t* p, int x, int y) {
         p[channel] = static_cast<std::uint8_t>(std::clamp(p[channel] + by, 0, 255));
 }
 
-bool isSame(const QLXPixel& a, const QLXPixel& b) {
-    return a.red == b.red && a.green == b.green && a.blue == b.blue;
+// All pixels of a row that are protected come back from the snapshot and are set free.
+void freeRow(EditorPixels& pixels, int y) {
+    std::uint8_t* mask = pixels.pMaskSelection.data();
+    const std::size_t end = pixels.index(0, y + 1);
+    for (std::size_t i = pixels.index(0, y); i < end; ++i) {
+        const void* found = std::memchr(mask + i, 0, end - i);
+        if (!found) return;
+        i = static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - mask);
+        pixels.putBack(i);
+        mask[i] = 1;
+    }
+}
+
+std::vector<ColorSteps> foregroundSteps(const EditorPixels& pixels, const EditorKey& key) {
+    std::vector<ColorSteps> steps(pixels.pMaskSelection.size());
+    const ColorStepTables& tables = ColorStepTables::get();
+    runRows({}, pixels.iHeight, kGrain, [&](int y) {
+        for (int x = 0; x < pixels.iWidth; ++x) {
+            const std::size_t i = pixels.index(x, y);
+            const std::uint8_t* p = pixels.pFOrg + i * kPixelBytes;
+            QLXPixel c{p[0], p[1], p[2], 255, 0};
+            if (key.adjustsForeground) c = key.spill.adjustedForeground(x, y);
+            steps[i] = tables.of(c.red, c.green, c.blue);
+        }
+    });
+    return steps;
 }
 
 }  // namespace
@@ -55,27 +86,21 @@ bool isSame(const QLXPixel& a, const QLXPixel& b) {
 bool ColorSelection::SelectColorRange(EditorPixels& pixels, const EditorKey& key, bool invert) {
     if (bSelected || iSelectionMode == kNone) return false;
     bSelected = true;
+    if (iSelectionMode == kForegroundColor && foreground_.empty()) foreground_ = foregroundSteps(pixels, key);
     const ColorRange range(selectColor, dSelectTolerance);
-    const auto colorAt = [&](int x, int y) -> QLXPixel {
-        if (iSelectionMode == kForegroundColor) return key.spill.adjustedForeground(x, y);
+    const ColorStepTables& tables = ColorStepTables::get();
+    const auto stepsAt = [&](std::size_t i) -> ColorSteps {
+        if (iSelectionMode == kForegroundColor) return foreground_[i];
         if (iSelectionMode != kCombinedColor) return {};
-        const std::uint8_t* p = pixels.pC + pixels.index(x, y) * kPixelBytes;
-        return {p[0], p[1], p[2], 0, 0};
+        const std::uint8_t* p = pixels.pC + i * kPixelBytes;
+        return tables.of(p[0], p[1], p[2]);
     };
-    const bool blackHolds = range.holds({});
+    pixels.oRowsToPutBack.assign(pixels.oRowsToPutBack.size(), 1);
     runRows({}, pixels.iHeight, kGrain, [&](int y) {
-        QLXPixel last;  // neighbours often have one colour
-        bool lastHolds = blackHolds;
+        freeRow(pixels, y);
         for (int x = 0; x < pixels.iWidth; ++x) {
             const std::size_t i = pixels.index(x, y);
-            if (pixels.pMaskSelection[i] == 0) pixels.putBack(i);
-            pixels.pMaskSelection[i] = 1;
-            const QLXPixel color = colorAt(x, y);
-            if (!isSame(color, last)) {
-                last = color;
-                lastHolds = range.holds(color);
-            }
-            if (lastHolds == invert) continue;
+            if (range.holds(stepsAt(i)) == invert) continue;
             QLXPixel& s = pixels.oSnapShot[i];
             std::uint8_t* p = pixels.pS + i * kPixelBytes;
             s = {p[0], p[1], p[2], pixels.pB[i * kPixelBytes + 3], s.percent};
@@ -89,13 +114,13 @@ bool ColorSelection::SelectColorRange(EditorPixels& pixels, const EditorKey& key
 bool ColorSelection::DeselectColorRange(EditorPixels& pixels) {
     if (!bSelected) return false;
     bSelected = false;
-    runRows({}, pixels.iHeight, kGrain, [&](int y) {
-        for (std::size_t i = pixels.index(0, y), end = pixels.index(0, y + 1); i < end; ++i) {
-            if (pixels.pMaskSelection[i] == 0) pixels.putBack(i);
-            pixels.pMaskSelection[i] = 1;
-        }
-    });
+    runRows({}, pixels.iHeight, kGrain, [&](int y) { freeRow(pixels, y); });
     return true;
+}
+
+void ColorSelection::beginVisit() {
+    bSelected = false;
+    foreground_ = {};
 }
 
 }  // namespace tavrin

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vector>
+
+#include "editor/brush/ColorSteps.h"
 #include "editor/brush/EditorKey.h"
 #include "editor/brush/EditorPixels.h"
 
@@ -21,6 +24,11 @@ struct ColorSelection {
     /// Takes the pattern off and sets all pixels free.
     /// @return whether one stood
     bool DeselectColorRange(EditorPixels& pixels);
+    /// Another visit begins, with a new mask and perhaps another foreground.
+    void beginVisit();
+
+  private:
+    std::vector<ColorSteps> foreground_;  // of every pixel, adjusted; empty until it is asked for
 };
 
 }  // namespace tavrin

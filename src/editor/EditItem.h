@@ -22,6 +22,7 @@ enum EditKind : std::int64_t {
     kUndo = 201,
     kZoomIn = 202,
     kZoomHome = 203,
+    kRadiusScale = 300,  ///< two heights of pictures, from 1: stamps become the first over the second as large
 };
 
 /// One command of the editor, as a recording holds it. Values that a kind has no use for are 0.

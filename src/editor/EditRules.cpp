@@ -16,6 +16,7 @@ struct Value {
 constexpr Value kX = {"x", -100'000, 100'000}, kY = {"y", -100'000, 100'000};
 constexpr Value kCharacter = {"the character", 0, 255}, kState = {"the state", 0, 1};
 constexpr Value kRed = {"red", 0, 255}, kGreen = {"green", 0, 255}, kBlue = {"blue", 0, 255};
+constexpr Value kThisHeight = {"the height", 1, 1'000'000'000}, kThatHeight = {"the other height", 1, 1'000'000'000};
 
 struct Rule {
     std::int64_t kind;
@@ -47,6 +48,7 @@ constexpr Rule kRules[] = {
     {kUndo, "undo", 0, {}},
     {kZoomIn, "zoom in", 0, {}},
     {kZoomHome, "zoom home", 0, {}},
+    {kRadiusScale, "scale of the radius", 2, {kThisHeight, kThatHeight}},
 };
 
 const Rule* ruleOf(std::int64_t kind) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace tavrin {
 
@@ -42,6 +43,18 @@ std::vector<EditItem> itemsTo(const EditVisit& wanted, const EditVisit& from) {
     }
     choose(wanted.iActiveButton);
     if (wanted.well) items.push_back({kColorWell, wanted.well->red, wanted.well->green, wanted.well->blue});
+    return items;
+}
+
+std::vector<EditItem> withScale(std::vector<EditItem> items, std::int64_t height, std::int64_t ofHeight) {
+    for (EditItem& item : items) {
+        if (item.kind != kRadiusScale) continue;
+        item.V1 *= height;
+        item.V2 *= ofHeight;
+        const std::int64_t common = std::gcd(item.V1, item.V2);
+        item.V1 /= common;
+        item.V2 /= common;
+    }
     return items;
 }
 

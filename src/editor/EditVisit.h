@@ -14,10 +14,14 @@ struct EditVisit {
     BrushTable brushes = makeBrushTable();
     int iActiveButton = kEraseForeground;
     std::optional<GUI_BrushInfo> well;  ///< the colour well
+    int height = 0;                     ///< of the picture that was edited, in pixels
 };
 
 /// What brings the tools from the start of one visit to that of another.
 std::vector<EditItem> itemsTo(const EditVisit& wanted, const EditVisit& from);
+
+/// The same with every scale of the radius `height` over `ofHeight` as large.
+std::vector<EditItem> withScale(std::vector<EditItem> items, std::int64_t height, std::int64_t ofHeight);
 
 /// Strokes that were begun in a visit, or in all of these.
 int strokesOf(const EditVisit& visit);

@@ -14,7 +14,7 @@ std::string Editor::EnterEditorMode() {
     key_.reset();
     painter_.reset();
     if (!pixels_.enter(info_)) return "There is no full picture to edit.";
-    selection.bSelected = false;  // its mask is gone
+    selection.beginVisit();
     if (!info_.sSilhouetteFileName.load().empty() && info_.bOutputSilhouette && info_.silhouettePicture.isNull())
         return "Nothing can be edited: the picture of the silhouette cannot be read.";
     key_.emplace(info_);
@@ -22,6 +22,7 @@ std::string Editor::EnterEditorMode() {
     pixels_.TakeSnapShot();
     undoFiles.begin();
     strokes = strokesInside = 0;
+    playedScale_ = 1.0;
     strokeMet_ = true;
     recording.moveAside();
     return "";
@@ -164,6 +165,9 @@ void Editor::act(const EditItem& item) {
             dZoom = 1.0;
             dScreenZoom = homeZoom_;
             break;
+        case kRadiusScale:
+            playedScale_ = static_cast<double>(item.V1) / static_cast<double>(item.V2);
+            break;
         default:
             break;
     }
@@ -240,8 +244,8 @@ void Editor::redo() {
 
 // A selection is worked out anew on the changed picture.
 void Editor::writeSnapShotBack() {
-    pixels_.putAllBack();
-    changedAll();
+    const EditedRows rows = pixels_.putAllBack();
+    changed_.add(rows.first, rows.last);
     if (selection.bSelected) selectAgain();
 }
 

@@ -119,6 +119,7 @@ class Editor {
     bool bAnchorFirstTime_ = false;
     bool strokeMet_ = true;  // the running stroke, or no stroke runs
     double homeZoom_ = 1.0, radiusScale_ = 1.0;
+    double playedScale_ = 1.0;  // of the radius, by an item
     std::int32_t iReplayIndex_ = 0;
     EditedRows changed_;
 };

@@ -9,6 +9,10 @@ namespace tavrin {
 namespace {
 
 constexpr auto kShowEvery = std::chrono::milliseconds(25);  // what has been done by then is shown
+// So many moves that wait are more than a tenth of a second of a hand's: showing costs time, too, and comes less
+// often.
+constexpr std::size_t kBehind = 8;
+constexpr auto kShowBehind = std::chrono::milliseconds(100);
 
 }  // namespace
 
@@ -30,6 +34,7 @@ void EditorDoor::push(Piece piece) {
 
 std::vector<ChangedRows> EditorDoor::work() {
     const auto begun = std::chrono::steady_clock::now();
+    auto showEvery = kShowEvery;
     EditedRows changed;
     try {
         for (bool more = true; more;) {
@@ -38,12 +43,13 @@ std::vector<ChangedRows> EditorDoor::work() {
                 const std::lock_guard lock(mutex_);
                 scheduled_ = !pieces_.empty();
                 if (!scheduled_) break;
+                if (pieces_.size() > kBehind) showEvery = kShowBehind;
                 piece = std::move(pieces_.front());
                 pieces_.pop_front();
             }
             const EditedRows rows = piece.run();
             changed.add(rows.first, rows.last);
-            more = std::chrono::steady_clock::now() - begun < kShowEvery;
+            more = std::chrono::steady_clock::now() - begun < showEvery;
             if (!more) loop_.edit([this] { return work(); });
         }
     } catch (...) {
@@ -74,11 +80,12 @@ EditorFace EditorDoor::face() {
     const UndoFiles& undo = editor_.undoFiles;
     face.canUndo = undo.canUndo && !replaying_;
     face.canRedo = undo.canRedo && !replaying_;
+    face.scalesRadius = scalesRadius_;
     face.step = undo.iSaveSnapShot;
     if (std::exchange(stepSeen_, face.step) != face.step) undoBytes_ = undo.sizeOnDisk();
     face.undoBytes = undoBytes_;
     face.recorded = editor_.recording.count();
-    face.replaying = replaying_;
+    face.replaying = replaying_ || waits_;
     if (isSamePortrait()) face.lost = strokesOf(overwritten());
     face.replayable = lost_.empty() ? strokesOf(last_) : strokesOf(lost_);
     if (problem_.empty()) problem_ = std::exchange(editor_.undoFiles.problem, "");
@@ -136,7 +143,7 @@ EditedRows EditorDoor::enterNow() {
     // A visit in which nothing was done does not cost the recording of the one before.
     if (editor_.recording.savedCount() == 0)
         editor_.recording.setSaved(last_.items, last_.brushes, last_.iActiveButton);
-    return {};
+    return std::exchange(waits_, false) && !lost_.empty() ? replayNow() : EditedRows{};
 }
 
 // The present picture was made without them. Those of another portrait are none of this one's.
@@ -154,6 +161,7 @@ std::string EditorDoor::enterEditor() {
     editor_.setScreenZoom(homeZoom());
     const std::string problem = editor_.EnterEditorMode();
     start_ = tools();
+    start_.height = info_.geometry(Resolution::full).height;
     toldFull_ = false;
     stepSeen_ = -1;
     return problem;
@@ -162,6 +170,7 @@ std::string EditorDoor::enterEditor() {
 // A replay comes to its end first, so that the picture has all of it.
 void EditorDoor::leave() {
     push({[this]() -> EditedRows {
+        waits_ = false;
         if (replaying_) {
             leave();
         } else if (editor_.bShowCursor) {
@@ -195,7 +204,7 @@ void EditorDoor::apply(const EditItem& item) {
 // What would do nothing is not recorded: played behind another visit it would take a stroke of that one.
 EditedRows EditorDoor::doNow(const EditItem& item) {
     const std::int64_t key = item.kind == kKeyPressed ? item.V3 & 223 : 0;
-    if (!editor_.bShowCursor || replaying_) return {};
+    if (!editor_.bShowCursor || replaying_ || waits_) return {};
     if ((item.kind == kUndo || key == 'Z') && !editor_.undoFiles.canUndo) return {};
     if ((item.kind == kRedo || key == 'V') && !editor_.undoFiles.canRedo) return {};
     return editor_.apply(item, EditOrigin::live);
@@ -218,6 +227,13 @@ void EditorDoor::armEyeDropper(bool on) {
               return {};
           },
           false, true});
+}
+
+void EditorDoor::scaleRadius(bool on) {
+    push({[this, on]() -> EditedRows {
+        scalesRadius_ = on;
+        return {};
+    }});
 }
 
 void EditorDoor::look() {

@@ -27,7 +27,8 @@ struct EditorFace {
     int recorded = 0;              ///< items
     int replayable = 0;            ///< strokes that a replay would bring
     int lost = 0;                  ///< strokes that the present picture was made without
-    bool replaying = false;
+    bool replaying = false;        ///< or about to
+    bool scalesRadius = false;
     std::string problem;  ///< what went wrong, as one plain line, once
 };
 
@@ -46,9 +47,12 @@ class EditorDoor {
     /// An item with a place: pixels of the picture from its upper left corner, y downward.
     void applyAt(std::int64_t kind, double x, double y, std::int64_t character = 0);
     void armEyeDropper(bool on);
+    /// Whether strokes that are played at another size of the picture become as much thicker.
+    void scaleRadius(bool on);
     /// Plays what the last pass overwrote, visit by visit, or else the last visit's recording, a few items at a time.
     void replay();
-    /// Plays a file of edits on the present picture.
+    /// Plays a file of edits on the present picture. One that says where random numbers start has the picture made
+    /// anew from there first, and all strokes come back with it.
     void play(EditFile file);
     /// Strokes that were kept with the portrait at hand: they count as overwritten.
     void offer(EditFile file);
@@ -89,7 +93,9 @@ class EditorDoor {
     EditedRows playNow(EditFile file);
     EditVisit visitOf(const EditFile& file) const;
     EditVisit tools() const;
+    EditedRows makeAnew(const EditFile& file);
     void begin(const EditVisit& visit);
+    void endPlaying();
     EditedRows tick();
     EditVisit present() const;
     std::vector<EditVisit> overwritten() const;
@@ -113,6 +119,8 @@ class EditorDoor {
     std::string portrait_;           // and its source
     double frameHeight_ = 0.0;       // points of the view that recorded positions go by
     bool replaying_ = false, toldFull_ = false;
+    bool waits_ = false;  // for the picture that is made anew, to play on it
+    bool scalesRadius_ = false, scaled_ = false;
     bool patternOff_ = false;  // for as long as the picture goes out
     std::int32_t stepSeen_ = -1;
     std::uintmax_t undoBytes_ = 0;

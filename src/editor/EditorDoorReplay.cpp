@@ -15,7 +15,7 @@ void EditorDoor::play(EditFile file) {
 }
 
 EditedRows EditorDoor::replayNow() {
-    if (!editor_.bShowCursor || replaying_) return {};
+    if (!editor_.bShowCursor || replaying_ || waits_) return {};
     if (lost_.empty() && last_.items.empty()) return {};
     toPlay_.assign(lost_.begin(), lost_.end());
     if (lost_.empty()) toPlay_.push_back(last_);
@@ -30,14 +30,28 @@ EditedRows EditorDoor::replayNow() {
 
 // Positions of the file come to the points that are recorded here. While nothing is, its own points are taken.
 EditedRows EditorDoor::playNow(EditFile file) {
-    if (!editor_.bShowCursor || replaying_) return {};
+    if (!editor_.bShowCursor || replaying_ || waits_) return {};
     const double frame = file.height / file.zoom;
     if (visits_.empty() && editor_.recording.count() == 0) {
         frameHeight_ = frame;
         editor_.setScreenZoom(homeZoom());
     }
+    if (file.seed) return makeAnew(file);
     lost_ = {visitOf(file)};
     return replayNow();
+}
+
+// What is in the picture goes with it, and comes back before the file's strokes.
+EditedRows EditorDoor::makeAnew(const EditFile& file) {
+    lost_ = std::exchange(visits_, {});
+    if (editor_.recording.count() > 0) lost_.push_back(present());
+    lost_.push_back(visitOf(file));
+    last_ = lost_.back();
+    editor_.recording.clear();
+    waits_ = true;
+    info_.randomSeeds.startAt(*file.seed);
+    info_.StartUpdate();
+    return {};
 }
 
 EditVisit EditorDoor::visitOf(const EditFile& file) const {
@@ -46,6 +60,7 @@ EditVisit EditorDoor::visitOf(const EditFile& file) const {
         return frame == frameHeight_ ? v : std::llround(static_cast<double>(v) * frameHeight_ / frame);
     };
     EditVisit visit;
+    visit.height = file.height;
     for (EditItem item : file.items) {
         if (item.kind == kMouseDown || item.kind == kMouseDragged || item.kind == kKeyPressed) {
             item.V1 = scaled(item.V1);
@@ -75,6 +90,7 @@ void EditorDoor::begin(const EditVisit& visit) {
     if (editor_.recording.count() == 0) {
         start_ = visit;
         start_.items.clear();
+        start_.height = info_.geometry(Resolution::full).height;
         editor_.setScreenZoom(homeZoom());
         editor_.putWell(visit.well);
     } else {
@@ -82,8 +98,17 @@ void EditorDoor::begin(const EditVisit& visit) {
         for (const EditItem& item : itemsTo(visit, tools()))
             editor_.apply(item, EditOrigin::live);
     }
-    editor_.recording.setSaved(visit.items, visit.brushes, visit.iActiveButton);
+    const int height = info_.geometry(Resolution::full).height;
+    scaled_ = scalesRadius_ && visit.height > 0 && visit.height != height;
+    if (scaled_) editor_.apply({kRadiusScale, height, visit.height}, EditOrigin::live);
+    editor_.recording.setSaved(scaled_ ? withScale(visit.items, height, visit.height) : visit.items, visit.brushes,
+                               visit.iActiveButton);
     editor_.startReplay();
+}
+
+// What a hand does behind it has its own size again.
+void EditorDoor::endPlaying() {
+    if (std::exchange(scaled_, false)) editor_.apply({kRadiusScale, 1, 1}, EditOrigin::live);
 }
 
 // Each visit began with an editor that was entered anew, and so it is played.
@@ -91,6 +116,7 @@ EditedRows EditorDoor::tick() {
     EditedRows changed;
     if (!replaying_) return changed;
     if (!editor_.OnReplayTimer(changed)) {
+        endPlaying();
         if (!toPlay_.empty()) toPlay_.pop_front();
         replaying_ = !toPlay_.empty();
         if (!replaying_) {

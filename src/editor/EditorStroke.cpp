@@ -29,7 +29,7 @@ void Editor::ProcessBrushMove(double x, double y) {
     strokeMet_ = true;
     if (iActiveButton != kCopy) bShowAnchorCursor = false;
     Stamp stamp(iActiveButton, active(), key_->bUseBlueLogic);
-    stamp.iRadius = active().radiusInPixels(radiusScale_);
+    stamp.iRadius = active().radiusInPixels(radiusScale_ * playedScale_);
     stamp.iXCursor = iXCursor;
     stamp.iYCursor = iYCursor;
     if (iActiveButton == kCopy && dAnchorOrgX != -1.0 && painter_->reachesAny(stamp)) {

@@ -1,6 +1,6 @@
 #include "editor/UndoFiles.h"
 
-#include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -8,6 +8,7 @@
 #include "core/Log.h"
 #include "core/files/AtomicFile.h"
 #include "core/files/TempFiles.h"
+#include "core/raster/Rows.h"
 
 namespace fs = std::filesystem;
 
@@ -16,33 +17,14 @@ namespace tavrin {
 namespace {
 
 constexpr std::size_t kRowNumberBytes = 4;
+constexpr int kPiece = 64;  // rows of a piece of work that only moves bytes
 
 std::size_t rowBytes(const EditorPixels& pixels) {
     return static_cast<std::size_t>(pixels.iWidth) * sizeof(QLXPixel);
 }
 
-void appendRow(std::vector<char>& records, const EditorPixels& pixels, std::int32_t row) {
-    const std::size_t at = records.size();
-    records.resize(at + kRowNumberBytes + rowBytes(pixels));
-    std::memcpy(&records[at], &row, kRowNumberBytes);
-    std::memcpy(&records[at + kRowNumberBytes], &pixels.snapShot(0, row), rowBytes(pixels));
-}
-
-// Every record of a file: the row's number and its bytes.
-template <class Visit>
-void eachRecord(const std::vector<char>& records, const EditorPixels& pixels, const Visit& visit) {
-    const std::size_t size = kRowNumberBytes + rowBytes(pixels);
-    for (std::size_t at = 0; at + size <= records.size(); at += size) {
-        std::int32_t row;
-        std::memcpy(&row, &records[at], kRowNumberBytes);
-        visit(row, &records[at + kRowNumberBytes]);
-    }
-}
-
-void takeRows(EditorPixels& pixels, const std::vector<char>& records) {
-    eachRecord(records, pixels, [&](std::int32_t row, const char* bytes) {
-        std::memcpy(static_cast<void*>(&pixels.snapShot(0, row)), bytes, rowBytes(pixels));
-    });
+std::size_t recordBytes(const EditorPixels& pixels) {
+    return kRowNumberBytes + rowBytes(pixels);
 }
 
 }  // namespace
@@ -62,49 +44,80 @@ fs::path UndoFiles::fileOf(const char* name, std::int32_t step) const {
     return folder_ / (name + std::to_string(step) + ".bin");
 }
 
-bool UndoFiles::write(const fs::path& path, const std::vector<char>& records) {
+// The first failure tells why: a call behind it may say something else.
+bool UndoFiles::write(const fs::path& path, const EditorPixels& pixels, const std::vector<std::int32_t>& rows) {
     std::error_code ignored;
     fs::create_directories(folder_, ignored);
     errno = 0;
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file.write(records.data(), static_cast<std::streamsize>(records.size()));
+    for (std::size_t i = 0; file && i < rows.size(); ++i) {
+        file.write(reinterpret_cast<const char*>(&rows[i]), kRowNumberBytes);
+        file.write(reinterpret_cast<const char*>(&pixels.snapShot(0, rows[i])),
+                   static_cast<std::streamsize>(rowBytes(pixels)));
+    }
+    const bool written = static_cast<bool>(file);
+    int code = errno;
     file.close();
     if (file) return true;
-    const int code = errno;
+    if (written) code = errno;
     fs::remove(path, ignored);
     logError("Open of testout for writing failed");
     problem = "This step cannot be undone: " + writeProblem(code, folder_.string()) + ".";
     return false;
 }
 
-std::vector<char> UndoFiles::read(const fs::path& path, const EditorPixels& pixels) {
-    std::ifstream file(path, std::ios::binary | std::ios::ate);
-    const std::streamoff size = file ? static_cast<std::streamoff>(file.tellg()) : 0;
-    std::vector<char> records(static_cast<std::size_t>(std::max<std::streamoff>(size, 0)));
-    file.seekg(0);
-    file.read(records.data(), static_cast<std::streamsize>(records.size()));
-    bool whole = file && !records.empty() && records.size() % (kRowNumberBytes + rowBytes(pixels)) == 0;
-    eachRecord(records, pixels,
-               [&](std::int32_t row, const char*) { whole = whole && row >= 0 && row < pixels.iHeight; });
+UndoFiles::Records UndoFiles::read(const fs::path& path, const EditorPixels& pixels) {
+    std::error_code failed;
+    const std::uintmax_t found = fs::file_size(path, failed);
+    const std::size_t record = recordBytes(pixels), size = failed ? 0 : static_cast<std::size_t>(found);
+    std::atomic<bool> whole = size > 0 && size % record == 0 && size / record <= pixels.oSnapShotTouch.size();
+    Records records;
+    if (whole) {
+        records.bytes = std::make_unique_for_overwrite<char[]>(size);
+        records.rows.resize(size / record);
+        runRowRanges({}, static_cast<int>(records.rows.size()), kPiece, [&](int first, int last) {
+            std::ifstream file(path, std::ios::binary);
+            const std::size_t from = static_cast<std::size_t>(first) * record;
+            file.seekg(static_cast<std::streamoff>(from));
+            file.read(&records.bytes[from],
+                      static_cast<std::streamsize>(static_cast<std::size_t>(last) * record - from));
+            if (!file) return whole.store(false);
+            for (auto i = static_cast<std::size_t>(first); i < static_cast<std::size_t>(last); ++i)
+                std::memcpy(&records.rows[i], &records.bytes[i * record], kRowNumberBytes);
+        });
+    }
+    std::int32_t before = -1;
+    for (const std::int32_t row : records.rows) {
+        if (row <= before || row >= pixels.iHeight) whole = false;
+        before = row;
+    }
     if (whole) return records;
     problem = "This step stays: its file " + path.string() + " cannot be read.";
     return {};
 }
 
+void UndoFiles::takeRows(EditorPixels& pixels, const Records& records) {
+    const std::size_t record = recordBytes(pixels);
+    runRows({}, static_cast<int>(records.rows.size()), kPiece, [&](int i) {
+        const auto at = static_cast<std::size_t>(i);
+        const std::int32_t row = records.rows[at];
+        std::memcpy(static_cast<void*>(&pixels.snapShot(0, row)), &records.bytes[at * record + kRowNumberBytes],
+                    rowBytes(pixels));
+        pixels.oRowsToPutBack[static_cast<std::size_t>(row)] = 1;
+    });
+}
+
 void UndoFiles::SaveSnapShot(const EditorPixels& pixels) {
     if (pixels.oSnapShot.empty()) return;
     ++iSaveSnapShot;
-    std::vector<char> records;
-    bool touched = false;
+    std::vector<std::int32_t> rows;
     for (std::int32_t row = 0; row < pixels.iHeight; ++row) {
-        if (pixels.oSnapShotTouch[static_cast<std::size_t>(row)] == 0) continue;
-        touched = true;
-        if (keepsFiles_) appendRow(records, pixels, row);
+        if (pixels.oSnapShotTouch[static_cast<std::size_t>(row)] != 0) rows.push_back(row);
     }
     // A click that changed nothing leaves an empty file and is no step; even so there is nothing left to redo.
     lost_.erase(lost_.lower_bound(iSaveSnapShot), lost_.end());
-    const bool written = keepsFiles_ && write(fileOf("Snapshot", iSaveSnapShot), records);
-    if (!touched) {
+    const bool written = keepsFiles_ && write(fileOf("Snapshot", iSaveSnapShot), pixels, rows);
+    if (rows.empty()) {
         --iSaveSnapShot;
     } else if (!written) {
         lost_.insert(iSaveSnapShot);
@@ -122,7 +135,8 @@ void UndoFiles::setButtons() {
 bool UndoFiles::undo(EditorPixels& pixels) {
     const std::int32_t step = iSaveSnapShot;
     if (step > 0 && lost_.contains(step)) {
-        problem = "The last stroke cannot be undone: its file could not be written.";
+        // Why it could not is not yet told where a file of edits is played in one go.
+        if (problem.empty()) problem = "The last stroke cannot be undone: its file could not be written.";
         return false;
     }
     const bool done = step > 0 && undoStep(pixels, step);
@@ -151,20 +165,17 @@ std::uintmax_t UndoFiles::sizeOnDisk() const {
 
 // What is needed to redo comes first: without it the step would be gone for good.
 bool UndoFiles::undoStep(EditorPixels& pixels, std::int32_t step) {
-    const std::vector<char> records = read(fileOf("Snapshot", step), pixels);
-    if (records.empty()) return false;
-    std::vector<char> present;
-    present.reserve(records.size());
-    eachRecord(records, pixels, [&](std::int32_t row, const char*) { appendRow(present, pixels, row); });
-    if (!write(fileOf("RestoreSnapshot", step), present)) return false;
+    const Records records = read(fileOf("Snapshot", step), pixels);
+    if (records.rows.empty()) return false;
+    if (!write(fileOf("RestoreSnapshot", step), pixels, records.rows)) return false;
     takeRows(pixels, records);
     return true;
 }
 
 bool UndoFiles::redoStep(EditorPixels& pixels, std::int32_t step) {
-    const std::vector<char> records = read(fileOf("RestoreSnapshot", step), pixels);
+    const Records records = read(fileOf("RestoreSnapshot", step), pixels);
     takeRows(pixels, records);
-    return !records.empty();
+    return !records.rows.empty();
 }
 
 }  // namespace tavrin

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -45,9 +46,16 @@ class UndoFiles {
 
   private:
     std::filesystem::path fileOf(const char* name, std::int32_t step) const;
-    bool write(const std::filesystem::path& path, const std::vector<char>& records);
-    /// The records of a file; empty when it cannot be read or holds no whole records of this picture.
-    std::vector<char> read(const std::filesystem::path& path, const EditorPixels& pixels);
+    /// Writes these rows of the snapshot.
+    bool write(const std::filesystem::path& path, const EditorPixels& pixels, const std::vector<std::int32_t>& rows);
+    /// The records of a file, in a block that is not filled first.
+    struct Records {
+        std::unique_ptr<char[]> bytes;
+        std::vector<std::int32_t> rows;  ///< their numbers, ascending
+    };
+    /// Without rows when the file cannot be read or holds no whole records of this picture.
+    Records read(const std::filesystem::path& path, const EditorPixels& pixels);
+    static void takeRows(EditorPixels& pixels, const Records& records);
     bool undoStep(EditorPixels& pixels, std::int32_t step);
     bool redoStep(EditorPixels& pixels, std::int32_t step);
     void setButtons();

@@ -5,6 +5,7 @@
 #include "core/raster/Rows.h"
 #include "editor/EditFile.h"
 #include "editor/EditScene.h"
+#include "editor/EditVisit.h"
 #include "editor/PlayEdits.h"
 #include "support/Files.h"
 
@@ -179,6 +180,28 @@ TEST(Replay, PlacesStrokesByTheHeightOfThePicture) {
     playEdits(scene.info, read.file, true, scene.folder.path());
     EXPECT_EQ(scene.out(6, 6)[2], 150);
     EXPECT_EQ(scene.out(7, 6)[2], 3);
+}
+
+// What a replay at another size has recorded, played at a third one.
+TEST(Replay, AnItemScalesTheRadiusUpToTheNextOne) {
+    EditScene scene(16, 16);
+    const std::string text =
+        "tavrin-edits 1\nview 8 8\n10 112\n20 50 1 100 100\n300 3 2\n1 1 1\n2\n300 1 1\n1 6 1\n2\n";
+    ReadEdits read = parseEdits("e", text);
+    ASSERT_EQ(read.problem, "");
+    EXPECT_EQ(read.file.unknown, 0u);
+    ASSERT_EQ(playEdits(scene.info, read.file, false, scene.folder.path()).warnings.size(), 0u);
+    EXPECT_EQ(scene.out(5, 14)[2], 150);  // 3 pixels
+    EXPECT_EQ(scene.out(6, 14)[2], 3);
+    EXPECT_EQ(scene.out(14, 14)[2], 150);  // 2 pixels
+    EXPECT_EQ(scene.out(15, 14)[2], 3);
+    playEdits(scene.info, read.file, true, scene.folder.path());
+    EXPECT_EQ(scene.out(8, 14)[2], 150);  // 6, and 4
+    EXPECT_EQ(scene.out(12, 9)[2], 3);
+    EXPECT_EQ(scene.out(12, 10)[2], 150);
+    EXPECT_EQ(withScale({{kRadiusScale, 3, 2}, {kMouseDown, 3, 2}}, 4, 3),
+              (std::vector<EditItem>{{kRadiusScale, 2, 1}, {kMouseDown, 3, 2}}));
+    EXPECT_NE(parseEdits("e", "tavrin-edits 1\nview 8 8\n300 0 1\n").problem, "");
 }
 
 TEST(Replay, WithoutTheSilhouettesPictureNothingIsEdited) {

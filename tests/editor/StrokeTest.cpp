@@ -1,10 +1,13 @@
 // Strokes along the mouse's way, their undo and the selection.
+#include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include "editor/EditScene.h"
 #include "support/Files.h"
+#include "support/Sanitized.h"
 
 namespace fs = std::filesystem;
 
@@ -15,6 +18,24 @@ using test::EditScene;
 using test::Pixel;
 
 constexpr Pixel kPlain{100, 100, 100, 9}, kInk{203, 0, 0, 9};
+
+// While it lives no file can be larger, in bytes.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+  private:
+    rlimit before_{};
+    void (*handler_)(int);
+};
 
 // Paints with one pixel of a red ink.
 struct InkScene : EditScene {
@@ -144,6 +165,74 @@ TEST(Undo, AStepWithoutItsFileStaysAndSaysSo) {
     EXPECT_EQ(scene.out(2, 0)[0], 203);
 }
 
+// Rows that no step touches are written back once only; whatever else happens between must not be missed by that.
+TEST(Undo, EveryStepBringsBackThePictureBeforeIt) {
+    for (const bool transparent : {false, true}) {
+        EditScene scene(40, 90);
+        test::fillWithNoise(scene.foreground, 1);
+        test::fillWithNoise(scene.combined, 2);
+        test::fillWithNoise(scene.background, 3);
+        scene.info.bOutputTransparency = transparent;
+        scene.enter();
+        scene.choose('p');
+        scene.sliders(50, 3, 20, 70);
+        scene.click(3, 3);
+        scene.live({kUndo});  // all of the picture is written here
+        std::vector<std::vector<Pixel>> pictures{scene.combined}, alphas{scene.background};
+        for (int step = 0; step < 12; ++step) {
+            scene.choose("per65"[step % 5]);
+            scene.sliders(50, 2 + step % 3, 20, 70);
+            if (step == 6) scene.live({kSelectionChanged, 30, 30, ColorSelection::kCombinedColor, 0});
+            if (step == 6) scene.editor.DeselectColorRange();
+            scene.click(3 * step, 7 * step);
+            pictures.push_back(scene.combined);
+            alphas.push_back(scene.background);
+        }
+        for (std::size_t step = 12; step-- > 0;) {
+            scene.live({kUndo});
+            ASSERT_TRUE(transparent || scene.combined == pictures[step]) << step;  // emptied records stay empty
+            ASSERT_EQ(scene.background, alphas[step]) << step;
+        }
+        for (std::size_t step = 1; step <= 12; ++step) {
+            scene.live({kRedo});
+            ASSERT_TRUE(transparent || scene.combined == pictures[step]) << step;
+        }
+        EXPECT_EQ(scene.background, alphas[12]);
+    }
+}
+
+// As on a full disk, a part of the file can be written.
+TEST(Undo, WithoutRoomForItsFileAStrokeStaysAndSaysSo) {
+    InkScene scene(60, 40);
+    scene.sliders(50, 5);
+    scene.click(10, 10);
+    const std::vector<Pixel> first = scene.combined;
+    {
+        const FileSizeLimit limit(1000);  // three rows
+        scene.click(40, 20);
+        EXPECT_NE(scene.editor.undoFiles.problem.find("This step cannot be undone: the file would be larger"),
+                  std::string::npos)
+            << scene.editor.undoFiles.problem;
+        scene.live({kUndo});
+        EXPECT_NE(scene.editor.undoFiles.problem.find("larger"), std::string::npos);  // the reason stays
+    }
+    const std::vector<Pixel> second = scene.combined;
+    EXPECT_NE(second, first);
+    EXPECT_FALSE(fs::exists(scene.folder.file("Snapshot2.bin")));
+    EXPECT_FALSE(scene.editor.undoFiles.canUndo);
+    scene.click(20, 30);
+    EXPECT_TRUE(scene.editor.undoFiles.canUndo);
+    {
+        const FileSizeLimit limit(1000);
+        const std::vector<Pixel> third = scene.combined;
+        scene.live({kUndo});  // what is needed to redo it finds no room
+        EXPECT_EQ(scene.combined, third);
+    }
+    scene.live({kUndo});
+    for (std::size_t i = 0; i < second.size(); ++i)
+        ASSERT_EQ(scene.combined[i][0], second[i][0]);
+}
+
 // The lower half of the picture is near the colour that is picked, the upper one far from it.
 struct SelectScene : EditScene {
     SelectScene() : EditScene(24, 24) {
@@ -201,6 +290,30 @@ TEST(Selection, TheLimitItselfIsWithinAndInvertTurnsItRound) {
     scene.live({kCheckBox, 1});
     EXPECT_TRUE(isProtected(9));
     EXPECT_FALSE(isProtected(10));
+}
+
+// Colours are compared in whole steps, which the selection takes from tables.
+TEST(Selection, StepsOfColoursAreTheirHueSaturationAndValueCutOff) {
+    const ColorStepTables& tables = ColorStepTables::get();
+    const auto expectSteps = [&](int r, int g, int b) {
+        const HsvColor hsv = toHsv(r, g, b);
+        const ColorSteps steps =
+            tables.of(static_cast<std::uint8_t>(r), static_cast<std::uint8_t>(g), static_cast<std::uint8_t>(b));
+        ASSERT_EQ(steps.h, static_cast<int>(hsv.h)) << r << " " << g << " " << b;
+        ASSERT_EQ(steps.s, static_cast<int>(100.0 * hsv.s)) << r << " " << g << " " << b;
+        ASSERT_EQ(steps.v, static_cast<int>(hsv.v / 2.0)) << r << " " << g << " " << b;
+    };
+    const int step = test::kSanitized ? 15 : 3;
+    for (int r = 0; r < 256; r += step) {
+        for (int g = 0; g < 256; g += step) {
+            for (int b = 0; b < 256; b += step)
+                expectSteps(r, g, b);
+        }
+    }
+    for (int level = 0; level < 255; ++level) {
+        expectSteps(level + 1, level, level + 1);
+        expectSteps(level, level + 1, 255 - level);
+    }
 }
 
 TEST(Selection, WithoutASourceThereIsNone) {

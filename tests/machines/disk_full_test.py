@@ -115,6 +115,21 @@ class Test:
                 good = False
         return good
 
+    def edits_without_undo(self, folder, render):
+        """Edits whose step of undo finds no room: the stroke stays in the picture, and the reason is told."""
+        stroke = "tavrin-edits 1\nview 200 250\n10 112\n1 100 100\n3 120 140\n2\n"
+        made = {}
+        for name, text, temporary in (("kept", stroke, self.work), ("undone", stroke + "201\n", folder / "tmp")):
+            edits, out = self.work / f"{name}.edits", self.work / f"{name}.png"
+            edits.write_text(text)
+            done = subprocess.run([*render, "--out", str(out), "--edits", str(edits)], capture_output=True, text=True,
+                                  env={**os.environ, "HOME": str(temporary), "XDG_DATA_HOME": str(temporary / "d"),
+                                       "TMPDIR": str(temporary)})
+            made[name] = (done, out.read_bytes() if done.returncode == 0 else b"")
+        told = "This step cannot be undone: the disk is full" in made["undone"][0].stderr
+        print(f"Edits without room for undo: {'told' if told else made['undone'][0].stderr.strip()}")
+        return told and made["kept"][1] != b"" and made["kept"][1] == made["undone"][1]
+
     def say_so(self):
         folder = self.full_disk()
         sources = [str(self.work / "portraits" / "portrait-0-.png"), str(self.work / "sea-.png")]
@@ -127,12 +142,13 @@ class Test:
         good = self.are_told(calls)
         elsewhere = subprocess.run([*render, "--out", str(self.work / "b.png")],
                                    env={**os.environ, "TMPDIR": str(folder / "tmp")})
+        told = self.edits_without_undo(folder, render)
         # With room for a part of a file its saving fails in the middle.
         os.truncate(folder / "filler", (folder / "filler").stat().st_size - 8192)
         good = self.are_told({what: calls[what] for what in ("a state", "a changed state")}) and good
         left = {path.name for path in folder.iterdir()} - {"old.qlx", "filler", "done", "tmp"}
         print(f"Without room: {len(calls)} kinds of files refused; left behind: {left or 'nothing'}")
-        return good and elsewhere.returncode == 0 and (folder / "old.qlx").read_text() == "as it was" and not left
+        return good and told and elsewhere.returncode == 0 and (folder / "old.qlx").read_text() == "as it was" and not left
 
 
 def main():

@@ -46,6 +46,11 @@ Rgb overBackground(const SpilledPixel& spilled, const Rgb& back) {
     return mixed(spilled.color, std::min(spilled.amount, 1.0), back);
 }
 
+// Of the tools whose colours are kept.
+bool leavesAlpha(int brush) {
+    return brush != kRestoreForeground && brush != kFilterColor && brush != kRestoreHair;
+}
+
 }  // namespace
 
 SpilledPixel StampPainter::spill(int x, int y) {
@@ -56,7 +61,20 @@ SpilledPixel StampPainter::spill(int x, int y) {
     return key_.spill.Spill(x, y, raw.r, raw.g, raw.b);
 }
 
+// The tools whose colours are kept go by the record's alpha at most, or have a snapshot that stays.
 std::optional<OutColor> StampPainter::outColor(const Stamp& stamp, const QLXPixel& s, int x, int y) {
+    if (!keeps_ || (half_ > 0 && pixels_.isEmptied(s))) return makeColor(stamp, s, x, y);
+    const KeptColors::Entry kept = kept_.at(x, y);
+    if (kept.state == KeptColors::State::unknown) {
+        const std::optional<OutColor> made = makeColor(stamp, s, x, y);
+        kept.state = made ? KeptColors::State::color : KeptColors::State::leftAlone;
+        if (made) kept.out = *made;
+    }
+    if (kept.state == KeptColors::State::leftAlone) return {};
+    return OutColor{kept.out.color, leavesAlpha(stamp.brush) ? s.alpha : kept.out.alpha};
+}
+
+std::optional<OutColor> StampPainter::makeColor(const Stamp& stamp, const QLXPixel& s, int x, int y) {
     const double k = stamp.settings.dBrushSlider, alpha = s.alpha;
     const bool checked = stamp.settings.bCheckBoxValue;
     const auto foreground = [&] {

@@ -1,10 +1,13 @@
 #include "editor/brush/BrushTable.h"
 
+#include <algorithm>
+
 namespace tavrin {
 
 namespace {
 
 constexpr double kRadiusRange = 200.0;  // pixels of a full radius slider
+constexpr double kLargestRadius = 2e7;  // beyond every picture, whatever a file scales it to
 
 // The key equivalents by place in the table.
 constexpr char kKeys[kBrushes + 1] =
@@ -63,7 +66,7 @@ void GUI_BrushInfo::setColor(std::uint8_t r, std::uint8_t g, std::uint8_t b) {
 }
 
 std::int32_t GUI_BrushInfo::radiusInPixels(double scale) const {
-    return static_cast<std::int32_t>(dRadius * kRadiusRange * scale);
+    return static_cast<std::int32_t>(std::min(dRadius * kRadiusRange * scale, kLargestRadius));
 }
 
 BrushTable makeBrushTable() {

@@ -24,7 +24,9 @@ EditorKey::EditorKey(const SystemInfo& info)
       bSpilled(spill.constants().whiteBalanceU == 0.0),
       baseGreen(info.baseGreen),
       bOutputTransparency(info.bOutputTransparency),
-      bUseBlueLogic(info.bUseBlueLogic) {
+      bUseBlueLogic(info.bUseBlueLogic),
+      adjustsForeground(
+          makeColorAdjust(info, ToneLayer::kForeground, {spill.pFOrg, spill.iWidth, spill.iHeight}).active) {
     for (std::size_t i = 0; i < grid_.size(); ++i)
         grid_[i] = {info.iBaseRedArray[i], info.iBaseGreenArray[i], info.iBaseBlueArray[i]};
 }

@@ -18,6 +18,7 @@ struct EditorKey {
     bool bSpilled;
     double baseGreen;  ///< of the whole screen
     bool bOutputTransparency, bUseBlueLogic;
+    bool adjustsForeground;  ///< the foreground's colours are not those of its picture
 
     /// The screen's colour at a pixel, between the cells of the grid, as it was measured.
     Rgb editBase(int x, int y) const;

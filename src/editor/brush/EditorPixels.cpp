@@ -1,6 +1,7 @@
 #include "editor/brush/EditorPixels.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/raster/Rows.h"
 
@@ -30,6 +31,7 @@ bool EditorPixels::enter(const SystemInfo& info) {
     pMaskSelection.assign(count, 1);
     if (oSnapShot.size() != count) oSnapShot.assign(count, {});
     oSnapShotTouch.assign(static_cast<std::size_t>(iHeight), 1);
+    oRowsToPutBack.assign(static_cast<std::size_t>(iHeight), 1);
     return true;
 }
 
@@ -57,13 +59,20 @@ void EditorPixels::putBack(std::size_t i) {
     pB[i * kPixelBytes + 3] = s.alpha;
 }
 
-void EditorPixels::putAllBack() {
-    runRows({}, iHeight, kGrain, [this](int y) {
+EditedRows EditorPixels::putAllBack() {
+    EditedRows rows;
+    for (int y = 0; y < iHeight; ++y) {
+        if (oRowsToPutBack[static_cast<std::size_t>(y)] != 0) rows.add(y, y + 1);
+    }
+    runRows({}, rows.last - rows.first, kGrain, [&](int row) {
+        const int y = rows.first + row;
+        if (std::exchange(oRowsToPutBack[static_cast<std::size_t>(y)], std::uint8_t{0}) == 0) return;
         for (std::size_t i = index(0, y), end = index(0, y + 1); i < end; ++i) {
             putBack(i);
             oSnapShot[i].percent = 0;
         }
     });
+    return rows;
 }
 
 }  // namespace tavrin

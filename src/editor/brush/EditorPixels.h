@@ -32,6 +32,7 @@ struct EditorPixels {
     std::vector<std::uint8_t> pMaskSelection;  ///< one byte a pixel: 1 free to be painted, 0 protected
     std::vector<QLXPixel> oSnapShot;           ///< one a pixel, rows packed
     std::vector<std::uint8_t> oSnapShotTouch;  ///< one byte a row: 1 where it differs from the last snapshot
+    std::vector<std::uint8_t> oRowsToPutBack;  ///< one byte a row: 0 where `putAllBack` would change nothing
 
     /// Takes the buffers of a state, clears the mask's protection and marks every row as touched.
     /// @return false when the state has no full pictures
@@ -43,6 +44,8 @@ struct EditorPixels {
     }
     QLXPixel& snapShot(int x, int y) { return oSnapShot[index(x, y)]; }
     const QLXPixel& snapShot(int x, int y) const { return oSnapShot[index(x, y)]; }
+    /// A record of transparent output whose colours go when it is painted on.
+    bool isEmptied(const QLXPixel& s) const { return bOutputTransparency && s.alpha <= 4; }
     bool isFree(int x, int y) const { return pMaskSelection[index(x, y)] == 1; }
 
     /// Copies the touched rows of the picture into the snapshot, but for protected pixels, and ends the stroke there.
@@ -50,7 +53,8 @@ struct EditorPixels {
     /// Writes one pixel of the snapshot back to the picture.
     void putBack(std::size_t pixel);
     /// The same with the whole snapshot; every `percent` becomes 0.
-    void putAllBack();
+    /// @return the rows that may have changed
+    EditedRows putAllBack();
 };
 
 }  // namespace tavrin

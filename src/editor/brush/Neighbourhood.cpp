@@ -25,6 +25,10 @@ std::uint8_t largestOf(const QLXPixel& p) {
     return std::max({p.red, p.green, p.blue});
 }
 
+bool isGreener(int red, int green, int blue) {
+    return green > red + kGreenAhead && green > blue + kGreenAhead;
+}
+
 }  // namespace
 
 void StampPainter::prepareNeighbours(const Stamp& stamp) {
@@ -37,25 +41,31 @@ void StampPainter::prepareNeighbours(const Stamp& stamp) {
     const int rows = std::min(stamp.iYCursor + reach + 1, pixels_.iHeight) - top_;
     // One more column, so that a sum is the difference of two.
     sums_.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns_ + 1));
-    if (stamp.brush != kBlendEdge) return;
+    if (stamp.brush != kBlendEdge || !key_.adjustsForeground) return;
     adjusted_.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns_));
     runRows({}, rows, kGrain, [&](int row) {
         Adjusted* out = &adjusted_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_)];
         for (int column = 0; column < columns_; ++column) {
             const QLXPixel p = key_.spill.adjustedForeground(left_ + column, top_ + row);
-            out[column] = {p.red, p.green, p.blue, p.green > p.red + kGreenAhead && p.green > p.blue + kGreenAhead};
+            out[column] = {p.red, p.green, p.blue, isGreener(p.red, p.green, p.blue)};
         }
     });
 }
 
-// Sums of the columns from the left up to each one, over the rows in reach of row y.
-void StampPainter::sumRow(int y) {
+// Its colour was made before: no sums are needed for it.
+bool StampPainter::isKept(const QLXPixel& s, int x, int y) {
+    return keeps_ && !pixels_.isEmptied(s) && kept_.at(x, y).state != KeptColors::State::unknown;
+}
+
+// Sums of the columns from the left up to each one, over the rows in reach of row y, for its pixels [from, to).
+void StampPainter::sumRow(int y, int from, int to) {
     Sums* sums = &sums_[static_cast<std::size_t>(y - top_) * static_cast<std::size_t>(columns_ + 1)];
-    std::fill(sums, sums + columns_ + 1, Sums{});
+    const int begin = std::max(from - half_ - left_, 0), end = std::min(to + half_ - left_, columns_);
+    std::fill(sums + begin, sums + end + 1, Sums{});
     const int first = std::max(y - half_, 0), last = std::min(y + half_, pixels_.iHeight - 1);
     for (int row = first; row <= last; ++row) {
         const QLXPixel* pixels = &pixels_.snapShot(left_, row);
-        for (int column = 0; column < columns_; ++column) {
+        for (int column = begin; column < end; ++column) {
             const QLXPixel& p = pixels[column];
             if (!counts(p)) continue;
             Sums& sum = sums[column + 1];
@@ -66,7 +76,7 @@ void StampPainter::sumRow(int y) {
             ++sum.count;
         }
     }
-    for (int column = 0; column < columns_; ++column) {
+    for (int column = begin; column < end; ++column) {
         const Sums& before = sums[column];
         Sums& sum = sums[column + 1];
         sum = {sum.red + before.red, sum.green + before.green, sum.blue + before.blue, sum.largest + before.largest,
@@ -106,17 +116,21 @@ std::optional<Rgb> StampPainter::averaged(const Stamp& stamp, const QLXPixel& s,
 
 // Only next to green, and the more the stronger the foreground changes here.
 Rgb StampPainter::blendEdge(const Rgb& average, const QLXPixel& s, int x, int y, int count) const {
-    const auto at = [this](int column, int row) -> const Adjusted& {
+    const auto at = [this](int column, int row) -> Adjusted {
+        if (!key_.adjustsForeground) {
+            const std::uint8_t* p = pixels_.pFOrg + pixels_.index(column, row) * kPixelBytes;
+            return {p[0], p[1], p[2], isGreener(p[0], p[1], p[2])};
+        }
         return adjusted_[static_cast<std::size_t>(row - top_) * static_cast<std::size_t>(columns_) +
                          static_cast<std::size_t>(column - left_)];
     };
-    const Adjusted& o = at(x, y);
+    const Adjusted o = at(x, y);
     bool isNearGreen = false;
     int difference = 0;
     for (int row = std::max(y - half_, 0); row <= std::min(y + half_, pixels_.iHeight - 1); ++row) {
         for (int column = std::max(x - half_, 0); column <= std::min(x + half_, pixels_.iWidth - 1); ++column) {
             if ((row == y && column == x) || !counts(pixels_.snapShot(column, row))) continue;
-            const Adjusted& p = at(column, row);
+            const Adjusted p = at(column, row);
             difference += std::abs(p.red - o.red) + std::abs(p.green - o.green) + std::abs(p.blue - o.blue);
             isNearGreen = isNearGreen || p.isGreen;
         }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "core/raster/Rows.h"
 
@@ -11,8 +12,12 @@ namespace {
 
 constexpr int kGrain = 8;  // rows of a piece of a stamp
 
+bool searches(int brush) {
+    return brush == kFilterColor || brush == kRestoreHair;
+}
+
 bool comparesWithScreen(int brush) {
-    return brush == kEraseForeground || brush == kFilterColor || brush == kRestoreHair;
+    return brush == kEraseForeground || searches(brush);
 }
 
 bool spills(const Stamp& stamp) {
@@ -32,6 +37,22 @@ std::uint8_t premultiplied(std::uint8_t color, std::uint8_t alpha) {
 int distanceOf(int dx, int dy) {
     return static_cast<int>(std::sqrt(static_cast<double>(dx) * dx + static_cast<double>(dy) * dy));
 }
+
+// The whole part of the root of a square that is near the one before.
+class NearRoot {
+  public:
+    explicit NearRoot(int root) : root_(root) {}
+    int of(std::int64_t square) {
+        while (std::int64_t{root_} * root_ > square)
+            --root_;
+        while (std::int64_t{root_ + 1} * (root_ + 1) <= square)
+            ++root_;
+        return root_;
+    }
+
+  private:
+    int root_;
+};
 
 // All pixels of a stamp inside the picture in its own order, column by column, until `visit` says false.
 template <class Visit>
@@ -74,9 +95,10 @@ double likenessToScreen(const HsvColor& base, const HsvColor& pixel, const HsvCo
 }
 
 StampPainter::StampPainter(EditorPixels& pixels, EditorKey& key)
-    : pixels_(pixels), key_(key), doneBy_(pixels.oSnapShot.size(), 0) {}
+    : pixels_(pixels), key_(key), kept_(pixels.iWidth, pixels.iHeight), doneBy_(pixels.oSnapShot.size(), 0) {}
 
 void StampPainter::beginStroke() {
+    if (half_ > 0) kept_.clear();  // what was made of a snapshot that may change
     if (++stroke_ != 0) return;
     std::fill(doneBy_.begin(), doneBy_.end(), std::uint8_t{0});
     stroke_ = 1;
@@ -116,41 +138,76 @@ bool StampPainter::takesOrder(const Stamp& stamp) const {
 }
 
 EditedRows StampPainter::paint(const Stamp& stamp) {
-    const int first = std::max(stamp.iYCursor - stamp.iRadius, 0);
-    const int last = std::min(stamp.iYCursor + stamp.iRadius + 1, pixels_.iHeight);
-    if (first >= last) return {};
+    const KeptColors::Box box{std::max(stamp.iXCursor - stamp.iRadius, 0),
+                              std::max(stamp.iYCursor - stamp.iRadius, 0),
+                              std::min(stamp.iXCursor + stamp.iRadius + 1, pixels_.iWidth),
+                              std::min(stamp.iYCursor + stamp.iRadius + 1, pixels_.iHeight)};
+    if (box.top >= box.bottom) return {};
+    std::fill(pixels_.oRowsToPutBack.begin() + box.top, pixels_.oRowsToPutBack.begin() + box.bottom, std::uint8_t{1});
     layOutLevels(stamp);
     prepareNeighbours(stamp);
     inOrder_ = takesOrder(stamp);
+    keeps_ = !inOrder_ && keepsColors(stamp, box);
     if (inOrder_) {
         walkColumns(stamp, pixels_, [&](int x, int y) {
-            paintPixel(stamp, x, y);
+            paintPixel(stamp, x, y, distanceOf(x - stamp.iXCursor, y - stamp.iYCursor));
             return true;
         });
-        return {first, last};
+    } else {
+        runRows({}, box.bottom - box.top, kGrain, [&](int row) { paintRow(stamp, box, box.top + row); });
     }
-    const int left = std::max(stamp.iXCursor - stamp.iRadius, 0);
-    const int right = std::min(stamp.iXCursor + stamp.iRadius + 1, pixels_.iWidth);
-    runRows({}, last - first, kGrain, [&](int row) {
-        const int y = first + row, dy = std::abs(y - stamp.iYCursor);
-        if (half_ > 0) sumRow(y);
-        for (int x = left; x < right; ++x) {
-            if (stamp.halfHeight(x - stamp.iXCursor) >= dy) paintPixel(stamp, x, y);
-        }
-    });
-    return {first, last};
+    return {box.top, box.bottom};
 }
 
-void StampPainter::paintPixel(const Stamp& stamp, int x, int y) {
+// Only what costs more to make than to keep.
+bool StampPainter::keepsColors(const Stamp& stamp, const KeptColors::Box& box) {
+    if (half_ == 0 && !spills(stamp) && !searches(stamp.brush)) return false;
+    const GUI_BrushInfo& by = stamp.settings;
+    const Maker maker{stamp.brush, by.dBrushSlider, by.bCheckBoxValue, by.red, by.green, by.blue};
+    if (std::exchange(maker_, maker) != maker) kept_.clear();
+    return kept_.makeRoom(box);
+}
+
+// A disc is as wide in a row as it is high in the column that far from its centre.
+void StampPainter::paintRow(const Stamp& stamp, const KeptColors::Box& box, int y) {
+    const int dy = y - stamp.iYCursor, half = stamp.halfHeight(dy);
+    const int left = std::max(stamp.iXCursor - half, box.left);
+    const int right = std::min(stamp.iXCursor + half + 1, box.right);
+    NearRoot root(distanceOf(left - stamp.iXCursor, dy));
+    const auto distanceAt = [&](int x) {
+        const std::int64_t dx = x - stamp.iXCursor;
+        return root.of(dx * dx + std::int64_t{dy} * dy);
+    };
+    if (half_ > 0) {
+        int from = right, to = left;
+        for (int x = left; x < right; ++x) {
+            const std::size_t pixel = pixels_.index(x, y);
+            if (isPassedOver(pixel, levels_[static_cast<std::size_t>(distanceAt(x))])) continue;
+            if (isKept(pixels_.oSnapShot[pixel], x, y)) continue;
+            from = std::min(from, x);
+            to = x + 1;
+        }
+        if (from < to) sumRow(y, from, to);
+    }
+    for (int x = left; x < right; ++x)
+        paintPixel(stamp, x, y, distanceAt(x));
+}
+
+bool StampPainter::isPassedOver(std::size_t pixel, const Level& level) const {
+    if (pixels_.pMaskSelection[pixel] == 0) return true;
+    const int percent = pixels_.oSnapShot[pixel].percent;
+    if (percent > level.touch) return true;                                     // as strong is let through again
+    return percent == level.touch && level.alone && doneBy_[pixel] == stroke_;  // and would be the same
+}
+
+void StampPainter::paintPixel(const Stamp& stamp, int x, int y, int distance) {
     const std::size_t pixel = pixels_.index(x, y);
-    if (pixels_.pMaskSelection[pixel] == 0) return;
+    const Level& level = levels_[static_cast<std::size_t>(distance)];
+    if (isPassedOver(pixel, level)) return;
     QLXPixel& s = pixels_.oSnapShot[pixel];
-    const Level& level = levels_[static_cast<std::size_t>(distanceOf(x - stamp.iXCursor, y - stamp.iYCursor))];
-    if (s.percent > level.touch) return;  // as strong is let through again
-    if (s.percent == level.touch && level.alone && doneBy_[pixel] == stroke_) return;  // and would be the same
     s.percent = static_cast<std::uint8_t>(level.touch);
     // A record that is emptied gives something else the second time, and so may what goes by the order.
-    doneBy_[pixel] = inOrder_ || (pixels_.bOutputTransparency && s.alpha <= 4) ? std::uint8_t{0} : stroke_;
+    doneBy_[pixel] = inOrder_ || pixels_.isEmptied(s) ? std::uint8_t{0} : stroke_;
     if (const std::optional<OutColor> out = outColor(stamp, s, x, y)) {
         writeBack(s, pixel, level.strength, *out);
         pixels_.oSnapShotTouch[static_cast<std::size_t>(y)] = 1;
@@ -163,7 +220,7 @@ void StampPainter::writeBack(QLXPixel& s, std::size_t pixel, double t, const Out
     std::uint8_t* p = pixels_.pS + pixel * kPixelBytes;
     const std::uint8_t alpha = blended(s.alpha, out.alpha);
     if (pixels_.bOutputTransparency) {
-        if (s.alpha <= 4) s.red = s.green = s.blue = 0;
+        if (pixels_.isEmptied(s)) s.red = s.green = s.blue = 0;
         p[0] = premultiplied(blended(s.red, out.color.r), alpha);
         p[1] = premultiplied(blended(s.green, out.color.g), alpha);
         p[2] = premultiplied(blended(s.blue, out.color.b), alpha);

@@ -2,11 +2,13 @@
 
 #include <cstdint>
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "editor/brush/BrushTable.h"
 #include "editor/brush/EditorKey.h"
 #include "editor/brush/EditorPixels.h"
+#include "editor/brush/KeptColors.h"
 
 namespace tavrin {
 
@@ -24,16 +26,10 @@ struct Stamp {
     Rgb color;                                          ///< the tool's, with green and blue exchanged where it swaps
     HsvColor in;                                        ///< of `color`
 
-    /// Rows above and below the centre at a column `dx` beside it.
+    /// Rows above and below the centre at a column `dx` beside it, and columns beside it at such a row.
     int halfHeight(int dx) const;
     /// What the stroke takes on so many whole pixels from the centre: strength times fall-off.
     double strength(int distance) const;
-};
-
-/// What a tool wants at a pixel: real channels, which may lie beyond 0 to 255, and alpha.
-struct OutColor {
-    Rgb color;
-    double alpha;
 };
 
 /// Puts a stamp into the picture. Each pixel is made from the snapshot, and only where this stamp is at least as
@@ -68,15 +64,23 @@ class StampPainter {
         bool alone;  ///< no other strength of the stamp has this touch value
     };
 
+    /// What the colours of a pixel that are kept go by, beside the snapshot.
+    using Maker = std::tuple<int, double, bool, std::uint8_t, std::uint8_t, std::uint8_t>;
+
     bool takesOrder(const Stamp& stamp) const;
     void layOutLevels(const Stamp& stamp);
-    void paintPixel(const Stamp& stamp, int x, int y);
+    bool keepsColors(const Stamp& stamp, const KeptColors::Box& box);
+    void paintRow(const Stamp& stamp, const KeptColors::Box& box, int y);
+    bool isPassedOver(std::size_t pixel, const Level& level) const;
+    void paintPixel(const Stamp& stamp, int x, int y, int distance);
     void writeBack(QLXPixel& s, std::size_t pixel, double t, const OutColor& out);
     std::optional<OutColor> outColor(const Stamp& stamp, const QLXPixel& s, int x, int y);
+    std::optional<OutColor> makeColor(const Stamp& stamp, const QLXPixel& s, int x, int y);
     SpilledPixel spill(int x, int y);
 
     void prepareNeighbours(const Stamp& stamp);
-    void sumRow(int y);
+    bool isKept(const QLXPixel& s, int x, int y);
+    void sumRow(int y, int from, int to);
     Sums around(const QLXPixel& s, int x, int y) const;
     bool counts(const QLXPixel& p) const { return !(p.alpha <= 199 && key_.bOutputTransparency); }
     std::optional<Rgb> averaged(const Stamp& stamp, const QLXPixel& s, int x, int y) const;
@@ -84,7 +88,9 @@ class StampPainter {
 
     EditorPixels& pixels_;
     EditorKey& key_;
-    bool inOrder_ = false;
+    bool inOrder_ = false, keeps_ = false;
+    KeptColors kept_;
+    Maker maker_;
     std::vector<Level> levels_;         // by the distance from the centre
     std::vector<std::uint8_t> doneBy_;  // for each pixel the stroke that has made it, where again would be the same
     std::uint8_t stroke_ = 1;

@@ -9,6 +9,7 @@
 #include "core/files/NameText.h"
 #include "core/files/Places.h"
 #include "ui/editor/BrushCursor.h"
+#include "ui/editor/EditMessages.h"
 #include "ui/views/PictureView.h"
 
 namespace tavrin {
@@ -50,7 +51,7 @@ void Airbrush::take(const EditorFace& face) {
     const EditorFace before = std::exchange(face_, face);
     page_->UpdateEditorUI(face);
     tool_->show(face);
-    if (!face.problem.empty()) emit failed(tr("Airbrush"), QString::fromStdString(face.problem));
+    if (!face.problem.empty()) emit failed(tr("Airbrush"), translatedEditMessage(face.problem));
     if (before.open != face.open) {
         view_->setDrawing(face.open);
         emit modeChanged(face.open);
@@ -122,7 +123,7 @@ void Airbrush::write(const QString& path, const EditFile& edits) {
 void Airbrush::loadEdits(const QString& path) {
     ReadEdits read = readEditFile(nameOfText(path));
     if (!read.problem.empty())
-        return emit failed(tr("The edits cannot be loaded."), QString::fromStdString(read.problem));
+        return emit failed(tr("The edits cannot be loaded."), translatedEditMessage(read.problem));
     const PassGeometry size = info_.geometry(Resolution::full);
     QStringList warnings;
     if (read.file.width != size.width || read.file.height != size.height)

@@ -138,6 +138,7 @@ EditorPage::EditorPage(EditorDoor& door, Binder& binder, QWidget* parent)
     auto* grid = new QGridLayout(actions_);
     grid->setContentsMargins(0, 0, 0, 0);
     steps_->addItem(actions_);
+    steps_->addItem(makeScaleBox());
     steps_->addItem(makePen());
     undo_->setObjectName("editorUndoSize");
     undo_->setWordWrap(true);
@@ -247,6 +248,17 @@ QWidget* EditorPage::makeSources() {
     return sourceRow_;
 }
 
+QWidget* EditorPage::makeScaleBox() {
+    scaleBox_ = new QCheckBox(tr("Radius follows the picture's size"));
+    scaleBox_->setObjectName("boxScaleRadius");
+    scaleBox_->setProperty("handler", "scaleRadius");
+    scaleBox_->setAccessibleName(scaleBox_->text());
+    scaleBox_->setToolTip(
+        tr("Strokes that are replayed at another size of the picture become as much thicker or thinner"));
+    connect(scaleBox_, &QCheckBox::clicked, this, [this](bool on) { door_.scaleRadius(on); });
+    return scaleBox_;
+}
+
 QWidget* EditorPage::makePen() {
     auto* line = new QWidget;
     line->setObjectName("penRow");
@@ -320,6 +332,7 @@ void EditorPage::UpdateEditorUI(const EditorFace& face) {
                                         .arg(QLocale().toString(megabytes, 'f', 1))
                                         .arg(face.recorded)
                                         .arg(kMostEditItems));
+    scaleBox_->setChecked(face.scalesRadius);
     showTool(face);
 }
 

@@ -47,6 +47,7 @@ class EditorPage : public PanelPage {
     QWidget* makeColour();
     QWidget* makeSources();
     QWidget* makePen();
+    QWidget* makeScaleBox();
     void editSliderChange();
     void chooseColour();
     void showTool(const EditorFace& face);
@@ -58,7 +59,7 @@ class EditorPage : public PanelPage {
     QButtonGroup *brushes_, *sources_;
     QWidget *sourceRow_ = nullptr, *colourRow_ = nullptr;
     BrushSlider *general_, *radius_, *hardness_, *transparency_;
-    QCheckBox* box_;
+    QCheckBox *box_, *scaleBox_ = nullptr;
     QToolButton *well_ = nullptr, *eyeDropper_ = nullptr;
     QColor colour_;
 };

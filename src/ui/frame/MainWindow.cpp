@@ -230,14 +230,17 @@ void MainWindow::frameNewPortraits(bool wanted) {
 }
 
 void MainWindow::freeze() {
-    loop_->edit([this]() -> std::vector<ChangedRows> {
-        if (const std::string problem = freezeBackground(info_); !problem.empty()) {
-            emit bridge_.failed(tr("The picture is not frozen."), QString::fromStdString(problem));
+    if (airbrush_->isReplaying()) return messages_->tell(tr("The edits are still being replayed."));
+    airbrush_->withoutPattern([this] {
+        loop_->edit([this]() -> std::vector<ChangedRows> {
+            if (const std::string problem = freezeBackground(info_); !problem.empty()) {
+                emit bridge_.failed(tr("The picture is not frozen."), QString::fromStdString(problem));
+                return {};
+            }
+            info_.StartUpdate();
+            emit bridge_.placed();
             return {};
-        }
-        info_.StartUpdate();
-        emit bridge_.placed();
-        return {};
+        });
     });
 }
 

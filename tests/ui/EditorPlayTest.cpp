@@ -1,0 +1,141 @@
+// What is played in the window at another size, from a file, or while something else begins.
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QRadioButton>
+
+#include "editor/PlayEdits.h"
+#include "pipeline/CombineThread.h"
+#include "ui/EditorScene.h"
+#include "ui/editor/EditMessages.h"
+#include "ui/frame/Language.h"
+
+namespace tavrin {
+namespace {
+
+using test::EditorTest;
+
+const QColor kInk(40, 40, 150);
+
+class EditorPlayTest : public EditorTest {
+  protected:
+    void chooseSize(const char* name, int width) {
+        const int index = window_->sizeBox()->findText(name);
+        ASSERT_GE(index, 0);
+        window_->sizeBox()->setCurrentIndex(index);
+        emit window_->sizeBox()->activated(index);
+        ASSERT_TRUE(test::eventually(
+            [&] { return view_->fullPicture().width() == width && view_->isFull() && airbrush().isOpen(); }));
+    }
+    bool isPlayed() {
+        return test::eventually([&] { return airbrush().isOpen() && !airbrush().isReplaying() && face().step > 0; });
+    }
+};
+
+TEST_F(EditorPlayTest, AtAnotherSizeTheRadiusFollowsWhereThatIsWanted) {
+    ASSERT_TRUE(enter());
+    choose(kPaint);
+    for (int i = 0; i < 10; ++i)
+        QTest::keyClick(view_, Qt::Key_BracketLeft);
+    ASSERT_TRUE(test::eventually([&] { return face().brush.radiusInPixels() == 10; }));
+    stroke({60, 100}, {90, 101});
+    const QString path = QString::fromStdString(folder_.file("anna.edits"));
+    airbrush().saveEdits(path);
+    ASSERT_TRUE(test::eventually([&] { return std::filesystem::exists(path.toStdString()); }));
+    chooseSize("large", 480);
+    find<QCheckBox>("boxScaleRadius")->click();
+    find<QToolButton>("buttonReplayEdits")->click();
+    ASSERT_TRUE(isPlayed());
+    const QImage played = picture();
+    EXPECT_EQ(played.pixelColor(150, 200 - 8), kInk);
+    EXPECT_NE(played.pixelColor(150, 200 - 22), kInk);
+
+    // As the command line plays it.
+    const auto other = test::stateForOutput(480, 600);
+    other->pForegroundBitmapInfo->sSourceImageFullPath = portrait_;
+    other->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
+    CombineThread(*other).runUntilIdle();
+    const EditFile file = readEditFile(path.toStdString()).file;
+    ASSERT_EQ(playEdits(*other, file, true, folder_.file("undo")).problem, "");
+    EXPECT_TRUE(std::equal(played.constBits(), played.constBits() + played.sizeInBytes(),
+                           other->pCombinedBitmapInfo->pBitmapData));
+    // What a hand does behind it has its own radius, and one step takes the stroke back.
+    stroke({300, 400}, {330, 401});
+    EXPECT_NE(picture().pixelColor(315, 400 - 14), kInk);
+    EXPECT_EQ(face().step, 2);
+}
+
+TEST_F(EditorPlayTest, AFilesSeedMakesThePictureAnewAndLosesNoStroke) {
+    ASSERT_TRUE(enter());
+    choose(kPaint);
+    stroke({60, 40}, {90, 60});
+    const QString path = QString::fromStdString(folder_.file("anna.edits"));
+    std::ofstream(path.toStdString()) << "tavrin-edits 1\nview 240 300\nseed 77\n10 112\n1 180 60\n2\n";
+    airbrush().loadEdits(path);
+    ASSERT_TRUE(test::eventually([&] { return info_->randomSeeds.upcoming() == 77 && !airbrush().isOpen(); }));
+    ASSERT_TRUE(isPlayed());
+    EXPECT_EQ(picture().pixelColor(75, 50), kInk);
+    EXPECT_EQ(picture().pixelColor(180, 240), kInk);
+    EXPECT_EQ(face().lost, 0);
+    EXPECT_TRUE(window_->messages()->question().isEmpty());
+}
+
+TEST_F(EditorPlayTest, FreezingTakesThePictureWithoutThePatternOfASelection) {
+    ASSERT_TRUE(enter());
+    stroke({100, 120}, {140, 180});
+    const QImage edited = picture();
+    choose(kSelection);
+    find<QRadioButton>("radioCombineSelect")->click();
+    find<QCheckBox>("editCheckbox")->click();  // all but black is protected
+    ASSERT_TRUE(test::eventually([&] { return picture() != edited; }));
+    action("clickedButtonfreezebackground")->trigger();
+    ASSERT_TRUE(test::eventually([&] { return info_->bBackgroundFrozen.load(); }));
+    ASSERT_TRUE(waitForPicture());
+    const std::uint8_t* frozen = info_->pBackgroundBitmapInfo->pBitmapData;
+    int others = 0;
+    for (int y = 0; y < 300; ++y) {
+        for (int x = 0; x < 240; ++x, frozen += 4)
+            others += QColor(frozen[0], frozen[1], frozen[2]) != edited.pixelColor(x, y);
+    }
+    EXPECT_EQ(others, 0);
+}
+
+TEST_F(EditorPlayTest, AStrokeThatMeetsAPassLeavesNoPartOfItself) {
+    ASSERT_TRUE(enter());
+    setBrightness(30);
+    ASSERT_TRUE(waitForPicture());
+    const QImage bright = picture();
+    setBrightness(0);
+    ASSERT_TRUE(waitForPicture());
+    ASSERT_TRUE(test::eventually([&] { return airbrush().isOpen(); }));
+    choose(kPaint);
+    QTest::mousePress(view_, Qt::LeftButton, {}, viewAt(60, 40));
+    for (int i = 0; i < 30; ++i) {
+        QTest::mouseMove(view_, viewAt(60 + 3 * i, 40 + 2 * i));
+        if (i == 15) setBrightness(30);
+    }
+    QTest::mouseRelease(view_, Qt::LeftButton, {}, viewAt(150, 100));
+    ASSERT_TRUE(waitForPicture());
+    ASSERT_TRUE(test::eventually([&] { return airbrush().isOpen(); }));
+    EXPECT_EQ(picture(), bright);
+    stroke({60, 40}, {90, 60});  // and the next one is whole
+    view_->setFocus();
+    QTest::keyClick(view_, Qt::Key_Z);
+    EXPECT_TRUE(test::eventually([&] { return picture() == bright; }));
+}
+
+TEST_F(EditorPlayTest, WhatTheEditorSaysIsTranslated) {
+    useLanguage(QLocale("es"));
+    EXPECT_EQ(translatedEditMessage("This step cannot be undone: no permission to write into the folder /a%2."),
+              "Este paso no se puede deshacer: sin permiso para escribir en la carpeta /a%2.");
+    EXPECT_EQ(translatedEditMessage(parseEdits("a: b", "tavrin-edits 1\nview 1 1\n1 2 x\n").problem),
+              QString("a: b, línea 3: «x» no es un número entero."));
+    EXPECT_EQ(translatedEditMessage("Nobody knows this."), "Nobody knows this.");
+    useLanguage(QLocale::c());
+}
+
+}  // namespace
+}  // namespace tavrin
