@@ -25,6 +25,7 @@
 #include "ui/frame/Language.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
+#include "ui/tiles/Tile.h"
 
 namespace {
 
@@ -39,6 +40,12 @@ constexpr std::pair<const char*, const char*> kDialogs[] = {
     {"colorWellFrameOverlay", "colorWellFrameOverlayDialog"},
 };
 
+bool waitsForTiles(const MainWindow& window) {
+    return std::ranges::any_of(window.panel()->findChildren<Tile*>(), [](const Tile* tile) {
+        return tile->isStale() && !tile->visibleRegion().isEmpty();
+    });
+}
+
 void settle(MainWindow& window, SystemInfo& info) {
     QElapsedTimer time;
     time.start();
@@ -46,7 +53,8 @@ void settle(MainWindow& window, SystemInfo& info) {
         0;  // rows that were sent before the loop fell idle may still wait, and the small picture is made after
     while (time.elapsed() < 30000 && rests < 20) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        rests = window.view()->isFull() && info.iCurrentThreadCount > info.iNewThreadCount ? rests + 1 : 0;
+        const bool isDone = window.view()->isFull() && info.iCurrentThreadCount > info.iNewThreadCount;
+        rests = isDone && !waitsForTiles(window) ? rests + 1 : 0;
         QThread::msleep(5);
     }
 }
