@@ -41,9 +41,8 @@ constexpr std::pair<const char*, const char*> kDialogs[] = {
 };
 
 bool waitsForTiles(const MainWindow& window) {
-    return std::ranges::any_of(window.panel()->findChildren<Tile*>(), [](const Tile* tile) {
-        return tile->isStale() && !tile->visibleRegion().isEmpty();
-    });
+    return std::ranges::any_of(window.panel()->findChildren<Tile*>(),
+                               [](const Tile* tile) { return tile->isStale() && !tile->visibleRegion().isEmpty(); });
 }
 
 void settle(MainWindow& window, SystemInfo& info) {
@@ -131,14 +130,23 @@ void shootEffects(MainWindow& window, const std::function<void(const char*)>& sa
         }
         editor.set("frame.iFrameMode", "4");
         editor.set("frame.sFrameImagePath", shippedPicture("FrameAndSilhouetteBackgrounds/Walnut.jpg"));
-        editor.set("frame.texture.sTextureFileName", "/gone/linen.jpg");
-        editor.set("frame.texture.bHaveTexture", "1");
     });
-    for (const auto& groups : open) {
+    const auto openOnly = [&](const std::vector<const char*>& groups) {
         for (GroupBox* group : window.panel()->effects()->groups())
             group->setFolded(std::ranges::find(groups, group->objectName(),
                                                [](const char* name) { return QString(name); }) == groups.end());
         window.panel()->effects()->openPanel(groups.front());
+    };
+    for (const char* group : {"MyEffectsFrame1Panel", "MyEffectsCartoonPanel"}) {
+        openOnly({group});
+        save(group == std::string_view("MyEffectsCartoonPanel") ? "tiles-drawing" : "tiles-frame");
+    }
+    window.binder().run("", [&](SettingEditor& editor) {
+        editor.set("frame.texture.sTextureFileName", "/gone/linen.jpg");
+        editor.set("frame.texture.bHaveTexture", "1");
+    });
+    for (const auto& groups : open) {
+        openOnly(groups);
         save(groups.front());
     }
     window.binder().run("", [&](SettingEditor& editor) {

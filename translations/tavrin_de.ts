@@ -5356,6 +5356,13 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::WordRow</name>
+    <message>
+        <source>%1 (not installed)</source>
+        <translation>%1 (nicht installiert)</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::WorkBar</name>
     <message>
         <source>Stop</source>

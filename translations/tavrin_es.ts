@@ -5356,6 +5356,13 @@ o ábralos desde el menú Archivo.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::WordRow</name>
+    <message>
+        <source>%1 (not installed)</source>
+        <translation>%1 (no instalada)</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::WorkBar</name>
     <message>
         <source>Stop</source>
