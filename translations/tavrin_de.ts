@@ -2210,7 +2210,7 @@
     </message>
     <message>
         <source>Takes the texture away.</source>
-        <translation>Nimmt die Textur weg.</translation>
+        <translation>Nimmt die Struktur weg.</translation>
     </message>
     <message>
         <source>Canvas</source>

@@ -45,7 +45,7 @@ class TilesTest : public test::WindowTest {
         SidePictures pictures([] { return true; },
                               [&](const SidePictures::Made& one) { made.set_value(one.picture); });
         pictures.setScene(std::move(scene), 1);
-        pictures.want({{portrait_, "", Tile::kPictureHeight, false, false}});
+        pictures.want({{portrait_, "", Tile::kPictureSide, false, false}});
         return made.get_future().get();
     }
 };
@@ -55,7 +55,7 @@ TEST_F(TilesTest, EachShowsThePresentPortraitWithItsLookAndFollowsTheSettings) {
     ASSERT_TRUE(waitFor(row));
     for (const Tile* one : row->tiles()) {
         SCOPED_TRACE(one->objectName().toStdString());
-        EXPECT_EQ(one->picture().height(), Tile::kPictureHeight);
+        EXPECT_EQ(one->picture().height(), Tile::kPictureSide);
         EXPECT_TRUE(one->picture() == byTheEngine(one->changes()));
     }
     EXPECT_FALSE(tile("buttonWall")->picture() == tile("removeShadow")->picture());

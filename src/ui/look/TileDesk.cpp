@@ -47,7 +47,7 @@ void TileDesk::fetch() {
                 std::ranges::find(looks, tile->changes()) == looks.end())
                 looks.push_back(tile->changes());
     }
-    results_.wantLooks(looks, static_cast<int>(Tile::kPictureHeight * ratio));
+    results_.wantLooks(looks, static_cast<int>(Tile::kPictureSide * ratio));
 }
 
 /// Of rows out of view nobody knows what their looks change by now.

@@ -10,7 +10,7 @@ namespace tavrin {
 
 namespace {
 
-constexpr int kMargin = 4;
+constexpr int kMargin = 4, kLineTop = Tile::kPictureSide + 2 * kMargin;
 constexpr double kFaded = 0.45, kBadge = 16.0;
 
 /// In force: a tick on a disc, so that colour is not all that tells.
@@ -67,18 +67,21 @@ void Tile::show(const QImage& picture, const QString& missing) {
 }
 
 QSize Tile::sizeHint() const {
-    return {kPictureHeight, kPictureHeight + fontMetrics().height() + 3 * kMargin};
+    return {kPictureSide, kLineTop + fontMetrics().height() + 2 * kMargin};
 }
 
 QSize Tile::minimumSizeHint() const {
     return {40, sizeHint().height()};
 }
 
-/// Whole in its box, as sharp as the screen is.
+/// Whole in its box. Where that is wide enough a pixel of it is one of the screen.
 QRectF Tile::paintPicture(QPainter& painter, const QRectF& box) const {
-    const QSizeF size = picture_.isNull() ? QSizeF(box.height() * 0.8, box.height()) : QSizeF(picture_.size());
-    QRectF place({0, 0}, size.scaled(box.size(), Qt::KeepAspectRatio));
+    const double ratio = devicePixelRatioF();
+    const QSizeF size =
+        picture_.isNull() ? QSizeF(box.height() * 0.8, box.height()) : QSizeF(picture_.size()) / ratio;
+    QRectF place({0, 0}, size.scaled(box.size(), Qt::KeepAspectRatio).boundedTo(size));
     place.moveCenter(box.center());
+    place.moveTopLeft(QPointF((place.topLeft() * ratio).toPoint()) / ratio);
     if (picture_.isNull()) {
         painter.fillRect(place, palette().color(QPalette::Button));
         return place;
@@ -109,9 +112,9 @@ void Tile::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     if (underMouse() || isDown()) painter.fillRect(rect(), palette().color(QPalette::Button));
-    const QRectF box(kMargin, kMargin, width() - 2 * kMargin, kPictureHeight - kMargin);
+    const QRectF box(kMargin, kMargin, width() - 2 * kMargin, kPictureSide);
     const QRectF shown = paintPicture(painter, box);
-    const QRect line(1, kPictureHeight + kMargin, width() - 2, height() - kPictureHeight - kMargin);
+    const QRect line(1, kLineTop, width() - 2, height() - kLineTop);
     painter.setPen(palette().color(QPalette::WindowText));
     const QString name = missing_.isEmpty() ? text() : tr("%1: missing").arg(text());
     painter.drawText(line, Qt::AlignHCenter | Qt::AlignTop,

@@ -13,8 +13,8 @@ class Tile : public QToolButton {
     Q_OBJECT
 
   public:
-    /// Of the picture's box, which is as wide as the tile.
-    static constexpr int kPictureHeight = 78;
+    /// Most that a picture takes each way, in points; a narrow tile makes it smaller.
+    static constexpr int kPictureSide = 74;
 
     explicit Tile(const TileLook& look, QWidget* parent);
 
