@@ -72,6 +72,9 @@ TEST_F(SidePicturesTest, OnePortraitOverManyBackgroundsIsEachTimeThePreviewOfThe
          {"bAdvancedHairDetectionON", "1"},
          {"foreground.fScale", "0.7"},
          {"background.fScale", "0.5"}},
+        {{"texture.sTextureFileName", backgrounds_[2]},
+         {"texture.bHaveTexture", "1"},
+         {"texture.iTextureOffsetPercent", "10"}},
     };
     for (const Settings& settings : cases) {
         const auto first = stateWith(settings, backgrounds_[0]);
