@@ -1,12 +1,10 @@
 // How the window feels, in figures: start, the longest event of the main thread while a slider is dragged, from a
-// move to the preview on the screen, painting, and the strip. desk_bench [SECONDS of dragging [scribble, for that
-// alone]]
+// move to the preview on the screen, painting, tiles, and the strip. desk_bench [SECONDS of dragging [tiles |
+// scribble]]; the last word leaves everything else out.
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <map>
 #include <vector>
 
@@ -19,6 +17,9 @@
 #include "core/files/Places.h"
 #include "core/raster/PixelMemory.h"
 #include "desk/Scribble.h"
+#include "desk/StripFigures.h"
+#include "desk/TileFigures.h"
+#include "desk/Times.h"
 #include "session/OutputSizes.h"
 #include "session/StartUp.h"
 #include "ui/bind/Groove.h"
@@ -27,19 +28,8 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using namespace tavrin;
-
-double since(Clock::time_point start) {
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
-/// What this thread alone used: with every core busy the clock on the wall tells of the others' work.
-double threadMs() {
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return 1e3 * static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_nsec);
-}
+using bench::Clock, bench::since, bench::threadMs;
 
 /// Times every event that is not inside another.
 class TimedApplication : public QApplication {
@@ -69,10 +59,13 @@ class TimedApplication : public QApplication {
 class PaintWatch : public QObject {
   public:
     bool eventFilter(QObject*, QEvent* event) override {
-        painted = painted || event->type() == QEvent::Paint;
+        if (event->type() != QEvent::Paint) return false;
+        painted = true;
+        ++count;
         return false;
     }
     bool painted = false;
+    int count = 0;
 };
 
 bool isFinished(const MainWindow& window, const SystemInfo& info) {
@@ -98,8 +91,6 @@ void moveTo(QWidget* widget, QEvent::Type type, double x) {
 /// A move every 16 ms, as a screen shows them.
 void drag(MainWindow& window, SystemInfo& info, TimedApplication& application, const char* name, double seconds) {
     auto* groove = window.panel()->findChild<Groove*>(name);
-    for (GroupBox* group : window.panel()->groups())
-        group->setFolded(false);
     waitForPicture(window, info);
     PaintWatch watch;
     window.view()->installEventFilter(&watch);
@@ -128,8 +119,10 @@ void drag(MainWindow& window, SystemInfo& info, TimedApplication& application, c
                    ? 0.0
                    : toScreen[static_cast<std::size_t>(share * static_cast<double>(toScreen.size() - 1))];
     };
-    std::printf("drag of %s: longest event %.1f ms; move to paint, median %.1f, 95 of 100 %.1f ms, %zu paints\n",
-                name, application.longest, part(0.5), part(0.95), toScreen.size());
+    std::printf(
+        "drag of %s: longest event %.1f ms; %d paints, %zu of them before the next move: median %.1f, 95 of 100 "
+        "%.1f ms after theirs\n",
+        name, application.longest, watch.count, toScreen.size(), part(0.5), part(0.95));
     for (const auto& [type, used] : application.longestUsed)
         if (used > 1.0) std::printf("    events of type %d: at most %.1f ms of CPU\n", type, used);
 }
@@ -188,9 +181,22 @@ int main(int argc, char** argv) {
                                    most = std::max(most, used);
                                return most;
                            }};
-    for (const int brush : {kPaint, kEraseForeground, kRestoreHair, kBlendEdge})
-        bench::measureScribble(desk, brush, seconds);
-    if (argc > 2) return 0;
+    const std::string only = argc > 2 ? argv[2] : "";
+    if (only != "tiles") {
+        for (const int brush : {kPaint, kEraseForeground, kRestoreHair, kBlendEdge})
+            bench::measureScribble(desk, brush, seconds);
+    }
+    if (only == "scribble") return 0;
+    const std::string pictures = account.filePath("pictures").toStdString();
+    waitForPicture(window, *info);
+    bench::measureBackgrounds(*info, account.path().toStdString());
+    window.binder().run("", [](SettingEditor& editor) { editor.set("iHaveShadow", "5"); });
+    bench::measureTiles(desk, [&](const char* name) { drag(window, *info, application, name, seconds); });
+    window.binder().undo();
+    if (only == "tiles") return 0;
+
+    for (GroupBox* group : window.panel()->groups())
+        group->setFolded(false);
     for (const char* name : {"sliderRemoveGreenAreas", "sliderBrightness", "sliderScale"})
         drag(window, *info, application, name, seconds);
     window.view()->setFixedSize(1600, 1000);
@@ -205,7 +211,7 @@ int main(int argc, char** argv) {
 
     window.view()->setZoomHome();
     qputenv("XDG_CACHE_HOME", account.filePath("cache").toLocal8Bit());
-    bench::measureLargePortrait(desk, account.filePath("pictures").toStdString());
-    bench::measureStrip(desk, account.filePath("pictures").toStdString());
+    bench::measureLargePortrait(desk, pictures);
+    bench::measureStrip(desk, pictures);
     return 0;
 }

@@ -25,6 +25,7 @@
 #include "ui/frame/Language.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
+#include "ui/tiles/Tile.h"
 
 namespace {
 
@@ -39,6 +40,11 @@ constexpr std::pair<const char*, const char*> kDialogs[] = {
     {"colorWellFrameOverlay", "colorWellFrameOverlayDialog"},
 };
 
+bool waitsForTiles(const MainWindow& window) {
+    return std::ranges::any_of(window.panel()->findChildren<Tile*>(),
+                               [](const Tile* tile) { return tile->isStale() && !tile->visibleRegion().isEmpty(); });
+}
+
 void settle(MainWindow& window, SystemInfo& info) {
     QElapsedTimer time;
     time.start();
@@ -46,7 +52,8 @@ void settle(MainWindow& window, SystemInfo& info) {
         0;  // rows that were sent before the loop fell idle may still wait, and the small picture is made after
     while (time.elapsed() < 30000 && rests < 20) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        rests = window.view()->isFull() && info.iCurrentThreadCount > info.iNewThreadCount ? rests + 1 : 0;
+        const bool isDone = window.view()->isFull() && info.iCurrentThreadCount > info.iNewThreadCount;
+        rests = isDone && !waitsForTiles(window) ? rests + 1 : 0;
         QThread::msleep(5);
     }
 }
@@ -123,14 +130,23 @@ void shootEffects(MainWindow& window, const std::function<void(const char*)>& sa
         }
         editor.set("frame.iFrameMode", "4");
         editor.set("frame.sFrameImagePath", shippedPicture("FrameAndSilhouetteBackgrounds/Walnut.jpg"));
-        editor.set("frame.texture.sTextureFileName", "/gone/linen.jpg");
-        editor.set("frame.texture.bHaveTexture", "1");
     });
-    for (const auto& groups : open) {
+    const auto openOnly = [&](const std::vector<const char*>& groups) {
         for (GroupBox* group : window.panel()->effects()->groups())
             group->setFolded(std::ranges::find(groups, group->objectName(),
                                                [](const char* name) { return QString(name); }) == groups.end());
         window.panel()->effects()->openPanel(groups.front());
+    };
+    for (const char* group : {"MyEffectsFrame1Panel", "MyEffectsCartoonPanel"}) {
+        openOnly({group});
+        save(group == std::string_view("MyEffectsCartoonPanel") ? "tiles-drawing" : "tiles-frame");
+    }
+    window.binder().run("", [&](SettingEditor& editor) {
+        editor.set("frame.texture.sTextureFileName", "/gone/linen.jpg");
+        editor.set("frame.texture.bHaveTexture", "1");
+    });
+    for (const auto& groups : open) {
+        openOnly(groups);
         save(groups.front());
     }
     window.binder().run("", [&](SettingEditor& editor) {

@@ -2223,6 +2223,190 @@
         <source>Overlays</source>
         <translation>Auflagen</translation>
     </message>
+    <message>
+        <source>Floor, back</source>
+        <translation>Boden, hinten</translation>
+    </message>
+    <message>
+        <source>A shadow on the floor, from the feet away from the viewer.</source>
+        <translation>Ein Schatten auf dem Boden, von den Füßen weg vom Betrachter.</translation>
+    </message>
+    <message>
+        <source>Wall, back</source>
+        <translation>Wand, hinten</translation>
+    </message>
+    <message>
+        <source>A shadow away from the viewer over the floor and up a wall.</source>
+        <translation>Ein Schatten weg vom Betrachter über den Boden und eine Wand hinauf.</translation>
+    </message>
+    <message>
+        <source>Takes the frame away.</source>
+        <translation>Nimmt den Rahmen weg.</translation>
+    </message>
+    <message>
+        <source>A frame along the four sides.</source>
+        <translation>Ein Rahmen entlang der vier Seiten.</translation>
+    </message>
+    <message>
+        <source>A frame around an oval.</source>
+        <translation>Ein Rahmen um ein Oval.</translation>
+    </message>
+    <message>
+        <source>A frame around a heart.</source>
+        <translation>Ein Rahmen um ein Herz.</translation>
+    </message>
+    <message>
+        <source>A frame with teeth like torn paper.</source>
+        <translation>Ein Rahmen mit Zacken wie gerissenes Papier.</translation>
+    </message>
+    <message>
+        <source>A frame of one colour.</source>
+        <translation>Ein Rahmen in einer Farbe.</translation>
+    </message>
+    <message>
+        <source>A frame of the picture itself, blurred.</source>
+        <translation>Ein Rahmen aus dem Bild selbst, weichgezeichnet.</translation>
+    </message>
+    <message>
+        <source>A frame of the background without the subject.</source>
+        <translation>Ein Rahmen aus dem Hintergrund ohne die Person.</translation>
+    </message>
+    <message>
+        <source>Walnut</source>
+        <translation>Nussbaum</translation>
+    </message>
+    <message>
+        <source>A frame of dark wood.</source>
+        <translation>Ein Rahmen aus dunklem Holz.</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <translation>Gold</translation>
+    </message>
+    <message>
+        <source>A frame of brushed gold.</source>
+        <translation>Ein Rahmen aus gebürstetem Gold.</translation>
+    </message>
+    <message>
+        <source>Marble</source>
+        <translation>Marmor</translation>
+    </message>
+    <message>
+        <source>A frame of pale marble.</source>
+        <translation>Ein Rahmen aus hellem Marmor.</translation>
+    </message>
+    <message>
+        <source>Velvet</source>
+        <translation>Samt</translation>
+    </message>
+    <message>
+        <source>A frame of red velvet.</source>
+        <translation>Ein Rahmen aus rotem Samt.</translation>
+    </message>
+    <message>
+        <source>Takes the light away.</source>
+        <translation>Nimmt das Licht weg.</translation>
+    </message>
+    <message>
+        <source>Brighter at one side, darker at the other.</source>
+        <translation>Auf der einen Seite heller, auf der anderen dunkler.</translation>
+    </message>
+    <message>
+        <source>A spot of light behind the head.</source>
+        <translation>Ein Lichtfleck hinter dem Kopf.</translation>
+    </message>
+    <message>
+        <source>A beam of light from above.</source>
+        <translation>Ein Lichtstrahl von oben.</translation>
+    </message>
+    <message>
+        <source>A halo around the subject.</source>
+        <translation>Ein Lichtschein um die Person.</translation>
+    </message>
+    <message>
+        <source>The picture is no drawing.</source>
+        <translation>Das Bild ist keine Zeichnung.</translation>
+    </message>
+    <message>
+        <source>Black lines and strong colours.</source>
+        <translation>Schwarze Linien und kräftige Farben.</translation>
+    </message>
+    <message>
+        <source>A soft pencil sketch.</source>
+        <translation>Eine weiche Bleistiftskizze.</translation>
+    </message>
+    <message>
+        <source>Hatched with a pencil.</source>
+        <translation>Mit Bleistift schraffiert.</translation>
+    </message>
+    <message>
+        <source>Hatched on old parchment.</source>
+        <translation>Auf altem Pergament schraffiert.</translation>
+    </message>
+    <message>
+        <source>Takes the texture away.</source>
+        <translation>Nimmt die Struktur weg.</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <translation>Leinwand</translation>
+    </message>
+    <message>
+        <source>As on a painter&apos;s canvas.</source>
+        <translation>Wie auf der Leinwand eines Malers.</translation>
+    </message>
+    <message>
+        <source>Linen</source>
+        <translation>Leinen</translation>
+    </message>
+    <message>
+        <source>As on finely woven linen.</source>
+        <translation>Wie auf fein gewebtem Leinen.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>As on rough drawing paper.</source>
+        <translation>Wie auf rauem Zeichenpapier.</translation>
+    </message>
+    <message>
+        <source>Takes the overlays away.</source>
+        <translation>Nimmt die Auflagen weg.</translation>
+    </message>
+    <message>
+        <source>A thin golden frame.</source>
+        <translation>Ein dünner goldener Rahmen.</translation>
+    </message>
+    <message>
+        <source>Graduation</source>
+        <translation>Abschluss</translation>
+    </message>
+    <message>
+        <source>A set of overlays for graduations.</source>
+        <translation>Auflagen für Abschlussfeiern.</translation>
+    </message>
+    <message>
+        <source>Winter</source>
+        <translation>Winter</translation>
+    </message>
+    <message>
+        <source>A set of overlays for winter.</source>
+        <translation>Auflagen für den Winter.</translation>
+    </message>
+    <message>
+        <source>Party</source>
+        <translation>Feier</translation>
+    </message>
+    <message>
+        <source>A set of overlays for parties.</source>
+        <translation>Auflagen für Feiern.</translation>
+    </message>
+    <message>
+        <source>Sets the key for this colour of hair.</source>
+        <translation>Stellt das Freistellen auf diese Haarfarbe ein.</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -5350,6 +5534,31 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Place of an item</source>
         <translation>Lage eines Elements</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Tile</name>
+    <message>
+        <source>%1: missing</source>
+        <translation>%1: fehlt</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TileRow</name>
+    <message>
+        <source>%1: looks</source>
+        <translation>%1: Looks</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::WordRow</name>
+    <message>
+        <source>%1 (not installed)</source>
+        <translation>%1 (nicht installiert)</translation>
     </message>
 </context>
 <context>

@@ -2223,6 +2223,190 @@
         <source>Overlays</source>
         <translation>Capas</translation>
     </message>
+    <message>
+        <source>Floor, back</source>
+        <translation>Suelo, atrás</translation>
+    </message>
+    <message>
+        <source>A shadow on the floor, from the feet away from the viewer.</source>
+        <translation>Una sombra en el suelo, desde los pies hacia el fondo.</translation>
+    </message>
+    <message>
+        <source>Wall, back</source>
+        <translation>Pared, atrás</translation>
+    </message>
+    <message>
+        <source>A shadow away from the viewer over the floor and up a wall.</source>
+        <translation>Una sombra hacia el fondo, por el suelo y por una pared.</translation>
+    </message>
+    <message>
+        <source>Takes the frame away.</source>
+        <translation>Quita el marco.</translation>
+    </message>
+    <message>
+        <source>A frame along the four sides.</source>
+        <translation>Un marco a lo largo de los cuatro lados.</translation>
+    </message>
+    <message>
+        <source>A frame around an oval.</source>
+        <translation>Un marco alrededor de un óvalo.</translation>
+    </message>
+    <message>
+        <source>A frame around a heart.</source>
+        <translation>Un marco alrededor de un corazón.</translation>
+    </message>
+    <message>
+        <source>A frame with teeth like torn paper.</source>
+        <translation>Un marco con dientes como de papel roto.</translation>
+    </message>
+    <message>
+        <source>A frame of one colour.</source>
+        <translation>Un marco de un solo color.</translation>
+    </message>
+    <message>
+        <source>A frame of the picture itself, blurred.</source>
+        <translation>Un marco de la propia imagen, desenfocada.</translation>
+    </message>
+    <message>
+        <source>A frame of the background without the subject.</source>
+        <translation>Un marco del fondo sin la persona.</translation>
+    </message>
+    <message>
+        <source>Walnut</source>
+        <translation>Nogal</translation>
+    </message>
+    <message>
+        <source>A frame of dark wood.</source>
+        <translation>Un marco de madera oscura.</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <translation>Oro</translation>
+    </message>
+    <message>
+        <source>A frame of brushed gold.</source>
+        <translation>Un marco de oro cepillado.</translation>
+    </message>
+    <message>
+        <source>Marble</source>
+        <translation>Mármol</translation>
+    </message>
+    <message>
+        <source>A frame of pale marble.</source>
+        <translation>Un marco de mármol claro.</translation>
+    </message>
+    <message>
+        <source>Velvet</source>
+        <translation>Terciopelo</translation>
+    </message>
+    <message>
+        <source>A frame of red velvet.</source>
+        <translation>Un marco de terciopelo rojo.</translation>
+    </message>
+    <message>
+        <source>Takes the light away.</source>
+        <translation>Quita la luz.</translation>
+    </message>
+    <message>
+        <source>Brighter at one side, darker at the other.</source>
+        <translation>Más claro por un lado, más oscuro por el otro.</translation>
+    </message>
+    <message>
+        <source>A spot of light behind the head.</source>
+        <translation>Un foco de luz detrás de la cabeza.</translation>
+    </message>
+    <message>
+        <source>A beam of light from above.</source>
+        <translation>Un haz de luz desde arriba.</translation>
+    </message>
+    <message>
+        <source>A halo around the subject.</source>
+        <translation>Un halo alrededor de la persona.</translation>
+    </message>
+    <message>
+        <source>The picture is no drawing.</source>
+        <translation>La imagen no es un dibujo.</translation>
+    </message>
+    <message>
+        <source>Black lines and strong colours.</source>
+        <translation>Líneas negras y colores fuertes.</translation>
+    </message>
+    <message>
+        <source>A soft pencil sketch.</source>
+        <translation>Un boceto suave a lápiz.</translation>
+    </message>
+    <message>
+        <source>Hatched with a pencil.</source>
+        <translation>Sombreado a lápiz.</translation>
+    </message>
+    <message>
+        <source>Hatched on old parchment.</source>
+        <translation>Sombreado sobre pergamino viejo.</translation>
+    </message>
+    <message>
+        <source>Takes the texture away.</source>
+        <translation>Quita la textura.</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <translation>Lienzo</translation>
+    </message>
+    <message>
+        <source>As on a painter&apos;s canvas.</source>
+        <translation>Como sobre el lienzo de un pintor.</translation>
+    </message>
+    <message>
+        <source>Linen</source>
+        <translation>Lino</translation>
+    </message>
+    <message>
+        <source>As on finely woven linen.</source>
+        <translation>Como sobre lino de tejido fino.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>As on rough drawing paper.</source>
+        <translation>Como sobre papel de dibujo rugoso.</translation>
+    </message>
+    <message>
+        <source>Takes the overlays away.</source>
+        <translation>Quita las capas.</translation>
+    </message>
+    <message>
+        <source>A thin golden frame.</source>
+        <translation>Un marco dorado fino.</translation>
+    </message>
+    <message>
+        <source>Graduation</source>
+        <translation>Graduación</translation>
+    </message>
+    <message>
+        <source>A set of overlays for graduations.</source>
+        <translation>Capas para graduaciones.</translation>
+    </message>
+    <message>
+        <source>Winter</source>
+        <translation>Invierno</translation>
+    </message>
+    <message>
+        <source>A set of overlays for winter.</source>
+        <translation>Capas para el invierno.</translation>
+    </message>
+    <message>
+        <source>Party</source>
+        <translation>Fiesta</translation>
+    </message>
+    <message>
+        <source>A set of overlays for parties.</source>
+        <translation>Capas para fiestas.</translation>
+    </message>
+    <message>
+        <source>Sets the key for this colour of hair.</source>
+        <translation>Ajusta el croma a este color de pelo.</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -5350,6 +5534,31 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>Place of an item</source>
         <translation>Posición de un elemento</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::Tile</name>
+    <message>
+        <source>%1: missing</source>
+        <translation>%1: falta</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TileRow</name>
+    <message>
+        <source>%1: looks</source>
+        <translation>%1: aspectos</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::WordRow</name>
+    <message>
+        <source>%1 (not installed)</source>
+        <translation>%1 (no instalada)</translation>
     </message>
 </context>
 <context>

@@ -208,12 +208,14 @@ constexpr Preset kFrameFills[] = {
     {"velvet", "red velvet", [](SystemInfo& info) { useMaterial(info, "Velvet.jpg"); }},
 };
 
-/// Lays the pictures of a set over the layers; a set without a picture for a layer leaves that layer bare.
+/// Lays the pictures of a set over the layers; a set without a picture for a layer leaves that layer bare. A pass may
+/// meet half of it, and must never find an overlay that has no name yet.
 void setOverlays(SystemInfo& info, const std::string& frame, const std::string& foreground,
                  const std::string& background) {
     const auto lay = [](Field<bool>& have, Field<std::string>& overlay, const std::string& name) {
-        have = !name.empty();
+        if (name.empty()) have = false;
         overlay = name.empty() ? "" : shippedPicture("Overlays/" + name);
+        have = !name.empty();
     };
     lay(info.bHaveFrameOverlay, info.sFrameOverlay, frame);
     lay(info.bHaveForegroundOverlay, info.sForegroundOverlay, foreground);

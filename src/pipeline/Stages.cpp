@@ -132,6 +132,12 @@ constexpr Stage kFullFinish[] = {
     kTextFrameLayer, kFrame, kSecondFrame,
 };
 
+constexpr Stage kDrawnPreview[] = {
+    kTextForeground, kOverlayForeground, kTextForegroundLayer, kOverlayFrame,
+    kSmoothResult, kTexture, kSketch, kBlurResult,
+    kTextFrameLayer, kFrame, kSecondFrame,
+};
+
 // A plain keyed picture with text and overlays; everything else is left out for speed.
 constexpr Stage kFast[] = {
     kSilhouette, kKey,
@@ -164,6 +170,9 @@ StageOrder previewStages() {
 }
 StageOrder fullStages() {
     return {kFullKey, kFullFinish};
+}
+std::span<const Stage> drawnPreviewStages() {
+    return kDrawnPreview;
 }
 std::span<const Stage> fastStages() {
     return kFast;

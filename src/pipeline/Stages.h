@@ -36,6 +36,9 @@ std::span<const Stage> backgroundStages();
 /// The key and all that follows, for the preview and for the full picture. The orders differ on purpose.
 StageOrder previewStages();
 StageOrder fullStages();
+/// What finishes a preview with a drawing, for whoever looks at one of it: the loop's preview shows none. The order
+/// is the full picture's, whose stages `skin` and `edges` exist at full size only.
+std::span<const Stage> drawnPreviewStages();
 /// The shorter list of the synchronous path, full resolution.
 std::span<const Stage> fastStages();
 

@@ -8,10 +8,13 @@
 #include <utility>
 
 #include "core/BackgroundThread.h"
+#include "core/files/StandardPath.h"
 #include "core/image/SmallPicture.h"
 #include "core/raster/BitmapContext.h"
+#include "core/state/SettingNames.h"
 #include "pipeline/PreviewMaker.h"
 #include "pipeline/SubjectPlace.h"
+#include "session/Looks.h"
 #include "session/OutputSizes.h"
 #include "session/RecipeStore.h"
 #include "session/Sources.h"
@@ -35,31 +38,68 @@ QImage scaledWithin(const QImage& picture, int side) {
     return result;
 }
 
-/// The maker of the last picture: while only the background changes the portrait is not keyed again.
+/// The first alert that is about a file of a look.
+std::string missingOf(const SettingValues& look, const std::string& alerts) {
+    for (const auto& [name, value] : look) {
+        const std::string file = lastPathComponent(value);
+        const auto at = value.find('/') == std::string::npos ? std::string::npos : alerts.find(file);
+        if (at == std::string::npos) continue;
+        const auto first = alerts.rfind('\n', at) + 1;  // 0 without one
+        return alerts.substr(first, alerts.find('\n', at) - first);
+    }
+    return "";
+}
+
+/// The maker of the last picture: while only background or look change the portrait is not read and drawn again.
 struct LastMaker {
+    const std::function<bool()>& goesOn;
     std::uint64_t scene = 0;
     SideWish wish;
+    SettingValues before;  // of the settings that the last look changed
     std::unique_ptr<PreviewMaker> maker;
 
-    void make(const Scene& from, SidePictures::Made& made) {
+    /// @return false when it was given up
+    bool make(const Scene& from, SidePictures::Made& made) {
         try {
             prepare(from, made.scene, made.wish);
+            wear(made.wish.look);
             made.picture = maker->over(made.wish.background);
+            if (maker->wasGivenUp()) return false;
             made.problem = maker->problem();
+            made.missing = missingOf(made.wish.look, maker->alerts());
             if (const int side = made.wish.side; side > 0 && !made.picture.isNull())
                 made.picture = scaledWithin(made.picture, side);
         } catch (const std::bad_alloc&) {
             made.problem = kNoMemory;
         }
+        return true;
     }
 
     void prepare(const Scene& from, std::uint64_t number, SideWish wanted) {
+        wanted.side = 0;
+        wanted.look.clear();
         wanted.background.clear();
         if (maker && number == scene && wanted == wish) return;
         maker.reset();  // its memory goes to the next one
-        maker = std::make_unique<PreviewMaker>(stateFor(from, wanted));
+        maker = std::make_unique<PreviewMaker>(stateFor(from, wanted), goesOn);
+        before.clear();
         scene = number;
         wish = std::move(wanted);
+    }
+
+    /// The look before is taken off, and this one put on.
+    void wear(const SettingValues& look) {
+        const auto isEffect = [](const auto& setting) { return partOf(setting.first) == LookPart::effects; };
+        const bool leavesSubject = std::ranges::all_of(before, isEffect) && std::ranges::all_of(look, isEffect);
+        maker->change(
+            [&](SystemInfo& info) {
+                static_cast<void>(useSettings(info, before));
+                before.clear();
+                for (const auto& [name, value] : look)
+                    before.emplace_back(name, fieldValue(info, name).value_or(""));
+                static_cast<void>(useSettings(info, look));
+            },
+            leavesSubject);
     }
 };
 
@@ -77,9 +117,10 @@ std::optional<Recipe> recipeFor(const Scene& scene, const SideWish& wish) {
 
 /// Only portraits are read through the one who reads ahead: it holds what it was asked for.
 std::function<ReadPicture(const std::string&)> readerFor(const Scene& scene, const SideWish& wish) {
-    return [read = scene.readSource, portrait = wish.portrait, isDraft = wish.isDraft, known = scene.backgroundFile,
-            pixels = scene.background](const std::string& path) {
-        if (path == known && !pixels.isNull()) return ReadPicture{pixels, {}, {}, {}};
+    return [read = scene.readSource, portrait = wish.portrait, isDraft = wish.isDraft, foreground = scene.foreground,
+            background = scene.background](const std::string& path) {
+        for (const Scene::Source& known : {foreground, background})
+            if (path == known.file && !known.pixels.isNull()) return ReadPicture{known.pixels, {}, {}, {}};
         if (isDraft) return readSmallPicture(path, kDraftSide);
         return path == portrait && read ? read(path) : readPicture(path);
     };
@@ -88,15 +129,17 @@ std::function<ReadPicture(const std::string&)> readerFor(const Scene& scene, con
 }  // namespace
 
 Scene sceneOf(const SystemInfo& info) {
-    const BitmapInfo& record = *info.pBackgroundBitmapInfo;
-    const bool isAsRead =
-        record.sSourceProblem.load().empty() && record.fRotate + record.fTilt == 0.0 && !record.bFlipHorz;
+    const auto sourceOf = [](const BitmapInfo& record) {
+        const bool isAsRead =
+            record.sSourceProblem.load().empty() && record.fRotate + record.fTilt == 0.0 && !record.bFlipHorz;
+        return Scene::Source{record.sSourceImageFullPath, isAsRead ? record.orgImage : QImage()};
+    };
     return {settingsOf(info),
             info,
             info.placedLast,
             info.readSource,
-            record.sSourceImageFullPath,
-            isAsRead ? record.orgImage : QImage(),
+            sourceOf(*info.pForegroundBitmapInfo),
+            sourceOf(*info.pBackgroundBitmapInfo),
             info.bBackgroundFrozen};
 }
 
@@ -135,17 +178,19 @@ void SidePictures::setScene(Scene scene, std::uint64_t number) {
     scene_ = std::move(scene);
     number_ = number;
     wishes_.clear();
+    ++wanted_;
 }
 
 void SidePictures::want(std::vector<SideWish> wishes) {
     std::lock_guard lock(mutex_);
     wishes_ = std::move(wishes);
+    ++wanted_;
     changed_.notify_all();
 }
 
 void SidePictures::work(const std::stop_token& ended) {
     becomeBackgroundThread();
-    LastMaker last;
+    LastMaker last{isIdle_, 0, {}, {}, {}};
     std::unique_lock lock(mutex_);
     while (!ended.stop_requested()) {
         if (wishes_.empty()) last.maker.reset();
@@ -155,12 +200,15 @@ void SidePictures::work(const std::stop_token& ended) {
             continue;
         }
         const Scene scene = scene_;
-        Made made{wishes_.front(), number_, {}, {}};
+        Made made{wishes_.front(), number_, {}, {}, {}};
+        const std::uint64_t wanted = wanted_;
         wishes_.erase(wishes_.begin());
         lock.unlock();
-        last.make(scene, made);
-        done_(std::move(made));
+        const bool isMade = last.make(scene, made);
+        const SideWish again = isMade ? SideWish() : made.wish;
+        if (isMade) done_(std::move(made));
         lock.lock();
+        if (!isMade && wanted == wanted_) wishes_.insert(wishes_.begin(), again);
     }
 }
 

@@ -20,8 +20,12 @@ struct Scene {
     StartUpPictures pictures;
     LayerPlace placedLast;
     std::function<ReadPicture(const std::string&)> readSource;  ///< of portraits
-    std::string backgroundFile;
-    QImage background;      ///< its pixels, shared with the layer; null where they were turned
+    /// A source with its pixels, shared with its layer; null where they were turned.
+    struct Source {
+        std::string file;
+        QImage pixels;
+    };
+    Source foreground, background;
     bool isFrozen = false;  ///< its background is a picture that no file has
 };
 /// For the loop's thread.
@@ -30,15 +34,18 @@ Scene sceneOf(const SystemInfo& info);
 /// A picture that nobody has open.
 struct SideWish {
     std::string portrait;
-    std::string background;  ///< "" for that of the scene, or of the portrait's own recipe
-    int side = 0;            ///< most pixels each way; 0: the preview as the loop makes it
-    bool isFramed = false;   ///< a portrait without a recipe is placed around its subject
-    bool isDraft = false;    ///< its sources are decoded small: quick, and nearly the same
+    std::string background;   ///< "" for that of the scene, or of the portrait's own recipe
+    int side = 0;             ///< most pixels each way; 0: the preview as the loop makes it
+    bool isFramed = false;    ///< a portrait without a recipe is placed around its subject
+    bool isDraft = false;     ///< its sources are decoded small: quick, and nearly the same
+    SettingValues look = {};  ///< settings that it has in place of the scene's
     bool operator==(const SideWish&) const = default;
 };
 
 /// Makes pictures beside the one under work, on a thread of its own with a low priority and while the loop has
-/// nothing to do: portraits that are not open, as they would be, and one portrait over many backgrounds, keyed once.
+/// nothing to do: portraits that are not open, as they would be, and one portrait over many backgrounds and with many
+/// looks, keyed once. A picture under work is given up between two of its steps when the loop has something to do,
+/// and begun again after it.
 class SidePictures {
   public:
     struct Made {
@@ -46,6 +53,7 @@ class SidePictures {
         std::uint64_t scene = 0;  ///< number of its scene
         QImage picture;           ///< null on failure
         std::string problem;
+        std::string missing;  ///< what names a file that the look wants and that cannot be read, "" without any
     };
     /// @param isIdle whether the loop has nothing to do; asked on this thread, as `done` is called on it
     SidePictures(std::function<bool()> isIdle, std::function<void(Made)> done);
@@ -68,7 +76,8 @@ class SidePictures {
     Scene scene_;
     std::uint64_t number_ = 0;
     std::vector<SideWish> wishes_;
-    std::jthread thread_;  // the last, so that it ends first
+    std::uint64_t wanted_ = 0;  // counts what was told from outside
+    std::jthread thread_;       // the last, so that it ends first
 };
 
 /// A state as it would be with the portrait of a wish open; nothing of it is read yet.

@@ -1,6 +1,8 @@
+#include <atomic>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <set>
+#include <thread>
 
 #include "core/files/Places.h"
 #include "core/state/SettingNames.h"
@@ -23,6 +25,19 @@ class PresetsTest : public testing::Test {
     test::TempFolder folder_;
     const std::string pictures_ = Places::current().picturesFolder();
 };
+
+TEST_F(PresetsTest, AnOverlayIsNamedBeforeItIsSwitchedOnSinceAPassMayMeetHalfOfIt) {
+    SystemInfo info;
+    std::atomic<int> nameless = 0;
+    const std::jthread pass([&](const std::stop_token& ended) {
+        while (!ended.stop_requested())
+            if (info.bHaveFrameOverlay && info.sFrameOverlay.load().empty() && info.bHaveFrameOverlay) ++nameless;
+    });
+    for (int i = 0; i < 300; ++i)
+        for (const char* look : {"winter", "none"})
+            EXPECT_EQ(apply(info, "overlays", look), "");
+    EXPECT_EQ(nameless, 0);
+}
 
 TEST_F(PresetsTest, EveryLookDiffersFromTheOthersAndNoneTakesItAway) {
     std::set<std::string> groups;

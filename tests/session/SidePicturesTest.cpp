@@ -11,8 +11,11 @@
 #endif
 
 #include "core/files/Places.h"
+#include "core/state/SettingNames.h"
 #include "pipeline/CombineThread.h"
 #include "pipeline/PreviewMaker.h"
+#include "session/Looks.h"
+#include "session/OutputSizes.h"
 #include "session/RecipeStore.h"
 #include "session/SettingChanges.h"
 #include "session/SidePictures.h"
@@ -69,6 +72,9 @@ TEST_F(SidePicturesTest, OnePortraitOverManyBackgroundsIsEachTimeThePreviewOfThe
          {"bAdvancedHairDetectionON", "1"},
          {"foreground.fScale", "0.7"},
          {"background.fScale", "0.5"}},
+        {{"texture.sTextureFileName", backgrounds_[2]},
+         {"texture.bHaveTexture", "1"},
+         {"texture.iTextureOffsetPercent", "10"}},
     };
     for (const Settings& settings : cases) {
         const auto first = stateWith(settings, backgrounds_[0]);
@@ -80,6 +86,107 @@ TEST_F(SidePicturesTest, OnePortraitOverManyBackgroundsIsEachTimeThePreviewOfThe
                 << settings.back().first << ' ' << background;
         }
     }
+}
+
+/// What a preset of an effect writes, as settings.
+SettingValues lookOf(const SystemInfo& from, const PresetGroup& group, const char* name) {
+    SystemInfo with;
+    static_cast<void>(useSettings(with, settingsOf(from)));
+    const SettingValues before = settingsOf(with);
+    EXPECT_EQ(takeLook(with, group, name), "");
+    SettingValues look = settingsOf(with);
+    std::erase_if(look, [&](const auto& one) { return std::ranges::find(before, one) != before.end(); });
+    return look;
+}
+
+TEST_F(SidePicturesTest, OnePortraitWithManyLooksIsEachTimeThePreviewOfTheLoop) {
+    const Settings cases[] = {
+        {{"bRefineKey", "1"}},
+        {{"bRefineKey", "0"}, {"frame.iFrameType", "2"}, {"iHaveShadow", "5"}},
+        {{"bRefineKey", "1"}, {"bAdvancedHairDetectionON", "1"}, {"bHaveReflection", "1"}, {"texture.bWhite", "1"}},
+    };
+    const std::vector<SettingValues> others = {
+        {{"iMacroHairColor", "2"}, {"combined.sliderRemoveGreenAreas", "140"}},
+        {{"iMacroHairColor", "6"}},
+        {{"foreground.fScale", "0.6"}},
+        {{"foreground.bFlipHorz", "1"}},
+    };
+    const ReadPicture portrait = readPicture(portrait_);
+    const auto read = [&](const std::string& path) { return path == portrait_ ? portrait : readPicture(path); };
+    for (const Settings& settings : cases) {
+        const auto first = stateWith(settings, backgrounds_[0]);
+        first->readSource = read;
+        PreviewMaker maker(stateFor(sceneOf(*first), {portrait_, "", 0, false, false}));
+        const auto check = [&](const SettingValues& look) {
+            SettingValues before;
+            const bool leavesSubject =
+                std::ranges::all_of(look, [](const auto& one) { return partOf(one.first) == LookPart::effects; });
+            maker.change(
+                [&](SystemInfo& info) {
+                    for (const auto& [name, value] : look)
+                        before.emplace_back(name, *fieldValue(info, name));
+                    EXPECT_EQ(useSettings(info, look), "");
+                },
+                leavesSubject);
+            const QImage made = maker.over();
+            ASSERT_FALSE(made.isNull()) << maker.problem();
+            const auto state = stateWith(settings, backgrounds_[0]);
+            state->bSkipHiRes = true;
+            state->readSource = read;
+            EXPECT_EQ(useSettings(*state, look), "");
+            EXPECT_TRUE(made == previewByLoop(*state)) << (look.empty() ? "" : look.front().first);
+            maker.change([&](SystemInfo& info) { static_cast<void>(useSettings(info, before)); }, leavesSubject);
+        };
+        for (const PresetGroup& group : presetGroups()) {
+            if (!group.inPreview) continue;
+            for (const Preset& preset : group.presets)
+                check(lookOf(*first, group, preset.name));
+        }
+        for (const SettingValues& look : others)
+            check(look);
+    }
+}
+
+TEST_F(SidePicturesTest, ADrawingIsThatOfAFullPictureOfThisSize) {
+    const Settings settings = {{"iCartoonEffectType", "3"},
+                               {"iSliderCartoonEffectWidth", "40"},
+                               {"iSliderCartoonEffectSmoothing", "20"},
+                               {"frame.iFrameType", "2"},
+                               {"iBlendEdges", "0"},
+                               {"bRefineKey", "0"}};
+    const auto state = stateWith(settings, backgrounds_[0]);
+    PreviewMaker maker(stateFor(sceneOf(*state), {portrait_, "", 0, false, false}));
+    const QImage made = maker.over();
+    ASSERT_EQ(previewByLoop(*state).size(), made.size());
+    // The same picture again, with the size of its preview.
+    chooseOwnSize(*state, "small", state->dOutputImageWidthInInches, state->dOutputImageHeightInInches,
+                  state->iOutputImageLowResDPI);
+    state->StartUpdate();
+    previewByLoop(*state);
+    EXPECT_TRUE(made == QImage(state->pCombinedBitmapInfo->pBitmapData, state->iOutputPixelWidth,
+                               state->iOutputPixelHeight, QImage::Format_RGBA8888));
+}
+
+TEST_F(SidePicturesTest, AFileOfALookThatIsGoneIsTold) {
+    const auto info =
+        stateWith({{"sFrameOverlay", folder_.file("other.png")}, {"bHaveFrameOverlay", "1"}}, backgrounds_[0]);
+    std::promise<void> all;
+    std::vector<SidePictures::Made> made;
+    SidePictures pictures([] { return true; },
+                          [&](SidePictures::Made one) {
+                              made.push_back(std::move(one));
+                              if (made.size() == 3) all.set_value();
+                          });
+    const SideWish plain{portrait_, "", 64, false, false};
+    SideWish gone = plain;
+    gone.look = {{"sForegroundOverlay", folder_.file("FG_Gone.png")}, {"bHaveForegroundOverlay", "1"}};
+    pictures.setScene(sceneOf(*info), 1);
+    pictures.want({plain, gone, plain});
+    ASSERT_EQ(all.get_future().wait_for(std::chrono::seconds(20)), std::future_status::ready);
+    EXPECT_NE(made[1].missing.find("FG_Gone.png"), std::string::npos) << made[1].missing;
+    EXPECT_EQ(made[0].missing + made[2].missing, "") << "what the picture itself lacks is told elsewhere";
+    EXPECT_FALSE(made[1].picture.isNull());
+    EXPECT_TRUE(made[0].picture == made[2].picture);
 }
 
 TEST_F(SidePicturesTest, APortraitThatIsNotOpenLooksAsItWillWhenItIs) {
@@ -141,6 +248,35 @@ TEST_F(SidePicturesTest, WorksOnlyWhileTheLoopIsIdleAndDropsWhatIsNoLongerWanted
     EXPECT_EQ(std::max(made[0].picture.width(), made[0].picture.height()), 64);
     EXPECT_TRUE(made[1].picture.isNull());
     EXPECT_FALSE(made[1].problem.empty());
+}
+
+TEST_F(SidePicturesTest, APictureUnderWorkGivesWayAndIsBegunAgain) {
+    const auto info = stateWith({{"bRefineKey", "1"}}, backgrounds_[0]);
+    const SideWish wish{portrait_, "", 0, false, false};
+    int steps = 0;
+    PreviewMaker whole(stateFor(sceneOf(*info), wish), [&] { return ++steps > 0; });
+    const QImage expected = whole.over();
+    ASSERT_GT(steps, 10);
+    // Given up at each of its steps, and finished afterwards.
+    for (int last = 1; last < steps; last += 3) {
+        int asked = 0;
+        PreviewMaker maker(stateFor(sceneOf(*info), wish), [&] { return ++asked != last; });
+        EXPECT_TRUE(maker.over().isNull());
+        EXPECT_TRUE(maker.wasGivenUp());
+        EXPECT_EQ(maker.problem(), "");
+        EXPECT_EQ(asked, last) << "no step after it";
+        EXPECT_TRUE(maker.over() == expected) << last;
+    }
+    std::atomic<int> asked = 0;
+    std::promise<QImage> made;
+    SidePictures pictures([&] { return ++asked % 7 != 0 || asked > 60; },
+                          [&](const SidePictures::Made& one) { made.set_value(one.picture); });
+    pictures.setScene(sceneOf(*info), 1);
+    pictures.want({wish});
+    auto future = made.get_future();
+    ASSERT_EQ(future.wait_for(std::chrono::seconds(20)), std::future_status::ready);
+    EXPECT_TRUE(future.get() == expected);
+    EXPECT_GT(asked, 60) << "it was given up on the way";
 }
 
 #ifdef __linux__

@@ -314,9 +314,9 @@ TEST_F(EffectsTest, EverySettingOfTheEffectsIsSavedAndShownAgain) {
     window_->panel()->resetAll();
     EXPECT_FALSE(info_->oImageTexture->bHaveTexture);
     EXPECT_EQ(info_->iHaveShadow, 1);
+    EXPECT_EQ(part<QLabel>("textShadowType")->text(), "No Shadow Active");
     window_->openState(state);
-    ASSERT_TRUE(test::eventually(
-        [&] { return info_->iHaveShadow == 3 && part<QToolButton>("buttonFloorAndWall")->isChecked(); }));
+    ASSERT_TRUE(test::eventually([&] { return part<QLabel>("textShadowType")->text() == "Wall and Floor Shadow"; }));
     const auto after = listFields(*info_);
     for (std::size_t i = 0; i < before.size(); ++i) {
         const std::string& name = before[i].first;

@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "ui/adjust/AdjustGroups.h"
+#include "ui/tiles/TileRow.h"
 
 namespace tavrin {
 
@@ -17,7 +18,8 @@ AdjustPage::AdjustPage(Binder& binder, QWidget* parent)
       textScaleView_(new TextScaleView(binder)) {
     for (const BindingGroup& group : adjustGroups()) {
         if (group.name == std::string_view(kFirstLayerGroup)) addWidget(makeLayerSwitch());
-        GroupBox* box = addGroup(group, binder);
+        auto* box = new GroupBox(group, binder, nullptr, TileRow::rowsOf(group.name, binder));
+        addGroup(box);
         if (group.name != std::string_view("groupPlace")) continue;
         box->addWidget(scaleView_);
         box->addWidget(textScaleView_);

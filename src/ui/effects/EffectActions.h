@@ -7,15 +7,14 @@
 
 namespace tavrin {
 
-/// What a button of an effect group does that is no plain binding: it writes several settings, as one step. Texts are
-/// translated in the context "Panel".
+/// What a button of an effect group does that is no plain binding: it starts an effect by writing several settings,
+/// as one step. Texts are translated in the context "Panel".
 struct EffectAction {
     const char* control;  ///< name of its button
     const char* handler;
     const char *label, *toolTip;
     std::vector<std::string> settings;  ///< all that it writes
     void (*write)(SystemInfo& info);
-    bool (*inForce)(const SystemInfo& info) = nullptr;  ///< null for one that starts something and leaves it
 };
 
 /// The buttons of a row above the controls of a group.

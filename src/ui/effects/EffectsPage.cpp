@@ -12,6 +12,7 @@
 #include "ui/effects/EffectFiles.h"
 #include "ui/effects/EffectGroups.h"
 #include "ui/effects/ShadowKind.h"
+#include "ui/tiles/TileRow.h"
 
 namespace tavrin {
 
@@ -60,6 +61,8 @@ EffectsPage::EffectsPage(Binder& binder, QWidget* parent)
         addGroup(made.at(name));
     static const BindingGroup overlays{"groupOverlays", QT_TRANSLATE_NOOP("Panel", "Overlays"), nullptr, {}, true};
     overlays_ = PanelPage::addGroup(overlays, binder);
+    for (QWidget* row : TileRow::rowsOf(overlays.name, binder))
+        overlays_->addItem(row);
     for (const PictureSetting& slot : overlaySlots()) {
         slots_.push_back(new PictureRow(slot, binder));
         overlays_->addItem(slots_.back());
@@ -78,7 +81,7 @@ GroupBox* EffectsPage::makeGroup(const BindingGroup& group) {
 }
 
 std::vector<QWidget*> EffectsPage::leadsOf(const BindingGroup& group) const {
-    std::vector<QWidget*> leads;
+    std::vector<QWidget*> leads = TileRow::rowsOf(group.name, binder_);
     const std::string_view name = group.name;
     for (const EffectActionRow& row : effectActions())
         if (name == row.group) leads.push_back(new ActionRow(row, binder_));

@@ -7,6 +7,7 @@
 #include "core/files/StandardPath.h"
 #include "ui/frame/ActionButton.h"
 #include "ui/frame/MainWindow.h"
+#include "ui/look/TileDesk.h"
 #include "ui/strip/BackgroundGrid.h"
 
 namespace tavrin {
@@ -106,6 +107,7 @@ void MainWindow::connectStrip() {
     connect(strip_, &Strip::pickFolderWanted, this, &MainWindow::askForPickDirectory);
     connect(strip_, &Strip::marksChanged, commands_, &Commands::refresh);
     connect(strip_, &Strip::failed, messages_, &MessageBar::fail);
+    new TileDesk(strip_->results(), panel_->findChildren<TileRow*>(), this);
     connect(
         &bridge_, &WindowBridge::controlsEnabled, strip_,
         [this](bool enabled) {

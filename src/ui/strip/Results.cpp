@@ -59,20 +59,23 @@ void Results::follow(CombineThread& loop) {
 void Results::takeScene(Scene scene) {
     hasScene_ = !scene.isFrozen;
     SettingValues look = withoutPortrait(scene.settings, isFramed_), place = withoutBackground(scene.settings);
-    const bool newLook = look != look_, newPlace = place != place_;
+    const bool isNew = scene.settings != all_, newLook = look != look_, newPlace = place != place_;
+    all_ = scene.settings;
     look_ = std::move(look);
     place_ = std::move(place);
     if (newLook) previews_.clear();
     maker_.setScene(std::move(scene), ++number_);
     if (newLook) emit portraitsChanged();
     if (newPlace) emit backgroundsChanged();
+    if (isNew) emit looksChanged();
     tellWishes();
 }
 
 /// Where somebody looks comes first.
 void Results::tellWishes() {
     if (!hasScene_) return;
-    std::vector<SideWish> all = backgrounds_;
+    std::vector<SideWish> all = looks_;
+    std::ranges::copy(backgrounds_, std::back_inserter(all));
     std::vector<SideWish> next = wishesFor(next_, {"", "", 0, isFramed_, false});
     std::erase_if(next, [this](const SideWish& wish) { return previews_.contains(wish.portrait); });
     std::ranges::move(next, std::back_inserter(all));
@@ -107,11 +110,23 @@ void Results::wantBackgrounds(const std::vector<std::string>& backgrounds, int s
     tellWishes();
 }
 
+void Results::wantLooks(const std::vector<SettingValues>& looks, int side) {
+    const std::string portrait = info_.pForegroundBitmapInfo->sSourceImageFullPath;
+    std::vector<SideWish> wishes = wishesFor(std::vector(looks.size(), portrait), {"", "", side, false, false});
+    for (std::size_t i = 0; i < looks.size(); ++i)
+        wishes[i].look = looks[i];
+    if (wishes == looks_) return;
+    looks_ = std::move(wishes);
+    tellWishes();
+}
+
 void Results::take(const SidePictures::Made& made) {
     if (made.scene != number_) return;  // settings have changed meanwhile, and it is made again
     const auto isThis = [&](const SideWish& wish) { return wish == made.wish; };
     if (std::erase_if(backgrounds_, isThis) > 0)
         return emit backgroundMade(made.wish.background, made.picture, QString::fromStdString(made.problem));
+    if (std::erase_if(looks_, isThis) > 0)
+        return emit lookMade(made.wish, made.picture, QString::fromStdString(made.problem + made.missing));
     if (made.wish.side == 0) {
         previews_[made.wish.portrait] = made.picture;  // null: not tried again
         return;

@@ -11,7 +11,8 @@
 namespace tavrin {
 
 /// Pictures with the key that are made while nothing else is to do: portraits of the strip as they would be with the
-/// present settings, the next ones at the size of a preview, and the present one over other backgrounds.
+/// present settings, the next ones at the size of a preview, the present one over other backgrounds and with other
+/// looks.
 class Results : public QObject {
     Q_OBJECT
 
@@ -28,6 +29,8 @@ class Results : public QObject {
     void wantPortraits(const std::vector<std::string>& portraits, int side);
     void wantNext(const std::vector<std::string>& portraits);
     void wantBackgrounds(const std::vector<std::string>& backgrounds, int side);
+    /// The present portrait with each of these looks, as small pictures, before everything else.
+    void wantLooks(const std::vector<SettingValues>& looks, int side);
 
     /// Portraits that are not open were given other settings.
     void forget();
@@ -39,8 +42,11 @@ class Results : public QObject {
     /// Settings are other ones: what was made of other portraits, and of other backgrounds, no longer holds.
     void portraitsChanged();
     void backgroundsChanged();
+    /// The same of looks.
+    void looksChanged();
     void portraitMade(const std::string& portrait, const QImage& picture);
     void backgroundMade(const std::string& background, const QImage& picture, const QString& problem);
+    void lookMade(const SideWish& wish, const QImage& picture, const QString& missing);
 
   private:
     void takeScene(Scene scene);
@@ -50,8 +56,8 @@ class Results : public QObject {
     const SystemInfo& info_;
     bool isFramed_ = false, hasScene_ = false;
     std::uint64_t number_ = 0;
-    SettingValues look_, place_;  // what other portraits and other backgrounds depend on
-    std::vector<SideWish> portraits_, backgrounds_;
+    SettingValues all_, look_, place_;  // what looks, other portraits and other backgrounds depend on
+    std::vector<SideWish> looks_, portraits_, backgrounds_;
     std::vector<std::string> next_;
     std::map<std::string, QImage> previews_;
     SidePictures maker_;  // the last, so that it ends first

@@ -20,10 +20,12 @@ namespace tavrin {
 namespace {
 
 constexpr int kRowsShown = 5;
+constexpr int kMostOfWords = 200;
 
-/// What the list shows of an item.
+/// What the list shows of an item: of long words the beginning, since it lays out all that it is given.
 QString rowOf(const FontObject& item) {
-    const QString words = textOfName(item.sText).simplified();
+    const QString text = textOfName(item.sText);
+    const QString words = (item.isImage ? text : text.left(kMostOfWords)).simplified();
     return item.isImage ? TextPage::tr("IMAGE: %1").arg(words.section('/', -1)) : TextPage::tr("TEXT: %1").arg(words);
 }
 

@@ -153,7 +153,7 @@ FontRow::FontRow(const WordSetting& setting, Binder& binder, QWidget* parent)
 void FontRow::showWord(const QString& word) {
     const int at = box_->findText(word, Qt::MatchFixedString);
     box_->setCurrentIndex(at);
-    if (at < 0) box_->setPlaceholderText(word);
+    if (at < 0) box_->setPlaceholderText(word.isEmpty() ? word : WordRow::tr("%1 (not installed)").arg(word));
 }
 
 }  // namespace tavrin
