@@ -2,103 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>FileFilters</name>
-    <message>
-        <source>Pictures (%1)</source>
-        <translation>Bilder (%1)</translation>
-    </message>
-    <message>
-        <source>State files (*.qlx)</source>
-        <translation>Standdateien (*.qlx)</translation>
-    </message>
-</context>
-<context>
-    <name>Habits</name>
-    <message>
-        <source>Language</source>
-        <translation>Sprache</translation>
-    </message>
-    <message>
-        <source>The words of the window, from the next start on</source>
-        <translation>Die Sprache des Fensters, ab dem nächsten Start</translation>
-    </message>
-    <message>
-        <source>As the desktop</source>
-        <translation>Wie die Arbeitsfläche</translation>
-    </message>
-    <message>
-        <source>The words change with the next start.</source>
-        <translation>Die Sprache wechselt mit dem nächsten Start.</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Farben</translation>
-    </message>
-    <message>
-        <source>The colours of the window</source>
-        <translation>Die Farben des Fensters</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>Hell</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Dunkel</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>Alle</translation>
-    </message>
-    <message>
-        <source>Processors</source>
-        <translation>Prozessoren</translation>
-    </message>
-    <message>
-        <source>How many processors work on a picture; fewer leave some to other programs</source>
-        <translation>Wie viele Prozessoren an einem Bild arbeiten; weniger lassen anderen Programmen welche</translation>
-    </message>
-    <message>
-        <source>Kind of file</source>
-        <translation>Art der Datei</translation>
-    </message>
-    <message>
-        <source>What names of saved pictures end with, until another ending is typed. A clear background is always proposed as PNG</source>
-        <translation>Womit die Namen gespeicherter Bilder enden, bis eine andere Endung getippt wird. Ein durchsichtiger Hintergrund wird immer als PNG vorgeschlagen</translation>
-    </message>
-    <message>
-        <source>As the portrait</source>
-        <translation>Wie das Porträt</translation>
-    </message>
-</context>
-<context>
-    <name>Menu</name>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;Picture</source>
-        <translation>B&amp;ild</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>E&amp;ffects</source>
-        <translation>&amp;Effekte</translation>
-    </message>
-</context>
-<context>
     <name>Edits</name>
     <message>
         <source>There is no full picture to edit.</source>
@@ -231,6 +134,103 @@
     <message>
         <source>%1, and it goes from %2 to %3</source>
         <translation>%1 – erlaubt ist %2 bis %3</translation>
+    </message>
+</context>
+<context>
+    <name>FileFilters</name>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>State files (*.qlx)</source>
+        <translation>Standdateien (*.qlx)</translation>
+    </message>
+</context>
+<context>
+    <name>Habits</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>The words of the window, from the next start on</source>
+        <translation>Die Sprache des Fensters, ab dem nächsten Start</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie die Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source>The words change with the next start.</source>
+        <translation>Die Sprache wechselt mit dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>The colours of the window</source>
+        <translation>Die Farben des Fensters</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Processors</source>
+        <translation>Prozessoren</translation>
+    </message>
+    <message>
+        <source>How many processors work on a picture; fewer leave some to other programs</source>
+        <translation>Wie viele Prozessoren an einem Bild arbeiten; weniger lassen anderen Programmen welche</translation>
+    </message>
+    <message>
+        <source>Kind of file</source>
+        <translation>Art der Datei</translation>
+    </message>
+    <message>
+        <source>What names of saved pictures end with, until another ending is typed. A clear background is always proposed as PNG</source>
+        <translation>Womit die Namen gespeicherter Bilder enden, bis eine andere Endung getippt wird. Ein durchsichtiger Hintergrund wird immer als PNG vorgeschlagen</translation>
+    </message>
+    <message>
+        <source>As the portrait</source>
+        <translation>Wie das Porträt</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Picture</source>
+        <translation>B&amp;ild</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>E&amp;ffects</source>
+        <translation>&amp;Effekte</translation>
     </message>
 </context>
 <context>

@@ -2,103 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>FileFilters</name>
-    <message>
-        <source>Pictures (%1)</source>
-        <translation>Imágenes (%1)</translation>
-    </message>
-    <message>
-        <source>State files (*.qlx)</source>
-        <translation>Archivos de estado (*.qlx)</translation>
-    </message>
-</context>
-<context>
-    <name>Habits</name>
-    <message>
-        <source>Language</source>
-        <translation>Idioma</translation>
-    </message>
-    <message>
-        <source>The words of the window, from the next start on</source>
-        <translation>El idioma de la ventana, a partir del próximo inicio</translation>
-    </message>
-    <message>
-        <source>As the desktop</source>
-        <translation>Como el escritorio</translation>
-    </message>
-    <message>
-        <source>The words change with the next start.</source>
-        <translation>El idioma cambia con el próximo inicio.</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Colores</translation>
-    </message>
-    <message>
-        <source>The colours of the window</source>
-        <translation>Los colores de la ventana</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>Claro</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Oscuro</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>Todos</translation>
-    </message>
-    <message>
-        <source>Processors</source>
-        <translation>Procesadores</translation>
-    </message>
-    <message>
-        <source>How many processors work on a picture; fewer leave some to other programs</source>
-        <translation>Cuántos procesadores trabajan en una imagen; menos dejan algunos a otros programas</translation>
-    </message>
-    <message>
-        <source>Kind of file</source>
-        <translation>Tipo de archivo</translation>
-    </message>
-    <message>
-        <source>What names of saved pictures end with, until another ending is typed. A clear background is always proposed as PNG</source>
-        <translation>Con qué terminan los nombres de las imágenes guardadas, hasta que se escriba otra terminación. Un fondo transparente se propone siempre como PNG</translation>
-    </message>
-    <message>
-        <source>As the portrait</source>
-        <translation>Como el retrato</translation>
-    </message>
-</context>
-<context>
-    <name>Menu</name>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Archivo</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Edición</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ver</translation>
-    </message>
-    <message>
-        <source>&amp;Picture</source>
-        <translation>&amp;Imagen</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>A&amp;yuda</translation>
-    </message>
-    <message>
-        <source>E&amp;ffects</source>
-        <translation>E&amp;fectos</translation>
-    </message>
-</context>
-<context>
     <name>Edits</name>
     <message>
         <source>There is no full picture to edit.</source>
@@ -231,6 +134,103 @@
     <message>
         <source>%1, and it goes from %2 to %3</source>
         <translation>%1, y va de %2 a %3</translation>
+    </message>
+</context>
+<context>
+    <name>FileFilters</name>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Imágenes (%1)</translation>
+    </message>
+    <message>
+        <source>State files (*.qlx)</source>
+        <translation>Archivos de estado (*.qlx)</translation>
+    </message>
+</context>
+<context>
+    <name>Habits</name>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>The words of the window, from the next start on</source>
+        <translation>El idioma de la ventana, a partir del próximo inicio</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Como el escritorio</translation>
+    </message>
+    <message>
+        <source>The words change with the next start.</source>
+        <translation>El idioma cambia con el próximo inicio.</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Colores</translation>
+    </message>
+    <message>
+        <source>The colours of the window</source>
+        <translation>Los colores de la ventana</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Processors</source>
+        <translation>Procesadores</translation>
+    </message>
+    <message>
+        <source>How many processors work on a picture; fewer leave some to other programs</source>
+        <translation>Cuántos procesadores trabajan en una imagen; menos dejan algunos a otros programas</translation>
+    </message>
+    <message>
+        <source>Kind of file</source>
+        <translation>Tipo de archivo</translation>
+    </message>
+    <message>
+        <source>What names of saved pictures end with, until another ending is typed. A clear background is always proposed as PNG</source>
+        <translation>Con qué terminan los nombres de las imágenes guardadas, hasta que se escriba otra terminación. Un fondo transparente se propone siempre como PNG</translation>
+    </message>
+    <message>
+        <source>As the portrait</source>
+        <translation>Como el retrato</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Picture</source>
+        <translation>&amp;Imagen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>E&amp;ffects</source>
+        <translation>E&amp;fectos</translation>
     </message>
 </context>
 <context>
