@@ -60,7 +60,7 @@ class ClosingTest : public test::WindowTest {
 
 TEST_F(ClosingTest, AWindowMayCloseAtAnyMoment) {
     std::mt19937 random(5);
-    for (int round = 0; round < 40; ++round) {
+    for (int round = 0; round < 15; ++round) {
         window_ = std::make_unique<MainWindow>(*info_);
         window_->resize(1200, 800);
         window_->show();
