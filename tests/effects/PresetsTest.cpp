@@ -28,14 +28,20 @@ class PresetsTest : public testing::Test {
 
 TEST_F(PresetsTest, AnOverlayIsNamedBeforeItIsSwitchedOnSinceAPassMayMeetHalfOfIt) {
     SystemInfo info;
-    std::atomic<int> nameless = 0;
+    std::atomic<int> nameless = 0, turn = 0;  // odd while the look is being taken, and until it goes
     const std::jthread pass([&](const std::stop_token& ended) {
-        while (!ended.stop_requested())
-            if (info.bHaveFrameOverlay && info.sFrameOverlay.load().empty() && info.bHaveFrameOverlay) ++nameless;
+        while (!ended.stop_requested()) {
+            const int now = turn;
+            const bool half = info.bHaveFrameOverlay && info.sFrameOverlay.load().empty();
+            if (half && now % 2 == 1 && turn == now) ++nameless;
+        }
     });
-    for (int i = 0; i < 300; ++i)
-        for (const char* look : {"winter", "none"})
+    for (int i = 0; i < 300; ++i) {
+        for (const char* look : {"winter", "none"}) {
+            ++turn;
             EXPECT_EQ(apply(info, "overlays", look), "");
+        }
+    }
     EXPECT_EQ(nameless, 0);
 }
 
