@@ -1,9 +1,7 @@
 #include <array>
 #include <atomic>
-#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include "core/files/AtomicFile.h"
@@ -11,6 +9,7 @@
 #include "core/image/ImageReader.h"
 #include "core/image/ImageWriter.h"
 #include "support/MadePictures.h"
+#include "support/SmallDisk.h"
 #include "support/TestData.h"
 
 namespace fs = std::filesystem;
@@ -204,24 +203,6 @@ TEST(ImageWriter, SaysWhatIsWrongAndWritesNothing) {
     }
 }
 
-/// Files of this process cannot grow beyond `bytes` while it lives: what a full disk does, for anyone.
-class SmallDisk {
-  public:
-    explicit SmallDisk(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &old_);
-        const rlimit small{bytes, old_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk() {
-        setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, signal_);
-    }
-
-  private:
-    rlimit old_{};
-    void (*signal_)(int);
-};
-
 TEST(ImageWriter, AFullDiskLeavesTheOldPictureAlone) {
     const TempFolder folder;
     const Sample sample;
@@ -231,7 +212,7 @@ TEST(ImageWriter, AFullDiskLeavesTheOldPictureAlone) {
         const std::vector<std::uint8_t> old = test::readBytes(path);
         Sample other(true);
         for (const rlim_t room : {rlim_t{0}, rlim_t{100}, rlim_t{2000}, static_cast<rlim_t>(old.size() / 2)}) {
-            const SmallDisk disk(room);
+            const test::SmallDisk disk(room);
             EXPECT_NE(writePicture(path, other.request(type)), "") << path << " in " << room;
         }
         EXPECT_EQ(test::readBytes(path), old);

@@ -1,15 +1,14 @@
 #include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
 #include <vector>
 
 #include "formats/SafeFile.h"
 #include "support/Files.h"
+#include "support/SmallDisk.h"
 #include "support/TestData.h"
 
 namespace tavrin {
@@ -72,16 +71,10 @@ TEST_F(SafeFileTest, SaveThatIsGivenUpOrFailsPutsTheOldFileBack) {
     }
     EXPECT_EQ(readFile(path), "old");
 
-    // A limit on the size of files stands for a full disk.
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{100'000, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    const bool saved = save(std::string(1'000'000, 'x'));
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-    EXPECT_FALSE(saved);
+    {
+        const test::SmallDisk disk(100'000);
+        EXPECT_FALSE(save(std::string(1'000'000, 'x')));
+    }
     EXPECT_EQ(readFile(path), "old");
     EXPECT_EQ(filesThere(), 1U);
 }
