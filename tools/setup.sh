@@ -5,6 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 build_packages=(g++ cmake ninja-build ccache pkg-config python3 qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools
+    qt6-webengine-dev
     libgl1-mesa-dev breeze-icon-theme
     libvips-dev libraw-dev libexif-dev libjpeg-dev libtiff-dev libpng-dev liblcms2-dev libpugixml-dev libtbb-dev
     libhwy-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev)

@@ -107,8 +107,6 @@ TEST_F(DeskTest, NoTwoActionsHaveOneShortcutAndNoneTakesAKeyOfTheDesktop) {
         EXPECT_TRUE(key.isEmpty() || keys.insert(key).second) << key.toStdString() << ' ' << command.id;
         EXPECT_FALSE(desktops.match(key).hasMatch()) << key.toStdString() << ' ' << command.id;
     }
-    window_->commands().showShortcuts();
-    EXPECT_TRUE(window_->findChild<QWidget*>("shortcuts")->isVisible());
 }
 
 TEST_F(DeskTest, NoTipCoversWhatIsDoneAndAKeyHidesAllOfThem) {

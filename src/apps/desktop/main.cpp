@@ -105,6 +105,7 @@ void openInFront(tavrin::MainWindow& window, const QStringList& files, bool forH
 int main(int argc, char** argv) {
     nameProgram();
     if (asksForText(argc, argv)) readArguments(QCoreApplication(argc, argv));  // which ends the program
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);  // as pages of web want it, if some are shown
     Application application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");  // what is printed and digested has a full stop in every locale
     const auto [files, forHost] = readArguments(application);

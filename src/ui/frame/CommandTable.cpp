@@ -3,6 +3,7 @@
 #include "ui/adjust/Rotation.h"
 #include "ui/frame/ActionSearch.h"
 #include "ui/frame/MainWindow.h"
+#include "ui/frame/ShortcutDialog.h"
 #include "ui/frame/Theme.h"
 #include "ui/frame/TipGuard.h"
 
@@ -34,7 +35,7 @@ void MainWindow::findAction() {
         const QString menu = QString(command.menu).remove('|').remove('&');
         entries.push_back({action->text().section('\t', 0, 0).remove('&'),
                            menu.isEmpty() ? MainWindow::tr("Shortcut") : menu,
-                           command.shortcut.toString(QKeySequence::NativeText), command.toolTip, action->isEnabled(),
+                           commands_->keyOf(command).toString(QKeySequence::NativeText), command.toolTip, action->isEnabled(),
                            [action] { action->trigger(); }});
     }
     for (const GroupBox* group : panel_->groups())
@@ -276,11 +277,11 @@ std::vector<Command> commandTable(MainWindow& w) {
         {"Shortcuts",
          "&Help",
          MainWindow::tr("&Keyboard Shortcuts"),
-         MainWindow::tr("Every key and what it does"),
+         MainWindow::tr("Every key and what it does, and another one where you want it"),
          "",
          QKeySequence(Qt::Key_F1),
          {},
-         [&w](bool) { w.commands_->showShortcuts(); }},
+         [&w](bool) { (new ShortcutDialog(*w.commands_, &w))->show(); }},
     };
     for (Command& command : lookCommands(*w.looks_))
         table.push_back(std::move(command));

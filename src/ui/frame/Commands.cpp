@@ -1,15 +1,12 @@
 #include "ui/frame/Commands.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
-#include <QDialog>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QTableWidget>
 #include <QTimer>
-#include <QVBoxLayout>
 
 #include "ui/frame/Icons.h"
 
@@ -30,6 +27,7 @@ Commands::Commands(QMainWindow& window, std::vector<Command> table)
     for (const Command& command : table_)
         add(command);
     window_.installEventFilter(this);
+    showKeys();
     refresh();
 }
 
@@ -53,14 +51,11 @@ void Commands::add(const Command& command) {
     if (!command.toolTip.isEmpty()) action->setToolTip(command.toolTip);
     action->setCheckable(command.kind == Command::Kind::checked);
     if (command.kind == Command::Kind::held) {
-        // A shortcut knows no release; here the key stands for people to read.
-        action->setText(command.text + '\t' + command.shortcut.toString(QKeySequence::NativeText));
         connect(action, &QAction::triggered, this, [this, run = command.run] {  // which nobody holds
             run(true);
             QTimer::singleShot(2000, this, [run] { run(false); });
         });
     } else {
-        action->setShortcut(command.shortcut);
         const auto run = command.run;
         if (action->isCheckable()) {
             connect(action, &QAction::toggled, this, [this, run](bool on) {
@@ -108,45 +103,42 @@ bool Commands::eventFilter(QObject* watched, QEvent* event) {
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->isAutoRepeat() || key->modifiers() != Qt::NoModifier) return QObject::eventFilter(watched, event);
     for (const Command& command : table_) {
-        if (command.kind != Command::Kind::held || command.shortcut != QKeySequence(key->key())) continue;
+        if (command.kind != Command::Kind::held || keyOf(command) != QKeySequence(key->key())) continue;
         command.run(event->type() == QEvent::KeyPress);
         return true;
     }
     return false;
 }
 
-void Commands::showShortcuts() {
-    auto* dialog = new QDialog(&window_);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setObjectName("shortcuts");
-    dialog->setWindowTitle(tr("Keyboard Shortcuts"));
-    auto* list = new QTableWidget(0, 2, dialog);
-    list->setAccessibleName(dialog->windowTitle());
-    list->setHorizontalHeaderLabels({tr("Shortcut"), tr("What it does")});
-    list->horizontalHeader()->setStretchLastSection(true);
-    list->verticalHeader()->hide();
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    const auto line = [list](const QString& key, const QString& text) {
-        const int row = list->rowCount();
-        list->insertRow(row);
-        list->setItem(row, 0, new QTableWidgetItem(key));
-        list->setItem(row, 1, new QTableWidgetItem(QString(text).remove('&')));
-    };
-    for (const Command& command : table_)
-        if (!command.shortcut.isEmpty()) line(command.shortcut.toString(QKeySequence::NativeText), command.text);
-    line(tr("Arrows"), tr("Move a slider; with Shift finer, with Ctrl coarser"));
-    line(tr("Delete"), tr("Put the default of a slider back"));
-    line(tr("Arrows on the picture"), tr("Move what is shown; with Shift by a point"));
-    line(tr("Arrows on the line between before and after"), tr("Move the line"));
-    line(tr("Wheel"), tr("Zoom about the pointer"));
-    line(tr("Left, Right"),
-         tr("On the strip, or on a picture that is seen whole: open the portrait before, or the next one"));
-    line(tr("Space or middle button"), tr("Hold and drag to move the picture"));
-    list->resizeColumnToContents(0);
-    auto* layout = new QVBoxLayout(dialog);
-    layout->addWidget(list);
-    dialog->resize(520, 560);
-    dialog->show();
+QKeySequence Commands::keyOf(const Command& command) const {
+    if (const auto chosen = chosenKeys_.find(command.id); chosen != chosenKeys_.end()) return chosen->second;
+    const bool isTaken = std::ranges::any_of(table_, [&](const Command& other) {
+        const auto chosen = chosenKeys_.find(other.id);
+        return chosen != chosenKeys_.end() && chosen->second == command.shortcut;
+    });
+    return isTaken ? QKeySequence() : command.shortcut;
+}
+
+const Command* Commands::userOf(const QKeySequence& key) const {
+    const auto user = std::ranges::find_if(table_, [&](const Command& command) { return keyOf(command) == key; });
+    return user == table_.end() || key.isEmpty() ? nullptr : &*user;
+}
+
+void Commands::chooseKeys(const ChosenKeys& keys) {
+    chosenKeys_ = keys;
+    keepKeys(keys);
+    showKeys();
+}
+
+void Commands::showKeys() {
+    for (const Command& command : table_) {
+        const QKeySequence key = keyOf(command);
+        // A shortcut knows no release; there the key stands for people to read.
+        if (command.kind == Command::Kind::held)
+            action(command.id)->setText(command.text + '\t' + key.toString(QKeySequence::NativeText));
+        else
+            action(command.id)->setShortcut(key);
+    }
 }
 
 }  // namespace tavrin

@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include "ui/bind/Command.h"
+#include "ui/frame/ChosenKeys.h"
 
 class QMainWindow;
 class QMenu;
@@ -25,8 +26,16 @@ class Commands : public QObject {
     QMenu* menu(const QString& title) const;
     /// Looks anew which of them can be used now.
     void refresh();
-    /// A dialog with every shortcut there is.
-    void showShortcuts();
+
+    /// The key of a command: what a person chose for it, or what its table says while nobody chose that for another.
+    QKeySequence keyOf(const Command& command) const;
+    /// The command of a key, or null.
+    const Command* userOf(const QKeySequence& key) const;
+    /// Gives keys from now on and at every later start; an empty one takes a command's key away. No other command
+    /// loses its chosen key by it.
+    void chooseKeys(const ChosenKeys& keys);
+    /// What a person chose, by names of commands.
+    const ChosenKeys& chosenKeys() const { return chosenKeys_; }
 
   protected:
     /// Keys that are held for as long as something lasts.
@@ -35,11 +44,13 @@ class Commands : public QObject {
   private:
     QMenu* menuFor(const QString& title);
     void add(const Command& command);
+    void showKeys();
 
     QMainWindow& window_;
     const std::vector<Command> table_;
     std::map<QString, QMenu*> menus_;
     std::map<QString, QAction*> actions_;
+    ChosenKeys chosenKeys_ = keptKeys();
     bool refreshing_ = false;
 };
 

@@ -29,6 +29,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       files_(new PictureFiles(info, *loop_, bridge_, this)),
       keeping_(new Safekeeping(editor_, *loop_, this)),
       looks_(new LookDesk(binder_, *keeping_, this)),
+      review_(new ReviewDesk(info_, this)),
       view_(new PictureView),
       strip_(new Strip(info, this)),
       messages_(new MessageBar),
@@ -57,6 +58,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectSettings();
     connectLists();
     connectBatch();
+    connectReview();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
 }

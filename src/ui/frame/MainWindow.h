@@ -20,7 +20,9 @@
 #include "ui/look/LooksPanel.h"
 #include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
+#include "ui/review/ReviewDesk.h"
 #include "ui/settings/SettingsPage.h"
+#include "ui/review/ReviewDesk.h"
 #include "ui/sizes/SizesPanel.h"
 #include "ui/sizes/TemplatesPanel.h"
 #include "ui/strip/Strip.h"
@@ -92,6 +94,7 @@ class MainWindow : public QMainWindow {
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
     LookDesk& looks() { return *looks_; }
+    ReviewDesk& review() { return *review_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
     Commands& commands() { return *commands_; }
@@ -123,6 +126,7 @@ class MainWindow : public QMainWindow {
     void connectSettings();
     void connectLists();
     void connectBatch();
+    void connectReview();
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
@@ -174,6 +178,7 @@ class MainWindow : public QMainWindow {
     PictureFiles* files_;
     Safekeeping* keeping_;
     LookDesk* looks_;
+    ReviewDesk* review_;
     PictureView* view_;
     Strip* strip_;
     MessageBar* messages_;

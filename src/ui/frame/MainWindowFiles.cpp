@@ -200,8 +200,21 @@ void MainWindow::leaveWaysOfSaving() {
 void MainWindow::saveReviewed() {
     const SaveTarget target = saveTargetOf(info_.sBatchReviewFileSavePath);
     if (!takeFinished([&] { return files_->saveReviewed(textOfName(target.picture())); })) return;
+    review_->showAgainAfter(textOfName(target.picture()));
     saveStateBeside(target);
     setBatchReviewNotActive();
+}
+
+void MainWindow::connectReview() {
+    connect(review_, &ReviewDesk::resultChosen, this, &MainWindow::openForReview);
+    connect(review_, &ReviewDesk::portraitChosen, this, [this](const QString& path) {
+        info_.oQLXInfo->sForegroundPath = nameOfText(path);
+        keepSettings();
+        openForeground(path);
+    });
+    connect(review_, &ReviewDesk::told, messages_, &MessageBar::tell);
+    connect(review_, &ReviewDesk::failed, messages_, &MessageBar::fail);
+    connect(files_, &PictureFiles::saved, review_, &ReviewDesk::noteSaved);
 }
 
 void MainWindow::askForReview() {

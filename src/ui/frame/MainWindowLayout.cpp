@@ -45,6 +45,7 @@ void MainWindow::layOut() {
     std::ranges::move(editorCommands(*airbrush_), std::back_inserter(table));
     std::ranges::move(stripCommands(*this), std::back_inserter(table));
     std::ranges::move(fileCommands(*this), std::back_inserter(table));
+    std::ranges::move(reviewCommands(*review_), std::back_inserter(table));
     std::ranges::move(pageCommands(*panel_), std::back_inserter(table));
     std::vector<Command> effects = effectCommands(*panel_->effects());
     const auto help =

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QWidget>
+
+#include "ui/review/WebPages.h"
+
+namespace tavrin {
+
+/// A window for pages of this computer's files. Where no web engine is, the desktop's browser shows them, and what is
+/// clicked there does not reach the program.
+class PageWindow : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// @param id its name, @param calls what the pages ask for
+    PageWindow(const char* id, const QString& title, PageCalls calls, QWidget* parent);
+
+    /// Shows a page, in front of all windows.
+    void showPage(const QString& path);
+
+  signals:
+    /// One plain sentence about what became of it.
+    void told(const QString& line);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void placeOnScreen();
+
+    const PageCalls calls_;
+    QWidget* view_ = nullptr;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <vector>
+
+#include <QObject>
+
+#include "core/state/SystemInfo.h"
+#include "ui/bind/Command.h"
+#include "ui/review/PageWindow.h"
+
+namespace tavrin {
+
+/// Pages to look through many pictures and pick one: the results of a batch beside their masks, and the portraits of
+/// a folder side by side.
+class ReviewDesk : public QObject {
+    Q_OBJECT
+
+  public:
+    ReviewDesk(SystemInfo& info, QWidget* window);
+
+    /// The results of the last batch.
+    void showReviewBatchOutput();
+    /// The portraits of the folder that the last one was opened from.
+    void showCompareFiles();
+    /// When this result has been written again, its pages come back with it.
+    void showAgainAfter(const QString& path) { mended_ = path; }
+    void noteSaved(const QString& path, bool done);
+
+  signals:
+    /// A result is to be mended.
+    void resultChosen(const QString& path);
+    void portraitChosen(const QString& path);
+    void told(const QString& line);
+    void failed(const QString& line, const QString& reason);
+
+  private:
+    bool mayGoFromReview(const QString& name);
+    bool mayGoFromCompare(const QString& name);
+    /// The picture of a link that is its index in the list, or "".
+    QString pictureOf(const QString& link) const;
+    void compare(const QString& folder);
+    void changeFolder();
+
+    SystemInfo& info_;
+    QWidget* window_;
+    PageWindow *review_, *compare_;
+    QString compared_;  ///< the folder on the page
+    QString mended_;    ///< the result that is being written again
+};
+
+/// What the menu has of it.
+std::vector<Command> reviewCommands(ReviewDesk& desk);
+
+}  // namespace tavrin
