@@ -2409,6 +2409,21 @@
     </message>
 </context>
 <context>
+    <name>ShortcutDialog</name>
+    <message>
+        <source>The desktop takes this key itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists, fields and sliders need this key themselves.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A key that is held stands alone, without Ctrl, Alt or Shift.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Story</name>
     <message>
         <source>%1 %</source>
@@ -3041,77 +3056,6 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>tavrin::Commands</name>
-    <message>
-        <source>Keyboard Shortcuts</source>
-        <translation>Tastenkürzel</translation>
-    </message>
-    <message>
-        <source>What it does</source>
-        <translation>Was sie tut</translation>
-    </message>
-    <message>
-        <source>Arrows</source>
-        <translation>Pfeile</translation>
-    </message>
-    <message>
-        <source>Move a slider; with Shift finer, with Ctrl coarser</source>
-        <translation>Einen Regler bewegen; mit Umschalt feiner, mit Strg gröber</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Entf</translation>
-    </message>
-    <message>
-        <source>Put the default of a slider back</source>
-        <translation>Den Vorgabewert eines Reglers zurückholen</translation>
-    </message>
-    <message>
-        <source>Wheel</source>
-        <translation>Rad</translation>
-    </message>
-    <message>
-        <source>Zoom about the pointer</source>
-        <translation>Um den Zeiger vergrößern</translation>
-    </message>
-    <message>
-        <source>Space or middle button</source>
-        <translation>Leertaste oder mittlere Taste</translation>
-    </message>
-    <message>
-        <source>Hold and drag to move the picture</source>
-        <translation>Halten und ziehen, um das Bild zu bewegen</translation>
-    </message>
-    <message>
-        <source>Arrows on the picture</source>
-        <translation>Pfeile auf dem Bild</translation>
-    </message>
-    <message>
-        <source>Move what is shown; with Shift by a point</source>
-        <translation>Den Ausschnitt verschieben; mit Umschalt um einen Punkt</translation>
-    </message>
-    <message>
-        <source>Arrows on the line between before and after</source>
-        <translation>Pfeile auf der Linie zwischen vorher und nachher</translation>
-    </message>
-    <message>
-        <source>Move the line</source>
-        <translation>Die Linie verschieben</translation>
-    </message>
-    <message>
-        <source>Left, Right</source>
-        <translation>Links, Rechts</translation>
-    </message>
-    <message>
-        <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
-        <translation>Auf dem Streifen oder einem ganz gezeigten Bild: das vorige oder nächste Porträt öffnen</translation>
-    </message>
-    <message>
-        <source>Shortcut</source>
-        <translation>Taste</translation>
     </message>
 </context>
 <context>
@@ -4150,10 +4094,6 @@
         <translation>&amp;Tastenkürzel</translation>
     </message>
     <message>
-        <source>Every key and what it does</source>
-        <translation>Jede Taste und was sie tut</translation>
-    </message>
-    <message>
         <source>Not every setting could be taken up.</source>
         <translation>Nicht jede Einstellung konnte übernommen werden.</translation>
     </message>
@@ -4533,6 +4473,10 @@
         <source>Saving %1</source>
         <translation>%1 wird gespeichert</translation>
     </message>
+    <message>
+        <source>Every key and what it does, and another one where you want it</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4602,6 +4546,17 @@
     <message>
         <source>A click selects a text or picture item, and drags act on it</source>
         <translation>Ein Klick wählt einen Text oder ein Bild, und Ziehen wirkt darauf</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PageWindow</name>
+    <message>
+        <source>The page is in the desktop&apos;s browser. What is clicked there does not reach this program: for that its package for web pages is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no web engine here and no browser: the page is %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4842,6 +4797,49 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::ReviewDesk</name>
+    <message>
+        <source>Results of the Batch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare Portraits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No batch has been run yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pages cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds no pictures.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder of Portraits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;view a Batch...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows every result of the last batch beside its mask; a click opens one to be mended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Compare Portraits...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the portraits of the folder side by side; a double click opens one</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tavrin::Safekeeping</name>
     <message>
         <source>The present settings cannot be kept for a next start.</source>
@@ -4930,6 +4928,177 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Gives up reading this folder; the pictures that are shown stay</source>
         <translation>Liest diesen Ordner nicht weiter; die gezeigten Bilder bleiben</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::ShortcutDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation type="unfinished">Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Search by words or by a key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words in any order, or a key such as Ctrl+K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation type="unfinished">Was sie tut</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation type="unfinished">Taste</translation>
+    </message>
+    <message>
+        <source>Click here and press the new key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New key:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take It</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The other command has no key then</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the key from the command that is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usual Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command that is chosen has the key it came with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the last change in this list back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taken back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Usual Keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every command has the key it came with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usually without a key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usually %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move a slider; with Shift finer, with Ctrl coarser</source>
+        <translation type="unfinished">Einen Regler bewegen; mit Umschalt feiner, mit Strg gröber</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <translation type="unfinished">Pfeile</translation>
+    </message>
+    <message>
+        <source>Put the default of a slider back</source>
+        <translation type="unfinished">Den Vorgabewert eines Reglers zurückholen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move what is shown; with Shift by a point</source>
+        <translation type="unfinished">Den Ausschnitt verschieben; mit Umschalt um einen Punkt</translation>
+    </message>
+    <message>
+        <source>Arrows on the picture</source>
+        <translation type="unfinished">Pfeile auf dem Bild</translation>
+    </message>
+    <message>
+        <source>Move the line</source>
+        <translation type="unfinished">Die Linie verschieben</translation>
+    </message>
+    <message>
+        <source>Arrows on the line between before and after</source>
+        <translation type="unfinished">Pfeile auf der Linie zwischen vorher und nachher</translation>
+    </message>
+    <message>
+        <source>Zoom about the pointer</source>
+        <translation type="unfinished">Um den Zeiger vergrößern</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation type="unfinished">Rad</translation>
+    </message>
+    <message>
+        <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
+        <translation type="unfinished">Auf dem Streifen oder einem ganz gezeigten Bild: das vorige oder nächste Porträt öffnen</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation type="unfinished">Links, Rechts</translation>
+    </message>
+    <message>
+        <source>Hold and drag to move the picture</source>
+        <translation type="unfinished">Halten und ziehen, um das Bild zu bewegen</translation>
+    </message>
+    <message>
+        <source>Space or middle button</source>
+        <translation type="unfinished">Leertaste oder mittlere Taste</translation>
+    </message>
+    <message>
+        <source>Choose a command, click below and press its new key.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This key belongs to the controls and stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is the key of &quot;%2&quot;. Take it for &quot;%3&quot;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has no key now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has the key %1 now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no key now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every command has its usual key again.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

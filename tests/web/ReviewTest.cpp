@@ -121,8 +121,10 @@ TEST_F(ReviewTest, PortraitsAreComparedScrolledAndOpened) {
 
     ask(strip, "document.getElementById('ImageDiv').scrollLeft = 700");
     EXPECT_TRUE(test::eventually([&] { return info_->iLastScrollHtmlFileChooser == 700; }));
+    bool cameAgain = false;
+    QObject::connect(strip, &QWebEngineView::loadFinished, strip, [&] { cameAgain = true; });
     action("showCompareFiles")->trigger();
-    ASSERT_TRUE(isShown("MyCompareFilesPanel", "CompareFiles.htm"));
+    ASSERT_TRUE(test::eventually([&] { return cameAgain; }));
     EXPECT_TRUE(test::eventually(
         [&] { return ask(strip, "document.getElementById('ImageDiv').scrollLeft").toInt() == 700; }));
 
