@@ -2412,15 +2412,15 @@
     <name>ShortcutDialog</name>
     <message>
         <source>The desktop takes this key itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Taste nimmt der Schreibtisch selbst.</translation>
     </message>
     <message>
         <source>Lists, fields and sliders need this key themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen, Felder und Regler brauchen diese Taste selbst.</translation>
     </message>
     <message>
         <source>A key that is held stands alone, without Ctrl, Alt or Shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Taste, die gehalten wird, steht allein, ohne Strg, Alt oder Umschalt.</translation>
     </message>
 </context>
 <context>
@@ -4475,7 +4475,7 @@
     </message>
     <message>
         <source>Every key and what it does, and another one where you want it</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Taste und was sie tut, und eine andere, wo Sie sie wollen</translation>
     </message>
 </context>
 <context>
@@ -4552,11 +4552,11 @@
     <name>tavrin::PageWindow</name>
     <message>
         <source>The page is in the desktop&apos;s browser. What is clicked there does not reach this program: for that its package for web pages is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite ist im Browser des Schreibtischs. Klicks dort erreichen dieses Programm nicht: Dafür fehlt sein Paket für Webseiten.</translation>
     </message>
     <message>
         <source>There is no web engine here and no browser: the page is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier gibt es weder einen Teil für Webseiten noch einen Browser: Die Seite ist %1.</translation>
     </message>
 </context>
 <context>
@@ -4800,43 +4800,43 @@ oder beide im Menü Datei öffnen.</translation>
     <name>tavrin::ReviewDesk</name>
     <message>
         <source>Results of the Batch</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse des Stapels</translation>
     </message>
     <message>
         <source>Compare Portraits</source>
-        <translation type="unfinished"></translation>
+        <translation>Porträts vergleichen</translation>
     </message>
     <message>
         <source>No batch has been run yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist noch kein Stapel gelaufen.</translation>
     </message>
     <message>
         <source>The pages cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seiten können nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>%1 holds no pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 sind keine Bilder.</translation>
     </message>
     <message>
         <source>Folder of Portraits</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner der Porträts</translation>
     </message>
     <message>
         <source>Re&amp;view a Batch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Stapel durch&amp;sehen ...</translation>
     </message>
     <message>
         <source>Shows every result of the last batch beside its mask; a click opens one to be mended</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt jedes Ergebnis des letzten Stapels neben seiner Maske; ein Klick öffnet eines zum Ausbessern</translation>
     </message>
     <message>
         <source>&amp;Compare Portraits...</source>
-        <translation type="unfinished"></translation>
+        <translation>Porträts ver&amp;gleichen ...</translation>
     </message>
     <message>
         <source>Shows the portraits of the folder side by side; a double click opens one</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Porträts des Ordners nebeneinander; ein Doppelklick öffnet eines</translation>
     </message>
 </context>
 <context>
@@ -4934,171 +4934,171 @@ oder beide im Menü Datei öffnen.</translation>
     <name>tavrin::ShortcutDialog</name>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished">Tastenkürzel</translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Search by words or by a key</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Wörtern oder einer Taste suchen</translation>
     </message>
     <message>
         <source>Words in any order, or a key such as Ctrl+K</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter in beliebiger Folge oder eine Taste wie Strg+K</translation>
     </message>
     <message>
         <source>What it does</source>
-        <translation type="unfinished">Was sie tut</translation>
+        <translation>Was sie tut</translation>
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Taste</translation>
+        <translation>Taste</translation>
     </message>
     <message>
         <source>Click here and press the new key</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier klicken und die neue Taste drücken</translation>
     </message>
     <message>
         <source>New key</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Taste</translation>
     </message>
     <message>
         <source>&amp;New key:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neue Taste:</translation>
     </message>
     <message>
         <source>Take It</source>
-        <translation type="unfinished"></translation>
+        <translation>Nehmen</translation>
     </message>
     <message>
         <source>The other command has no key then</source>
-        <translation type="unfinished"></translation>
+        <translation>Der andere Befehl hat dann keine Taste</translation>
     </message>
     <message>
         <source>No Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Taste</translation>
     </message>
     <message>
         <source>Takes the key from the command that is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt dem gewählten Befehl die Taste</translation>
     </message>
     <message>
         <source>Usual Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Übliche Taste</translation>
     </message>
     <message>
         <source>The command that is chosen has the key it came with</source>
-        <translation type="unfinished"></translation>
+        <translation>Der gewählte Befehl hat die Taste, mit der er kam</translation>
     </message>
     <message>
         <source>Take Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücknehmen</translation>
     </message>
     <message>
         <source>Takes the last change in this list back</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt die letzte Änderung in dieser Liste zurück</translation>
     </message>
     <message>
         <source>Taken back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückgenommen.</translation>
     </message>
     <message>
         <source>All Usual Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle üblichen Tasten</translation>
     </message>
     <message>
         <source>Every command has the key it came with</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Befehl hat die Taste, mit der er kam</translation>
     </message>
     <message>
         <source>Usually without a key</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich ohne Taste</translation>
     </message>
     <message>
         <source>Usually %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich %1</translation>
     </message>
     <message>
         <source>Move a slider; with Shift finer, with Ctrl coarser</source>
-        <translation type="unfinished">Einen Regler bewegen; mit Umschalt feiner, mit Strg gröber</translation>
+        <translation>Einen Regler bewegen; mit Umschalt feiner, mit Strg gröber</translation>
     </message>
     <message>
         <source>Arrows</source>
-        <translation type="unfinished">Pfeile</translation>
+        <translation>Pfeile</translation>
     </message>
     <message>
         <source>Put the default of a slider back</source>
-        <translation type="unfinished">Den Vorgabewert eines Reglers zurückholen</translation>
+        <translation>Den Vorgabewert eines Reglers zurückholen</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Move what is shown; with Shift by a point</source>
-        <translation type="unfinished">Den Ausschnitt verschieben; mit Umschalt um einen Punkt</translation>
+        <translation>Den Ausschnitt verschieben; mit Umschalt um einen Punkt</translation>
     </message>
     <message>
         <source>Arrows on the picture</source>
-        <translation type="unfinished">Pfeile auf dem Bild</translation>
+        <translation>Pfeile auf dem Bild</translation>
     </message>
     <message>
         <source>Move the line</source>
-        <translation type="unfinished">Die Linie verschieben</translation>
+        <translation>Die Linie verschieben</translation>
     </message>
     <message>
         <source>Arrows on the line between before and after</source>
-        <translation type="unfinished">Pfeile auf der Linie zwischen vorher und nachher</translation>
+        <translation>Pfeile auf der Linie zwischen vorher und nachher</translation>
     </message>
     <message>
         <source>Zoom about the pointer</source>
-        <translation type="unfinished">Um den Zeiger vergrößern</translation>
+        <translation>Um den Zeiger vergrößern</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation type="unfinished">Rad</translation>
+        <translation>Rad</translation>
     </message>
     <message>
         <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
-        <translation type="unfinished">Auf dem Streifen oder einem ganz gezeigten Bild: das vorige oder nächste Porträt öffnen</translation>
+        <translation>Auf dem Streifen oder einem ganz gezeigten Bild: das vorige oder nächste Porträt öffnen</translation>
     </message>
     <message>
         <source>Left, Right</source>
-        <translation type="unfinished">Links, Rechts</translation>
+        <translation>Links, Rechts</translation>
     </message>
     <message>
         <source>Hold and drag to move the picture</source>
-        <translation type="unfinished">Halten und ziehen, um das Bild zu bewegen</translation>
+        <translation>Halten und ziehen, um das Bild zu bewegen</translation>
     </message>
     <message>
         <source>Space or middle button</source>
-        <translation type="unfinished">Leertaste oder mittlere Taste</translation>
+        <translation>Leertaste oder mittlere Taste</translation>
     </message>
     <message>
         <source>Choose a command, click below and press its new key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl wählen, unten klicken und die neue Taste drücken.</translation>
     </message>
     <message>
         <source>This key belongs to the controls and stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Taste gehört den Reglern und bleibt.</translation>
     </message>
     <message>
         <source>%1 is the key of &quot;%2&quot;. Take it for &quot;%3&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist die Taste von „%2“. Soll „%3“ sie nehmen?</translation>
     </message>
     <message>
         <source>It has no key now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er hat jetzt keine Taste.</translation>
     </message>
     <message>
         <source>It has the key %1 now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er hat jetzt die Taste %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no key now.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat jetzt keine Taste.</translation>
     </message>
     <message>
         <source>Every command has its usual key again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Befehl hat wieder seine übliche Taste.</translation>
     </message>
 </context>
 <context>

@@ -2412,15 +2412,15 @@
     <name>ShortcutDialog</name>
     <message>
         <source>The desktop takes this key itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>El escritorio usa esta tecla.</translation>
     </message>
     <message>
         <source>Lists, fields and sliders need this key themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las listas, los campos y los controles necesitan esta tecla.</translation>
     </message>
     <message>
         <source>A key that is held stands alone, without Ctrl, Alt or Shift.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una tecla que se mantiene pulsada va sola, sin Ctrl, Alt ni Mayús.</translation>
     </message>
 </context>
 <context>
@@ -4475,7 +4475,7 @@
     </message>
     <message>
         <source>Every key and what it does, and another one where you want it</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada tecla y lo que hace, y otra donde la quiera</translation>
     </message>
 </context>
 <context>
@@ -4552,11 +4552,11 @@
     <name>tavrin::PageWindow</name>
     <message>
         <source>The page is in the desktop&apos;s browser. What is clicked there does not reach this program: for that its package for web pages is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>La página está en el navegador del escritorio. Lo que se pulse allí no llega a este programa: para ello falta su paquete de páginas web.</translation>
     </message>
     <message>
         <source>There is no web engine here and no browser: the page is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no hay motor web ni navegador: la página es %1.</translation>
     </message>
 </context>
 <context>
@@ -4800,43 +4800,43 @@ o ábralos desde el menú Archivo.</translation>
     <name>tavrin::ReviewDesk</name>
     <message>
         <source>Results of the Batch</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados del lote</translation>
     </message>
     <message>
         <source>Compare Portraits</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar retratos</translation>
     </message>
     <message>
         <source>No batch has been run yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no se ha hecho ningún lote.</translation>
     </message>
     <message>
         <source>The pages cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden escribir las páginas.</translation>
     </message>
     <message>
         <source>%1 holds no pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>En %1 no hay imágenes.</translation>
     </message>
     <message>
         <source>Folder of Portraits</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de retratos</translation>
     </message>
     <message>
         <source>Re&amp;view a Batch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;visar un lote...</translation>
     </message>
     <message>
         <source>Shows every result of the last batch beside its mask; a click opens one to be mended</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra cada resultado del último lote junto a su máscara; un clic abre uno para retocarlo</translation>
     </message>
     <message>
         <source>&amp;Compare Portraits...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comparar retratos...</translation>
     </message>
     <message>
         <source>Shows the portraits of the folder side by side; a double click opens one</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra los retratos de la carpeta uno junto a otro; un doble clic abre uno</translation>
     </message>
 </context>
 <context>
@@ -4934,171 +4934,171 @@ o ábralos desde el menú Archivo.</translation>
     <name>tavrin::ShortcutDialog</name>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished">Atajos de teclado</translation>
+        <translation>Atajos de teclado</translation>
     </message>
     <message>
         <source>Search by words or by a key</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar por palabras o por una tecla</translation>
     </message>
     <message>
         <source>Words in any order, or a key such as Ctrl+K</source>
-        <translation type="unfinished"></translation>
+        <translation>Palabras en cualquier orden, o una tecla como Ctrl+K</translation>
     </message>
     <message>
         <source>What it does</source>
-        <translation type="unfinished">Lo que hace</translation>
+        <translation>Lo que hace</translation>
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished">Tecla</translation>
+        <translation>Tecla</translation>
     </message>
     <message>
         <source>Click here and press the new key</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulse aquí y luego la tecla nueva</translation>
     </message>
     <message>
         <source>New key</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla nueva</translation>
     </message>
     <message>
         <source>&amp;New key:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla &amp;nueva:</translation>
     </message>
     <message>
         <source>Take It</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomarla</translation>
     </message>
     <message>
         <source>The other command has no key then</source>
-        <translation type="unfinished"></translation>
+        <translation>La otra orden se queda sin tecla</translation>
     </message>
     <message>
         <source>No Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin tecla</translation>
     </message>
     <message>
         <source>Takes the key from the command that is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita la tecla a la orden elegida</translation>
     </message>
     <message>
         <source>Usual Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla habitual</translation>
     </message>
     <message>
         <source>The command that is chosen has the key it came with</source>
-        <translation type="unfinished"></translation>
+        <translation>La orden elegida tiene la tecla con la que vino</translation>
     </message>
     <message>
         <source>Take Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Takes the last change in this list back</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshace el último cambio de esta lista</translation>
     </message>
     <message>
         <source>Taken back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshecho.</translation>
     </message>
     <message>
         <source>All Usual Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las habituales</translation>
     </message>
     <message>
         <source>Every command has the key it came with</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada orden tiene la tecla con la que vino</translation>
     </message>
     <message>
         <source>Usually without a key</source>
-        <translation type="unfinished"></translation>
+        <translation>Normalmente sin tecla</translation>
     </message>
     <message>
         <source>Usually %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Normalmente %1</translation>
     </message>
     <message>
         <source>Move a slider; with Shift finer, with Ctrl coarser</source>
-        <translation type="unfinished">Mueven un control; con Mayús más fino, con Ctrl más grueso</translation>
+        <translation>Mueven un control; con Mayús más fino, con Ctrl más grueso</translation>
     </message>
     <message>
         <source>Arrows</source>
-        <translation type="unfinished">Flechas</translation>
+        <translation>Flechas</translation>
     </message>
     <message>
         <source>Put the default of a slider back</source>
-        <translation type="unfinished">Devolver un control a su valor inicial</translation>
+        <translation>Devolver un control a su valor inicial</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Move what is shown; with Shift by a point</source>
-        <translation type="unfinished">Mover lo que se ve; con Mayús, un punto</translation>
+        <translation>Mover lo que se ve; con Mayús, un punto</translation>
     </message>
     <message>
         <source>Arrows on the picture</source>
-        <translation type="unfinished">Flechas en la imagen</translation>
+        <translation>Flechas en la imagen</translation>
     </message>
     <message>
         <source>Move the line</source>
-        <translation type="unfinished">Mover la línea</translation>
+        <translation>Mover la línea</translation>
     </message>
     <message>
         <source>Arrows on the line between before and after</source>
-        <translation type="unfinished">Flechas en la línea entre antes y después</translation>
+        <translation>Flechas en la línea entre antes y después</translation>
     </message>
     <message>
         <source>Zoom about the pointer</source>
-        <translation type="unfinished">Ampliar en torno al puntero</translation>
+        <translation>Ampliar en torno al puntero</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation type="unfinished">Rueda</translation>
+        <translation>Rueda</translation>
     </message>
     <message>
         <source>On the strip, or on a picture that is seen whole: open the portrait before, or the next one</source>
-        <translation type="unfinished">En la tira, o en una imagen que se ve entera: abrir el retrato anterior o el siguiente</translation>
+        <translation>En la tira, o en una imagen que se ve entera: abrir el retrato anterior o el siguiente</translation>
     </message>
     <message>
         <source>Left, Right</source>
-        <translation type="unfinished">Izquierda, Derecha</translation>
+        <translation>Izquierda, Derecha</translation>
     </message>
     <message>
         <source>Hold and drag to move the picture</source>
-        <translation type="unfinished">Mantener y arrastrar para mover la imagen</translation>
+        <translation>Mantener y arrastrar para mover la imagen</translation>
     </message>
     <message>
         <source>Space or middle button</source>
-        <translation type="unfinished">Espacio o botón central</translation>
+        <translation>Espacio o botón central</translation>
     </message>
     <message>
         <source>Choose a command, click below and press its new key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una orden, pulse abajo y luego su tecla nueva.</translation>
     </message>
     <message>
         <source>This key belongs to the controls and stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta tecla es de los controles y se queda.</translation>
     </message>
     <message>
         <source>%1 is the key of &quot;%2&quot;. Take it for &quot;%3&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es la tecla de «%2». ¿La toma «%3»?</translation>
     </message>
     <message>
         <source>It has no key now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora no tiene tecla.</translation>
     </message>
     <message>
         <source>It has the key %1 now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora tiene la tecla %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no key now.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ahora no tiene tecla.</translation>
     </message>
     <message>
         <source>Every command has its usual key again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada orden vuelve a tener su tecla habitual.</translation>
     </message>
 </context>
 <context>
