@@ -6,6 +6,7 @@
 #include "core/files/Places.h"
 #include "core/state/SystemInfo.h"
 #include "delivery/HtmlText.h"
+#include "folders/NextFileInFolder.h"
 #include "folders/PictureFolder.h"
 
 namespace tavrin {
@@ -21,8 +22,8 @@ std::string styles() {
 }
 
 /// What the page does by itself. Pictures are read when they come near the part of the strip that is seen, and given
-/// back when they have left it, so a thousand cost no more than a few. Those that could not be read are tried again each
-/// second, since they may still be on their way into the folder.
+/// back when they have left it, so a thousand cost no more than a few. Those that could not be read are tried again
+/// each second, since they may still be on their way into the folder.
 std::string script(int pictures, int scrolled) {
     return "<script>\nvar firsttime=true;\n"
            "function RefreshImages(){\n"
@@ -35,7 +36,8 @@ std::string script(int pictures, int scrolled) {
            std::to_string(pictures) +
            ";i++){\n"
            "var image=document.getElementById('drag'+i);\n"
-           "if(image&&image.hasAttribute('src')&&image.complete&&image.naturalWidth==0) image.src=image.src.split('?')[0]+'?'+Math.random();\n"
+           "if(image&&image.hasAttribute('src')&&image.complete&&image.naturalWidth==0) "
+           "image.src=image.src.split('?')[0]+'?'+Math.random();\n"
            "}\n"
            "setTimeout(RefreshImages,1000);\n}\n"
            "function ReadSeenImages(){\n"
@@ -73,9 +75,9 @@ std::string script(int pictures, int scrolled) {
 
 std::string pictureCell(const std::string& path, int index) {
     const std::string number = std::to_string(index);
-    return "<td><img id='drag" + number + "' height='400' decoding='async' data-src='file://" +
-           linkPath(path) + "' draggable='true' ondragstart='drag(event)' ondblclick='imgDoubleClick(" + number +
-           ")'/><br/>" + htmlText(std::filesystem::path(path).filename().string()) + "</td>";
+    return "<td><img id='drag" + number + "' height='400' decoding='async' data-src='file://" + linkPath(path) +
+           "' draggable='true' ondragstart='drag(event)' ondblclick='imgDoubleClick(" + number + ")'/><br/>" +
+           htmlText(std::filesystem::path(path).filename().string()) + "</td>";
 }
 
 std::string strip(const std::vector<std::string>& pictures, int width) {
@@ -107,6 +109,7 @@ std::string comparePagePath() {
 
 WrittenPages setupCompareFiles(SystemInfo& info, const std::string& folder, int screenWidth) {
     CreateListOfFilesInFolder(info, folder);
+    sortAsPeopleDo(info.myFileNames);  // most systems list a folder in no order that people see
     if (info.myFileNames.empty()) return {};
     const std::string html =
         "<!DOCTYPE HTML>\n<html><head><meta http-equiv='X-UA-Compatible' content='IE=Edge'> \n" + styles() +

@@ -12,7 +12,8 @@ std::string htmlText(std::string_view utf8) {
     const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
     std::string html;
     for (const uint code : text.toUcs4()) {
-        const bool isPlain = code >= ' ' && code < 0x7f && std::string_view("&<>\"'").find(static_cast<char>(code)) == std::string_view::npos;
+        const bool isPlain = code >= ' ' && code < 0x7f &&
+                             std::string_view("&<>\"'").find(static_cast<char>(code)) == std::string_view::npos;
         if (isPlain)
             html += static_cast<char>(code);
         else
@@ -22,7 +23,9 @@ std::string htmlText(std::string_view utf8) {
 }
 
 std::string linkPath(std::string_view path) {
-    return QByteArray::fromRawData(path.data(), static_cast<qsizetype>(path.size())).toPercentEncoding("/").toStdString();
+    return QByteArray::fromRawData(path.data(), static_cast<qsizetype>(path.size()))
+        .toPercentEncoding("/")
+        .toStdString();
 }
 
 std::string writeHtml(const std::string& path, const std::string& html) {

@@ -5,6 +5,7 @@
 
 #include "core/state/SystemInfo.h"
 #include "delivery/HtmlText.h"
+#include "folders/NextFileInFolder.h"
 #include "folders/PictureFolder.h"
 
 namespace fs = std::filesystem;
@@ -87,6 +88,7 @@ std::string reviewPageName(int page) {
 
 WrittenPages setupReviewBatchOutput(SystemInfo& info, const std::string& folder, int screenWidth) {
     CreateListOfFilesInFolder(info, folder);
+    sortAsPeopleDo(info.myFileNames);  // most systems list a folder in no order that people see
     const int count = static_cast<int>(info.myFileNames.size());
     if (count == 0) return {};
     const Review review{count / kPicturesOnAPage + 1, info.iLastReviewPage, static_cast<int>(0.2 * screenWidth)};

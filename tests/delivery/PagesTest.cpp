@@ -1,8 +1,7 @@
 // Pages of results and of portraits: what stands in them, and that no file name can do anything there.
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
 
 #include "core/files/Places.h"
@@ -53,16 +52,17 @@ TEST_F(PagesTest, OneResultMakesThePageToTheLetter) {
     EXPECT_EQ(written.problem, "");
     EXPECT_EQ(written.count, 1);
     const std::string cell = "\"/><br/><a href=\"0\"><input type=\"button\" value=\"Select\" /></a></td>";
-    EXPECT_EQ(page(1), "<html><head><script language=\"JavaScript\" type=\"text/javascript\">function gotoRow(){"
-                       "var rowLast=document.getElementById('rowlast');if(rowLast==null) return;"
-                       "var offset=-document.getElementById('rowlast').offsetTop*-1;window.scrollTo(0,offset)"
-                       "}</script></head><body onload=\"gotoRow();\">"
-                       "<div id=\"container\" style=\"position:relative;top:0px;overflow:auto;\"> <table border=3>"
-                       "<tr><td><img width=383 src=\"file:\\\\\\" +
-                           out_ + "/a.jpg" + cell + "<td><img width=383 src=\"file:\\\\\\" + out_ +
-                           "/Thumbs/TQTQa.jpg" + cell +
-                           "</td></tr></table><table width='90%' height='30'><tr><td bgcolor='#999999'>"
-                           "<font color='white' size='7'><b>Select Page:</b></body></html>");
+    EXPECT_EQ(page(1),
+              "<html><head><script language=\"JavaScript\" type=\"text/javascript\">function gotoRow(){"
+              "var rowLast=document.getElementById('rowlast');if(rowLast==null) return;"
+              "var offset=-document.getElementById('rowlast').offsetTop*-1;window.scrollTo(0,offset)"
+              "}</script></head><body onload=\"gotoRow();\">"
+              "<div id=\"container\" style=\"position:relative;top:0px;overflow:auto;\"> <table border=3>"
+              "<tr><td><img width=383 src=\"file:\\\\\\" +
+                  out_ + "/a.jpg" + cell + "<td><img width=383 src=\"file:\\\\\\" + out_ + "/Thumbs/TQTQa.jpg" +
+                  cell +
+                  "</td></tr></table><table width='90%' height='30'><tr><td bgcolor='#999999'>"
+                  "<font color='white' size='7'><b>Select Page:</b></body></html>");
 }
 
 TEST_F(PagesTest, ThirtyOneResultsMakeTwoPagesAndThirtyOneWithALinkTooMany) {
@@ -72,6 +72,7 @@ TEST_F(PagesTest, ThirtyOneResultsMakeTwoPagesAndThirtyOneWithALinkTooMany) {
     EXPECT_EQ(count(page(1), "<tr><td><img "), 15) << "two results in a row";
     EXPECT_EQ(count(page(2), "<img "), 2);
     EXPECT_EQ(count(page(2), "<a href=\"30\">"), 2) << "the index goes on";
+    EXPECT_EQ(count(page(2), "/p9.jpg\""), 1) << "in the order of their names";
     EXPECT_EQ(count(page(1), "<a href='FilesInFolder1.htm'>[1]</a>"), 2) << "above and below";
     EXPECT_EQ(count(page(1), "<a href='FilesInFolder2.htm'>2</a>"), 2);
     EXPECT_EQ(count(page(2), "rowlast\">"), 0);

@@ -1,7 +1,6 @@
 // The entry of the tests of pages in windows, which need a web engine.
-#include <gtest/gtest.h>
-
 #include <filesystem>
+#include <gtest/gtest.h>
 
 #include <QApplication>
 

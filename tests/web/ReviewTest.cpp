@@ -1,8 +1,7 @@
 // Pages of results and of portraits in a window: what a click there does.
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <filesystem>
+#include <gtest/gtest.h>
 
 #include <QDesktopServices>
 #include <QTest>
@@ -83,9 +82,8 @@ TEST_F(ReviewTest, AClickOnAResultOpensItToBeMendedAndSavingBringsThePagesBack) 
     action("showReviewBatchOutput")->trigger();
     ASSERT_TRUE(isShown("MyReviewBatchOutputPanel", "FilesInFolder1.htm"));
     QWebEngineView* pages = view("MyReviewBatchOutputPanel");
-    EXPECT_TRUE(test::eventually([&] {
-        return ask(pages, "Array.from(document.images).every(i => i.complete)").toBool();
-    }));
+    EXPECT_TRUE(
+        test::eventually([&] { return ask(pages, "Array.from(document.images).every(i => i.complete)").toBool(); }));
     EXPECT_EQ(ask(pages, "Array.from(document.images).filter(i => i.naturalWidth == 0).length").toInt(), 0)
         << "results and masks are there, whatever their names are";
     EXPECT_EQ(ask(pages, "document.images.length").toInt(), 60);
@@ -147,7 +145,8 @@ TEST_F(ReviewTest, NothingLeavesThisComputerAndNoLinkLeadsElsewhere) {
         EXPECT_EQ(pages->url().fileName(), "FilesInFolder1.htm") << to;
     }
     EXPECT_FALSE(info_->bBatchReviewActive);
-    ask(pages, "var i=new Image(); i.onerror=function(){document.title='refused'}; i.src='http://127.0.0.1:9/a.png'; 1");
+    ask(pages,
+        "var i=new Image(); i.onerror=function(){document.title='refused'}; i.src='http://127.0.0.1:9/a.png'; 1");
     EXPECT_TRUE(test::eventually([&] { return pages->title() == "refused"; }));
     ask(pages, "alert('boo'); document.title='went on'; 1");
     EXPECT_TRUE(test::eventually([&] { return pages->title() == "went on"; })) << "no box waits for an answer";

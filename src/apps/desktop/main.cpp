@@ -13,6 +13,7 @@
 #include "core/Log.h"
 #include "core/raster/PixelMemory.h"
 #include "core/state/SystemInfo.h"
+#include "core/text/Fonts.h"
 #include "session/StartUp.h"
 #include "ui/frame/Habits.h"
 #include "ui/frame/Language.h"
@@ -117,6 +118,8 @@ int main(int argc, char** argv) {
     tavrin::useLanguage(tavrin::chosenLanguage());
     tavrin::useChosenThreads();
     tavrin::useTheme(tavrin::chosenTheme());
+    if (const std::string problem = tavrin::whyNoFonts(); !problem.empty())  // which the window itself could not show
+        tavrin::logError("The window shows no words: " + problem + '.');
     const auto info = std::make_unique<tavrin::SystemInfo>();
     const std::string problems = tavrin::startSystem(*info);
     tavrin::MainWindow window(*info);

@@ -67,7 +67,8 @@ QString whyNoKey(const Command& command, QKeyCombination key) {
     if (isOfControls(key) && !isOwn)
         return words(QT_TRANSLATE_NOOP("ShortcutDialog", "Lists, fields and sliders need this key themselves."));
     if (command.kind == Command::Kind::held && key.keyboardModifiers() != Qt::NoModifier)
-        return words(QT_TRANSLATE_NOOP("ShortcutDialog", "A key that is held stands alone, without Ctrl, Alt or Shift."));
+        return words(
+            QT_TRANSLATE_NOOP("ShortcutDialog", "A key that is held stands alone, without Ctrl, Alt or Shift."));
     return {};
 }
 

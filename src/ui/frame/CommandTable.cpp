@@ -35,8 +35,8 @@ void MainWindow::findAction() {
         const QString menu = QString(command.menu).remove('|').remove('&');
         entries.push_back({action->text().section('\t', 0, 0).remove('&'),
                            menu.isEmpty() ? MainWindow::tr("Shortcut") : menu,
-                           commands_->keyOf(command).toString(QKeySequence::NativeText), command.toolTip, action->isEnabled(),
-                           [action] { action->trigger(); }});
+                           commands_->keyOf(command).toString(QKeySequence::NativeText), command.toolTip,
+                           action->isEnabled(), [action] { action->trigger(); }});
     }
     for (const GroupBox* group : panel_->groups())
         for (const QWidget* item : group->items())

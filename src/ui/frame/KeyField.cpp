@@ -25,7 +25,8 @@ QKeyCombination combinationOf(const QKeyEvent& event) {
 }  // namespace
 
 bool KeyField::event(QEvent* event) {
-    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) return QLineEdit::event(event);
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return QLineEdit::event(event);
     const auto* key = static_cast<QKeyEvent*>(event);
     const auto is = [key](const auto& keys) { return std::ranges::find(keys, key->key()) != std::end(keys); };
     if (is(kOfDialogs) && !(key->modifiers() & ~Qt::ShiftModifier)) return QLineEdit::event(event);

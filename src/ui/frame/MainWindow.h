@@ -22,7 +22,6 @@
 #include "ui/picture/PictureTools.h"
 #include "ui/review/ReviewDesk.h"
 #include "ui/settings/SettingsPage.h"
-#include "ui/review/ReviewDesk.h"
 #include "ui/sizes/SizesPanel.h"
 #include "ui/sizes/TemplatesPanel.h"
 #include "ui/strip/Strip.h"

@@ -54,6 +54,7 @@ ShortcutDialog::ShortcutDialog(Commands& commands, QWidget* parent)
     list_->setSelectionBehavior(QAbstractItemView::SelectRows);
     list_->setSelectionMode(QAbstractItemView::SingleSelection);
     list_->setTabKeyNavigation(false);
+    list_->setWordWrap(false);
     key_->setObjectName("shortcutKey");
     key_->setProperty("handler", "wish");
     key_->setToolTip(tr("Click here and press the new key"));
@@ -113,8 +114,9 @@ void ShortcutDialog::addLine(const QString& text, const QString& key, const Comm
     list_->insertRow(row);
     auto* name = new QTableWidgetItem(text);
     name->setData(Qt::UserRole, command ? QString(command->id) : QString());
-    if (command) name->setToolTip(command->toolTip);
+    name->setToolTip(command ? command->toolTip : text);
     auto* shown = new QTableWidgetItem(key);
+    if (!command) shown->setToolTip(key);
     const bool isChosen = command && commands_.keyOf(*command) != command->shortcut;
     QFont font = shown->font();
     font.setBold(isChosen);
@@ -144,7 +146,6 @@ void ShortcutDialog::fill() {
     addLine(tr("Hold and drag to move the picture"), tr("Space or middle button"), nullptr);
     list_->resizeColumnToContents(kKey);
     list_->setColumnWidth(kKey, std::min(list_->columnWidth(kKey), 200));
-    list_->resizeRowsToContents();
     find(search_->text());
     list_->setCurrentCell(row, kText);
     showCurrent();

@@ -37,7 +37,8 @@ class ShortcutDialog : public QDialog {
     void useDefault();
     void useAllDefaults();
     void choose(const ChosenKeys& keys, const QString& told);
-    QToolButton* addButton(const char* id, const QString& text, const QString& toolTip, void (ShortcutDialog::*run)());
+    QToolButton* addButton(const char* id, const QString& text, const QString& toolTip,
+                           void (ShortcutDialog::*run)());
 
     Commands& commands_;
     QTableWidget* list_;

@@ -51,8 +51,7 @@ void ReviewDesk::showCompareFiles() {
 
 void ReviewDesk::compare(const QString& folder) {
     if (folder != compared_) info_.iLastScrollHtmlFileChooser = 0;
-    const WrittenPages written =
-        setupCompareFiles(info_, nameOfText(folder), window_->screen()->geometry().width());
+    const WrittenPages written = setupCompareFiles(info_, nameOfText(folder), window_->screen()->geometry().width());
     if (!written.problem.empty())
         return emit failed(tr("The pages cannot be written."), QString::fromStdString(written.problem));
     if (written.count == 0) return emit told(tr("%1 holds no pictures.").arg(folder));
