@@ -207,6 +207,29 @@
     </message>
 </context>
 <context>
+    <name>HelpPanels</name>
+    <message>
+        <source>User&apos;s guide</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Tavrin: User&apos;s Guide</source>
+        <translation>Tavrin: Handbuch</translation>
+    </message>
+    <message>
+        <source>About Tavrin</source>
+        <translation>Über Tavrin</translation>
+    </message>
+    <message>
+        <source>Takes the green or blue screen behind a person away and lays another picture there.
+
+Runs on Qt %1. Other people&apos;s work that is in it is listed in its folder of documents, in licences.md.</source>
+        <translation>Nimmt die grüne oder blaue Wand hinter einem Menschen weg und legt ein anderes Bild dorthin.
+
+Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Dokumente in licences.md.</translation>
+    </message>
+</context>
+<context>
     <name>Menu</name>
     <message>
         <source>&amp;File</source>
@@ -4476,6 +4499,22 @@
     <message>
         <source>Every key and what it does, and another one where you want it</source>
         <translation>Jede Taste und was sie tut, und eine andere, wo Sie sie wollen</translation>
+    </message>
+    <message>
+        <source>User&apos;s &amp;Guide</source>
+        <translation>&amp;Handbuch</translation>
+    </message>
+    <message>
+        <source>From the first picture to whole folders, with pictures</source>
+        <translation>Vom ersten Bild bis zu ganzen Ordnern, mit Bildern (auf Englisch)</translation>
+    </message>
+    <message>
+        <source>&amp;About Tavrin</source>
+        <translation>Ü&amp;ber Tavrin</translation>
+    </message>
+    <message>
+        <source>The version of this program</source>
+        <translation>Die Version dieses Programms</translation>
     </message>
 </context>
 <context>

@@ -207,6 +207,29 @@
     </message>
 </context>
 <context>
+    <name>HelpPanels</name>
+    <message>
+        <source>User&apos;s guide</source>
+        <translation>Guía del usuario</translation>
+    </message>
+    <message>
+        <source>Tavrin: User&apos;s Guide</source>
+        <translation>Tavrin: guía del usuario</translation>
+    </message>
+    <message>
+        <source>About Tavrin</source>
+        <translation>Acerca de Tavrin</translation>
+    </message>
+    <message>
+        <source>Takes the green or blue screen behind a person away and lays another picture there.
+
+Runs on Qt %1. Other people&apos;s work that is in it is listed in its folder of documents, in licences.md.</source>
+        <translation>Quita la pantalla verde o azul de detrás de una persona y pone allí otra imagen.
+
+Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su carpeta de documentos.</translation>
+    </message>
+</context>
+<context>
     <name>Menu</name>
     <message>
         <source>&amp;File</source>
@@ -4476,6 +4499,22 @@
     <message>
         <source>Every key and what it does, and another one where you want it</source>
         <translation>Cada tecla y lo que hace, y otra donde la quiera</translation>
+    </message>
+    <message>
+        <source>User&apos;s &amp;Guide</source>
+        <translation>&amp;Guía del usuario</translation>
+    </message>
+    <message>
+        <source>From the first picture to whole folders, with pictures</source>
+        <translation>De la primera imagen a carpetas enteras, con imágenes (en inglés)</translation>
+    </message>
+    <message>
+        <source>&amp;About Tavrin</source>
+        <translation>&amp;Acerca de Tavrin</translation>
+    </message>
+    <message>
+        <source>The version of this program</source>
+        <translation>La versión de este programa</translation>
     </message>
 </context>
 <context>

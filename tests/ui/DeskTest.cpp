@@ -10,8 +10,11 @@
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
 #include <QToolButton>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -107,6 +110,29 @@ TEST_F(DeskTest, NoTwoActionsHaveOneShortcutAndNoneTakesAKeyOfTheDesktop) {
         EXPECT_TRUE(key.isEmpty() || keys.insert(key).second) << key.toStdString() << ' ' << command.id;
         EXPECT_FALSE(desktops.match(key).hasMatch()) << key.toStdString() << ' ' << command.id;
     }
+}
+
+TEST_F(DeskTest, HelpHasTheGuideWithItsPicturesAndTheVersion) {
+    action("showQLXHelp")->trigger();
+    auto* guide = window_->findChild<QTextBrowser*>("MyHelpView");
+    ASSERT_TRUE(guide);
+    EXPECT_TRUE(guide->isVisible());
+    int pictures = 0;
+    for (QTextBlock block = guide->document()->begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part)
+            if (const QTextImageFormat image = part.fragment().charFormat().toImageFormat(); image.isValid()) {
+                ++pictures;
+                const QVariant picture = guide->document()->resource(QTextDocument::ImageResource, image.name());
+                EXPECT_FALSE(picture.isNull()) << image.name().toStdString();
+            }
+    EXPECT_GE(pictures, 5);
+    action("showQLXHelp")->trigger();
+    EXPECT_EQ(window_->findChildren<QTextBrowser*>("MyHelpView").size(), 1);
+
+    action("ShowAboutBox")->trigger();
+    const auto* about = window_->findChild<QMessageBox*>("MyAboutPanel");
+    ASSERT_TRUE(about);
+    EXPECT_TRUE(about->text().contains("Tavrin " + QCoreApplication::applicationVersion()));
 }
 
 TEST_F(DeskTest, NoTipCoversWhatIsDoneAndAKeyHidesAllOfThem) {

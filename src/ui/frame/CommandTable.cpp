@@ -2,6 +2,7 @@
 
 #include "ui/adjust/Rotation.h"
 #include "ui/frame/ActionSearch.h"
+#include "ui/frame/HelpPanels.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/ShortcutDialog.h"
 #include "ui/frame/Theme.h"
@@ -274,6 +275,14 @@ std::vector<Command> commandTable(MainWindow& w) {
          {},
          [&w] { return w.info_.bBackgroundFrozen.load(); },
          [&w](bool) { w.clearFreeze(); }},
+        {"showQLXHelp",
+         "&Help",
+         MainWindow::tr("User's &Guide"),
+         MainWindow::tr("From the first picture to whole folders, with pictures"),
+         "",
+         {},
+         {},
+         [&w](bool) { showQLXHelp(&w); }},
         {"Shortcuts",
          "&Help",
          MainWindow::tr("&Keyboard Shortcuts"),
@@ -282,6 +291,14 @@ std::vector<Command> commandTable(MainWindow& w) {
          QKeySequence(Qt::Key_F1),
          {},
          [&w](bool) { (new ShortcutDialog(*w.commands_, &w))->show(); }},
+        {"ShowAboutBox",
+         "|&Help",
+         MainWindow::tr("&About Tavrin"),
+         MainWindow::tr("The version of this program"),
+         "",
+         {},
+         {},
+         [&w](bool) { ShowAboutBox(&w); }},
     };
     for (Command& command : lookCommands(*w.looks_))
         table.push_back(std::move(command));
