@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <gtest/gtest.h>
 
@@ -43,6 +44,19 @@ TEST(PixelMemory, ClearedBuffersAreZeroWhereverTheyComeFrom) {
             std::fill_n(buffer.data(), pixelBytes(width, height), std::uint8_t{9});
         }
     }
+}
+
+TEST(PixelMemory, WhatNobodyWantedForLongGoesBackToTheSystem) {
+    const KeepWhile keeping(pixelBytes(kWidth, kHeight) * 2);
+    const auto give = [] {
+        std::fill_n(PixelBuffer(kWidth, kHeight).data(), pixelBytes(kWidth, kHeight), std::uint8_t{7});
+    };
+    give();
+    dropPixelMemory(std::chrono::hours(1));
+    EXPECT_FALSE(isZero(PixelBuffer(kWidth, kHeight), kWidth, kHeight)) << "still kept, as it was left";
+    give();
+    dropPixelMemory(std::chrono::seconds(0));
+    EXPECT_TRUE(isZero(PixelBuffer(kWidth, kHeight), kWidth, kHeight)) << "new pages of the system";
 }
 
 TEST(PixelMemory, WhatCannotBeHadIsNull) {

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <chrono>
 #include <clocale>
 #include <memory>
 #include <new>
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QTimer>
 
 #include "apps/desktop/EndSignals.h"
 #include "apps/desktop/FirstStart.h"
@@ -21,6 +23,8 @@
 #include "ui/frame/Theme.h"
 
 namespace {
+
+using namespace std::chrono_literals;
 
 /// A click whose work finds no memory is told, and the program goes on.
 class Application : public QApplication {
@@ -112,8 +116,11 @@ int main(int argc, char** argv) {
     const auto [files, forHost] = readArguments(application);
     FirstStart first;
     if (first.handOver(files, forHost)) return 0;
-    // A pass takes the memory that the last one gave back.
+    // A pass takes the memory that the last one gave back; at rest it is the system's.
     tavrin::keepPixelMemory(std::size_t{1} << 28);
+    QTimer memory;
+    QObject::connect(&memory, &QTimer::timeout, [] { tavrin::dropPixelMemory(10s); });
+    memory.start(5s);
 
     tavrin::useLanguage(tavrin::chosenLanguage());
     tavrin::useChosenThreads();

@@ -60,6 +60,7 @@ void unmapPages(void* memory, std::size_t) {
 struct Block {
     void* memory;
     std::size_t bytes;
+    std::chrono::steady_clock::time_point given = std::chrono::steady_clock::now();
 };
 
 class KeptBlocks {
@@ -89,6 +90,13 @@ class KeptBlocks {
         release(most_);
     }
 
+    void drop(std::chrono::steady_clock::duration unused) {
+        const std::lock_guard lock(mutex_);
+        const auto now = std::chrono::steady_clock::now();
+        while (!blocks_.empty() && now - blocks_.front().given >= unused)
+            releaseOldest();
+    }
+
     void keep(std::size_t most) {
         const std::lock_guard lock(mutex_);
         most_ = most;
@@ -97,10 +105,13 @@ class KeptBlocks {
 
   private:
     void release(std::size_t most) {
-        for (; kept_ > most; blocks_.pop_front()) {
-            kept_ -= blocks_.front().bytes;
-            unmapPages(blocks_.front().memory, blocks_.front().bytes);
-        }
+        while (kept_ > most)
+            releaseOldest();
+    }
+    void releaseOldest() {
+        kept_ -= blocks_.front().bytes;
+        unmapPages(blocks_.front().memory, blocks_.front().bytes);
+        blocks_.pop_front();
     }
 
     std::mutex mutex_;
@@ -126,6 +137,10 @@ void givePixelMemory(void* memory, std::size_t bytes) {
 
 void keepPixelMemory(std::size_t most) {
     KeptBlocks::instance().keep(most);
+}
+
+void dropPixelMemory(std::chrono::steady_clock::duration unused) {
+    KeptBlocks::instance().drop(unused);
 }
 
 }  // namespace tavrin

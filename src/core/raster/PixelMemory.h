@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 
 namespace tavrin {
@@ -16,5 +17,9 @@ void givePixelMemory(void* memory, std::size_t bytes);
 /// their size, up to `most` bytes altogether, the latest ones. The system fills each new block with zeros, which for
 /// the buffers of a picture takes longer than scaling it.
 void keepPixelMemory(std::size_t most);
+
+/// Gives kept blocks that nobody has wanted for so long back to the system, so that a program at rest holds no more
+/// than its pictures.
+void dropPixelMemory(std::chrono::steady_clock::duration unused);
 
 }  // namespace tavrin

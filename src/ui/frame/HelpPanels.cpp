@@ -42,7 +42,7 @@ void showQLXHelp(QWidget* window) {
         auto* layout = new QVBoxLayout(panel);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(makeGuide());
-        panel->resize(900, 800);
+        panel->resize(1060, 820);
     }
     panel->show();
     panel->raise();
