@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace tavrin {
+
+/// From here on no picture that this process writes says where on earth its portrait was taken.
+void leaveLocationsOut();
+bool areLocationsLeftOut();
+
+/// A picture file without the place on earth, for whatever leaves the house: JPEG, PNG and TIFF. What stands outside
+/// of the camera data and names coordinates goes as a whole. The pixels stay byte for byte, and so does any other
+/// file.
+QByteArray fileWithoutLocation(QByteArray file);
+
+}  // namespace tavrin
