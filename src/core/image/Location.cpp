@@ -7,7 +7,11 @@
 #include <string_view>
 #include <zlib.h>
 
+#include <QFile>
 #include <QtEndian>
+
+#include "core/files/AtomicFile.h"
+#include "core/files/NameText.h"
 
 namespace tavrin {
 
@@ -144,6 +148,15 @@ QByteArray fileWithoutLocation(QByteArray file) {
     if (file.startsWith("\x89PNG\r\n")) return pngWithoutLocation(std::move(file));
     if (file.startsWith("II") || file.startsWith("MM")) Tables(bytesOf(file, 0, file.size())).eraseLocation();
     return file;
+}
+
+std::string takeLocationOut(const std::string& path) {
+    QFile file(textOfName(path));
+    if (!file.open(QFile::ReadOnly)) return path + ": " + file.errorString().toStdString() + ".";
+    const QByteArray bytes = fileWithoutLocation(file.readAll());
+    AtomicFile written(path);
+    written.write(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    return written.commit() ? "" : path + ": " + written.error() + ".";
 }
 
 }  // namespace tavrin

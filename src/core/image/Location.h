@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include <QByteArray>
 
 namespace tavrin {
@@ -12,5 +14,9 @@ bool areLocationsLeftOut();
 /// of the camera data and names coordinates goes as a whole. The pixels stay byte for byte, and so does any other
 /// file.
 QByteArray fileWithoutLocation(QByteArray file);
+
+/// The same on the disk. The file stays as it was where that fails.
+/// @return "" or why it failed, as one plain line
+std::string takeLocationOut(const std::string& path);
 
 }  // namespace tavrin

@@ -117,6 +117,8 @@ class MailTalk {
         curl_easy_setopt(easy_, CURLOPT_SERVER_RESPONSE_TIMEOUT, patience);
         curl_easy_setopt(easy_, CURLOPT_LOW_SPEED_LIMIT, 1L);
         curl_easy_setopt(easy_, CURLOPT_LOW_SPEED_TIME, patience);
+        // A stop does not wait for a name that nobody finds.
+        curl_easy_setopt(easy_, CURLOPT_QUICK_EXIT, 1L);
         // The connection ends with the mail, so that its end is known.
         curl_easy_setopt(easy_, CURLOPT_FRESH_CONNECT, 1L);
         curl_easy_setopt(easy_, CURLOPT_FORBID_REUSE, 1L);

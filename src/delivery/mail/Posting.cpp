@@ -40,6 +40,8 @@ MailResult send(const OutgoingMail& mail, const Email& email, const MailRoute& r
     manager.setProgress(watch.progress);
     manager.setBeforeEnd(std::move(beforeEnd));
     if (manager.SendEmail(email) != 1) {
+        if (manager.end() == MailEnd::stopped && watch.leaving && *watch.leaving)
+            return {MailEnd::notSent, false, "Tavrin was closed while the mail was sent."};
         logError(manager.LastErrorText());
         return {manager.end(), false, manager.LastErrorText()};
     }

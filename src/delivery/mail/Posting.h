@@ -28,6 +28,7 @@ int portOf(const std::string& text);
 /// What accompanies a sending.
 struct MailWatch {
     const std::atomic<bool>* stop = nullptr;
+    const std::atomic<bool>* leaving = nullptr;  ///< the program ends: what is stopped now goes on by itself later
     std::function<void(long long done, long long all)> progress = {};  ///< on the thread that sends
     std::chrono::seconds patience{30};                                 ///< with a server that keeps silent
 };

@@ -32,6 +32,8 @@ class QProgressBar;
 
 namespace tavrin {
 
+class MailPage;
+struct Posted;
 struct SaveTarget;
 class TipGuard;
 class WorkBar;
@@ -88,6 +90,7 @@ class MainWindow : public QMainWindow {
     Airbrush* airbrush() const { return airbrush_; }
     Strip* strip() const { return strip_; }
     BatchPage* batch() const { return batch_; }
+    MailPage* mail() const { return mail_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
@@ -123,6 +126,13 @@ class MainWindow : public QMainWindow {
     void connectSettings();
     void connectLists();
     void connectBatch();
+    void connectMail();
+    void sendQLXMail();
+    void shareUsingEmail();
+    void withMailPicture(std::function<void(const std::string& picture)> then);
+    void tellMail(const Posted& posted, const QString& to);
+    WorkBar* makeMailBar();
+    int workUnderWay() const;
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
@@ -183,6 +193,7 @@ class MainWindow : public QMainWindow {
     SizesPanel* sizes_;
     TemplatesPanel* templates_;
     BatchPage* batch_;
+    MailPage* mail_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;
