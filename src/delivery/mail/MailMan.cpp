@@ -50,6 +50,13 @@ std::string dateLine() {
     return "Date: " + QDateTime::currentDateTime().toString(Qt::RFC2822Date).toStdString();
 }
 
+std::string nameBefore(std::string name) {
+    std::erase_if(name, [](char c) { return c == '"' || c == '\\'; });
+    if (name.empty()) return "";
+    const std::string words = headerText(name);
+    return words == name ? "\"" + name + "\" " : words + " ";
+}
+
 /// Names nothing of the machine or the account.
 std::string identityLine(const std::string& from) {
     return "Message-ID: <" + QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() +
@@ -135,8 +142,7 @@ class MailTalk {
         recipients_.add("<" + email_.to() + ">");
         headers_.add(dateLine());
         headers_.add("From: <" + email_.from() + ">");
-        const std::string name = headerText(email_.displayName());
-        headers_.add("To: " + (name.empty() ? "" : "\"" + name + "\" ") + "<" + email_.to() + ">");
+        headers_.add("To: " + nameBefore(email_.displayName()) + "<" + email_.to() + ">");
         if (!email_.replyTo().empty()) headers_.add("Reply-To: <" + email_.replyTo() + ">");
         headers_.add("Subject: " + headerText(email_.subject()));
         headers_.add(identityLine(email_.from()));
