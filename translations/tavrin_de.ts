@@ -2407,6 +2407,18 @@
         <source>Sets the key for this colour of hair.</source>
         <translation>Stellt das Freistellen auf diese Haarfarbe ein.</translation>
     </message>
+    <message>
+        <source>Mail</source>
+        <translation>Mail</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Postausgang</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture by mail</source>
+        <translation>Verschickt das fertige Bild per Mail</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -3832,6 +3844,77 @@
     </message>
 </context>
 <context>
+    <name>tavrin::MailPage</name>
+    <message>
+        <source>To</source>
+        <translation>An</translation>
+    </message>
+    <message>
+        <source>Mail address of who gets the picture</source>
+        <translation>Mailadresse dessen, der das Bild bekommt</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Betreff</translation>
+    </message>
+    <message>
+        <source>Subject of the mail</source>
+        <translation>Betreff der Mail</translation>
+    </message>
+    <message>
+        <source>Answers to</source>
+        <translation>Antworten an</translation>
+    </message>
+    <message>
+        <source>Mail address that answers go to; the mail itself comes from the account of the server</source>
+        <translation>Mailadresse, an die Antworten gehen; die Mail selbst kommt vom Konto des Servers</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>What the mail says beside the picture</source>
+        <translation>Was außer dem Bild in der Mail steht</translation>
+    </message>
+    <message>
+        <source>Tell where the picture was taken</source>
+        <translation>Aufnahmeort mitschicken</translation>
+    </message>
+    <message>
+        <source>Leaves the place on earth in the picture, if the camera noted one</source>
+        <translation>Lässt den Ort im Bild, falls die Kamera einen vermerkt hat</translation>
+    </message>
+    <message>
+        <source>Send, mail program and mail server</source>
+        <translation>Senden, Mailprogramm und Mailserver</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture with this text</source>
+        <translation>Verschickt das fertige Bild mit diesem Text</translation>
+    </message>
+    <message>
+        <source>Open in mail program</source>
+        <translation>Im Mailprogramm öffnen</translation>
+    </message>
+    <message>
+        <source>Opens a new mail with the picture in your own mail program</source>
+        <translation>Öffnet eine neue Mail mit dem Bild im eigenen Mailprogramm</translation>
+    </message>
+    <message>
+        <source>Mail server...</source>
+        <translation>Mailserver ...</translation>
+    </message>
+    <message>
+        <source>The server and the account that send the mails</source>
+        <translation>Server und Konto, die die Mails verschicken</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::MainWindow</name>
     <message>
         <source>Turns the whole layer</source>
@@ -4533,6 +4616,38 @@
         <source>Saving %1</source>
         <translation>%1 wird gespeichert</translation>
     </message>
+    <message>
+        <source>The window closes when the mail is sent.</source>
+        <translation>Das Fenster schließt sich, sobald die Mail verschickt ist.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is sent.</source>
+        <translation>Die Mail an %1 ist verschickt.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 may have gone.</source>
+        <translation>Die Mail an %1 ist vielleicht angekommen.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is not sent. It is kept in the outbox.</source>
+        <translation>Die Mail an %1 ist nicht verschickt. Sie bleibt im Postausgang.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is not sent.</source>
+        <translation>Die Mail an %1 ist nicht verschickt.</translation>
+    </message>
+    <message>
+        <source>Mail to %1</source>
+        <translation>Mail an %1</translation>
+    </message>
+    <message>
+        <source>The mail program could not be opened.</source>
+        <translation>Das Mailprogramm konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Ends the sending; the outbox keeps the mail while it is on</source>
+        <translation>Bricht das Senden ab; der Postausgang behält die Mail, solange er eingeschaltet ist</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4602,6 +4717,69 @@
     <message>
         <source>A click selects a text or picture item, and drags act on it</source>
         <translation>Ein Klick wählt einen Text oder ein Bild, und Ziehen wirkt darauf</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::OutboxPanel</name>
+    <message>
+        <source>is sent again at %1</source>
+        <translation>wird um %1 erneut gesendet</translation>
+    </message>
+    <message>
+        <source>is not sent by itself</source>
+        <translation>wird nicht von selbst gesendet</translation>
+    </message>
+    <message>
+        <source>may have gone, and is not sent by itself</source>
+        <translation>ist vielleicht angekommen und wird nicht von selbst gesendet</translation>
+    </message>
+    <message>
+        <source>is being sent</source>
+        <translation>wird gerade gesendet</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing waits.</source>
+        <translation>Nichts wartet.</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Postausgang</translation>
+    </message>
+    <message>
+        <source>Mails that could not be sent</source>
+        <translation>Mails, die nicht gesendet werden konnten</translation>
+    </message>
+    <message>
+        <source>Mails that could not be sent, each with its reason</source>
+        <translation>Mails, die nicht gesendet werden konnten, mit dem Grund</translation>
+    </message>
+    <message>
+        <source>Keep what could not be sent, and try again</source>
+        <translation>Nicht Gesendetes behalten und erneut versuchen</translation>
+    </message>
+    <message>
+        <source>The pauses between the tries grow from a minute to four hours</source>
+        <translation>Die Pausen zwischen den Versuchen wachsen von einer Minute auf vier Stunden</translation>
+    </message>
+    <message>
+        <source>Send now</source>
+        <translation>Jetzt senden</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Removes the selected mails without sending them</source>
+        <translation>Entfernt die gewählten Mails, ohne sie zu senden</translation>
+    </message>
+    <message>
+        <source>Sends the selected mails; where none is selected, all but those that may have gone</source>
+        <translation>Sendet die gewählten Mails; ist keine gewählt, alle außer denen, die vielleicht angekommen sind</translation>
     </message>
 </context>
 <context>
@@ -5113,6 +5291,97 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>%1 goes from %2 to %3; it was set to %4.</source>
         <translation>%1 geht von %2 bis %3; es steht jetzt auf %4.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SmtpDialog</name>
+    <message>
+        <source>Mail Server</source>
+        <translation>Mailserver</translation>
+    </message>
+    <message>
+        <source>Use the default mail server</source>
+        <translation>Voreingestellten Mailserver verwenden</translation>
+    </message>
+    <message>
+        <source>Sends by the account that was set up with the program; the fields below are kept</source>
+        <translation>Sendet über das Konto, das mit dem Programm eingerichtet wurde; die Felder darunter bleiben erhalten</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Name of the server that sends your mails</source>
+        <translation>Name des Servers, der die Mails verschickt</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>587 or 25 with STARTTLS, 465 with SSL; your provider says which</source>
+        <translation>587 oder 25 mit STARTTLS, 465 mit SSL; welcher gilt, sagt der Anbieter</translation>
+    </message>
+    <message>
+        <source>STARTTLS</source>
+        <translation>STARTTLS</translation>
+    </message>
+    <message>
+        <source>The connection is encrypted from the server&apos;s word on; without it nothing is sent</source>
+        <translation>Die Verbindung wird verschlüsselt, sobald der Server es anbietet; tut er das nicht, wird nichts gesendet</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>The connection is encrypted from the first byte</source>
+        <translation>Die Verbindung ist vom ersten Byte an verschlüsselt</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>The name that the server knows you by</source>
+        <translation>Der Name, unter dem der Server das Konto kennt</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Is kept in the settings file as it is, which nobody but you can read</source>
+        <translation>Steht unverschlüsselt in der Datei der Einstellungen, die niemand anders lesen kann</translation>
+    </message>
+    <message>
+        <source>Fill In for GMail</source>
+        <translation>Für GMail ausfüllen</translation>
+    </message>
+    <message>
+        <source>Fills the fields in; your account name and your password are still to be typed</source>
+        <translation>Füllt die Felder aus; Kontoname und Passwort sind noch einzutippen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Keeps what is entered here</source>
+        <translation>Übernimmt, was hier eingetragen ist</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Leaves the settings as they were</source>
+        <translation>Lässt die Einstellungen, wie sie waren</translation>
+    </message>
+    <message>
+        <source>gmail-host is missing in delivery.conf</source>
+        <translation>gmail-host fehlt in delivery.conf</translation>
     </message>
 </context>
 <context>

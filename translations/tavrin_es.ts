@@ -2407,6 +2407,18 @@
         <source>Sets the key for this colour of hair.</source>
         <translation>Ajusta el croma a este color de pelo.</translation>
     </message>
+    <message>
+        <source>Mail</source>
+        <translation>Correo</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture by mail</source>
+        <translation>Envía la imagen terminada por correo</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -3832,6 +3844,77 @@
     </message>
 </context>
 <context>
+    <name>tavrin::MailPage</name>
+    <message>
+        <source>To</source>
+        <translation>Para</translation>
+    </message>
+    <message>
+        <source>Mail address of who gets the picture</source>
+        <translation>Dirección de correo de quien recibe la imagen</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Asunto</translation>
+    </message>
+    <message>
+        <source>Subject of the mail</source>
+        <translation>Asunto del correo</translation>
+    </message>
+    <message>
+        <source>Answers to</source>
+        <translation>Respuestas a</translation>
+    </message>
+    <message>
+        <source>Mail address that answers go to; the mail itself comes from the account of the server</source>
+        <translation>Dirección a la que llegan las respuestas; el correo en sí sale de la cuenta del servidor</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>What the mail says beside the picture</source>
+        <translation>Lo que dice el correo además de la imagen</translation>
+    </message>
+    <message>
+        <source>Tell where the picture was taken</source>
+        <translation>Indicar dónde se tomó la imagen</translation>
+    </message>
+    <message>
+        <source>Leaves the place on earth in the picture, if the camera noted one</source>
+        <translation>Deja en la imagen el lugar, si la cámara lo anotó</translation>
+    </message>
+    <message>
+        <source>Send, mail program and mail server</source>
+        <translation>Enviar, programa y servidor de correo</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture with this text</source>
+        <translation>Envía la imagen terminada con este texto</translation>
+    </message>
+    <message>
+        <source>Open in mail program</source>
+        <translation>Abrir en el programa de correo</translation>
+    </message>
+    <message>
+        <source>Opens a new mail with the picture in your own mail program</source>
+        <translation>Abre un correo nuevo con la imagen en su propio programa de correo</translation>
+    </message>
+    <message>
+        <source>Mail server...</source>
+        <translation>Servidor de correo...</translation>
+    </message>
+    <message>
+        <source>The server and the account that send the mails</source>
+        <translation>El servidor y la cuenta que envían los correos</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::MainWindow</name>
     <message>
         <source>Turns the whole layer</source>
@@ -4533,6 +4616,38 @@
         <source>Saving %1</source>
         <translation>Guardando %1</translation>
     </message>
+    <message>
+        <source>The window closes when the mail is sent.</source>
+        <translation>La ventana se cerrará cuando se haya enviado el correo.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is sent.</source>
+        <translation>El correo para %1 se ha enviado.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 may have gone.</source>
+        <translation>Puede que el correo para %1 haya salido.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is not sent. It is kept in the outbox.</source>
+        <translation>El correo para %1 no se ha enviado. Queda en la bandeja de salida.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is not sent.</source>
+        <translation>El correo para %1 no se ha enviado.</translation>
+    </message>
+    <message>
+        <source>Mail to %1</source>
+        <translation>Correo para %1</translation>
+    </message>
+    <message>
+        <source>The mail program could not be opened.</source>
+        <translation>No se pudo abrir el programa de correo.</translation>
+    </message>
+    <message>
+        <source>Ends the sending; the outbox keeps the mail while it is on</source>
+        <translation>Detiene el envío; la bandeja de salida conserva el correo mientras esté activada</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4602,6 +4717,69 @@
     <message>
         <source>A click selects a text or picture item, and drags act on it</source>
         <translation>Un clic elige un texto o una imagen, y arrastrar actúa sobre él</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::OutboxPanel</name>
+    <message>
+        <source>is sent again at %1</source>
+        <translation>se enviará de nuevo a las %1</translation>
+    </message>
+    <message>
+        <source>is not sent by itself</source>
+        <translation>no se envía por sí solo</translation>
+    </message>
+    <message>
+        <source>may have gone, and is not sent by itself</source>
+        <translation>puede haber salido y no se envía por sí solo</translation>
+    </message>
+    <message>
+        <source>is being sent</source>
+        <translation>se está enviando</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing waits.</source>
+        <translation>No hay nada pendiente.</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Mails that could not be sent</source>
+        <translation>Correos que no se pudieron enviar</translation>
+    </message>
+    <message>
+        <source>Mails that could not be sent, each with its reason</source>
+        <translation>Correos que no se pudieron enviar, cada uno con su motivo</translation>
+    </message>
+    <message>
+        <source>Keep what could not be sent, and try again</source>
+        <translation>Conservar lo no enviado y volver a intentarlo</translation>
+    </message>
+    <message>
+        <source>The pauses between the tries grow from a minute to four hours</source>
+        <translation>Las pausas entre los intentos crecen de un minuto a cuatro horas</translation>
+    </message>
+    <message>
+        <source>Send now</source>
+        <translation>Enviar ahora</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Removes the selected mails without sending them</source>
+        <translation>Elimina los correos elegidos sin enviarlos</translation>
+    </message>
+    <message>
+        <source>Sends the selected mails; where none is selected, all but those that may have gone</source>
+        <translation>Envía los correos elegidos; si no hay ninguno, todos salvo los que pueden haber salido</translation>
     </message>
 </context>
 <context>
@@ -5113,6 +5291,97 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>%1 goes from %2 to %3; it was set to %4.</source>
         <translation>%1 va de %2 a %3; se ha puesto en %4.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SmtpDialog</name>
+    <message>
+        <source>Mail Server</source>
+        <translation>Servidor de correo</translation>
+    </message>
+    <message>
+        <source>Use the default mail server</source>
+        <translation>Usar el servidor de correo predeterminado</translation>
+    </message>
+    <message>
+        <source>Sends by the account that was set up with the program; the fields below are kept</source>
+        <translation>Envía con la cuenta configurada con el programa; los campos de abajo se conservan</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Name of the server that sends your mails</source>
+        <translation>Nombre del servidor que envía sus correos</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Puerto</translation>
+    </message>
+    <message>
+        <source>587 or 25 with STARTTLS, 465 with SSL; your provider says which</source>
+        <translation>587 o 25 con STARTTLS, 465 con SSL; su proveedor le dirá cuál</translation>
+    </message>
+    <message>
+        <source>STARTTLS</source>
+        <translation>STARTTLS</translation>
+    </message>
+    <message>
+        <source>The connection is encrypted from the server&apos;s word on; without it nothing is sent</source>
+        <translation>La conexión se cifra en cuanto el servidor lo ofrece; si no, no se envía nada</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>The connection is encrypted from the first byte</source>
+        <translation>La conexión está cifrada desde el primer byte</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Cuenta</translation>
+    </message>
+    <message>
+        <source>The name that the server knows you by</source>
+        <translation>El nombre con el que el servidor le conoce</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Is kept in the settings file as it is, which nobody but you can read</source>
+        <translation>Se guarda sin cifrar en el archivo de ajustes, que solo usted puede leer</translation>
+    </message>
+    <message>
+        <source>Fill In for GMail</source>
+        <translation>Rellenar para GMail</translation>
+    </message>
+    <message>
+        <source>Fills the fields in; your account name and your password are still to be typed</source>
+        <translation>Rellena los campos; falta escribir el nombre de la cuenta y la contraseña</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Keeps what is entered here</source>
+        <translation>Conserva lo que se ha escrito aquí</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Leaves the settings as they were</source>
+        <translation>Deja los ajustes como estaban</translation>
+    </message>
+    <message>
+        <source>gmail-host is missing in delivery.conf</source>
+        <translation>falta gmail-host en delivery.conf</translation>
     </message>
 </context>
 <context>

@@ -44,7 +44,7 @@ void MainWindow::tellMail(const Posted& posted, const QString& to) {
 }
 
 WorkBar* MainWindow::makeMailBar() {
-    auto* bar = new WorkBar("Mail", tr("Ends the sending; the mail is kept in the outbox"), this);
+    auto* bar = new WorkBar("Mail", tr("Ends the sending; the outbox keeps the mail while it is on"), this);
     MailDesk* desk = &mail_->desk();
     connect(desk, &MailDesk::began, bar,
             [desk, bar](const QString& to) { bar->begin(tr("Mail to %1").arg(to), 100, [desk] { desk->stop(); }); });

@@ -58,8 +58,8 @@ OutboxPanel::OutboxPanel(MailDesk& desk, QWidget* parent)
     keeps->setToolTip(tr("The pauses between the tries grow from a minute to four hours"));
     keeps->setChecked(MailDesk::keepsMails());
     connect(keeps, &QCheckBox::toggled, &desk_, &MailDesk::setKeepsMails);
-    send_ =
-        addButton("buttonOutboxSend", tr("Send now"), tr("Sends the selected mails, or all where none is selected"));
+    send_ = addButton("buttonOutboxSend", tr("Send now"),
+                      tr("Sends the selected mails; where none is selected, all but those that may have gone"));
     discard_ = addButton("buttonOutboxDiscard", tr("Discard"), tr("Removes the selected mails without sending them"));
     connect(send_, &QToolButton::clicked, this, [this] { desk_.sendNow(chosen()); });
     connect(discard_, &QToolButton::clicked, this, [this] { desk_.discard(chosen()); });
