@@ -9,6 +9,7 @@ import email
 import email.policy
 import json
 import os
+import random
 import shutil
 import ssl
 import subprocess
@@ -31,6 +32,7 @@ SUBJECT = "Grüße vom Sommerfest der Schule am alten Markt, mit einem Bild 😀
 BODY = "Zeile eins\n.Punkt\nZeile drei: äöü €"
 NAME = "Bild von Zoë & \"Freunden\" ☺.jpg"
 PICTURE_BYTES = 5_000_000
+KILLS = 30
 
 
 class Mails:
@@ -172,8 +174,45 @@ class Test:
         finally:
             server.stop()
 
+    def kills(self):
+        """Programs killed at any moment: what they had taken on is sent once, waits, or may have gone."""
+        mails = Mails()
+        server = Controller(mails, hostname="127.0.0.1", port=free_port())
+        server.start()
+        random.seed(20)
+        (self.work / "small").write_bytes(os.urandom(400_000))
+        def call(number):
+            return [self.cli, "mail", "--server", f"smtp://127.0.0.1:{server.port}", "--from", "studio@example.org",
+                    "--to", "anna@example.org", "--subject", str(number), "--attach", str(self.work / "small")]
+        def sent():
+            return [int(message["Subject"]) for _, message in mails.all]
+        def kept(*states):
+            return [int(mail["subject"]) for mail in self.outbox() if mail["state"] in states]
+        try:
+            begin = time.monotonic()
+            subprocess.run(call(-1), env=self.environment, check=True, capture_output=True)
+            usual = time.monotonic() - begin
+            for number in range(KILLS):
+                process = subprocess.Popen(call(number), env=self.environment, stdout=subprocess.DEVNULL)
+                time.sleep(random.uniform(0.4, 1.2) * usual)
+                process.kill()
+                process.wait()
+            time.sleep(1)  # the server ends what it had begun
+            waiting, maybe = kept("waiting"), kept("may have gone")
+            right = not set(waiting) & set(sent()) and not kept("held", "under way")
+            arrived = len(set(sent()))
+            subprocess.run([self.cli, "outbox", "send"], env=self.environment, capture_output=True)
+            right = right and not kept("waiting") and len(sent()) == len(set(sent())) and set(waiting) <= set(sent())
+            self.expect(f"{KILLS} kills: {arrived - 1} had arrived, {len(waiting)} waited and went then, {len(maybe)} may "
+                        f"have gone ({len(set(maybe) & set(sent()))} had), none arrived twice", right)
+            for mail in self.outbox():
+                subprocess.run([self.cli, "outbox", "discard", mail["id"]], env=self.environment)
+        finally:
+            server.stop()
+
     def run(self):
         self.speed()
+        self.kills()
         self.encrypted()
         self.start_tls()
         return self.good

@@ -22,13 +22,14 @@ void alertMailFailed(SystemInfo& info) {
 }
 
 bool sendEventMail(SystemInfo& info, const std::string& attachment, const std::string& EmailAddress,
-                   const Outbox* keep) {
+                   const Outbox* keep, bool keepLocation) {
     SendSomeMail mail(info);
     mail.sEmailAttachment = attachment;
     mail.sEmailSubject = info.oQLXInfo->sEventModeEmailTitle;
     mail.sEmailBody = info.oQLXInfo->sEventModeEmailBody;
     mail.sEmailAddress = EmailAddress;
     mail.outbox = keep;
+    mail.keepLocation = keepLocation;
     const bool sent = mail.SendMailNow();
     if (!sent) alertMailFailed(info);
     return sent;

@@ -14,8 +14,9 @@ void alertMailFailed(SystemInfo& info);
 
 /// Sends a picture to a guest, with the title and the text of the settings; alerts when it fails. Blocks until then.
 /// @param keep where the mail goes that cannot be sent now; null for nowhere
+/// @param keepLocation whether the picture says where it was taken
 bool sendEventMail(SystemInfo& info, const std::string& attachment, const std::string& EmailAddress,
-                   const Outbox* keep);
+                   const Outbox* keep, bool keepLocation = false);
 
 /// A telephone number without brackets, hyphens and blanks.
 std::string cleanPhoneNumber(const std::string& typed);

@@ -147,7 +147,7 @@ std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArra
     if (problem.empty()) problem = writeOutboxEntry(claim.entry_, being);
     if (problem.empty()) bringNamesToDisk(being);
     if (problem.empty() && ::rename(being.c_str(), claim.folder_.c_str()) != 0)
-        problem = writeProblem(errno, folder_);
+        problem = writeProblem(errno, folder_) + ".";
     if (!problem.empty()) {
         fs::remove_all(being, failed);
         return fail(problem);

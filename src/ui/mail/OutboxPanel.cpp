@@ -48,6 +48,7 @@ OutboxPanel::OutboxPanel(MailDesk& desk, QWidget* parent)
     list_->setToolTip(tr("Mails that could not be sent, each with its reason"));
     list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list_->setWordWrap(true);
+    list_->setSpacing(4);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setTabKeyNavigation(false);
     list_->setFixedHeight(9 * fontMetrics().lineSpacing());

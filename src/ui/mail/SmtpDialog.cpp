@@ -36,6 +36,7 @@ SmtpDialog::SmtpDialog(QLXInfo& settings, QWidget* parent)
     QPushButton* done = buttons->addButton(tr("Done"), QDialogButtonBox::AcceptRole);
     done->setObjectName("closeSMTPSettings");
     done->setToolTip(tr("Keeps what is entered here"));
+    gmail->setAutoDefault(false);
     done->setDefault(true);
     QPushButton* cancel = buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     cancel->setObjectName("cancelSMTPSettings");
@@ -49,6 +50,7 @@ SmtpDialog::SmtpDialog(QLXInfo& settings, QWidget* parent)
     column->addLayout(form_);
     column->addWidget(buttons);
     ShowSMTPServer();
+    host_->setFocus();
 }
 
 QCheckBox* SmtpDialog::addBox(const char* name, const QString& text, const QString& toolTip) {
