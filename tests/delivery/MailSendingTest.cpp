@@ -70,6 +70,7 @@ TEST_F(MailSendingTest, AMailArrivesOnceWithItsWordsAndItsFile) {
     EXPECT_EQ(man.SendEmail(mail), 1) << man.LastErrorText();
     EXPECT_EQ(man.CloseSmtpConnection(), 1);
     ASSERT_EQ(server.mails().size(), 1u);
+    EXPECT_TRUE(server.heard("EHLO [127.0.0.1]")) << "the machine's name is nobody's business";
     EXPECT_TRUE(server.heard("MAIL FROM:<studio@example.org>"));
     EXPECT_TRUE(server.heard("RCPT TO:<anna@example.org>"));
     const QByteArray text = QByteArray::fromStdString(server.mails()[0]);
@@ -162,8 +163,12 @@ TEST_F(MailSendingTest, AStopEndsItBeforeTheMailIsGone) {
     server.setHabits({});
     stop = false;
     man.setBeforeEnd([] { return false; });
-    for (const int size : {0, 3000}) {
-        EXPECT_EQ(man.SendEmail(email(size)), 0);
+    Email empty = email(0), emptyFile = email(0);
+    empty.setBody("");
+    test::writeFile(folder_.file("empty.jpg"), "");
+    emptyFile.AddFileAttachment(folder_.file("empty.jpg"));
+    for (const Email& one : {email(0), email(3000), empty, emptyFile}) {
+        EXPECT_EQ(man.SendEmail(one), 0);
         EXPECT_EQ(man.end(), MailEnd::notSent);
     }
     EXPECT_TRUE(server.mails().empty());

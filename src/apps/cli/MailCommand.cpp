@@ -271,7 +271,7 @@ void addMailCommands(CLI::App& app, int& result) {
         ->type_name("FILE");
     command->add_flag("--starttls", options->startTls,
                       "Encrypt from the server's word on; without it nothing is sent");
-    command->add_option("--ca-file", options->caFile, "Certificates to trust, instead of the system's")
+    command->add_option("--ca-file", options->caFile, "Certificates to trust besides the system's")
         ->type_name("FILE");
     command->add_flag("--any-certificate", options->anyCertificate, "Do not look at the server's certificate");
     command->add_flag("--location", options->location,

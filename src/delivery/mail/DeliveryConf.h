@@ -14,7 +14,7 @@ struct DeliveryConf {
     std::string gmailHost;                               ///< server behind "Fill In for GMail"
     std::string installation;                            ///< sets the names of two installations' files apart
     bool checkCertificates = true;
-    std::string caFile;   ///< certificates to trust; "" for the system's
+    std::string caFile;   ///< certificates to trust besides the system's; "" for none
     std::string problem;  ///< lines that mean nothing, or why the file cannot be read; "" for none
 };
 

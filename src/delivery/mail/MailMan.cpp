@@ -16,6 +16,9 @@ namespace tavrin {
 
 namespace {
 
+/// What this side calls itself, behind the server's address: no name of the machine goes out.
+constexpr const char* kGreeting = "/%5B127.0.0.1%5D";
+
 struct ListFree {
     void operator()(curl_slist* list) const { curl_slist_free_all(list); }
 };
@@ -102,7 +105,8 @@ class MailTalk {
         const MailServer& server = man_.server_;
         const bool bracketed = server.host.find(':') != std::string::npos && !server.host.starts_with('[');
         const std::string host = bracketed ? "[" + server.host + "]" : server.host;
-        const std::string url = (server.ssl ? "smtps://" : "smtp://") + host + ":" + std::to_string(server.port);
+        const std::string url =
+            (server.ssl ? "smtps://" : "smtp://") + host + ":" + std::to_string(server.port) + kGreeting;
         curl_easy_setopt(easy_, CURLOPT_URL, url.c_str());
         curl_easy_setopt(easy_, CURLOPT_USE_SSL, server.startTls || server.ssl ? CURLUSESSL_ALL : CURLUSESSL_NONE);
         if (!server.account.empty()) {
@@ -180,16 +184,17 @@ class MailTalk {
         auto& source = *static_cast<Source*>(from);
         const std::size_t bytes = std::min(size * count, source.bytes.size() - source.at);
         MailTalk& talk = *source.talk;
-        if (source.isLast && source.at + bytes == source.bytes.size() && !talk.handedOver_) {
-            if (talk.man_.beforeEnd_ && !talk.man_.beforeEnd_()) {
-                talk.heldBack_ = true;
-                return CURL_READFUNC_ABORT;
-            }
-            talk.handedOver_ = true;
-        }
+        if (source.isLast && source.at + bytes == source.bytes.size() && !talk.handOver()) return CURL_READFUNC_ABORT;
         std::memcpy(into, source.bytes.data() + source.at, bytes);
         source.at += bytes;
         return bytes;
+    }
+
+    /// @return whether the end of the mail may be let go
+    bool handOver() {
+        if (!handedOver_) handedOver_ = !man_.beforeEnd_ || man_.beforeEnd_();
+        heldBack_ = !handedOver_;
+        return handedOver_;
     }
 
     static int seek(void* from, curl_off_t offset, int origin) {
@@ -231,7 +236,8 @@ class MailTalk {
         if (code == 221) saidGoodbye_ = true;
         if (mayGo_ && answer_ == 0) answer_ = code;
         if (code == 354) mayGo_ = true;
-        return true;
+        const Source& last = email_.hasAttachment() ? file_ : text_;
+        return !mayGo_ || !last.bytes.empty() || handOver();  // nobody asks for the bytes of an empty part
     }
 
     bool fits(const std::string& limit) {

@@ -11,8 +11,7 @@ struct MailServer {
     bool ssl = false;       ///< encrypted from the first byte
     bool startTls = false;  ///< encrypted from the server's word on, and not used where it has none
     bool checksCertificate = true;
-    std::string caFile =
-        {};  ///< certificates that are trusted besides the system's place for them; "" for the system's
+    std::string caFile = {};  ///< certificates that are trusted besides the system's; "" for none
 };
 
 }  // namespace tavrin
