@@ -4,6 +4,7 @@
 #include <thread>
 
 #include <QByteArray>
+#include <QList>
 #include <QRandomGenerator>
 
 #include "delivery/mail/MailMan.h"

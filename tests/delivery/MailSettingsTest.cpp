@@ -195,6 +195,8 @@ TEST_F(MailSettingsTest, ThePlaceOnEarthGoesOutOfAFileAndNothingElse) {
         QByteArray tables(reinterpret_cast<const char*>(exif.data()) + 6, static_cast<qsizetype>(exif.size()) - 6);
         const QByteArray cleaned = fileWithoutLocation(tables);
         EXPECT_FALSE(cleaned.contains("ital") || cleaned.contains("lati")) << "a TIFF file";
+        const QByteArray boxed = fileWithoutLocation(QByteArray("RIFF\0\1\0\0WEBPEXIF\xA0\0\0\0", 20) + tables);
+        EXPECT_EQ(boxed.mid(20), cleaned);
         for (qsizetype at = 0; at < tables.size(); ++at) {
             QByteArray bent = tables;
             bent[at] = '\xFF';

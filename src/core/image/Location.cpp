@@ -41,7 +41,8 @@ class Tables {
         constexpr std::uint16_t kLocationTable = 0x8825;
         if (first_ == 0) return;
         for (std::size_t i = 0; i < entriesAt(first_); ++i)
-            if (const std::size_t entry = entryAt(first_, i); short_(entry) == kLocationTable)
+            if (const std::size_t entry = entryAt(first_, i);
+                short_(entry) == kLocationTable && long_(entry + 4) == 1)
                 erase(long_(entry + 8));
     }
 
@@ -133,6 +134,18 @@ QByteArray pngWithoutLocation(QByteArray file) {
     return file;
 }
 
+/// Files of boxes in boxes (WebP, HEIF): the camera data lies somewhere in them, and what is erased in its place
+/// moves nothing.
+QByteArray boxesWithoutLocation(QByteArray file) {
+    constexpr int kMost = 1000;  // no file that a camera makes has more than a few
+    for (const QByteArray& head : {QByteArray("II*\0", 4), QByteArray("MM\0*", 4)}) {
+        qsizetype at = file.indexOf(head);
+        for (int i = 0; at >= 0 && i < kMost; ++i, at = file.indexOf(head, at + 1))
+            Tables(bytesOf(file, at, file.size() - at)).eraseLocation();
+    }
+    return file;
+}
+
 }  // namespace
 
 void leaveLocationsOut() {
@@ -147,6 +160,7 @@ QByteArray fileWithoutLocation(QByteArray file) {
     if (file.startsWith("\xFF\xD8\xFF")) return jpegWithoutLocation(std::move(file));
     if (file.startsWith("\x89PNG\r\n")) return pngWithoutLocation(std::move(file));
     if (file.startsWith("II") || file.startsWith("MM")) Tables(bytesOf(file, 0, file.size())).eraseLocation();
+    if (file.startsWith("RIFF") || file.mid(4, 4) == "ftyp") return boxesWithoutLocation(std::move(file));
     return file;
 }
 

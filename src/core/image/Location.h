@@ -10,7 +10,8 @@ namespace tavrin {
 void leaveLocationsOut();
 bool areLocationsLeftOut();
 
-/// A picture file without the place on earth, for whatever leaves the house: JPEG, PNG and TIFF. What stands outside
+/// A picture file without the place on earth, for whatever leaves the house: JPEG, PNG, TIFF, WebP and
+/// HEIF. What stands outside
 /// of the camera data and names coordinates goes as a whole. The pixels stay byte for byte, and so does any other
 /// file.
 QByteArray fileWithoutLocation(QByteArray file);
