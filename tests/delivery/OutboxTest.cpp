@@ -122,6 +122,25 @@ TEST_F(OutboxTest, NothingIsSentByItselfThatWasRefusedOrMayHaveGone) {
     }
 }
 
+TEST_F(OutboxTest, AMailThatWasHandedOverSaysWhyNobodyKnowsWhateverWasTheReasonBefore) {
+    test::SmtpServer server({Fault::none, "", "451 come back", "", 0});
+    EXPECT_FALSE(postTo(server).isSent());
+    std::optional<OutboxClaim> claim = outbox_.claim(only().id);
+    ASSERT_TRUE(claim);
+    EXPECT_TRUE(claim->noteHandedOver());
+    claim.reset();  // killed
+    EXPECT_EQ(only().state, State::maybeGone);
+    EXPECT_NE(only().reason.find("Tavrin ended"), std::string::npos) << only().reason;
+    claim = outbox_.claim(only().id);
+    ASSERT_TRUE(claim);
+    claim->settle({MailEnd::unknown, false, "No answer came."});
+    EXPECT_EQ(only().reason, "No answer came.");
+    claim->settle({MailEnd::notSent, false, "No network."});
+    EXPECT_EQ(only().state, State::underWay);
+    claim.reset();
+    EXPECT_EQ(only().state, State::waiting) << "it surely has not gone this time";
+}
+
 TEST_F(OutboxTest, OneProgramAtATimeHasAMail) {
     test::SmtpServer server;
     std::string problem;

@@ -7,11 +7,11 @@ namespace tavrin {
 namespace {
 
 /// Four of them are places for what is to come.
-constexpr Carrier kCarriers[] = {{"textMessageVerizonClicked", "Verizon", true},
-                                 {"textMessageSprintClicked", "Sprint", false},
-                                 {"textMessageAttClicked", "AT&T", false},
-                                 {"textMessageTMobleClicked", "T-Mobile", false},
-                                 {"texrMessageUSCellularClicked", "US Cellular", false}};
+constexpr Carrier kCarriers[] = {{"textMessageVerizonClicked", true},
+                                 {"textMessageSprintClicked", false},
+                                 {"textMessageAttClicked", false},
+                                 {"textMessageTMobleClicked", false},
+                                 {"texrMessageUSCellularClicked", false}};
 
 constexpr int kSaveAndMail = 3;
 

@@ -30,8 +30,7 @@ bool eventModeSaveAndText(SystemInfo& info, const std::string& typed);
 /// A button of the question for the carrier.
 struct Carrier {
     const char* operation;  ///< behind the button
-    const char* name;
-    bool sends;  ///< the others only close the question
+    bool sends;             ///< the others only close the question
 };
 std::span<const Carrier> carriers();
 

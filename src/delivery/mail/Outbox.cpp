@@ -4,6 +4,7 @@
 #include <chrono>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
@@ -67,7 +68,9 @@ OutboxEntry lookAt(const std::string& folder) {
     OutboxEntry entry = readOutboxEntry(folder);
     if (fs::exists(folder + kOutboxHandedOver, none)) {
         entry.state = State::maybeGone;
-        if (entry.reason.empty()) entry.reason = "Tavrin ended while the mail was handed over. It may have gone.";
+        std::ifstream note(folder + kOutboxHandedOver);
+        if (!std::getline(note, entry.reason))  // whoever sent it never came to an end
+            entry.reason = "Tavrin ended while the mail was handed over. It may have gone.";
     }
     return entry;
 }
@@ -111,7 +114,10 @@ void OutboxClaim::settle(const MailResult& result) {
     entry_.state = result.end == MailEnd::notSent ? State::waiting : State::held;
     entry_.nextTry = QDateTime::currentDateTime().addSecs(Outbox::pauseSeconds(entry_.tries));
     static_cast<void>(writeOutboxEntry(entry_, folder_));  // else the old words stay, and the mail with them
-    if (result.end == MailEnd::unknown) return;
+    if (result.end == MailEnd::unknown) {
+        static_cast<void>(writePrivateFile(folder_ + kOutboxHandedOver, QByteArray::fromStdString(result.reason)));
+        return;
+    }
     std::error_code none;
     fs::remove(folder_ + kOutboxHandedOver, none);
 }

@@ -8,7 +8,8 @@
 
 namespace tavrin {
 
-// How a mail of the outbox lies in its folder.
+// How a mail of the outbox lies in its folder. The file of what was handed over is there from the moment on at which
+// the mail may have gone, and holds the reason why nobody knows, once the sending has come to an end.
 
 inline constexpr const char *kOutboxMail = "/message.json", *kOutboxAttachment = "/attachment",
                             *kOutboxLock = "/lock", *kOutboxHandedOver = "/handed-over";

@@ -65,6 +65,7 @@ void MainWindow::withMailPicture(std::function<void(const std::string& picture)>
         return files_->saveCopy(picture, [this, picture, then](bool done) {
             if (done) then(picture);
             if (!done) closing_ = false;
+            if (closing_ && workUnderWay() == 0) close();
         });
     });
 }
