@@ -35,7 +35,8 @@ ROOMS = {
     "key": [["pixel"], ["screen", "skin", "guard", "refine"], ["hair", "spill"], ["light"], ["."]],
     "effects": [["."], ["frame", "shadow", "sketch", "smoothing", "star"]],
     "editor": [["brush"], ["."]],
-    "ui": [["."], ["bind", "views"], ["tiles"], ["adjust", "batch", "editor", "effects", "review", "settings", "sizes", "strip", "text"], ["look", "picture"], ["frame"]],
+    "delivery": [["mail"], ["."]],
+    "ui": [["."], ["bind", "views"], ["tiles"], ["adjust", "batch", "editor", "effects", "mail", "review", "settings", "sizes", "strip", "text"], ["look", "picture"], ["frame"]],
     "apps": [["cli", "desktop", "web"]],
 }
 

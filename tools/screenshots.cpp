@@ -13,6 +13,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
@@ -25,6 +26,7 @@
 #include "ui/frame/Language.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
+#include "ui/mail/MailPage.h"
 #include "ui/tiles/Tile.h"
 
 namespace {
@@ -38,6 +40,7 @@ constexpr std::pair<const char*, const char*> kDialogs[] = {
     {"buttonAddImageSizes", "panelAddEditImageSizes"},
     {"addCustomTemplate", "panelAddEditTemplate"},
     {"colorWellFrameOverlay", "colorWellFrameOverlayDialog"},
+    {"buttonShowSMTPServer", "MySMTPSettings"},
 };
 
 bool waitsForTiles(const MainWindow& window) {
@@ -235,6 +238,27 @@ void shootBatch(MainWindow& window, SystemInfo& info, const std::function<void(c
     settings.sLastBatchForeground = settings.sLastBatchBackground = settings.sLastBatchOutput = "";
 }
 
+/// The outbox with a mail that waits and one that may have gone.
+void shootOutbox(MainWindow& window, const std::function<void(const char*)>& save) {
+    for (const MailEnd end : {MailEnd::notSent, MailEnd::unknown}) {
+        OutgoingMail mail;
+        mail.to = end == MailEnd::unknown ? "ben@example.org" : "anna@example.org";
+        mail.subject = "Your picture of the summer party";
+        std::string problem;
+        if (std::optional<OutboxClaim> claim = Outbox().add(mail, {}, problem))
+            claim->settle({end, false, "mail.example.org keeps silent for 30 seconds."});
+    }
+    window.panel()->selectMainTab(window.mail()->title().key);
+    auto* list = window.findChild<QListWidget*>("listOutbox");
+    window.mail()->desk().refresh();
+    QElapsedTimer time;
+    for (time.start(); time.elapsed() < 10000 && list->count() < 2;)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    save("outbox");
+    for (const OutboxEntry& entry : Outbox().entries())
+        Outbox().discard(entry.id);
+}
+
 /// The pictures of the user's guide: a small window in the light theme, with few colours so that they stay small.
 class Guide {
   public:
@@ -340,6 +364,7 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
         shootAirbrush(window, *info, save);
         shootEffects(window, save);
         shootBatch(window, *info, save);
+        shootOutbox(window, save);
         window.panel()->selectMainTab(0);
         const auto action = [&](const char* id) { return window.commands().action(id); };
         const auto shoots = [&](const char* id, const char* name) {

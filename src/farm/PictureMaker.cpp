@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include "core/image/Location.h"
 #include "core/state/NamedFiles.h"
 #include "core/state/SettingNames.h"
 #include "core/text/TextLayers.h"
@@ -44,6 +45,7 @@ std::string digestOfSettings(const SystemInfo& info) {
                 std::to_string(info.placeScale) + " " + std::to_string(info.iPlaceXMove) + " " +
                 std::to_string(info.iPlaceYMove) + "\n";
     }
+    if (areLocationsLeftOut()) text += "without the place\n";
     if (info.bReflectAtSubject) text += "reflected at the subject\n";
     for (const auto& [name, value] : listFields(info)) {
         if (!isPlace(name)) text += name + "=" + value + "\n";

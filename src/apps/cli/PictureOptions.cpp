@@ -7,6 +7,7 @@
 #include "apps/cli/LabelOptions.h"
 #include "apps/cli/Usage.h"
 #include "core/NearestName.h"
+#include "core/image/Location.h"
 #include "core/state/SettingRanges.h"
 #include "core/text/TextLayers.h"
 #include "session/OutputSizes.h"
@@ -127,6 +128,8 @@ void addPictureOptions(CLI::App& command, PictureOptions& options) {
     command.add_option("--overlay-background", options.backgroundOverlay, "Picture over the background");
     command.add_option("--overlay-foreground", options.foregroundOverlay, "Picture over the subject");
     command.add_option("--overlay-frame", options.frameOverlay, "Picture over everything but text and frames");
+    command.add_flag_callback("--no-location", leaveLocationsOut,
+                              "Leave the place on earth, as the camera noted it, out of what is saved");
     command.add_option("--set", options.set, "A setting as field=value; may be given several times")->take_all();
     addKeyOptions(command, options.key);
 }

@@ -12,6 +12,7 @@
 #include "apps/cli/EffectOptions.h"
 #include "apps/cli/InfoCommand.h"
 #include "apps/cli/ListCommands.h"
+#include "apps/cli/MailCommand.h"
 #include "apps/cli/Output.h"
 #include "apps/cli/PrintCommand.h"
 #include "apps/cli/RenderCommand.h"
@@ -75,6 +76,7 @@ int main(int argc, char** argv) {
     cli::addBatchCommand(app, result);
     cli::addReportCommand(app, result);
     cli::addPrintCommand(app, result);
+    cli::addMailCommands(app, result);
     cli::addInfoCommand(app, result);
     cli::addStateCommand(app, result);
     cli::addListCommands(app, result);

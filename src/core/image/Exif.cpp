@@ -151,10 +151,14 @@ void addRatio(ExifData* data, ExifIfd ifd, ExifTag tag, double value) {
     exif_set_rational(add(data, ifd, tag, EXIF_FORMAT_RATIONAL, 1)->data, exif_data_get_byte_order(data), ratio);
 }
 
+void dropAll(ExifContent* content) {
+    while (content->count)
+        exif_content_remove_entry(content, content->entries[0]);
+}
+
 // The tags that describe the old picture and not the shot.
 void dropStale(ExifData* data) {
-    while (data->ifd[EXIF_IFD_1]->count)
-        exif_content_remove_entry(data->ifd[EXIF_IFD_1], data->ifd[EXIF_IFD_1]->entries[0]);
+    dropAll(data->ifd[EXIF_IFD_1]);
     std::free(data->data);
     data->data = nullptr;
     data->size = 0;
@@ -169,9 +173,7 @@ void dropStale(ExifData* data) {
           EXIF_TAG_FOCAL_PLANE_Y_RESOLUTION, EXIF_TAG_FOCAL_PLANE_RESOLUTION_UNIT, EXIF_TAG_SUBJECT_AREA,
           EXIF_TAG_SUBJECT_LOCATION})
         remove(data, EXIF_IFD_EXIF, tag);
-    while (data->ifd[EXIF_IFD_INTEROPERABILITY]->count)
-        exif_content_remove_entry(data->ifd[EXIF_IFD_INTEROPERABILITY],
-                                  data->ifd[EXIF_IFD_INTEROPERABILITY]->entries[0]);
+    dropAll(data->ifd[EXIF_IFD_INTEROPERABILITY]);
 }
 
 bool isEmpty(const ExifData* data) {
@@ -211,10 +213,11 @@ ExifBlock makeExif(const CameraFacts& facts) {
     return isEmpty(data.get()) ? ExifBlock() : serialise(data.get());
 }
 
-ExifBlock carryOverExif(const ExifBlock& exif, int width, int height, int dpi) {
+ExifBlock carryOverExif(const ExifBlock& exif, int width, int height, int dpi, bool keepLocation) {
     const ExifRef data = parse(exif);
     if (!data || isEmpty(data.get())) return {};
     dropStale(data.get());
+    if (!keepLocation) dropAll(data->ifd[EXIF_IFD_GPS]);
     if (isEmpty(data.get())) return {};
     constexpr double kUpright = 1, kInches = 2, kSrgb = 1;
     addShort(data.get(), EXIF_IFD_0, EXIF_TAG_ORIENTATION, kUpright);

@@ -24,8 +24,9 @@ ExifBlock makeExif(const CameraFacts& facts);
 /// The block for a picture made from the one that `exif` came with: camera data and dates stay; the orientation is
 /// upright, and the thumbnail, the pixel sizes and resolution of the old picture and the maker's private notes (whose
 /// inner offsets do not survive a move) go.
+/// @param keepLocation whether the place on earth stays, too
 /// @return empty when nothing is left or the block is broken
-ExifBlock carryOverExif(const ExifBlock& exif, int width, int height, int dpi);
+ExifBlock carryOverExif(const ExifBlock& exif, int width, int height, int dpi, bool keepLocation = true);
 
 /// One entry of a block, for formats that keep their own tables.
 struct ExifValue {

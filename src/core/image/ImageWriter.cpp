@@ -5,6 +5,7 @@
 #include "core/files/AtomicFile.h"
 #include "core/image/Exif.h"
 #include "core/image/JpegWriter.h"
+#include "core/image/Location.h"
 #include "core/image/PngWriter.h"
 #include "core/image/TiffWriter.h"
 #include "core/image/Vips.h"
@@ -45,7 +46,7 @@ std::string write(const std::string& path, const WriteRequest& request) {
     if (!file.error().empty()) return file.error();
     file.stopWhen(request.stop);
     WriteRequest own = request;
-    own.exif = carryOverExif(request.exif, request.width, request.height, request.dpi);
+    own.exif = carryOverExif(request.exif, request.width, request.height, request.dpi, !areLocationsLeftOut());
     const std::string failed = encode(file, own);
     if (!file.error().empty()) return file.error();
     if (!failed.empty()) return failed;

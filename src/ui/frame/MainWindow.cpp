@@ -17,6 +17,7 @@
 #include "ui/WindowSettings.h"
 #include "ui/frame/Habits.h"
 #include "ui/frame/TipGuard.h"
+#include "ui/mail/MailPage.h"
 
 namespace tavrin {
 
@@ -39,6 +40,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       sizes_(new SizesPanel(editor_, *heldLoop_)),
       templates_(new TemplatesPanel(editor_, *heldLoop_, [this] { return view_->fullPicture(); })),
       batch_(new BatchPage(binder_)),
+      mail_(new MailPage(binder_)),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
@@ -59,6 +61,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectLists();
     connectBatch();
     connectReview();
+    connectMail();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
 }
@@ -128,6 +131,7 @@ void MainWindow::connectBridge() {
             commands_->refresh();
             tellProgress();
             airbrush_->setFinished(enabled);
+            mail_->setFinished(enabled);
             if (!enabled) return;
             tools_->pictureFinished();
             templates_->view()->refresh();
@@ -181,7 +185,7 @@ void MainWindow::connectBatch() {
             finished_ = info_.whyNotFinished(Resolution::full).empty();
             tellProgress();
         }
-        if (closing_ && savesUnderWay() == 0) close();
+        if (closing_ && workUnderWay() == 0) close();
     });
 }
 

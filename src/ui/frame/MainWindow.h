@@ -33,6 +33,8 @@ class QProgressBar;
 
 namespace tavrin {
 
+class MailPage;
+struct Posted;
 struct SaveTarget;
 class TipGuard;
 class WorkBar;
@@ -89,6 +91,7 @@ class MainWindow : public QMainWindow {
     Airbrush* airbrush() const { return airbrush_; }
     Strip* strip() const { return strip_; }
     BatchPage* batch() const { return batch_; }
+    MailPage* mail() const { return mail_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
@@ -126,6 +129,13 @@ class MainWindow : public QMainWindow {
     void connectLists();
     void connectBatch();
     void connectReview();
+    void connectMail();
+    void sendQLXMail();
+    void shareUsingEmail();
+    void withMailPicture(std::function<void(const std::string& picture)> then);
+    void tellMail(const Posted& posted, const QString& to);
+    WorkBar* makeMailBar();
+    int workUnderWay() const;
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
@@ -187,6 +197,7 @@ class MainWindow : public QMainWindow {
     SizesPanel* sizes_;
     TemplatesPanel* templates_;
     BatchPage* batch_;
+    MailPage* mail_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;

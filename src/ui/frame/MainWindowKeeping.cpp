@@ -89,15 +89,17 @@ void MainWindow::endSave(const QString& path, bool done) {
         info_.bLightroomActive = !done;
         tellSaveButton();
     }
-    if (closing_ && savesUnderWay() == 0) close();
+    if (closing_ && workUnderWay() == 0) close();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (question_) return;  // asked already
     if (batch_->isRunning()) return askBeforeEndingBatch();
-    closing_ = savesUnderWay() > 0;
-    if (closing_) return messages_->tell(tr("The window closes when everything is saved."));
+    closing_ = workUnderWay() > 0;
+    if (closing_)
+        return messages_->tell(savesUnderWay() > 0 ? tr("The window closes when everything is saved.")
+                                                   : tr("The window closes when the mail is sent."));
     if (editor_.isUnsaved() && !closeUnsaved_) return askBeforeClosing();
     event->accept();
     QSettings settings = windowSettings();

@@ -18,6 +18,7 @@
 #include "ui/frame/PictureCommands.h"
 #include "ui/frame/ViewBar.h"
 #include "ui/frame/WorkBar.h"
+#include "ui/mail/MailPage.h"
 #include "ui/sizes/PrintPage.h"
 
 namespace tavrin {
@@ -35,6 +36,7 @@ void MainWindow::layOut() {
     panel_->addPage(airbrush_->page());
     panel_->addPage(new PrintPage(binder_, templates_));
     panel_->addPage(batch_);
+    panel_->addPage(mail_);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
     tabifyDockWidget(panel_, history_);
     tabifyDockWidget(panel_, looksPanel_);
@@ -117,6 +119,7 @@ void MainWindow::makeStatusLine() {
     connect(keeping_, &Safekeeping::pasted, strip_, [this] { strip_->results().forget(); });
     statusBar()->addPermanentWidget(work);
     statusBar()->addPermanentWidget(makeSaveBar());
+    statusBar()->addPermanentWidget(makeMailBar());
     statusBar()->addPermanentWidget(stateText_);
     statusBar()->addPermanentWidget(progress_);
 }

@@ -153,6 +153,23 @@ bool PictureFiles::saveOver(const QString& path) {
     return true;
 }
 
+bool PictureFiles::saveCopy(const std::string& path, std::function<void(bool done)> ended) {
+    if (!isFinished()) return false;
+    ++copies_;
+    loop_.edit([this, path, ended = std::move(ended)]() -> std::vector<ChangedRows> {
+        const bool done = saveImageToDisk(info_, path, kJpegFile, 1);
+        QMetaObject::invokeMethod(
+            this,
+            [this, done, ended] {
+                --copies_;
+                ended(done);
+            },
+            Qt::QueuedConnection);
+        return {};
+    });
+    return true;
+}
+
 /// Buffers and lists are the loop's, so what saves them is a job of the loop's. However it ends, the window hears of
 /// it.
 void PictureFiles::saveInTurn(const QString& path, std::function<bool(const std::atomic<bool>& stop)> save) {

@@ -41,6 +41,11 @@ class PictureFiles : public QObject {
     bool saveOver(const QString& path);
     /// The same for a result of a batch, with the small picture of its mask (`saveMaskThumbnail`).
     bool saveReviewed(const QString& path);
+    /// Writes the full picture that stands as a JPEG file for something else than keeping it, and tells how that
+    /// ended.
+    /// @return false when there is no finished picture
+    bool saveCopy(const std::string& path, std::function<void(bool done)> ended);
+    int copiesUnderWay() const { return copies_; }
     int savesUnderWay() const { return saves_; }
     /// Ends the saves that are under way or wait; the files that were there before stay.
     void stopSaving() { *stop_ = true; }
@@ -65,7 +70,7 @@ class PictureFiles : public QObject {
     SystemInfo& info_;
     CombineThread& loop_;
     WindowBridge& bridge_;
-    int saves_ = 0;
+    int saves_ = 0, copies_ = 0;
     std::shared_ptr<std::atomic<bool>> stop_ = std::make_shared<std::atomic<bool>>(false);  ///< of these saves
     std::atomic<int> opened_ = 0;  ///< portraits and states, so that an older job steps back
 };

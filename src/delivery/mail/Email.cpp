@@ -1,0 +1,51 @@
+#include "delivery/mail/Email.h"
+
+#include <QFile>
+
+#include "core/files/NameText.h"
+#include "core/files/StandardPath.h"
+#include "core/image/Location.h"
+#include "delivery/mail/MailText.h"
+
+namespace tavrin {
+
+void Email::fail(const std::string& why) {
+    if (error_.empty()) error_ = why;
+}
+
+void Email::take(const char* what, const std::string& address, std::string& into) {
+    if (const std::string problem = whyUnsafe(address); !problem.empty()) return fail(what + (": " + problem) + ".");
+    into = address;
+}
+
+void Email::setFrom(const std::string& address) {
+    take("The sender", address, from_);
+}
+
+void Email::setReplyTo(const std::string& address) {
+    take("The address for answers", address, replyTo_);
+}
+
+void Email::AddTo(const std::string& displayName, const std::string& address) {
+    displayName_ = displayName;
+    take("The recipient", address, to_);
+}
+
+void Email::AddFileAttachment(const std::string& path, const std::string& name, bool keepLocation) {
+    QFile file(textOfName(path));
+    if (!file.open(QFile::ReadOnly))
+        return fail(path + " cannot be attached: " + file.errorString().toStdString() + ".");
+    attachment_ = file.readAll();
+    if (file.error() != QFile::NoError)
+        return fail(path + " cannot be attached: " + file.errorString().toStdString() + ".");
+    if (!keepLocation) attachment_ = fileWithoutLocation(std::move(attachment_));
+    attachmentName_ = name.empty() ? lastPathComponent(path) : name;
+}
+
+long long Email::sizeOnLine() const {
+    constexpr long long kBytesOfLine = 57, kLine = 78, kHeaders = 1000;
+    return (attachment_.size() + kBytesOfLine - 1) / kBytesOfLine * kLine + static_cast<long long>(body_.size()) +
+           kHeaders;
+}
+
+}  // namespace tavrin

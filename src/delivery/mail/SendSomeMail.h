@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "core/state/SystemInfo.h"
+#include "delivery/mail/Posting.h"
+
+namespace tavrin {
+
+/// The fields of one mail, and its sending by the server of the settings. Whoever sends makes one of his own, so that
+/// no two mails mix.
+class SendSomeMail {
+  public:
+    explicit SendSomeMail(SystemInfo& info) : pMySystemInfo(&info) {}
+
+    std::string sEmailAddress;
+    std::string sEmailFromAddress;  ///< where answers go, when it is an address; the sender is the server's account
+    std::string sEmailBody, sEmailAttachment, sEmailSubject;
+    /// The server as it was when the mail was sent; set by `SendMailNow`.
+    std::string sSmtpServer, sSmtpUserName, sSmtpPassword, sSmtpSSL, sSmtpTLS, sSmtpPort;
+    SystemInfo* pMySystemInfo;
+
+    const Outbox* outbox = nullptr;  ///< where a mail that does not go is kept; null for nowhere
+    bool keepLocation = false;       ///< as `OutgoingMail::keepLocation`
+    MailWatch watch;
+
+    /// Sends the mail and blocks until then.
+    /// @return whether it went and the connection was closed cleanly. `posted` has the rest
+    bool SendMailNow();
+    const Posted& posted() const { return posted_; }
+
+  private:
+    Posted posted_;
+};
+
+}  // namespace tavrin
