@@ -17,7 +17,7 @@ pkg_check_modules(LIBPNG REQUIRED IMPORTED_TARGET libpng)
 pkg_check_modules(LCMS REQUIRED IMPORTED_TARGET lcms2)
 find_package(ZLIB REQUIRED)
 # Printers. Without it everything but printing works.
-pkg_check_modules(CUPS IMPORTED_TARGET cups)
+find_package(Cups QUIET)
 if(NOT CUPS_FOUND)
   message(WARNING "CUPS (libcups2-dev) is not installed: Tavrin will make print sheets, but cannot send them to a printer.")
 endif()

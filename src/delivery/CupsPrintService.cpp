@@ -33,7 +33,7 @@ class Connection {
 };
 
 constexpr const char* kNoAnswer =
-    "The printing system (CUPS) does not answer. See that it runs; the sheet is kept.";
+    "The printing system (CUPS) does not answer; see that it runs.";
 
 /// What the library says about the last call, as one plain line.
 std::string lastProblem(const std::string& what) {
@@ -52,7 +52,7 @@ std::string troubleOf(const std::string& name, const cups_dest_t& dest, const st
     const std::string printer = "The printer \"" + name + "\" ";
     const bool isStopped = option(dest, "printer-state") == std::to_string(IPP_PSTATE_STOPPED);
     if (option(dest, "printer-is-accepting-jobs") == "false") return printer + "takes no jobs at present.";
-    if (words.empty() || words == "stopped" || words == "paused") {
+    if (words.empty() || words == "stopped") {
         const std::string said = option(dest, "printer-state-message");
         if (!isStopped) return "";
         return printer + "is stopped" + (said.empty() || said == "Paused" ? "." : ": " + said + ".");
@@ -61,7 +61,7 @@ std::string troubleOf(const std::string& name, const cups_dest_t& dest, const st
 }
 
 Printer printerOf(const cups_dest_t& dest) {
-    const std::string words = wordsOf(option(dest, "printer-state-reasons"));
+    const std::string reasons = option(dest, "printer-state-reasons"), words = wordsOf(reasons, true);
     const std::string state = option(dest, "printer-state");
     Printer printer{dest.name, option(dest, "printer-info"), dest.is_default != 0, words, ""};
     if (words.empty())
@@ -69,7 +69,7 @@ Printer printerOf(const cups_dest_t& dest) {
                         : state == std::to_string(IPP_PSTATE_PROCESSING) ? "printing"
                                                                          : "ready";
     if (option(dest, "printer-is-accepting-jobs") == "false") printer.state = "takes no jobs";
-    printer.trouble = troubleOf(printer.name, dest, words);
+    printer.trouble = troubleOf(printer.name, dest, wordsOf(reasons, false));
     return printer;
 }
 
@@ -142,7 +142,9 @@ JobNews newsOf(ipp_t* response) {
     if (state == IPP_JSTATE_CANCELED) return {State::givenUp, "it was cancelled"};
     if (state == IPP_JSTATE_ABORTED) return {State::givenUp, message ? message : ""};
     if (number("number-of-documents") < 1) return {State::empty, ""};
-    const std::string words = wordsOf(reasons);
+    std::string words = wordsOf(reasons, true);
+    if (words.empty() && message) words = troubleIn(message);
+    if (words.ends_with('.')) words.pop_back();
     if (state == IPP_JSTATE_PROCESSING) return {State::printing, words};
     return {State::waiting, words};
 }

@@ -1,5 +1,6 @@
 #include "delivery/CupsWords.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
@@ -26,16 +27,15 @@ constexpr std::array<std::pair<std::string_view, const char*>, 21> kWords{{
     {"connecting-to-device", "cannot be reached yet"},
     {"timed-out", "does not answer"},
     {"shutdown", "switched off"},
-    {"paused", "paused"},
-    {"moving-to-paused", "paused"},
+    {"paused", "stopped"},
+    {"moving-to-paused", "stopped"},
     {"printer-stopped", "stopped"},
     {"stopped-partly", "partly stopped"},
     {"cups-missing-filter", "its driver is incomplete"},
 }};
 
-std::string wordOf(std::string_view keyword) {
-    // Warnings and reports stop nothing.
-    if (keyword.ends_with("-warning") || keyword.ends_with("-report")) return "";
+std::string wordOf(std::string_view keyword, bool warnings) {
+    if (!warnings && (keyword.ends_with("-warning") || keyword.ends_with("-report"))) return "";
     for (const auto& [beginning, words] : kWords) {
         if (keyword.starts_with(beginning)) return words;
     }
@@ -44,16 +44,24 @@ std::string wordOf(std::string_view keyword) {
 
 }  // namespace
 
-std::string wordsOf(const std::string& keywords) {
+std::string wordsOf(const std::string& keywords, bool warnings) {
     std::string all;
     std::string_view rest = keywords;
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find(','), rest.size());
-        const std::string words = wordOf(rest.substr(0, end));
+        const std::string words = wordOf(rest.substr(0, end), warnings);
         if (!words.empty() && all.find(words) == std::string::npos) all += (all.empty() ? "" : ", ") + words;
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return all;
+}
+
+std::string troubleIn(const std::string& message) {
+    // How the programs that speak to printers begin such lines.
+    for (const char* beginning : {"The printer ", "Unable to ", "Network host ", "Could not ", "Destination ", "No "}) {
+        if (message.starts_with(beginning)) return message;
+    }
+    return "";
 }
 
 }  // namespace tavrin

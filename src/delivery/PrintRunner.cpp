@@ -112,7 +112,7 @@ std::vector<QueuedSheet> PrintRunner::followUp() {
 /// @return false when it turned out to be printed, or the printer keeps it
 bool PrintRunner::takeBack(QueuedSheet& sheet) {
     if (sheet.stage == Stage::waiting || sheet.number == 0) return true;
-    if (sheet.stage != Stage::unsure) sheet = taken(sheet, service_.news(sheet.job, sheet.number));
+    sheet = taken(sheet, service_.news(sheet.job, sheet.number));
     if (sheet.id.empty()) return false;
     if (sheet.stage != Stage::atPrinter) return true;
     return service_.cancel(sheet.job, sheet.number);
