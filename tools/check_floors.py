@@ -35,7 +35,7 @@ ROOMS = {
     "key": [["pixel"], ["screen", "skin", "guard", "refine"], ["hair", "spill"], ["light"], ["."]],
     "effects": [["."], ["frame", "shadow", "sketch", "smoothing", "star"]],
     "editor": [["brush"], ["."]],
-    "ui": [["."], ["bind", "views"], ["tiles"], ["adjust", "batch", "editor", "effects", "settings", "sizes", "strip", "text"], ["look", "picture"], ["frame"]],
+    "ui": [["."], ["bind", "views"], ["tiles"], ["adjust", "batch", "editor", "effects", "settings", "sizes", "strip", "text"], ["look", "picture", "print"], ["frame"]],
     "apps": [["cli", "desktop"]],
 }
 

@@ -2407,6 +2407,10 @@
         <source>Sets the key for this colour of hair.</source>
         <translation>Stellt das Freistellen auf diese Haarfarbe ein.</translation>
     </message>
+    <message>
+        <source>Sheets to be printed</source>
+        <translation>Zu druckende Bögen</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -4533,6 +4537,30 @@
         <source>Saving %1</source>
         <translation>%1 wird gespeichert</translation>
     </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>Prints the finished picture, or saves the sheet as a PDF</source>
+        <translation>Druckt das fertige Bild oder speichert den Bogen als PDF</translation>
+    </message>
+    <message>
+        <source>Page La&amp;yout...</source>
+        <translation>Sei&amp;tenlayout...</translation>
+    </message>
+    <message>
+        <source>Chooses the paper to print on and how it lies</source>
+        <translation>Wählt das Papier, auf das gedruckt wird, und wie es liegt</translation>
+    </message>
+    <message>
+        <source>Save the Sheet</source>
+        <translation>Bogen speichern</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4602,6 +4630,53 @@
     <message>
         <source>A click selects a text or picture item, and drags act on it</source>
         <translation>Ein Klick wählt einen Text oder ein Bild, und Ziehen wirkt darauf</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PageLayoutDialog</name>
+    <message>
+        <source>Upright</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>On its side</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>The paper in the printer; the sheet is printed in its middle</source>
+        <translation>Das Papier im Drucker; der Bogen wird in seine Mitte gedruckt</translation>
+    </message>
+    <message>
+        <source>As the printer has it (%1)</source>
+        <translation>Wie es der Drucker hat (%1)</translation>
+    </message>
+    <message>
+        <source>The paper is higher than wide</source>
+        <translation>Das Papier ist höher als breit</translation>
+    </message>
+    <message>
+        <source>The paper is wider than high</source>
+        <translation>Das Papier ist breiter als hoch</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Takes this paper for all that is printed</source>
+        <translation>Nimmt dieses Papier für alles, was gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -4839,6 +4914,268 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>%1 from %2</source>
         <translation>%1 aus %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PrintDesk</name>
+    <message>
+        <source>There is not enough memory for the sheet.</source>
+        <translation>Für den Bogen reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be made.</source>
+        <translation>Der Bogen kann nicht hergestellt werden.</translation>
+    </message>
+    <message>
+        <source>The sheet is saved as %1.</source>
+        <translation>Der Bogen ist als %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be saved.</source>
+        <translation>Der Bogen kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 is not printed.</source>
+        <translation>%1 ist nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>The sheet stays.</source>
+        <translation>Der Bogen bleibt.</translation>
+    </message>
+    <message>
+        <source>%1 is printed.</source>
+        <translation>%1 ist gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 is not printed; it waits among the sheets of the Print page.</source>
+        <translation>%1 ist nicht gedruckt; der Bogen wartet auf der Seite Drucken.</translation>
+    </message>
+    <message>
+        <source>%1 is sent to %2.</source>
+        <translation>%1 ist an %2 gesendet.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>The printer to print on</source>
+        <translation>Der Drucker, auf dem gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Looking for printers...</source>
+        <translation>Drucker werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>How often the sheet is printed</source>
+        <translation>Wie oft der Bogen gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>The print page: where the picture lies on the sheet, and how often</source>
+        <translation>Die Druckseite: wo das Bild auf dem Bogen liegt und wie oft</translation>
+    </message>
+    <message>
+        <source>Only the picture, at its own size</source>
+        <translation>Nur das Bild, in seiner eigenen Größe</translation>
+    </message>
+    <message>
+        <source>The sheet is the picture itself, without a page</source>
+        <translation>Der Bogen ist das Bild selbst, ohne Druckseite</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
+    <message>
+        <source>Chooses the paper to print on and how it lies</source>
+        <translation>Wählt das Papier, auf das gedruckt wird, und wie es liegt</translation>
+    </message>
+    <message>
+        <source>Page Layout...</source>
+        <translation>Seitenlayout...</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture that has not the shape of its place on the page</source>
+        <translation>Was mit einem Bild geschieht, das nicht die Form seines Platzes auf der Seite hat</translation>
+    </message>
+    <message>
+        <source>Stretched to its place</source>
+        <translation>In seinen Platz gestreckt</translation>
+    </message>
+    <message>
+        <source>Cut to fill its place</source>
+        <translation>Beschnitten, füllt den Platz</translation>
+    </message>
+    <message>
+        <source>Whole, with grey sides</source>
+        <translation>Ganz, mit grauen Rändern</translation>
+    </message>
+    <message>
+        <source>Cut marks</source>
+        <translation>Schnittmarken</translation>
+    </message>
+    <message>
+        <source>Thin lines beside the pictures&apos; corners, to cut along</source>
+        <translation>Dünne Linien neben den Ecken der Bilder, zum Schneiden</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>Gespiegelt</translation>
+    </message>
+    <message>
+        <source>Left and right exchanged, for transfer paper that is ironed on</source>
+        <translation>Links und rechts vertauscht, für Transferpapier zum Aufbügeln</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>A line beside the pictures, where the page has room. &lt;&lt;filename&gt;&gt;, &lt;&lt;filenumber&gt;&gt;, &lt;&lt;date&gt;&gt; and &lt;&lt;time&gt;&gt; are replaced</source>
+        <translation>Eine Zeile neben den Bildern, wo die Seite Platz hat. &lt;&lt;filename&gt;&gt;, &lt;&lt;filenumber&gt;&gt;, &lt;&lt;date&gt;&gt; und &lt;&lt;time&gt;&gt; werden ersetzt</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Farbprofil</translation>
+    </message>
+    <message>
+        <source>The ICC profile of the printer and its paper; without one the printer gets sRGB</source>
+        <translation>Das ICC-Profil des Druckers und seines Papiers; ohne eines bekommt der Drucker sRGB</translation>
+    </message>
+    <message>
+        <source>Choose the colour profile</source>
+        <translation>Farbprofil wählen</translation>
+    </message>
+    <message>
+        <source>Chooses the ICC profile of the printer and its paper</source>
+        <translation>Wählt das ICC-Profil des Druckers und seines Papiers</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Take no colour profile</source>
+        <translation>Kein Farbprofil nehmen</translation>
+    </message>
+    <message>
+        <source>Takes no colour profile</source>
+        <translation>Nimmt kein Farbprofil</translation>
+    </message>
+    <message>
+        <source>Intent</source>
+        <translation>Umwandlung</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer does not have</source>
+        <translation>Was aus Farben wird, die der Drucker nicht hat</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Wahrnehmung</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Relativ farbmetrisch</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Absolut farbmetrisch</translation>
+    </message>
+    <message>
+        <source>Makes the sheet and sends it to the printer</source>
+        <translation>Stellt den Bogen her und sendet ihn an den Drucker</translation>
+    </message>
+    <message>
+        <source>Save as PDF...</source>
+        <translation>Als PDF speichern...</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>Saves the sheet on its paper as a file, with all pixels of the picture</source>
+        <translation>Speichert den Bogen auf seinem Papier als Datei, mit allen Pixeln des Bildes</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Prints nothing</source>
+        <translation>Druckt nichts</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>No printers</source>
+        <translation>Keine Drucker</translation>
+    </message>
+    <message>
+        <source>There are no printers on this machine. Add one in the desktop&apos;s settings, or save the sheet as a PDF.</source>
+        <translation>Auf diesem Rechner gibt es keine Drucker. Fügen Sie in den Einstellungen der Arbeitsumgebung einen hinzu oder speichern Sie den Bogen als PDF.</translation>
+    </message>
+    <message>
+        <source>%1, on its side</source>
+        <translation>%1, quer</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the paper; what stands over is cut off.</source>
+        <translation>Der Bogen ist größer als das Papier; was übersteht, wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the paper as it lies; turn the paper in Page Layout.</source>
+        <translation>Der Bogen ist größer als das Papier, so wie es liegt; drehen Sie das Papier im Seitenlayout.</translation>
+    </message>
+    <message>
+        <source>This page has no room for a caption; it is left out.</source>
+        <translation>Diese Seite hat keinen Platz für eine Beschriftung; sie entfällt.</translation>
+    </message>
+    <message>
+        <source>Select the Colour Profile</source>
+        <translation>Farbprofil wählen</translation>
+    </message>
+    <message>
+        <source>Colour profiles (*.icc *.icm)</source>
+        <translation>Farbprofile (*.icc *.icm)</translation>
+    </message>
+    <message>
+        <source>This page has no place for a picture.</source>
+        <translation>Diese Seite hat keinen Platz für ein Bild.</translation>
     </message>
 </context>
 <context>
@@ -5405,6 +5742,14 @@ oder beide im Menü Datei öffnen.</translation>
         <source>Delete place on the page</source>
         <translation>Platz auf der Seite löschen</translation>
     </message>
+    <message>
+        <source>Print...</source>
+        <translation>Drucken...</translation>
+    </message>
+    <message>
+        <source>Prints the picture on this page</source>
+        <translation>Druckt das Bild auf diese Seite</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::TextPage</name>
@@ -5552,6 +5897,77 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::WaitingSheets</name>
+    <message>
+        <source>waits</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>is being sent</source>
+        <translation>wird gesendet</translation>
+    </message>
+    <message>
+        <source>at the printer</source>
+        <translation>beim Drucker</translation>
+    </message>
+    <message>
+        <source>may have been printed</source>
+        <translation>vielleicht schon gedruckt</translation>
+    </message>
+    <message>
+        <source>Sheets that are not printed yet</source>
+        <translation>Bögen, die noch nicht gedruckt sind</translation>
+    </message>
+    <message>
+        <source>Sheets on their way to a printer, and those that could not be printed</source>
+        <translation>Bögen auf dem Weg zu einem Drucker und solche, die nicht gedruckt werden konnten</translation>
+    </message>
+    <message>
+        <source>Each sheet with its printer and how it stands; rest on one to read why</source>
+        <translation>Jeder Bogen mit seinem Drucker und seinem Stand; verweilen Sie darauf, um den Grund zu lesen</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Bogen</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Send Again</source>
+        <translation>Noch einmal senden</translation>
+    </message>
+    <message>
+        <source>Sends the selected sheet to its printer once more</source>
+        <translation>Sendet den gewählten Bogen noch einmal an seinen Drucker</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Forgets the selected sheet; it is not printed</source>
+        <translation>Verwirft den gewählten Bogen; er wird nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>This sheet may have been printed already. Print it once more?</source>
+        <translation>Dieser Bogen ist vielleicht schon gedruckt. Noch einmal drucken?</translation>
+    </message>
+    <message>
+        <source>Print Once More</source>
+        <translation>Noch einmal drucken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

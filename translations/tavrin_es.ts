@@ -2407,6 +2407,10 @@
         <source>Sets the key for this colour of hair.</source>
         <translation>Ajusta el croma a este color de pelo.</translation>
     </message>
+    <message>
+        <source>Sheets to be printed</source>
+        <translation>Hojas por imprimir</translation>
+    </message>
 </context>
 <context>
     <name>Story</name>
@@ -4533,6 +4537,30 @@
         <source>Saving %1</source>
         <translation>Guardando %1</translation>
     </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Imprimir...</translation>
+    </message>
+    <message>
+        <source>Prints the finished picture, or saves the sheet as a PDF</source>
+        <translation>Imprime la imagen terminada o guarda la hoja como PDF</translation>
+    </message>
+    <message>
+        <source>Page La&amp;yout...</source>
+        <translation>Dise&amp;ño de página...</translation>
+    </message>
+    <message>
+        <source>Chooses the paper to print on and how it lies</source>
+        <translation>Elige el papel en que se imprime y su orientación</translation>
+    </message>
+    <message>
+        <source>Save the Sheet</source>
+        <translation>Guardar la hoja</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4602,6 +4630,53 @@
     <message>
         <source>A click selects a text or picture item, and drags act on it</source>
         <translation>Un clic elige un texto o una imagen, y arrastrar actúa sobre él</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PageLayoutDialog</name>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>On its side</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Diseño de página</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>The paper in the printer; the sheet is printed in its middle</source>
+        <translation>El papel de la impresora; la hoja se imprime en su centro</translation>
+    </message>
+    <message>
+        <source>As the printer has it (%1)</source>
+        <translation>El de la impresora (%1)</translation>
+    </message>
+    <message>
+        <source>The paper is higher than wide</source>
+        <translation>El papel es más alto que ancho</translation>
+    </message>
+    <message>
+        <source>The paper is wider than high</source>
+        <translation>El papel es más ancho que alto</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Takes this paper for all that is printed</source>
+        <translation>Usa este papel para todo lo que se imprima</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -4839,6 +4914,268 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>%1 from %2</source>
         <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PrintDesk</name>
+    <message>
+        <source>There is not enough memory for the sheet.</source>
+        <translation>No hay memoria suficiente para la hoja.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be made.</source>
+        <translation>No se puede crear la hoja.</translation>
+    </message>
+    <message>
+        <source>The sheet is saved as %1.</source>
+        <translation>La hoja se ha guardado como %1.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be saved.</source>
+        <translation>No se puede guardar la hoja.</translation>
+    </message>
+    <message>
+        <source>%1 is not printed.</source>
+        <translation>%1 no se ha imprimido.</translation>
+    </message>
+    <message>
+        <source>The sheet stays.</source>
+        <translation>La hoja se conserva.</translation>
+    </message>
+    <message>
+        <source>%1 is printed.</source>
+        <translation>%1 se ha imprimido.</translation>
+    </message>
+    <message>
+        <source>%1 is not printed; it waits among the sheets of the Print page.</source>
+        <translation>%1 no se ha imprimido; la hoja espera en la página Imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 is sent to %2.</source>
+        <translation>%1 se ha enviado a %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>The printer to print on</source>
+        <translation>La impresora en que se imprime</translation>
+    </message>
+    <message>
+        <source>Looking for printers...</source>
+        <translation>Buscando impresoras...</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>How often the sheet is printed</source>
+        <translation>Cuántas veces se imprime la hoja</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>The print page: where the picture lies on the sheet, and how often</source>
+        <translation>La página de impresión: dónde va la imagen en la hoja y cuántas veces</translation>
+    </message>
+    <message>
+        <source>Only the picture, at its own size</source>
+        <translation>Solo la imagen, a su propio tamaño</translation>
+    </message>
+    <message>
+        <source>The sheet is the picture itself, without a page</source>
+        <translation>La hoja es la propia imagen, sin página de impresión</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Diseño de página</translation>
+    </message>
+    <message>
+        <source>Chooses the paper to print on and how it lies</source>
+        <translation>Elige el papel en que se imprime y su orientación</translation>
+    </message>
+    <message>
+        <source>Page Layout...</source>
+        <translation>Diseño de página...</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture that has not the shape of its place on the page</source>
+        <translation>Qué ocurre con una imagen que no tiene la forma de su lugar en la página</translation>
+    </message>
+    <message>
+        <source>Stretched to its place</source>
+        <translation>Estirada hasta su lugar</translation>
+    </message>
+    <message>
+        <source>Cut to fill its place</source>
+        <translation>Recortada para llenar su lugar</translation>
+    </message>
+    <message>
+        <source>Whole, with grey sides</source>
+        <translation>Entera, con lados grises</translation>
+    </message>
+    <message>
+        <source>Cut marks</source>
+        <translation>Marcas de corte</translation>
+    </message>
+    <message>
+        <source>Thin lines beside the pictures&apos; corners, to cut along</source>
+        <translation>Líneas finas junto a las esquinas de las imágenes, para cortar</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>Reflejada</translation>
+    </message>
+    <message>
+        <source>Left and right exchanged, for transfer paper that is ironed on</source>
+        <translation>Izquierda y derecha intercambiadas, para papel de transferencia que se plancha</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Leyenda</translation>
+    </message>
+    <message>
+        <source>A line beside the pictures, where the page has room. &lt;&lt;filename&gt;&gt;, &lt;&lt;filenumber&gt;&gt;, &lt;&lt;date&gt;&gt; and &lt;&lt;time&gt;&gt; are replaced</source>
+        <translation>Una línea junto a las imágenes, donde la página tenga sitio. &lt;&lt;filename&gt;&gt;, &lt;&lt;filenumber&gt;&gt;, &lt;&lt;date&gt;&gt; y &lt;&lt;time&gt;&gt; se sustituyen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Perfil de color</translation>
+    </message>
+    <message>
+        <source>The ICC profile of the printer and its paper; without one the printer gets sRGB</source>
+        <translation>El perfil ICC de la impresora y su papel; sin él, la impresora recibe sRGB</translation>
+    </message>
+    <message>
+        <source>Choose the colour profile</source>
+        <translation>Elegir el perfil de color</translation>
+    </message>
+    <message>
+        <source>Chooses the ICC profile of the printer and its paper</source>
+        <translation>Elige el perfil ICC de la impresora y su papel</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Take no colour profile</source>
+        <translation>No usar perfil de color</translation>
+    </message>
+    <message>
+        <source>Takes no colour profile</source>
+        <translation>No usa perfil de color</translation>
+    </message>
+    <message>
+        <source>Intent</source>
+        <translation>Propósito</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer does not have</source>
+        <translation>Qué ocurre con los colores que la impresora no tiene</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perceptual</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Colorimétrico relativo</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Colorimétrico absoluto</translation>
+    </message>
+    <message>
+        <source>Makes the sheet and sends it to the printer</source>
+        <translation>Crea la hoja y la envía a la impresora</translation>
+    </message>
+    <message>
+        <source>Save as PDF...</source>
+        <translation>Guardar como PDF...</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Guardar como PDF</translation>
+    </message>
+    <message>
+        <source>Saves the sheet on its paper as a file, with all pixels of the picture</source>
+        <translation>Guarda la hoja sobre su papel en un archivo, con todos los píxeles de la imagen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Prints nothing</source>
+        <translation>No imprime nada</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>No printers</source>
+        <translation>Sin impresoras</translation>
+    </message>
+    <message>
+        <source>There are no printers on this machine. Add one in the desktop&apos;s settings, or save the sheet as a PDF.</source>
+        <translation>No hay impresoras en este equipo. Añada una en los ajustes del escritorio o guarde la hoja como PDF.</translation>
+    </message>
+    <message>
+        <source>%1, on its side</source>
+        <translation>%1, horizontal</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the paper; what stands over is cut off.</source>
+        <translation>La hoja es mayor que el papel; lo que sobresale se corta.</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the paper as it lies; turn the paper in Page Layout.</source>
+        <translation>La hoja es mayor que el papel tal como está; gire el papel en Diseño de página.</translation>
+    </message>
+    <message>
+        <source>This page has no room for a caption; it is left out.</source>
+        <translation>Esta página no tiene sitio para una leyenda; se omite.</translation>
+    </message>
+    <message>
+        <source>Select the Colour Profile</source>
+        <translation>Seleccionar el perfil de color</translation>
+    </message>
+    <message>
+        <source>Colour profiles (*.icc *.icm)</source>
+        <translation>Perfiles de color (*.icc *.icm)</translation>
+    </message>
+    <message>
+        <source>This page has no place for a picture.</source>
+        <translation>Esta página no tiene lugar para una imagen.</translation>
     </message>
 </context>
 <context>
@@ -5405,6 +5742,14 @@ o ábralos desde el menú Archivo.</translation>
         <source>Delete place on the page</source>
         <translation>Eliminar lugar de la página</translation>
     </message>
+    <message>
+        <source>Print...</source>
+        <translation>Imprimir...</translation>
+    </message>
+    <message>
+        <source>Prints the picture on this page</source>
+        <translation>Imprime la imagen en esta página</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::TextPage</name>
@@ -5552,6 +5897,77 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::WaitingSheets</name>
+    <message>
+        <source>waits</source>
+        <translation>espera</translation>
+    </message>
+    <message>
+        <source>is being sent</source>
+        <translation>se está enviando</translation>
+    </message>
+    <message>
+        <source>at the printer</source>
+        <translation>en la impresora</translation>
+    </message>
+    <message>
+        <source>may have been printed</source>
+        <translation>quizá ya impresa</translation>
+    </message>
+    <message>
+        <source>Sheets that are not printed yet</source>
+        <translation>Hojas que aún no se han imprimido</translation>
+    </message>
+    <message>
+        <source>Sheets on their way to a printer, and those that could not be printed</source>
+        <translation>Hojas en camino a una impresora y las que no se pudieron imprimir</translation>
+    </message>
+    <message>
+        <source>Each sheet with its printer and how it stands; rest on one to read why</source>
+        <translation>Cada hoja con su impresora y su estado; deténgase en una para leer el motivo</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Hoja</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Send Again</source>
+        <translation>Enviar de nuevo</translation>
+    </message>
+    <message>
+        <source>Sends the selected sheet to its printer once more</source>
+        <translation>Envía de nuevo la hoja seleccionada a su impresora</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Forgets the selected sheet; it is not printed</source>
+        <translation>Olvida la hoja seleccionada; no se imprime</translation>
+    </message>
+    <message>
+        <source>This sheet may have been printed already. Print it once more?</source>
+        <translation>Es posible que esta hoja ya se haya imprimido. ¿Imprimirla de nuevo?</translation>
+    </message>
+    <message>
+        <source>Print Once More</source>
+        <translation>Imprimir de nuevo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>

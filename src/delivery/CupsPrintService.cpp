@@ -19,7 +19,9 @@ class Connection {
   public:
     Connection()
         : http_(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kConnectMs, nullptr)) {
-        if (http_) httpSetTimeout(http_, kAnswerSeconds, [](http_t*, void*) { return 0; }, nullptr);
+        if (http_)
+            httpSetTimeout(
+                http_, kAnswerSeconds, [](http_t*, void*) { return 0; }, nullptr);
     }
     ~Connection() { httpClose(http_); }
     Connection(const Connection&) = delete;
@@ -32,8 +34,7 @@ class Connection {
     http_t* http_;
 };
 
-constexpr const char* kNoAnswer =
-    "The printing system (CUPS) does not answer; see that it runs.";
+constexpr const char* kNoAnswer = "The printing system (CUPS) does not answer; see that it runs.";
 
 /// What the library says about the last call, as one plain line.
 std::string lastProblem(const std::string& what) {
@@ -172,9 +173,9 @@ class CupsPrintService : public PrintService {
         for (const Printer& one : list.printers)
             names.push_back(one.name);
         const std::string nearest = nearestName(name, names);
-        return {"", "", false, "",
-                "There is no printer \"" + name + "\"" +
-                    (nearest.empty() ? "." : "; did you mean \"" + nearest + "\"?")};
+        return {
+            "", "", false, "",
+            "There is no printer \"" + name + "\"" + (nearest.empty() ? "." : "; did you mean \"" + nearest + "\"?")};
     }
 
     PrinterPapers papers(const std::string& name) override {
@@ -209,8 +210,8 @@ class CupsPrintService : public PrintService {
         int count = cupsAddOption("print-scaling", "none", 0, &options);
         if (!media.empty()) count = cupsAddOption("media", media.c_str(), count, &options);
         int id = 0;
-        const ipp_status_t status = cupsCreateDestJob(connection.get(), dest.dest(), dest.info(), &id,
-                                                      job.title.c_str(), count, options);
+        const ipp_status_t status =
+            cupsCreateDestJob(connection.get(), dest.dest(), dest.info(), &id, job.title.c_str(), count, options);
         cupsFreeOptions(count, options);
         if (status <= IPP_STATUS_OK_EVENTS_COMPLETE && id > 0) return {id, ""};
         return {0, lastProblem("The printer \"" + job.printer + "\" does not take the sheet")};
@@ -249,7 +250,8 @@ class CupsPrintService : public PrintService {
         ipp_t* response = cupsDoRequest(connection.get(), request, "/");
         const ipp_status_t status = cupsLastError();
         JobNews told;
-        if (status == IPP_STATUS_ERROR_NOT_FOUND || status == IPP_STATUS_ERROR_GONE) told.state = JobNews::State::unknown;
+        if (status == IPP_STATUS_ERROR_NOT_FOUND || status == IPP_STATUS_ERROR_GONE)
+            told.state = JobNews::State::unknown;
         if (response && status <= IPP_STATUS_OK_EVENTS_COMPLETE) told = newsOf(response);
         // A printing system that was set up anew counts from the beginning.
         ipp_attribute_t* name = response ? ippFindAttribute(response, "job-name", IPP_TAG_ZERO) : nullptr;

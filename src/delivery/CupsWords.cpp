@@ -58,7 +58,8 @@ std::string wordsOf(const std::string& keywords, bool warnings) {
 
 std::string troubleIn(const std::string& message) {
     // How the programs that speak to printers begin such lines.
-    for (const char* beginning : {"The printer ", "Unable to ", "Network host ", "Could not ", "Destination ", "No "}) {
+    for (const char* beginning :
+         {"The printer ", "Unable to ", "Network host ", "Could not ", "Destination ", "No "}) {
         if (message.starts_with(beginning)) return message;
     }
     return "";

@@ -4,8 +4,9 @@ namespace tavrin {
 
 namespace {
 
-constexpr const char* kNone = "This program was built without a printing system, so there are no printers; a sheet "
-                              "can be saved as a PDF and printed from there.";
+constexpr const char* kNone =
+    "This program was built without a printing system, so there are no printers; a sheet "
+    "can be saved as a PDF and printed from there.";
 
 class NoPrintService : public PrintService {
   public:

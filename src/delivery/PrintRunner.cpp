@@ -135,8 +135,7 @@ std::string PrintRunner::discard(const std::string& id) {
     if (!hold) return kBusy;
     QueuedSheet sheet = queue_.sheet(id);
     if (sheet.id.empty()) return "";
-    if (!takeBack(sheet) && !sheet.id.empty())
-        return printerOf(sheet) + " has the sheet and does not give it back.";
+    if (!takeBack(sheet) && !sheet.id.empty()) return printerOf(sheet) + " has the sheet and does not give it back.";
     queue_.remove(id);
     return "";
 }

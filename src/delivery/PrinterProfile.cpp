@@ -29,8 +29,7 @@ std::string whyUnfit(cmsHPROFILE profile, cmsUInt32Number intent) {
         return "it is for a printer that takes four inks, and sheets are sent in red, green and blue; take the "
                "printer's RGB profile";
     if (cmsGetColorSpace(profile) != cmsSigRgbData) return "it is not for red, green and blue";
-    if (!cmsIsIntentSupported(profile, intent, LCMS_USED_AS_OUTPUT) &&
-        !cmsIsMatrixShaper(profile))
+    if (!cmsIsIntentSupported(profile, intent, LCMS_USED_AS_OUTPUT) && !cmsIsMatrixShaper(profile))
         return "it does not tell how to print";
     return "";
 }

@@ -21,9 +21,9 @@ enum class SlotFit {
 /// What a sheet may have beyond its pictures.
 struct SheetLook {
     SlotFit fit = SlotFit::stretch;
-    bool cutMarks = false;  ///< thin lines that run on from the slots' edges, outside them
-    bool mirrored = false;  ///< left and right exchanged, for paper whose picture is ironed on
-    std::string caption;    ///< a line beside the pictures, with the macros of a text item; "" for none
+    bool cutMarks = false;     ///< thin lines that run on from the slots' edges, outside them
+    bool mirrored = false;     ///< left and right exchanged, for paper whose picture is ironed on
+    std::string caption = {};  ///< a line beside the pictures, with the macros of a text item; "" for none
 };
 
 /// Where one slot of a print page lies on the sheet.

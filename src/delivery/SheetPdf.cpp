@@ -132,8 +132,8 @@ std::string SheetPdf::drawSlots(const SheetPicture& picture, const std::vector<S
         if (slot.turned) drawn += "0 -1 1 0 0 0 cm\n";
         drawn += text(QRectF(QPointF(), frame)) + "re W n\n";
         drawn += text(across * size.width()) + "0 0 " + text(down * size.height()) +
-                 text(place.x() - across * part.x()) +
-                 text(place.y() - down * (size.height() - part.bottom())) + "cm /Picture Do Q\n";
+                 text(place.x() - across * part.x()) + text(place.y() - down * (size.height() - part.bottom())) +
+                 "cm /Picture Do Q\n";
     }
     return drawn;
 }

@@ -24,10 +24,10 @@ struct SheetPlan {
 
 /// A picture for the slots of a sheet.
 struct SheetPicture {
-    QImage pixels;           ///< opaque, or RGBA with premultiplied alpha
-    std::string jpeg;        ///< the same as a file (`plainJpeg`), if there is one
-    std::string name;        ///< its file, for the caption
-    double proportion = 0;   ///< width by height, by which it is turned; 0: its own
+    QImage pixels;          ///< opaque, or RGBA with premultiplied alpha
+    std::string jpeg = {};  ///< the same as a file (`plainJpeg`), if there is one
+    std::string name = {};  ///< its file, for the caption
+    double proportion = 0;  ///< width by height, by which it is turned; 0: its own
 
     double shape() const {
         return proportion > 0 ? proportion : static_cast<double>(pixels.width()) / pixels.height();
@@ -38,7 +38,8 @@ struct SheetPicture {
 /// @return "" or one plain line
 std::string readForSheet(const std::string& path, SheetPicture& picture);
 
-/// A PDF of sheets, one a page: of the true size, and every picture in it once with all its pixels, kept without loss.
+/// A PDF of sheets, one a page: of the true size, and every picture in it once with all its pixels, kept without
+/// loss.
 class SheetPdf {
   public:
     /// @param path the file, which appears with `commit`
@@ -64,6 +65,7 @@ class SheetPdf {
 
 /// Writes one PDF with a sheet for each picture file. When one of them cannot be read nothing is written.
 /// @return "" or one plain line
-std::string writeSheetsAsPdf(const SheetPlan& plan, const std::vector<std::string>& pictures, const std::string& path);
+std::string writeSheetsAsPdf(const SheetPlan& plan, const std::vector<std::string>& pictures,
+                             const std::string& path);
 
 }  // namespace tavrin

@@ -134,8 +134,8 @@ class Test:
 
     def killed(self):
         """Killed at many places between the first sheet that is sent and the last."""
-        for round_number, pause in enumerate((0.0, 0.03, 0.07, 0.11, 0.16)):
-            before, copies = len(self.printer.prints()), 6
+        for round_number, pause in enumerate((0.0, 0.05, 0.12)):
+            before, copies = len(self.printer.prints()), 4
             running = subprocess.Popen(
                 [self.cli, "print", str(self.picture), "--page", PAGE, "--printer", "studio", "--copies", str(copies)],
                 env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)

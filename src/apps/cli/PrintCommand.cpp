@@ -79,8 +79,8 @@ int printToFile(SystemInfo& info, const PrintOptions& options) {
         complain(refusal.line);
         return refusal.code;
     }
-    const std::string problem = options.isPdf() ? writeSheetsAsPdf(plan, options.files, options.to)
-                                                : printAsPicture(info, options, plan);
+    const std::string problem =
+        options.isPdf() ? writeSheetsAsPdf(plan, options.files, options.to) : printAsPicture(info, options, plan);
     if (!problem.empty()) {
         complain(problem);
         return kFailed;

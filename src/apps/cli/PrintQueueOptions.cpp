@@ -21,10 +21,9 @@ int listPrinters(PrintService& service) {
         return kFailed;
     }
     for (const Printer& printer : list.printers)
-        printLine(printer.name + (printer.isDefault ? " (usual)" : "") + ": " + printer.state +
-                  (printer.description.empty() || printer.description == printer.name
-                       ? ""
-                       : ", " + printer.description));
+        printLine(
+            printer.name + (printer.isDefault ? " (usual)" : "") + ": " + printer.state +
+            (printer.description.empty() || printer.description == printer.name ? "" : ", " + printer.description));
     return kDone;
 }
 

@@ -62,8 +62,7 @@ std::string chooseProfile(const PrinterOptions& options, SheetPlan& plan) {
     const char* intents[] = {"perceptual", "relative", "saturation", "absolute"};
     const auto intent = std::ranges::find(intents, options.intent, [](const char* one) { return std::string(one); });
     std::string problem;
-    plan.profile =
-        PrinterProfile::load(options.profile, static_cast<Intent>(intent - std::begin(intents)), problem);
+    plan.profile = PrinterProfile::load(options.profile, static_cast<Intent>(intent - std::begin(intents)), problem);
     return problem;
 }
 

@@ -37,6 +37,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       heldLoop_(new HeldLoop(*loop_, this)),
       sizes_(new SizesPanel(editor_, *heldLoop_)),
       templates_(new TemplatesPanel(editor_, *heldLoop_, [this] { return view_->fullPicture(); })),
+      printing_(new PrintDesk(this)),
       batch_(new BatchPage(binder_)),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
@@ -57,6 +58,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectSettings();
     connectLists();
     connectBatch();
+    connectPrinting();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
 }

@@ -20,6 +20,7 @@
 #include "ui/look/LooksPanel.h"
 #include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
+#include "ui/print/PrintDesk.h"
 #include "ui/settings/SettingsPage.h"
 #include "ui/sizes/SizesPanel.h"
 #include "ui/sizes/TemplatesPanel.h"
@@ -88,6 +89,7 @@ class MainWindow : public QMainWindow {
     Airbrush* airbrush() const { return airbrush_; }
     Strip* strip() const { return strip_; }
     BatchPage* batch() const { return batch_; }
+    PrintDesk* printing() const { return printing_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
@@ -109,6 +111,7 @@ class MainWindow : public QMainWindow {
     friend std::vector<Command> commandTable(MainWindow& window);
     friend std::vector<Command> stripCommands(MainWindow& window);
     friend std::vector<Command> fileCommands(MainWindow& window);
+    friend std::vector<Command> printCommands(MainWindow& window);
 
     void layOut();
     void makeToolBar();
@@ -123,6 +126,10 @@ class MainWindow : public QMainWindow {
     void connectSettings();
     void connectLists();
     void connectBatch();
+    void connectPrinting();
+    void printImage();
+    void runPageLayout();
+    void takeForSheet(std::function<void(const SheetPicture&)> take);
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
@@ -182,6 +189,7 @@ class MainWindow : public QMainWindow {
     HeldLoop* heldLoop_;
     SizesPanel* sizes_;
     TemplatesPanel* templates_;
+    PrintDesk* printing_;
     BatchPage* batch_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
@@ -206,6 +214,8 @@ class MainWindow : public QMainWindow {
 std::vector<Command> commandTable(MainWindow& window);
 /// The overlays, and what opening a picture resets.
 std::vector<Command> fileCommands(MainWindow& window);
+/// Printing.
+std::vector<Command> printCommands(MainWindow& window);
 /// What the strip below the picture adds to it.
 std::vector<Command> stripCommands(MainWindow& window);
 

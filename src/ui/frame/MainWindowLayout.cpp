@@ -18,7 +18,7 @@
 #include "ui/frame/PictureCommands.h"
 #include "ui/frame/ViewBar.h"
 #include "ui/frame/WorkBar.h"
-#include "ui/sizes/PrintPage.h"
+#include "ui/print/PrintPage.h"
 
 namespace tavrin {
 
@@ -33,7 +33,7 @@ void MainWindow::layOut() {
     settings_->addSizes(sizes_);
     panel_->addPage(settings_);
     panel_->addPage(airbrush_->page());
-    panel_->addPage(new PrintPage(binder_, templates_));
+    panel_->addPage(new PrintPage(binder_, templates_, new WaitingSheets(*printing_)));
     panel_->addPage(batch_);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
     tabifyDockWidget(panel_, history_);
@@ -45,6 +45,7 @@ void MainWindow::layOut() {
     std::ranges::move(editorCommands(*airbrush_), std::back_inserter(table));
     std::ranges::move(stripCommands(*this), std::back_inserter(table));
     std::ranges::move(fileCommands(*this), std::back_inserter(table));
+    std::ranges::move(printCommands(*this), std::back_inserter(table));
     std::ranges::move(pageCommands(*panel_), std::back_inserter(table));
     std::vector<Command> effects = effectCommands(*panel_->effects());
     const auto help =
@@ -85,7 +86,8 @@ void MainWindow::makeToolBar() {
     label->setBuddy(sizeBox_);
     bar->addWidget(label);
     bar->addWidget(sizeBox_);
-    bar->addWidget(buttonOf(commands_->action("Save"), bar, Qt::ToolButtonTextOnly));
+    for (const char* id : {"Save", "mainButtonPrint"})
+        bar->addWidget(buttonOf(commands_->action(id), bar, Qt::ToolButtonTextOnly));
 }
 
 void MainWindow::makeStatusLine() {
