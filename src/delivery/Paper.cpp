@@ -34,7 +34,8 @@ std::optional<Paper> measured(const QString& text) {
     const double width = match.captured(1).toDouble() * points, height = match.captured(2).toDouble() * points;
     constexpr double kLeast = 36.0, kMost = 14400.0;  // half an inch, and the largest page of a PDF
     if (width < kLeast || height < kLeast || width > kMost || height > kMost) return {};
-    return Paper{width, height, paperName(width, height)};
+    return Paper{width, height,
+                 (match.captured(1) + 'x' + match.captured(2) + (unit.isEmpty() ? "in" : unit)).toStdString()};
 }
 
 }  // namespace
@@ -73,7 +74,8 @@ std::optional<Paper> paperOf(const std::string& text) {
 std::string paperName(double width, double height) {
     const QSizeF size(std::min(width, height), std::max(width, height));
     const QPageSize::PageSizeId id = QPageSize::id(size, QPageSize::Point, QPageSize::FuzzyMatch);
-    if (id != QPageSize::Custom) return QPageSize::key(id).toStdString();
+    const QString key = QPageSize::key(id);
+    if (id != QPageSize::Custom && !key.startsWith("Imperial")) return key.toStdString();  // which say their inches
     return QString("%1x%2in").arg(width / kPoints, 0, 'g', 4).arg(height / kPoints, 0, 'g', 4).toStdString();
 }
 
@@ -87,11 +89,8 @@ std::vector<Paper> usualPapers() {
     for (const auto id : {QPageSize::A4, QPageSize::A3, QPageSize::A5, QPageSize::A6, QPageSize::Letter,
                           QPageSize::Legal, QPageSize::Tabloid})
         papers.push_back(paperOf(id));
-    for (const char* photo : {"4x6", "5x7", "8x10", "10x15cm", "13x18cm"}) {
-        Paper paper = *measured(photo);
-        paper.name = photo;
-        papers.push_back(paper);
-    }
+    for (const char* photo : {"4x6in", "5x7in", "8x10in", "10x15cm", "13x18cm"})
+        papers.push_back(*measured(photo));
     return papers;
 }
 

@@ -5,6 +5,21 @@
 
 namespace tavrin {
 
+namespace {
+
+/// What a printer shows of a sheet: one line of whole letters, no longer than printers take it.
+std::string titleOf(const std::string& picture, const std::string& page) {
+    const std::string file = std::filesystem::path(picture).filename().string();
+    const std::string whole = file + (file.empty() ? "" : ", ") + page;
+    constexpr qsizetype kLetters = 80, kBytes = 250;
+    QString title = QString::fromUtf8(QByteArray::fromStdString(whole)).simplified().left(kLetters);
+    while (title.toUtf8().size() > kBytes)
+        title.chop(1);
+    return title.toStdString();
+}
+
+}  // namespace
+
 int copiesToPrint(SystemInfo& info) {
     if (info.iEventPrintCount < 1) info.iEventPrintCount = 1;
     return info.iEventPrintCount;
@@ -21,9 +36,7 @@ std::string queueSheets(PrintQueue& queue, const PrintOrder& order, const SheetP
     QueuedSheet queued;
     queued.picture = picture.name;
     queued.page = order.plan.page.sPageTitle;
-    const std::string file = std::filesystem::path(picture.name).filename().string();
-    queued.job = {order.printer, file + (file.empty() ? "" : ", ") + queued.page,
-                  order.plan.paper.value_or(usualPaper())};
+    queued.job = {order.printer, titleOf(picture.name, queued.page), order.plan.paper.value_or(usualPaper())};
     std::vector<std::string> added;
     for (int copy = 0; copy < order.copies && problem.empty(); ++copy) {
         problem = queue.add(queued, document);

@@ -141,6 +141,9 @@ void addPrinterOptions(CLI::App& command, PrinterOptions& options, const char* p
         .add_option("--wait", options.wait,
                     "Seconds to wait until the sheets are printed; without it they are only handed over")
         ->check(within(0.0, 86400.0));
+    for (const char* name : {"--page", printer, "--copies", "--paper", "--landscape", "--fit", "--cut-marks",
+                             "--mirrored", "--caption", "--profile", "--intent", "--wait"})
+        command.get_option(name)->group("Printing");
 }
 
 Refusal planSheets(const SystemInfo& info, const PrinterOptions& options, PrintService* service, SheetPlan& plan) {

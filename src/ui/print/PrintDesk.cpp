@@ -123,6 +123,7 @@ void PrintDesk::discard(const std::string& id) {
 
 void PrintDesk::followUp() {
     run([this](Tools& tools) -> Told {
+        tools.queue.removeLeftDocuments();
         const std::vector<QueuedSheet> sheets = PrintRunner(tools.queue, *tools.service).followUp();
         return [this, sheets] { take(sheets); };
     });
