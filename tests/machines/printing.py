@@ -152,6 +152,7 @@ class Printing:
              str(self.folder / "etc/cups-files.conf")], stdout=subprocess.DEVNULL,
             stderr=open(self.folder / "cupsd.log", "a"), start_new_session=True)
         if not wait_for("the printing system", 10, lambda: answers(self.port)):
+            self.end()
             skip(f"no printing system can be started: {self.errors()}")
 
     def errors(self):
