@@ -5946,20 +5946,8 @@ oder beide im Menü Datei öffnen.</translation>
         <translation>Noch einmal senden</translation>
     </message>
     <message>
-        <source>Sends the selected sheet to its printer once more</source>
-        <translation>Sendet den gewählten Bogen noch einmal an seinen Drucker</translation>
-    </message>
-    <message>
         <source>Discard</source>
         <translation>Verwerfen</translation>
-    </message>
-    <message>
-        <source>Forgets the selected sheet; it is not printed</source>
-        <translation>Verwirft den gewählten Bogen; er wird nicht gedruckt</translation>
-    </message>
-    <message>
-        <source>This sheet may have been printed already. Print it once more?</source>
-        <translation>Dieser Bogen ist vielleicht schon gedruckt. Noch einmal drucken?</translation>
     </message>
     <message>
         <source>Print Once More</source>
@@ -5968,6 +5956,18 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Sends the selected sheets to their printers once more</source>
+        <translation>Sendet die ausgewählten Bögen noch einmal an ihre Drucker</translation>
+    </message>
+    <message>
+        <source>Forgets the selected sheets; they are not printed</source>
+        <translation>Verwirft die ausgewählten Bögen; sie werden nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>What is selected may have been printed already. Print it once more?</source>
+        <translation>Was ausgewählt ist, wurde vielleicht schon gedruckt. Noch einmal drucken?</translation>
     </message>
 </context>
 <context>

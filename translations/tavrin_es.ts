@@ -5946,20 +5946,8 @@ o ábralos desde el menú Archivo.</translation>
         <translation>Enviar de nuevo</translation>
     </message>
     <message>
-        <source>Sends the selected sheet to its printer once more</source>
-        <translation>Envía de nuevo la hoja seleccionada a su impresora</translation>
-    </message>
-    <message>
         <source>Discard</source>
         <translation>Descartar</translation>
-    </message>
-    <message>
-        <source>Forgets the selected sheet; it is not printed</source>
-        <translation>Olvida la hoja seleccionada; no se imprime</translation>
-    </message>
-    <message>
-        <source>This sheet may have been printed already. Print it once more?</source>
-        <translation>Es posible que esta hoja ya se haya imprimido. ¿Imprimirla de nuevo?</translation>
     </message>
     <message>
         <source>Print Once More</source>
@@ -5968,6 +5956,18 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Sends the selected sheets to their printers once more</source>
+        <translation>Envía de nuevo las hojas seleccionadas a sus impresoras</translation>
+    </message>
+    <message>
+        <source>Forgets the selected sheets; they are not printed</source>
+        <translation>Olvida las hojas seleccionadas; no se imprimen</translation>
+    </message>
+    <message>
+        <source>What is selected may have been printed already. Print it once more?</source>
+        <translation>Es posible que lo seleccionado ya se haya imprimido. ¿Imprimirlo de nuevo?</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,11 @@ Paper paperOf(const cups_size_t& size) {
     return {width, height, paperName(width, height)};
 }
 
+std::string withoutStop(std::string line) {
+    if (line.ends_with('.')) line.pop_back();
+    return line;
+}
+
 JobNews newsOf(ipp_t* response) {
     const auto number = [response](const char* name) {
         ipp_attribute_t* attribute = ippFindAttribute(response, name, IPP_TAG_ZERO);
@@ -141,11 +146,11 @@ JobNews newsOf(ipp_t* response) {
     using State = JobNews::State;
     if (state == IPP_JSTATE_COMPLETED) return {State::printed, ""};
     if (state == IPP_JSTATE_CANCELED) return {State::givenUp, "it was cancelled"};
-    if (state == IPP_JSTATE_ABORTED) return {State::givenUp, message ? message : ""};
+    if (state == IPP_JSTATE_ABORTED) return {State::givenUp, withoutStop(message ? message : "")};
     if (number("number-of-documents") < 1) return {State::empty, ""};
     std::string words = wordsOf(reasons, true);
     if (words.empty() && message) words = troubleIn(message);
-    if (words.ends_with('.')) words.pop_back();
+    words = withoutStop(words);
     if (state == IPP_JSTATE_PROCESSING) return {State::printing, words};
     return {State::waiting, words};
 }

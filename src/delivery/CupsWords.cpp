@@ -10,7 +10,7 @@ namespace tavrin {
 namespace {
 
 /// By the beginning of the keyword, since makers add to its end.
-constexpr std::array<std::pair<std::string_view, const char*>, 21> kWords{{
+constexpr std::array<std::pair<std::string_view, const char*>, 22> kWords{{
     {"media-empty", "out of paper"},
     {"media-needed", "out of paper"},
     {"media-jam", "a paper jam"},
@@ -31,6 +31,7 @@ constexpr std::array<std::pair<std::string_view, const char*>, 21> kWords{{
     {"moving-to-paused", "stopped"},
     {"printer-stopped", "stopped"},
     {"stopped-partly", "partly stopped"},
+    {"job-hold-until", "held back"},
     {"cups-missing-filter", "its driver is incomplete"},
 }};
 

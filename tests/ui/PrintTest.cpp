@@ -168,8 +168,10 @@ TEST_F(PrintTest, WhatMayHaveBeenPrintedIsSentAgainOnlyWhenAPersonSaysSo) {
 TEST_F(PrintTest, WithoutPrintersTheSheetCanStillBeSavedAndASheetIsDiscarded) {
     set([&] { room_.trouble = "It is stopped."; });
     openDialog();
+    part<QSpinBox>("printCopies")->setValue(3);
     press("PrintTemplate");
-    ASSERT_TRUE(waits(1));
+    ASSERT_TRUE(waits(3));
+    part<QTableWidget>("waitingSheets")->selectAll();
     press("discardSheet");
     EXPECT_TRUE(waits(0));
     set([&] { room_.answers = false; });

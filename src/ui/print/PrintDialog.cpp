@@ -237,6 +237,7 @@ void PrintDialog::updatePrinterTemplateCombobox() {
     for (const PrinterPage& page : info_.oPrinterPages)
         page_->addItem(QString::fromStdString(page.sPageTitle));
     const int index = page_->findText(QString::fromStdString(info_.oQLXInfo->sSelectedPrinterTemplate));
+    info_.oQLXInfo->iSelectedPrinterTemplate = std::max(0, index);
     page_->setCurrentIndex(std::max(0, index));
 }
 

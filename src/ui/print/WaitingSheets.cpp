@@ -1,5 +1,8 @@
 #include "ui/print/WaitingSheets.h"
 
+#include <algorithm>
+#include <set>
+
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMessageBox>
@@ -41,7 +44,7 @@ WaitingSheets::WaitingSheets(PrintDesk& desk, QWidget* parent)
     table_->setToolTip(tr("Each sheet with its printer and how it stands; rest on one to read why"));
     table_->setHorizontalHeaderLabels({tr("Sheet"), tr("Printer"), tr("State")});
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setSelectionMode(QAbstractItemView::SingleSelection);
+    table_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setTabKeyNavigation(false);
     table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
@@ -52,9 +55,9 @@ WaitingSheets::WaitingSheets(PrintDesk& desk, QWidget* parent)
     column->addWidget(table_);
     auto* line = new QHBoxLayout;
     column->addLayout(line);
-    again_ = addButton("sendSheetAgain", tr("Send Again"), tr("Sends the selected sheet to its printer once more"),
-                       &WaitingSheets::sendAgain);
-    discard_ = addButton("discardSheet", tr("Discard"), tr("Forgets the selected sheet; it is not printed"),
+    again_ = addButton("sendSheetAgain", tr("Send Again"),
+                       tr("Sends the selected sheets to their printers once more"), &WaitingSheets::sendAgain);
+    discard_ = addButton("discardSheet", tr("Discard"), tr("Forgets the selected sheets; they are not printed"),
                          &WaitingSheets::discard);
     for (QToolButton* button : {again_, discard_})
         line->addWidget(button);
@@ -78,9 +81,12 @@ QToolButton* WaitingSheets::addButton(const char* name, const QString& text, con
 }
 
 void WaitingSheets::show() {
-    const QueuedSheet* before = selected();
-    const std::string kept = before ? before->id : "";
+    std::set<std::string> kept;
+    for (const QueuedSheet& sheet : selected())
+        kept.insert(sheet.id);
     const auto& sheets = desk_.sheets();
+    const QSignalBlocker quiet(table_);
+    table_->clearSelection();
     table_->setRowCount(static_cast<int>(sheets.size()));
     for (int row = 0; row < table_->rowCount(); ++row) {
         const QueuedSheet& sheet = sheets[static_cast<std::size_t>(row)];
@@ -92,51 +98,56 @@ void WaitingSheets::show() {
             item->setToolTip(texts[i]);
             item->setData(Qt::UserRole, QString::fromStdString(sheet.id));
             table_->setItem(row, i, item);
+            item->setSelected(kept.contains(sheet.id) || sheets.size() == 1);
         }
-        if (sheet.id == kept) table_->selectRow(row);
     }
-    if (table_->rowCount() == 1) table_->selectRow(0);
     showButtons();
 }
 
-const QueuedSheet* WaitingSheets::selected() const {
-    const QList<QTableWidgetItem*> items = table_->selectedItems();
-    if (items.isEmpty()) return nullptr;
-    const std::string id = items.first()->data(Qt::UserRole).toString().toStdString();
-    for (const QueuedSheet& sheet : desk_.sheets()) {
-        if (sheet.id == id) return &sheet;
-    }
-    return nullptr;
+std::vector<QueuedSheet> WaitingSheets::selected() const {
+    std::set<std::string> ids;
+    for (const QTableWidgetItem* item : table_->selectedItems())
+        ids.insert(item->data(Qt::UserRole).toString().toStdString());
+    std::vector<QueuedSheet> sheets = desk_.sheets();
+    std::erase_if(sheets, [&ids](const QueuedSheet& sheet) { return !ids.contains(sheet.id); });
+    return sheets;
 }
 
 void WaitingSheets::showButtons() {
-    const QueuedSheet* sheet = selected();
+    const std::vector<QueuedSheet> sheets = selected();
+    const bool isFree = std::ranges::none_of(sheets, [](const auto& sheet) { return sheet.stage == Stage::sending; });
     for (QToolButton* button : {again_, discard_})
-        button->setEnabled(sheet && sheet->stage != Stage::sending);
+        button->setEnabled(!sheets.empty() && isFree);
 }
 
 /// What may have been printed is never sent without a word.
 void WaitingSheets::sendAgain() {
-    const QueuedSheet* sheet = selected();
-    if (!sheet) return;
-    const std::string id = sheet->id;
-    if (sheet->stage != Stage::unsure) return desk_.sendAgain(id);
+    std::vector<QueuedSheet> unsure;
+    for (const QueuedSheet& sheet : selected())
+        sheet.stage == Stage::unsure ? unsure.push_back(sheet) : desk_.sendAgain(sheet.id);
+    if (!unsure.empty()) askAbout(unsure);
+}
+
+void WaitingSheets::askAbout(const std::vector<QueuedSheet>& unsure) {
     auto* box = new QMessageBox(QMessageBox::Question, "Tavrin",
-                                tr("This sheet may have been printed already. Print it once more?"),
+                                tr("What is selected may have been printed already. Print it once more?"),
                                 QMessageBox::NoButton, this);
     box->setObjectName("sendUnsureSheet");
-    box->setInformativeText(QString::fromStdString(sheet->reason));
+    box->setInformativeText(QString::fromStdString(unsure.front().reason));
     box->addButton(tr("Print Once More"), QMessageBox::AcceptRole);
     box->setDefaultButton(box->addButton(tr("Cancel"), QMessageBox::RejectRole));
     box->setAttribute(Qt::WA_DeleteOnClose);
-    connect(box, &QMessageBox::buttonClicked, this, [this, box, id](QAbstractButton* button) {
-        if (box->buttonRole(button) == QMessageBox::AcceptRole) desk_.sendAgain(id);
+    connect(box, &QMessageBox::buttonClicked, this, [this, box, unsure](QAbstractButton* button) {
+        if (box->buttonRole(button) != QMessageBox::AcceptRole) return;
+        for (const QueuedSheet& sheet : unsure)
+            desk_.sendAgain(sheet.id);
     });
     box->open();
 }
 
 void WaitingSheets::discard() {
-    if (const QueuedSheet* sheet = selected()) desk_.discard(sheet->id);
+    for (const QueuedSheet& sheet : selected())
+        desk_.discard(sheet.id);
 }
 
 }  // namespace tavrin

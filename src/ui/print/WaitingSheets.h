@@ -9,7 +9,7 @@ class QToolButton;
 
 namespace tavrin {
 
-/// The sheets that are not known to be printed, each with its reason, to be sent again or discarded.
+/// The sheets that are not known to be printed, each with its reason, to be sent again or discarded, one or several.
 class WaitingSheets : public QWidget {
     Q_OBJECT
 
@@ -21,8 +21,9 @@ class WaitingSheets : public QWidget {
                            void (WaitingSheets::*clicked)());
     void show();
     void showButtons();
-    const QueuedSheet* selected() const;
+    std::vector<QueuedSheet> selected() const;
     void sendAgain();
+    void askAbout(const std::vector<QueuedSheet>& unsure);
     void discard();
 
     PrintDesk& desk_;
