@@ -12,10 +12,16 @@ namespace {
 
 enum Marker : std::uint8_t { kStart = 0xD8, kEnd = 0xD9, kScan = 0xDA, kJfif = 0xE0, kAdobe = 0xEE, kRemark = 0xFE };
 
+/// Whole names, since there are relatives that begin alike and are linear or perceptual.
+bool isSrgbByName(const std::string& profile) {
+    return profile == "sRGB" || profile == "sRGB IEC61966-2.1" || profile == "sRGB IEC61966-2-1" ||
+           profile == "sRGB built-in";
+}
+
 bool isShownAsItStands(const PictureFacts& facts) {
     return facts.error.empty() && facts.format == "JPEG" && facts.orientation == 1 && facts.channels == 3 &&
            facts.bitsPerChannel == 8 && facts.colourSpace == "RGB" && !facts.hasAlpha &&
-           (!facts.hasProfile || facts.profileName.starts_with("sRGB"));
+           (!facts.hasProfile || isSrgbByName(facts.profileName));
 }
 
 /// A walk over the segments of a JPEG file that copies those which belong to its picture.
