@@ -23,7 +23,7 @@ class PdfFile {
     int add(const std::string& body);
     int addStream(const std::string& dictionary, const std::string& bytes);
 
-    /// @param picture opaque, 4 bytes a pixel
+    /// @param picture RGBX8888
     int addPicture(const QImage& picture);
     /// @param jpeg a file of three channels, without what is not its picture (`plainJpeg`)
     int addJpeg(const std::string& jpeg, QSize size);

@@ -30,9 +30,9 @@ std::string moved(double x, double y) {
     return "1 0 0 1 " + text(x) + text(y) + "cm\n";
 }
 
-/// Transparent parts show the sheet.
+/// Opaque, red first, four bytes a pixel. Transparent parts show the sheet.
 QImage onGround(const QImage& picture) {
-    if (!picture.hasAlphaChannel()) return picture;
+    if (!picture.hasAlphaChannel()) return picture.convertToFormat(QImage::Format_RGBX8888);
     QImage flat = picture.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
     std::uint8_t* bytes = flat.bits();
     const auto pitch = static_cast<std::ptrdiff_t>(flat.bytesPerLine());

@@ -24,7 +24,7 @@ struct SheetPlan {
 
 /// A picture for the slots of a sheet.
 struct SheetPicture {
-    QImage pixels;          ///< opaque, or RGBA with premultiplied alpha
+    QImage pixels;          ///< of any format
     std::string jpeg = {};  ///< the same as a file (`plainJpeg`), if there is one
     std::string name = {};  ///< its file, for the caption
     double proportion = 0;  ///< width by height, by which it is turned; 0: its own

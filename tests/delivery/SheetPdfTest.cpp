@@ -166,6 +166,10 @@ TEST_F(SheetPdfTest, OtherPicturesAreUnpackedToTheVeryPixels) {
     const QImage picture = test::noisePicture(37, 300, 5).convertToFormat(QImage::Format_RGBX8888);
     ASSERT_EQ(written({pageOf(100, 100, {QRect(0, 0, 100, 100)})}, {picture}), "");
     const std::string sheet = test::readFile(path_);
+    for (const auto format : {QImage::Format_RGB888, QImage::Format_RGB32, QImage::Format_ARGB32}) {
+        ASSERT_EQ(written({pageOf(100, 100, {QRect(0, 0, 100, 100)})}, {picture.convertToFormat(format)}), "");
+        EXPECT_EQ(test::readFile(path_), sheet) << format;
+    }
     const std::size_t from = sheet.find("stream\n", sheet.find("/FlateDecode")) + 7;
     std::vector<Bytef> rows(300 * (37 * 3 + 1));
     auto size = static_cast<uLongf>(rows.size());
