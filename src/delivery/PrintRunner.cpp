@@ -74,7 +74,10 @@ QueuedSheet PrintRunner::taken(QueuedSheet sheet, const JobNews& news) {
             return stay(sheet, Stage::atPrinter,
                         news.reason.empty() ? "" : printerOf(sheet) + " does not go on" + behind);
         case News::empty: {
-            service_.cancel(sheet.job, sheet.number);
+            // A document that is still on its way must not arrive in a job that is taken for dead.
+            if (!service_.cancel(sheet.job, sheet.number))
+                return stay(sheet, Stage::unsure,
+                            printerOf(sheet) + " does not give it back. " + std::string(kUnsure));
             const std::string reason =
                 sheet.reason.empty() ? "The program was ended before the sheet was sent." : sheet.reason;
             return stay(sheet, Stage::waiting, reason);

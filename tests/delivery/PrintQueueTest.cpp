@@ -119,6 +119,10 @@ TEST_F(PrintQueueTest, ABrokenLineNeitherLosesASheetNorPrintsItTwice) {
     room_.fault = Fault::beforeDocument;
     EXPECT_EQ(runner_.send(second).stage, Stage::waiting);
     EXPECT_EQ(queue_.sheet(second).reason, "The line broke.");
+    room_.gives = false;
+    EXPECT_EQ(runner_.send(queueOne()).stage, Stage::unsure) << "its document may still arrive";
+    EXPECT_EQ(runner_.discard(queue_.sheets().back().id), "");
+    room_.gives = true;
     room_.fault = Fault::afterDocument;
     EXPECT_TRUE(runner_.send(third).id.empty()) << "the printer knows that it was printed";
     room_.fault = Fault::none;

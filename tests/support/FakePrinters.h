@@ -17,6 +17,7 @@ struct PrintRoom {
     std::mutex mutex;
     std::string trouble;                            ///< of the printer
     bool answers = true;                            ///< the printing system
+    bool gives = true;                              ///< jobs back that are to be cancelled
     Fault fault = Fault::none;                      ///< of the next sheet
     JobNews::State jobs = JobNews::State::printed;  ///< how jobs with a document stand
     std::string reason;
@@ -67,7 +68,7 @@ class FakePrinters : public PrintService {
     bool cancel(const PrintJob&, int id) override {
         const std::lock_guard lock(room_.mutex);
         room_.cancelled.push_back(id);
-        return room_.answers && room_.jobs != JobNews::State::printed;
+        return room_.answers && room_.gives && (!room_.made[id] || room_.jobs != JobNews::State::printed);
     }
 
   private:
