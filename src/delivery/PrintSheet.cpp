@@ -5,6 +5,7 @@
 #include "core/image/ImageWriter.h"
 #include "core/raster/BitmapContext.h"
 #include "core/state/SystemInfo.h"
+#include "delivery/Caption.h"
 #include "pipeline/SaveImage.h"
 
 namespace tavrin {
@@ -30,6 +31,12 @@ void drawMarks(BitmapContext& sheet, const std::vector<SheetSlot>& places, int d
     }
 }
 
+void drawCaption(BitmapContext& sheet, const PrinterPage& page, int dpi, const SheetLook& look) {
+    const std::optional<QRectF> room = captionRoom(page, dpi);
+    if (look.caption.empty() || !room) return;
+    sheet.painter()->fillPath(captionShapes(look.caption, *room), Qt::black);
+}
+
 void mirror(PixelView sheet) {
     for (int y = 0; y < sheet.height; ++y) {
         auto* row = reinterpret_cast<std::uint32_t*>(sheet.at(0, y));
@@ -44,6 +51,7 @@ void drawPage(BitmapContext& sheet, const PrinterPage& page, int dpi, const QIma
     const std::vector<SheetSlot> places = slotsOf(page, dpi, proportion);
     sheet.fillRect(QRectF(0, 0, sheet.width(), sheet.height()), kSheetGround, kSheetGround, kSheetGround, 1.0);
     if (look.cutMarks) drawMarks(sheet, places, dpi);
+    drawCaption(sheet, page, dpi, look);
     for (const SheetSlot& slot : places)
         drawSlot(sheet, slot, picture, look.fit);
 }

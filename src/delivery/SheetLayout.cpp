@@ -59,4 +59,23 @@ std::vector<QRectF> cutMarks(const SheetSlot& slot, int dpi) {
     return marks;
 }
 
+std::optional<QRectF> captionRoom(const PrinterPage& page, int dpi) {
+    const double width = static_cast<double>(page.iPageWidth * dpi / 100);
+    const double height = static_cast<double>(page.iPageHeight * dpi / 100);
+    double lowest = height, highest = 0;
+    for (const SheetSlot& slot : slotsOf(page, dpi, 1.0)) {
+        lowest = std::min(lowest, slot.area.top());
+        highest = std::max(highest, slot.area.bottom());
+    }
+    const double least = 0.12 * dpi, best = 0.2 * dpi, marks = 0.17 * dpi, side = 0.25 * dpi;
+    const bool below = lowest >= least;
+    const double free = below ? lowest : height - highest;
+    if (free < least || width < 4 * side) return {};
+    // Close to the pictures but clear of their cut marks; in a narrow strip in its middle.
+    const double line = std::min(best, free);
+    const double gap = std::min(marks, (free - line) / 2);
+    const double y = below ? lowest - gap - line : highest + gap;
+    return QRectF(side, y, width - 2 * side, line);
+}
+
 }  // namespace tavrin

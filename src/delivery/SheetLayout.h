@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <vector>
 
 #include <QRectF>
@@ -19,8 +21,9 @@ enum class SlotFit {
 /// What a sheet may have beyond its pictures.
 struct SheetLook {
     SlotFit fit = SlotFit::stretch;
-    bool cutMarks = false;  ///< thin lines that run on from the slots' edges, outside them
-    bool mirrored = false;  ///< left and right exchanged, for paper whose picture is ironed on
+    bool cutMarks = false;     ///< thin lines that run on from the slots' edges, outside them
+    bool mirrored = false;     ///< left and right exchanged, for paper whose picture is ironed on
+    std::string caption = {};  ///< a line beside the pictures, with the macros of a text item; "" for none
 };
 
 /// Where one slot of a print page lies on the sheet.
@@ -49,5 +52,8 @@ QRectF placeIn(QSizeF frame, QSize picture, SlotFit fit);
 
 /// Thin lines, for a pair of scissors, that go on from the slot's edges outside it: two at each corner.
 std::vector<QRectF> cutMarks(const SheetSlot& slot, int dpi);
+
+/// Where a page has room for a line of text: below all its slots, else above them; nothing where neither has.
+std::optional<QRectF> captionRoom(const PrinterPage& page, int dpi);
 
 }  // namespace tavrin

@@ -35,7 +35,7 @@ TEST_F(PrintCliTest, APdfHasAPageOfTheTrueSizeForEachPictureAndKeepsEachOnceWith
     const auto outcome = print({file("anna.png"), file("ben.png")}, "sheets.pdf", {}, "Letter Eight Wallets");
     EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
     EXPECT_TRUE(outcome.out.contains("2 sheets of \"Letter Eight Wallets\""));
-    EXPECT_EQ(count("sheets.pdf", "/MediaBox [0 0 612.000000 792.000000]"), 2);
+    EXPECT_EQ(count("sheets.pdf", "/MediaBox [0 0 612.0000 792.0000 ]"), 2);
     EXPECT_EQ(count("sheets.pdf", "/Subtype /Image"), 2);
     EXPECT_EQ(count("sheets.pdf", "/DCTDecode"), 0);
 }

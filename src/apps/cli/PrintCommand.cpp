@@ -1,17 +1,17 @@
 #include "apps/cli/PrintCommand.h"
 
-#include <algorithm>
 #include <memory>
 
 #include "apps/cli/Console.h"
 #include "apps/cli/Output.h"
+#include "apps/cli/PrintQueueOptions.h"
+#include "apps/cli/PrinterOptions.h"
 #include "apps/cli/Refusal.h"
-#include "apps/cli/Usage.h"
-#include "core/NearestName.h"
 #include "core/files/FileIdentity.h"
 #include "core/image/ImageReader.h"
 #include "core/state/NamedFiles.h"
 #include "core/state/SystemInfo.h"
+#include "delivery/Caption.h"
 #include "delivery/PrintSheet.h"
 #include "delivery/SheetPdf.h"
 #include "pipeline/OutputSize.h"
@@ -24,113 +24,109 @@ namespace {
 
 struct PrintOptions {
     std::vector<std::string> files;
-    std::string page, to, fit = "stretch";
-    bool cutMarks = false, mirrored = false;
+    std::string to;
+    PrinterOptions printer;
+    PrintQueueOptions queue;
 
     bool isPdf() const { return QString::fromStdString(to).endsWith(".pdf", Qt::CaseInsensitive); }
-    SheetLook look() const {
-        return {fit == "fill"    ? SlotFit::fill
-                : fit == "whole" ? SlotFit::whole
-                                 : SlotFit::stretch,
-                cutMarks, mirrored};
-    }
 };
+
+Refusal checkCall(const PrintOptions& options) {
+    if (options.queue.isWanted())
+        return options.files.empty() ? Refusal{} : Refusal{kUsage, "Lists and waiting sheets take no files."};
+    if (options.files.empty()) return {kUsage, "The pictures to print are missing."};
+    if (options.to.empty() == options.printer.printer.empty())
+        return {kUsage, options.to.empty() ? "Where to is missing: --printer or --to."
+                                           : "A sheet goes to a --printer or --to a file."};
+    return {};
+}
 
 Refusal checkFiles(const PrintOptions& options) {
     if (!options.isPdf() && fileTypeForPath(options.to) == 0)
         return {kUsage, options.to + ": the sheet's name must end in .pdf, .png, .jpg, .jpeg, .tif or .tiff."};
     if (!options.isPdf() && options.files.size() > 1)
         return {kUsage, "A picture holds one sheet; --to with .pdf takes several."};
+    if (options.printer.copies > 1 || options.printer.wait > 0)
+        return {kUsage, "--copies and --wait go with --printer."};
+    if (!options.isPdf() && !(options.printer.paper + options.printer.profile).empty())
+        return {kUsage, "--paper and --profile go with --printer, or with --to and .pdf."};
     for (const std::string& file : options.files) {
         if (isSameFile(options.to, file)) return {kUsage, "--to " + overwritesInput(options.to, file) + "."};
     }
     return checkTarget(options.to);
 }
 
-/// The page of a title, or what is wrong; one that has nothing for a picture prints nothing.
-std::string findPage(const SystemInfo& info, const std::string& title, int& index) {
-    std::vector<std::string> titles;
-    for (const PrinterPage& page : info.oPrinterPages)
-        titles.push_back(page.sPageTitle);
-    const auto found = std::find(titles.begin(), titles.end(), title);
-    if (found == titles.end()) {
-        const std::string nearest = nearestName(title, titles);
-        return "There is no print page \"" + title + "\"" +
-               (nearest.empty() ? "." : "; did you mean \"" + nearest + "\"?");
+std::string printAsPicture(SystemInfo& info, const PrintOptions& options, SheetPlan plan) {
+    const std::string& file = options.files.front();
+    const ReadPicture picture = readPicture(file);
+    if (!picture.error.empty()) return file + ": " + picture.error + ".";
+    for (int i = 0; i < info.iPrinterPageCount(); ++i) {
+        if (info.oPrinterPages[static_cast<std::size_t>(i)].sPageTitle.load() != options.printer.page) continue;
+        ChangeTemplateBitmap(info, i);
+        break;
     }
-    index = static_cast<int>(found - titles.begin());
-    const PrinterPage& page = info.oPrinterPages[static_cast<std::size_t>(index)];
-    const auto& places = page.oPrinterPageImages;
-    const auto isIn = [&page](const PrinterPageImage& slot) { return isOnPage(page, slot); };
-    const auto in = std::count_if(places.begin(), places.end(), isIn);
-    if (in == 0) return "The print page \"" + title + "\" has no room for a picture.";
-    if (const auto out = static_cast<std::ptrdiff_t>(places.size()) - in; out > 0)
-        warn("The print page \"" + title + "\" has " + std::to_string(out) +
-             " slots that lie outside it; they are left out.");
-    return "";
-}
-
-std::string printAsPicture(SystemInfo& info, int page, const PrintOptions& options) {
-    const ReadPicture picture = readPicture(options.files.front());
-    if (!picture.error.empty()) return options.files.front() + ": " + picture.error + ".";
-    ChangeTemplateBitmap(info, page);
     if (!info.oBitmapTemplateRep) return "There is not enough memory for the sheet.";
-    drawSheet(info, picture.pixels, static_cast<double>(picture.pixels.width()) / picture.pixels.height(),
-              options.look());
+    plan.look.caption = captionText(plan.look.caption, file);
+    drawSheet(info, picture.pixels, static_cast<double>(picture.pixels.width()) / picture.pixels.height(), plan.look);
     return writeSheet(info, options.to);
 }
 
-int print(const PrintOptions& options) {
-    if (const Refusal refusal = checkFiles(options); refusal.code != kDone) {
+int printToFile(SystemInfo& info, const PrintOptions& options) {
+    SheetPlan plan;
+    Refusal refusal = checkFiles(options);
+    if (refusal.code == kDone) refusal = planSheets(info, options.printer, nullptr, plan);
+    if (refusal.code != kDone) {
         complain(refusal.line);
         return refusal.code;
     }
-    const auto info = std::make_unique<SystemInfo>();
-    startCommandLine(*info);
-    int page = -1;
-    std::string problem = findPage(*info, options.page, page);
-    if (!problem.empty()) {
-        complain(problem);
-        return kUsage;
-    }
-    const PrinterPage& layout = info->oPrinterPages[static_cast<std::size_t>(page)];
-    problem = options.isPdf() ? writeSheetsAsPdf(layout, options.files, options.look(), options.to)
-                              : printAsPicture(*info, page, options);
+    const std::string problem =
+        options.isPdf() ? writeSheetsAsPdf(plan, options.files, options.to) : printAsPicture(info, options, plan);
     if (!problem.empty()) {
         complain(problem);
         return kFailed;
     }
     if (!isQuiet())
         printLine(options.to + ": " + std::to_string(options.files.size()) +
-                  (options.files.size() == 1 ? " sheet" : " sheets") + " of \"" + options.page + "\"");
+                  (options.files.size() == 1 ? " sheet" : " sheets") + " of \"" + options.printer.page + "\"");
     return kDone;
 }
+
+int print(const PrintOptions& options) {
+    if (const Refusal refusal = checkCall(options); refusal.code != kDone) {
+        complain(refusal.line);
+        return refusal.code;
+    }
+    if (options.queue.isWanted()) return workOnQueue(options.queue);
+    const auto info = std::make_unique<SystemInfo>();
+    startCommandLine(*info);
+    return options.to.empty() ? printFiles(*info, options.printer, options.files) : printToFile(*info, options);
+}
+
+constexpr const char* kPrintExamples = R"(
+Examples:
+  tavrin-cli print done/anna_beach.jpg --page "Letter Eight Wallets" --printer default
+  tavrin-cli print done/*.jpg --page "5x7 Vert" --to sheets.pdf --paper A4 --cut-marks --caption "<<filename>>"
+  tavrin-cli print --waiting
+
+A sheet that cannot be printed, because its printer is stopped, out of paper or gone, is kept: --waiting lists such
+sheets with the reason, --again sends them, --discard forgets them. One that may have been printed already, since the
+program was killed at the wrong moment and the printer cannot tell, is sent again by its name only.
+Exit codes: 0 written or handed to the printer (with --wait: printed), 1 not, 2 wrong usage.)";
 
 }  // namespace
 
 void addPrintCommand(CLI::App& app, int& result) {
     const auto options = std::make_shared<PrintOptions>();
-    CLI::App* command = app.add_subcommand("print", "Lay finished pictures out on the sheets of a print page");
-    command->add_option("files", options->files, "Finished pictures, a sheet each")->required()->type_name("FILE");
-    command->add_option("--page", options->page, "Print page by its title (see tavrin-cli pages)")
-        ->required()
-        ->type_name("TITLE");
+    CLI::App* command =
+        app.add_subcommand("print", "Lay finished pictures out on the sheets of a print page, and print them");
+    command->add_option("files", options->files, "Finished pictures, a sheet each")->type_name("FILE");
     command
         ->add_option("--to", options->to,
                      "Sheet to write: .pdf (true size, without loss), .png, .jpg or .tif (600 dpi)")
-        ->required()
         ->type_name("FILE");
-    command
-        ->add_option(
-            "--fit", options->fit,
-            "How a picture fills a slot of other proportions: stretch (default), fill (cut) or whole (grey sides)")
-        ->check(oneOf({"stretch", "fill", "whole"}))
-        ->type_name("NAME");
-    command->add_flag("--cut-marks", options->cutMarks, "Thin lines at the slots' corners, where there is room");
-    command->add_flag("--mirrored", options->mirrored, "Left and right exchanged, for transfer paper");
-    command->footer(
-        "\nExample:\n  tavrin-cli print done/anna_beach.jpg --page \"Letter Eight Wallets\" --to sheet.pdf\n\n"
-        "Exit codes: 0 written, 1 not written, 2 wrong usage.");
+    addPrinterOptions(*command, options->printer, "--printer");
+    addPrintQueueOptions(*command, options->queue);
+    command->footer(kPrintExamples);
     command->callback([options, &result] { result = print(*options); });
 }
 

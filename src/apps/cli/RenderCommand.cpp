@@ -16,6 +16,7 @@
 #include "apps/cli/EditOptions.h"
 #include "apps/cli/Output.h"
 #include "apps/cli/PictureOptions.h"
+#include "apps/cli/PrinterOptions.h"
 #include "apps/cli/Refusal.h"
 #include "apps/cli/Streams.h"
 #include "apps/cli/Usage.h"
@@ -49,9 +50,20 @@ struct RenderOptions {
     std::string state, saveState;
     PictureOptions picture;
     EditOptions edits;
+    PrinterOptions print;
     std::optional<std::uint64_t> seed;
     bool preview = false, fast = false, json = false;
 };
+
+/// What is wrong with the options of printing, before anything is made.
+Refusal checkPrinting(const SystemInfo& info, const RenderOptions& options, bool sends) {
+    if (options.print.printer.empty())
+        return options.print.page.empty() ? Refusal{} : Refusal{kUsage, "--page goes with --print."};
+    if (sends || options.json)
+        return {kUsage, "--print tells what it does on the standard output, which --json and --out - have."};
+    SheetPlan plan;
+    return planSheets(info, options.print, nullptr, plan);
+}
 
 /// The pictures named on the command line win over those of the state file.
 Refusal applySources(SystemInfo& info, const RenderOptions& options) {
@@ -247,6 +259,7 @@ int render(RenderOptions options) {
     Refusal refusal = readEdits(options.edits, edits);
     if (const auto seed = options.seed ? options.seed : edits.seed) info->randomSeeds.startAt(*seed);
     if (refusal.code == kDone) refusal = useStreams(options, sends);
+    if (refusal.code == kDone) refusal = checkPrinting(*info, options, sends);
     if (refusal.code == kDone) refusal = prepare(*info, options);
     if (refusal.code != kDone) {
         complain(refusal.line);
@@ -269,7 +282,8 @@ int render(RenderOptions options) {
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
     if (sends && !sendFile(options.out)) return kFailed;
     if (!sends) tellMade(*info, options, said, taken.count());
-    return console.hadAlert() ? kFailed : kDone;  // the picture is saved, but something in it is missing
+    const bool printed = options.print.printer.empty() || printFiles(*info, options.print, {options.out}) == kDone;
+    return console.hadAlert() || !printed ? kFailed : kDone;  // the picture is saved, but something in it is missing
 }
 
 constexpr const char* kExamples = R"(
@@ -278,6 +292,8 @@ Examples:
   tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna.png --alpha anna-matte.png
       --set bOutputTransparency=1 --set combined.sliderWhiteAdjust=0 --set foreground.iContrast=60
   tavrin-cli render --state school.qlx --foreground anna.jpg --out anna-school.jpg
+  tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna-beach.jpg --print default
+      --page "Letter Two 5x7"
   tavrin-cli render --foreground toy.jpg --background sky.jpg --out toy-sky.jpg --blue --fast
   tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna-mended.jpg --edits anna.edits
   tavrin-cli render --foreground anna.jpg --background beach.jpg --out anna-floor.jpg --shadow floor --frame oval
@@ -311,6 +327,7 @@ void addRenderCommand(CLI::App& app, int& result) {
     command->add_flag("--preview", options->preview, "Stop at the preview and save that");
     command->add_flag("--fast", options->fast, "The short path: key, text and overlays only")->excludes("--preview");
     addEditOptions(*command, options->edits);
+    addPrinterOptions(*command, options->print, "--print");
     command->add_flag("--json", options->json, "Print what was made as one JSON line");
     command->footer(kExamples);
     command->callback([options, &result] { result = render(*options); });

@@ -39,6 +39,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       heldLoop_(new HeldLoop(*loop_, this)),
       sizes_(new SizesPanel(editor_, *heldLoop_)),
       templates_(new TemplatesPanel(editor_, *heldLoop_, [this] { return view_->fullPicture(); })),
+      printing_(new PrintDesk(this)),
       batch_(new BatchPage(binder_)),
       mail_(new MailPage(binder_)),
       history_(new HistoryPanel(binder_, this)),
@@ -62,6 +63,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectBatch();
     connectReview();
     connectMail();
+    connectPrinting();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
 }

@@ -21,6 +21,7 @@
 #include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
 #include "ui/review/ReviewDesk.h"
+#include "ui/print/PrintDesk.h"
 #include "ui/settings/SettingsPage.h"
 #include "ui/sizes/SizesPanel.h"
 #include "ui/sizes/TemplatesPanel.h"
@@ -92,6 +93,7 @@ class MainWindow : public QMainWindow {
     Strip* strip() const { return strip_; }
     BatchPage* batch() const { return batch_; }
     MailPage* mail() const { return mail_; }
+    PrintDesk* printing() const { return printing_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
@@ -114,6 +116,7 @@ class MainWindow : public QMainWindow {
     friend std::vector<Command> commandTable(MainWindow& window);
     friend std::vector<Command> stripCommands(MainWindow& window);
     friend std::vector<Command> fileCommands(MainWindow& window);
+    friend std::vector<Command> printCommands(MainWindow& window);
 
     void layOut();
     void makeToolBar();
@@ -136,6 +139,10 @@ class MainWindow : public QMainWindow {
     void tellMail(const Posted& posted, const QString& to);
     WorkBar* makeMailBar();
     int workUnderWay() const;
+    void connectPrinting();
+    void printImage();
+    void runPageLayout();
+    void takeForSheet(std::function<void(const SheetPicture&)> take);
     void askForFolder();
     void askForPickDirectory();
     void dropFolder(const QString& folder, bool onBackground);
@@ -196,6 +203,7 @@ class MainWindow : public QMainWindow {
     HeldLoop* heldLoop_;
     SizesPanel* sizes_;
     TemplatesPanel* templates_;
+    PrintDesk* printing_;
     BatchPage* batch_;
     MailPage* mail_;
     HistoryPanel* history_;
@@ -221,6 +229,8 @@ class MainWindow : public QMainWindow {
 std::vector<Command> commandTable(MainWindow& window);
 /// The overlays, and what opening a picture resets.
 std::vector<Command> fileCommands(MainWindow& window);
+/// Printing.
+std::vector<Command> printCommands(MainWindow& window);
 /// What the strip below the picture adds to it.
 std::vector<Command> stripCommands(MainWindow& window);
 

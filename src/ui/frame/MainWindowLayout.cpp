@@ -19,7 +19,7 @@
 #include "ui/frame/ViewBar.h"
 #include "ui/frame/WorkBar.h"
 #include "ui/mail/MailPage.h"
-#include "ui/sizes/PrintPage.h"
+#include "ui/print/PrintPage.h"
 
 namespace tavrin {
 
@@ -34,7 +34,7 @@ void MainWindow::layOut() {
     settings_->addSizes(sizes_);
     panel_->addPage(settings_);
     panel_->addPage(airbrush_->page());
-    panel_->addPage(new PrintPage(binder_, templates_));
+    panel_->addPage(new PrintPage(binder_, templates_, new WaitingSheets(*printing_)));
     panel_->addPage(batch_);
     panel_->addPage(mail_);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
@@ -48,6 +48,7 @@ void MainWindow::layOut() {
     std::ranges::move(stripCommands(*this), std::back_inserter(table));
     std::ranges::move(fileCommands(*this), std::back_inserter(table));
     std::ranges::move(reviewCommands(*review_), std::back_inserter(table));
+    std::ranges::move(printCommands(*this), std::back_inserter(table));
     std::ranges::move(pageCommands(*panel_), std::back_inserter(table));
     std::vector<Command> effects = effectCommands(*panel_->effects());
     const auto help =
@@ -88,7 +89,8 @@ void MainWindow::makeToolBar() {
     label->setBuddy(sizeBox_);
     bar->addWidget(label);
     bar->addWidget(sizeBox_);
-    bar->addWidget(buttonOf(commands_->action("Save"), bar, Qt::ToolButtonTextOnly));
+    for (const char* id : {"Save", "mainButtonPrint"})
+        bar->addWidget(buttonOf(commands_->action(id), bar, Qt::ToolButtonTextOnly));
 }
 
 void MainWindow::makeStatusLine() {

@@ -170,6 +170,23 @@ bool PictureFiles::saveCopy(const std::string& path, std::function<void(bool don
     return true;
 }
 
+bool PictureFiles::takePicture(std::function<void(const QImage&)> take) {
+    if (!isFinished()) return false;
+    loop_.edit([this, take = std::move(take)]() -> std::vector<ChangedRows> {
+        QImage picture;
+        const PassGeometry size = info_.geometry(Resolution::full);
+        const std::uint8_t* pixels = info_.pCombinedBitmapInfo->bytes(Resolution::full);
+        if (pixels && info_.whyNotFinished(Resolution::full).empty())
+            picture = QImage(pixels, size.width, size.height,
+                             info_.bOutputTransparency ? QImage::Format_RGBA8888 : QImage::Format_RGBX8888)
+                          .copy();
+        QMetaObject::invokeMethod(
+            this, [take, picture] { take(picture); }, Qt::QueuedConnection);
+        return {};
+    });
+    return true;
+}
+
 /// Buffers and lists are the loop's, so what saves them is a job of the loop's. However it ends, the window hears of
 /// it.
 void PictureFiles::saveInTurn(const QString& path, std::function<bool(const std::atomic<bool>& stop)> save) {

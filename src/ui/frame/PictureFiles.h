@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include <QImage>
 #include <QObject>
 #include <QStringList>
 
@@ -46,6 +47,10 @@ class PictureFiles : public QObject {
     /// @return false when there is no finished picture
     bool saveCopy(const std::string& path, std::function<void(bool done)> ended);
     int copiesUnderWay() const { return copies_; }
+    /// Hands a copy of the full picture over, on the main thread, as soon as no pass is under work; null when it is
+    /// not that of the present settings any more.
+    /// @return false when there is no finished picture
+    bool takePicture(std::function<void(const QImage&)> take);
     int savesUnderWay() const { return saves_; }
     /// Ends the saves that are under way or wait; the files that were there before stay.
     void stopSaving() { *stop_ = true; }

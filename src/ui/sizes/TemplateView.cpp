@@ -19,6 +19,17 @@ TemplateView::TemplateView(const SystemInfo& info, std::function<QImage()> pictu
 
 void TemplateView::setTemplate(std::int32_t index) {
     iSelectedTemplate_ = index;
+    ownPage_.reset();
+    refresh();
+}
+
+void TemplateView::setPage(const PrinterPage& page) {
+    ownPage_ = page;
+    refresh();
+}
+
+void TemplateView::setLook(const SheetLook& look) {
+    look_ = look;
     refresh();
 }
 
@@ -27,10 +38,17 @@ void TemplateView::refresh() {
     update();
 }
 
+const PrinterPage* TemplateView::page() const {
+    if (ownPage_) return &*ownPage_;
+    const bool isThere = iSelectedTemplate_ >= 0 && iSelectedTemplate_ < info_.iPrinterPageCount();
+    return isThere ? &info_.oPrinterPages[static_cast<std::size_t>(iSelectedTemplate_)] : nullptr;
+}
+
 /// The sheet at as many dots an inch as the view has room for, which the painter of printed sheets fills.
 void TemplateView::makeSheet() {
-    if (iSelectedTemplate_ < 0 || iSelectedTemplate_ >= info_.iPrinterPageCount()) return;
-    const PrinterPage& page = info_.oPrinterPages[static_cast<std::size_t>(iSelectedTemplate_)];
+    const PrinterPage* shown = this->page();
+    if (!shown) return;
+    const PrinterPage& page = *shown;
     const double pageWidth = static_cast<double>(page.iPageWidth), pageHeight = static_cast<double>(page.iPageHeight);
     if (pageWidth < 1 || pageHeight < 1) return;
     const double dots = devicePixelRatioF() * std::min(width() / pageWidth, height() / pageHeight);
@@ -51,7 +69,8 @@ void TemplateView::makeSheet() {
         picture = QImage(1, 1, QImage::Format_RGBA8888_Premultiplied);
         picture.fill(Qt::white);
     }
-    drawPage(sheet, page, dpi, picture, proportion);
+    drawPage(sheet, page, dpi, picture, proportion, look_);
+    if (look_.mirrored) sheet_ = sheet_.mirrored(true, false);
     sheet_.setDevicePixelRatio(devicePixelRatioF());
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QImage>
 #include <QWidget>
 
 #include "core/state/SystemInfo.h"
+#include "delivery/SheetLayout.h"
 
 namespace tavrin {
 
@@ -19,6 +21,10 @@ class TemplateView : public QWidget {
 
     /// Shows a page of the list; -1 shows nothing.
     void setTemplate(std::int32_t index);
+    /// Shows a page that is in no list.
+    void setPage(const PrinterPage& page);
+    /// How the sheet is printed, the caption as it is to be read.
+    void setLook(const SheetLook& look);
     /// The picture, the page or the list is another one.
     void refresh();
 
@@ -31,11 +37,14 @@ class TemplateView : public QWidget {
     void resizeEvent(QResizeEvent*) override { sheet_ = QImage(); }
 
   private:
+    const PrinterPage* page() const;
     void makeSheet();
 
     const SystemInfo& info_;
     std::function<QImage()> picture_;
     std::int32_t iSelectedTemplate_ = -1;
+    std::optional<PrinterPage> ownPage_;
+    SheetLook look_;
     QImage sheet_;
 };
 

@@ -47,8 +47,8 @@ QToolButton* TemplatesPanel::addButton(QHBoxLayout& line, const char* handler, c
 }
 
 void TemplatesPanel::addPageControls() {
-    combo_->setObjectName("comboPrinterTemplate");
-    combo_->setProperty("handler", "changeSelectedTemplate:");
+    combo_->setObjectName("comboEditTemplate");
+    combo_->setProperty("handler", "changeEditSelectedTemplate:");
     combo_->setAccessibleName(tr("Print page"));
     combo_->setToolTip(tr("The page to print on"));
     combo_->setMaxVisibleItems(24);
@@ -65,6 +65,8 @@ void TemplatesPanel::addPageControls() {
     deletePage_ = addButton(*line, "deleteTemplate:", tr("Delete"), tr("Takes a page of your own out of the list"),
                             &TemplatesPanel::deleteTemplate);
     line->addStretch();
+    addButton(*line, "showPrinterTemplate:", tr("Print..."), tr("Prints the picture on this page"),
+              &TemplatesPanel::showPrinterTemplate);
 }
 
 void TemplatesPanel::addSlotControls() {

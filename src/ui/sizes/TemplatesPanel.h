@@ -31,6 +31,8 @@ class TemplatesPanel : public QWidget {
     /// Another page is chosen, which is a setting to keep.
     void pageChosen();
     void listChanged();
+    /// The picture is to be printed on the chosen page.
+    void printWanted();
     void failed(const QString& line, const QString& details);
 
   private:
@@ -45,6 +47,7 @@ class TemplatesPanel : public QWidget {
     void showSlots();
     void showButtons();
     void changeSelectedTemplate(int index);
+    void showPrinterTemplate() { emit printWanted(); }
     void addCustomTemplate() { openPageDialog(-1); }
     void editCustomTemplate() { openPageDialog(page()); }
     void deleteTemplate();

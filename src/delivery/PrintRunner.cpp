@@ -1,0 +1,146 @@
+#include "delivery/PrintRunner.h"
+
+#include <QLockFile>
+
+#include "core/Log.h"
+
+namespace tavrin {
+
+namespace {
+
+using Stage = QueuedSheet::Stage;
+using News = JobNews::State;
+
+constexpr const char* kBusy = "Another program is at work with this sheet.";
+constexpr const char* kUnsure = "It may have been printed already; look at the printer before it is sent again.";
+
+std::string printerOf(const QueuedSheet& sheet) {
+    return "The printer \"" + sheet.job.printer + "\"";
+}
+
+}  // namespace
+
+QueuedSheet PrintRunner::stay(QueuedSheet sheet, Stage stage, const std::string& reason) {
+    if (sheet.stage == stage && sheet.reason == reason) return sheet;
+    sheet.stage = stage;
+    sheet.reason = reason;
+    if (stage == Stage::waiting) sheet.number = 0;
+    if (const std::string problem = queue_.note(sheet); !problem.empty()) logError(problem);
+    return sheet;
+}
+
+QueuedSheet PrintRunner::send(const std::string& id) {
+    const auto hold = queue_.hold(id);
+    QueuedSheet sheet = queue_.sheet(id);
+    if (!hold) sheet.reason = kBusy;
+    return hold && sheet.stage == Stage::waiting && !sheet.id.empty() ? sendHeld(sheet) : sheet;
+}
+
+QueuedSheet PrintRunner::sendHeld(QueuedSheet sheet) {
+    const Printer printer = service_.printer(sheet.job.printer);
+    if (!printer.trouble.empty()) return stay(sheet, Stage::waiting, printer.trouble);
+    sheet.stage = Stage::sending;
+    sheet.reason.clear();
+    sheet.number = 0;
+    if (const std::string problem = queue_.note(sheet); !problem.empty()) {
+        sheet.stage = Stage::waiting;
+        sheet.reason = problem;
+        return sheet;
+    }
+    const MadeJob made = service_.make(sheet.job);
+    if (made.id == 0) return stay(sheet, Stage::waiting, made.problem);
+    sheet.number = made.id;
+    if (const std::string problem = queue_.note(sheet); !problem.empty()) {
+        service_.cancel(sheet.job, made.id);
+        return stay(sheet, Stage::waiting, problem);
+    }
+    const std::string problem = service_.send(sheet.job, made.id, queue_.document(sheet.id));
+    if (problem.empty()) return stay(sheet, Stage::atPrinter, "");
+    // The answer may have been lost on its way, and the sheet not.
+    sheet.reason = problem;
+    return taken(sheet, service_.news(sheet.job, made.id));
+}
+
+/// What the printer knows of a sheet that may have gone, or is there.
+QueuedSheet PrintRunner::taken(QueuedSheet sheet, const JobNews& news) {
+    const std::string behind = news.reason.empty() ? "." : ": " + news.reason + ".";
+    switch (news.state) {
+        case News::printed:
+            queue_.remove(sheet.id);
+            sheet.id.clear();
+            return sheet;
+        case News::waiting:
+        case News::printing:
+            return stay(sheet, Stage::atPrinter,
+                        news.reason.empty() ? "" : printerOf(sheet) + " does not go on" + behind);
+        case News::empty: {
+            // A document that is still on its way must not arrive in a job that is taken for dead.
+            if (!service_.cancel(sheet.job, sheet.number))
+                return stay(sheet, Stage::unsure,
+                            printerOf(sheet) + " does not give it back. " + std::string(kUnsure));
+            const std::string reason =
+                sheet.reason.empty() ? "The program was ended before the sheet was sent." : sheet.reason;
+            return stay(sheet, Stage::waiting, reason);
+        }
+        case News::givenUp:
+            return stay(sheet, Stage::waiting, printerOf(sheet) + " did not print it" + behind);
+        case News::unknown:
+            return stay(sheet, Stage::unsure,
+                        printerOf(sheet) + " does not know it any more. " + std::string(kUnsure));
+        case News::unreachable:
+            break;
+    }
+    if (sheet.stage == Stage::atPrinter) return sheet;
+    return stay(sheet, Stage::unsure, printerOf(sheet) + " cannot be asked. " + std::string(kUnsure));
+}
+
+void PrintRunner::follow(const std::string& id) {
+    const auto hold = queue_.hold(id);
+    if (!hold) return;
+    const QueuedSheet sheet = queue_.sheet(id);
+    if (sheet.id.empty() || sheet.stage == Stage::waiting) return;
+    if (sheet.number == 0) {  // it had no job yet, so nothing was printed
+        stay(sheet, Stage::waiting, "The program was ended before the sheet was sent.");
+    } else {
+        taken(sheet, service_.news(sheet.job, sheet.number));
+    }
+}
+
+std::vector<QueuedSheet> PrintRunner::followUp() {
+    for (const QueuedSheet& sheet : queue_.sheets())
+        follow(sheet.id);
+    return queue_.sheets();
+}
+
+/// @return false when it turned out to be printed, or the printer keeps it
+bool PrintRunner::takeBack(QueuedSheet& sheet) {
+    if (sheet.stage == Stage::waiting || sheet.number == 0) return true;
+    sheet = taken(sheet, service_.news(sheet.job, sheet.number));
+    if (sheet.id.empty()) return false;
+    if (sheet.stage != Stage::atPrinter) return true;
+    return service_.cancel(sheet.job, sheet.number);
+}
+
+QueuedSheet PrintRunner::sendAgain(const std::string& id) {
+    const auto hold = queue_.hold(id);
+    QueuedSheet sheet = queue_.sheet(id);
+    if (!hold) sheet.reason = kBusy;
+    if (!hold || sheet.id.empty()) return sheet;
+    if (!takeBack(sheet)) {
+        if (!sheet.id.empty()) sheet.reason = printerOf(sheet) + " has the sheet and does not give it back.";
+        return sheet;
+    }
+    return sendHeld(sheet);
+}
+
+std::string PrintRunner::discard(const std::string& id) {
+    const auto hold = queue_.hold(id);
+    if (!hold) return kBusy;
+    QueuedSheet sheet = queue_.sheet(id);
+    if (sheet.id.empty()) return "";
+    if (!takeBack(sheet) && !sheet.id.empty()) return printerOf(sheet) + " has the sheet and does not give it back.";
+    queue_.remove(id);
+    return "";
+}
+
+}  // namespace tavrin
