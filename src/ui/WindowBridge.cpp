@@ -31,6 +31,7 @@ std::vector<PublishedRows> WindowBridge::takePublished() {
 }
 
 void WindowBridge::enableControls(bool enabled, bool hostApplication) {
+    if (!enabled && editor_) editor_->beginPass();
     emit controlsEnabled(enabled, hostApplication);
 }
 

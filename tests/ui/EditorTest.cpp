@@ -93,7 +93,7 @@ TEST_F(EditorTest, ASavedFilePlaysToTheSamePictureOnTheCommandLinesWay) {
     airbrush().saveEdits(path);
     ASSERT_TRUE(test::eventually([&] { return std::filesystem::exists(path.toStdString()); }));
     const ReadEdits read = readEditFile(path.toStdString());
-    ASSERT_EQ(read.problem, "");
+    ASSERT_EQ(read.problem, EditMessage());
     const auto other = test::stateForOutput(240, 300);
     other->pForegroundBitmapInfo->sSourceImageFullPath = portrait_;
     other->pBackgroundBitmapInfo->sSourceImageFullPath = background_;
