@@ -10,7 +10,7 @@ namespace {
 
 constexpr auto kShowEvery = std::chrono::milliseconds(25);  // what has been done by then is shown
 // So many moves that wait are more than a tenth of a second of a hand's: showing costs time, too, and comes less
-// often.
+// often. So it is in a replay, whose strokes lie all over the picture.
 constexpr std::size_t kBehind = 8;
 constexpr auto kShowBehind = std::chrono::milliseconds(100);
 
@@ -43,7 +43,7 @@ std::vector<ChangedRows> EditorDoor::work() {
                 const std::lock_guard lock(mutex_);
                 scheduled_ = !pieces_.empty();
                 if (!scheduled_) break;
-                if (pieces_.size() > kBehind) showEvery = kShowBehind;
+                if (replaying_ || pieces_.size() > kBehind) showEvery = kShowBehind;
                 piece = std::move(pieces_.front());
                 pieces_.pop_front();
             }
