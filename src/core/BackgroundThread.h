@@ -24,7 +24,7 @@ class GivingWay {
     GivingWay(const GivingWay&) = delete;
     GivingWay& operator=(const GivingWay&) = delete;
 
-    /// For `runRows`.
+    /// For `runRows`, and for stages that go through their pixels one after the other.
     static void ask();
 
   private:
