@@ -28,6 +28,7 @@ constexpr Words kWords[] = {
     {EditSays::recordingFull,
      QT_TRANSLATE_NOOP(
          "Edits", "The recording is full: what is done from here on stays in the picture, but no replay has it.")},
+    {EditSays::strokesOutside, QT_TRANSLATE_NOOP("Edits", "Strokes that did not meet the picture: %1 of %2.")},
     {EditSays::fileLine, QT_TRANSLATE_NOOP("Edits", "%1, line %2: %3.")},
     {EditSays::fileProblem, QT_TRANSLATE_NOOP("Edits", "%1: %2.")},
     {EditSays::diskFull, QT_TRANSLATE_NOOP("Edits", "the disk is full")},

@@ -16,6 +16,7 @@ enum class EditSays {
     stepUnreadable,
     lastStepNotKept,
     recordingFull,
+    strokesOutside,
     fileLine,
     fileProblem,
     // Why a file could not be written.

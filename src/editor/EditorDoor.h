@@ -121,7 +121,8 @@ class EditorDoor {
     std::string portrait_;           // and its source
     double frameHeight_ = 0.0;       // points of the view that recorded positions go by
     bool replaying_ = false, toldFull_ = false;
-    bool waits_ = false;  // for the picture that is made anew, to play on it
+    int strokes_ = 0, inside_ = 0;  // of what is played; while a visit is, without its own
+    bool waits_ = false;            // for the picture that is made anew, to play on it
     bool scalesRadius_ = false, scaled_ = false;
     bool patternOff_ = false;  // for as long as the picture goes out
     std::int32_t stepSeen_ = -1;

@@ -23,6 +23,7 @@ EditedRows EditorDoor::replayNow() {
     if (editor_.recording.count() > 0) whole_.push_back(present());
     whole_.insert(whole_.end(), toPlay_.begin(), toPlay_.end());
     replaying_ = true;
+    strokes_ = inside_ = 0;
     begin(toPlay_.front());
     push({[this] { return tick(); }, false, true});
     return {};
@@ -107,6 +108,8 @@ void EditorDoor::playTools(const EditVisit& visit) {
 }
 
 void EditorDoor::begin(const EditVisit& visit) {
+    strokes_ -= editor_.strokes;
+    inside_ -= editor_.strokesInside;
     playTools(visit);
     const int height = info_.geometry(Resolution::full).height;
     scaled_ = scalesRadius_ && visit.height > 0 && visit.height != height;
@@ -118,6 +121,8 @@ void EditorDoor::begin(const EditVisit& visit) {
 
 // What a hand does behind it has its own size again.
 void EditorDoor::endPlaying() {
+    strokes_ += editor_.strokes;
+    inside_ += editor_.strokesInside;
     if (std::exchange(scaled_, false)) editor_.apply({kRadiusScale, 1, 1}, EditOrigin::live);
 }
 
@@ -131,6 +136,8 @@ EditedRows EditorDoor::tick() {
         replaying_ = !toPlay_.empty();
         if (!replaying_) {
             lost_.clear();
+            if (strokes_ > inside_)
+                problem_ = {EditSays::strokesOutside, {verbatim(strokes_ - inside_), verbatim(strokes_)}};
         } else {
             keepVisit();
             editor_.ExitEditorMode();

@@ -12,6 +12,7 @@
 #include "pipeline/CombineThread.h"
 #include "session/RecipeStore.h"
 #include "support/Cli.h"
+#include "support/SmallDisk.h"
 #include "ui/EditorScene.h"
 #include "ui/editor/EditMessages.h"
 #include "ui/frame/Language.h"
@@ -160,6 +161,58 @@ TEST_F(EditorPlayTest, AFilesSeedMakesThePictureAnewAndLosesNoStroke) {
     EXPECT_EQ(picture().pixelColor(180, 240), kInk);
     EXPECT_EQ(face().lost, 0);
     EXPECT_TRUE(window_->messages()->question().isEmpty());
+}
+
+// Each is said, and what can be played is.
+TEST_F(EditorPlayTest, WhatIsWrongWithAFileIsSaidAndLosesNothing) {
+    ASSERT_TRUE(enter());
+    choose(kPaint);
+    stroke({60, 40}, {90, 60});
+    const QImage before = picture();
+    const QString path = QString::fromStdString(folder_.file("odd.edits"));
+    const auto said = [&](const std::string& text, const QString& words) {
+        std::ofstream(path.toStdString()) << text;
+        airbrush().loadEdits(path);
+        EXPECT_TRUE(test::eventually([&] { return window_->messages()->details().contains(words); }))
+            << words.toStdString() << " in " << window_->messages()->details().toStdString();
+        EXPECT_TRUE(test::eventually([&] { return !airbrush().isReplaying(); }));
+    };
+    said("tavrin-edits 1\nview 240 300\n1 10\n", "line 3: 1 (mouse down) takes 2 values.");
+    said("something else", "a file of edits begins with");
+    EXPECT_EQ(picture(), before);
+    EXPECT_EQ(face().step, 1);
+    // Of another size: by the height. The last press is beside the picture, and the last kind is not known.
+    said("tavrin-edits 1\nview 480 600\n10 112\n1 360 120\n2\n1 900 900\n2\n77\n", "places go with its height");
+    EXPECT_TRUE(test::eventually([&] { return window_->messages()->details().contains("1 of 2"); }))
+        << window_->messages()->details().toStdString();
+    ASSERT_TRUE(test::eventually([&] { return face().step == 2; }));
+    EXPECT_EQ(picture().pixelColor(180, 240), kInk);
+    std::string many = "tavrin-edits 1\nview 240 300\n";
+    for (int i = 0; i <= kMostEditItems; ++i)
+        many += "203\n";
+    said(many, "1 were left out");
+    EXPECT_EQ(face().step, 2);
+    EXPECT_EQ(picture().pixelColor(75, 50), kInk);
+}
+
+// A stroke stays where its step finds no room; the rest can be undone as before.
+TEST_F(EditorPlayTest, AFullDiskCostsOnlyTheUndoOfItsStroke) {
+    ASSERT_TRUE(enter());
+    choose(kPaint);
+    {
+        const test::SmallDisk disk(2000);
+        stroke({60, 40}, {90, 60});
+        EXPECT_TRUE(test::eventually([&] { return window_->messages()->details().contains("cannot be undone"); }));
+    }
+    EXPECT_EQ(picture().pixelColor(75, 50), kInk);
+    EXPECT_FALSE(action("UndoButton")->isEnabled());
+    stroke({60, 200}, {90, 220});
+    const QImage both = picture();
+    ASSERT_TRUE(test::eventually([&] { return action("UndoButton")->isEnabled(); }));
+    action("UndoButton")->trigger();
+    EXPECT_TRUE(test::eventually([&] { return face().step == 1; }));
+    EXPECT_EQ(picture().pixelColor(75, 50), kInk);
+    EXPECT_NE(picture(), both);
 }
 
 TEST_F(EditorPlayTest, FreezingTakesThePictureWithoutThePatternOfASelection) {
