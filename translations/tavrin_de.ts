@@ -299,6 +299,10 @@
         <source>the way down</source>
         <translation>der Weg hinab</translation>
     </message>
+    <message>
+        <source>Strokes that did not meet the picture: %1 of %2.</source>
+        <translation>Striche, die das Bild nicht getroffen haben: %1 von %2.</translation>
+    </message>
 </context>
 <context>
     <name>FileFilters</name>

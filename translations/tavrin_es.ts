@@ -299,6 +299,10 @@
         <source>the way down</source>
         <translation>la distancia vertical</translation>
     </message>
+    <message>
+        <source>Strokes that did not meet the picture: %1 of %2.</source>
+        <translation>Trazos que no tocaron la imagen: %1 de %2.</translation>
+    </message>
 </context>
 <context>
     <name>FileFilters</name>
