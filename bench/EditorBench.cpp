@@ -1,10 +1,12 @@
 // The airbrush at full resolution: a stamp of each tool, a ten-second scribble, selecting by colour and undo.
 #include <algorithm>
+#include <array>
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "BenchPortrait.h"
 #include "core/raster/Rows.h"
@@ -16,12 +18,36 @@ namespace {
 
 constexpr int kWidth = 2400, kHeight = 3000;
 
-struct Desk {
-    Desk() : info(std::make_unique<SystemInfo>()) {
+/// The keyed picture, which takes a second to make: once for all.
+struct Keyed {
+    Keyed() : info(std::make_unique<SystemInfo>()) {
         bench::prepare(*info, kWidth, kHeight);
         Combine(*info, 1, 1);
+        for (std::size_t i = 0; i < bytes.size(); ++i)
+            bytes[i].assign(buffers()[i], buffers()[i] + pixelBytes(kWidth, kHeight));
+    }
+    std::array<std::uint8_t*, 2> buffers() {
+        return {info->pCombinedBitmapInfo->pBitmapData, info->pBackgroundBitmapInfo->pBitmapData};
+    }
+    /// What the strokes of the last one did goes.
+    void makeFresh() {
+        for (std::size_t i = 0; i < bytes.size(); ++i)
+            std::ranges::copy(bytes[i], buffers()[i]);
+    }
+    static Keyed& get() {
+        static Keyed keyed;
+        return keyed;
+    }
+
+    std::unique_ptr<SystemInfo> info;
+    std::array<std::vector<std::uint8_t>, 2> bytes;
+};
+
+struct Desk {
+    Desk() {
+        Keyed::get().makeFresh();
         folder = std::filesystem::temp_directory_path() / "tavrin_editor_bench";
-        editor = std::make_unique<Editor>(*info, folder);
+        editor = std::make_unique<Editor>(*Keyed::get().info, folder);
         editor->EnterEditorMode();
     }
     ~Desk() {
@@ -30,7 +56,6 @@ struct Desk {
     }
     void play(const EditItem& item) { editor->apply(item, EditOrigin::replay); }
 
-    std::unique_ptr<SystemInfo> info;
     std::filesystem::path folder;
     std::unique_ptr<Editor> editor;
 };
@@ -145,6 +170,44 @@ BENCHMARK(BM_UndoRedo)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime()
     ->MeasureProcessCPUTime();
+
+// A full recording: short strokes with a small brush, played as one.
+void BM_Replay(benchmark::State& state, bool replayed) {
+    std::vector<EditItem> items{{kBrushChosen, 'p'}, {kBrushSliders, 50, 10, 50, 100}};
+    for (int i = 0; items.size() + 3 <= kMostEditItems; ++i) {
+        const int x = 100 + i * 37 % 2200, y = 100 + i * 53 % 2800;
+        items.push_back({kMouseDown, x, y});
+        items.push_back({kMouseDragged, x + 30, y + 12});
+        items.push_back({kMouseUp});
+    }
+    for (auto _ : state) {
+        state.PauseTiming();
+        Desk desk;
+        desk.editor->undoFiles.keepFiles(false);
+        desk.editor->recording.setSaved(items, desk.editor->oBrushInfo, kEraseForeground);
+        state.ResumeTiming();
+        EditedRows rows;
+        if (replayed) {
+            desk.editor->startReplay();
+            while (desk.editor->OnReplayTimer(rows)) {
+            }
+        } else {
+            for (const EditItem& item : items)
+                desk.editor->apply(item, EditOrigin::live);
+        }
+    }
+    state.SetLabel(std::to_string(items.size()) + " items");
+}
+BENCHMARK_CAPTURE(BM_Replay, replayed, true)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->MeasureProcessCPUTime()
+    ->Iterations(1);
+BENCHMARK_CAPTURE(BM_Replay, live, false)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->MeasureProcessCPUTime()
+    ->Iterations(1);
 
 }  // namespace
 }  // namespace tavrin

@@ -132,8 +132,176 @@
         <translation>%1 nimmt %2 Werte</translation>
     </message>
     <message>
-        <source>%1, and it goes from %2 to %3</source>
-        <translation>%1 – erlaubt ist %2 bis %3</translation>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 has %2 %3, and it goes from %4 to %5</source>
+        <translation>Bei %1 ist %2 %3 – erlaubt ist %4 bis %5</translation>
+    </message>
+    <message>
+        <source>mouse down</source>
+        <translation>Maustaste gedrückt</translation>
+    </message>
+    <message>
+        <source>mouse up</source>
+        <translation>Maustaste losgelassen</translation>
+    </message>
+    <message>
+        <source>mouse dragged</source>
+        <translation>Maus gezogen</translation>
+    </message>
+    <message>
+        <source>brush</source>
+        <translation>Pinsel</translation>
+    </message>
+    <message>
+        <source>sliders of the brush</source>
+        <translation>Regler des Pinsels</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>colour from the picture</source>
+        <translation>Farbe aus dem Bild</translation>
+    </message>
+    <message>
+        <source>colour of the selection</source>
+        <translation>Farbe der Auswahl</translation>
+    </message>
+    <message>
+        <source>check box</source>
+        <translation>Kästchen</translation>
+    </message>
+    <message>
+        <source>check box of the selection</source>
+        <translation>Kästchen der Auswahl</translation>
+    </message>
+    <message>
+        <source>selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>zoom home</source>
+        <translation>Ganzes Bild</translation>
+    </message>
+    <message>
+        <source>scale of the radius</source>
+        <translation>Maßstab des Radius</translation>
+    </message>
+    <message>
+        <source>editor entered again</source>
+        <translation>Airbrush neu geöffnet</translation>
+    </message>
+    <message>
+        <source>selection as it was found</source>
+        <translation>vorgefundene Auswahl</translation>
+    </message>
+    <message>
+        <source>anchor</source>
+        <translation>Anker</translation>
+    </message>
+    <message>
+        <source>way to the anchor</source>
+        <translation>Weg zum Anker</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+    <message>
+        <source>the character</source>
+        <translation>das Zeichen</translation>
+    </message>
+    <message>
+        <source>the state</source>
+        <translation>der Zustand</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>the slider</source>
+        <translation>der Regler</translation>
+    </message>
+    <message>
+        <source>the radius</source>
+        <translation>der Radius</translation>
+    </message>
+    <message>
+        <source>the hardness</source>
+        <translation>die Härte</translation>
+    </message>
+    <message>
+        <source>the transparency</source>
+        <translation>die Transparenz</translation>
+    </message>
+    <message>
+        <source>the tolerance</source>
+        <translation>die Toleranz</translation>
+    </message>
+    <message>
+        <source>the source</source>
+        <translation>die Quelle</translation>
+    </message>
+    <message>
+        <source>the height</source>
+        <translation>die Höhe</translation>
+    </message>
+    <message>
+        <source>the other height</source>
+        <translation>die andere Höhe</translation>
+    </message>
+    <message>
+        <source>the colour</source>
+        <translation>die Farbe</translation>
+    </message>
+    <message>
+        <source>the tool&apos;s colour</source>
+        <translation>die Farbe des Werkzeugs</translation>
+    </message>
+    <message>
+        <source>the way across</source>
+        <translation>der Weg quer</translation>
+    </message>
+    <message>
+        <source>the way down</source>
+        <translation>der Weg hinab</translation>
+    </message>
+    <message>
+        <source>Strokes that did not meet the picture: %1 of %2.</source>
+        <translation>Striche, die das Bild nicht getroffen haben: %1 von %2.</translation>
     </message>
 </context>
 <context>

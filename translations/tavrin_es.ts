@@ -132,8 +132,176 @@
         <translation>%1 lleva %2 valores</translation>
     </message>
     <message>
-        <source>%1, and it goes from %2 to %3</source>
-        <translation>%1, y va de %2 a %3</translation>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 has %2 %3, and it goes from %4 to %5</source>
+        <translation>%1 tiene %2 %3, y va de %4 a %5</translation>
+    </message>
+    <message>
+        <source>mouse down</source>
+        <translation>botón del ratón pulsado</translation>
+    </message>
+    <message>
+        <source>mouse up</source>
+        <translation>botón del ratón soltado</translation>
+    </message>
+    <message>
+        <source>mouse dragged</source>
+        <translation>ratón arrastrado</translation>
+    </message>
+    <message>
+        <source>brush</source>
+        <translation>pincel</translation>
+    </message>
+    <message>
+        <source>sliders of the brush</source>
+        <translation>controles del pincel</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>color</translation>
+    </message>
+    <message>
+        <source>colour from the picture</source>
+        <translation>color tomado de la imagen</translation>
+    </message>
+    <message>
+        <source>colour of the selection</source>
+        <translation>color de la selección</translation>
+    </message>
+    <message>
+        <source>check box</source>
+        <translation>casilla</translation>
+    </message>
+    <message>
+        <source>check box of the selection</source>
+        <translation>casilla de la selección</translation>
+    </message>
+    <message>
+        <source>selection</source>
+        <translation>selección</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>tecla</translation>
+    </message>
+    <message>
+        <source>redo</source>
+        <translation>rehacer</translation>
+    </message>
+    <message>
+        <source>undo</source>
+        <translation>deshacer</translation>
+    </message>
+    <message>
+        <source>zoom in</source>
+        <translation>acercar</translation>
+    </message>
+    <message>
+        <source>zoom home</source>
+        <translation>imagen entera</translation>
+    </message>
+    <message>
+        <source>scale of the radius</source>
+        <translation>escala del radio</translation>
+    </message>
+    <message>
+        <source>editor entered again</source>
+        <translation>aerógrafo abierto de nuevo</translation>
+    </message>
+    <message>
+        <source>selection as it was found</source>
+        <translation>selección tal como estaba</translation>
+    </message>
+    <message>
+        <source>anchor</source>
+        <translation>ancla</translation>
+    </message>
+    <message>
+        <source>way to the anchor</source>
+        <translation>distancia al ancla</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+    <message>
+        <source>the character</source>
+        <translation>el carácter</translation>
+    </message>
+    <message>
+        <source>the state</source>
+        <translation>el estado</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>el rojo</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>el verde</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>el azul</translation>
+    </message>
+    <message>
+        <source>the slider</source>
+        <translation>el control</translation>
+    </message>
+    <message>
+        <source>the radius</source>
+        <translation>el radio</translation>
+    </message>
+    <message>
+        <source>the hardness</source>
+        <translation>la dureza</translation>
+    </message>
+    <message>
+        <source>the transparency</source>
+        <translation>la transparencia</translation>
+    </message>
+    <message>
+        <source>the tolerance</source>
+        <translation>la tolerancia</translation>
+    </message>
+    <message>
+        <source>the source</source>
+        <translation>el origen</translation>
+    </message>
+    <message>
+        <source>the height</source>
+        <translation>la altura</translation>
+    </message>
+    <message>
+        <source>the other height</source>
+        <translation>la otra altura</translation>
+    </message>
+    <message>
+        <source>the colour</source>
+        <translation>el color</translation>
+    </message>
+    <message>
+        <source>the tool&apos;s colour</source>
+        <translation>el color de la herramienta</translation>
+    </message>
+    <message>
+        <source>the way across</source>
+        <translation>la distancia horizontal</translation>
+    </message>
+    <message>
+        <source>the way down</source>
+        <translation>la distancia vertical</translation>
+    </message>
+    <message>
+        <source>Strokes that did not meet the picture: %1 of %2.</source>
+        <translation>Trazos que no tocaron la imagen: %1 de %2.</translation>
     </message>
 </context>
 <context>

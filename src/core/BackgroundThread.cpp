@@ -10,6 +10,7 @@ namespace tavrin {
 namespace {
 
 thread_local bool isInBackground = false;
+thread_local const std::function<bool()>* asked = nullptr;
 
 }  // namespace
 
@@ -23,6 +24,18 @@ void becomeBackgroundThread() {
 
 bool isBackgroundThread() {
     return isInBackground;
+}
+
+GivingWay::GivingWay(const std::function<bool()>& goesOn) : before_(asked) {
+    asked = isInBackground && goesOn ? &goesOn : nullptr;
+}
+
+GivingWay::~GivingWay() {
+    asked = before_;
+}
+
+void GivingWay::ask() {
+    if (asked && !(*asked)()) throw GivenUp();
 }
 
 }  // namespace tavrin

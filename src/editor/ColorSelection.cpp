@@ -87,7 +87,7 @@ bool ColorSelection::SelectColorRange(EditorPixels& pixels, const EditorKey& key
     if (bSelected || iSelectionMode == kNone) return false;
     bSelected = true;
     if (iSelectionMode == kForegroundColor && foreground_.empty()) foreground_ = foregroundSteps(pixels, key);
-    const ColorRange range(selectColor, dSelectTolerance);
+    const ColorRange range(toHsv(iSelectRed, iSelectGreen, iSelectBlue), dSelectTolerance);
     const ColorStepTables& tables = ColorStepTables::get();
     const auto stepsAt = [&](std::size_t i) -> ColorSteps {
         if (iSelectionMode == kForegroundColor) return foreground_[i];

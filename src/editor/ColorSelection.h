@@ -8,15 +8,21 @@
 
 namespace tavrin {
 
+/// Whose colours a selection compares, and with what.
+struct SelectionSource {
+    std::int64_t iSelectionMode = 4;  ///< `ColorSelection::kNone`
+    double dSelectTolerance = 0.25;   ///< 0 to 1
+    std::uint8_t iSelectRed = 0, iSelectGreen = 0, iSelectBlue = 0;
+
+    bool operator==(const SelectionSource&) const = default;
+};
+
 /// Pixels near a colour, which the brushes must leave alone. While they are selected the picture itself shows a
 /// checker pattern on them; their records in the snapshot keep what is below it.
-struct ColorSelection {
+struct ColorSelection : SelectionSource {
     static constexpr int kForegroundColor = 0, kCombinedColor = 2, kNone = 4;
 
     bool bSelected = false;
-    std::int64_t iSelectionMode = kNone;  ///< whose colours are compared
-    double dSelectTolerance = 0.25;       ///< 0 to 1
-    HsvColor selectColor{0.0, 0.0, 0.0};  ///< `HSelectColor`, `SSelectColor`, `VSelectColor`
 
     /// Protects the pixels within the tolerance, or with `invert` those beyond it.
     /// @return whether it did; not while one stands, nor without a source of colours

@@ -19,6 +19,7 @@ namespace {
 
 constexpr const char* kFirstWord = "tavrin-edits";
 constexpr const char* kVersion = "1";
+constexpr const char* kFirstLine = "tavrin-edits 1";
 constexpr std::int64_t kLargestSide = 100'000;
 constexpr double kLeastZoom = 0.001, kMostZoom = 1000.0;
 constexpr std::uintmax_t kMostBytes = 64u << 20;
@@ -35,17 +36,17 @@ std::optional<Number> numberOf(const std::string& word) {
     return value;
 }
 
-Words wordsOf(std::string line) {
+Words wordsIn(std::string line) {
     if (const std::size_t comment = line.find('#'); comment != std::string::npos) line.resize(comment);
     std::istringstream text(line);
     return {std::istream_iterator<std::string>(text), {}};
 }
 
-/// Reads a file line by line; each says what is wrong with it, "" for nothing.
+/// Reads a file line by line; each says what is wrong with it.
 class EditReader {
   public:
-    std::string take(const Words& words) {
-        if (words.empty()) return "";
+    EditMessage take(const Words& words) {
+        if (words.empty()) return {};
         if (!begun_) return takeFirst(words);
         if (words[0] == "view") return takeView(words);
         if (words[0] == "zoom") return takeZoom(words);
@@ -54,64 +55,61 @@ class EditReader {
     }
 
     // What the file lacks at its end.
-    std::string lacks() const {
-        if (!begun_) return std::string("it does not begin with \"") + kFirstWord + " " + kVersion + "\"";
-        return file.width == 0 ? "it has no line \"view WIDTH HEIGHT\"" : "";
+    EditMessage lacks() const {
+        if (!begun_) return {EditSays::doesNotBegin, {verbatim(kFirstLine)}};
+        return {file.width == 0 ? EditSays::lacksView : EditSays::nothing};
     }
 
     EditFile file;
 
   private:
-    std::string takeFirst(const Words& words) {
+    EditMessage takeFirst(const Words& words) {
         begun_ = true;
-        if (words[0] != kFirstWord)
-            return std::string("a file of edits begins with \"") + kFirstWord + " " + kVersion + "\"";
-        if (words.size() != 2 || words[1] != kVersion)
-            return std::string("only version ") + kVersion + " of files of edits is known here";
-        return "";
+        if (words[0] != kFirstWord) return {EditSays::beginsWith, {verbatim(kFirstLine)}};
+        if (words.size() != 2 || words[1] != kVersion) return {EditSays::onlyVersion, {verbatim(kVersion)}};
+        return {};
     }
 
-    std::string takeView(const Words& words) {
-        if (file.width > 0) return "there is a view already";
+    EditMessage takeView(const Words& words) {
+        if (file.width > 0) return {EditSays::viewTwice};
         if (words.size() == 3) {
             const auto width = numberOf<std::int64_t>(words[1]), height = numberOf<std::int64_t>(words[2]);
             const auto fits = [](const auto& side) { return side && *side >= 1 && *side <= kLargestSide; };
             if (fits(width) && fits(height)) {
                 file.width = static_cast<int>(*width);
                 file.height = static_cast<int>(*height);
-                return "";
+                return {};
             }
         }
-        return "view takes width and height in pixels, each 1 to 100000";
+        return {EditSays::viewTakes};
     }
 
-    std::string takeZoom(const Words& words) {
-        if (!file.items.empty()) return "zoom stands before the first item";
+    EditMessage takeZoom(const Words& words) {
+        if (!file.items.empty()) return {EditSays::zoomLate};
         const auto zoom = words.size() == 2 ? numberOf<double>(words[1]) : std::nullopt;
-        if (!zoom || !(*zoom >= kLeastZoom && *zoom <= kMostZoom))
-            return "zoom takes the pixels of a point of the view, 0.001 to 1000";
+        if (!zoom || !(*zoom >= kLeastZoom && *zoom <= kMostZoom)) return {EditSays::zoomTakes};
         file.zoom = *zoom;
-        return "";
+        return {};
     }
 
-    std::string takeSeed(const Words& words) {
+    EditMessage takeSeed(const Words& words) {
         const auto seed = words.size() == 2 ? numberOf<std::uint64_t>(words[1]) : std::nullopt;
-        if (!seed) return "seed takes a whole number from 0 on";
+        if (!seed) return {EditSays::seedTakes};
         file.seed = *seed;
-        return "";
+        return {};
     }
 
-    std::string takeItem(const Words& words) {
-        if (file.width == 0) return "the line \"view WIDTH HEIGHT\" comes before the items";
-        if (words.size() > 5) return "an item is a kind and up to four values";
+    EditMessage takeItem(const Words& words) {
+        if (file.width == 0) return {EditSays::viewLate};
+        if (words.size() > 5) return {EditSays::itemIs};
         std::int64_t values[5] = {};
         for (std::size_t i = 0; i < words.size(); ++i) {
             const auto value = numberOf<std::int64_t>(words[i]);
-            if (!value) return "\"" + words[i] + "\" is no whole number";
+            if (!value) return {EditSays::noWholeNumber, {verbatim(words[i])}};
             values[i] = *value;
         }
         const EditItem item{values[0], values[1], values[2], values[3], values[4]};
-        if (const std::string problem = whyNoItem(item, static_cast<int>(words.size()) - 1); !problem.empty())
+        if (EditMessage problem = whyNoItem(item, static_cast<int>(words.size()) - 1); !problem.isEmpty())
             return problem;
         if (nameOfKind(item.kind).empty()) ++file.unknown;
         if (file.items.size() < static_cast<std::size_t>(kMostEditItems)) {
@@ -119,11 +117,15 @@ class EditReader {
         } else {
             ++file.dropped;
         }
-        return "";
+        return {};
     }
 
     bool begun_ = false;
 };
+
+ReadEdits refused(const std::string& path, EditMessage why) {
+    return {{}, {EditSays::fileProblem, {verbatim(path), std::move(why)}}};
+}
 
 }  // namespace
 
@@ -139,27 +141,27 @@ ReadEdits parseEdits(const std::string& path, const std::string& text) {
     std::istringstream lines(text);
     std::string line;
     for (int number = 1; std::getline(lines, line); ++number) {
-        const std::string problem = reader.take(wordsOf(line));
-        if (!problem.empty()) return {{}, path + ", line " + std::to_string(number) + ": " + problem + "."};
+        const EditMessage problem = reader.take(wordsIn(line));
+        if (!problem.isEmpty()) return {{}, {EditSays::fileLine, {verbatim(path), verbatim(number), problem}}};
     }
-    if (const std::string problem = reader.lacks(); !problem.empty()) return {{}, path + ": " + problem + "."};
-    return {std::move(reader.file), ""};
+    if (const EditMessage problem = reader.lacks(); !problem.isEmpty()) return refused(path, problem);
+    return {std::move(reader.file), {}};
 }
 
 ReadEdits readEditFile(const std::string& path) {
     std::error_code failed;
-    if (!fs::exists(path, failed)) return {{}, path + ": there is no such file."};
-    if (!isPlainFile(path)) return {{}, path + ": that is no file of edits."};
-    if (fs::file_size(path, failed) > kMostBytes) return {{}, path + ": it is too large for a file of edits."};
+    if (!fs::exists(path, failed)) return refused(path, {EditSays::noSuchFile});
+    if (!isPlainFile(path)) return refused(path, {EditSays::noFileOfEdits});
+    if (fs::file_size(path, failed) > kMostBytes) return refused(path, {EditSays::tooLarge});
     std::ifstream file(path, std::ios::binary);
     std::ostringstream text;
     text << file.rdbuf();
-    if (!file) return {{}, path + ": it cannot be read."};
+    if (!file) return refused(path, {EditSays::unreadable});
     return parseEdits(path, text.str());
 }
 
 std::string editText(const EditFile& file) {
-    std::string text = std::string(kFirstWord) + " " + kVersion + "\n";
+    std::string text = std::string(kFirstLine) + "\n";
     text += "view " + std::to_string(file.width) + " " + std::to_string(file.height) + "\n";
     if (file.zoom != 1.0) {
         char digits[40];  // the shortest ones that are read as the same number

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "editor/EditItem.h"
+#include "editor/EditMessage.h"
 
 namespace tavrin {
 
@@ -29,7 +30,7 @@ struct EditFile {
 /// An edits file, or why there is none.
 struct ReadEdits {
     EditFile file;
-    std::string problem;  ///< one plain line that names the file, and the line of it; empty when there is a file
+    EditMessage problem;  ///< names the file, and the line of it; empty when there is a file
 };
 
 /// Reads a file whole and checks every line.

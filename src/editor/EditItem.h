@@ -23,6 +23,12 @@ enum EditKind : std::int64_t {
     kZoomIn = 202,
     kZoomHome = 203,
     kRadiusScale = 300,  ///< two heights of pictures, from 1: stamps become the first over the second as large
+    // How a visit found what only strokes of an earlier one can have set.
+    kVisit = 301,  ///< the editor was left and entered again, with the tools of the program's start
+    kSelectionFound =
+        302,              ///< `iSelectionMode`, tolerance, colour, its tool's own colour (0xRRGGBB); selects nothing
+    kAnchor = 303,        ///< x, y from the upper left, thousandths of a point at home zoom; -1, -1 for none
+    kAnchorOffset = 304,  ///< way from a pixel to the one that "Copy" takes, in the same
 };
 
 /// One command of the editor, as a recording holds it. Values that a kind has no use for are 0.
@@ -32,6 +38,9 @@ struct EditItem {
     bool operator==(const EditItem&) const = default;
 };
 static_assert(sizeof(EditItem) == 40, "a recording is a block of these");
+
+/// Parts of a point of the view in which a recording has the anchor of "Copy", so that its pixel comes back.
+inline constexpr double kAnchorSteps = 1000.0;
 
 /// What a recording can hold; later items are not recorded.
 inline constexpr std::int32_t kMostEditItems = 5000;

@@ -17,11 +17,31 @@ EditItem slidersOf(const GUI_BrushInfo& brush) {
             percent(brush.dTransparency)};
 }
 
+void addAnchor(const CopyAnchor& anchor, double zoom, std::vector<EditItem>& items) {
+    const auto steps = [zoom](double pixels) { return std::llround(pixels / zoom * kAnchorSteps); };
+    if (anchor.orgX < 0.0) {
+        items.push_back({kAnchor, -1, -1});
+        return;
+    }
+    items.push_back({kAnchor, steps(anchor.orgX), steps(anchor.orgY)});
+    if (!anchor.isFresh) items.push_back({kAnchorOffset, steps(anchor.offsetX), steps(anchor.offsetY)});
+}
+
 }  // namespace
+
+EditItem selectionItem(const EditTools& tools) {
+    const auto packed = [](std::int64_t red, std::int64_t green, std::int64_t blue) {
+        return red << 16 | green << 8 | blue;
+    };
+    const SelectionSource& s = tools.selection;
+    const GUI_BrushInfo& tool = tools.brushes[kSelection];
+    return {kSelectionFound, s.iSelectionMode, percent(s.dSelectTolerance),
+            packed(s.iSelectRed, s.iSelectGreen, s.iSelectBlue), packed(tool.red, tool.green, tool.blue)};
+}
 
 // Colours come with the well alone: once it is set every stamp takes its colour from there, and before that the tools
 // have their first ones.
-std::vector<EditItem> itemsTo(const EditVisit& wanted, const EditVisit& from) {
+std::vector<EditItem> itemsTo(const EditTools& wanted, const EditTools& from, double zoom) {
     std::vector<EditItem> items;
     int active = from.iActiveButton;
     const auto choose = [&](int brush) {
@@ -38,11 +58,14 @@ std::vector<EditItem> itemsTo(const EditVisit& wanted, const EditVisit& from) {
         }
         if (after.bCheckBoxValue != before.bCheckBoxValue) {
             choose(brush);
-            items.push_back({brush == kSelection ? kSelectCheckBox : kCheckBox, after.bCheckBoxValue});
+            items.push_back({kCheckBox, after.bCheckBoxValue});  // also the selection's: nothing is selected yet
         }
     }
     choose(wanted.iActiveButton);
     if (wanted.well) items.push_back({kColorWell, wanted.well->red, wanted.well->green, wanted.well->blue});
+    const bool isColored = wanted.well && wanted.iActiveButton == kSelection;  // its own colour, by the item above
+    if (isColored || selectionItem(wanted) != selectionItem(from)) items.push_back(selectionItem(wanted));
+    if (wanted.anchor != from.anchor) addAnchor(wanted.anchor, zoom, items);
     return items;
 }
 
@@ -56,6 +79,12 @@ std::vector<EditItem> withScale(std::vector<EditItem> items, std::int64_t height
         item.V2 /= common;
     }
     return items;
+}
+
+CopyAnchor scaled(const CopyAnchor& anchor, double times) {
+    const auto whole = [times](double pixels) { return std::round(pixels * times); };
+    if (anchor.orgX < 0.0) return anchor;
+    return {whole(anchor.orgX), whole(anchor.orgY), whole(anchor.offsetX), whole(anchor.offsetY), anchor.isFresh};
 }
 
 int strokesOf(const EditVisit& visit) {
@@ -75,11 +104,10 @@ EditFile fileOf(const std::vector<EditVisit>& visits, int width, int height, dou
     file.height = height;
     file.zoom = zoom;
     for (const EditVisit& visit : visits) {
-        if (file.items.empty()) {
-            file.items = itemsTo(visit, EditVisit());
-        } else {
-            file.items.push_back({kZoomHome});  // with which every visit begins
-        }
+        if (!file.items.empty()) file.items.push_back({kVisit});
+        const double itsZoom = visit.height > 0 ? zoom * visit.height / height : zoom;
+        const std::vector<EditItem> tools = itemsTo(visit, EditTools(), itsZoom);
+        file.items.insert(file.items.end(), tools.begin(), tools.end());
         file.items.insert(file.items.end(), visit.items.begin(), visit.items.end());
     }
     const auto most = static_cast<std::size_t>(kMostEditItems);

@@ -1,24 +1,27 @@
 #pragma once
 
-#include <optional>
 #include <vector>
 
 #include "editor/EditFile.h"
-#include "editor/EditRecording.h"
+#include "editor/EditTools.h"
 
 namespace tavrin {
 
 /// What was done between entering the editor and leaving it, and the tools as they were before it.
-struct EditVisit {
-    std::vector<EditItem> items;
-    BrushTable brushes = makeBrushTable();
-    int iActiveButton = kEraseForeground;
-    std::optional<GUI_BrushInfo> well;  ///< the colour well
-    int height = 0;                     ///< of the picture that was edited, in pixels
+struct EditVisit : EditTools {
+    std::vector<EditItem> items = {};
+    int height = 0;  ///< of the picture that was edited, in pixels
 };
 
-/// What brings the tools from the start of one visit to that of another.
-std::vector<EditItem> itemsTo(const EditVisit& wanted, const EditVisit& from);
+/// What brings tools from where they stand to where they stood. It is for a replay: a hand's would select, too.
+/// @param zoom pixels of the picture per point of the view, at home
+std::vector<EditItem> itemsTo(const EditTools& wanted, const EditTools& from, double zoom);
+
+/// What takes a selection off, and leaves whose colours one would compare.
+EditItem selectionItem(const EditTools& tools);
+
+/// The same anchor in a picture so many times as large.
+CopyAnchor scaled(const CopyAnchor& anchor, double times);
 
 /// The same with every scale of the radius `height` over `ofHeight` as large.
 std::vector<EditItem> withScale(std::vector<EditItem> items, std::int64_t height, std::int64_t ofHeight);

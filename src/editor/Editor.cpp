@@ -8,24 +8,29 @@ namespace tavrin {
 Editor::Editor(SystemInfo& info, std::filesystem::path undoFolder)
     : recording(info), undoFiles(std::move(undoFolder)), info_(info) {}
 
-std::string Editor::EnterEditorMode() {
-    if (bShowCursor) return "";
+EditMessage Editor::EnterEditorMode() {
+    if (bShowCursor) return {};
     bShowCursor = true;
+    if (EditMessage problem = enterPicture(); !problem.isEmpty()) return problem;
+    strokes = strokesInside = 0;
+    recording.moveAside();
+    return {};
+}
+
+EditMessage Editor::enterPicture() {
     key_.reset();
     painter_.reset();
-    if (!pixels_.enter(info_)) return "There is no full picture to edit.";
+    if (!pixels_.enter(info_)) return {EditSays::noPicture};
     selection.beginVisit();
     if (!info_.sSilhouetteFileName.load().empty() && info_.bOutputSilhouette && info_.silhouettePicture.isNull())
-        return "Nothing can be edited: the picture of the silhouette cannot be read.";
+        return {EditSays::noSilhouette};
     key_.emplace(info_);
     painter_.emplace(pixels_, *key_);
     pixels_.TakeSnapShot();
     undoFiles.begin();
-    strokes = strokesInside = 0;
     playedScale_ = 1.0;
     strokeMet_ = true;
-    recording.moveAside();
-    return "";
+    return {};
 }
 
 void Editor::ExitEditorMode() {
@@ -168,6 +173,16 @@ void Editor::act(const EditItem& item) {
         case kRadiusScale:
             playedScale_ = static_cast<double>(item.V1) / static_cast<double>(item.V2);
             break;
+        case kVisit:
+            enterAgain();
+            break;
+        case kSelectionFound:
+            putSelection(item);
+            break;
+        case kAnchor:
+        case kAnchorOffset:
+            putAnchor(item);
+            break;
         default:
             break;
     }
@@ -223,7 +238,9 @@ void Editor::changeSelectionRedue(std::int64_t slider, std::int64_t tolerance) {
 }
 
 void Editor::updateSelectColor() {
-    selection.selectColor = toHsv(active().red, active().green, active().blue);
+    selection.iSelectRed = active().red;
+    selection.iSelectGreen = active().green;
+    selection.iSelectBlue = active().blue;
     selectAgain();
 }
 

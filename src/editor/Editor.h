@@ -3,11 +3,12 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <string>
 
 #include "editor/ColorSelection.h"
 #include "editor/EditItem.h"
+#include "editor/EditMessage.h"
 #include "editor/EditRecording.h"
+#include "editor/EditTools.h"
 #include "editor/UndoFiles.h"
 #include "editor/brush/Stamp.h"
 
@@ -30,9 +31,9 @@ class Editor {
     Editor(SystemInfo& info, std::filesystem::path undoFolder);
 
     /// Takes the state's pictures and freezes the key's settings. Nothing happens while it is on.
-    /// @return "" or why nothing can be edited, as one plain line: there is no picture, or that of the silhouette is
-    ///         missing, with which the editor is on and changes nothing
-    std::string EnterEditorMode();
+    /// @return nothing, or why nothing can be edited: there is no picture, or that of the silhouette is missing, with
+    ///         which the editor is on and changes nothing
+    EditMessage EnterEditorMode();
     /// The picture stays as it is, with the pattern of a selection that stands.
     void ExitEditorMode();
 
@@ -49,7 +50,9 @@ class Editor {
     bool picksColor() const { return bSelectColorMode_; }
     /// The colour well, which stamps take their colour from: nothing until somebody has set it.
     const std::optional<GUI_BrushInfo>& well() const { return well_; }
-    void putWell(std::optional<GUI_BrushInfo> well) { well_ = std::move(well); }
+    EditTools tools() const;
+    /// Puts the tools as they stood, but for the brush table.
+    void putTools(const EditTools& tools);
     /// Takes the pattern of a selection off, before the picture goes out, and puts it on again. Also after the editor
     /// was left, as long as the picture is the one that was edited.
     EditedRows DeselectColorRange();
@@ -80,6 +83,8 @@ class Editor {
         std::int32_t x, y;
     };
 
+    EditMessage enterPicture();
+    void enterAgain();
     bool isReady() const { return bShowCursor && key_.has_value(); }
     GUI_BrushInfo& active() { return oBrushInfo[static_cast<std::size_t>(iActiveButton)]; }
     void record(const EditItem& item) { recording.AddReplayItem(item, oBrushInfo, iActiveButton); }
@@ -97,6 +102,8 @@ class Editor {
     void setAnchor();
     void takeColorOfPicture();
     void setWell(const EditItem& color);
+    void putSelection(const EditItem& found);
+    void putAnchor(const EditItem& place);
 
     void selectBrushRedu(std::int64_t key);
     void editSliderChangeRedue(const EditItem& sliders);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr auto kShowEvery = std::chrono::milliseconds(25);  // what has been done by then is shown
 // So many moves that wait are more than a tenth of a second of a hand's: showing costs time, too, and comes less
-// often.
+// often. So it is in a replay, whose strokes lie all over the picture.
 constexpr std::size_t kBehind = 8;
 constexpr auto kShowBehind = std::chrono::milliseconds(100);
 
@@ -43,7 +43,7 @@ std::vector<ChangedRows> EditorDoor::work() {
                 const std::lock_guard lock(mutex_);
                 scheduled_ = !pieces_.empty();
                 if (!scheduled_) break;
-                if (pieces_.size() > kBehind) showEvery = kShowBehind;
+                if (replaying_ || pieces_.size() > kBehind) showEvery = kShowBehind;
                 piece = std::move(pieces_.front());
                 pieces_.pop_front();
             }
@@ -88,10 +88,10 @@ EditorFace EditorDoor::face() {
     face.replaying = replaying_ || waits_;
     if (isSamePortrait()) face.lost = strokesOf(overwritten());
     face.replayable = lost_.empty() ? strokesOf(last_) : strokesOf(lost_);
-    if (problem_.empty()) problem_ = std::exchange(editor_.undoFiles.problem, "");
-    if (problem_.empty() && face.recorded == kMostEditItems && !std::exchange(toldFull_, true))
-        problem_ = "The recording is full: what is done from here on stays in the picture, but no replay has it.";
-    face.problem = std::exchange(problem_, "");
+    if (problem_.isEmpty()) problem_ = std::exchange(editor_.undoFiles.problem, {});
+    if (problem_.isEmpty() && face.recorded == kMostEditItems && !std::exchange(toldFull_, true))
+        problem_ = {EditSays::recordingFull};
+    face.problem = std::exchange(problem_, {});
     return face;
 }
 
@@ -114,10 +114,6 @@ EditVisit EditorDoor::present() const {
     return visit;
 }
 
-EditVisit EditorDoor::tools() const {
-    return {{}, editor_.oBrushInfo, editor_.iActiveButton, editor_.well()};
-}
-
 // The recording of the visit that has ended is about to be moved aside.
 void EditorDoor::keepVisit() {
     if (editor_.recording.count() == 0) return;
@@ -133,11 +129,13 @@ double EditorDoor::homeZoom() const {
 
 EditedRows EditorDoor::enterNow() {
     if (editor_.bShowCursor) return {};
-    problem_ = info_.whyNotFinished(Resolution::full);
-    if (!problem_.empty() || info_.iCurrentThreadCount <= info_.iNewThreadCount) return {};
+    const std::string unfinished = info_.whyNotFinished(Resolution::full);
+    if (!unfinished.empty()) problem_ = verbatim(unfinished);
+    if (!unfinished.empty() || info_.iCurrentThreadCount <= info_.iNewThreadCount) return {};
     keepVisit();
     if (isAnother()) forgetOverwritten();
     number_ = info_.iCurrentThreadCount;
+    wantedSeed_.reset();
     portrait_ = info_.pForegroundBitmapInfo->sSourceImageFullPath.load();
     problem_ = enterEditor();
     // A visit in which nothing was done does not cost the recording of the one before.
@@ -155,12 +153,12 @@ void EditorDoor::forgetOverwritten() {
     if (!isSamePortrait()) lost_.clear();
 }
 
-std::string EditorDoor::enterEditor() {
+EditMessage EditorDoor::enterEditor() {
     const bool nothingYet = visits_.empty() && lost_.empty() && last_.items.empty();
     if (nothingYet || frameHeight_ <= 0.0) frameHeight_ = info_.geometry(Resolution::full).height;
     editor_.setScreenZoom(homeZoom());
-    const std::string problem = editor_.EnterEditorMode();
-    start_ = tools();
+    const EditMessage problem = editor_.EnterEditorMode();
+    start_ = {editor_.tools(), {}, 0};
     start_.height = info_.geometry(Resolution::full).height;
     toldFull_ = false;
     stepSeen_ = -1;
@@ -178,6 +176,12 @@ void EditorDoor::leave() {
         }
         return {};
     }});
+}
+
+// Who starts there makes the same picture.
+void EditorDoor::beginPass() {
+    if (wantedSeed_) info_.randomSeeds.startAt(*wantedSeed_);
+    seed_ = info_.randomSeeds.upcoming();
 }
 
 // What waits was meant for the picture that goes. Of a replay all that it would have brought comes back, not its
@@ -221,6 +225,11 @@ void EditorDoor::applyAt(std::int64_t kind, double x, double y, std::int64_t cha
           false, true});
 }
 
+// Of what no hand did.
+void EditorDoor::record(const EditItem& item) {
+    editor_.recording.AddReplayItem(item, editor_.oBrushInfo, editor_.iActiveButton);
+}
+
 void EditorDoor::armEyeDropper(bool on) {
     push({[this, on]() -> EditedRows {
               editor_.armEyeDropper(on && editor_.bShowCursor);
@@ -255,6 +264,8 @@ void EditorDoor::withoutPattern(const std::function<void()>& save) {
     loop_.edit([this, published] {
         const EditedRows rows = isAnother() ? EditedRows{} : editor_.DeselectColorRange();
         patternOff_ = !rows.isEmpty();
+        // It does not come back once the editor was left, which a replay does, too.
+        if (patternOff_ && !editor_.bShowCursor) record(selectionItem(editor_.tools()));
         return published(rows);
     });
     save();

@@ -29,7 +29,7 @@ struct EditorFace {
     int lost = 0;                  ///< strokes that the present picture was made without
     bool replaying = false;        ///< or about to
     bool scalesRadius = false;
-    std::string problem;  ///< what went wrong, as one plain line, once
+    EditMessage problem;  ///< what went wrong, once
 };
 
 /// The editor beside a running loop. All that is asked of it is done as an edit of the loop's, in turn, so it never
@@ -68,7 +68,8 @@ class EditorDoor {
 
     /// From any thread.
     bool isOpen() const { return open_; }
-    /// The loop's thread: a pass begins.
+    /// The loop's thread: a pass begins, and closes the editor where that is open.
+    void beginPass();
     void closeForPass();
 
   private:
@@ -84,15 +85,16 @@ class EditorDoor {
     bool isAnother() const { return number_ != info_.iCurrentThreadCount; }
     bool isSamePortrait() const { return portrait_ == info_.pForegroundBitmapInfo->sSourceImageFullPath.load(); }
     EditedRows doNow(const EditItem& item);
+    void record(const EditItem& item);
     EditedRows enterNow();
-    std::string enterEditor();
+    EditMessage enterEditor();
     void keepVisit();
     void forgetOverwritten();
     double homeZoom() const;
     EditedRows replayNow();
     EditedRows playNow(EditFile file);
     EditVisit visitOf(const EditFile& file) const;
-    EditVisit tools() const;
+    void playTools(const EditVisit& visit);
     EditedRows makeAnew(const EditFile& file);
     void begin(const EditVisit& visit);
     void endPlaying();
@@ -119,12 +121,15 @@ class EditorDoor {
     std::string portrait_;           // and its source
     double frameHeight_ = 0.0;       // points of the view that recorded positions go by
     bool replaying_ = false, toldFull_ = false;
-    bool waits_ = false;  // for the picture that is made anew, to play on it
+    int strokes_ = 0, inside_ = 0;  // of what is played; while a visit is, without its own
+    bool waits_ = false;            // for the picture that is made anew, to play on it
     bool scalesRadius_ = false, scaled_ = false;
     bool patternOff_ = false;  // for as long as the picture goes out
     std::int32_t stepSeen_ = -1;
     std::uintmax_t undoBytes_ = 0;
-    std::string problem_;
+    EditMessage problem_;
+    std::uint64_t seed_ = 1;                   // where random numbers of the present pass began
+    std::optional<std::uint64_t> wantedSeed_;  // and where they shall, until its picture stands
 };
 
 }  // namespace tavrin

@@ -23,6 +23,7 @@ EditedRows EditorDoor::replayNow() {
     if (editor_.recording.count() > 0) whole_.push_back(present());
     whole_.insert(whole_.end(), toPlay_.begin(), toPlay_.end());
     replaying_ = true;
+    strokes_ = inside_ = 0;
     begin(toPlay_.front());
     push({[this] { return tick(); }, false, true});
     return {};
@@ -36,7 +37,7 @@ EditedRows EditorDoor::playNow(EditFile file) {
         frameHeight_ = frame;
         editor_.setScreenZoom(homeZoom());
     }
-    if (file.seed) return makeAnew(file);
+    if (file.seed && *file.seed != seed_) return makeAnew(file);
     lost_ = {visitOf(file)};
     return replayNow();
 }
@@ -49,7 +50,7 @@ EditedRows EditorDoor::makeAnew(const EditFile& file) {
     last_ = lost_.back();
     editor_.recording.clear();
     waits_ = true;
-    info_.randomSeeds.startAt(*file.seed);
+    wantedSeed_ = file.seed;
     info_.StartUpdate();
     return {};
 }
@@ -62,7 +63,8 @@ EditVisit EditorDoor::visitOf(const EditFile& file) const {
     EditVisit visit;
     visit.height = file.height;
     for (EditItem item : file.items) {
-        if (item.kind == kMouseDown || item.kind == kMouseDragged || item.kind == kKeyPressed) {
+        if (item.kind == kMouseDown || item.kind == kMouseDragged || item.kind == kKeyPressed ||
+            item.kind == kAnchorOffset || (item.kind == kAnchor && item.V1 >= 0)) {
             item.V1 = scaled(item.V1);
             item.V2 = scaled(item.V2);
         }
@@ -86,18 +88,29 @@ void EditorDoor::offer(EditFile file) {
 }
 
 // Behind strokes of this visit the way to the other tools is recorded, too.
-void EditorDoor::begin(const EditVisit& visit) {
+void EditorDoor::playTools(const EditVisit& visit) {
+    const int height = info_.geometry(Resolution::full).height;
+    EditTools wanted = visit;
+    if (visit.height > 0) wanted.anchor = scaled(visit.anchor, static_cast<double>(height) / visit.height);
+    editor_.setScreenZoom(homeZoom());
     if (editor_.recording.count() == 0) {
-        start_ = visit;
-        start_.items.clear();
-        start_.height = info_.geometry(Resolution::full).height;
-        editor_.setScreenZoom(homeZoom());
-        editor_.putWell(visit.well);
-    } else {
-        editor_.apply({kZoomHome}, EditOrigin::live);
-        for (const EditItem& item : itemsTo(visit, tools()))
-            editor_.apply(item, EditOrigin::live);
+        start_ = {wanted, {}, height};
+        return editor_.putTools(wanted);
     }
+    EditTools present = editor_.tools();
+    if (editor_.selection.bSelected) present.selection.iSelectionMode = -1;  // so that it is taken off
+    std::vector<EditItem> items = itemsTo(wanted, present, homeZoom());
+    items.insert(items.begin(), {kZoomHome});
+    for (const EditItem& item : items) {
+        record(item);
+        editor_.apply(item, EditOrigin::replay);
+    }
+}
+
+void EditorDoor::begin(const EditVisit& visit) {
+    strokes_ -= editor_.strokes;
+    inside_ -= editor_.strokesInside;
+    playTools(visit);
     const int height = info_.geometry(Resolution::full).height;
     scaled_ = scalesRadius_ && visit.height > 0 && visit.height != height;
     if (scaled_) editor_.apply({kRadiusScale, height, visit.height}, EditOrigin::live);
@@ -108,6 +121,8 @@ void EditorDoor::begin(const EditVisit& visit) {
 
 // What a hand does behind it has its own size again.
 void EditorDoor::endPlaying() {
+    strokes_ += editor_.strokes;
+    inside_ += editor_.strokesInside;
     if (std::exchange(scaled_, false)) editor_.apply({kRadiusScale, 1, 1}, EditOrigin::live);
 }
 
@@ -121,6 +136,8 @@ EditedRows EditorDoor::tick() {
         replaying_ = !toPlay_.empty();
         if (!replaying_) {
             lost_.clear();
+            if (strokes_ > inside_)
+                problem_ = {EditSays::strokesOutside, {verbatim(strokes_ - inside_), verbatim(strokes_)}};
         } else {
             keepVisit();
             editor_.ExitEditorMode();
@@ -138,7 +155,9 @@ void EditorDoor::askForFile(std::function<void(const EditFile&)> take) {
         if (editor_.recording.count() > 0) done.push_back(present());
         if (done.empty()) done = lost_;
         const PassGeometry size = info_.geometry(Resolution::full);
-        take(fileOf(done, size.width, size.height, homeZoom()));
+        EditFile file = fileOf(done, size.width, size.height, homeZoom());
+        file.seed = seed_;
+        take(file);
         return {};
     }});
 }

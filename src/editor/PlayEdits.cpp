@@ -50,9 +50,8 @@ PlayedEdits playEdits(SystemInfo& info, const EditFile& file, bool scaleRadius,
     editor.setScreenZoom(file.zoom * scale);
     if (scaleRadius) editor.setRadiusScale(scale);
     editor.undoFiles.keepFiles(file.undoes());
-    played.problem = editor.EnterEditorMode();
-    if (!played.problem.empty()) {
-        played.problem = file.path + ": " + played.problem;
+    if (const EditMessage problem = editor.EnterEditorMode(); !problem.isEmpty()) {
+        played.problem = file.path + ": " + englishText(problem);
         return played;
     }
     warnOfFile(file, size, played.warnings);
@@ -61,7 +60,8 @@ PlayedEdits playEdits(SystemInfo& info, const EditFile& file, bool scaleRadius,
     EditedRows changed;
     while (editor.OnReplayTimer(changed)) {
     }
-    if (!editor.undoFiles.problem.empty()) played.warnings.push_back(editor.undoFiles.problem);
+    const EditMessage& undone = editor.undoFiles.problem;
+    if (!undone.isEmpty()) played.warnings.push_back(englishText(undone));
     if (const int outside = editor.strokes - editor.strokesInside; outside > 0) {
         played.warnings.push_back(file.path + ": " + counted(static_cast<std::size_t>(outside), "stroke", "strokes") +
                                   " of " + std::to_string(editor.strokes) + " did not meet the picture.");

@@ -27,12 +27,33 @@ std::size_t recordBytes(const EditorPixels& pixels) {
     return kRowNumberBytes + rowBytes(pixels);
 }
 
+EditMessage whyNotWritten(int code, const std::string& folder) {
+    switch (code) {
+        case ENOSPC:
+        case EDQUOT:
+            return {EditSays::diskFull};
+        case ENOENT:
+            return {EditSays::noFolder, {verbatim(folder)}};
+        case ENOTDIR:
+            return {EditSays::notAFolder, {verbatim(folder)}};
+        case EACCES:
+        case EPERM:
+            return {EditSays::mayNotWrite, {verbatim(folder)}};
+        case EROFS:
+            return {EditSays::onlyReadable, {verbatim(folder)}};
+        case EFBIG:
+            return {EditSays::largerThanAllowed};
+        default:
+            return verbatim(writeProblem(code, folder));
+    }
+}
+
 }  // namespace
 
 void UndoFiles::begin() {
     iSaveSnapShot = iMaxSaveSnapShot = 0;
     canUndo = canRedo = false;
-    problem.clear();
+    problem = {};
     lost_.clear();
 }
 
@@ -62,7 +83,7 @@ bool UndoFiles::write(const fs::path& path, const EditorPixels& pixels, const st
     if (written) code = errno;
     fs::remove(path, ignored);
     logError("Open of testout for writing failed");
-    problem = "This step cannot be undone: " + writeProblem(code, folder_.string()) + ".";
+    problem = {EditSays::stepNotKept, {whyNotWritten(code, folder_.string())}};
     return false;
 }
 
@@ -92,7 +113,7 @@ UndoFiles::Records UndoFiles::read(const fs::path& path, const EditorPixels& pix
         before = row;
     }
     if (whole) return records;
-    problem = "This step stays: its file " + path.string() + " cannot be read.";
+    problem = {EditSays::stepUnreadable, {verbatim(path.string())}};
     return {};
 }
 
@@ -136,7 +157,7 @@ bool UndoFiles::undo(EditorPixels& pixels) {
     const std::int32_t step = iSaveSnapShot;
     if (step > 0 && lost_.contains(step)) {
         // Why it could not is not yet told where a file of edits is played in one go.
-        if (problem.empty()) problem = "The last stroke cannot be undone: its file could not be written.";
+        if (problem.isEmpty()) problem = {EditSays::lastStepNotKept};
         return false;
     }
     const bool done = step > 0 && undoStep(pixels, step);

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "editor/EditMessage.h"
 #include "editor/brush/EditorPixels.h"
 
 namespace tavrin {
@@ -41,8 +42,8 @@ class UndoFiles {
     std::int32_t iSaveSnapShot = 0;         ///< step that the picture stands on
     std::int32_t iMaxSaveSnapShot = 0;      ///< highest step that exists
     bool canUndo = false, canRedo = false;  ///< state of the two buttons
-    /// What went wrong last, as one plain line; empty for nothing. Whoever tells it clears it.
-    std::string problem;
+    /// What went wrong last. Whoever tells it clears it.
+    EditMessage problem;
 
   private:
     std::filesystem::path fileOf(const char* name, std::int32_t step) const;

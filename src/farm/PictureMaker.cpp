@@ -135,7 +135,7 @@ MadePicture PictureMaker::make(const BatchJob& job, const ReadPicture& foregroun
     if (!info) return made;
     ReadEdits edits;
     if (const std::string path = editsOf(job); !path.empty()) edits = readEditFile(path);
-    made.problem = edits.problem;
+    made.problem = englishText(edits.problem);
     if (!made.problem.empty()) return made;
     if (edits.file.seed) info->randomSeeds.startAt(*edits.file.seed);
     made.problem = textProblem(*info);

@@ -3,6 +3,7 @@
 #include <new>
 #include <utility>
 
+#include "core/BackgroundThread.h"
 #include "core/raster/CopyPixels.h"
 #include "core/state/NamedPictures.h"
 #include "pipeline/KeyInputs.h"
@@ -51,6 +52,7 @@ bool PreviewMaker::goesOn() {
 bool PreviewMaker::run(std::span<const Stage> stages) {
     for (const Stage& stage : stages) {
         if (!goesOn()) return false;
+        const GivingWay within(goesOn_);
         runStages({&stage, 1}, *info_, kPreview);
     }
     return true;
@@ -70,6 +72,11 @@ bool PreviewMaker::load(BitmapInfo& record) {
     return problem_.empty() && ChangeOrgBitmap(*info_, record, std::move(read));
 }
 
+void PreviewMaker::drawLayer(BitmapInfo& record) {
+    const GivingWay within(goesOn_);
+    drawPreviewLayer(*info_, record);
+}
+
 /// What no background changes: its size, source, place and layer.
 bool PreviewMaker::preparePortrait() {
     SystemInfo& info = *info_;
@@ -81,8 +88,8 @@ bool PreviewMaker::preparePortrait() {
     problem_ = ChangeImageSize(info);
     if (!problem_.empty()) return false;
     if (!load(foreground) || !goesOn()) return false;
-    placeForeground(info);
-    drawPreviewLayer(info, foreground);
+    placeForeground(info);  // whole: what it finds about the place goes into the state
+    drawLayer(foreground);
     if (!run(foregroundStages())) return false;
     foreground.bOrgFileChange = foreground.bScaleChange = false;
     findings_ = {info, info, info};
@@ -93,7 +100,7 @@ bool PreviewMaker::preparePortrait() {
 bool PreviewMaker::drawBackground() {
     BitmapInfo& background = *info_->pBackgroundBitmapInfo;
     if (!load(background) || !goesOn()) return false;
-    drawPreviewLayer(*info_, background);
+    drawLayer(background);
     keep(info_->geometry(kPreview), background.bytes(kPreview), background_.pixels);
     background_.place = placeOf(background);
     background_.isThere = true;
@@ -125,6 +132,7 @@ bool PreviewMaker::keyAnew() {
             if (!run({&stage, 1})) return false;
         } else {
             if (!goesOn()) return false;
+            const GivingWay within(goesOn_);
             combinePreviewOver(*info_, subject_);
         }
     }
@@ -174,6 +182,9 @@ QImage PreviewMaker::over(const std::string& background) {
     forgetUnnamedPictures(info);
     try {
         if (!make()) return {};
+    } catch (const GivenUp&) {
+        givenUp_ = true;
+        return {};
     } catch (const std::bad_alloc&) {
         failForMemory(info, "picture");
     }

@@ -24,7 +24,8 @@ namespace tavrin {
 class PreviewMaker {
   public:
     /// @param state with settings, size and portrait named, and nothing read yet
-    /// @param goesOn asked before each step; false gives the picture up. Null: none is given up.
+    /// @param goesOn asked before each step, on a background thread also before each piece of rows; false gives the
+    ///               picture up. Null: none is given up.
     explicit PreviewMaker(std::unique_ptr<SystemInfo> state, std::function<bool()> goesOn = {});
 
     /// Changes settings for the pictures to come. The flags that it raises tell which layers are made anew.
@@ -71,6 +72,7 @@ class PreviewMaker {
     bool load(BitmapInfo& record);
     bool preparePortrait();
     bool prepareBackground();
+    void drawLayer(BitmapInfo& record);
     bool drawBackground();
     bool key();
     bool keyAnew();

@@ -1,5 +1,6 @@
 #include "pipeline/StartUpPictures.h"
 
+#include "core/BackgroundThread.h"
 #include "core/files/Places.h"
 #include "core/image/ImageReader.h"
 #include "formats/Installation.h"
@@ -36,6 +37,7 @@ void loadSketchPictures(StartUpPictures& pictures) {
         {&pictures.LightParchment, "lightParchment.jpg"},
     };
     for (const auto& [picture, file] : wanted) {
+        GivingWay::ask();  // each takes some milliseconds to decode
         if (!picture->rawData) *picture = loadPicture(shippedPicture("Texture/Sketch/" + std::string(file)));
     }
 }

@@ -23,7 +23,8 @@ namespace tavrin {
 
 namespace {
 
-constexpr int kDraftSide = 640;  // a preview has about 300,000 pixels
+constexpr int kDraftSide = 640;           // a preview has about 300,000 pixels
+constexpr std::size_t kFewestForTwo = 4;  // or what both have to make first would cost more than it brings
 constexpr auto kLookAgain = std::chrono::milliseconds(20);
 
 /// The toolkit's own scaling starts threads for many pixels, and they would keep this one's priority.
@@ -169,7 +170,8 @@ std::unique_ptr<SystemInfo> stateFor(const Scene& scene, const SideWish& wish) {
 SidePictures::SidePictures(std::function<bool()> isIdle, std::function<void(Made)> done)
     : isIdle_(std::move(isIdle)),
       done_(std::move(done)),
-      thread_([this](const std::stop_token& ended) { work(ended); }) {}
+      thread_([this](const std::stop_token& ended) { work(ended, 1); }),
+      second_([this](const std::stop_token& ended) { work(ended, kFewestForTwo); }) {}
 
 SidePictures::~SidePictures() = default;
 
@@ -188,13 +190,15 @@ void SidePictures::want(std::vector<SideWish> wishes) {
     changed_.notify_all();
 }
 
-void SidePictures::work(const std::stop_token& ended) {
+/// @param fewest wishes that have to wait for this thread to take one
+void SidePictures::work(const std::stop_token& ended, std::size_t fewest) {
     becomeBackgroundThread();
     LastMaker last{isIdle_, 0, {}, {}, {}};
     std::unique_lock lock(mutex_);
     while (!ended.stop_requested()) {
-        if (wishes_.empty()) last.maker.reset();
-        if (!changed_.wait(lock, ended, [this] { return !wishes_.empty(); })) return;
+        const auto isNeeded = [this, fewest] { return wishes_.size() >= fewest; };
+        if (!isNeeded()) last.maker.reset();
+        if (!changed_.wait(lock, ended, isNeeded)) return;
         if (!isIdle_()) {
             changed_.wait_for(lock, ended, kLookAgain, [] { return false; });
             continue;
@@ -206,7 +210,10 @@ void SidePictures::work(const std::stop_token& ended) {
         lock.unlock();
         const bool isMade = last.make(scene, made);
         const SideWish again = isMade ? SideWish() : made.wish;
-        if (isMade) done_(std::move(made));
+        if (isMade) {
+            const std::lock_guard one(telling_);
+            done_(std::move(made));
+        }
         lock.lock();
         if (!isMade && wanted == wanted_) wishes_.insert(wishes_.begin(), again);
     }

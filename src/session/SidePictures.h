@@ -44,8 +44,8 @@ struct SideWish {
 
 /// Makes pictures beside the one under work, on a thread of its own with a low priority and while the loop has
 /// nothing to do: portraits that are not open, as they would be, and one portrait over many backgrounds and with many
-/// looks, keyed once. A picture under work is given up between two of its steps when the loop has something to do,
-/// and begun again after it.
+/// looks, keyed once. Many of them have a second thread, which keys once more. A picture under work is given up
+/// within a piece of rows when the loop has something to do, and begun again after it.
 class SidePictures {
   public:
     struct Made {
@@ -55,7 +55,9 @@ class SidePictures {
         std::string problem;
         std::string missing;  ///< what names a file that the look wants and that cannot be read, "" without any
     };
-    /// @param isIdle whether the loop has nothing to do; asked on this thread, as `done` is called on it
+    /// @param isIdle whether the loop has nothing to do; asked on these threads, as `done` is called on them, one
+    /// call
+    ///               at a time
     SidePictures(std::function<bool()> isIdle, std::function<void(Made)> done);
     ~SidePictures();
     SidePictures(const SidePictures&) = delete;
@@ -67,7 +69,7 @@ class SidePictures {
     void want(std::vector<SideWish> wishes);
 
   private:
-    void work(const std::stop_token& ended);
+    void work(const std::stop_token& ended, std::size_t fewest);
 
     const std::function<bool()> isIdle_;
     const std::function<void(Made)> done_;
@@ -77,7 +79,8 @@ class SidePictures {
     std::uint64_t number_ = 0;
     std::vector<SideWish> wishes_;
     std::uint64_t wanted_ = 0;  // counts what was told from outside
-    std::jthread thread_;       // the last, so that it ends first
+    std::mutex telling_;
+    std::jthread thread_, second_;  // the last, so that they end first
 };
 
 /// A state as it would be with the portrait of a wish open; nothing of it is read yet.

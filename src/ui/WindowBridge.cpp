@@ -11,6 +11,16 @@
 
 namespace tavrin {
 
+namespace {
+
+/// Rows of an edit that newer ones paint over.
+bool isWithin(const PublishedRows& old, const PublishedRows& rows) {
+    return old.edited && old.resolution == rows.resolution && old.height == rows.height &&
+           old.firstRow >= rows.firstRow && old.firstRow + old.rowCount <= rows.firstRow + rows.rowCount;
+}
+
+}  // namespace
+
 WindowBridge::WindowBridge(QObject* parent) : QObject(parent) {}
 
 void WindowBridge::repaint(const PublishedRows& rows) {
@@ -20,6 +30,7 @@ void WindowBridge::repaint(const PublishedRows& rows) {
         first = pending_.empty();
         // A new preview, or the whole full picture, makes everything before it stale; rows of an edit belong to it.
         if (!rows.edited && (rows.isPreview() || rows.rowCount == rows.height)) pending_.clear();
+        if (rows.edited) std::erase_if(pending_, [&](const PublishedRows& old) { return isWithin(old, rows); });
         pending_.push_back(rows);
     }
     if (first) emit published();
@@ -31,6 +42,7 @@ std::vector<PublishedRows> WindowBridge::takePublished() {
 }
 
 void WindowBridge::enableControls(bool enabled, bool hostApplication) {
+    if (!enabled && editor_) editor_->beginPass();
     emit controlsEnabled(enabled, hostApplication);
 }
 

@@ -18,7 +18,7 @@ struct EditScene : KeyScene {
         info.iBaseBlueArray.fill(60.0);
     }
 
-    void enter() { ASSERT_EQ(editor.EnterEditorMode(), ""); }
+    void enter() { ASSERT_TRUE(editor.EnterEditorMode().isEmpty()); }
     EditedRows live(const EditItem& item) { return editor.apply(item, EditOrigin::live); }
     void choose(char key) { live({kBrushChosen, key}); }
     /// Slider, radius, hardness and transparency of the active tool, 0 to 100.

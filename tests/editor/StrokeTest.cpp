@@ -123,19 +123,19 @@ TEST(Undo, AStepWithoutItsFileStaysAndSaysSo) {
     scene.click(0, 0);
     fs::remove_all(scene.folder.path());
     scene.click(1, 0);  // the folder is made again
-    EXPECT_EQ(scene.editor.undoFiles.problem, "");
+    EXPECT_TRUE(scene.editor.undoFiles.problem.isEmpty());
     scene.live({kUndo});
     EXPECT_EQ(scene.row(0).substr(1), "...");
     scene.live({kUndo});  // the first step's file went with the folder
-    EXPECT_NE(scene.editor.undoFiles.problem.find("Snapshot1.bin"), std::string::npos);
+    EXPECT_NE(englishText(scene.editor.undoFiles.problem).find("Snapshot1.bin"), std::string::npos);
     EXPECT_EQ(scene.out(0, 0)[0], 203);
     EXPECT_EQ(scene.editor.undoFiles.iSaveSnapShot, 1);
 
-    scene.editor.undoFiles.problem.clear();
+    scene.editor.undoFiles.problem = {};
     fs::remove_all(scene.folder.path());
     test::writeFile(scene.folder.path().string(), "in the way");
     scene.click(2, 0);
-    EXPECT_NE(scene.editor.undoFiles.problem, "");
+    EXPECT_FALSE(scene.editor.undoFiles.problem.isEmpty());
     EXPECT_FALSE(scene.editor.undoFiles.canUndo);
     scene.live({kUndo});
     EXPECT_EQ(scene.out(2, 0)[0], 203);
@@ -191,11 +191,12 @@ TEST(Undo, WithoutRoomForItsFileAStrokeStaysAndSaysSo) {
     {
         const test::SmallDisk limit(1000);  // three rows
         scene.click(40, 20);
-        EXPECT_NE(scene.editor.undoFiles.problem.find("This step cannot be undone: the file would be larger"),
-                  std::string::npos)
-            << scene.editor.undoFiles.problem;
+        EXPECT_NE(
+            englishText(scene.editor.undoFiles.problem).find("This step cannot be undone: the file would be larger"),
+            std::string::npos)
+            << englishText(scene.editor.undoFiles.problem);
         scene.live({kUndo});
-        EXPECT_NE(scene.editor.undoFiles.problem.find("larger"), std::string::npos);  // the reason stays
+        EXPECT_NE(englishText(scene.editor.undoFiles.problem).find("larger"), std::string::npos);  // the reason stays
     }
     const std::vector<Pixel> second = scene.combined;
     EXPECT_NE(second, first);

@@ -16,6 +16,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include "support/Faults.h"
+#include "support/SmallDisk.h"
 #include "ui/WindowTest.h"
 #include "ui/bind/Groove.h"
 
@@ -183,6 +185,37 @@ TEST_F(BatchTest, WhatFailsIsListedWithoutADialogAndMadeAgain) {
     ASSERT_TRUE(waitForEnd());
     EXPECT_EQ(list("listBatchFailures")->count(), 0);
     EXPECT_EQ(made(), (QStringList{"adasea.jpg", "bensea.jpg"}));
+}
+
+// What was there stays, what could not be written is listed with its reason, and comes when there is room again.
+TEST_F(BatchTest, AFullDiskIsSaidInThePanelAndLosesNothing) {
+    settings().iLastBatchLastOutputFileType = 2;
+    settings().iLastBatchLastOutputStyle = 1;
+    for (const char* start : {"buttonBatchStart", "buttonBatchFast"}) {
+        SCOPED_TRACE(start);
+        fs::remove_all(folder_.file("out"));
+        fs::create_directory(folder_.file("out"));
+        const std::string other = folder_.file("out/other.png");
+        std::ofstream(other) << "somebody's";
+        fillFolders();
+        test::savePng(test::noisePicture(240, 300, 5), folder_.file("bg/sea.png"));  // some 200,000 bytes
+        {
+            const test::SmallDisk disk(60'000);  // enough for what the program keeps for itself, not for a picture
+            press(start);
+            ASSERT_TRUE(waitForEnd());
+        }
+        EXPECT_EQ(window_->findChildren<QMessageBox*>().size(), 0);
+        ASSERT_EQ(list("listBatchFailures")->count(), 2) << rows("listBatchFailures").join('|').toStdString();
+        for (const QString& row : rows("listBatchFailures"))
+            EXPECT_TRUE(row.contains("larger than this disk allows")) << row.toStdString();
+        EXPECT_EQ(made(), QStringList{"other.png"});
+        EXPECT_EQ(test::partsIn(folder_.file("out")), std::vector<std::string>{});
+        press("buttonBatchAgain");
+        ASSERT_TRUE(waitForEnd());
+        EXPECT_EQ(list("listBatchFailures")->count(), 0) << rows("listBatchFailures").join('|').toStdString();
+        EXPECT_EQ(made(), (QStringList{"adasea.png", "bensea.png", "other.png"}));
+        EXPECT_EQ(fs::file_size(other), 10u);
+    }
 }
 
 TEST_F(BatchTest, FoldersThatAreNotThereAreSaidInThePanelAndNothingBegins) {

@@ -208,10 +208,19 @@ TEST_F(MainWindowTest, RowsOfAnEditChangeThePictureThatIsShown) {
     EXPECT_EQ(window_->view()->fullPicture(), expected);
 
     WindowBridge bridge;
+    PublishedRows pass = rows;
+    pass.edited = false;
+    bridge.repaint(pass);
     bridge.repaint(rows);
     rows.rowCount = rows.height;
+    bridge.repaint(rows);  // paints over the edit before it, and over nothing else
+    rows.rowCount = 2;
     bridge.repaint(rows);
-    EXPECT_EQ(bridge.takePublished().size(), 2u) << "an edit replaces nothing that comes before it";
+    const std::vector<PublishedRows> published = bridge.takePublished();
+    ASSERT_EQ(published.size(), 3u);
+    EXPECT_FALSE(published[0].edited);
+    EXPECT_EQ(published[1].rowCount, rows.height);
+    EXPECT_EQ(published[2].rowCount, 2);
 }
 
 TEST_F(MainWindowTest, OpenedFilesAreRememberedAmongTheProgramsOwnFiles) {

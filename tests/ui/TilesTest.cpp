@@ -98,6 +98,9 @@ TEST_F(TilesTest, EveryTileDoesWhatItsNameSays) {
     };
     for (const Case& one : {Case{"tilesFrame", "tileFrameHeart", "frame.iFrameType", "3"},
                             Case{"tilesFrame", "tileFrameNone", "frame.iFrameType", "0"},
+                            Case{"tilesFrameSecond", "tileFrameHeartSecond", "frameOverlay.iFrameType", "3"},
+                            Case{"tilesFrameSecond", "tileFrameNoneSecond", "frameOverlay.iFrameType", "0"},
+                            Case{"tilesFrameFillSecond", "tileFillBlurSecond", "frameOverlay.iFrameMode", "2"},
                             Case{"tilesFrameFill", "tileFillBlur", "frame.iFrameMode", "2"},
                             Case{"tilesLighting", "tileLightGlow", "iLightingMode", "4"},
                             Case{"tilesCartoon", "tileCartoonPencil", "iCartoonEffectType", "3"},
@@ -111,6 +114,9 @@ TEST_F(TilesTest, EveryTileDoesWhatItsNameSays) {
         EXPECT_TRUE(tile(one.tile)->isChecked());
     }
     EXPECT_EQ(value("frame.iFrameType"), "1") << "a filling is seen on a frame";
+    openRow("tilesFrameSecond");
+    press("tileFrameJaggedSecond");
+    EXPECT_EQ(value("frame.iFrameType"), "1") << "of the second frame";
     EXPECT_EQ(value("combined.sliderAdjustBaseGreen"), "110") << "as the radio of the quick settings sets it";
     std::set<QString> names;
     for (const Tile* one : window_->panel()->findChildren<Tile*>()) {

@@ -23,7 +23,7 @@ Refusal readEdits(const EditOptions& options, EditFile& edits) {
     if (options.file.empty()) return {};
     ReadEdits read = readEditFile(options.file);
     edits = std::move(read.file);
-    return read.problem.empty() ? Refusal{} : Refusal{kFailed, read.problem};
+    return read.problem.isEmpty() ? Refusal{} : Refusal{kFailed, englishText(read.problem)};
 }
 
 std::string editsUndoFolder() {

@@ -76,8 +76,8 @@ void printCounts(const EditFile& file, const EditCounts& counts) {
 
 int editsInfo(const std::string& path, bool json) {
     const ReadEdits read = readEditFile(path);
-    if (!read.problem.empty()) {
-        complain(read.problem);
+    if (!read.problem.isEmpty()) {
+        complain(englishText(read.problem));
         return kFailed;
     }
     const EditCounts counts = countEdits(read.file);

@@ -25,6 +25,7 @@ struct Band {
 
     void operator()(const Range& piece) const {
         for (int y = piece.begin(); y < piece.end(); y += grain) {
+            GivingWay::ask();
             if (stopped.load(std::memory_order_acquire)) break;
             if (context.isSuperseded()) {
                 stopped.store(true, std::memory_order_relaxed);

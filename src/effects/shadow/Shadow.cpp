@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/BackgroundThread.h"
 #include "core/raster/Pixels.h"
 #include "effects/shadow/ShadowMask.h"
 
@@ -128,6 +129,7 @@ void darken(const RunContext& context, const ShadowTone& tone, const ShadowColum
         ColumnSums sums(tone, mask, first);
         for (int y = first; y < last; ++y) {
             if (y != first) {
+                GivingWay::ask();
                 if (context.isSuperseded()) return;
                 sums.moveDown();
             }

@@ -5,6 +5,7 @@
 #include <new>
 #include <vector>
 
+#include "core/BackgroundThread.h"
 #include "core/Log.h"
 #include "core/raster/CopyPixels.h"
 #include "core/raster/QuadraticWindow.h"
@@ -100,6 +101,7 @@ class StarRun {
         if (!mask_.data()) throw std::bad_alloc();
         if (!findLights()) return;
         for (int y = 0; y < params_.height; ++y) {
+            GivingWay::ask();
             if (context_.isSuperseded() || !visitRow(y)) return;
         }
         if (params_.showSelected) runRows(context_, params_.height, 32, [&](int y) { showMask(y); });
@@ -141,6 +143,7 @@ class StarRun {
                                               params_.armWidth, params_.points, params_.startAngle);
         }
         const std::int64_t length = std::max<std::int64_t>(dy, static_cast<std::int64_t>(dy) * params_.size * 3 / 50);
+        GivingWay::ask();
         if (context_.isSuperseded()) return false;
         if (painter_->DrawStar({cx, cy, length, std::max(dx, 3)})) return true;
         logError("There are more or larger stars than can be drawn in reasonable time; some are left out.");

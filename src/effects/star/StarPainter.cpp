@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/BackgroundThread.h"
+
 namespace tavrin {
 
 namespace {
@@ -39,6 +41,7 @@ bool StarPainter::DrawStar(const StarLight& light) {
         const double offset = i * 0.5;
         const int strength = static_cast<int>(255.0 - std::abs(offset) * 255.0 / half);
         ink.opacity = static_cast<int>(strength * 0.5);
+        GivingWay::ask();
         if (ink.opacity > 0) DrawStarLine(ink, offset, static_cast<double>(light.length));
     }
     return true;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/BackgroundThread.h"
 #include "core/raster/Pixels.h"
 #include "key/pixel/ChannelRoles.h"
 #include "key/pixel/ColorDistance.h"
@@ -127,6 +128,7 @@ bool GreenGuard::drawBand(const SystemInfo& info) {
     for (std::int64_t y = 0; y < iFloodHeight; y += step) {
         for (int x = 0; x < iFloodWidth; ++x) {
             if (pGreenProtectionBitmap[index(x, static_cast<int>(y))] != kEdge) continue;
+            GivingWay::ask();
             if (context_.isSuperseded()) return false;
             drawDisc(x, static_cast<int>(y), radius);
         }

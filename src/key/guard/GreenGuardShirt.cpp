@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "core/BackgroundThread.h"
 #include "core/raster/Pixels.h"
 #include "key/guard/GreenGuard.h"
 #include "key/pixel/ChannelRoles.h"
@@ -86,6 +87,7 @@ bool GreenGuard::protectShirt(const SystemInfo& info) {
     allocate(nearness_);
     if (!measureShirtDistance(info)) return false;
     for (int y = 0; y < iFloodHeight; ++y) {
+        GivingWay::ask();
         if (context_.isSuperseded()) return false;
         for (int x = 0; x < iFloodWidth; ++x) {
             const std::size_t at = index(x, y);

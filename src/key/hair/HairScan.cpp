@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/BackgroundThread.h"
 #include "core/raster/Pixels.h"
 #include "key/pixel/ChannelRoles.h"
 
@@ -84,6 +85,7 @@ bool HairScan::scan(const RunContext& context, Direction direction, bool blueLog
         if (direction == Direction::Down) bins_.fill(Bin());
         const int lines = direction == Direction::Down ? width_ : rows;
         for (int i = 0; i < lines; ++i) {
+            GivingWay::ask();
             if (context.isSuperseded()) return false;
             const std::ptrdiff_t width = width_, row = (top + i) * width;
             const Line line = direction == Direction::Down    ? Line{top * width + i, width, rows}

@@ -51,7 +51,7 @@ void Airbrush::take(const EditorFace& face) {
     const EditorFace before = std::exchange(face_, face);
     page_->UpdateEditorUI(face);
     tool_->show(face);
-    if (!face.problem.empty()) emit failed(tr("Airbrush"), translatedEditMessage(face.problem));
+    if (!face.problem.isEmpty()) emit failed(tr("Airbrush"), translatedEditMessage(face.problem));
     if (before.open != face.open) {
         view_->setDrawing(face.open);
         emit modeChanged(face.open);
@@ -79,7 +79,7 @@ void Airbrush::keepStrokes() {
 
 void Airbrush::offer(const std::string& edits) {
     ReadEdits read = parseEdits("", edits);
-    if (read.problem.empty()) door_.offer(std::move(read.file));
+    if (read.problem.isEmpty()) door_.offer(std::move(read.file));
 }
 
 QString Airbrush::suggestedFile() const {
@@ -122,7 +122,7 @@ void Airbrush::write(const QString& path, const EditFile& edits) {
 
 void Airbrush::loadEdits(const QString& path) {
     ReadEdits read = readEditFile(nameOfText(path));
-    if (!read.problem.empty())
+    if (!read.problem.isEmpty())
         return emit failed(tr("The edits cannot be loaded."), translatedEditMessage(read.problem));
     const PassGeometry size = info_.geometry(Resolution::full);
     QStringList warnings;

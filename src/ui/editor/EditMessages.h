@@ -1,13 +1,12 @@
 #pragma once
 
-#include <string>
-
 #include <QString>
+
+#include "editor/EditMessage.h"
 
 namespace tavrin {
 
-/// What the editor, its steps of undo and its files say, in the language of the window. Names of files stay, and so
-/// does a line that nobody knows.
-QString translatedEditMessage(const std::string& line);
+/// What the editor says, in the language of the window.
+QString translatedEditMessage(const EditMessage& message);
 
 }  // namespace tavrin

@@ -15,6 +15,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ui/WindowSettings.h"
 #include "ui/bind/WheelGuard.h"
 #include "ui/editor/BrushSlider.h"
 
@@ -24,6 +25,7 @@ namespace {
 
 constexpr int kToolColumns = 2;
 constexpr QSize kSwatch(32, 18);
+constexpr char kScaleRadius[] = "editsScaleRadius";  // among what the window remembers
 
 /// The tools as their buttons stand, and what each does in a photographer's words.
 struct ToolButton {
@@ -144,6 +146,7 @@ EditorPage::EditorPage(EditorDoor& door, Binder& binder, QWidget* parent)
     undo_->setWordWrap(true);
     steps_->addStatus(undo_);
     UpdateEditorUI(EditorFace());
+    if (windowSettings().value(kScaleRadius).toBool()) door_.scaleRadius(true);
 }
 
 QWidget* EditorPage::makeTools() {
@@ -255,7 +258,10 @@ QWidget* EditorPage::makeScaleBox() {
     scaleBox_->setAccessibleName(scaleBox_->text());
     scaleBox_->setToolTip(
         tr("Strokes that are replayed at another size of the picture become as much thicker or thinner"));
-    connect(scaleBox_, &QCheckBox::clicked, this, [this](bool on) { door_.scaleRadius(on); });
+    connect(scaleBox_, &QCheckBox::clicked, this, [this](bool on) {
+        windowSettings().setValue(kScaleRadius, on);
+        door_.scaleRadius(on);
+    });
     return scaleBox_;
 }
 

@@ -1,5 +1,9 @@
 #include "ui/tiles/TileSets.h"
 
+#include <list>
+#include <memory>
+#include <utility>
+
 #include <QtGlobal>
 
 #include "core/state/SettingNames.h"
@@ -94,6 +98,46 @@ TileSet frameFillSet() {
               QT_TRANSLATE_NOOP("Panel", "A frame of pale marble."), [](SystemInfo& info) { fill(info, "marble"); }},
              {"tileFillVelvet", "tilesFrameFill", QT_TRANSLATE_NOOP("Panel", "Velvet"),
               QT_TRANSLATE_NOOP("Panel", "A frame of red velvet."), [](SystemInfo& info) { fill(info, "velvet"); }}}};
+}
+
+void copyFrame(const SystemInfo& from, const char* read, SystemInfo& to, const char* written) {
+    const Settings names = settingsOfGroup<ImageFrame>(read), others = settingsOfGroup<ImageFrame>(written);
+    for (std::size_t i = 0; i < names.size(); ++i)
+        static_cast<void>(setField(to, others[i], fieldValue(from, names[i]).value_or("")));
+}
+
+/// What a look does to the first frame, done to the second one: in another state, so that the first one stays.
+template <TileSet (*kFirst)(), std::size_t kLook>
+void doToSecond(SystemInfo& info) {
+    static const TileLook look = kFirst().looks[kLook];
+    static const auto other = std::make_unique<SystemInfo>();
+    copyFrame(info, "frameOverlay.", *other, "frame.");
+    look.write(*other);
+    copyFrame(*other, "frame.", info, "frameOverlay.");
+}
+
+template <TileSet (*kFirst)(), std::size_t... kLooks>
+void turnToSecond(TileSet& set, std::index_sequence<kLooks...>) {
+    ((set.looks[kLooks].write = doToSecond<kFirst, kLooks>), ...);
+}
+
+/// The looks of the first frame for the second one, by names of their own.
+template <TileSet (*kFirst)(), std::size_t kCount>
+TileSet ofSecondFrame() {
+    static std::list<std::string> names;
+    const auto second = [](const char* name) { return names.emplace_back(std::string(name) + "Second").c_str(); };
+    TileSet set = kFirst();
+    set.group = "MyEffectsFrame2Panel";
+    set.name = second(set.name);
+    set.title = "Second frame";
+    set.settings = settingsOfGroup<ImageFrame>("frameOverlay.");
+    set.looks.resize(kCount);
+    for (TileLook& look : set.looks) {
+        look.control = second(look.control);
+        look.handler = set.name;
+    }
+    turnToSecond<kFirst>(set, std::make_index_sequence<kCount>());
+    return set;
 }
 
 TileSet lightingSet() {
@@ -212,8 +256,16 @@ TileSet hairSet() {
 }  // namespace
 
 const std::vector<TileSet>& tileSets() {
-    static const std::vector<TileSet> sets = {shadowSet(),  frameSet(),   frameFillSet(), lightingSet(),
-                                              cartoonSet(), textureSet(), overlaySet(),   hairSet()};
+    static const std::vector<TileSet> sets = {shadowSet(),
+                                              frameSet(),
+                                              frameFillSet(),
+                                              ofSecondFrame<frameSet, 5>(),
+                                              ofSecondFrame<frameFillSet, 7>(),
+                                              lightingSet(),
+                                              cartoonSet(),
+                                              textureSet(),
+                                              overlaySet(),
+                                              hairSet()};
     return sets;
 }
 

@@ -96,7 +96,7 @@ void PictureView::paintFull(QPainter& painter, const QRectF& frame) {
     if (zoom_.pixelScale() >= 1.0 || zoom_.isActualPixels()) return paintOther(painter, full_, frame);
     const QSize size = zoom_.shownSize();
     if (smallOf_ == full_.cacheKey() && small_.size() == size) return paintExactly(painter, small_, frame);
-    shrinker_.want(full_, size);
+    wantSmall(size);
     painter.drawImage(frame, preview_.isNull() ? full_ : preview_);
 }
 

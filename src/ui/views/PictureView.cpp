@@ -1,5 +1,6 @@
 #include "ui/views/PictureView.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <utility>
@@ -36,11 +37,7 @@ PictureView::PictureView(QWidget* parent) : QWidget(parent), splitLine_(new Spli
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     connect(splitLine_, &SplitLine::valueChanged, this, &PictureView::placeSplit);
-    connect(&shrinker_, &Shrinker::done, this, [this](const QImage& small, qint64 key) {
-        small_ = small;
-        smallOf_ = key;
-        update();
-    });
+    connect(&shrinker_, &Shrinker::done, this, &PictureView::takeSmall);
 }
 
 void PictureView::show(const PublishedRows& rows) {
@@ -67,13 +64,45 @@ void PictureView::takeRows(const PublishedRows& rows) {
     if (isFull()) speak();
 }
 
-/// Only their part of the small picture is made anew, so that a stroke is seen at once.
+/// Only their part of the small picture is made anew, so that a stroke is seen at once. While that is being made the
+/// rows are remembered: wanted anew at each piece it would never be ready, and each would copy the whole picture.
 void PictureView::takeEdited(const PublishedRows& rows) {
-    const bool smallStands = smallOf_ == full_.cacheKey() && !small_.isNull();
+    const bool smallStands = smallOf_ == full_.cacheKey() && !small_.isNull(), isDue = isSmallDue();
     putRows(rows.isPreview() ? preview_ : full_, rows);
-    if (rows.isPreview() || !smallStands || rows.height != full_.height()) return;
-    shrinkRows(full_, rows.firstRow, rows.firstRow + rows.rowCount, small_);
-    smallOf_ = full_.cacheKey();
+    if (rows.isPreview() || rows.height != full_.height()) return;
+    const int first = rows.firstRow, last = first + rows.rowCount;
+    if (smallStands) {
+        shrinkRows(full_, first, last, small_);
+        smallOf_ = full_.cacheKey();
+    } else if (isDue) {
+        due_.firstRow = due_.edited == 0 ? first : std::min(due_.firstRow, first);
+        due_.lastRow = std::max(due_.lastRow, last);
+        due_.edited = full_.cacheKey();
+    }
+}
+
+/// A small picture is being made of this one, or of this one before some edits.
+bool PictureView::isSmallDue() const {
+    const qint64 key = full_.cacheKey();
+    return due_.of != 0 && (due_.edited == 0 ? due_.of : due_.edited) == key;
+}
+
+void PictureView::wantSmall(QSize size) {
+    if (isSmallDue() && due_.size == size) return;
+    due_ = {full_.cacheKey(), size, 0, 0, 0};
+    shrinker_.want(full_, size);
+}
+
+void PictureView::takeSmall(const QImage& small, qint64 key) {
+    const bool isDue = key == due_.of && isSmallDue();
+    small_ = small;
+    smallOf_ = key;
+    if (isDue && due_.edited != 0) {
+        shrinkRows(full_, due_.firstRow, due_.lastRow, small_);
+        smallOf_ = due_.edited;
+    }
+    if (key == due_.of) due_ = {};
+    update();
 }
 
 void PictureView::setOutputSize(QSize pixels) {

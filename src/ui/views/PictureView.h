@@ -107,6 +107,9 @@ class PictureView : public QWidget {
     void speak();
     void takeRows(const PublishedRows& rows);
     void takeEdited(const PublishedRows& rows);
+    bool isSmallDue() const;
+    void wantSmall(QSize size);
+    void takeSmall(const QImage& small, qint64 key);
     void point(const QPointF& at);
     void beginPress(const QPointF& at);
     void showCursor();
@@ -131,6 +134,13 @@ class PictureView : public QWidget {
     int fullRows_ = 0;    // rows of `full_` that have arrived, from the top
     QImage small_;        // `full_` at the size of its frame
     qint64 smallOf_ = 0;  // and of which `full_`
+    /// The small picture that is being made: of which `full_`, and which rows of it were edited since.
+    struct {
+        qint64 of = 0;
+        QSize size = {};
+        qint64 edited = 0;  // `full_` with these edits; 0 without any
+        int firstRow = 0, lastRow = 0;
+    } due_;
     bool transparent_ = false, spaceHeld_ = false, panning_ = false;
     bool pressed_ = false, dragging_ = false, asking_ = false, drawing_ = false;
     QPoint pointed_{-1, -1};
