@@ -1,6 +1,7 @@
 // The second look at the key as work: the same bytes however it runs, nothing done twice, and its end for a newer
 // request.
 #include <gtest/gtest.h>
+#include <random>
 
 #include "core/raster/Rows.h"
 #include "key/DiscScene.h"
@@ -10,6 +11,7 @@
 namespace tavrin {
 namespace {
 
+using test::discAlpha;
 using test::DiscScene;
 using test::kHeight;
 using test::kWidth;
@@ -97,6 +99,84 @@ TEST(RefineRun, APreviewThatIsAskedForAgainCostsNothingAndIsNeverStale) {
     expectFresh("what the settings ask for");
     std::swap(shot.width, shot.height);
     expectFresh("the shape of the same bytes, in which there is no screen");
+}
+
+/// A disc of skin or of cloth near the screen's hue, and what the key made of it.
+struct KeyedDisc {
+    explicit KeyedDisc(bool cloth) {
+        scene.info.iGreenProtectMode = 0;
+        for (std::size_t i = 0; i < scene.foreground.size(); ++i) {
+            const int x = static_cast<int>(i) % kWidth, y = static_cast<int>(i) / kWidth;
+            const double alpha = cloth ? discAlpha(x, y) : 0.0;
+            const double fold = x / 4 % 2 * 12.0;
+            if (alpha > 0.0)
+                scene.foreground[i] = test::mixed({17.0, 152.0 + fold, 122.0}, {40.0, 200.0, 60.0}, alpha);
+        }
+        key();
+    }
+    void key() {
+        scene.key(false);
+        alpha.clear();
+        for (const Pixel& pixel : scene.background)
+            alpha.push_back(pixel[3]);
+    }
+    refine::Shot shot() const { return {kWidth, kHeight, scene.foreground.front().data(), alpha.data(), false}; }
+
+    DiscScene scene;
+    std::vector<std::uint8_t> alpha;
+};
+
+// What a hand may do between two previews: a slider of the key or of the refinement, some pixels' key, the portrait.
+void changeAtRandom(std::mt19937& random, KeyedDisc (&discs)[2], std::size_t& shown, refine::RefineTaste& taste) {
+    const auto below = [&random](unsigned count) { return static_cast<int>(random() % count); };
+    KeyedDisc& disc = discs[shown];
+    switch (below(8)) {
+        case 0:
+            disc.scene.sliders().sliderRestoredDarkAreas = below(100);
+            return disc.key();
+        case 1:
+            disc.scene.sliders().sliderTransparentcyAdjustment = 90 + below(20);
+            return disc.key();
+        case 2:
+            disc.scene.sliders().sliderGreenTintAreas = 90 + below(20);
+            return disc.key();
+        case 3:
+            disc.alpha[random() % disc.alpha.size()] = static_cast<std::uint8_t>(random());
+            return;
+        case 4:
+            std::fill_n(disc.alpha.begin() + 60 * kWidth, below(70) * kWidth, static_cast<std::uint8_t>(random()));
+            return;
+        case 5:
+            taste.ownGreen = static_cast<float>(below(3));
+            return;
+        case 6:
+            taste.softness = static_cast<float>(below(5) - 2) / 4.0f;
+            return;
+        default:
+            shown = 1 - shown;
+    }
+}
+
+TEST(RefineRun, PreviewsOneAfterTheOtherAreThoseThatKnowNothingOfEachOther) {
+    KeyedDisc discs[] = {KeyedDisc(false), KeyedDisc(true)};
+    std::mt19937 random(3);
+    std::size_t shown = 0;
+    refine::RefineTaste taste;
+    int fewer = 0, done = 0;
+    for (int i = 0; i < 120; ++i) {
+        changeAtRandom(random, discs, shown, taste);
+        const refine::Shot shot = discs[shown].shot();
+        const LookedAt preview(refine::refinePreview, shot, taste), fresh(refine::refineKey, shot, taste);
+        ASSERT_EQ(preview.outcome, fresh.outcome) << i;
+        ASSERT_TRUE(preview.result == fresh.result) << i;
+        fewer += preview.asked < fresh.asked;
+        done += fresh.outcome == refine::Refined::done;
+    }
+    EXPECT_GT(fewer, 60) << "steps were kept";
+    EXPECT_GT(done, 90);
+    refine::forgetPreview();
+    EXPECT_EQ(LookedAt(refine::refinePreview, discs[shown].shot(), taste).asked,
+              LookedAt(refine::refineKey, discs[shown].shot(), taste).asked);
 }
 
 TEST(RefineRun, ANewerRequestEndsItWithinARow) {

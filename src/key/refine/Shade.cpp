@@ -58,11 +58,9 @@ void findSoft(const RunContext& context, const Shot& shot, const Plate& plate, c
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         rowLoops().windowRange(ratios.around(y, 0, reach), reach, strip.width, scratch.row(0), scratch.row(1));
         const float *const light = ratios.at(y, 0) + inset, *const off = ratios.at(y, 1) + inset;
-        const std::uint8_t* const key = shot.keyRow(y) + area.left;
         for (int x = 0; x < area.width(); ++x)
             flags[static_cast<std::size_t>(x)] = (off[x] < offLimit) & (light[x] > kLeastLight) &
-                                                 (light[x] < kMostLight) & (key[x] <= kMostKey) &
-                                                 (high[x] - low[x] < rangeLimit);
+                                                 (light[x] < kMostLight) & (high[x] - low[x] < rangeLimit);
         soft.pack(y, area.left, area.width(), flags.data());
     }
 }
@@ -150,17 +148,25 @@ void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen) {
     screen |= small;
 }
 
-void mendScreen(const RunContext& context, const Shot& shot, Plate& plate) {
-    Mask near(shot.width, shot.height), soft(shot.width, shot.height);
-    runAreas(context, plate.screen, [&](const Area& area) { findNear(context, shot, plate, area, near); });
-    plate.screen &= near;
+Mask mendedScreen(const RunContext& context, const Shot& shot, const Plate& plate, PlateLook& look) {
+    if (look.near.width() == 0) {
+        look.near = look.asked = look.soft = Mask(shot.width, shot.height);
+        runAreas(context, plate.screen, [&](const Area& area) { findNear(context, shot, plate, area, look.near); });
+    }
+    Mask screen = plate.screen;
+    screen &= look.near;
     Mask open = thinPixels(context, shot, kMostKey);
-    open &= plate.screen.inverted();
-    runAreas(context, open, [&](const Area& area) { findSoft(context, shot, plate, area, soft); });
-    Mask shadows = reachable(context, shot, plate.screen, soft, kLargeArea);
+    open &= screen.inverted();
+    Mask unknown = look.asked.inverted();
+    unknown &= open;
+    runAreas(context, unknown, [&](const Area& area) { findSoft(context, shot, plate, area, look.soft); });
+    look.asked |= unknown;
+    open &= look.soft;
+    Mask shadows = reachable(context, shot, screen, open, kLargeArea);
     shadows |= thinPixels(context, shot, 0);  // a gap that is all shadow: nothing speaks for a subject there
-    shadows &= soft;
-    plate.screen |= shadows;
+    shadows &= open;
+    screen |= shadows;
+    return screen;
 }
 
 }  // namespace tavrin::refine
