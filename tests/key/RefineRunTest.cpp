@@ -1,5 +1,6 @@
 // The second look at the key as work: the same bytes however it runs, nothing done twice, and its end for a newer
 // request.
+#include <atomic>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -58,13 +59,13 @@ TEST(RefineRun, PreviewAndFullPictureOfOneSizeAreAlike) {
 struct LookedAt {
     std::vector<std::uint8_t> result = std::vector<std::uint8_t>(kWidth * kHeight * 4);
     refine::Refined outcome;
-    int asked = 0;
+    std::atomic<int> asked = 0;
 
     template <class Look>
-    LookedAt(const Look& look, const refine::Shot& shot, const refine::RefineTaste& taste) {
+    LookedAt(const Look& look, const refine::Shot& shot, const refine::RefineTaste& taste, int threads = 1) {
         RunContext context;
         context.superseded = [this] { return ++asked < 0; };
-        const ThreadLimit limit(1);
+        const ThreadLimit limit(threads);
         outcome = look(context, shot, taste, result.data());
     }
 };
@@ -101,16 +102,16 @@ TEST(RefineRun, APreviewThatIsAskedForAgainCostsNothingAndIsNeverStale) {
     expectFresh("the shape of the same bytes, in which there is no screen");
 }
 
-/// A disc of skin or of cloth near the screen's hue, and what the key made of it.
+/// A disc of skin, or mostly of cloth near the screen's hue, and what the key made of it.
 struct KeyedDisc {
     explicit KeyedDisc(bool cloth) {
         scene.info.iGreenProtectMode = 0;
         for (std::size_t i = 0; i < scene.foreground.size(); ++i) {
             const int x = static_cast<int>(i) % kWidth, y = static_cast<int>(i) / kWidth;
-            const double alpha = cloth ? discAlpha(x, y) : 0.0;
-            const double fold = x / 4 % 2 * 12.0;
+            const double alpha = cloth && x > kWidth / 2 - 30 ? discAlpha(x, y) : 0.0;
+            const double fold = x / 4 % 2 * 4.0;
             if (alpha > 0.0)
-                scene.foreground[i] = test::mixed({17.0, 152.0 + fold, 122.0}, {40.0, 200.0, 60.0}, alpha);
+                scene.foreground[i] = test::mixed({17.0, 172.0 + fold, 112.0 + fold}, {40.0, 200.0, 60.0}, alpha);
         }
         key();
     }
@@ -143,9 +144,13 @@ void changeAtRandom(std::mt19937& random, KeyedDisc (&discs)[2], std::size_t& sh
         case 3:
             disc.alpha[random() % disc.alpha.size()] = static_cast<std::uint8_t>(random());
             return;
-        case 4:
-            std::fill_n(disc.alpha.begin() + 60 * kWidth, below(70) * kWidth, static_cast<std::uint8_t>(random()));
+        case 4: {
+            const std::uint8_t levels[] = {0, 8, 40, 255};
+            const std::uint8_t level = levels[below(4)];
+            for (int y = 60, end = y + below(70); y < end; ++y)
+                std::fill_n(disc.alpha.begin() + y * kWidth + kWidth / 2 - 20, 50, level);
             return;
+        }
         case 5:
             taste.ownGreen = static_cast<float>(below(3));
             return;
@@ -166,13 +171,13 @@ TEST(RefineRun, PreviewsOneAfterTheOtherAreThoseThatKnowNothingOfEachOther) {
     for (int i = 0; i < 120; ++i) {
         changeAtRandom(random, discs, shown, taste);
         const refine::Shot shot = discs[shown].shot();
-        const LookedAt preview(refine::refinePreview, shot, taste), fresh(refine::refineKey, shot, taste);
+        const LookedAt preview(refine::refinePreview, shot, taste, 1 + i % 3), fresh(refine::refineKey, shot, taste);
         ASSERT_EQ(preview.outcome, fresh.outcome) << i;
         ASSERT_TRUE(preview.result == fresh.result) << i;
         fewer += preview.asked < fresh.asked;
         done += fresh.outcome == refine::Refined::done;
     }
-    EXPECT_GT(fewer, 60) << "steps were kept";
+    EXPECT_GT(fewer, 45) << "steps were kept";
     EXPECT_GT(done, 90);
     refine::forgetPreview();
     EXPECT_EQ(LookedAt(refine::refinePreview, discs[shown].shot(), taste).asked,
