@@ -140,6 +140,35 @@ TEST(RefineKey, ARimOfAColourThatTheInsideLacksIsNoScreen) {
     EXPECT_LT(refined, 1.4 * plain) << "the fit alone is at 1.7";
 }
 
+TEST(RefineKey, WhereAMixtureExplainsThePixelTheKeyIsHeardLess) {
+    // A wide soft edge that the key takes for whole too early: as a mixture, and lit up beyond any mixture.
+    const Rgb screen{50.0, 145.0, 72.0}, fur{110.0, 100.0, 90.0};
+    const auto gain = [&](double light) {
+        KeyScene scene(400, 300, {50, 145, 72, 255});
+        std::vector<std::uint8_t> key(400 * 300);
+        const auto truth = [](int x) { return std::clamp((x - 196.0) / 8.0, 0.0, 1.0); };
+        for (int y = 0; y < 300; ++y) {
+            for (int x = 180; x < 400; ++x) {
+                Pixel& pixel = scene.at(scene.foreground, x, y) = mixed(fur, screen, truth(x));
+                const double lit = light * truth(x) * (1.0 - truth(x));
+                for (std::size_t c = 0; c < 3; ++c)
+                    pixel[c] = toByte(pixel[c] + lit);
+                key[static_cast<std::size_t>(y * 400 + x)] = toByte(255.0 * std::min(1.0, 1.7 * truth(x)));
+            }
+        }
+        const refine::Shot shot{400, 300, scene.foreground.front().data(), key.data(), false};
+        EXPECT_EQ(refine::refineKey({}, shot, {}, scene.combined.front().data()), refine::Refined::done);
+        double sum = 0.0, most = 0.0;
+        for (int x = 197; x < 201; ++x) {
+            sum += scene.at(scene.combined, x, 150)[3] / 255.0 - truth(x);
+            most += key[static_cast<std::size_t>(150 * 400 + x)] / 255.0 - truth(x);
+        }
+        return sum / most;
+    };
+    EXPECT_LT(gain(0.0), 0.45);
+    EXPECT_GT(gain(160.0), gain(0.0) + 0.3);
+}
+
 TEST(RefineKey, TheGuardHasTheLastWordAndAnEvenGridChangesNothing) {
     DiscScene scene;
     const auto alphas = [&scene](bool refined, int guard) {

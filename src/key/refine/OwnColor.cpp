@@ -96,15 +96,16 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     return limits;
 }
 
-ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, const Strip& strip)
-    : findings_(findings),
-      strip_(strip),
+ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, FinishRows& finish, const Strip& strip)
+    : strip_(strip),
+      plain_(static_cast<std::size_t>(finish.strip().width)),
       start_(strip, findings.plate),
       scratch_(strip.width, 12),
       shares_(strip.width, findings.shot.height, 1,
-              [this](int y, float** planes) {
+              [this, &finish](int y, float** planes) {
                   start_.load(y, planes + 4);
-                  plainAlpha(findings_, strip_, y, scratch_.row(10), planes[3]);
+                  finish.fillPlain(y, plain_.data());
+                  std::copy_n(plain_.data() + (strip_.left - finish.strip().left), strip_.width, planes[3]);
                   finishLoops().remainder({planes[4], planes[5], planes[6]}, {planes[7], planes[8], planes[9]},
                                           planes[3], strip_.width, planes[0], planes[1], planes[2]);
               }),

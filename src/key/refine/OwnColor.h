@@ -17,7 +17,8 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings);
 /// The subject's own colour in rows of a strip. For one thread.
 class ColorRows {
   public:
-    ColorRows(const Findings& findings, const GreenLimits& limits, const Strip& strip);
+    /// @param finish of a strip around this one
+    ColorRows(const Findings& findings, const GreenLimits& limits, FinishRows& finish, const Strip& strip);
 
     /// Makes row `y`.
     /// @param alpha the final alpha of the strip, 0 to 1
@@ -29,8 +30,8 @@ class ColorRows {
 
     ChannelRow rowsFrom(int row) { return {scratch_.row(row), scratch_.row(row + 1), scratch_.row(row + 2)}; }
 
-    const Findings& findings_;
     Strip strip_;
+    std::vector<float> plain_;
     StartRows start_;
     PaddedRows scratch_;
     RowRing<10, Maker> shares_;  // the remainder, alpha, the picture, the plate

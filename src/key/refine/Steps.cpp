@@ -17,7 +17,7 @@ constexpr int kMargin = 3;                 // of what is decided, so that small 
 struct Limits {
     Reach reach;
     GreenLimits green;
-    Cells trust;
+    Trust trust;
 };
 
 void writeArea(const RunContext& context, const Findings& findings, const Limits& limits, const Area& area,
@@ -26,7 +26,7 @@ void writeArea(const RunContext& context, const Findings& findings, const Limits
     const Strip wide = area.strip(shot, kColorHalo + FinishRows::halo(findings)),
                 strip = area.strip(shot, kColorHalo);
     FinishRows finish(findings, limits.reach, limits.trust, wide);
-    ColorRows colors(findings, limits.green, strip);
+    ColorRows colors(findings, limits.green, finish, strip);
     std::vector<float> alpha(static_cast<std::size_t>(wide.width));
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(strip.width));
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
@@ -46,7 +46,7 @@ void clearRows(const RunContext& context, const Shot& shot, std::uint8_t* result
 }
 
 bool writeResult(const RunContext& context, const Findings& findings, std::uint8_t* result) {
-    const Limits limits{findReach(context, findings), findLimits(context, findings), trustInKey(findings)};
+    const Limits limits{findReach(context, findings), findLimits(context, findings), trustInKey(context, findings)};
     clearRows(context, findings.shot, result);
     runAreas(context, findings.solid,
              [&](const Area& area) { writeSolid(findings.shot, findings.plate, limits.green, area, result); });
