@@ -263,6 +263,35 @@ TEST(RefineKey, ADeepShadowInAGapIsScreenWhereTheKeyHasNothing) {
     EXPECT_EQ(scene.at(scene.combined, 160, 350)[3], 255);
 }
 
+TEST(RefineKey, AGapBetweenGreenSleevesIsScreenAlsoWhereItsLightIsAnother) {
+    // The gap is a little lighter and paler than the screen elsewhere, and the key leaves a little in it.
+    constexpr int kSize = 480;
+    KeyScene scene(kSize, kSize, {100, 170, 116, 255});
+    std::vector<std::uint8_t> key(kSize * kSize);
+    for (int y = 100; y < kSize; ++y) {
+        for (int x = 100; x < 380; ++x) {
+            const bool gap = y > 200 && y < 420 && x > 210 && x < 260, head = y < 180;
+            const auto noise = static_cast<std::uint8_t>((x * 7 + y * 13) % 3);
+            scene.at(scene.foreground, x, y) = gap    ? Pixel{107, 176, 122, 255}
+                                               : head ? Pixel{190, 120, 100, 255}
+                                                      : Pixel{17, static_cast<std::uint8_t>(150 + noise), 122, 255};
+            key[static_cast<std::size_t>(y * kSize + x)] = gap ? 10 : head ? 255 : 60;
+        }
+    }
+    const refine::Shot shot{kSize, kSize, scene.foreground.front().data(), key.data(), false};
+    ASSERT_EQ(refine::refineKey({}, shot, {}, scene.combined.front().data()), refine::Refined::done);
+    int left = 0, lost = 0;
+    for (int y = 210; y < 410; ++y) {
+        for (int x = 120; x < 360; ++x) {
+            const int alpha = scene.at(scene.combined, x, y)[3];
+            if (x > 214 && x < 256) left += alpha > 20;
+            if (x < 205 || x > 265) lost += alpha < 240;
+        }
+    }
+    EXPECT_EQ(left, 0);
+    EXPECT_EQ(lost, 0);
+}
+
 TEST(RefineKey, DarkHairThatTheKeyTookAwayIsNoShadowInASmallPicture) {
     // Strands beside a dark head, before a screen of the purest green: their colours are those of its shadows.
     constexpr int kSize = 480;

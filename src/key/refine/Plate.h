@@ -33,6 +33,9 @@ void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen);
 /// Makes the colours from the screen's pixels, and measures `spread` anew.
 void paintPlate(const RunContext& context, const Shot& shot, Plate& plate);
 
+/// The pixels to which the key gave next to nothing, and to all around them: a gap in which the light is another.
+Mask clearParts(const RunContext& context, const Shot& shot);
+
 /// What a plate tells of single pixels, whatever the key: asked for where it is wanted, and known from then on.
 struct PlateLook {
     Mask near;         ///< the screen's pixels that do not differ from the plate

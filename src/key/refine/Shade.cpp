@@ -18,6 +18,8 @@ constexpr int kLeastSmoothReach = 2;  // in a window of 3 x 3 the crests of dark
 constexpr float kFarSpreads = 3.0f, kLeastSpread = 0.008f;
 constexpr float kLeastLight = 0.4f, kMostLight = 1.15f;  // of the plate's
 constexpr std::uint8_t kMostKey = 89;                    // the key's alpha below 0.35
+constexpr std::uint8_t kNextToNothing = 16;              // 0.06
+constexpr double kClearReach = 4.0;                      // less is hair that the key has nearly taken away
 constexpr float kSoftShare = 0.9f;                       // of a cell that a shadow is followed through
 constexpr double kLargeArea = 0.02, kLeastArea = 0.001;  // of the picture
 constexpr float kOtherCover = 0.4f;                      // the least alpha of what is no screen in any light
@@ -148,6 +150,10 @@ void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen) {
     screen |= small;
 }
 
+Mask clearParts(const RunContext& context, const Shot& shot) {
+    return shrunk(context, thinPixels(context, shot, kNextToNothing), shot.px(kClearReach));
+}
+
 Mask mendedScreen(const RunContext& context, const Shot& shot, const Plate& plate, PlateLook& look) {
     if (look.near.width() == 0) {
         look.near = look.asked = look.soft = Mask(shot.width, shot.height);
@@ -163,7 +169,9 @@ Mask mendedScreen(const RunContext& context, const Shot& shot, const Plate& plat
     look.asked |= unknown;
     open &= look.soft;
     Mask shadows = reachable(context, shot, screen, open, kLargeArea);
-    shadows |= thinPixels(context, shot, 0);  // a gap that is all shadow: nothing speaks for a subject there
+    // A gap that is all shadow: nothing speaks for a subject there.
+    shadows |= thinPixels(context, shot, 0);
+    shadows |= clearParts(context, shot);
     shadows &= open;
     screen |= shadows;
     return screen;

@@ -89,13 +89,16 @@ bool Steps::findSubject(const RunContext& context, const Shot& shot, bool& still
     if (still) return true;
     core_ = findCore(context, shot, plate_);
     if (context.isSuperseded() || core_.sure.count() < kFewestSure) return false;
-    nearer_ = nearerSide(context, core_.solid, plate_.screen);
     open_ = openPixels(context, plate_.screen, core_.solid);
     first_ = separate(context, shot, plate_, core_.sure, open_);
     return true;
 }
 
 bool Steps::findAlpha(const RunContext& context, const Shot& shot, bool& still) {
+    Mask clear = clearParts(context, shot);
+    clear &= core_.solid.inverted();
+    clear |= plate_.screen;
+    nearer_ = nearerSide(context, core_.solid, clear);
     Mask sure = surePixels(context, {shot, plate_, first_, nearer_}, core_.solid, open_);
     if (context.isSuperseded()) return false;
     if (!keeps_) first_ = {};
