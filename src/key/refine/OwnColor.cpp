@@ -17,7 +17,8 @@ namespace {
 constexpr double kDeepReach = 10.0, kInnerReach = 8.0;
 constexpr float kWhole = 0.98f;
 constexpr double kFewCells = 20.0;
-constexpr float kMostOwn = 0.45f;  // of the screen's difference
+constexpr float kMaybeCloth = 0.5f, kSurelyCloth = 1.0f;  // of the screen's difference
+constexpr float kMostOwn = 0.45f;                         // of the screen's difference
 
 // Adds some columns of one row of cells.
 void sumGreen(const Mask& deep, int row, const Strip& strip, Cells& cells) {
@@ -75,10 +76,14 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     const Shot& shot = findings.shot;
     GreenLimits limits;
     const Cells green = ownGreen(context, findings);
-    limits.own = Cells(green.columns(), green.rows(), 1);
+    limits.own = limits.cloth = Cells(green.columns(), green.rows(), 1);
     if (green.sums()[1] > kFewCells) {
         const float usual = findings.plate.difference;
-        Cells least = least5(pushPull(context, green));
+        Cells least = least5(pushPull(context, green)), cloth = least;
+        for (std::size_t i = 0; i < cloth.count(); ++i)
+            cloth.row(0, 0)[i] = smoothStep(cloth.row(0, 0)[i], kMaybeCloth * usual, kSurelyCloth * usual) *
+                                 std::min(findings.taste.ownGreen, 1.0f);
+        limits.cloth = blurred(context, cloth, 3.0);
         // Much and smooth, or it is spill: on black that stays below.
         for (std::size_t i = 0; i < least.count(); ++i) {
             float& own = least.row(0, 0)[i];
@@ -111,6 +116,7 @@ ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, Finish
               }),
       subject_(findings.separation.subject, findings.separation.size, strip.left, strip.width),
       own_(limits.own, GreenLimits::kOwnCell, strip.left, strip.width),
+      cloth_(limits.cloth, GreenLimits::kOwnCell, strip.left, strip.width),
       inner_(limits.inner, GreenLimits::kInnerCell, strip.left, strip.width) {}
 
 void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
@@ -121,6 +127,8 @@ void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
         subject_.fill(y, c, scratch_.row(4 + c));
     own_.fill(y, 0, scratch_.row(7));
     inner_.fill(y, 0, scratch_.row(8));
+    cloth_.fill(y, 0, scratch_.row(9));
+    finishLoops().raise(scratch_.row(9), width, scratch_.row(8));
     loadLuma(strip_, y, scratch_.row(9));
     const auto here = [&](int plane) -> ChannelRow {
         return {shares_.at(y, plane), shares_.at(y, plane + 1), shares_.at(y, plane + 2)};
@@ -134,6 +142,7 @@ void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
 void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits, const Area& area,
                 std::uint8_t* picture) {
     CellRows own(limits.own, GreenLimits::kOwnCell, area.left, area.width()),
+        cloth(limits.cloth, GreenLimits::kOwnCell, area.left, area.width()),
         inner(limits.inner, GreenLimits::kInnerCell, area.left, area.width()),
         screen(plate.colors, kPlateCell, area.left, area.width());
     const auto width = static_cast<std::size_t>(area.width());
@@ -143,6 +152,8 @@ void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits,
     for (int y = area.top; y < area.bottom; ++y) {
         own.fill(y, 0, line(0));
         inner.fill(y, 0, line(1));
+        cloth.fill(y, 0, line(2));
+        finishLoops().raise(line(2), area.width(), line(1));
         for (int plane = 0; plane < 3; ++plane)
             screen.fill(y, plane, line(2 + static_cast<std::size_t>(plane)));
         finishLoops().solid(shot.pixelRow(y) + area.left, {line(2), line(3), line(4)}, line(0), line(1), shot.blue,

@@ -10,6 +10,7 @@ namespace tavrin::refine {
 struct GreenLimits {
     static constexpr int kOwnCell = 8, kInnerCell = 4;
     Cells own;    ///< what the solid inside nearby has beyond the mean of the other channels; cells of `kOwnCell`
+    Cells cloth;  ///< 1 where that is more than the screen could bring: a rim of bluish cloth keeps its cyan; as above
     Cells inner;  ///< 1 well inside, where a bluish cloth keeps its cyan; cells of `kInnerCell`
 };
 GreenLimits findLimits(const RunContext& context, const Findings& findings);
@@ -35,7 +36,7 @@ class ColorRows {
     StartRows start_;
     PaddedRows scratch_;
     RowRing<10, Maker> shares_;  // the remainder, alpha, the picture, the plate
-    CellRows subject_, own_, inner_;
+    CellRows subject_, own_, cloth_, inner_;
 };
 
 /// Columns beyond an area that the windows of the colours look at.
