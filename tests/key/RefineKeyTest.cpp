@@ -246,6 +246,37 @@ TEST(RefineKey, ClothThatNoLightOnTheScreenExplainsStaysAtEverySize) {
     }
 }
 
+TEST(RefineKey, TheRimOfGreenClothIsAsGreenAsItsInsideAndThatOfOthersIsNot) {
+    const Rgb screen{92.0, 163.0, 110.0};
+    // How far the green of the soft rim is below the blue, at the most.
+    const auto missing = [&](const Rgb& cloth) {
+        constexpr int kSize = 480;
+        KeyScene scene(kSize, kSize, {92, 163, 110, 255});
+        scene.info.baseRed = screen.r;
+        scene.info.baseGreen = screen.g;
+        scene.info.baseBlue = screen.b;
+        scene.info.iGreenProtectMode = 0;
+        for (int y = 100; y < kSize; ++y) {
+            for (int x = 100; x < 380; ++x) {
+                const double alpha = std::clamp(std::min(x - 100, 380 - x) / 8.0, 0.0, 1.0);
+                scene.at(scene.foreground, x, y) = mixed(cloth, screen, alpha);
+            }
+            for (int x = 200; x < 280 && y < 180; ++x)
+                scene.at(scene.foreground, x, y) = {190, 120, 100, 255};
+        }
+        scene.info.bRefineKey = scene.info.bOutputTransparency = true;
+        Combine(scene.info, 1, 1);
+        int most = 0;
+        for (int x = 100; x < 120; ++x) {
+            const Pixel& made = scene.at(scene.combined, x, 300);
+            if (made[3] > 150) most = std::max(most, made[2] - made[1]);
+        }
+        return most;
+    };
+    EXPECT_LT(missing({17.0, 160.0, 132.0}), 12) << "bluish green";
+    EXPECT_GT(missing({60.0, 90.0, 140.0}), 30) << "blue: the screen's light goes";
+}
+
 TEST(RefineKey, ADeepShadowInAGapIsScreenWhereTheKeyHasNothing) {
     // Between two arms, too dark for a seed.
     KeyScene scene(480, 480);

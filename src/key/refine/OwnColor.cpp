@@ -14,25 +14,24 @@ namespace tavrin::refine {
 
 namespace {
 
-constexpr double kDeepReach = 10.0, kInnerReach = 8.0;
+constexpr double kOwnCell = 8.0, kDeepReach = 10.0, kInnerReach = 8.0;
 constexpr float kWhole = 0.98f;
 constexpr double kFewCells = 20.0;
-constexpr float kMaybeCloth = 0.5f, kSurelyCloth = 1.0f;  // of the screen's difference
+constexpr float kMaybeCloth = 0.3f, kSurelyCloth = 0.6f;  // of the screen's difference
 constexpr float kMostOwn = 0.45f;                         // of the screen's difference
 
 // Adds some columns of one row of cells.
-void sumGreen(const Mask& deep, int row, const Strip& strip, Cells& cells) {
-    constexpr int kSize = GreenLimits::kOwnCell;
+void sumGreen(const Mask& deep, int row, int size, const Strip& strip, Cells& cells) {
     const auto length = static_cast<std::size_t>(strip.width);
     std::vector<float> lines(3 * length);
     float *const weight = lines.data(), *const leads = weight + length, *const weights = leads + length;
-    const int first = row * kSize, last = std::min(first + kSize, deep.height());
+    const int first = row * size, last = std::min(first + size, deep.height());
     for (int y = first; y < last; ++y) {
         deep.unpack(y, strip.left, strip.width, weight);
         rowLoops().addLead(strip.shot.pixelRow(y) + strip.left, weight, strip.width, strip.shot.blue, leads, weights);
     }
-    for (int begin = 0; begin < strip.width; begin += kSize) {
-        const int end = std::min(begin + kSize, strip.width), cell = (strip.left + begin) / kSize;
+    for (int begin = 0; begin < strip.width; begin += size) {
+        const int end = std::min(begin + size, strip.width), cell = (strip.left + begin) / size;
         const auto pixels = static_cast<float>((end - begin) * (last - first));
         cells.row(row, 0)[cell] = std::accumulate(leads + begin, leads + end, 0.0f) / pixels;
         cells.row(row, 1)[cell] = std::accumulate(weights + begin, weights + end, 0.0f) / pixels;
@@ -40,14 +39,13 @@ void sumGreen(const Mask& deep, int row, const Strip& strip, Cells& cells) {
 }
 
 // Means over the deep inside of how far the screen's channel is above the mean of the others.
-Cells ownGreen(const RunContext& context, const Findings& findings) {
+Cells ownGreen(const RunContext& context, const Findings& findings, int size) {
     const Shot& shot = findings.shot;
-    constexpr int kSize = GreenLimits::kOwnCell;
     const Mask deep = shrunk(context, findings.solid, shot.px(kDeepReach));
-    Cells cells = Cells::over(shot.width, shot.height, kSize, 2);
+    Cells cells = Cells::over(shot.width, shot.height, size, 2);
     runRows(context, cells.rows(), 4, [&](int row) {
-        forColumns(deep, row * kSize, std::min((row + 1) * kSize, shot.height), [&](int left, int right) {
-            sumGreen(deep, row, {shot, left, right - left}, cells);
+        forColumns(deep, row * size, std::min((row + 1) * size, shot.height), [&](int left, int right) {
+            sumGreen(deep, row, size, {shot, left, right - left}, cells);
         });
     });
     return cells;
@@ -75,7 +73,8 @@ Mask wholePixels(const RunContext& context, const Findings& findings) {
 GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     const Shot& shot = findings.shot;
     GreenLimits limits;
-    const Cells green = ownGreen(context, findings);
+    limits.size = shot.px(kOwnCell) < 6 ? 4 : 8;  // parts of a grain of columns
+    const Cells green = ownGreen(context, findings, limits.size);
     limits.own = limits.cloth = Cells(green.columns(), green.rows(), 1);
     if (green.sums()[1] > kFewCells) {
         const float usual = findings.plate.difference;
@@ -115,8 +114,8 @@ ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, Finish
                                           planes[3], strip_.width, planes[0], planes[1], planes[2]);
               }),
       subject_(findings.separation.subject, findings.separation.size, strip.left, strip.width),
-      own_(limits.own, GreenLimits::kOwnCell, strip.left, strip.width),
-      cloth_(limits.cloth, GreenLimits::kOwnCell, strip.left, strip.width),
+      own_(limits.own, limits.size, strip.left, strip.width),
+      cloth_(limits.cloth, limits.size, strip.left, strip.width),
       inner_(limits.inner, GreenLimits::kInnerCell, strip.left, strip.width) {}
 
 void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
@@ -141,8 +140,8 @@ void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
 
 void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits, const Area& area,
                 std::uint8_t* picture) {
-    CellRows own(limits.own, GreenLimits::kOwnCell, area.left, area.width()),
-        cloth(limits.cloth, GreenLimits::kOwnCell, area.left, area.width()),
+    CellRows own(limits.own, limits.size, area.left, area.width()),
+        cloth(limits.cloth, limits.size, area.left, area.width()),
         inner(limits.inner, GreenLimits::kInnerCell, area.left, area.width()),
         screen(plate.colors, kPlateCell, area.left, area.width());
     const auto width = static_cast<std::size_t>(area.width());

@@ -8,9 +8,11 @@ namespace tavrin::refine {
 
 /// How green the subject may be at each place.
 struct GreenLimits {
-    static constexpr int kOwnCell = 8, kInnerCell = 4;
-    Cells own;    ///< what the solid inside nearby has beyond the mean of the other channels; cells of `kOwnCell`
-    Cells cloth;  ///< 1 where that is more than the screen could bring: a rim of bluish cloth keeps its cyan; as above
+    static constexpr int kInnerCell = 4;
+    int size = 8;  ///< of the cells of the first two: 8, or 4 in a small picture
+    Cells own;     ///< what the solid inside nearby has beyond the mean of the other channels; cells of `size`
+    Cells
+        cloth;  ///< 1 where that is more than the screen could bring: a rim of bluish cloth keeps its cyan; as above
     Cells inner;  ///< 1 well inside, where a bluish cloth keeps its cyan; cells of `kInnerCell`
 };
 GreenLimits findLimits(const RunContext& context, const Findings& findings);
