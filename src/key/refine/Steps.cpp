@@ -98,7 +98,10 @@ bool Steps::findAlpha(const RunContext& context, const Shot& shot, bool& still) 
     Mask clear = clearParts(context, shot);
     clear &= core_.solid.inverted();
     clear |= plate_.screen;
-    nearer_ = nearerSide(context, core_.solid, clear);
+    if (!still || clear != clear_) {
+        clear_ = std::move(clear);
+        nearer_ = nearerSide(context, core_.solid, clear_);
+    }
     Mask sure = surePixels(context, {shot, plate_, first_, nearer_}, core_.solid, open_);
     if (context.isSuperseded()) return false;
     if (!keeps_) first_ = {};
