@@ -3,6 +3,7 @@
 #include <QImage>
 
 #include "core/raster/Rows.h"
+#include "core/state/Interface.h"
 #include "key/Combine.h"
 #include "key/screen/BaseGreen.h"
 
@@ -22,10 +23,16 @@ void fillLayer(BitmapInfo& record, const char* path, int width, int height) {
     }
 }
 
+// Changes a setting before each run, as a slider that is dragged does; null leaves all as they are.
+using Move = void (*)(SystemInfo& info, int step);
+
 // Arguments: width, height, threads.
-void refineSample(benchmark::State& state, bool refined, Resolution resolution = Resolution::full) {
+void refineSample(benchmark::State& state, bool refined, Resolution resolution = Resolution::full,
+                  Move move = nullptr) {
     const int width = static_cast<int>(state.range(0)), height = static_cast<int>(state.range(1));
     SystemInfo info;
+    Interface view;  // previews are kept for a view
+    info.pInterface = &view;
     info.iOutputPixelWidth = info.iOutputPixelLowResWidth = width;
     info.iOutputPixelHeight = info.iOutputPixelLowResHeight = height;
     for (BitmapInfo* record :
@@ -43,8 +50,11 @@ void refineSample(benchmark::State& state, bool refined, Resolution resolution =
     ComputeBaseGreen(info, 1, 2);
     info.bRefineKey = refined;
     const ThreadLimit limit(static_cast<int>(state.range(2)));
-    for (auto _ : state)
+    int step = 0;
+    for (auto _ : state) {
+        if (move) move(info, step++ % 20);
         Combine(info, 1, resolution == Resolution::full ? 1 : 0);
+    }
     state.counters["per_pixel"] =
         benchmark::Counter(static_cast<double>(width) * height,
                            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
@@ -61,6 +71,26 @@ void refinedAgain(benchmark::State& state) {
     refineSample(state, true, Resolution::preview);
 }
 
+// Previews while a slider moves by one step each: of the key, and of the refinement alone.
+void refinedDarkMoved(benchmark::State& state) {
+    refineSample(state, true, Resolution::preview,
+                 [](SystemInfo& info, int step) { info.pCombinedBitmapInfo->sliderRestoredDarkAreas = 60 + step; });
+}
+void refinedTransparencyMoved(benchmark::State& state) {
+    refineSample(state, true, Resolution::preview, [](SystemInfo& info, int step) {
+        info.pCombinedBitmapInfo->sliderTransparentcyAdjustment = 90 + step;
+    });
+}
+void refinedSoftnessMoved(benchmark::State& state) {
+    refineSample(state, true, Resolution::preview,
+                 [](SystemInfo& info, int step) { info.iSliderRefineSoftness = step; });
+}
+
+void previewSizes(benchmark::internal::Benchmark* bench) {
+    for (const int threads : {1, 2})
+        bench->Args({460, 575, threads});
+    bench->UseRealTime()->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
+}
 void sampleSizes(benchmark::internal::Benchmark* bench) {
     for (const int threads : {1, 2})
         bench->Args({460, 575, threads})->Args({2400, 3000, threads})->Args({4000, 6000, threads});
@@ -68,12 +98,10 @@ void sampleSizes(benchmark::internal::Benchmark* bench) {
 }
 BENCHMARK(plainKey)->Apply(sampleSizes);
 BENCHMARK(refinedKey)->Apply(sampleSizes);
-BENCHMARK(refinedAgain)
-    ->Args({460, 575, 1})
-    ->Args({460, 575, 2})
-    ->UseRealTime()
-    ->MeasureProcessCPUTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(refinedAgain)->Apply(previewSizes);
+BENCHMARK(refinedDarkMoved)->Apply(previewSizes);
+BENCHMARK(refinedTransparencyMoved)->Apply(previewSizes);
+BENCHMARK(refinedSoftnessMoved)->Apply(previewSizes);
 
 }  // namespace
 }  // namespace tavrin

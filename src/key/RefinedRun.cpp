@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "core/state/Interface.h"
 #include "key/CombineRow.h"
 #include "key/refine/KeptResult.h"
 
@@ -52,13 +53,19 @@ bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverr
     });
     if (!keyed) return false;
     const refine::Shot shot{width, height, params.foreground, alpha.get(), params.key.blueLogic};
-    const auto look = resolution == Resolution::preview ? &refine::refinePreview : &refine::refineKey;
+    // Where nobody looks, no control is moved a second time.
+    const bool keeps = resolution == Resolution::preview && info.pInterface && info.pInterface->wantsPixels();
+    const auto look = keeps ? &refine::refinePreview : &refine::refineKey;
     const refine::Refined result = look(context, shot, tasteOf(info, params), params.combined);
     params.refined = result == refine::Refined::done;
     if (info.iLightingMode == 4) {
         params.refined ? keepAlpha(params, params.combined + 3, kPixelBytes) : keepAlpha(params, alpha.get(), 1);
     }
     return result != refine::Refined::superseded;
+}
+
+void forgetRefinedPreview() {
+    refine::forgetPreview();
 }
 
 void takeRefined(const SystemInfo& info, const std::vector<std::uint8_t>& subject, CombineParams& params) {

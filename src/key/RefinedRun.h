@@ -16,6 +16,9 @@ namespace tavrin {
 bool refineRun(const RunContext& context, const SystemInfo& info, const KeyOverrides& overrides,
                Resolution resolution, CombineParams& params);
 
+/// Gives back what a preview in a view keeps for the next one of the same picture.
+void forgetRefinedPreview();
+
 /// Takes the subject as `refineRun` left it in the combined buffer of a run on the same portrait.
 void takeRefined(const SystemInfo& info, const std::vector<std::uint8_t>& subject, CombineParams& params);
 

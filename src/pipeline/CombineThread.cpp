@@ -6,6 +6,7 @@
 
 #include "core/raster/ColorMath.h"
 #include "core/state/NamedPictures.h"
+#include "key/RefinedRun.h"
 #include "pipeline/OutputSize.h"
 #include "pipeline/Stages.h"
 #include "pipeline/SubjectPlace.h"
@@ -41,10 +42,12 @@ void drawGhost(SystemInfo& info, bool foregroundInHand) {
 }  // namespace
 
 CombineThread::~CombineThread() {
-    if (!thread_.joinable()) return;
-    thread_.request_stop();
-    info_.StartUpdate();
-    thread_.join();
+    if (thread_.joinable()) {
+        thread_.request_stop();
+        info_.StartUpdate();
+        thread_.join();
+    }
+    forgetRefinedPreview();
 }
 
 void CombineThread::StartMainThread() {
@@ -71,6 +74,7 @@ void CombineThread::tellFailure() {
     const std::string failure = info_.pictures.failure();
     if (failure.empty()) return;
     forgetKeyed();
+    forgetRefinedPreview();
     info_.pForegroundBitmapInfo->bScaleChange = info_.pBackgroundBitmapInfo->bScaleChange = true;
     info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
     if (info_.isStale()) return;
@@ -193,6 +197,7 @@ void CombineThread::updateSource(BitmapInfo& record, ReadPicture picture) {
 void CombineThread::updateForegroundScale() {
     BitmapInfo& foreground = *info_.pForegroundBitmapInfo;
     forgetKeyed();
+    forgetRefinedPreview();
     cascade(foreground);
     info_.pCombinedBitmapInfo->bHaveBaseGreen = false;
     // The shadow lives in the background's buffers.

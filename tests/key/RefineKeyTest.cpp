@@ -140,6 +140,35 @@ TEST(RefineKey, ARimOfAColourThatTheInsideLacksIsNoScreen) {
     EXPECT_LT(refined, 1.4 * plain) << "the fit alone is at 1.7";
 }
 
+TEST(RefineKey, WhereAMixtureExplainsThePixelTheKeyIsHeardLess) {
+    // A wide soft edge that the key takes for whole too early: as a mixture, and lit up beyond any mixture.
+    const Rgb screen{50.0, 145.0, 72.0}, fur{110.0, 100.0, 90.0};
+    const auto gain = [&](double light) {
+        KeyScene scene(400, 300, {50, 145, 72, 255});
+        std::vector<std::uint8_t> key(400 * 300);
+        const auto truth = [](int x) { return std::clamp((x - 196.0) / 8.0, 0.0, 1.0); };
+        for (int y = 0; y < 300; ++y) {
+            for (int x = 180; x < 400; ++x) {
+                Pixel& pixel = scene.at(scene.foreground, x, y) = mixed(fur, screen, truth(x));
+                const double lit = light * truth(x) * (1.0 - truth(x));
+                for (std::size_t c = 0; c < 3; ++c)
+                    pixel[c] = toByte(pixel[c] + lit);
+                key[static_cast<std::size_t>(y * 400 + x)] = toByte(255.0 * std::min(1.0, 1.7 * truth(x)));
+            }
+        }
+        const refine::Shot shot{400, 300, scene.foreground.front().data(), key.data(), false};
+        EXPECT_EQ(refine::refineKey({}, shot, {}, scene.combined.front().data()), refine::Refined::done);
+        double sum = 0.0, most = 0.0;
+        for (int x = 197; x < 201; ++x) {
+            sum += scene.at(scene.combined, x, 150)[3] / 255.0 - truth(x);
+            most += key[static_cast<std::size_t>(150 * 400 + x)] / 255.0 - truth(x);
+        }
+        return sum / most;
+    };
+    EXPECT_LT(gain(0.0), 0.45);
+    EXPECT_GT(gain(160.0), gain(0.0) + 0.3);
+}
+
 TEST(RefineKey, TheGuardHasTheLastWordAndAnEvenGridChangesNothing) {
     DiscScene scene;
     const auto alphas = [&scene](bool refined, int guard) {
@@ -217,6 +246,37 @@ TEST(RefineKey, ClothThatNoLightOnTheScreenExplainsStaysAtEverySize) {
     }
 }
 
+TEST(RefineKey, TheRimOfGreenClothIsAsGreenAsItsInsideAndThatOfOthersIsNot) {
+    const Rgb screen{92.0, 163.0, 110.0};
+    // How far the green of the soft rim is below the blue, at the most.
+    const auto missing = [&](const Rgb& cloth) {
+        constexpr int kSize = 480;
+        KeyScene scene(kSize, kSize, {92, 163, 110, 255});
+        scene.info.baseRed = screen.r;
+        scene.info.baseGreen = screen.g;
+        scene.info.baseBlue = screen.b;
+        scene.info.iGreenProtectMode = 0;
+        for (int y = 100; y < kSize; ++y) {
+            for (int x = 100; x < 380; ++x) {
+                const double alpha = std::clamp(std::min(x - 100, 380 - x) / 8.0, 0.0, 1.0);
+                scene.at(scene.foreground, x, y) = mixed(cloth, screen, alpha);
+            }
+            for (int x = 200; x < 280 && y < 180; ++x)
+                scene.at(scene.foreground, x, y) = {190, 120, 100, 255};
+        }
+        scene.info.bRefineKey = scene.info.bOutputTransparency = true;
+        Combine(scene.info, 1, 1);
+        int most = 0;
+        for (int x = 100; x < 120; ++x) {
+            const Pixel& made = scene.at(scene.combined, x, 300);
+            if (made[3] > 150) most = std::max(most, made[2] - made[1]);
+        }
+        return most;
+    };
+    EXPECT_LT(missing({17.0, 160.0, 132.0}), 12) << "bluish green";
+    EXPECT_GT(missing({60.0, 90.0, 140.0}), 30) << "blue: the screen's light goes";
+}
+
 TEST(RefineKey, ADeepShadowInAGapIsScreenWhereTheKeyHasNothing) {
     // Between two arms, too dark for a seed.
     KeyScene scene(480, 480);
@@ -232,6 +292,35 @@ TEST(RefineKey, ADeepShadowInAGapIsScreenWhereTheKeyHasNothing) {
     ASSERT_EQ(refine::refineKey({}, shot, {}, scene.combined.front().data()), refine::Refined::done);
     EXPECT_EQ(scene.at(scene.combined, 240, 350)[3], 0);
     EXPECT_EQ(scene.at(scene.combined, 160, 350)[3], 255);
+}
+
+TEST(RefineKey, AGapBetweenGreenSleevesIsScreenAlsoWhereItsLightIsAnother) {
+    // The gap is a little lighter and paler than the screen elsewhere, and the key leaves a little in it.
+    constexpr int kSize = 480;
+    KeyScene scene(kSize, kSize, {100, 170, 116, 255});
+    std::vector<std::uint8_t> key(kSize * kSize);
+    for (int y = 100; y < kSize; ++y) {
+        for (int x = 100; x < 380; ++x) {
+            const bool gap = y > 200 && y < 420 && x > 210 && x < 260, head = y < 180;
+            const auto noise = static_cast<std::uint8_t>((x * 7 + y * 13) % 3);
+            scene.at(scene.foreground, x, y) = gap    ? Pixel{107, 176, 122, 255}
+                                               : head ? Pixel{190, 120, 100, 255}
+                                                      : Pixel{17, static_cast<std::uint8_t>(150 + noise), 122, 255};
+            key[static_cast<std::size_t>(y * kSize + x)] = gap ? 10 : head ? 255 : 60;
+        }
+    }
+    const refine::Shot shot{kSize, kSize, scene.foreground.front().data(), key.data(), false};
+    ASSERT_EQ(refine::refineKey({}, shot, {}, scene.combined.front().data()), refine::Refined::done);
+    int left = 0, lost = 0;
+    for (int y = 210; y < 410; ++y) {
+        for (int x = 120; x < 360; ++x) {
+            const int alpha = scene.at(scene.combined, x, y)[3];
+            if (x > 214 && x < 256) left += alpha > 20;
+            if (x < 205 || x > 265) lost += alpha < 240;
+        }
+    }
+    EXPECT_EQ(left, 0);
+    EXPECT_EQ(lost, 0);
 }
 
 TEST(RefineKey, DarkHairThatTheKeyTookAwayIsNoShadowInASmallPicture) {

@@ -19,7 +19,7 @@ constexpr double kFirstReach = 3.0, kDepthReach = 60.0, kRoughReach = 10.0, kPar
 constexpr float kCoreAlpha = 0.65f, kSureAlpha = 0.92f;
 constexpr float kDepthAlpha = 0.08f, kDepthLight = 1.2f;
 constexpr float kOtherCover = 0.16f, kClothCover = 0.4f;  // least alphas: no shade of the screen; cloth for sure
-constexpr std::uint8_t kDepthKey = 13;                    // the key's alpha above 0.05
+constexpr std::uint8_t kNoKey = 12;                       // the key's alpha up to 0.05
 constexpr float kCalm = 2.5f, kCalmFactor = 1.2f;
 constexpr double kLeastPart = 0.005;  // of all cells
 constexpr float kWholeCell = 0.999f;
@@ -72,11 +72,10 @@ void findCloth(const RunContext& context, const Shot& shot, const Plate& plate, 
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         sumLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
         ratio.cover(y, scratch.row(2), scratch.row(3));
-        const std::uint8_t* const key = shot.keyRow(y) + area.left;
         for (int x = 0; x < area.width(); ++x) {
             const auto at = static_cast<std::size_t>(x);
-            flags[at] = cloth.likely.at(area.left + x, y) & (sum[x] > kDepthAlpha * 9.0f) & (key[x] >= kDepthKey) &
-                        (light[x] < kDepthLight) & (cover[x] > kOtherCover);
+            flags[at] = cloth.likely.at(area.left + x, y) & (sum[x] > kDepthAlpha * 9.0f) & (light[x] < kDepthLight) &
+                        (cover[x] > kOtherCover);
             sure[at] = flags[at] & (cover[x] > kClothCover);
         }
         cloth.likely.pack(y, area.left, area.width(), flags.data());
@@ -213,12 +212,20 @@ Mask enclosedGaps(const RunContext& context, const Shot& shot, const Plate& plat
     return filled();
 }
 
+// The pixels of `wanted` to which the key gave something.
+Mask keyedOf(const RunContext& context, const Shot& shot, const Mask& wanted) {
+    Mask none(shot.width, shot.height);
+    runRows(context, shot.height, 32,
+            [&](int y) { rowLoops().atMost(shot.keyRow(y), kNoKey, shot.width, none.row(y)); });
+    Mask keyed = none.inverted();
+    keyed &= wanted;
+    return keyed;
+}
+
 // Parts far from any bare screen that are no screen by their colour.
-Mask deepCloth(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& solid) {
-    Cloth cloth{shrunk(context, plate.screen.inverted(), shot.px(kDepthReach)), Mask(shot.width, shot.height)};
-    cloth.likely &= solid.inverted();
-    const Mask far = cloth.likely;
-    runAreas(context, far, [&](const Area& area) { findCloth(context, shot, plate, area, cloth); });
+Mask deepCloth(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& keyed) {
+    Cloth cloth{keyed, Mask(shot.width, shot.height)};
+    runAreas(context, keyed, [&](const Area& area) { findCloth(context, shot, plate, area, cloth); });
     // A part that counts has more than half of its cells' pixels.
     const double pixels = static_cast<double>(shot.width) * shot.height;
     if (static_cast<double>(cloth.likely.count()) < 0.4 * kLeastPart * pixels) return Mask(shot.width, shot.height);
@@ -232,12 +239,19 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     Look look{Mask(shot.width, shot.height), Mask(shot.width, shot.height)};
     runAreas(context, open, [&](const Area& area) { lookAt(context, shot, plate, area, look); });
     const int reach = shot.px(kCoreReach);
-    Core core{shrunk(context, look.high, reach), shrunk(context, look.sure, shot.px(kFirstReach))};
-    core.solid |= deepCloth(context, shot, plate, core.solid);
+    Core core{shrunk(context, look.high, reach), shrunk(context, look.sure, shot.px(kFirstReach)), {}, {}};
+    core.deep = shrunk(context, open, shot.px(kDepthReach));
+    core.deep &= core.solid.inverted();
+    core.keyed = keyedOf(context, shot, core.deep);
+    core.solid |= deepCloth(context, shot, plate, core.keyed);
     core.solid = grown(context, core.solid, std::max(1, reach - shot.px(kCoreNear)));
     core.solid |= enclosedGaps(context, shot, plate, core.solid);
     core.sure |= core.solid;
     return core;
+}
+
+bool isStill(const Core& core, const RunContext& context, const Shot& shot) {
+    return keyedOf(context, shot, core.deep) == core.keyed;
 }
 
 }  // namespace tavrin::refine

@@ -12,9 +12,22 @@ namespace {
 
 constexpr float kNoiseFactor = 1.5f, kLeastNoise = 0.012f, kMostNoise = 0.1f;  // of alpha on the screen
 constexpr double kReachShare = 0.22, kReachCell = 8.0;                         // of the width
-constexpr float kHeed = 0.6f;  // of what the key has more, on a neutral subject
+constexpr float kHeed = 0.36f;  // of what the key has more, where a mixture explains the pixel
 constexpr float kSharpness = 0.6f;
 constexpr float kHardest = 4.0f;  // how much steeper the hardest edge is
+
+// Luma of colours in roles, plane by plane.
+Cells lumaOf(const RunContext& context, const Cells& colors, bool blue) {
+    const LumaWeights weights(blue);
+    Cells luma(colors.columns(), colors.rows(), 1);
+    runRows(context, luma.rows(), 32, [&](int y) {
+        const float *const r = colors.row(y, 0), *const g = colors.row(y, 1), *const b = colors.row(y, 2);
+        float* const to = luma.row(y, 0);
+        for (int x = 0; x < luma.columns(); ++x)
+            to[x] = weights.r * r[x] + weights.g * g[x] + weights.b * b[x];
+    });
+    return luma;
+}
 
 }  // namespace
 
@@ -38,16 +51,19 @@ Reach findReach(const RunContext& context, const Findings& findings) {
     return reach;
 }
 
-Cells trustInKey(const Findings& findings) {
+Trust trustInKey(const RunContext& context, const Findings& findings) {
     const Cells& subject = findings.separation.subject;
-    Cells trust(subject.columns(), subject.rows(), 1);
-    for (int y = 0; y < trust.rows(); ++y) {
+    const bool blue = findings.shot.blue;
+    Trust trust{Cells(subject.columns(), subject.rows(), 1), lumaOf(context, subject, blue),
+                lumaOf(context, findings.plate.colors, blue)};
+    runRows(context, subject.rows(), 32, [&](int y) {
         const float *const r = subject.row(y, 0), *const g = subject.row(y, 1), *const b = subject.row(y, 2);
-        for (int x = 0; x < trust.columns(); ++x) {
+        float* const to = trust.key.row(y, 0);
+        for (int x = 0; x < subject.columns(); ++x) {
             const float lead = g[x] - std::max(r[x], b[x]);
-            trust.row(y, 0)[x] = kHeed * std::clamp(1.0f + lead / findings.plate.difference, 0.0f, 1.0f);
+            to[x] = std::clamp(1.0f + lead / findings.plate.difference, 0.0f, 1.0f);
         }
-    }
+    });
     return trust;
 }
 
@@ -58,7 +74,7 @@ void plainAlpha(const Findings& findings, const Strip& strip, int y, float* scra
     finishLoops().raise(scratch, strip.width, alpha);
 }
 
-FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Cells& trust, const Strip& strip)
+FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Trust& trust, const Strip& strip)
     : findings_(findings),
       strip_(strip),
       noise_(std::clamp(kNoiseFactor * findings.plate.spread, kLeastNoise, kMostNoise)),
@@ -71,8 +87,10 @@ FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Cells
                     planes[0][x] = static_cast<float>(static_cast<int>(key[x])) / 255.0f;
             }),
       near_(reach.near, reach.size, strip.left, strip.width),
-      trust_(trust, findings.separation.size, strip.left, strip.width),
-      scratch_(strip.width, 4) {
+      trust_(trust.key, findings.separation.size, strip.left, strip.width),
+      subject_(trust.subject, findings.separation.size, strip.left, strip.width),
+      screen_(trust.screen, kPlateCell, strip.left, strip.width),
+      scratch_(strip.width, 6) {
     if (findings.missingDetail > 0.0f) detail_.emplace(strip, findings.alpha, kSharpness * findings.missingDetail);
 }
 
@@ -86,16 +104,39 @@ void FinishRows::fill(int y, float* alpha) {
     } else {
         finishLoops().levels(alphas_.at(y, 0), alphas_.at(y, 0), 0.0f, width, alpha);
     }
-    sumLoops().boxSums(alphas_.around(y, 0, 2), 2, width, scratch_.row(2), mean);
-    for (int x = 0; x < width; ++x)
-        mean[x] /= 25.0f;
+    fillMeans(y, mean);
     finishLoops().quieten(mean, noise_, width, alpha);
-    trust_.fill(y, 0, detail);
-    finishLoops().heedKey(findings_.shot.keyRow(y) + strip_.left, mean, detail, width, alpha);
+    heedKey(y, mean, kHeed, alpha);
     holdBack(y, alpha);
     shape(mean, alpha);
     findings_.solid.unpack(y, strip_.left, width, detail);
     finishLoops().raise(detail, width, alpha);
+}
+
+void FinishRows::fillPlain(int y, float* alpha) {
+    plainAlpha(findings_, strip_, y, scratch_.row(1), alpha);
+    fillMeans(y, scratch_.row(0));
+    heedKey(y, scratch_.row(0), 0.0f, alpha);
+}
+
+// Means of 5 x 5 pixels.
+void FinishRows::fillMeans(int y, float* means) {
+    sumLoops().boxSums(alphas_.around(y, 0, 2), 2, strip_.width, scratch_.row(2), means);
+    for (int x = 0; x < strip_.width; ++x)
+        means[x] /= 25.0f;
+}
+
+// Where the key has more.
+void FinishRows::heedKey(int y, const float* means, float usual, float* alpha) {
+    float *const trust = scratch_.row(1), *const luma = scratch_.row(3), *const subject = scratch_.row(4),
+                 *const screen = scratch_.row(5);
+    trust_.fill(y, 0, trust);
+    subject_.fill(y, 0, subject);
+    screen_.fill(y, 0, screen);
+    loadLuma(strip_, y, luma);
+    finishLoops().heedKey({findings_.shot.keyRow(y) + strip_.left, means, trust, alphas_.at(y, 0), luma, screen,
+                           subject, 1.0f / findings_.plate.difference, usual},
+                          strip_.width, alpha);
 }
 
 // Far from the subject the key's word counts.

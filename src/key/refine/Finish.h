@@ -28,24 +28,33 @@ struct Reach {
 };
 Reach findReach(const RunContext& context, const Findings& findings);
 
-/// How far the key's alpha is to be trusted where it has more than the fit, on the separation's cells: a rim that the
-/// screen has tinted is of no colour that the inside has, and the fit takes it for screen. A subject of the opposite
-/// colour the key takes for whole too early.
-Cells trustInKey(const Findings& findings);
+/// How far the key's alpha is to be trusted where it has more than the fit: a rim that the screen has tinted, or that
+/// brought the light of an old backdrop along, is of no colour that the inside has, and the fit takes it for screen.
+struct Trust {
+    Cells key;      ///< 1, or less for a subject of the opposite colour, which the key takes for whole too early
+    Cells subject;  ///< luma of the subject around; both on the separation's cells
+    Cells screen;   ///< luma of the plate, on its cells
+};
+Trust trustInKey(const RunContext& context, const Findings& findings);
 
 /// The final alpha of a strip's rows. For one thread.
 class FinishRows {
   public:
-    FinishRows(const Findings& findings, const Reach& reach, const Cells& trust, const Strip& strip);
+    FinishRows(const Findings& findings, const Reach& reach, const Trust& trust, const Strip& strip);
 
     /// @param alpha 0 to 1
     void fill(int y, float* alpha);
+    /// Alpha that the colours are unmixed with: before the detail, the noise and the settings. The strip's rows.
+    void fillPlain(int y, float* alpha);
+    const Strip& strip() const { return strip_; }
     /// Columns beyond those asked for that the windows look at.
     static int halo(const Findings& findings) { return findings.missingDetail > 0.0f ? kDetailHalo : 2; }
 
   private:
     using Maker = std::function<void(int, float**)>;
 
+    void fillMeans(int y, float* means);
+    void heedKey(int y, const float* means, float usual, float* alpha);
     void holdBack(int y, float* alpha);
     void shape(const float* means, float* alpha) const;
 
@@ -54,7 +63,7 @@ class FinishRows {
     float noise_;
     std::optional<DetailRows> detail_;  // where alpha lacks any
     RowRing<1, Maker> alphas_, keys_;
-    CellRows near_, trust_;
+    CellRows near_, trust_, subject_, screen_;
     PaddedRows scratch_;
 };
 

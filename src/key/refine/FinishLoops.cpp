@@ -17,6 +17,7 @@ namespace {
 using refine::ChannelRow;
 using refine::ColorSources;
 using refine::EdgeShape;
+using refine::KeySources;
 
 constexpr float kLow = 0.03f, kHigh = 0.97f;  // levels that become 0 and 1
 constexpr float kTopNoise = 0.03f, kKeyGain = 4.0f;
@@ -62,13 +63,23 @@ void quieten(const float* HWY_RESTRICT means, float noise, int count, float* HWY
     }
 }
 
-void heedKey(const std::uint8_t* HWY_RESTRICT key, const float* HWY_RESTRICT means, const float* HWY_RESTRICT trust,
-             int count, float* HWY_RESTRICT alpha) {
-    constexpr float kFaint = 0.1f, kClear = 0.4f;
+float smooth(float value, float low, float high) {
+    const float t = limited((value - low) / (high - low));
+    return t * t * (3.0f - 2.0f * t);
+}
+
+void heedKey(const KeySources& from, int count, float* HWY_RESTRICT alpha) {
+    constexpr float kFaint = 0.1f, kClear = 0.4f;           // of the means
+    constexpr float kMore = 0.7f;                           // share of what the key has more
+    constexpr float kBright = 0.05f, kSurelyBright = 0.3f;  // luma beyond the mixture's, of the screen's difference
+    constexpr float kDark = 0.3f, kSurelyDark = 0.6f;       // the same below it: a shade is no other colour
+    const auto [key, means, trust, fit, own, behind, in, perLuma, usual] = from;
     for (int x = 0; x < count; ++x) {
         const float more = static_cast<float>(static_cast<std::int32_t>(key[x])) / 255.0f - alpha[x];
-        const float t = limited((means[x] - kFaint) / (kClear - kFaint));
-        alpha[x] += t * t * (3.0f - 2.0f * t) * trust[x] * std::max(more, 0.0f);
+        const float off = (own[x] - (behind[x] + fit[x] * (in[x] - behind[x]))) * perLuma;
+        const float strange = std::max(smooth(off, kBright, kSurelyBright), smooth(-off, kDark, kSurelyDark));
+        const float share = std::min(trust[x] * (usual + kMore * strange), 1.0f);
+        alpha[x] += smooth(means[x], kFaint, kClear) * share * std::max(more, 0.0f);
     }
 }
 

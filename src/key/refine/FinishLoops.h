@@ -22,15 +22,26 @@ struct ColorSources {
     float lumaR, lumaG, lumaB;  ///< the luma's weights
 };
 
+/// What says how far the key is to be heard, row by row.
+struct KeySources {
+    const std::uint8_t* key;
+    const float* means;              ///< of alpha around
+    const float* trust;              ///< by the subject's colour, 0 to 1
+    const float* fit;                ///< alpha by the colours
+    const float *own, *behind, *in;  ///< luma of the picture, of the plate and of the subject around
+    float perLuma;                   ///< one over the screen's usual colour difference
+    float usual;                     ///< share of the way where a mixture has the pixel's luma
+};
+
 /// The last steps of alpha and the subject's colour, compiled as `RowLoops` are.
 struct FinishLoops {
     /// alpha + strength detail, stretched so that faint and nearly whole become 0 and 1.
     void (*levels)(const float* alpha, const float* detail, float strength, int count, float* to);
     /// Takes flat noise out near 0 and 1; `means` are of alpha around.
     void (*quieten)(const float* means, float noise, int count, float* alpha);
-    /// Where the key has more than alpha, on what is no bare screen by the `means` of alpha around: part of the way
-    /// to it, as far as it is to be trusted.
-    void (*heedKey)(const std::uint8_t* key, const float* means, const float* trust, int count, float* alpha);
+    /// Where the key has more than alpha, on what is no bare screen by the means of alpha around: the usual share of
+    /// the way to it, as far as it is to be trusted, and most of the way where no mixture has the pixel's luma.
+    void (*heedKey)(const KeySources& from, int count, float* alpha);
     /// Holds alpha back to `near`, but for what 25 sums of the key have.
     void (*holdBack)(const float* near, const float* keySums, int count, float* alpha);
     void (*shape)(const EdgeShape& shape, const float* means, int count, float* alpha);

@@ -40,6 +40,7 @@ class Mask {
     Mask& operator|=(const Mask& other);
     Mask& operator&=(const Mask& other);
     Mask inverted() const;
+    bool operator==(const Mask& other) const = default;
 
   private:
     int width_ = 0, height_ = 0, words_ = 0;

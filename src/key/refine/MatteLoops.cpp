@@ -74,7 +74,7 @@ void distance(ChannelRow sums, ChannelRow screen, int count, float* HWY_RESTRICT
 void fit(ChannelRow own, ChannelRow screen, ChannelRow weights, const float* certain, const float* near,
          const std::uint8_t* HWY_RESTRICT key, int count, float* HWY_RESTRICT alpha) {
     constexpr float kFaintCover = 0.15f, kFullCover = 0.8f;  // least alphas that count as 0 and as 1
-    constexpr float kKeyShare = 1.0f / 32.0f;                // of the key, where there may be a subject
+    constexpr float kKeyShare = 1.0f / 12.0f;                // of the key, where there may be a subject
     const float *const r = own.r, *const g = own.g, *const b = own.b;
     const float *const pr = screen.r, *const pg = screen.g, *const pb = screen.b;
     const float *const wr = weights.r, *const wg = weights.g, *const wb = weights.b;

@@ -14,24 +14,24 @@ namespace tavrin::refine {
 
 namespace {
 
-constexpr double kDeepReach = 10.0, kInnerReach = 8.0;
+constexpr double kOwnCell = 8.0, kDeepReach = 10.0, kInnerReach = 8.0;
 constexpr float kWhole = 0.98f;
 constexpr double kFewCells = 20.0;
-constexpr float kMostOwn = 0.45f;  // of the screen's difference
+constexpr float kMaybeCloth = 0.3f, kSurelyCloth = 0.6f;  // of the screen's difference
+constexpr float kMostOwn = 0.45f;                         // of the screen's difference
 
 // Adds some columns of one row of cells.
-void sumGreen(const Mask& deep, int row, const Strip& strip, Cells& cells) {
-    constexpr int kSize = GreenLimits::kOwnCell;
+void sumGreen(const Mask& deep, int row, int size, const Strip& strip, Cells& cells) {
     const auto length = static_cast<std::size_t>(strip.width);
     std::vector<float> lines(3 * length);
     float *const weight = lines.data(), *const leads = weight + length, *const weights = leads + length;
-    const int first = row * kSize, last = std::min(first + kSize, deep.height());
+    const int first = row * size, last = std::min(first + size, deep.height());
     for (int y = first; y < last; ++y) {
         deep.unpack(y, strip.left, strip.width, weight);
         rowLoops().addLead(strip.shot.pixelRow(y) + strip.left, weight, strip.width, strip.shot.blue, leads, weights);
     }
-    for (int begin = 0; begin < strip.width; begin += kSize) {
-        const int end = std::min(begin + kSize, strip.width), cell = (strip.left + begin) / kSize;
+    for (int begin = 0; begin < strip.width; begin += size) {
+        const int end = std::min(begin + size, strip.width), cell = (strip.left + begin) / size;
         const auto pixels = static_cast<float>((end - begin) * (last - first));
         cells.row(row, 0)[cell] = std::accumulate(leads + begin, leads + end, 0.0f) / pixels;
         cells.row(row, 1)[cell] = std::accumulate(weights + begin, weights + end, 0.0f) / pixels;
@@ -39,14 +39,13 @@ void sumGreen(const Mask& deep, int row, const Strip& strip, Cells& cells) {
 }
 
 // Means over the deep inside of how far the screen's channel is above the mean of the others.
-Cells ownGreen(const RunContext& context, const Findings& findings) {
+Cells ownGreen(const RunContext& context, const Findings& findings, int size) {
     const Shot& shot = findings.shot;
-    constexpr int kSize = GreenLimits::kOwnCell;
     const Mask deep = shrunk(context, findings.solid, shot.px(kDeepReach));
-    Cells cells = Cells::over(shot.width, shot.height, kSize, 2);
+    Cells cells = Cells::over(shot.width, shot.height, size, 2);
     runRows(context, cells.rows(), 4, [&](int row) {
-        forColumns(deep, row * kSize, std::min((row + 1) * kSize, shot.height), [&](int left, int right) {
-            sumGreen(deep, row, {shot, left, right - left}, cells);
+        forColumns(deep, row * size, std::min((row + 1) * size, shot.height), [&](int left, int right) {
+            sumGreen(deep, row, size, {shot, left, right - left}, cells);
         });
     });
     return cells;
@@ -74,11 +73,16 @@ Mask wholePixels(const RunContext& context, const Findings& findings) {
 GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     const Shot& shot = findings.shot;
     GreenLimits limits;
-    const Cells green = ownGreen(context, findings);
-    limits.own = Cells(green.columns(), green.rows(), 1);
+    limits.size = shot.px(kOwnCell) < 6 ? 4 : 8;  // parts of a grain of columns
+    const Cells green = ownGreen(context, findings, limits.size);
+    limits.own = limits.cloth = Cells(green.columns(), green.rows(), 1);
     if (green.sums()[1] > kFewCells) {
         const float usual = findings.plate.difference;
-        Cells least = least5(pushPull(context, green));
+        Cells least = least5(pushPull(context, green)), cloth = least;
+        for (std::size_t i = 0; i < cloth.count(); ++i)
+            cloth.row(0, 0)[i] = smoothStep(cloth.row(0, 0)[i], kMaybeCloth * usual, kSurelyCloth * usual) *
+                                 std::min(findings.taste.ownGreen, 1.0f);
+        limits.cloth = blurred(context, cloth, 3.0);
         // Much and smooth, or it is spill: on black that stays below.
         for (std::size_t i = 0; i < least.count(); ++i) {
             float& own = least.row(0, 0)[i];
@@ -96,20 +100,22 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     return limits;
 }
 
-ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, const Strip& strip)
-    : findings_(findings),
-      strip_(strip),
+ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, FinishRows& finish, const Strip& strip)
+    : strip_(strip),
+      plain_(static_cast<std::size_t>(finish.strip().width)),
       start_(strip, findings.plate),
       scratch_(strip.width, 12),
       shares_(strip.width, findings.shot.height, 1,
-              [this](int y, float** planes) {
+              [this, &finish](int y, float** planes) {
                   start_.load(y, planes + 4);
-                  plainAlpha(findings_, strip_, y, scratch_.row(10), planes[3]);
+                  finish.fillPlain(y, plain_.data());
+                  std::copy_n(plain_.data() + (strip_.left - finish.strip().left), strip_.width, planes[3]);
                   finishLoops().remainder({planes[4], planes[5], planes[6]}, {planes[7], planes[8], planes[9]},
                                           planes[3], strip_.width, planes[0], planes[1], planes[2]);
               }),
       subject_(findings.separation.subject, findings.separation.size, strip.left, strip.width),
-      own_(limits.own, GreenLimits::kOwnCell, strip.left, strip.width),
+      own_(limits.own, limits.size, strip.left, strip.width),
+      cloth_(limits.cloth, limits.size, strip.left, strip.width),
       inner_(limits.inner, GreenLimits::kInnerCell, strip.left, strip.width) {}
 
 void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
@@ -120,6 +126,8 @@ void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
         subject_.fill(y, c, scratch_.row(4 + c));
     own_.fill(y, 0, scratch_.row(7));
     inner_.fill(y, 0, scratch_.row(8));
+    cloth_.fill(y, 0, scratch_.row(9));
+    finishLoops().raise(scratch_.row(9), width, scratch_.row(8));
     loadLuma(strip_, y, scratch_.row(9));
     const auto here = [&](int plane) -> ChannelRow {
         return {shares_.at(y, plane), shares_.at(y, plane + 1), shares_.at(y, plane + 2)};
@@ -132,7 +140,8 @@ void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
 
 void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits, const Area& area,
                 std::uint8_t* picture) {
-    CellRows own(limits.own, GreenLimits::kOwnCell, area.left, area.width()),
+    CellRows own(limits.own, limits.size, area.left, area.width()),
+        cloth(limits.cloth, limits.size, area.left, area.width()),
         inner(limits.inner, GreenLimits::kInnerCell, area.left, area.width()),
         screen(plate.colors, kPlateCell, area.left, area.width());
     const auto width = static_cast<std::size_t>(area.width());
@@ -142,6 +151,8 @@ void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits,
     for (int y = area.top; y < area.bottom; ++y) {
         own.fill(y, 0, line(0));
         inner.fill(y, 0, line(1));
+        cloth.fill(y, 0, line(2));
+        finishLoops().raise(line(2), area.width(), line(1));
         for (int plane = 0; plane < 3; ++plane)
             screen.fill(y, plane, line(2 + static_cast<std::size_t>(plane)));
         finishLoops().solid(shot.pixelRow(y) + area.left, {line(2), line(3), line(4)}, line(0), line(1), shot.blue,

@@ -8,8 +8,11 @@ namespace tavrin::refine {
 
 /// How green the subject may be at each place.
 struct GreenLimits {
-    static constexpr int kOwnCell = 8, kInnerCell = 4;
-    Cells own;    ///< what the solid inside nearby has beyond the mean of the other channels; cells of `kOwnCell`
+    static constexpr int kInnerCell = 4;
+    int size = 8;  ///< of the cells of the first two: 8, or 4 in a small picture
+    Cells own;     ///< what the solid inside nearby has beyond the mean of the other channels; cells of `size`
+    Cells
+        cloth;  ///< 1 where that is more than the screen could bring: a rim of bluish cloth keeps its cyan; as above
     Cells inner;  ///< 1 well inside, where a bluish cloth keeps its cyan; cells of `kInnerCell`
 };
 GreenLimits findLimits(const RunContext& context, const Findings& findings);
@@ -17,7 +20,8 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings);
 /// The subject's own colour in rows of a strip. For one thread.
 class ColorRows {
   public:
-    ColorRows(const Findings& findings, const GreenLimits& limits, const Strip& strip);
+    /// @param finish of a strip around this one
+    ColorRows(const Findings& findings, const GreenLimits& limits, FinishRows& finish, const Strip& strip);
 
     /// Makes row `y`.
     /// @param alpha the final alpha of the strip, 0 to 1
@@ -29,12 +33,12 @@ class ColorRows {
 
     ChannelRow rowsFrom(int row) { return {scratch_.row(row), scratch_.row(row + 1), scratch_.row(row + 2)}; }
 
-    const Findings& findings_;
     Strip strip_;
+    std::vector<float> plain_;
     StartRows start_;
     PaddedRows scratch_;
     RowRing<10, Maker> shares_;  // the remainder, alpha, the picture, the plate
-    CellRows subject_, own_, inner_;
+    CellRows subject_, own_, cloth_, inner_;
 };
 
 /// Columns beyond an area that the windows of the colours look at.

@@ -81,12 +81,32 @@ std::vector<float> strayAlphas(const RunContext& context, const Shot& shot, cons
     return all;
 }
 
+// The middle one of numbers from 0 to 1.3, at least one: those around it are found by counting.
+float middleOf(const std::vector<float>& values) {
+    constexpr float kSteps = 2048.0f;
+    std::array<std::uint32_t, 4096> counts{};
+    const auto step = [&](float value) {
+        return std::min(static_cast<std::size_t>(value * kSteps), counts.size() - 1);
+    };
+    for (const float value : values)
+        ++counts[step(value)];
+    std::size_t place = values.size() / 2, middle = 0;
+    for (; place >= counts[middle]; ++middle)
+        place -= counts[middle];
+    std::vector<float> near;
+    near.reserve(counts[middle]);
+    for (const float value : values) {
+        if (step(value) == middle) near.push_back(value);
+    }
+    const auto at = near.begin() + static_cast<std::ptrdiff_t>(place);
+    std::nth_element(near.begin(), at, near.end());
+    return *at;
+}
+
 float measureSpread(const RunContext& context, const Shot& shot, const Plate& plate) {
-    std::vector<float> distances = strayAlphas(context, shot, plate);
+    const std::vector<float> distances = strayAlphas(context, shot, plate);
     if (distances.empty()) return 0.0f;
-    const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
-    std::nth_element(distances.begin(), middle, distances.end());
-    return kDeviation * *middle;
+    return kDeviation * middleOf(distances);
 }
 
 // Sums of the screen's pixels in some columns of one row of cells.

@@ -33,9 +33,19 @@ void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen);
 /// Makes the colours from the screen's pixels, and measures `spread` anew.
 void paintPlate(const RunContext& context, const Shot& shot, Plate& plate);
 
-/// Takes out of the screen what differs from its plate (hair that the key took away), and takes in the smooth shadows
-/// that hang together with it.
-void mendScreen(const RunContext& context, const Shot& shot, Plate& plate);
+/// The pixels to which the key gave next to nothing, and to all around them: a gap in which the light is another.
+Mask clearParts(const RunContext& context, const Shot& shot);
+
+/// What a plate tells of single pixels, whatever the key: asked for where it is wanted, and known from then on.
+struct PlateLook {
+    Mask near;         ///< the screen's pixels that do not differ from the plate
+    Mask asked, soft;  ///< the pixels that were looked at for shadow, and those of them that may be
+};
+
+/// The plate's screen without what differs from it (hair that the key took away), and with the smooth shadows that
+/// hang together with it.
+/// @param look empty, or as it came from here with the same picture and plate
+Mask mendedScreen(const RunContext& context, const Shot& shot, const Plate& plate, PlateLook& look);
 
 /// The rows of a strip beside its plate, and the simple alpha: one less the colour difference over the plate's.
 class StartRows {

@@ -18,6 +18,8 @@ constexpr int kLeastSmoothReach = 2;  // in a window of 3 x 3 the crests of dark
 constexpr float kFarSpreads = 3.0f, kLeastSpread = 0.008f;
 constexpr float kLeastLight = 0.4f, kMostLight = 1.15f;  // of the plate's
 constexpr std::uint8_t kMostKey = 89;                    // the key's alpha below 0.35
+constexpr std::uint8_t kNextToNothing = 16;              // 0.06
+constexpr double kClearReach = 4.0;                      // less is hair that the key has nearly taken away
 constexpr float kSoftShare = 0.9f;                       // of a cell that a shadow is followed through
 constexpr double kLargeArea = 0.02, kLeastArea = 0.001;  // of the picture
 constexpr float kOtherCover = 0.4f;                      // the least alpha of what is no screen in any light
@@ -58,11 +60,9 @@ void findSoft(const RunContext& context, const Shot& shot, const Plate& plate, c
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         rowLoops().windowRange(ratios.around(y, 0, reach), reach, strip.width, scratch.row(0), scratch.row(1));
         const float *const light = ratios.at(y, 0) + inset, *const off = ratios.at(y, 1) + inset;
-        const std::uint8_t* const key = shot.keyRow(y) + area.left;
         for (int x = 0; x < area.width(); ++x)
             flags[static_cast<std::size_t>(x)] = (off[x] < offLimit) & (light[x] > kLeastLight) &
-                                                 (light[x] < kMostLight) & (key[x] <= kMostKey) &
-                                                 (high[x] - low[x] < rangeLimit);
+                                                 (light[x] < kMostLight) & (high[x] - low[x] < rangeLimit);
         soft.pack(y, area.left, area.width(), flags.data());
     }
 }
@@ -150,17 +150,31 @@ void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen) {
     screen |= small;
 }
 
-void mendScreen(const RunContext& context, const Shot& shot, Plate& plate) {
-    Mask near(shot.width, shot.height), soft(shot.width, shot.height);
-    runAreas(context, plate.screen, [&](const Area& area) { findNear(context, shot, plate, area, near); });
-    plate.screen &= near;
+Mask clearParts(const RunContext& context, const Shot& shot) {
+    return shrunk(context, thinPixels(context, shot, kNextToNothing), shot.px(kClearReach));
+}
+
+Mask mendedScreen(const RunContext& context, const Shot& shot, const Plate& plate, PlateLook& look) {
+    if (look.near.width() == 0) {
+        look.near = look.asked = look.soft = Mask(shot.width, shot.height);
+        runAreas(context, plate.screen, [&](const Area& area) { findNear(context, shot, plate, area, look.near); });
+    }
+    Mask screen = plate.screen;
+    screen &= look.near;
     Mask open = thinPixels(context, shot, kMostKey);
-    open &= plate.screen.inverted();
-    runAreas(context, open, [&](const Area& area) { findSoft(context, shot, plate, area, soft); });
-    Mask shadows = reachable(context, shot, plate.screen, soft, kLargeArea);
-    shadows |= thinPixels(context, shot, 0);  // a gap that is all shadow: nothing speaks for a subject there
-    shadows &= soft;
-    plate.screen |= shadows;
+    open &= screen.inverted();
+    Mask unknown = look.asked.inverted();
+    unknown &= open;
+    runAreas(context, unknown, [&](const Area& area) { findSoft(context, shot, plate, area, look.soft); });
+    look.asked |= unknown;
+    open &= look.soft;
+    Mask shadows = reachable(context, shot, screen, open, kLargeArea);
+    // A gap that is all shadow: nothing speaks for a subject there.
+    shadows |= thinPixels(context, shot, 0);
+    shadows |= clearParts(context, shot);
+    shadows &= open;
+    screen |= shadows;
+    return screen;
 }
 
 }  // namespace tavrin::refine

@@ -1,0 +1,132 @@
+#include "key/refine/Steps.h"
+
+#include <cstring>
+#include <utility>
+
+#include "core/raster/Pixels.h"
+#include "key/refine/OwnColor.h"
+
+namespace tavrin::refine {
+
+namespace {
+
+constexpr std::int64_t kFewestSure = 100;  // pixels to learn the subject's colours from
+constexpr int kMargin = 3;                 // of what is decided, so that small windows need nothing beyond
+
+// What the last pass goes by besides the findings.
+struct Limits {
+    Reach reach;
+    GreenLimits green;
+    Trust trust;
+};
+
+void writeArea(const RunContext& context, const Findings& findings, const Limits& limits, const Area& area,
+               std::uint8_t* result) {
+    const Shot& shot = findings.shot;
+    const Strip wide = area.strip(shot, kColorHalo + FinishRows::halo(findings)),
+                strip = area.strip(shot, kColorHalo);
+    FinishRows finish(findings, limits.reach, limits.trust, wide);
+    ColorRows colors(findings, limits.green, finish, strip);
+    std::vector<float> alpha(static_cast<std::size_t>(wide.width));
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(strip.width));
+    for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+        finish.fill(y, alpha.data());
+        colors.fill(y, alpha.data() + (strip.left - wide.left), pixels.data());
+        std::memcpy(result + pixelOffset(shot.width, area.left, y), pixels.data() + (area.left - strip.left),
+                    static_cast<std::size_t>(area.width()) * kPixelBytes);
+    }
+}
+
+// Nothing but screen, as far as no area covers it.
+void clearRows(const RunContext& context, const Shot& shot, std::uint8_t* result) {
+    runRowRanges(context, shot.height, 16, [&](int first, int last) {
+        std::memset(result + pixelOffset(shot.width, 0, first), 0,
+                    static_cast<std::size_t>(last - first) * static_cast<std::size_t>(shot.width) * kPixelBytes);
+    });
+}
+
+bool writeResult(const RunContext& context, const Findings& findings, std::uint8_t* result) {
+    const Limits limits{findReach(context, findings), findLimits(context, findings), trustInKey(context, findings)};
+    clearRows(context, findings.shot, result);
+    runAreas(context, findings.solid,
+             [&](const Area& area) { writeSolid(findings.shot, findings.plate, limits.green, area, result); });
+    return runAreas(context, findings.open,
+                    [&](const Area& area) { writeArea(context, findings, limits, area, result); });
+}
+
+// What is neither well inside nor well on the screen.
+Mask openPixels(const RunContext& context, const Mask& screen, const Mask& solid) {
+    Mask bare = screen;
+    bare &= solid.inverted();
+    Mask decided = shrunk(context, bare, kMargin);
+    decided |= shrunk(context, solid, kMargin);
+    return decided.inverted();
+}
+
+}  // namespace
+
+bool Steps::findPlate(const RunContext& context, const Shot& shot, bool& still) {
+    std::optional<Plate> found = findScreen(context, shot);
+    if (!found) return false;
+    if (!still || found->screen != seeds_.screen || found->difference != seeds_.difference) {
+        seeds_ = std::move(*found);
+        look_ = {};
+        paintPlate(context, shot, seeds_);
+    }
+    Mask screen = mendedScreen(context, shot, seeds_, look_);
+    still = still && screen == plate_.screen && seeds_.difference == plate_.difference;
+    if (!keeps_) look_ = {};
+    if (still || context.isSuperseded()) return still;
+    plate_.difference = seeds_.difference;
+    plate_.screen = std::move(screen);
+    if (!keeps_) seeds_ = {};
+    paintPlate(context, shot, plate_);
+    return true;
+}
+
+bool Steps::findSubject(const RunContext& context, const Shot& shot, bool& still) {
+    still = still && isStill(core_, context, shot);
+    if (still) return true;
+    core_ = findCore(context, shot, plate_);
+    if (context.isSuperseded() || core_.sure.count() < kFewestSure) return false;
+    open_ = openPixels(context, plate_.screen, core_.solid);
+    first_ = separate(context, shot, plate_, core_.sure, open_);
+    return true;
+}
+
+bool Steps::findAlpha(const RunContext& context, const Shot& shot, bool& still) {
+    Mask clear = clearParts(context, shot);
+    clear &= core_.solid.inverted();
+    clear |= plate_.screen;
+    if (!still || clear != clear_) {
+        clear_ = std::move(clear);
+        nearer_ = nearerSide(context, core_.solid, clear_);
+    }
+    Mask sure = surePixels(context, {shot, plate_, first_, nearer_}, core_.solid, open_);
+    if (context.isSuperseded()) return false;
+    if (!keeps_) first_ = {};
+    if (!still || sure != sure_) {
+        sure_ = std::move(sure);
+        separation_ = separate(context, shot, plate_, sure_, open_);
+    }
+    alpha_ = fitAlpha(context, {shot, plate_, separation_, nearer_}, core_.solid, open_);
+    if (context.isSuperseded()) return false;
+    missingDetail_ = missingDetail(context, shot, alpha_, open_);
+    return true;
+}
+
+Refined Steps::run(const RunContext& context, const Shot& shot, const RefineTaste& taste, std::uint8_t* result) {
+    bool still = std::exchange(known_, false);  // also while memory may run out
+    if (!findPlate(context, shot, still) || !findSubject(context, shot, still) || !findAlpha(context, shot, still))
+        return context.isSuperseded() ? Refined::superseded : Refined::noScreen;
+    return runWith(context, shot, taste, result);
+}
+
+Refined Steps::runWith(const RunContext& context, const Shot& shot, const RefineTaste& taste, std::uint8_t* result) {
+    known_ = false;
+    const Findings findings{shot, plate_, separation_, core_.solid, open_, alpha_, taste, missingDetail_};
+    known_ = writeResult(context, findings, result);
+    return known_ ? Refined::done : Refined::superseded;
+}
+
+}  // namespace tavrin::refine
