@@ -2598,6 +2598,22 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <source>Sets the key for this colour of hair.</source>
         <translation>Stellt das Freistellen auf diese Haarfarbe ein.</translation>
     </message>
+    <message>
+        <source>Mail</source>
+        <translation>Mail</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Postausgang</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture by mail</source>
+        <translation>Verschickt das fertige Bild per Mail</translation>
+    </message>
+    <message>
+        <source>Sheets to be printed</source>
+        <translation>Zu druckende Bögen</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -3967,6 +3983,77 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
     </message>
 </context>
 <context>
+    <name>tavrin::MailPage</name>
+    <message>
+        <source>To</source>
+        <translation>An</translation>
+    </message>
+    <message>
+        <source>Mail address of who gets the picture</source>
+        <translation>Mailadresse dessen, der das Bild bekommt</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Subject of the mail</source>
+        <translation>Betreff der Mail</translation>
+    </message>
+    <message>
+        <source>Answers to</source>
+        <translation>Antworten an</translation>
+    </message>
+    <message>
+        <source>Mail address that answers go to; the mail itself comes from the account of the server</source>
+        <translation>Mailadresse, an die Antworten gehen; die Mail selbst kommt vom Konto des Servers</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>What the mail says beside the picture</source>
+        <translation>Was außer dem Bild in der Mail steht</translation>
+    </message>
+    <message>
+        <source>Tell where the picture was taken</source>
+        <translation>Aufnahmeort mitschicken</translation>
+    </message>
+    <message>
+        <source>Leaves the place on earth in the picture, if the camera noted one</source>
+        <translation>Lässt den Ort im Bild, falls die Kamera einen vermerkt hat</translation>
+    </message>
+    <message>
+        <source>Send, mail program and mail server</source>
+        <translation>Senden, Mailprogramm und Mailserver</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture with this text</source>
+        <translation>Verschickt das fertige Bild mit diesem Text</translation>
+    </message>
+    <message>
+        <source>Open in mail program</source>
+        <translation>Im Mailprogramm öffnen</translation>
+    </message>
+    <message>
+        <source>Opens a new mail with the picture in your own mail program</source>
+        <translation>Öffnet eine neue Mail mit dem Bild im eigenen Mailprogramm</translation>
+    </message>
+    <message>
+        <source>Mail server...</source>
+        <translation>Mailserver ...</translation>
+    </message>
+    <message>
+        <source>The server and the account that send the mails</source>
+        <translation>Server und Konto, die die Mails verschicken</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::MainWindow</name>
     <message>
         <source>Turns the whole layer</source>
@@ -4684,6 +4771,62 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <source>The version of this program</source>
         <translation>Die Version dieses Programms</translation>
     </message>
+    <message>
+        <source>The window closes when the mail is sent.</source>
+        <translation>Das Fenster schließt sich, sobald die Mail verschickt ist.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is sent.</source>
+        <translation>Die Mail an %1 ist verschickt.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 may have gone.</source>
+        <translation>Die Mail an %1 ist vielleicht angekommen.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is not sent. It is kept in the outbox.</source>
+        <translation>Die Mail an %1 ist nicht verschickt. Sie bleibt im Postausgang.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is not sent.</source>
+        <translation>Die Mail an %1 ist nicht verschickt.</translation>
+    </message>
+    <message>
+        <source>Ends the sending; the outbox keeps the mail while it is on</source>
+        <translation>Bricht das Senden ab; der Postausgang behält die Mail, solange er eingeschaltet ist</translation>
+    </message>
+    <message>
+        <source>Mail to %1</source>
+        <translation>Mail an %1</translation>
+    </message>
+    <message>
+        <source>The mail program could not be opened.</source>
+        <translation>Das Mailprogramm konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>Prints the finished picture, or saves the sheet as a PDF</source>
+        <translation>Druckt das fertige Bild oder speichert den Bogen als PDF</translation>
+    </message>
+    <message>
+        <source>Page La&amp;yout...</source>
+        <translation>Sei&amp;tenlayout...</translation>
+    </message>
+    <message>
+        <source>Chooses the paper to print on and how it lies</source>
+        <translation>Wählt das Papier, auf das gedruckt wird, und wie es liegt</translation>
+    </message>
+    <message>
+        <source>Save the Sheet</source>
+        <translation>Bogen speichern</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4753,6 +4896,116 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
     <message>
         <source>A click selects a text or picture item, and drags act on it</source>
         <translation>Ein Klick wählt einen Text oder ein Bild, und Ziehen wirkt darauf</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::OutboxPanel</name>
+    <message>
+        <source>is sent again at %1</source>
+        <translation>wird um %1 erneut gesendet</translation>
+    </message>
+    <message>
+        <source>is not sent by itself</source>
+        <translation>wird nicht von selbst gesendet</translation>
+    </message>
+    <message>
+        <source>may have gone, and is not sent by itself</source>
+        <translation>ist vielleicht angekommen und wird nicht von selbst gesendet</translation>
+    </message>
+    <message>
+        <source>is being sent</source>
+        <translation>wird gesendet</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing waits.</source>
+        <translation>Nichts wartet.</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Postausgang</translation>
+    </message>
+    <message>
+        <source>Mails that could not be sent</source>
+        <translation>Mails, die nicht gesendet werden konnten</translation>
+    </message>
+    <message>
+        <source>Mails that could not be sent, each with its reason</source>
+        <translation>Mails, die nicht gesendet werden konnten, mit dem Grund</translation>
+    </message>
+    <message>
+        <source>Keep what could not be sent, and try again</source>
+        <translation>Nicht Gesendetes behalten und erneut versuchen</translation>
+    </message>
+    <message>
+        <source>The pauses between the tries grow from a minute to four hours</source>
+        <translation>Die Pausen zwischen den Versuchen wachsen von einer Minute auf vier Stunden</translation>
+    </message>
+    <message>
+        <source>Send now</source>
+        <translation>Jetzt senden</translation>
+    </message>
+    <message>
+        <source>Sends the selected mails; where none is selected, all but those that may have gone</source>
+        <translation>Sendet die gewählten Mails; ist keine gewählt, alle außer denen, die vielleicht angekommen sind</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Removes the selected mails without sending them</source>
+        <translation>Entfernt die gewählten Mails, ohne sie zu senden</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PageLayoutDialog</name>
+    <message>
+        <source>Upright</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>On its side</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>The paper in the printer; the sheet is printed in its middle</source>
+        <translation>Das Papier im Drucker; der Bogen wird in seine Mitte gedruckt</translation>
+    </message>
+    <message>
+        <source>As the printer has it (%1)</source>
+        <translation>Wie es der Drucker hat (%1)</translation>
+    </message>
+    <message>
+        <source>The paper is higher than wide</source>
+        <translation>Das Papier ist höher als breit</translation>
+    </message>
+    <message>
+        <source>The paper is wider than high</source>
+        <translation>Das Papier ist breiter als hoch</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Takes this paper for all that is printed</source>
+        <translation>Nimmt dieses Papier für alles, was gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -5001,6 +5254,268 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>%1 from %2</source>
         <translation>%1 aus %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PrintDesk</name>
+    <message>
+        <source>There is not enough memory for the sheet.</source>
+        <translation>Für den Bogen reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be made.</source>
+        <translation>Der Bogen kann nicht hergestellt werden.</translation>
+    </message>
+    <message>
+        <source>The sheet is saved as %1.</source>
+        <translation>Der Bogen ist als %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be saved.</source>
+        <translation>Der Bogen kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 is not printed.</source>
+        <translation>%1 ist nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>The sheet stays.</source>
+        <translation>Der Bogen bleibt.</translation>
+    </message>
+    <message>
+        <source>%1 is printed.</source>
+        <translation>%1 ist gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 is not printed; it waits among the sheets of the Print page.</source>
+        <translation>%1 ist nicht gedruckt; der Bogen wartet auf der Seite Drucken.</translation>
+    </message>
+    <message>
+        <source>%1 is sent to %2.</source>
+        <translation>%1 ist an %2 gesendet.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>The printer to print on</source>
+        <translation>Der Drucker, auf dem gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Looking for printers...</source>
+        <translation>Drucker werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>How often the sheet is printed</source>
+        <translation>Wie oft der Bogen gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>The print page: where the picture lies on the sheet, and how often</source>
+        <translation>Die Druckseite: wo das Bild auf dem Bogen liegt und wie oft</translation>
+    </message>
+    <message>
+        <source>Only the picture, at its own size</source>
+        <translation>Nur das Bild, in seiner eigenen Größe</translation>
+    </message>
+    <message>
+        <source>The sheet is the picture itself, without a page</source>
+        <translation>Der Bogen ist das Bild selbst, ohne Druckseite</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
+    <message>
+        <source>Chooses the paper to print on and how it lies</source>
+        <translation>Wählt das Papier, auf das gedruckt wird, und wie es liegt</translation>
+    </message>
+    <message>
+        <source>Page Layout...</source>
+        <translation>Seitenlayout...</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture that has not the shape of its place on the page</source>
+        <translation>Was mit einem Bild geschieht, das nicht die Form seines Platzes auf der Seite hat</translation>
+    </message>
+    <message>
+        <source>Stretched to its place</source>
+        <translation>In seinen Platz gestreckt</translation>
+    </message>
+    <message>
+        <source>Cut to fill its place</source>
+        <translation>Beschnitten, füllt den Platz</translation>
+    </message>
+    <message>
+        <source>Whole, with grey sides</source>
+        <translation>Ganz, mit grauen Rändern</translation>
+    </message>
+    <message>
+        <source>Cut marks</source>
+        <translation>Schnittmarken</translation>
+    </message>
+    <message>
+        <source>Thin lines beside the pictures&apos; corners, to cut along</source>
+        <translation>Dünne Linien neben den Ecken der Bilder, zum Schneiden</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>Gespiegelt</translation>
+    </message>
+    <message>
+        <source>Left and right exchanged, for transfer paper that is ironed on</source>
+        <translation>Links und rechts vertauscht, für Transferpapier zum Aufbügeln</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>A line beside the pictures, where the page has room. &lt;&lt;filename&gt;&gt;, &lt;&lt;filenumber&gt;&gt;, &lt;&lt;date&gt;&gt; and &lt;&lt;time&gt;&gt; are replaced</source>
+        <translation>Eine Zeile neben den Bildern, wo die Seite Platz hat. &lt;&lt;filename&gt;&gt;, &lt;&lt;filenumber&gt;&gt;, &lt;&lt;date&gt;&gt; und &lt;&lt;time&gt;&gt; werden ersetzt</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Farbprofil</translation>
+    </message>
+    <message>
+        <source>The ICC profile of the printer and its paper; without one the printer gets sRGB</source>
+        <translation>Das ICC-Profil des Druckers und seines Papiers; ohne eines bekommt der Drucker sRGB</translation>
+    </message>
+    <message>
+        <source>Choose the colour profile</source>
+        <translation>Farbprofil wählen</translation>
+    </message>
+    <message>
+        <source>Chooses the ICC profile of the printer and its paper</source>
+        <translation>Wählt das ICC-Profil des Druckers und seines Papiers</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Take no colour profile</source>
+        <translation>Kein Farbprofil nehmen</translation>
+    </message>
+    <message>
+        <source>Takes no colour profile</source>
+        <translation>Nimmt kein Farbprofil</translation>
+    </message>
+    <message>
+        <source>Intent</source>
+        <translation>Umwandlung</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer does not have</source>
+        <translation>Was aus Farben wird, die der Drucker nicht hat</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Wahrnehmung</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Relativ farbmetrisch</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Absolut farbmetrisch</translation>
+    </message>
+    <message>
+        <source>Makes the sheet and sends it to the printer</source>
+        <translation>Stellt den Bogen her und sendet ihn an den Drucker</translation>
+    </message>
+    <message>
+        <source>Save as PDF...</source>
+        <translation>Als PDF speichern...</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>Saves the sheet on its paper as a file, with all pixels of the picture</source>
+        <translation>Speichert den Bogen auf seinem Papier als Datei, mit allen Pixeln des Bildes</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Prints nothing</source>
+        <translation>Druckt nichts</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>No printers</source>
+        <translation>Keine Drucker</translation>
+    </message>
+    <message>
+        <source>There are no printers on this machine. Add one in the desktop&apos;s settings, or save the sheet as a PDF.</source>
+        <translation>Auf diesem Rechner gibt es keine Drucker. Fügen Sie in den Einstellungen der Arbeitsumgebung einen hinzu oder speichern Sie den Bogen als PDF.</translation>
+    </message>
+    <message>
+        <source>%1, on its side</source>
+        <translation>%1, quer</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the paper; what stands over is cut off.</source>
+        <translation>Der Bogen ist größer als das Papier; was übersteht, wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the paper as it lies; turn the paper in Page Layout.</source>
+        <translation>Der Bogen ist größer als das Papier, so wie es liegt; drehen Sie das Papier im Seitenlayout.</translation>
+    </message>
+    <message>
+        <source>This page has no room for a caption; it is left out.</source>
+        <translation>Diese Seite hat keinen Platz für eine Beschriftung; sie entfällt.</translation>
+    </message>
+    <message>
+        <source>Select the Colour Profile</source>
+        <translation>Farbprofil wählen</translation>
+    </message>
+    <message>
+        <source>Colour profiles (*.icc *.icm)</source>
+        <translation>Farbprofile (*.icc *.icm)</translation>
+    </message>
+    <message>
+        <source>This page has no place for a picture.</source>
+        <translation>Diese Seite hat keinen Platz für ein Bild.</translation>
     </message>
 </context>
 <context>
@@ -5492,6 +6007,97 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::SmtpDialog</name>
+    <message>
+        <source>Mail Server</source>
+        <translation>Mailserver</translation>
+    </message>
+    <message>
+        <source>Use the default mail server</source>
+        <translation>Voreingestellten Mailserver verwenden</translation>
+    </message>
+    <message>
+        <source>Sends by the account that was set up with the program; the fields below are kept</source>
+        <translation>Sendet über das Konto, das mit dem Programm eingerichtet wurde; die Felder darunter bleiben erhalten</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Name of the server that sends your mails</source>
+        <translation>Name des Servers, der die Mails verschickt</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>587 or 25 with STARTTLS, 465 with SSL; your provider says which</source>
+        <translation>587 oder 25 mit STARTTLS, 465 mit SSL; welcher gilt, sagt der Anbieter</translation>
+    </message>
+    <message>
+        <source>STARTTLS</source>
+        <translation>STARTTLS</translation>
+    </message>
+    <message>
+        <source>The connection is encrypted from the server&apos;s word on; without it nothing is sent</source>
+        <translation>Die Verbindung wird verschlüsselt, sobald der Server es anbietet; tut er das nicht, wird nichts gesendet</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>The connection is encrypted from the first byte</source>
+        <translation>Die Verbindung ist vom ersten Byte an verschlüsselt</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>The name that the server knows you by</source>
+        <translation>Der Name, unter dem der Server das Konto kennt</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Is kept in the settings file as it is, which nobody but you can read</source>
+        <translation>Steht unverschlüsselt in der Datei der Einstellungen, die niemand anders lesen kann</translation>
+    </message>
+    <message>
+        <source>Fill In for GMail</source>
+        <translation>Für GMail ausfüllen</translation>
+    </message>
+    <message>
+        <source>Fills the fields in; your account name and your password are still to be typed</source>
+        <translation>Füllt die Felder aus; Kontoname und Passwort sind noch einzutippen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Keeps what is entered here</source>
+        <translation>Übernimmt, was hier eingetragen ist</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Leaves the settings as they were</source>
+        <translation>Lässt die Einstellungen, wie sie waren</translation>
+    </message>
+    <message>
+        <source>gmail-host is missing in delivery.conf</source>
+        <translation>gmail-host fehlt in delivery.conf</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::SplitLine</name>
     <message>
         <source>Line between before and after</source>
@@ -5781,6 +6387,14 @@ oder beide im Menü Datei öffnen.</translation>
         <source>Delete place on the page</source>
         <translation>Platz auf der Seite löschen</translation>
     </message>
+    <message>
+        <source>Print...</source>
+        <translation>Drucken...</translation>
+    </message>
+    <message>
+        <source>Prints the picture on this page</source>
+        <translation>Druckt das Bild auf diese Seite</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::TextPage</name>
@@ -5928,6 +6542,77 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::WaitingSheets</name>
+    <message>
+        <source>waits</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>is being sent</source>
+        <translation>wird gesendet</translation>
+    </message>
+    <message>
+        <source>at the printer</source>
+        <translation>beim Drucker</translation>
+    </message>
+    <message>
+        <source>may have been printed</source>
+        <translation>vielleicht schon gedruckt</translation>
+    </message>
+    <message>
+        <source>Sheets that are not printed yet</source>
+        <translation>Bögen, die noch nicht gedruckt sind</translation>
+    </message>
+    <message>
+        <source>Sheets on their way to a printer, and those that could not be printed</source>
+        <translation>Bögen auf dem Weg zu einem Drucker und solche, die nicht gedruckt werden konnten</translation>
+    </message>
+    <message>
+        <source>Each sheet with its printer and how it stands; rest on one to read why</source>
+        <translation>Jeder Bogen mit seinem Drucker und seinem Stand; verweilen Sie darauf, um den Grund zu lesen</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Send Again</source>
+        <translation>Noch einmal senden</translation>
+    </message>
+    <message>
+        <source>Sends the selected sheets to their printers once more</source>
+        <translation>Sendet die ausgewählten Bögen noch einmal an ihre Drucker</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Forgets the selected sheets; they are not printed</source>
+        <translation>Verwirft die ausgewählten Bögen; sie werden nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>What is selected may have been printed already. Print it once more?</source>
+        <translation>Was ausgewählt ist, wurde vielleicht schon gedruckt. Noch einmal drucken?</translation>
+    </message>
+    <message>
+        <source>Print Once More</source>
+        <translation>Noch einmal drucken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

@@ -2598,6 +2598,22 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <source>Sets the key for this colour of hair.</source>
         <translation>Ajusta el croma a este color de pelo.</translation>
     </message>
+    <message>
+        <source>Mail</source>
+        <translation>Correo</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture by mail</source>
+        <translation>Envía la imagen terminada por correo</translation>
+    </message>
+    <message>
+        <source>Sheets to be printed</source>
+        <translation>Hojas por imprimir</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -3967,6 +3983,77 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
     </message>
 </context>
 <context>
+    <name>tavrin::MailPage</name>
+    <message>
+        <source>To</source>
+        <translation>Para</translation>
+    </message>
+    <message>
+        <source>Mail address of who gets the picture</source>
+        <translation>Dirección de correo de quien recibe la imagen</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Subject of the mail</source>
+        <translation>Asunto del correo</translation>
+    </message>
+    <message>
+        <source>Answers to</source>
+        <translation>Respuestas a</translation>
+    </message>
+    <message>
+        <source>Mail address that answers go to; the mail itself comes from the account of the server</source>
+        <translation>Dirección a la que llegan las respuestas; el correo en sí sale de la cuenta del servidor</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>What the mail says beside the picture</source>
+        <translation>Lo que dice el correo además de la imagen</translation>
+    </message>
+    <message>
+        <source>Tell where the picture was taken</source>
+        <translation>Indicar dónde se tomó la imagen</translation>
+    </message>
+    <message>
+        <source>Leaves the place on earth in the picture, if the camera noted one</source>
+        <translation>Deja en la imagen el lugar, si la cámara lo anotó</translation>
+    </message>
+    <message>
+        <source>Send, mail program and mail server</source>
+        <translation>Enviar, programa y servidor de correo</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture with this text</source>
+        <translation>Envía la imagen terminada con este texto</translation>
+    </message>
+    <message>
+        <source>Open in mail program</source>
+        <translation>Abrir en el programa de correo</translation>
+    </message>
+    <message>
+        <source>Opens a new mail with the picture in your own mail program</source>
+        <translation>Abre un correo nuevo con la imagen en su propio programa de correo</translation>
+    </message>
+    <message>
+        <source>Mail server...</source>
+        <translation>Servidor de correo...</translation>
+    </message>
+    <message>
+        <source>The server and the account that send the mails</source>
+        <translation>El servidor y la cuenta que envían los correos</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::MainWindow</name>
     <message>
         <source>Turns the whole layer</source>
@@ -4684,6 +4771,62 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <source>The version of this program</source>
         <translation>La versión de este programa</translation>
     </message>
+    <message>
+        <source>The window closes when the mail is sent.</source>
+        <translation>La ventana se cerrará cuando se haya enviado el correo.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is sent.</source>
+        <translation>El correo para %1 se ha enviado.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 may have gone.</source>
+        <translation>Puede que el correo para %1 haya salido.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is not sent. It is kept in the outbox.</source>
+        <translation>El correo para %1 no se ha enviado. Queda en la bandeja de salida.</translation>
+    </message>
+    <message>
+        <source>The mail to %1 is not sent.</source>
+        <translation>El correo para %1 no se ha enviado.</translation>
+    </message>
+    <message>
+        <source>Ends the sending; the outbox keeps the mail while it is on</source>
+        <translation>Detiene el envío; la bandeja de salida conserva el correo mientras esté activada</translation>
+    </message>
+    <message>
+        <source>Mail to %1</source>
+        <translation>Correo para %1</translation>
+    </message>
+    <message>
+        <source>The mail program could not be opened.</source>
+        <translation>No se pudo abrir el programa de correo.</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Imprimir...</translation>
+    </message>
+    <message>
+        <source>Prints the finished picture, or saves the sheet as a PDF</source>
+        <translation>Imprime la imagen terminada o guarda la hoja como PDF</translation>
+    </message>
+    <message>
+        <source>Page La&amp;yout...</source>
+        <translation>Dise&amp;ño de página...</translation>
+    </message>
+    <message>
+        <source>Chooses the paper to print on and how it lies</source>
+        <translation>Elige el papel en que se imprime y su orientación</translation>
+    </message>
+    <message>
+        <source>Save the Sheet</source>
+        <translation>Guardar la hoja</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::MessageBar</name>
@@ -4753,6 +4896,116 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
     <message>
         <source>A click selects a text or picture item, and drags act on it</source>
         <translation>Un clic elige un texto o una imagen, y arrastrar actúa sobre él</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::OutboxPanel</name>
+    <message>
+        <source>is sent again at %1</source>
+        <translation>se enviará de nuevo a las %1</translation>
+    </message>
+    <message>
+        <source>is not sent by itself</source>
+        <translation>no se envía por sí solo</translation>
+    </message>
+    <message>
+        <source>may have gone, and is not sent by itself</source>
+        <translation>puede haber salido y no se envía por sí solo</translation>
+    </message>
+    <message>
+        <source>is being sent</source>
+        <translation>se está enviando</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing waits.</source>
+        <translation>No hay nada pendiente.</translation>
+    </message>
+    <message>
+        <source>Outbox</source>
+        <translation>Bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Mails that could not be sent</source>
+        <translation>Correos que no se pudieron enviar</translation>
+    </message>
+    <message>
+        <source>Mails that could not be sent, each with its reason</source>
+        <translation>Correos que no se pudieron enviar, cada uno con su motivo</translation>
+    </message>
+    <message>
+        <source>Keep what could not be sent, and try again</source>
+        <translation>Conservar lo no enviado y volver a intentarlo</translation>
+    </message>
+    <message>
+        <source>The pauses between the tries grow from a minute to four hours</source>
+        <translation>Las pausas entre los intentos crecen de un minuto a cuatro horas</translation>
+    </message>
+    <message>
+        <source>Send now</source>
+        <translation>Enviar ahora</translation>
+    </message>
+    <message>
+        <source>Sends the selected mails; where none is selected, all but those that may have gone</source>
+        <translation>Envía los correos elegidos; si no hay ninguno, todos salvo los que pueden haber salido</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Removes the selected mails without sending them</source>
+        <translation>Elimina los correos elegidos sin enviarlos</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PageLayoutDialog</name>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>On its side</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Diseño de página</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>The paper in the printer; the sheet is printed in its middle</source>
+        <translation>El papel de la impresora; la hoja se imprime en su centro</translation>
+    </message>
+    <message>
+        <source>As the printer has it (%1)</source>
+        <translation>El de la impresora (%1)</translation>
+    </message>
+    <message>
+        <source>The paper is higher than wide</source>
+        <translation>El papel es más alto que ancho</translation>
+    </message>
+    <message>
+        <source>The paper is wider than high</source>
+        <translation>El papel es más ancho que alto</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Takes this paper for all that is printed</source>
+        <translation>Usa este papel para todo lo que se imprima</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -5001,6 +5254,268 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>%1 from %2</source>
         <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PrintDesk</name>
+    <message>
+        <source>There is not enough memory for the sheet.</source>
+        <translation>No hay memoria suficiente para la hoja.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be made.</source>
+        <translation>No se puede crear la hoja.</translation>
+    </message>
+    <message>
+        <source>The sheet is saved as %1.</source>
+        <translation>La hoja se ha guardado como %1.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be saved.</source>
+        <translation>No se puede guardar la hoja.</translation>
+    </message>
+    <message>
+        <source>%1 is not printed.</source>
+        <translation>%1 no se ha imprimido.</translation>
+    </message>
+    <message>
+        <source>The sheet stays.</source>
+        <translation>La hoja se conserva.</translation>
+    </message>
+    <message>
+        <source>%1 is printed.</source>
+        <translation>%1 se ha imprimido.</translation>
+    </message>
+    <message>
+        <source>%1 is not printed; it waits among the sheets of the Print page.</source>
+        <translation>%1 no se ha imprimido; la hoja espera en la página Imprimir.</translation>
+    </message>
+    <message>
+        <source>%1 is sent to %2.</source>
+        <translation>%1 se ha enviado a %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>The printer to print on</source>
+        <translation>La impresora en que se imprime</translation>
+    </message>
+    <message>
+        <source>Looking for printers...</source>
+        <translation>Buscando impresoras...</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>How often the sheet is printed</source>
+        <translation>Cuántas veces se imprime la hoja</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>The print page: where the picture lies on the sheet, and how often</source>
+        <translation>La página de impresión: dónde va la imagen en la hoja y cuántas veces</translation>
+    </message>
+    <message>
+        <source>Only the picture, at its own size</source>
+        <translation>Solo la imagen, a su propio tamaño</translation>
+    </message>
+    <message>
+        <source>The sheet is the picture itself, without a page</source>
+        <translation>La hoja es la propia imagen, sin página de impresión</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Diseño de página</translation>
+    </message>
+    <message>
+        <source>Chooses the paper to print on and how it lies</source>
+        <translation>Elige el papel en que se imprime y su orientación</translation>
+    </message>
+    <message>
+        <source>Page Layout...</source>
+        <translation>Diseño de página...</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture that has not the shape of its place on the page</source>
+        <translation>Qué ocurre con una imagen que no tiene la forma de su lugar en la página</translation>
+    </message>
+    <message>
+        <source>Stretched to its place</source>
+        <translation>Estirada hasta su lugar</translation>
+    </message>
+    <message>
+        <source>Cut to fill its place</source>
+        <translation>Recortada para llenar su lugar</translation>
+    </message>
+    <message>
+        <source>Whole, with grey sides</source>
+        <translation>Entera, con lados grises</translation>
+    </message>
+    <message>
+        <source>Cut marks</source>
+        <translation>Marcas de corte</translation>
+    </message>
+    <message>
+        <source>Thin lines beside the pictures&apos; corners, to cut along</source>
+        <translation>Líneas finas junto a las esquinas de las imágenes, para cortar</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>Reflejada</translation>
+    </message>
+    <message>
+        <source>Left and right exchanged, for transfer paper that is ironed on</source>
+        <translation>Izquierda y derecha intercambiadas, para papel de transferencia que se plancha</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Leyenda</translation>
+    </message>
+    <message>
+        <source>A line beside the pictures, where the page has room. &lt;&lt;filename&gt;&gt;, &lt;&lt;filenumber&gt;&gt;, &lt;&lt;date&gt;&gt; and &lt;&lt;time&gt;&gt; are replaced</source>
+        <translation>Una línea junto a las imágenes, donde la página tenga sitio. &lt;&lt;filename&gt;&gt;, &lt;&lt;filenumber&gt;&gt;, &lt;&lt;date&gt;&gt; y &lt;&lt;time&gt;&gt; se sustituyen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Perfil de color</translation>
+    </message>
+    <message>
+        <source>The ICC profile of the printer and its paper; without one the printer gets sRGB</source>
+        <translation>El perfil ICC de la impresora y su papel; sin él, la impresora recibe sRGB</translation>
+    </message>
+    <message>
+        <source>Choose the colour profile</source>
+        <translation>Elegir el perfil de color</translation>
+    </message>
+    <message>
+        <source>Chooses the ICC profile of the printer and its paper</source>
+        <translation>Elige el perfil ICC de la impresora y su papel</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Take no colour profile</source>
+        <translation>No usar perfil de color</translation>
+    </message>
+    <message>
+        <source>Takes no colour profile</source>
+        <translation>No usa perfil de color</translation>
+    </message>
+    <message>
+        <source>Intent</source>
+        <translation>Propósito</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer does not have</source>
+        <translation>Qué ocurre con los colores que la impresora no tiene</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perceptual</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Colorimétrico relativo</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Colorimétrico absoluto</translation>
+    </message>
+    <message>
+        <source>Makes the sheet and sends it to the printer</source>
+        <translation>Crea la hoja y la envía a la impresora</translation>
+    </message>
+    <message>
+        <source>Save as PDF...</source>
+        <translation>Guardar como PDF...</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Guardar como PDF</translation>
+    </message>
+    <message>
+        <source>Saves the sheet on its paper as a file, with all pixels of the picture</source>
+        <translation>Guarda la hoja sobre su papel en un archivo, con todos los píxeles de la imagen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Prints nothing</source>
+        <translation>No imprime nada</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>No printers</source>
+        <translation>Sin impresoras</translation>
+    </message>
+    <message>
+        <source>There are no printers on this machine. Add one in the desktop&apos;s settings, or save the sheet as a PDF.</source>
+        <translation>No hay impresoras en este equipo. Añada una en los ajustes del escritorio o guarde la hoja como PDF.</translation>
+    </message>
+    <message>
+        <source>%1, on its side</source>
+        <translation>%1, horizontal</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the paper; what stands over is cut off.</source>
+        <translation>La hoja es mayor que el papel; lo que sobresale se corta.</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the paper as it lies; turn the paper in Page Layout.</source>
+        <translation>La hoja es mayor que el papel tal como está; gire el papel en Diseño de página.</translation>
+    </message>
+    <message>
+        <source>This page has no room for a caption; it is left out.</source>
+        <translation>Esta página no tiene sitio para una leyenda; se omite.</translation>
+    </message>
+    <message>
+        <source>Select the Colour Profile</source>
+        <translation>Seleccionar el perfil de color</translation>
+    </message>
+    <message>
+        <source>Colour profiles (*.icc *.icm)</source>
+        <translation>Perfiles de color (*.icc *.icm)</translation>
+    </message>
+    <message>
+        <source>This page has no place for a picture.</source>
+        <translation>Esta página no tiene lugar para una imagen.</translation>
     </message>
 </context>
 <context>
@@ -5492,6 +6007,97 @@ o ábralos desde el menú Archivo.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::SmtpDialog</name>
+    <message>
+        <source>Mail Server</source>
+        <translation>Servidor de correo</translation>
+    </message>
+    <message>
+        <source>Use the default mail server</source>
+        <translation>Usar el servidor de correo predeterminado</translation>
+    </message>
+    <message>
+        <source>Sends by the account that was set up with the program; the fields below are kept</source>
+        <translation>Envía con la cuenta configurada con el programa; los campos de abajo se conservan</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Name of the server that sends your mails</source>
+        <translation>Nombre del servidor que envía sus correos</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Puerto</translation>
+    </message>
+    <message>
+        <source>587 or 25 with STARTTLS, 465 with SSL; your provider says which</source>
+        <translation>587 o 25 con STARTTLS, 465 con SSL; su proveedor le dirá cuál</translation>
+    </message>
+    <message>
+        <source>STARTTLS</source>
+        <translation>STARTTLS</translation>
+    </message>
+    <message>
+        <source>The connection is encrypted from the server&apos;s word on; without it nothing is sent</source>
+        <translation>La conexión se cifra en cuanto el servidor lo ofrece; si no, no se envía nada</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>The connection is encrypted from the first byte</source>
+        <translation>La conexión está cifrada desde el primer byte</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Cuenta</translation>
+    </message>
+    <message>
+        <source>The name that the server knows you by</source>
+        <translation>El nombre con el que el servidor le conoce</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Is kept in the settings file as it is, which nobody but you can read</source>
+        <translation>Se guarda sin cifrar en el archivo de ajustes, que solo usted puede leer</translation>
+    </message>
+    <message>
+        <source>Fill In for GMail</source>
+        <translation>Rellenar para GMail</translation>
+    </message>
+    <message>
+        <source>Fills the fields in; your account name and your password are still to be typed</source>
+        <translation>Rellena los campos; falta escribir el nombre de la cuenta y la contraseña</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Keeps what is entered here</source>
+        <translation>Conserva lo que se ha escrito aquí</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Leaves the settings as they were</source>
+        <translation>Deja los ajustes como estaban</translation>
+    </message>
+    <message>
+        <source>gmail-host is missing in delivery.conf</source>
+        <translation>falta gmail-host en delivery.conf</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::SplitLine</name>
     <message>
         <source>Line between before and after</source>
@@ -5781,6 +6387,14 @@ o ábralos desde el menú Archivo.</translation>
         <source>Delete place on the page</source>
         <translation>Eliminar lugar de la página</translation>
     </message>
+    <message>
+        <source>Print...</source>
+        <translation>Imprimir...</translation>
+    </message>
+    <message>
+        <source>Prints the picture on this page</source>
+        <translation>Imprime la imagen en esta página</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::TextPage</name>
@@ -5928,6 +6542,77 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::WaitingSheets</name>
+    <message>
+        <source>waits</source>
+        <translation>espera</translation>
+    </message>
+    <message>
+        <source>is being sent</source>
+        <translation>se está enviando</translation>
+    </message>
+    <message>
+        <source>at the printer</source>
+        <translation>en la impresora</translation>
+    </message>
+    <message>
+        <source>may have been printed</source>
+        <translation>quizá ya impresa</translation>
+    </message>
+    <message>
+        <source>Sheets that are not printed yet</source>
+        <translation>Hojas que aún no se han imprimido</translation>
+    </message>
+    <message>
+        <source>Sheets on their way to a printer, and those that could not be printed</source>
+        <translation>Hojas en camino a una impresora y las que no se pudieron imprimir</translation>
+    </message>
+    <message>
+        <source>Each sheet with its printer and how it stands; rest on one to read why</source>
+        <translation>Cada hoja con su impresora y su estado; deténgase en una para leer el motivo</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Plano</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Send Again</source>
+        <translation>Enviar de nuevo</translation>
+    </message>
+    <message>
+        <source>Sends the selected sheets to their printers once more</source>
+        <translation>Envía de nuevo las hojas seleccionadas a sus impresoras</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Forgets the selected sheets; they are not printed</source>
+        <translation>Olvida las hojas seleccionadas; no se imprimen</translation>
+    </message>
+    <message>
+        <source>What is selected may have been printed already. Print it once more?</source>
+        <translation>Es posible que lo seleccionado ya se haya imprimido. ¿Imprimirlo de nuevo?</translation>
+    </message>
+    <message>
+        <source>Print Once More</source>
+        <translation>Imprimir de nuevo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
