@@ -116,11 +116,11 @@ void tellPosted(const std::string& what, const Posted& posted) {
     if (posted.isSent()) {
         if (!isQuiet()) printLine(what + ": sent");
     } else {
-        const std::string where = posted.end == MailEnd::unknown
-                                      ? "it is kept in the outbox and not sent again by itself"
-                                  : posted.inOutbox ? "it is kept in the outbox"
-                                                    : "it is not kept";
-        complain(what + ": " + (posted.end == MailEnd::unknown ? "may have gone; " : "not sent; ") + where + ".");
+        const bool unknown = posted.end == MailEnd::unknown;
+        const std::string where = !posted.inOutbox ? "it is not kept"
+                                  : unknown        ? "it is kept in the outbox and not sent again by itself"
+                                                   : "it is kept in the outbox";
+        complain(what + ": " + (unknown ? "may have gone; " : "not sent; ") + where + ".");
     }
 }
 
