@@ -155,7 +155,7 @@ TEST(RefineLoops, TheFitHasAFloorWhereTheColoursAllowNoScreen) {
         float least, most;
     };
     const Case cases[] = {{{17, 167, 132}, 255, 0.95f, 1.0f},  // cloth near the screen's hue
-                          {{17, 167, 132}, 6, 0.45f, 0.55f},  // the key has a little
+                          {{17, 167, 132}, 6, 0.45f, 0.55f},   // the key has a little
                           {{17, 167, 132}, 0, 0.0f, 0.0f},    {{92, 163, 110}, 255, 0.0f, 0.0f},  // the screen
                           {{46, 82, 55}, 255, 0.0f, 0.0f},     // half of it black hair, or a shadow on it
                           {{140, 163, 110}, 255, 0.0f, 0.3f},  // too bright in one channel, by a little
