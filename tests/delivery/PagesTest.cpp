@@ -6,8 +6,8 @@
 
 #include "core/files/Places.h"
 #include "core/state/SystemInfo.h"
-#include "delivery/ComparePage.h"
-#include "delivery/HtmlText.h"
+#include "delivery/pages/ComparePage.h"
+#include "delivery/pages/HtmlText.h"
 #include "support/TestData.h"
 
 namespace tavrin {

@@ -4,8 +4,8 @@
 
 #include <QLockFile>
 
-#include "delivery/PrintMe.h"
-#include "delivery/PrintRunner.h"
+#include "delivery/print/PrintMe.h"
+#include "delivery/print/PrintRunner.h"
 #include "support/FakePrinters.h"
 #include "support/Files.h"
 #include "support/Pictures.h"

@@ -2,7 +2,7 @@
 
 #include "core/raster/BitmapContext.h"
 #include "core/state/SystemInfo.h"
-#include "delivery/PrintSheet.h"
+#include "delivery/print/PrintSheet.h"
 #include "pipeline/OutputSize.h"
 
 namespace tavrin {

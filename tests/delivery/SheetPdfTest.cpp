@@ -8,9 +8,9 @@
 
 #include "core/image/ImageReader.h"
 #include "core/image/ImageWriter.h"
-#include "delivery/CupsWords.h"
-#include "delivery/PlainJpeg.h"
-#include "delivery/SheetPdf.h"
+#include "delivery/print/CupsWords.h"
+#include "delivery/print/PlainJpeg.h"
+#include "delivery/print/SheetPdf.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"

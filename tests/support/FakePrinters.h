@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "delivery/PrintService.h"
+#include "delivery/print/PrintService.h"
 
 namespace tavrin::test {
 

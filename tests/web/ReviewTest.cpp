@@ -8,7 +8,7 @@
 #include <QVariant>
 #include <QtWebEngineWidgets/QWebEngineView>
 
-#include "delivery/ComparePage.h"
+#include "delivery/pages/ComparePage.h"
 #include "support/BuildPlaces.h"
 #include "ui/WindowTest.h"
 

@@ -2,7 +2,7 @@
 
 #include "apps/cli/Console.h"
 #include "apps/cli/Output.h"
-#include "delivery/PrintRunner.h"
+#include "delivery/print/PrintRunner.h"
 
 namespace tavrin::cli {
 

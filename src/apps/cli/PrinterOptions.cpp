@@ -8,8 +8,8 @@
 #include "apps/cli/Output.h"
 #include "apps/cli/Usage.h"
 #include "core/NearestName.h"
-#include "delivery/PrintMe.h"
-#include "delivery/PrintRunner.h"
+#include "delivery/print/PrintMe.h"
+#include "delivery/print/PrintRunner.h"
 
 namespace tavrin::cli {
 

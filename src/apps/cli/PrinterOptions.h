@@ -6,8 +6,8 @@
 
 #include "apps/cli/Refusal.h"
 #include "core/state/SystemInfo.h"
-#include "delivery/PrintQueue.h"
-#include "delivery/SheetPdf.h"
+#include "delivery/print/PrintQueue.h"
+#include "delivery/print/SheetPdf.h"
 
 namespace tavrin::cli {
 

@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-#include "delivery/PrintService.h"
+#include "delivery/print/PrintService.h"
 
 class QComboBox;
 class QRadioButton;

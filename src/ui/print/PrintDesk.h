@@ -8,8 +8,8 @@
 #include <QThreadPool>
 #include <QTimer>
 
-#include "delivery/PrintMe.h"
-#include "delivery/PrintRunner.h"
+#include "delivery/print/PrintMe.h"
+#include "delivery/print/PrintRunner.h"
 
 namespace tavrin {
 

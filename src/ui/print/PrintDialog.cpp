@@ -15,7 +15,7 @@
 #include <QToolButton>
 
 #include "core/files/NameText.h"
-#include "delivery/Caption.h"
+#include "delivery/print/Caption.h"
 #include "session/PrintPages.h"
 #include "ui/WindowSettings.h"
 

@@ -8,8 +8,8 @@
 #include "core/Log.h"
 #include "core/files/NameText.h"
 #include "core/files/StandardPath.h"
-#include "delivery/ComparePage.h"
-#include "delivery/ReviewPages.h"
+#include "delivery/pages/ComparePage.h"
+#include "delivery/pages/ReviewPages.h"
 
 namespace tavrin {
 

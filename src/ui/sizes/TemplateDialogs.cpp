@@ -4,7 +4,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 
-#include "delivery/SheetLayout.h"
+#include "delivery/print/SheetLayout.h"
 #include "ui/sizes/EntryDialog.h"
 #include "ui/sizes/LengthField.h"
 #include "ui/sizes/TemplatesPanel.h"

@@ -5,7 +5,7 @@
 #include <QPainter>
 
 #include "core/raster/BitmapContext.h"
-#include "delivery/PrintSheet.h"
+#include "delivery/print/PrintSheet.h"
 
 namespace tavrin {
 

@@ -7,7 +7,7 @@
 #include <QWidget>
 
 #include "core/state/SystemInfo.h"
-#include "delivery/SheetLayout.h"
+#include "delivery/print/SheetLayout.h"
 
 namespace tavrin {
 

@@ -1,10 +1,10 @@
-#include "delivery/ReviewPages.h"
+#include "delivery/pages/ReviewPages.h"
 
 #include <algorithm>
 #include <filesystem>
 
 #include "core/state/SystemInfo.h"
-#include "delivery/HtmlText.h"
+#include "delivery/pages/HtmlText.h"
 #include "folders/NextFileInFolder.h"
 #include "folders/PictureFolder.h"
 

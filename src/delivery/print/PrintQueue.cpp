@@ -1,4 +1,4 @@
-#include "delivery/PrintQueue.h"
+#include "delivery/print/PrintQueue.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,4 +1,4 @@
-#include "delivery/HtmlText.h"
+#include "delivery/pages/HtmlText.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "delivery/PdfFile.h"
+#include "delivery/print/PdfFile.h"
 
 #include <cstdio>
 #include <zlib.h>

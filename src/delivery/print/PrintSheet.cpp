@@ -1,11 +1,11 @@
-#include "delivery/PrintSheet.h"
+#include "delivery/print/PrintSheet.h"
 
 #include <algorithm>
 
 #include "core/image/ImageWriter.h"
 #include "core/raster/BitmapContext.h"
 #include "core/state/SystemInfo.h"
-#include "delivery/Caption.h"
+#include "delivery/print/Caption.h"
 #include "pipeline/SaveImage.h"
 
 namespace tavrin {

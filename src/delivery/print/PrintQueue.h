@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "delivery/PrintService.h"
+#include "delivery/print/PrintService.h"
 
 class QLockFile;
 

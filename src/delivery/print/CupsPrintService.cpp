@@ -4,8 +4,8 @@
 #include <fstream>
 
 #include "core/NearestName.h"
-#include "delivery/CupsWords.h"
-#include "delivery/PrintService.h"
+#include "delivery/print/CupsWords.h"
+#include "delivery/print/PrintService.h"
 
 namespace tavrin {
 

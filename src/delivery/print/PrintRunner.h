@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "delivery/PrintQueue.h"
-#include "delivery/PrintService.h"
+#include "delivery/print/PrintQueue.h"
+#include "delivery/print/PrintService.h"
 
 namespace tavrin {
 

@@ -1,11 +1,11 @@
-#include "delivery/ComparePage.h"
+#include "delivery/pages/ComparePage.h"
 
 #include <algorithm>
 #include <filesystem>
 
 #include "core/files/Places.h"
 #include "core/state/SystemInfo.h"
-#include "delivery/HtmlText.h"
+#include "delivery/pages/HtmlText.h"
 #include "folders/NextFileInFolder.h"
 #include "folders/PictureFolder.h"
 

@@ -1,4 +1,4 @@
-#include "delivery/PlainJpeg.h"
+#include "delivery/print/PlainJpeg.h"
 
 #include <cstdint>
 #include <fstream>

@@ -1,4 +1,4 @@
-#include "delivery/PrintMe.h"
+#include "delivery/print/PrintMe.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,11 +1,11 @@
-#include "delivery/SheetPdf.h"
+#include "delivery/print/SheetPdf.h"
 
 #include <cmath>
 
 #include "core/image/ImageReader.h"
 #include "core/raster/Rows.h"
-#include "delivery/Caption.h"
-#include "delivery/PlainJpeg.h"
+#include "delivery/print/Caption.h"
+#include "delivery/print/PlainJpeg.h"
 
 namespace tavrin {
 

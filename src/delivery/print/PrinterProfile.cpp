@@ -1,4 +1,4 @@
-#include "delivery/PrinterProfile.h"
+#include "delivery/print/PrinterProfile.h"
 
 #include <lcms2.h>
 

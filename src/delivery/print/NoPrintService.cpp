@@ -1,4 +1,4 @@
-#include "delivery/PrintService.h"
+#include "delivery/print/PrintService.h"
 
 namespace tavrin {
 

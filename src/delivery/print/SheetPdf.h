@@ -7,10 +7,10 @@
 
 #include <QImage>
 
-#include "delivery/Paper.h"
-#include "delivery/PdfFile.h"
-#include "delivery/PrinterProfile.h"
-#include "delivery/SheetLayout.h"
+#include "delivery/print/Paper.h"
+#include "delivery/print/PdfFile.h"
+#include "delivery/print/PrinterProfile.h"
+#include "delivery/print/SheetLayout.h"
 
 namespace tavrin {
 

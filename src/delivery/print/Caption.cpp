@@ -1,4 +1,4 @@
-#include "delivery/Caption.h"
+#include "delivery/print/Caption.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "delivery/ReviewPages.h"
+#include "delivery/pages/ReviewPages.h"
 
 namespace tavrin {
 

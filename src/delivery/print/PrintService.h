@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "delivery/Paper.h"
+#include "delivery/print/Paper.h"
 
 namespace tavrin {
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "core/state/SystemInfo.h"
-#include "delivery/PrintQueue.h"
-#include "delivery/SheetPdf.h"
+#include "delivery/print/PrintQueue.h"
+#include "delivery/print/SheetPdf.h"
 
 namespace tavrin {
 

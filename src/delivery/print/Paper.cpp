@@ -1,4 +1,4 @@
-#include "delivery/Paper.h"
+#include "delivery/print/Paper.h"
 
 #include <algorithm>
 #include <cmath>

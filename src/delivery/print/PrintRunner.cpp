@@ -1,4 +1,4 @@
-#include "delivery/PrintRunner.h"
+#include "delivery/print/PrintRunner.h"
 
 #include <QLockFile>
 

@@ -1,4 +1,4 @@
-#include "delivery/SheetLayout.h"
+#include "delivery/print/SheetLayout.h"
 
 #include <algorithm>
 

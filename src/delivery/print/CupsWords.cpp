@@ -1,4 +1,4 @@
-#include "delivery/CupsWords.h"
+#include "delivery/print/CupsWords.h"
 
 #include <algorithm>
 #include <array>

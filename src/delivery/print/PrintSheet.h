@@ -4,7 +4,7 @@
 
 #include <QImage>
 
-#include "delivery/SheetLayout.h"
+#include "delivery/print/SheetLayout.h"
 
 namespace tavrin {
 
