@@ -1,6 +1,5 @@
 #include "editor/EditMessage.h"
 
-#include <array>
 #include <utility>
 
 #include <QtGlobal>
