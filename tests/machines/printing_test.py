@@ -136,7 +136,7 @@ class Test:
 
     def killed(self):
         """Killed at many places between the first sheet that is sent and the last."""
-        for round_number, pause in enumerate((0.0, 0.05, 0.12)):
+        for round_number, pause in enumerate((0.0, 0.08)):
             before, copies = len(self.printer.prints()), 4
             running = subprocess.Popen(
                 [self.cli, "print", str(self.picture), "--page", PAGE, "--printer", "studio", "--copies", str(copies)],
