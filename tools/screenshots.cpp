@@ -37,10 +37,8 @@ constexpr int kWidth = 1440, kHeight = 900;
 
 // The buttons that open a dialog, and the dialog.
 constexpr std::pair<const char*, const char*> kDialogs[] = {
-    {"buttonAddImageSizes", "panelAddEditImageSizes"},
-    {"addCustomTemplate", "panelAddEditTemplate"},
-    {"showPrinterTemplate", "MyPrinterTemplatePanel"},
-    {"colorWellFrameOverlay", "colorWellFrameOverlayDialog"},
+    {"buttonAddImageSizes", "panelAddEditImageSizes"}, {"addCustomTemplate", "panelAddEditTemplate"},
+    {"showPrinterTemplate", "MyPrinterTemplatePanel"}, {"colorWellFrameOverlay", "colorWellFrameOverlayDialog"},
     {"buttonShowSMTPServer", "MySMTPSettings"},
 };
 
