@@ -2614,6 +2614,10 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <source>Sheets to be printed</source>
         <translation>Zu druckende Bögen</translation>
     </message>
+    <message>
+        <source>A set of overlays of your own.</source>
+        <translation>Ein eigener Satz von Auflagen.</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -3989,10 +3993,6 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <translation>An</translation>
     </message>
     <message>
-        <source>Mail address of who gets the picture</source>
-        <translation>Mailadresse dessen, der das Bild bekommt</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>Titel</translation>
     </message>
@@ -4025,10 +4025,6 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <translation>Lässt den Ort im Bild, falls die Kamera einen vermerkt hat</translation>
     </message>
     <message>
-        <source>Send, mail program and mail server</source>
-        <translation>Senden, Mailprogramm und Mailserver</translation>
-    </message>
-    <message>
         <source>Send</source>
         <translation>Senden</translation>
     </message>
@@ -4051,6 +4047,22 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
     <message>
         <source>The server and the account that send the mails</source>
         <translation>Server und Konto, die die Mails verschicken</translation>
+    </message>
+    <message>
+        <source>Mail address of who gets the picture, or telephone number for a text message</source>
+        <translation>Mailadresse dessen, der das Bild bekommt, oder Telefonnummer für eine Textnachricht</translation>
+    </message>
+    <message>
+        <source>Send, text message, mail program and mail server</source>
+        <translation>Senden, Textnachricht, Mailprogramm und Mailserver</translation>
+    </message>
+    <message>
+        <source>As text message...</source>
+        <translation>Als Textnachricht ...</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture to the telephone number that stands in place of the address</source>
+        <translation>Sendet das fertige Bild an die Telefonnummer, die statt der Adresse dasteht</translation>
     </message>
 </context>
 <context>
@@ -5040,6 +5052,33 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
     <message>
         <source>Take none</source>
         <translation>Keine nehmen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PhoneTextView</name>
+    <message>
+        <source>Text Message</source>
+        <translation>Textnachricht</translation>
+    </message>
+    <message>
+        <source>Which carrier has the number %1?</source>
+        <translation>Welcher Anbieter hat die Nummer %1?</translation>
+    </message>
+    <message>
+        <source>Sends the picture as a text message</source>
+        <translation>Sendet das Bild als Textnachricht</translation>
+    </message>
+    <message>
+        <source>No way to this carrier yet: nothing is sent</source>
+        <translation>Zu diesem Anbieter gibt es noch keinen Weg: Nichts wird gesendet</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Sends nothing</source>
+        <translation>Sendet nichts</translation>
     </message>
 </context>
 <context>

@@ -2614,6 +2614,10 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <source>Sheets to be printed</source>
         <translation>Hojas por imprimir</translation>
     </message>
+    <message>
+        <source>A set of overlays of your own.</source>
+        <translation>Un juego propio de capas superpuestas.</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -3989,10 +3993,6 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <translation>Para</translation>
     </message>
     <message>
-        <source>Mail address of who gets the picture</source>
-        <translation>Dirección de correo de quien recibe la imagen</translation>
-    </message>
-    <message>
         <source>Title</source>
         <translation>Título</translation>
     </message>
@@ -4025,10 +4025,6 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <translation>Deja en la imagen el lugar, si la cámara lo anotó</translation>
     </message>
     <message>
-        <source>Send, mail program and mail server</source>
-        <translation>Enviar, programa y servidor de correo</translation>
-    </message>
-    <message>
         <source>Send</source>
         <translation>Enviar</translation>
     </message>
@@ -4051,6 +4047,22 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
     <message>
         <source>The server and the account that send the mails</source>
         <translation>El servidor y la cuenta que envían los correos</translation>
+    </message>
+    <message>
+        <source>Mail address of who gets the picture, or telephone number for a text message</source>
+        <translation>Dirección de quien recibe la imagen, o número de teléfono para un mensaje de texto</translation>
+    </message>
+    <message>
+        <source>Send, text message, mail program and mail server</source>
+        <translation>Enviar, mensaje de texto, programa y servidor de correo</translation>
+    </message>
+    <message>
+        <source>As text message...</source>
+        <translation>Como mensaje de texto...</translation>
+    </message>
+    <message>
+        <source>Sends the finished picture to the telephone number that stands in place of the address</source>
+        <translation>Envía la imagen terminada al número de teléfono escrito en lugar de la dirección</translation>
     </message>
 </context>
 <context>
@@ -5040,6 +5052,33 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
     <message>
         <source>Take none</source>
         <translation>Ninguno</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::PhoneTextView</name>
+    <message>
+        <source>Text Message</source>
+        <translation>Mensaje de texto</translation>
+    </message>
+    <message>
+        <source>Which carrier has the number %1?</source>
+        <translation>¿De qué operador es el número %1?</translation>
+    </message>
+    <message>
+        <source>Sends the picture as a text message</source>
+        <translation>Envía la imagen como mensaje de texto</translation>
+    </message>
+    <message>
+        <source>No way to this carrier yet: nothing is sent</source>
+        <translation>Aún no hay forma de llegar a este operador: no se envía nada</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Sends nothing</source>
+        <translation>No envía nada</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "core/files/NameText.h"
+#include "core/image/PictureTypes.h"
 
 namespace tavrin {
 
@@ -48,6 +49,25 @@ OverlaySet searchFolder(const std::string& folder, const std::string& automaticN
         if (name.startsWith("BG_")) set.background = file.string();
     }
     return set;
+}
+
+std::vector<NamedOverlaySet> overlaySetsIn(const std::string& folder) {
+    std::vector<NamedOverlaySet> sets;
+    for (const fs::path& file : filesIn(folder)) {
+        const std::string stem = file.stem().string();
+        if (stem.size() < 4 || !typeOfName(file.string())) continue;
+        const QString start = capitals(stem).left(3);
+        std::string OverlaySet::*const layer = start == "FR_"   ? &OverlaySet::frame
+                                               : start == "FG_" ? &OverlaySet::foreground
+                                               : start == "BG_" ? &OverlaySet::background
+                                                                : nullptr;
+        if (!layer) continue;
+        const std::string name = stem.substr(3);
+        auto set = std::ranges::find(sets, capitals(name), [](const auto& one) { return capitals(one.name); });
+        if (set == sets.end()) set = sets.insert(sets.end(), {name, {}});
+        if (std::string& own = set->files.*layer; own.empty()) own = file.string();
+    }
+    return sets;
 }
 
 }  // namespace tavrin

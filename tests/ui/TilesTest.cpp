@@ -166,5 +166,27 @@ TEST_F(TilesTest, AnOverlaySetWhoseFilesCannotBeReadSaysSo) {
     EXPECT_FALSE(tile("tileOverlaysGold")->picture().isNull()) << "the rest of it is shown";
 }
 
+TEST_F(TilesTest, SetsOfOverlaysThatSomebodyPutBesideTheOthersAreTilesToo) {
+    const std::string folder = Places::current().overlaysFolder() + "Club/";
+    std::filesystem::create_directories(folder);
+    for (const char* name : {"FR_A & B.png", "bg_a & b.png", "FG_Nothing.txt", "FR_.png", "Other.png"})
+        std::filesystem::copy_file(shippedPicture("Overlays/FR_Gold.png"), folder + name);
+    open({1300, 900});
+    window_->panel()->selectMainTab(1);
+    TileRow* row = openRow("tilesOverlays");
+    ASSERT_TRUE(waitFor(row));
+    ASSERT_EQ(row->tiles().size(), 6u) << "one more than those that ship";
+    EXPECT_EQ(row->tiles().back()->accessibleName(), "A & B");
+    const QString name = row->tiles().back()->objectName();
+    press(name.toUtf8());
+    EXPECT_EQ(value("sFrameOverlay"), folder + "FR_A & B.png");
+    EXPECT_EQ(value("sBackgroundOverlay"), folder + "bg_a & b.png");
+    EXPECT_EQ(value("bHaveForegroundOverlay"), "0");
+    EXPECT_TRUE(tile(name.toUtf8())->isChecked());
+    press("tileOverlaysNone");
+    EXPECT_EQ(value("bHaveFrameOverlay"), "0");
+    std::filesystem::remove_all(folder);
+}
+
 }  // namespace
 }  // namespace tavrin

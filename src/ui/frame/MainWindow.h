@@ -133,7 +133,7 @@ class MainWindow : public QMainWindow {
     void connectBatch();
     void connectReview();
     void connectMail();
-    void sendQLXMail();
+    void sendQLXMail(const QString& to);
     void shareUsingEmail();
     void withMailPicture(std::function<void(const std::string& picture)> then);
     void tellMail(const Posted& posted, const QString& to);

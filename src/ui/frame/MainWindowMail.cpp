@@ -12,7 +12,8 @@
 namespace tavrin {
 
 void MainWindow::connectMail() {
-    connect(mail_, &MailPage::sendWanted, this, &MainWindow::sendQLXMail);
+    connect(mail_, &MailPage::sendWanted, this, [this] { sendQLXMail(mail_->letter().to); });
+    connect(mail_, &MailPage::textWanted, this, &MainWindow::sendQLXMail);
     connect(mail_, &MailPage::shareWanted, this, &MainWindow::shareUsingEmail);
     connect(mail_, &MailPage::changed, this, &MainWindow::keepSettings);
     connect(mail_, &MailPage::alerted, this, &MainWindow::showAlert);
@@ -70,8 +71,9 @@ void MainWindow::withMailPicture(std::function<void(const std::string& picture)>
     });
 }
 
-void MainWindow::sendQLXMail() {
+void MainWindow::sendQLXMail(const QString& to) {
     Letter letter = mail_->letter();
+    letter.to = to;
     withMailPicture([this, letter](const std::string& picture) mutable {
         letter.picture = picture;
         mail_->desk().send(letter);

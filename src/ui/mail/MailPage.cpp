@@ -7,8 +7,10 @@
 #include <QPlainTextEdit>
 #include <QToolButton>
 
+#include "delivery/mail/EventMail.h"
 #include "ui/WindowSettings.h"
 #include "ui/mail/OutboxPanel.h"
+#include "ui/mail/PhoneTextView.h"
 #include "ui/mail/SmtpDialog.h"
 
 namespace tavrin {
@@ -71,7 +73,8 @@ QLineEdit* MailPage::addField(GroupBox* group, const char* name, const char* han
 
 void MailPage::addLetter() {
     GroupBox* group = addGroup(kLetterGroup, binder_);
-    to_ = addField(group, "textEmailTo", "changedToAddress:", tr("To"), tr("Mail address of who gets the picture"));
+    to_ = addField(group, "textEmailTo", "changedToAddress:", tr("To"),
+                   tr("Mail address of who gets the picture, or telephone number for a text message"));
     title_ = addField(group, "textEmailTitle", "sendQLXMail:", tr("Title"), tr("Subject of the mail"));
     from_ = addField(group, "textEmailFrom", "sendQLXMail:", tr("Answers to"),
                      tr("Mail address that answers go to; the mail itself comes from the account of the server"));
@@ -89,8 +92,12 @@ void MailPage::addLetter() {
     location->setChecked(MailDesk::keepsLocation());
     connect(location, &QCheckBox::toggled, this, [](bool on) { MailDesk::setKeepsLocation(on); });
     group->addItem(location);
+    addButtons(group);
+}
+
+void MailPage::addButtons(GroupBox* group) {
     auto* buttons = new QWidget;
-    buttons->setAccessibleName(tr("Send, mail program and mail server"));
+    buttons->setAccessibleName(tr("Send, text message, mail program and mail server"));
     auto* grid = new QGridLayout(buttons);
     grid->setContentsMargins(0, 2, 0, 0);
     send_ = makeButton("buttonSendMail", "sendQLXMail:", tr("Send"), tr("Sends the finished picture with this text"));
@@ -98,12 +105,16 @@ void MailPage::addLetter() {
                         tr("Opens a new mail with the picture in your own mail program"));
     QToolButton* server = makeButton("buttonShowSMTPServer", "ShowSMTPServer:", tr("Mail server..."),
                                      tr("The server and the account that send the mails"));
+    phone_ = makeButton("buttonTextMessage", "eventModeSaveAndText:", tr("As text message..."),
+                        tr("Sends the finished picture to the telephone number that stands in place of the address"));
     connect(send_, &QToolButton::clicked, this, &MailPage::sendWanted);
+    connect(phone_, &QToolButton::clicked, this, &MailPage::eventModeSaveAndText);
     connect(share_, &QToolButton::clicked, this, &MailPage::shareWanted);
     connect(server, &QToolButton::clicked, this, &MailPage::ShowSMTPServer);
     grid->addWidget(send_, 0, 0, 1, 2);
-    grid->addWidget(share_, 1, 0);
-    grid->addWidget(server, 1, 1);
+    grid->addWidget(phone_, 1, 0, 1, 2);
+    grid->addWidget(share_, 2, 0);
+    grid->addWidget(server, 2, 1);
     group->addItem(buttons);
 }
 
@@ -119,6 +130,15 @@ Letter MailPage::letter() const {
 void MailPage::setFinished(bool finished) {
     send_->setEnabled(finished);
     share_->setEnabled(finished);
+    phone_->setEnabled(finished);
+}
+
+void MailPage::eventModeSaveAndText() {
+    SystemInfo& info = binder_.editor().info();
+    if (!tavrin::eventModeSaveAndText(info, to_->text().toStdString())) return;
+    auto* carriers = new PhoneTextView(info, this);
+    connect(carriers, &PhoneTextView::chosen, this, &MailPage::textWanted);
+    carriers->open();
 }
 
 void MailPage::ShowSMTPServer() {

@@ -29,12 +29,17 @@ class MailPage : public PanelPage {
     /// The letter is to be sent with the picture (`sendQLXMail`), or opened in the desktop's mail program.
     void sendWanted();
     void shareWanted();
+    /// The letter is to go as a text message, to a telephone number's mail address.
+    void textWanted(const QString& address);
     /// The settings were changed and are to be kept.
     void changed();
     void alerted(const QString& title, const QString& text);
 
   private:
     void addLetter();
+    void addButtons(GroupBox* group);
+    /// Sends to the telephone number that is typed in place of an address.
+    void eventModeSaveAndText();
     void showEvent(QShowEvent* event) override;
     QWidget* addLine(GroupBox* group, const char* name, const char* handler, const QString& text,
                      const QString& toolTip, QWidget* control);
@@ -45,7 +50,7 @@ class MailPage : public PanelPage {
     MailDesk* desk_;
     QLineEdit *to_ = nullptr, *title_ = nullptr, *from_ = nullptr;
     QPlainTextEdit* text_ = nullptr;
-    QToolButton *send_ = nullptr, *share_ = nullptr;
+    QToolButton *send_ = nullptr, *share_ = nullptr, *phone_ = nullptr;
     OutboxPanel* outbox_;
 };
 

@@ -35,14 +35,18 @@ void paintCross(QPainter& painter, const QRectF& box, const QPalette& palette) {
 }  // namespace
 
 Tile::Tile(const TileLook& look, QWidget* parent) : QToolButton(parent), look_(look) {
-    setObjectName(look.control);
-    setProperty("handler", look.handler);
-    setText(ControlRow::translated(look.label));
-    setAccessibleName(text());
-    setToolTip(ControlRow::translated(look.toolTip));
+    setObjectName(QString::fromStdString(look.control));
+    setProperty("handler", QString::fromStdString(look.handler));
+    setText(labelOf(look).replace('&', "&&"));
+    setAccessibleName(labelOf(look));
+    setToolTip(ControlRow::translated(look.toolTip.c_str()));
     setCheckable(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QString Tile::labelOf(const TileLook& look) {
+    return ControlRow::translated(look.label.c_str());
 }
 
 /// A click does not check it: that follows from the settings.
@@ -60,7 +64,7 @@ void Tile::show(const QImage& picture, const QString& missing) {
     picture_ = picture;
     missing_ = missing;
     stale_ = false;
-    const QString told = ControlRow::translated(look_.toolTip);
+    const QString told = ControlRow::translated(look_.toolTip.c_str());
     setToolTip(missing.isEmpty() ? told : told + '\n' + missing);
     setAccessibleDescription(missing);
     update();

@@ -19,6 +19,8 @@ class Tile : public QToolButton {
     explicit Tile(const TileLook& look, QWidget* parent);
 
     const TileLook& look() const { return look_; }
+    /// What a look is called in the window.
+    static QString labelOf(const TileLook& look);
     /// What it would change of the present settings.
     const SettingValues& changes() const { return changes_; }
     void setChanges(SettingValues changes);

@@ -17,14 +17,14 @@ std::size_t columnsFor(std::size_t tiles) {
 
 }  // namespace
 
-TileRow::TileRow(const TileSet& set, Binder& binder, QWidget* parent)
-    : QWidget(parent), set_(set), binder_(binder), columns_(columnsFor(set.looks.size())) {
-    setObjectName(set.name);
-    setAccessibleName(tr("%1: looks").arg(ControlRow::translated(set.title)));
+TileRow::TileRow(TileSet set, Binder& binder, QWidget* parent)
+    : QWidget(parent), set_(std::move(set)), binder_(binder), columns_(columnsFor(set_.looks.size())) {
+    setObjectName(QString::fromStdString(set_.name));
+    setAccessibleName(tr("%1: looks").arg(ControlRow::translated(set_.title)));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 4);
     grid->setSpacing(2);
-    for (const TileLook& look : set.looks) {
+    for (const TileLook& look : set_.looks) {
         auto* tile = new Tile(look, this);
         const int place = static_cast<int>(tiles_.size()), columns = static_cast<int>(columns_);
         grid->addWidget(tile, place / columns, place % columns);
@@ -43,13 +43,13 @@ TileRow::TileRow(const TileSet& set, Binder& binder, QWidget* parent)
 
 std::vector<QWidget*> TileRow::rowsOf(std::string_view group, Binder& binder) {
     std::vector<QWidget*> rows;
-    for (const TileSet& set : tileSets())
-        if (group == set.group) rows.push_back(new TileRow(set, binder));
+    for (TileSet& set : tileSetsOf(group))
+        rows.push_back(new TileRow(std::move(set), binder));
     return rows;
 }
 
 void TileRow::take(const TileLook& look) {
-    const QString label = tr("%1: %2").arg(ControlRow::translated(set_.title), ControlRow::translated(look.label));
+    const QString label = tr("%1: %2").arg(ControlRow::translated(set_.title), Tile::labelOf(look));
     binder_.run(label, [&](SettingEditor& editor) { editor.apply(set_.settings, look.write); });
     refresh();
 }

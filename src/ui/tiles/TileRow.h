@@ -16,7 +16,7 @@ class TileRow : public QWidget {
     Q_OBJECT
 
   public:
-    TileRow(const TileSet& set, Binder& binder, QWidget* parent = nullptr);
+    TileRow(TileSet set, Binder& binder, QWidget* parent = nullptr);
 
     /// The row of each set that stands in a group.
     static std::vector<QWidget*> rowsOf(std::string_view group, Binder& binder);
@@ -38,7 +38,7 @@ class TileRow : public QWidget {
     void take(const TileLook& look);
     QWidget* neighbour(std::size_t tile, int key) const;
 
-    const TileSet& set_;
+    const TileSet set_;
     Binder& binder_;
     std::size_t columns_;
     std::vector<Tile*> tiles_;

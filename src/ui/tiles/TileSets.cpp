@@ -1,14 +1,16 @@
 #include "ui/tiles/TileSets.h"
 
-#include <list>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
 #include <QtGlobal>
 
+#include "core/files/Places.h"
 #include "core/state/SettingNames.h"
 #include "effects/Presets.h"
 #include "key/EasySettings.h"
+#include "session/Overlays.h"
 #include "ui/bind/GroupSettings.h"
 
 namespace tavrin {
@@ -16,6 +18,8 @@ namespace tavrin {
 namespace {
 
 using Settings = std::vector<std::string>;
+
+constexpr const char *kSecondFrame = "MyEffectsFrame2Panel", *kOverlayGroup = "groupOverlays";
 
 Settings joinedSettings(Settings first, const Settings& second) {
     first.insert(first.end(), second.begin(), second.end());
@@ -106,37 +110,24 @@ void copyFrame(const SystemInfo& from, const char* read, SystemInfo& to, const c
         static_cast<void>(setField(to, others[i], fieldValue(from, names[i]).value_or("")));
 }
 
-/// What a look does to the first frame, done to the second one: in another state, so that the first one stays.
-template <TileSet (*kFirst)(), std::size_t kLook>
-void doToSecond(SystemInfo& info) {
-    static const TileLook look = kFirst().looks[kLook];
-    static const auto other = std::make_unique<SystemInfo>();
-    copyFrame(info, "frameOverlay.", *other, "frame.");
-    look.write(*other);
-    copyFrame(*other, "frame.", info, "frameOverlay.");
-}
-
-template <TileSet (*kFirst)(), std::size_t... kLooks>
-void turnToSecond(TileSet& set, std::index_sequence<kLooks...>) {
-    ((set.looks[kLooks].write = doToSecond<kFirst, kLooks>), ...);
-}
-
-/// The looks of the first frame for the second one, by names of their own.
-template <TileSet (*kFirst)(), std::size_t kCount>
-TileSet ofSecondFrame() {
-    static std::list<std::string> names;
-    const auto second = [](const char* name) { return names.emplace_back(std::string(name) + "Second").c_str(); };
-    TileSet set = kFirst();
-    set.group = "MyEffectsFrame2Panel";
-    set.name = second(set.name);
+/// The first looks of a set of the first frame, done to the second one by way of another state, so that the first one
+/// stays.
+TileSet ofSecondFrame(TileSet set, std::size_t count) {
+    set.group = kSecondFrame;
+    set.name += "Second";
     set.title = "Second frame";
     set.settings = settingsOfGroup<ImageFrame>("frameOverlay.");
-    set.looks.resize(kCount);
+    set.looks.resize(count);
     for (TileLook& look : set.looks) {
-        look.control = second(look.control);
+        look.control += "Second";
         look.handler = set.name;
+        look.write = [write = look.write](SystemInfo& info) {
+            static const auto other = std::make_unique<SystemInfo>();
+            copyFrame(info, "frameOverlay.", *other, "frame.");
+            write(*other);
+            copyFrame(*other, "frame.", info, "frameOverlay.");
+        };
     }
-    turnToSecond<kFirst>(set, std::make_index_sequence<kCount>());
     return set;
 }
 
@@ -204,7 +195,7 @@ TileSet textureSet() {
 }
 
 TileSet overlaySet() {
-    return {"groupOverlays",
+    return {kOverlayGroup,
             "tilesOverlays",
             QT_TRANSLATE_NOOP("Panel", "Overlays"),
             settingsOfGroup<OverlaySettings>(),
@@ -223,6 +214,33 @@ TileSet overlaySet() {
              {"tileOverlaysParty", "tilesOverlays", QT_TRANSLATE_NOOP("Panel", "Party"),
               QT_TRANSLATE_NOOP("Panel", "A set of overlays for parties."),
               [](SystemInfo& info) { use(info, "overlays", "party"); }}}};
+}
+
+void layOverlays(SystemInfo& info, const OverlaySet& set) {
+    const auto lay = [](Field<bool>& have, Field<std::string>& overlay, const std::string& file) {
+        if (file.empty()) have = false;  // a pass must never find an overlay that has no name
+        overlay = file;
+        have = !file.empty();
+    };
+    lay(info.bHaveFrameOverlay, info.sFrameOverlay, set.frame);
+    lay(info.bHaveForegroundOverlay, info.sForegroundOverlay, set.foreground);
+    lay(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, set.background);
+}
+
+/// The sets that ship and those that the user put beside them.
+TileSet allOverlaySets() {
+    constexpr std::size_t kMostOwn = 24;
+    TileSet set = overlaySet();
+    const std::size_t shipped = set.looks.size();
+    for (const NamedOverlaySet& own : overlaySetsIn(Places::current().overlaysFolder())) {
+        const std::string control = "tileOverlays" + own.name;
+        if (std::ranges::find(set.looks, control, &TileLook::control) != set.looks.end()) continue;
+        if (set.looks.size() == shipped + kMostOwn) break;
+        set.looks.push_back({control, set.name, own.name,
+                             QT_TRANSLATE_NOOP("Panel", "A set of overlays of your own."),
+                             [files = own.files](SystemInfo& info) { layOverlays(info, files); }});
+    }
+    return set;
 }
 
 /// The colour of hair as the quick settings have it (`iMacroHairColor`).
@@ -255,17 +273,12 @@ TileSet hairSet() {
 
 }  // namespace
 
-const std::vector<TileSet>& tileSets() {
-    static const std::vector<TileSet> sets = {shadowSet(),
-                                              frameSet(),
-                                              frameFillSet(),
-                                              ofSecondFrame<frameSet, 5>(),
-                                              ofSecondFrame<frameFillSet, 7>(),
-                                              lightingSet(),
-                                              cartoonSet(),
-                                              textureSet(),
-                                              overlaySet(),
-                                              hairSet()};
+std::vector<TileSet> tileSetsOf(std::string_view group) {
+    if (group == kSecondFrame) return {ofSecondFrame(frameSet(), 5), ofSecondFrame(frameFillSet(), 7)};
+    if (group == kOverlayGroup) return {allOverlaySets()};
+    std::vector<TileSet> sets;
+    for (TileSet (*make)() : {shadowSet, frameSet, frameFillSet, lightingSet, cartoonSet, textureSet, hairSet})
+        if (TileSet set = make(); set.group == group) sets.push_back(std::move(set));
     return sets;
 }
 
