@@ -6549,6 +6549,14 @@ oder beide im Menü Datei öffnen.</translation>
         <source>Add a text</source>
         <translation>Text hinzufügen</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Takes back what was done to the item since it was selected; a new one goes</source>
+        <translation>Nimmt zurück, was seit der Auswahl mit dem Eintrag geschah; ein neuer geht weg</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::TextScaleView</name>

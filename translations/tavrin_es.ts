@@ -6549,6 +6549,14 @@ o ábralos desde el menú Archivo.</translation>
         <source>Add a text</source>
         <translation>Añadir un texto</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Takes back what was done to the item since it was selected; a new one goes</source>
+        <translation>Deshace lo hecho con el elemento desde que se eligió; uno nuevo desaparece</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::TextScaleView</name>

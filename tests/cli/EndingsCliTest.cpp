@@ -131,9 +131,10 @@ TEST_F(EndingsCliTest, TheNextRunClearsWhatAKillLeftAndNothingOfTheLiving) {
     for (int tries = 0; tries < 10; ++tries) {
         living = std::make_unique<QProcess>();
         start(*living, render("out/living.png"));
-        const auto writes = [&] {
+        const auto writes = [&] {  // an empty one may not be locked yet, and is made again where it is taken away
             const std::vector<std::string> now = parts();
-            return !now.empty() && now[0] != left;
+            std::error_code gone;
+            return !now.empty() && now[0] != left && fs::file_size(folder_.file("out/" + now[0]), gone) > 0 && !gone;
         };
         ASSERT_TRUE(test::waitUntil([&] { return writes() || stateOf(*living) == 'Z'; }));
         test::sendSignal(*living, SIGSTOP);

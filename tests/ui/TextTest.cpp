@@ -108,6 +108,42 @@ TEST_F(TextTest, ItemsAreAddedEditedOrderedAndDeletedAndAllOfItCanBeTakenBack) {
     ASSERT_TRUE(waitForPicture());
 }
 
+TEST_F(TextTest, CancelTakesBackWhatWasDoneToTheItemAndNothingElse) {
+    TAVRIN_NEED_FONTS();
+    const auto cancel = [this] { return part<QToolButton>("buttonCancelItem"); };
+    EXPECT_FALSE(cancel()->isEnabled());
+    press("buttonAddText");
+    type("first");
+    press("buttonAddText");
+    type("second");
+    list_->setCurrentRow(0);
+    EXPECT_FALSE(cancel()->isEnabled()) << "nothing was done to it yet";
+    type("changed");
+    window_->binder().run("Light", [](SettingEditor& e) { ASSERT_EQ(e.set("foreground.iBrightness", "30"), ""); });
+    pick("comboTextLevel", "Background");
+    press("buttonItemLater");
+    EXPECT_EQ(value("text1.sText"), "changed");
+    press("buttonCancelItem");
+    EXPECT_EQ(value("text1.sText"), "first");
+    EXPECT_EQ(value("text1.sLevel"), "Frame Layer");
+    EXPECT_EQ(value("foreground.iBrightness"), "30");
+    EXPECT_EQ(value("text0.sText"), "second") << "another item";
+    EXPECT_FALSE(cancel()->isEnabled());
+    window_->binder().undo();
+    EXPECT_EQ(value("text1.sText"), "changed") << "a step like any other";
+
+    press("buttonAddText");
+    type("third");
+    press("buttonCancelItem");
+    EXPECT_EQ(info_->iFontObjectCount(), 2) << "one that was added goes";
+    list_->setCurrentRow(0);
+    type("again");
+    window_->binder().goTo(0);
+    EXPECT_FALSE(cancel()->isEnabled());
+    window_->binder().goTo(editor().steps().size());
+    EXPECT_EQ(value("text0.sText"), "again");
+}
+
 TEST_F(TextTest, APictureIsAddedByItsSizeAndOneThatCannotBeReadIsTold) {
     const std::string logo = test::savePng(test::noisePicture(60, 50, 3), folder_.file("logo.png"));
     page_->addImage(QString::fromStdString(logo));

@@ -27,7 +27,9 @@ void followWords(SettingEditor& editor, const std::string&) {
 }
 
 constexpr Handler kTitle{"changedTitle:", followWords<0>}, kNote{"changedNote:", followWords<1>},
-    kEvent{"changedEventLabel:", followWords<2>}, kTyped{"controlTextDidChange:"};
+    kEvent{"changedEventLabel:", followWords<2>}, kTyped{"controlTextDidChange:"},
+    kTitleColour{"changedTitle:, blackTitle:, whiteTitle:", followWords<0>},
+    kNoteColour{"changedNote:, blackNote:, whiteNote:", followWords<1>};
 
 constexpr PickRow::Word kSizes[] = {{"Small", QT_TRANSLATE_NOOP("Panel", "Small")},
                                     {"Medium", QT_TRANSLATE_NOOP("Panel", "Medium")},
@@ -58,19 +60,19 @@ const PanelActs kActs[] = {{"fold", "updateLabelUI", {{"label0.sText", ""}}, wor
 /// What the controls of one label are called, and which settings they drive.
 struct LabelNames {
     const char *group, *title;
-    const Handler* handler;
+    const Handler *handler, *colourHandler;
     const char *text, *font, *size, *place, *colour, *shadow;
     const char *sText, *sFontName, *sLabelSize, *sLocation, *sFontColor, *bDropShadow;
 };
 
 constexpr LabelNames kLabels[] = {
-    {"groupTitle", QT_TRANSLATE_NOOP("Panel", "Title"), &kTitle, "textTitle", "fontTitle", "comboTitleSize",
-     "comboTitleLocation", "comboTitleColor", "checkTitleShadow", "label0.sText", "label0.sFontName",
-     "label0.sLabelSize", "label0.sLocation", "label0.sFontColor", "label0.bDropShadow"},
-    {"groupNote", QT_TRANSLATE_NOOP("Panel", "Note"), &kNote, "textNote", "fontNote", "comboNoteSize",
+    {"groupTitle", QT_TRANSLATE_NOOP("Panel", "Title"), &kTitle, &kTitleColour, "textTitle", "fontTitle",
+     "comboTitleSize", "comboTitleLocation", "comboTitleColor", "checkTitleShadow", "label0.sText",
+     "label0.sFontName", "label0.sLabelSize", "label0.sLocation", "label0.sFontColor", "label0.bDropShadow"},
+    {"groupNote", QT_TRANSLATE_NOOP("Panel", "Note"), &kNote, &kNoteColour, "textNote", "fontNote", "comboNoteSize",
      "comboNoteLocation", "comboNoteColor", "checkNoteShadow", "label1.sText", "label1.sFontName",
      "label1.sLabelSize", "label1.sLocation", "label1.sFontColor", "label1.bDropShadow"},
-    {"groupEventLabel", QT_TRANSLATE_NOOP("Panel", "Event"), &kEvent, "textEventLabel", "fontEventLabel",
+    {"groupEventLabel", QT_TRANSLATE_NOOP("Panel", "Event"), &kEvent, &kEvent, "textEventLabel", "fontEventLabel",
      "comboEventLabelSize", "comboEventLabelLocation", "comboEventLabelColor", "checkEventLabelShadow",
      "label2.sText", "label2.sFontName", "label2.sLabelSize", "label2.sLocation", "label2.sFontColor",
      "label2.bDropShadow"},
@@ -105,7 +107,7 @@ std::vector<QWidget*> wordsOf(const LabelNames& names, Binder& binder) {
         new PickRow(word(names.place, names.handler, names.sLocation, QT_TRANSLATE_NOOP("Panel", "Place"),
                          QT_TRANSLATE_NOOP("Panel", "Where the words stand")),
                     kPlaces, binder),
-        new PickRow(word(names.colour, names.handler, names.sFontColor, QT_TRANSLATE_NOOP("Panel", "Colour"),
+        new PickRow(word(names.colour, names.colourHandler, names.sFontColor, QT_TRANSLATE_NOOP("Panel", "Colour"),
                          QT_TRANSLATE_NOOP("Panel", "White, black, or what can be read best on the ground")),
                     kColours, binder),
     };

@@ -108,8 +108,12 @@ QWidget* TextPage::makeButtons() {
     });
     connect(earlier_, &QToolButton::clicked, this, [this] { move(-1); });
     connect(later_, &QToolButton::clicked, this, [this] { move(1); });
+    cancel_ =
+        makeButton("buttonCancelItem", "cancelTextDialog:, cancelImageTextDialog:, restoreFontObject:", tr("Cancel"),
+                   tr("Takes back what was done to the item since it was selected; a new one goes"));
+    connect(cancel_, &QToolButton::clicked, this, &TextPage::cancelTextDialog);
     int at = 0;
-    for (QToolButton* button : {text, image, edit_, delete_, earlier_, later_}) {
+    for (QToolButton* button : {text, image, edit_, delete_, earlier_, later_, cancel_}) {
         layout->addWidget(button, at / 2, at % 2);
         ++at;
     }
@@ -184,7 +188,35 @@ void TextPage::add(const FontObject& item) {
         if (problem.empty()) info.iSelectedFontObject = info.iFontObjectCount() - 1;
     });
     if (!problem.empty()) return void(emit binder_.told(QString::fromStdString(problem)));
+    saveFontObject(true);
     EditTextImage(info.iSelectedFontObject);
+}
+
+/// Notes how the selected item stands, to come back to.
+void TextPage::saveFontObject(bool isNew) {
+    const SettingEditor& editor = binder_.editor();
+    const FontObject* item = selectedItem(editor.info());
+    visit_ = {item ? editor.info().iSelectedFontObject.load() : -1, isNew, item ? *item : FontObject(),
+              editor.position()};
+}
+
+/// Another item is selected, another state was loaded, or what was done before the visit was taken back.
+bool TextPage::isVisitOver() const {
+    const SettingEditor& editor = binder_.editor();
+    if (visit_.row != editor.info().iSelectedFontObject) return true;
+    if (visit_.begun == 0) return editor.steps().empty();
+    const auto end = editor.steps().begin() + static_cast<std::ptrdiff_t>(editor.stepsDone());
+    return std::find_if(editor.steps().begin(), end,
+                        [this](const auto& step) { return step.number == visit_.begun; }) == end;
+}
+
+void TextPage::cancelTextDialog() {
+    if (visit_.row < 0 || isVisitOver()) return;
+    const auto row = static_cast<std::size_t>(visit_.row);
+    const Visit visit = std::exchange(visit_, {});
+    binder_.run(tr("Cancel"), [&](SettingEditor& editor) {
+        visit.isNew ? removeItem(editor, row) : replaceItem(editor, row, visit.before);
+    });
 }
 
 void TextPage::EditTextImage(int row) {
@@ -212,6 +244,7 @@ void TextPage::move(int by) {
     const int from = list_->currentRow(), to = from + by;
     if (from < 0 || to < 0 || to >= info.iFontObjectCount()) return;
     info.iSelectedFontObject = to;
+    visit_.row = to;
     binder_.run(tr("Order of the items"), [&](SettingEditor& editor) {
         moveItem(editor, static_cast<std::size_t>(from), static_cast<std::size_t>(to));
     });
@@ -231,6 +264,8 @@ void TextPage::refresh() {
     }
     if (info.iSelectedFontObject >= info.iFontObjectCount()) info.iSelectedFontObject = info.iFontObjectCount() - 1;
     list_->setCurrentRow(info.iSelectedFontObject);
+    if (isVisitOver()) saveFontObject(false);
+    cancel_->setEnabled(visit_.row >= 0 && (visit_.isNew || visit_.begun != binder_.editor().position()));
     const bool any = selectedItem(info) != nullptr;
     for (QToolButton* button : {edit_, delete_, earlier_, later_})
         button->setEnabled(any);

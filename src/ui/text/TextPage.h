@@ -25,6 +25,8 @@ class TextPage : public PanelPage {
     void EditTextImage(int row);
     /// Selects an item; -1: none.
     void select(int row);
+    /// Takes back what was done to the selected item since it was selected; one that was added then goes.
+    void cancelTextDialog();
 
   signals:
     void wanted(const QWidget* item);
@@ -32,18 +34,29 @@ class TextPage : public PanelPage {
     void selected(int row);
 
   private:
+    /// The selected item as it was when it was selected.
+    struct Visit {
+        int row = -1;
+        bool isNew = false;
+        FontObject before = {};
+        std::uint64_t begun = 0;  ///< the last step in force then
+    };
+
     QWidget* makeList();
     QWidget* makeButtons();
     void askForImage(const QString& title, void (TextPage::*take)(const QString& path));
     bool readImage(const QString& path, FontObject& item);
     void add(const FontObject& item);
     void changedSelection();
+    void saveFontObject(bool isNew);
+    bool isVisitOver() const;
     void move(int by);
     void refresh();
 
     Binder& binder_;
     QListWidget* list_;
-    QToolButton *edit_ = nullptr, *delete_ = nullptr, *earlier_ = nullptr, *later_ = nullptr;
+    QToolButton *edit_ = nullptr, *delete_ = nullptr, *earlier_ = nullptr, *later_ = nullptr, *cancel_ = nullptr;
+    Visit visit_;
     GroupBox *textControls_ = nullptr, *imageControls_ = nullptr;
 };
 
