@@ -28,19 +28,27 @@ ReviewDesk::ReviewDesk(SystemInfo& info, QWidget* window)
 }
 
 void ReviewDesk::showReviewBatchOutput() {
+    page_ = QString::fromStdString(reviewPageName(1));
+    showReviewPage();
+}
+
+/// Writes the pages anew and shows the one that was seen last.
+void ReviewDesk::showReviewPage() {
     const std::string folder = standardizePath(info_.oQLXInfo->sLastBatchOutput);
     if (folder.empty()) return emit told(tr("No batch has been run yet."));
     const WrittenPages written = setupReviewBatchOutput(info_, folder, window_->screen()->geometry().width());
     if (!written.problem.empty())
         emit failed(tr("The pages cannot be written."), QString::fromStdString(written.problem));
     if (written.count == 0) return emit told(tr("%1 holds no pictures.").arg(textOfName(folder)));
-    review_->showPage(textOfName(folder) + '/' + QString::fromStdString(reviewPageName(1)));
+    const QString page = textOfName(folder) + '/' + page_;
+    review_->showPage(QFileInfo::exists(page) ? page
+                                              : textOfName(folder) + '/' + QString::fromStdString(reviewPageName(1)));
 }
 
 void ReviewDesk::noteSaved(const QString& path, bool done) {
     if (path != mended_) return;
     mended_.clear();
-    if (done) showReviewBatchOutput();
+    if (done) showReviewPage();
 }
 
 void ReviewDesk::showCompareFiles() {
@@ -74,7 +82,12 @@ QString ReviewDesk::pictureOf(const QString& link) const {
 /// Pages may be turned; what else is clicked names a picture. The window is used when the page has had its answer.
 bool ReviewDesk::mayGoFromReview(const QString& name) {
     logTrace("Gallery Link: " + name.toStdString());
-    if (name.startsWith("FilesInFolder")) return true;
+    if (name.startsWith("FilesInFolder")) {
+        const QString folder = textOfName(standardizePath(info_.oQLXInfo->sLastBatchOutput));
+        if (!QFileInfo::exists(folder + '/' + name)) return false;  // there may be a link more than pages
+        page_ = name;
+        return true;
+    }
     const QString path = pictureOf(name);
     if (path.isEmpty()) return false;
     QTimer::singleShot(0, this, [this, path] {

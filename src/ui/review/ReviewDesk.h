@@ -34,6 +34,7 @@ class ReviewDesk : public QObject {
     void failed(const QString& line, const QString& reason);
 
   private:
+    void showReviewPage();
     bool mayGoFromReview(const QString& name);
     bool mayGoFromCompare(const QString& name);
     /// The picture of a link that is its index in the list, or "".
@@ -44,6 +45,7 @@ class ReviewDesk : public QObject {
     SystemInfo& info_;
     QWidget* window_;
     PageWindow *review_, *compare_;
+    QString page_;      ///< the file name of the page of results that was shown last
     QString compared_;  ///< the folder on the page
     QString mended_;    ///< the result that is being written again
 };
