@@ -10,7 +10,7 @@ build_packages=(g++ cmake ninja-build ccache pkg-config python3 qt6-base-dev qt6
     libvips-dev libraw-dev libexif-dev libjpeg-dev libtiff-dev libpng-dev zlib1g-dev liblcms2-dev libcups2-dev
     libcurl4-openssl-dev libpugixml-dev libtbb-dev libhwy-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev)
 test_packages=(xvfb xauth fonts-liberation xfonts-scalable qt6-translations-l10n
-    cups cups-ipp-utils dbus-daemon poppler-utils python3-aiosmtpd openssl)
+    cups cups-ipp-utils dbus-daemon poppler-utils python3-aiosmtpd openssl ca-certificates)
 format_packages=(clang-format-14)
 farm_packages=(slurmctld slurmd slurm-client munge)
 
