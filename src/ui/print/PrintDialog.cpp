@@ -77,6 +77,8 @@ void PrintDialog::addPrinter(QFormLayout& form) {
     state_ = new QLabel(this);
     state_->setObjectName("printerState");
     state_->setWordWrap(true);
+    state_->setAlignment(Qt::AlignTop);
+    state_->setMinimumHeight(2 * state_->fontMetrics().lineSpacing());  // the dialog has its size before it is known
     copies_ = named(new QSpinBox(this), "printCopies", tr("Copies"), tr("How often the sheet is printed"));
     copies_->setRange(1, kMostCopies);
     copies_->setValue(std::max(1, info_.iEventPrintCount.load()));
