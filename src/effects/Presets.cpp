@@ -208,18 +208,13 @@ constexpr Preset kFrameFills[] = {
     {"velvet", "red velvet", [](SystemInfo& info) { useMaterial(info, "Velvet.jpg"); }},
 };
 
-/// Lays the pictures of a set over the layers; a set without a picture for a layer leaves that layer bare. A pass may
-/// meet half of it, and must never find an overlay that has no name yet.
+/// Pictures of a shipped set; a set without one for a layer leaves that layer bare.
 void setOverlays(SystemInfo& info, const std::string& frame, const std::string& foreground,
                  const std::string& background) {
-    const auto lay = [](Field<bool>& have, Field<std::string>& overlay, const std::string& name) {
-        if (name.empty()) have = false;
-        overlay = name.empty() ? "" : shippedPicture("Overlays/" + name);
-        have = !name.empty();
+    const auto shipped = [](const std::string& name) {
+        return name.empty() ? std::string() : shippedPicture("Overlays/" + name);
     };
-    lay(info.bHaveFrameOverlay, info.sFrameOverlay, frame);
-    lay(info.bHaveForegroundOverlay, info.sForegroundOverlay, foreground);
-    lay(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, background);
+    layOverlays(info, shipped(frame), shipped(foreground), shipped(background));
 }
 
 void setOverlaySet(SystemInfo& info, const std::string& name) {
@@ -261,6 +256,18 @@ std::string unknownLook(const PresetGroup& group, const std::string& name) {
 }
 
 }  // namespace
+
+void layOverlays(SystemInfo& info, const std::string& frame, const std::string& foreground,
+                 const std::string& background) {
+    const auto lay = [](Field<bool>& have, Field<std::string>& overlay, const std::string& file) {
+        if (file.empty()) have = false;
+        overlay = file;
+        have = !file.empty();
+    };
+    lay(info.bHaveFrameOverlay, info.sFrameOverlay, frame);
+    lay(info.bHaveForegroundOverlay, info.sForegroundOverlay, foreground);
+    lay(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, background);
+}
 
 void buttonWall(SystemInfo& info) {
     setShadow(info, 5);

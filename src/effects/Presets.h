@@ -37,6 +37,11 @@ void removeShadow(SystemInfo& info);
 /// 0 none, 1 cartoon, 2 grey, 3 pencil, 4 pencil on parchment.
 void chooseCartoon(SystemInfo& info, int type);
 
+/// Lays pictures over the layers; "" leaves a layer bare. A pass may meet half of it, and never finds an overlay that
+/// has no name yet.
+void layOverlays(SystemInfo& info, const std::string& frame, const std::string& foreground,
+                 const std::string& background);
+
 /// Every group, in the order in which people read about them.
 std::span<const PresetGroup> presetGroups();
 

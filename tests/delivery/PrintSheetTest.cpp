@@ -4,6 +4,7 @@
 #include "core/state/SystemInfo.h"
 #include "delivery/print/PrintSheet.h"
 #include "pipeline/OutputSize.h"
+#include "support/PrintPages.h"
 
 namespace tavrin {
 namespace {
@@ -22,21 +23,6 @@ QImage quarters(int width, int height) {
     return image;
 }
 
-PrinterPage page(std::int64_t width, std::int64_t height, const std::vector<QRect>& places) {
-    PrinterPage page;
-    page.iPageWidth = width;
-    page.iPageHeight = height;
-    for (const QRect& slot : places) {
-        PrinterPageImage image;
-        image.iX = slot.x();
-        image.iY = slot.y();
-        image.iWidth = slot.width();
-        image.iHeight = slot.height();
-        page.oPrinterPageImages.push_back(image);
-    }
-    return page;
-}
-
 class PrintSheetTest : public testing::Test {
   protected:
     /// The sheet with a picture in its slots, rows from the top.
@@ -51,7 +37,8 @@ class PrintSheetTest : public testing::Test {
 };
 
 TEST(SheetLayout, PicturesAreTurnedWhereTheyDisagreeWithTheSlotAndSquareOnesInAnyThatIsNotSquare) {
-    const PrinterPage sheet = page(400, 400, {QRect(0, 0, 100, 200), QRect(100, 0, 200, 100), QRect(0, 200, 50, 50)});
+    const PrinterPage sheet =
+        test::pageOf(400, 400, {QRect(0, 0, 100, 200), QRect(100, 0, 200, 100), QRect(0, 200, 50, 50)});
     const auto turned = [&](double proportion) {
         std::vector<bool> all;
         for (const SheetSlot& slot : slotsOf(sheet, 600, proportion))
@@ -65,9 +52,9 @@ TEST(SheetLayout, PicturesAreTurnedWhereTheyDisagreeWithTheSlotAndSquareOnesInAn
 
 TEST(SheetLayout, PlacesAreWholePixelsAndWhatIsNotOnThePageIsLeftOut) {
     constexpr int kFar = 2'000'000'000;
-    const PrinterPage sheet = page(300, 200,
-                                   {QRect(33, 7, 55, 101), QRect(300, 0, 10, 10), QRect(0, -10, 10, 10),
-                                    QRect(0, 0, 0, 10), QRect(-kFar, 0, kFar, 10), QRect(-5, 195, 10, 10)});
+    const PrinterPage sheet = test::pageOf(300, 200,
+                                           {QRect(33, 7, 55, 101), QRect(300, 0, 10, 10), QRect(0, -10, 10, 10),
+                                            QRect(0, 0, 0, 10), QRect(-kFar, 0, kFar, 10), QRect(-5, 195, 10, 10)});
     const std::vector<SheetSlot> places = slotsOf(sheet, 72, 0.5);
     ASSERT_EQ(places.size(), 2u);
     EXPECT_EQ(places[0].area, QRectF(23, 5, 39, 72));
@@ -75,7 +62,7 @@ TEST(SheetLayout, PlacesAreWholePixelsAndWhatIsNotOnThePageIsLeftOut) {
 }
 
 TEST_F(PrintSheetTest, ASlotIsFilledFromTheLowerLeftAndTheRestIsGrey) {
-    const QImage sheet = draw(page(60, 100, {QRect(10, 20, 20, 30)}), quarters(40, 60));
+    const QImage sheet = draw(test::pageOf(60, 100, {QRect(10, 20, 20, 30)}), quarters(40, 60));
     EXPECT_EQ(sheet.size(), QSize(360, 600));
     EXPECT_EQ(sheet.pixelColor(60, 599 - 120), kBlue);
     EXPECT_EQ(sheet.pixelColor(179, 599 - 120), kYellow);
@@ -86,7 +73,7 @@ TEST_F(PrintSheetTest, ASlotIsFilledFromTheLowerLeftAndTheRestIsGrey) {
 }
 
 TEST_F(PrintSheetTest, ATurnedPictureLiesClockwise) {
-    const QImage sheet = draw(page(30, 20, {QRect(0, 0, 30, 20)}), quarters(40, 60));
+    const QImage sheet = draw(test::pageOf(30, 20, {QRect(0, 0, 30, 20)}), quarters(40, 60));
     EXPECT_EQ(sheet.pixelColor(2, 2), kBlue);
     EXPECT_EQ(sheet.pixelColor(177, 2), kRed);
     EXPECT_EQ(sheet.pixelColor(177, 117), kGreen);
@@ -94,7 +81,7 @@ TEST_F(PrintSheetTest, ATurnedPictureLiesClockwise) {
 }
 
 TEST_F(PrintSheetTest, APictureOfOtherProportionsIsStretchedCutOrHasGreySides) {
-    const PrinterPage wide = page(40, 20, {QRect(0, 0, 40, 20)});
+    const PrinterPage wide = test::pageOf(40, 20, {QRect(0, 0, 40, 20)});
     const QImage picture = quarters(60, 50);
     EXPECT_EQ(draw(wide, picture).pixelColor(0, 0), kRed);
     const QImage cut = draw(wide, picture, {SlotFit::fill, false, false});
@@ -108,7 +95,7 @@ TEST_F(PrintSheetTest, APictureOfOtherProportionsIsStretchedCutOrHasGreySides) {
 }
 
 TEST_F(PrintSheetTest, TransferPaperIsMirroredAndCutMarksStandOutsideTheSlots) {
-    const PrinterPage sheet = page(100, 100, {QRect(25, 25, 50, 50)});
+    const PrinterPage sheet = test::pageOf(100, 100, {QRect(25, 25, 50, 50)});
     const QImage plain = draw(sheet, quarters(50, 50));
     EXPECT_EQ(draw(sheet, quarters(50, 50), {SlotFit::stretch, false, true}), plain.mirrored(true, false));
     const QImage marked = draw(sheet, quarters(50, 50), {SlotFit::stretch, true, false});

@@ -13,25 +13,11 @@
 #include "delivery/print/SheetPdf.h"
 #include "support/Files.h"
 #include "support/Pictures.h"
+#include "support/PrintPages.h"
 #include "support/TestData.h"
 
 namespace tavrin {
 namespace {
-
-PrinterPage pageOf(std::int64_t width, std::int64_t height, const std::vector<QRect>& places) {
-    PrinterPage page;
-    page.iPageWidth = width;
-    page.iPageHeight = height;
-    for (const QRect& place : places) {
-        PrinterPageImage slot;
-        slot.iX = place.x();
-        slot.iY = place.y();
-        slot.iWidth = place.width();
-        slot.iHeight = place.height();
-        page.oPrinterPageImages.push_back(slot);
-    }
-    return page;
-}
 
 TEST(Paper, ASheetLiesInTheMiddleOfItsPaperAndIsCutOffOnASmallerOne) {
     const Paper letter = *paperOf("Letter"), a4 = *paperOf("a4");
@@ -96,7 +82,7 @@ QImage halves(int width, int height) {
 TEST_F(SheetPdfTest, LooksAsTheSheetThatIsDrawn) {
     if (!hasPoppler()) GTEST_SKIP() << "poppler-utils is not installed";
     const QColor red(220, 20, 20), blue(20, 20, 220), grey(179, 179, 179);
-    SheetPlan plan{pageOf(400, 400, {QRect(50, 50, 100, 200), QRect(200, 100, 150, 100)})};
+    SheetPlan plan{test::pageOf(400, 400, {QRect(50, 50, 100, 200), QRect(200, 100, 150, 100)})};
     const QImage sheet = rendered(plan, {halves(60, 120)});
     ASSERT_EQ(sheet.size(), QSize(200, 200));
     EXPECT_LT(off(sheet.pixelColor(50, 85), red), 8) << "upright in the upright place";
@@ -121,7 +107,7 @@ TEST_F(SheetPdfTest, ClearPartsShowTheSheetAndACaptionStandsBelowThePictures) {
     if (!hasPoppler()) GTEST_SKIP() << "poppler-utils is not installed";
     QImage clear(60, 60, QImage::Format_RGBA8888_Premultiplied);
     clear.fill(QColor(110, 10, 10, 128));
-    SheetPlan plan{pageOf(400, 400, {QRect(100, 100, 200, 200)})};
+    SheetPlan plan{test::pageOf(400, 400, {QRect(100, 100, 200, 200)})};
     const QImage plain = rendered(plan, {clear});
     EXPECT_LT(off(plain.pixelColor(100, 100), QColor(144, 94, 94)), 4);
     plan.look.caption = "<<filename>> WWWWWWWW";
@@ -132,8 +118,8 @@ TEST_F(SheetPdfTest, ClearPartsShowTheSheetAndACaptionStandsBelowThePictures) {
             dark += off(plain.pixelColor(x, y), captioned.pixelColor(x, y)) > 60;
     EXPECT_GT(dark, 40);
     EXPECT_EQ(plain.copy(0, 0, 200, 150), captioned.copy(0, 0, 200, 150));
-    EXPECT_FALSE(captionRoom(pageOf(400, 400, {QRect(0, 0, 400, 400)}), 600));
-    EXPECT_GT(captionRoom(pageOf(400, 400, {QRect(0, 0, 400, 350)}), 600)->top(), 350 * 6)
+    EXPECT_FALSE(captionRoom(test::pageOf(400, 400, {QRect(0, 0, 400, 400)}), 600));
+    EXPECT_GT(captionRoom(test::pageOf(400, 400, {QRect(0, 0, 400, 350)}), 600)->top(), 350 * 6)
         << "above where none is below";
 }
 
@@ -152,7 +138,7 @@ TEST_F(SheetPdfTest, AJpegFileIsInItAsItIsWithoutWhatIsNotItsPicture) {
     EXPECT_EQ(read.jpeg.find("Exif"), std::string::npos);
     test::writeFile(folder_.file("again.jpg"), read.jpeg);
     EXPECT_EQ(readPicture(folder_.file("again.jpg")).pixels, read.pixels) << "not a pixel differs";
-    ASSERT_EQ(written({pageOf(400, 300, {QRect(0, 0, 400, 300), QRect(0, 0, 40, 30)})}, read), "");
+    ASSERT_EQ(written({test::pageOf(400, 300, {QRect(0, 0, 400, 300), QRect(0, 0, 40, 30)})}, read), "");
     const std::string sheet = test::readFile(path_);
     EXPECT_NE(sheet.find(read.jpeg), std::string::npos);
     EXPECT_EQ(sheet.find("/FlateDecode"), std::string::npos);
@@ -164,10 +150,10 @@ TEST_F(SheetPdfTest, AJpegFileIsInItAsItIsWithoutWhatIsNotItsPicture) {
 
 TEST_F(SheetPdfTest, OtherPicturesAreUnpackedToTheVeryPixels) {
     const QImage picture = test::noisePicture(37, 300, 5).convertToFormat(QImage::Format_RGBX8888);
-    ASSERT_EQ(written({pageOf(100, 100, {QRect(0, 0, 100, 100)})}, {picture}), "");
+    ASSERT_EQ(written({test::pageOf(100, 100, {QRect(0, 0, 100, 100)})}, {picture}), "");
     const std::string sheet = test::readFile(path_);
     for (const auto format : {QImage::Format_RGB888, QImage::Format_RGB32, QImage::Format_ARGB32}) {
-        ASSERT_EQ(written({pageOf(100, 100, {QRect(0, 0, 100, 100)})}, {picture.convertToFormat(format)}), "");
+        ASSERT_EQ(written({test::pageOf(100, 100, {QRect(0, 0, 100, 100)})}, {picture.convertToFormat(format)}), "");
         EXPECT_EQ(test::readFile(path_), sheet) << format;
     }
     const std::size_t from = sheet.find("stream\n", sheet.find("/FlateDecode")) + 7;

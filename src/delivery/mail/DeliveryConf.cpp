@@ -5,6 +5,7 @@
 #include <map>
 #include <random>
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QFile>
 
@@ -16,9 +17,7 @@ namespace tavrin {
 namespace {
 
 std::string trimmed(const std::string& text) {
-    constexpr const char* kBlanks = " \t\r";
-    const std::size_t from = text.find_first_not_of(kBlanks);
-    return from == std::string::npos ? "" : text.substr(from, text.find_last_not_of(kBlanks) - from + 1);
+    return QByteArray::fromStdString(text).trimmed().toStdString();
 }
 
 void readLine(DeliveryConf& conf, const std::string& line, int number) {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "ui/bind/GroupBox.h"
+#include "ui/bind/WordButton.h"
 
 class QLabel;
 class QToolButton;
@@ -40,11 +41,6 @@ class PanelPage : public QWidget {
     bool showMatching(const QStringList& words, Slips slips = Slips::none);
     /// The first item that is shown, whatever the search left; null without any.
     QWidget* firstShown() const;
-
-  protected:
-    /// A button with words, as wide as its place.
-    static QToolButton* makeButton(const char* name, const char* handler, const QString& text,
-                                   const QString& toolTip);
 
   private:
     PageTitle title_;

@@ -7,6 +7,7 @@
 #include <QTableWidget>
 #include <QToolButton>
 
+#include "ui/bind/WordButton.h"
 #include "ui/bind/WordSearch.h"
 #include "ui/frame/KeyField.h"
 
@@ -40,6 +41,18 @@ ShortcutDialog::ShortcutDialog(Commands& commands, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName("shortcuts");
     setWindowTitle(tr("Keyboard Shortcuts"));
+    nameParts();
+    layOut();
+    connect(search_, &QLineEdit::textChanged, this, &ShortcutDialog::find);
+    connect(list_, &QTableWidget::currentCellChanged, this, &ShortcutDialog::showCurrent);
+    connect(key_, &KeyField::pressed, this, &ShortcutDialog::wish);
+    before_ = commands_.chosenKeys();
+    fill();
+    list_->setCurrentCell(0, kText);
+    resize(560, 620);
+}
+
+void ShortcutDialog::nameParts() {
     search_->setObjectName("shortcutSearch");
     search_->setProperty("handler", "find");
     search_->setPlaceholderText(tr("Search by words or by a key"));
@@ -61,7 +74,9 @@ ShortcutDialog::ShortcutDialog(Commands& commands, QWidget* parent)
     key_->setAccessibleName(tr("New key"));
     told_->setObjectName("shortcutTold");
     told_->setWordWrap(true);
+}
 
+void ShortcutDialog::layOut() {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(search_);
     layout->addWidget(list_);
@@ -87,24 +102,12 @@ ShortcutDialog::ShortcutDialog(Commands& commands, QWidget* parent)
     for (QToolButton* button : {take_, none_, usual_, back_, allUsual_})
         buttons->addWidget(button);
     buttons->insertStretch(4);
-
-    connect(search_, &QLineEdit::textChanged, this, &ShortcutDialog::find);
-    connect(list_, &QTableWidget::currentCellChanged, this, &ShortcutDialog::showCurrent);
-    connect(key_, &KeyField::pressed, this, &ShortcutDialog::wish);
-    before_ = commands_.chosenKeys();
-    fill();
-    list_->setCurrentCell(0, kText);
-    resize(560, 620);
 }
 
 QToolButton* ShortcutDialog::addButton(const char* id, const QString& text, const QString& toolTip,
                                        void (ShortcutDialog::*run)()) {
-    auto* button = new QToolButton(this);
-    button->setObjectName(id);
-    button->setProperty("handler", id);
-    button->setText(text);
-    button->setToolTip(toolTip);
-    button->setFocusPolicy(Qt::StrongFocus);
+    QToolButton* button = makeButton(id, id, text, toolTip);
+    button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     if (run) connect(button, &QToolButton::clicked, this, run);
     return button;
 }

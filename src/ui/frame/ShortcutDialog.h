@@ -22,6 +22,8 @@ class ShortcutDialog : public QDialog {
     ShortcutDialog(Commands& commands, QWidget* parent);
 
   private:
+    void nameParts();
+    void layOut();
     void fill();
     void addLine(const QString& text, const QString& key, const Command* command);
     void find(const QString& typed);

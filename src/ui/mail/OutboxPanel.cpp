@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "core/files/NameText.h"
+#include "ui/bind/WordButton.h"
 #include "ui/mail/MailDesk.h"
 
 namespace tavrin {
@@ -59,9 +60,10 @@ OutboxPanel::OutboxPanel(MailDesk& desk, QWidget* parent)
     keeps->setToolTip(tr("The pauses between the tries grow from a minute to four hours"));
     keeps->setChecked(MailDesk::keepsMails());
     connect(keeps, &QCheckBox::toggled, &desk_, &MailDesk::setKeepsMails);
-    send_ = addButton("buttonOutboxSend", tr("Send now"),
-                      tr("Sends the selected mails; where none is selected, all but those that may have gone"));
-    discard_ = addButton("buttonOutboxDiscard", tr("Discard"), tr("Removes the selected mails without sending them"));
+    send_ = makeButton("buttonOutboxSend", "sendNow", tr("Send now"),
+                       tr("Sends the selected mails; where none is selected, all but those that may have gone"));
+    discard_ = makeButton("buttonOutboxDiscard", "discard", tr("Discard"),
+                          tr("Removes the selected mails without sending them"));
     connect(send_, &QToolButton::clicked, this, [this] { desk_.sendNow(chosen()); });
     connect(discard_, &QToolButton::clicked, this, [this] { desk_.discard(chosen()); });
     auto* grid = new QGridLayout(this);
@@ -74,18 +76,6 @@ OutboxPanel::OutboxPanel(MailDesk& desk, QWidget* parent)
     connect(&desk, &MailDesk::outboxRead, this, &OutboxPanel::show);
     connect(list_, &QListWidget::itemSelectionChanged, this, &OutboxPanel::showButtons);
     show({});
-}
-
-QToolButton* OutboxPanel::addButton(const char* name, const QString& text, const QString& toolTip) {
-    auto* button = new QToolButton;
-    button->setObjectName(name);
-    button->setProperty("handler", name);
-    button->setText(text);
-    button->setAccessibleName(text);
-    button->setToolTip(toolTip);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    return button;
 }
 
 void OutboxPanel::show(const std::vector<OutboxEntry>& entries) {

@@ -24,7 +24,6 @@ class OutboxPanel : public QWidget {
     void show(const std::vector<OutboxEntry>& entries);
 
   private:
-    QToolButton* addButton(const char* name, const QString& text, const QString& toolTip);
     /// Those that are selected; all where none is.
     QStringList chosen() const;
     void showButtons();

@@ -6,6 +6,7 @@
 
 #include "delivery/mail/DeliveryConf.h"
 #include "delivery/mail/EventMail.h"
+#include "ui/bind/WordButton.h"
 
 namespace tavrin {
 
@@ -33,27 +34,18 @@ PhoneTextView::PhoneTextView(SystemInfo& info, QWidget* parent) : QDialog(parent
     auto* layout = new QVBoxLayout(this);
     const QString number = QString::fromStdString(info.sEventEmail);
     layout->addWidget(new QLabel(tr("Which carrier has the number %1?").arg(number), this));
-    const auto addButton = [&](const QString& operation, const QString& text, const QString& toolTip) {
-        auto* button = new QToolButton(this);
-        button->setObjectName(operation);
-        button->setProperty("handler", operation + ':');
-        button->setText(text);
-        button->setToolTip(toolTip);
-        button->setAccessibleName(QString(text).replace("&&", "&"));
-        button->setFocusPolicy(Qt::StrongFocus);
-        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        layout->addWidget(button);
-        return button;
-    };
     for (std::size_t i = 0; i < carriers().size(); ++i) {
         const Carrier& carrier = carriers()[i];
         const QString toolTip = carrier.sends ? tr("Sends the picture as a text message")
                                               : tr("No way to this carrier yet: nothing is sent");
-        connect(addButton(carrier.operation, nameOf(carrier), toolTip), &QToolButton::clicked, this,
-                [this, i] { choose(i); });
+        QToolButton* button = makeButton(carrier.operation, carrier.operation, nameOf(carrier), toolTip);
+        connect(button, &QToolButton::clicked, this, [this, i] { choose(i); });
+        layout->addWidget(button);
     }
-    QToolButton* cancel = addButton("textMessageCancelClicked", tr("Cancel"), tr("Sends nothing"));
+    QToolButton* cancel =
+        makeButton("textMessageCancelClicked", "textMessageCancelClicked", tr("Cancel"), tr("Sends nothing"));
     connect(cancel, &QToolButton::clicked, this, &QDialog::reject);
+    layout->addWidget(cancel);
 }
 
 void PhoneTextView::choose(std::size_t carrier) {

@@ -13,6 +13,17 @@
 
 namespace tavrin {
 
+namespace {
+
+/// The picture of a link that is its index in the list of a page, or "".
+QString pictureOf(const QString& link, const std::vector<std::string>& pictures) {
+    bool isNumber = false;
+    const std::size_t index = link.toULongLong(&isNumber);
+    return isNumber && index < pictures.size() ? textOfName(pictures[index]) : QString();
+}
+
+}  // namespace
+
 ReviewDesk::ReviewDesk(SystemInfo& info, QWidget* window)
     : QObject(window),
       info_(info),
@@ -37,6 +48,7 @@ void ReviewDesk::showReviewPage() {
     const std::string folder = standardizePath(info_.oQLXInfo->sLastBatchOutput);
     if (folder.empty()) return emit told(tr("No batch has been run yet."));
     const WrittenPages written = setupReviewBatchOutput(info_, folder, window_->screen()->geometry().width());
+    results_ = info_.myFileNames;
     if (!written.problem.empty())
         emit failed(tr("The pages cannot be written."), QString::fromStdString(written.problem));
     if (written.count == 0) return emit told(tr("%1 holds no pictures.").arg(textOfName(folder)));
@@ -64,6 +76,7 @@ void ReviewDesk::compare(const QString& folder) {
         return emit failed(tr("The pages cannot be written."), QString::fromStdString(written.problem));
     if (written.count == 0) return emit told(tr("%1 holds no pictures.").arg(folder));
     compared_ = folder;
+    portraits_ = info_.myFileNames;
     compare_->showPage(textOfName(comparePagePath()));
 }
 
@@ -71,12 +84,6 @@ void ReviewDesk::changeFolder() {
     QWidget* over = compare_->isVisible() ? static_cast<QWidget*>(compare_) : window_;
     const QString folder = QFileDialog::getExistingDirectory(over, tr("Folder of Portraits"), compared_);
     if (!folder.isEmpty()) compare(folder);
-}
-
-QString ReviewDesk::pictureOf(const QString& link) const {
-    bool isNumber = false;
-    const std::size_t index = link.toULongLong(&isNumber);
-    return isNumber && index < info_.myFileNames.size() ? textOfName(info_.myFileNames[index]) : QString();
 }
 
 /// Pages may be turned; what else is clicked names a picture. The window is used when the page has had its answer.
@@ -88,7 +95,7 @@ bool ReviewDesk::mayGoFromReview(const QString& name) {
         page_ = name;
         return true;
     }
-    const QString path = pictureOf(name);
+    const QString path = pictureOf(name, results_);
     if (path.isEmpty()) return false;
     QTimer::singleShot(0, this, [this, path] {
         review_->hide();
@@ -103,7 +110,7 @@ bool ReviewDesk::mayGoFromCompare(const QString& name) {
         QTimer::singleShot(0, this, &ReviewDesk::changeFolder);
         return false;
     }
-    if (const QString path = pictureOf(name); !path.isEmpty()) {
+    if (const QString path = pictureOf(name, portraits_); !path.isEmpty()) {
         QTimer::singleShot(0, this, [this, path] {
             compare_->hide();
             emit portraitChosen(path);

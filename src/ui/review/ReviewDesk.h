@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include <QObject>
@@ -37,17 +38,16 @@ class ReviewDesk : public QObject {
     void showReviewPage();
     bool mayGoFromReview(const QString& name);
     bool mayGoFromCompare(const QString& name);
-    /// The picture of a link that is its index in the list, or "".
-    QString pictureOf(const QString& link) const;
     void compare(const QString& folder);
     void changeFolder();
 
     SystemInfo& info_;
     QWidget* window_;
     PageWindow *review_, *compare_;
-    QString page_;      ///< the file name of the page of results that was shown last
-    QString compared_;  ///< the folder on the page
-    QString mended_;    ///< the result that is being written again
+    std::vector<std::string> results_, portraits_;  ///< on the pages: either may be open while the other is written
+    QString page_;                                  ///< the file name of the page of results that was shown last
+    QString compared_;                              ///< the folder on the page
+    QString mended_;                                ///< the result that is being written again
 };
 
 /// What the menu has of it.

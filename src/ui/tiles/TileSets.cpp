@@ -216,17 +216,6 @@ TileSet overlaySet() {
               [](SystemInfo& info) { use(info, "overlays", "party"); }}}};
 }
 
-void layOverlays(SystemInfo& info, const OverlaySet& set) {
-    const auto lay = [](Field<bool>& have, Field<std::string>& overlay, const std::string& file) {
-        if (file.empty()) have = false;  // a pass must never find an overlay that has no name
-        overlay = file;
-        have = !file.empty();
-    };
-    lay(info.bHaveFrameOverlay, info.sFrameOverlay, set.frame);
-    lay(info.bHaveForegroundOverlay, info.sForegroundOverlay, set.foreground);
-    lay(info.bHaveBackgroundOverlay, info.sBackgroundOverlay, set.background);
-}
-
 /// The sets that ship and those that the user put beside them.
 TileSet allOverlaySets() {
     constexpr std::size_t kMostOwn = 24;
@@ -238,7 +227,9 @@ TileSet allOverlaySets() {
         if (set.looks.size() == shipped + kMostOwn) break;
         set.looks.push_back({control, set.name, own.name,
                              QT_TRANSLATE_NOOP("Panel", "A set of overlays of your own."),
-                             [files = own.files](SystemInfo& info) { layOverlays(info, files); }});
+                             [files = own.files](SystemInfo& info) {
+                                 layOverlays(info, files.frame, files.foreground, files.background);
+                             }});
     }
     return set;
 }

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include <QRect>
+
+#include "core/state/PageLists.h"
+
+namespace tavrin::test {
+
+/// A print page with slots at these places, all in hundredths of an inch from the lower left corner.
+inline PrinterPage pageOf(std::int64_t width, std::int64_t height, const std::vector<QRect>& places) {
+    PrinterPage page;
+    page.iPageWidth = width;
+    page.iPageHeight = height;
+    for (const QRect& place : places) {
+        PrinterPageImage slot;
+        slot.iX = place.x();
+        slot.iY = place.y();
+        slot.iWidth = place.width();
+        slot.iHeight = place.height();
+        page.oPrinterPageImages.push_back(slot);
+    }
+    return page;
+}
+
+}  // namespace tavrin::test
