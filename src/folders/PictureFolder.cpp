@@ -16,10 +16,12 @@ bool isPhoto(const fs::path& path) {
 
 }  // namespace
 
-void CreateListOfFilesInFolder(SystemInfo& info, const fs::path& folder) {
-    info.myFileNames.clear();
+void CreateListOfFilesInFolder(std::vector<std::string>& myFileNames, const fs::path& folder,
+                               const std::atomic<bool>* stop) {
+    myFileNames.clear();
     std::error_code failed;
-    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
+    const auto goesOn = [&] { return !failed && !(stop && *stop); };
+    for (fs::directory_iterator entry(folder, failed), end; goesOn() && entry != end; entry.increment(failed)) {
         const std::string name = entry->path().filename().string();
         std::error_code ignored;
         if (entry->is_directory(ignored)) {
@@ -29,7 +31,7 @@ void CreateListOfFilesInFolder(SystemInfo& info, const fs::path& folder) {
         if (!isPhoto(entry->path())) continue;
         logTrace("***** File Name: " + name);
         logTrace("Adding Name " + entry->path().string() + ".");
-        info.myFileNames.push_back(entry->path().string());
+        myFileNames.push_back(entry->path().string());
     }
 }
 

@@ -1,11 +1,11 @@
 // Pages of results and of portraits: what stands in them, and that no file name can do anything there.
+#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 
 #include "core/files/Places.h"
-#include "core/state/SystemInfo.h"
 #include "delivery/pages/ComparePage.h"
 #include "delivery/pages/HtmlText.h"
 #include "support/TestData.h"
@@ -43,12 +43,11 @@ class PagesTest : public testing::Test {
     test::TempFolder folder_;
     const std::string shared_ = Places::current().sharedFolder();
     const std::string out_ = folder_.file("out");
-    SystemInfo info_;
 };
 
 TEST_F(PagesTest, OneResultMakesThePageToTheLetter) {
     add("a.jpg");
-    const WrittenPages written = setupReviewBatchOutput(info_, out_, 1919);
+    const WrittenPages written = setupReviewBatchOutput({out_, 1919});
     EXPECT_EQ(written.problem, "");
     EXPECT_EQ(written.count, 1);
     const std::string cell = "\"/><br/><a href=\"0\"><input type=\"button\" value=\"Select\" /></a></td>";
@@ -67,7 +66,7 @@ TEST_F(PagesTest, OneResultMakesThePageToTheLetter) {
 
 TEST_F(PagesTest, ThirtyOneResultsMakeTwoPagesAndThirtyOneWithALinkTooMany) {
     add(31);
-    EXPECT_EQ(setupReviewBatchOutput(info_, out_, 1000).count, 2);
+    EXPECT_EQ(setupReviewBatchOutput({out_, 1000}).count, 2);
     EXPECT_EQ(count(page(1), "<img "), 60);
     EXPECT_EQ(count(page(1), "<tr><td><img "), 15) << "two results in a row";
     EXPECT_EQ(count(page(2), "<img "), 2);
@@ -76,27 +75,46 @@ TEST_F(PagesTest, ThirtyOneResultsMakeTwoPagesAndThirtyOneWithALinkTooMany) {
     EXPECT_EQ(count(page(1), "<a href='FilesInFolder1.htm'>[1]</a>"), 2) << "above and below";
     EXPECT_EQ(count(page(1), "<a href='FilesInFolder2.htm'>2</a>"), 2);
     EXPECT_EQ(count(page(2), "rowlast\">"), 0);
-    info_.iLastReviewPage = 2;
     fs::remove(fs::path(out_) / "p7.jpg");
-    EXPECT_EQ(setupReviewBatchOutput(info_, out_, 1000).count, 1);
+    EXPECT_EQ(setupReviewBatchOutput({out_, 1000, 2}).count, 1);
     EXPECT_EQ(count(page(1), "<a href='FilesInFolder2.htm'>2</a>"), 2) << "a multiple of thirty";
     EXPECT_EQ(page(2), "") << "and no page of earlier behind it";
-    info_.iLastReviewPage = 1;
-    setupReviewBatchOutput(info_, out_, 1000);
+    setupReviewBatchOutput({out_, 1000, 1});
     EXPECT_EQ(count(page(1), "<tr><td id=\"rowlast\"><img "), 1);
+}
+
+TEST_F(PagesTest, ThePageThatIsWantedFirstStandsBeforeTheOthersAndWhatIsStoppedEnds) {
+    add(100);
+    std::atomic<bool> stop = false;
+    int told = 0;
+    const auto lookAndStop = [&](int first, const std::vector<std::string>& pictures) {
+        ++told;
+        EXPECT_EQ(first, 3);
+        EXPECT_EQ(pictures.size(), 100u);
+        EXPECT_EQ(count(page(3), "<a href=\"60\">"), 2);
+        EXPECT_EQ(page(1) + page(2) + page(4), "");
+        stop = true;
+    };
+    setupReviewBatchOutput({out_, 1000, 0, 3}, lookAndStop, &stop);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(page(1) + page(2) + page(4), "");
+    EXPECT_EQ(setupReviewBatchOutput({out_, 1000, 0, 3}).count, 4);
+    for (int number = 1; number <= 4; ++number)
+        EXPECT_EQ(count(page(number), "<img "), number < 4 ? 60 : 20) << number;
+    setupReviewBatchOutput({out_, 1000, 0, 99}, [](int first, const auto&) { EXPECT_EQ(first, 1); });
 }
 
 TEST_F(PagesTest, NamesOfFilesShowAndDoNothing) {
     const std::string evil = "\"><script>alert(1)<!-- '#?&\xc3\xbc\xf0\x9f\x98\x80.jpg";
     add(evil);
     add("\xff\xfe.png");
-    setupReviewBatchOutput(info_, out_, 1000);
+    setupReviewBatchOutput({out_, 1000});
     EXPECT_EQ(count(page(1), "<script"), 1) << "its own";
     EXPECT_EQ(count(page(1), "/%22%3E%3Cscript%3Ealert%281%29%3C%21--%20%27%23%3F%26%C3%BC%F0%9F%98%80.jpg\""), 1);
     EXPECT_EQ(count(page(1), "TQTQ%22%3E%3Cscript"), 1);
     EXPECT_EQ(count(page(1), "/%FF%FE.png\""), 1) << "the very bytes of the name";
 
-    EXPECT_EQ(setupCompareFiles(info_, out_, 1000).problem, "");
+    EXPECT_EQ(setupCompareFiles({out_, 1000}).problem, "");
     const std::string html = read(comparePagePath());
     EXPECT_EQ(count(html, "<script"), 1);
     EXPECT_EQ(count(html, "&#34;&#62;&#60;script&#62;alert(1)&#60;!-- &#39;#?&#38;&#252;&#128512;.jpg"), 1);
@@ -107,11 +125,11 @@ TEST_F(PagesTest, NamesOfFilesShowAndDoNothing) {
 TEST_F(PagesTest, TheStripHasAThousandPicturesAndLeavesOutThoseWithPercent) {
     add(1003);
     add("100%.jpg");
-    info_.iLastScrollHtmlFileChooser = 321;
-    EXPECT_EQ(setupCompareFiles(info_, out_, 1001).count, 1);
+    const WrittenPages written = setupCompareFiles({out_, 1001, 321});
+    EXPECT_EQ(written.count, 1);
     const std::string html = read(comparePagePath());
     std::size_t index = 0;
-    while (info_.myFileNames[index].find('%') == std::string::npos)
+    while (written.pictures[index].find('%') == std::string::npos)
         ++index;
     const int shown = index < 1000 ? 999 : 1000;
     EXPECT_EQ(count(html, "<img id='drag"), shown);
@@ -122,13 +140,13 @@ TEST_F(PagesTest, TheStripHasAThousandPicturesAndLeavesOutThoseWithPercent) {
 }
 
 TEST_F(PagesTest, AFolderWithoutPicturesWritesNothingAndOneThatCannotBeWrittenIsTold) {
-    EXPECT_EQ(setupReviewBatchOutput(info_, out_, 1000).count, 0);
+    EXPECT_EQ(setupReviewBatchOutput({out_, 1000}).count, 0);
     EXPECT_TRUE(fs::is_empty(out_));
-    EXPECT_EQ(setupCompareFiles(info_, folder_.file("gone"), 1000).count, 0);
+    EXPECT_EQ(setupCompareFiles({folder_.file("gone"), 1000}).count, 0);
     EXPECT_EQ(read(comparePagePath()), "");
     add("a.jpg");
     fs::create_directories(fs::path(out_) / reviewPageName(1) / "in the way");
-    EXPECT_NE(setupReviewBatchOutput(info_, out_, 1000).problem.find(reviewPageName(1)), std::string::npos);
+    EXPECT_NE(setupReviewBatchOutput({out_, 1000}).problem.find(reviewPageName(1)), std::string::npos);
 }
 
 }  // namespace

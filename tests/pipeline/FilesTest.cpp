@@ -29,13 +29,13 @@ TEST(Files, ListsPicturesOfAFolderOnlyAndByExtension) {
     touch(folder.path() / "sub.jpg" / "inner.jpg");
     SystemInfo info;
     info.myFileNames = {"old"};
-    CreateListOfFilesInFolder(info, folder.path());
+    CreateListOfFilesInFolder(info.myFileNames, folder.path());
     std::vector<std::string> names;
     for (const std::string& path : info.myFileNames)
         names.push_back(fs::path(path).filename().string());
     std::sort(names.begin(), names.end());
     EXPECT_EQ(names, (std::vector<std::string>{"a.jpg", "b.JPEG", "c.Png", "d.tif", "e.TIFF"}));
-    CreateListOfFilesInFolder(info, folder.path() / "missing");
+    CreateListOfFilesInFolder(info.myFileNames, folder.path() / "missing");
     EXPECT_TRUE(info.myFileNames.empty());
 }
 

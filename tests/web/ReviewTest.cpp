@@ -74,7 +74,7 @@ TEST_F(ReviewTest, WithoutResultsTheWindowSaysSo) {
     EXPECT_EQ(window_->messages()->message(), "No batch has been run yet.");
     info_->oQLXInfo->sLastBatchOutput = folder_.file("gone");
     action("showReviewBatchOutput")->trigger();
-    EXPECT_TRUE(window_->messages()->message().endsWith("gone holds no pictures."));
+    EXPECT_TRUE(test::eventually([&] { return window_->messages()->message().endsWith("gone holds no pictures."); }));
 }
 
 TEST_F(ReviewTest, AClickOnAResultOpensItToBeMendedAndSavingBringsThePagesBack) {

@@ -221,6 +221,11 @@ long long AtomicFile::size() {
 bool AtomicFile::commit() {
     if (isStopped()) return false;
     if (::fsync(file_) != 0) return fail(errno);
+    return commitUnflushed();
+}
+
+bool AtomicFile::commitUnflushed() {
+    if (isStopped()) return false;
     const Interruption::Hold hold;
     if (::rename(hidden_.c_str(), target_.c_str()) != 0) return fail(errno);
     leftover_.reset();

@@ -47,6 +47,8 @@ class AtomicFile {
 
     /// Flushes to the disk and moves the file over the target.
     bool commit();
+    /// As `commit` without the flush, for what is made anew anyway: a power cut may leave an empty file.
+    bool commitUnflushed();
 
     /// What went wrong first, as one plain line; empty while all is well.
     const std::string& error() const { return error_; }

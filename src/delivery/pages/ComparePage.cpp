@@ -4,7 +4,6 @@
 #include <filesystem>
 
 #include "core/files/Places.h"
-#include "core/state/SystemInfo.h"
 #include "delivery/pages/HtmlText.h"
 #include "folders/NextFileInFolder.h"
 #include "folders/PictureFolder.h"
@@ -107,20 +106,23 @@ std::string comparePagePath() {
     return Places::current().tempFilesFolder() + "CompareFiles.htm";
 }
 
-WrittenPages setupCompareFiles(SystemInfo& info, const std::string& folder, int screenWidth) {
-    CreateListOfFilesInFolder(info, folder);
-    sortAsPeopleDo(info.myFileNames);  // most systems list a folder in no order that people see
-    if (info.myFileNames.empty()) return {};
+WrittenPages setupCompareFiles(const CompareWish& wish, const std::atomic<bool>* stop) {
+    WrittenPages written;
+    CreateListOfFilesInFolder(written.pictures, wish.folder, stop);
+    if (written.pictures.empty() || (stop && *stop)) return {};
+    sortAsPeopleDo(written.pictures);  // most systems list a folder in no order that people see
     const std::string html =
         "<!DOCTYPE HTML>\n<html><head><meta http-equiv='X-UA-Compatible' content='IE=Edge'> \n" + styles() +
-        script(static_cast<int>(info.myFileNames.size()), info.iLastScrollHtmlFileChooser) +
+        script(static_cast<int>(written.pictures.size()), wish.scrolled) +
         "</head><body onLoad='RefreshImages();'><table width='100%'><tr><td bgcolor=\"#009900\">"
         "<font color='white' size='5'><b>Foreground File Pick and Compare</b></font> "
         "<input type='button' value='Change Image Folder' onclick='newFolder()'/></td></tr></table>" +
-        strip(info.myFileNames, static_cast<int>(0.9 * screenWidth)) + boxes() + "</body></html>";
+        strip(written.pictures, static_cast<int>(0.9 * wish.screenWidth)) + boxes() + "</body></html>";
     std::error_code ignored;  // what is wrong with the folder is told with the file
     std::filesystem::create_directories(Places::current().tempFilesFolder(), ignored);
-    return {1, writeHtml(comparePagePath(), html)};
+    written.count = 1;
+    written.problem = writeHtml(comparePagePath(), html);
+    return written;
 }
 
 }  // namespace tavrin

@@ -31,7 +31,7 @@ std::string linkPath(std::string_view path) {
 std::string writeHtml(const std::string& path, const std::string& html) {
     AtomicFile file(path);
     file.write(html.data(), html.size());
-    if (file.commit()) return {};
+    if (file.commitUnflushed()) return {};
     logError("Open of testout for writing failed");
     return path + ": " + file.error() + '.';
 }

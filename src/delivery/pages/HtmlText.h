@@ -13,7 +13,7 @@ std::string htmlText(std::string_view utf8);
 /// A path's bytes for a link of a page: all but letters, digits and "-._~/" as percent and two digits.
 std::string linkPath(std::string_view path);
 
-/// Writes a page, whole or not at all.
+/// Writes a page, whole or not at all. It is made anew whenever it is wanted, so nobody waits for the disk.
 /// @return "" or one plain line
 std::string writeHtml(const std::string& path, const std::string& html);
 

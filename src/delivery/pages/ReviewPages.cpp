@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "core/state/SystemInfo.h"
 #include "delivery/pages/HtmlText.h"
 #include "folders/NextFileInFolder.h"
 #include "folders/PictureFolder.h"
@@ -73,6 +72,18 @@ std::string thumbnailOf(const std::string& picture) {
     return (path.parent_path() / "Thumbs" / ("TQTQ" + path.filename().string())).string();
 }
 
+std::string pageHtml(const Review& review, const std::vector<std::string>& pictures, int page) {
+    const int begin = (page - 1) * kPicturesOnAPage;
+    const int end = std::min(begin + kPicturesOnAPage, static_cast<int>(pictures.size()));
+    std::string html = pageBegin(review, page);
+    for (int i = begin; i < end; ++i) {
+        const std::string& path = pictures[static_cast<std::size_t>(i)];
+        html += pictureCell(review, page, 2 * (i - begin), path, i);
+        html += pictureCell(review, page, 2 * (i - begin) + 1, thumbnailOf(path), i);
+    }
+    return html + pageEnd(review, page);
+}
+
 /// Pages of a time when the folder held more, which the last link could lead to.
 void removePagesFrom(const std::string& folder, int page) {
     std::error_code failed;
@@ -86,25 +97,28 @@ std::string reviewPageName(int page) {
     return "FilesInFolder" + std::to_string(page) + ".htm";
 }
 
-WrittenPages setupReviewBatchOutput(SystemInfo& info, const std::string& folder, int screenWidth) {
-    CreateListOfFilesInFolder(info, folder);
-    sortAsPeopleDo(info.myFileNames);  // most systems list a folder in no order that people see
-    const int count = static_cast<int>(info.myFileNames.size());
-    if (count == 0) return {};
-    const Review review{count / kPicturesOnAPage + 1, info.iLastReviewPage, static_cast<int>(0.2 * screenWidth)};
+WrittenPages setupReviewBatchOutput(const ReviewWish& wish, const FirstPageThere& firstThere,
+                                    const std::atomic<bool>* stop) {
     WrittenPages written;
-    for (int begin = 0; begin < count && written.problem.empty(); begin += kPicturesOnAPage) {
-        const int page = written.count + 1;
-        std::string html = pageBegin(review, page);
-        for (int i = begin; i < std::min(begin + kPicturesOnAPage, count); ++i) {
-            const std::string& path = info.myFileNames[static_cast<std::size_t>(i)];
-            html += pictureCell(review, page, 2 * (i - begin), path, i);
-            html += pictureCell(review, page, 2 * (i - begin) + 1, thumbnailOf(path), i);
-        }
-        written.problem = writeHtml((fs::path(folder) / reviewPageName(page)).string(), html + pageEnd(review, page));
-        written.count = page;
-    }
-    if (written.problem.empty()) removePagesFrom(folder, written.count + 1);
+    std::vector<std::string>& pictures = written.pictures;
+    CreateListOfFilesInFolder(pictures, wish.folder, stop);
+    sortAsPeopleDo(pictures);  // most systems list a folder in no order that people see
+    const int count = static_cast<int>(pictures.size());
+    if (count == 0) return {};
+    const Review review{count / kPicturesOnAPage + 1, wish.lastReviewPage, static_cast<int>(0.2 * wish.screenWidth)};
+    const int pages = (count + kPicturesOnAPage - 1) / kPicturesOnAPage;
+    const int first = wish.firstWanted >= 1 && wish.firstWanted <= pages ? wish.firstWanted : 1;
+    const auto write = [&](int page) {
+        const std::string path = (fs::path(wish.folder) / reviewPageName(page)).string();
+        written.problem = writeHtml(path, pageHtml(review, pictures, page));
+        return written.problem.empty();
+    };
+    written.count = pages;
+    if (!write(first)) return written;
+    if (firstThere) firstThere(first, pictures);
+    for (int page = 1; page <= pages; ++page)
+        if ((stop && *stop) || (page != first && !write(page))) return written;
+    removePagesFrom(wish.folder, pages + 1);
     return written;
 }
 

@@ -9,11 +9,17 @@
 #include "core/files/NameText.h"
 #include "core/files/StandardPath.h"
 #include "delivery/pages/ComparePage.h"
-#include "delivery/pages/ReviewPages.h"
 
 namespace tavrin {
 
 namespace {
+
+constexpr int kSlowMs = 300;  // what is there sooner needs no message
+
+/// The number of a page by its file name, or 0.
+int numberOf(QString page) {
+    return page.remove("FilesInFolder").remove(".htm").toInt();
+}
 
 /// The picture of a link that is its index in the list of a page, or "".
 QString pictureOf(const QString& link, const std::vector<std::string>& pictures) {
@@ -33,28 +39,62 @@ ReviewDesk::ReviewDesk(SystemInfo& info, QWidget* window)
       compare_(new PageWindow("MyCompareFilesPanel", tr("Compare Portraits"),
                               {[this](const QString& name) { return mayGoFromCompare(name); },
                                [this](double left) { info_.iLastScrollHtmlFileChooser = static_cast<int>(left); }},
-                              window)) {
+                              window)),
+      reviewMaker_(new PageMaker(this)),
+      compareMaker_(new PageMaker(this)) {
+    slow_.setSingleShot(true);
+    slow_.setInterval(kSlowMs);
+    connect(&slow_, &QTimer::timeout, this, [this] { emit told(tr("The pages are being made.")); });
     connect(review_, &PageWindow::told, this, &ReviewDesk::told);
     connect(compare_, &PageWindow::told, this, &ReviewDesk::told);
 }
 
 void ReviewDesk::showReviewBatchOutput() {
-    page_ = QString::fromStdString(reviewPageName(1));
+    page_ = 1;
     showReviewPage();
 }
 
-/// Writes the pages anew and shows the one that was seen last.
+QString ReviewDesk::pageOf(int number) const {
+    const QString folder = textOfName(standardizePath(info_.oQLXInfo->sLastBatchOutput));
+    return folder + '/' + QString::fromStdString(reviewPageName(number));
+}
+
+/// Makes the pages anew, that which was seen last before the others, and shows it.
 void ReviewDesk::showReviewPage() {
     const std::string folder = standardizePath(info_.oQLXInfo->sLastBatchOutput);
     if (folder.empty()) return emit told(tr("No batch has been run yet."));
-    const WrittenPages written = setupReviewBatchOutput(info_, folder, window_->screen()->geometry().width());
-    results_ = info_.myFileNames;
+    const ReviewWish wish{folder, window_->screen()->geometry().width(), info_.iLastReviewPage, page_};
+    isMaking_ = true;
+    slow_.start();
+    reviewMaker_->make([this, wish](const std::atomic<bool>& stop, const PageMaker::Tell& tell) {
+        const auto firstThere = [this, &tell](int page, const std::vector<std::string>& pictures) {
+            tell([this, page, pictures] { showFirstPage(page, pictures); });
+        };
+        const WrittenPages written = setupReviewBatchOutput(wish, firstThere, &stop);
+        tell([this, written] { endReview(written); });
+    });
+}
+
+void ReviewDesk::showFirstPage(int page, const std::vector<std::string>& pictures) {
+    slow_.stop();
+    results_ = info_.myFileNames = pictures;
+    shown_ = page_ = page;
+    review_->showPage(pageOf(page));
+}
+
+void ReviewDesk::endReview(const WrittenPages& written) {
+    slow_.stop();
+    isMaking_ = false;
     if (!written.problem.empty())
         emit failed(tr("The pages cannot be written."), QString::fromStdString(written.problem));
-    if (written.count == 0) return emit told(tr("%1 holds no pictures.").arg(textOfName(folder)));
-    const QString page = textOfName(folder) + '/' + page_;
-    review_->showPage(QFileInfo::exists(page) ? page
-                                              : textOfName(folder) + '/' + QString::fromStdString(reviewPageName(1)));
+    if (written.count == 0) {
+        const QString folder = textOfName(standardizePath(info_.oQLXInfo->sLastBatchOutput));
+        return emit told(tr("%1 holds no pictures.").arg(folder));
+    }
+    results_ = info_.myFileNames = written.pictures;
+    // What the folder held before is better than nothing; and a page may have been wished before it stood.
+    const bool isAnother = page_ != shown_ || !written.problem.empty();
+    if (isAnother && QFileInfo::exists(pageOf(page_))) review_->showPage(pageOf(shown_ = page_));
 }
 
 void ReviewDesk::noteSaved(const QString& path, bool done) {
@@ -71,12 +111,22 @@ void ReviewDesk::showCompareFiles() {
 
 void ReviewDesk::compare(const QString& folder) {
     if (folder != compared_) info_.iLastScrollHtmlFileChooser = 0;
-    const WrittenPages written = setupCompareFiles(info_, nameOfText(folder), window_->screen()->geometry().width());
+    const CompareWish wish{nameOfText(folder), window_->screen()->geometry().width(),
+                           info_.iLastScrollHtmlFileChooser};
+    slow_.start();
+    compareMaker_->make([this, wish, folder](const std::atomic<bool>& stop, const PageMaker::Tell& tell) {
+        const WrittenPages written = setupCompareFiles(wish, &stop);
+        tell([this, folder, written] { endCompare(folder, written); });
+    });
+}
+
+void ReviewDesk::endCompare(const QString& folder, const WrittenPages& written) {
+    slow_.stop();
     if (!written.problem.empty())
         return emit failed(tr("The pages cannot be written."), QString::fromStdString(written.problem));
     if (written.count == 0) return emit told(tr("%1 holds no pictures.").arg(folder));
     compared_ = folder;
-    portraits_ = info_.myFileNames;
+    portraits_ = info_.myFileNames = written.pictures;
     compare_->showPage(textOfName(comparePagePath()));
 }
 
@@ -90,10 +140,11 @@ void ReviewDesk::changeFolder() {
 bool ReviewDesk::mayGoFromReview(const QString& name) {
     logTrace("Gallery Link: " + name.toStdString());
     if (name.startsWith("FilesInFolder")) {
-        const QString folder = textOfName(standardizePath(info_.oQLXInfo->sLastBatchOutput));
-        if (!QFileInfo::exists(folder + '/' + name)) return false;  // there may be a link more than pages
-        page_ = name;
-        return true;
+        const int page = numberOf(name);
+        const bool stands = !isMaking_ && QFileInfo::exists(pageOf(page));  // there may be a link more than pages
+        if (stands || isMaking_) page_ = page;
+        if (stands) shown_ = page;
+        return stands;
     }
     const QString path = pictureOf(name, results_);
     if (path.isEmpty()) return false;

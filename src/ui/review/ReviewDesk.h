@@ -4,9 +4,12 @@
 #include <vector>
 
 #include <QObject>
+#include <QTimer>
 
 #include "core/state/SystemInfo.h"
+#include "delivery/pages/ReviewPages.h"
 #include "ui/bind/Command.h"
+#include "ui/review/PageMaker.h"
 #include "ui/review/PageWindow.h"
 
 namespace tavrin {
@@ -36,6 +39,10 @@ class ReviewDesk : public QObject {
 
   private:
     void showReviewPage();
+    QString pageOf(int number) const;
+    void showFirstPage(int page, const std::vector<std::string>& pictures);
+    void endReview(const WrittenPages& written);
+    void endCompare(const QString& folder, const WrittenPages& written);
     bool mayGoFromReview(const QString& name);
     bool mayGoFromCompare(const QString& name);
     void compare(const QString& folder);
@@ -44,8 +51,11 @@ class ReviewDesk : public QObject {
     SystemInfo& info_;
     QWidget* window_;
     PageWindow *review_, *compare_;
+    PageMaker *reviewMaker_, *compareMaker_;
+    QTimer slow_;                                   ///< until it is told that pages are being made
+    bool isMaking_ = false;                         ///< only the first page of results stands
     std::vector<std::string> results_, portraits_;  ///< on the pages: either may be open while the other is written
-    QString page_;                                  ///< the file name of the page of results that was shown last
+    int page_ = 1, shown_ = 0;                      ///< pages of results: the one wished last, the one that is seen
     QString compared_;                              ///< the folder on the page
     QString mended_;                                ///< the result that is being written again
 };
