@@ -192,6 +192,28 @@ TEST_F(OutboxTest, WhatNoServerWouldTakeIsNotKeptAndADamagedMailIsShown) {
     EXPECT_TRUE(fs::is_empty(folder_.file("Outbox")));
 }
 
+TEST_F(OutboxTest, AFullOutboxSaysSoAndAMailGoesAllTheSame) {
+    test::SmtpServer server({Fault::none, "", "451 come back", "", 0});
+    const std::string size = std::to_string(fs::file_size(folder_.file("anna.jpg")));
+    for (const OutboxLimits& limits : {OutboxLimits{2, 1000}, OutboxLimits{1000, 2 * std::stoll(size) + 1}}) {
+        const Outbox small(folder_.file("Outbox/"), limits);
+        for (int i = 0; i < 2; ++i)
+            EXPECT_TRUE(post(mail(), routeTo(server.port()), &small, watch()).inOutbox);
+        const Posted third = post(mail(), routeTo(server.port()), &small, watch());
+        EXPECT_FALSE(third.isSent() || third.inOutbox);
+        EXPECT_NE(third.reason.find("451 come back"), std::string::npos) << third.reason;
+        EXPECT_NE(third.reason.find("The outbox is full"), std::string::npos) << third.reason;
+        EXPECT_EQ(outbox_.entries().size(), 2u);
+        server.setHabits({});
+        EXPECT_TRUE(post(mail(), routeTo(server.port()), &small, watch()).isSent());
+        EXPECT_TRUE(small.discard(outbox_.entries().front().id));
+        server.setHabits({Fault::none, "", "451 come back", "", 0});
+        EXPECT_TRUE(post(mail(), routeTo(server.port()), &small, watch()).inOutbox) << "there is room again";
+        for (const OutboxEntry& entry : outbox_.entries())
+            EXPECT_TRUE(small.discard(entry.id));
+    }
+}
+
 TEST_F(OutboxTest, AMailGoesEvenWhereNothingCanBeKept) {
     test::SmtpServer server;
     test::writeFile(folder_.file("file"), "");

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QProcess>
 #include <QTest>
 
 #include "formats/SettingsFile.h"
@@ -100,8 +101,8 @@ TEST_F(MailTest, WhatDoesNotGoIsAlertedOnceAndGoesFromTheOutbox) {
     ASSERT_TRUE(says("It is kept in the outbox."));
     EXPECT_EQ(takeAlerts(), QStringList("Error|Message Failed to Send"));
     EXPECT_TRUE(window_->messages()->details().contains("451 come back"));
-    ASSERT_TRUE(test::eventually([&] { return outbox()->count() == 1; }));
-    EXPECT_TRUE(outbox()->item(0)->text().contains("451 come back"));
+    EXPECT_TRUE(test::eventually(
+        [&] { return outbox()->count() == 1 && outbox()->item(0)->text().contains("451 come back"); }));
     press("buttonOutboxSend");
     ASSERT_TRUE(test::eventually([&] { return Outbox().entries().at(0).tries == 2; }));
     EXPECT_TRUE(takeAlerts().isEmpty());
@@ -166,6 +167,57 @@ TEST_F(MailTest, ATelephoneNumberAsksForItsCarrierAndOneOfThemSends) {
     answer("textMessageVerizonClicked");
     ASSERT_TRUE(says("The mail to 5551234567@pictures.example.org is sent."));
     EXPECT_EQ(server_.mails().size(), 1u);
+}
+
+constexpr int kQueued = 3;
+constexpr const char *kAccount = "TAVRIN_TEST_ACCOUNT", *kPort = "TAVRIN_TEST_PORT";
+
+/// The other side of the next test: a program that sends until it is killed.
+TEST(MailQueueTest, SendsUntilItIsKilled) {
+    if (!qEnvironmentVariableIsSet(kAccount)) GTEST_SKIP() << "only for the test of kills";
+    const std::string account = qgetenv(kAccount).toStdString();
+    Places::current().setSharedFolder(account + "/Tavrin/");
+    const auto info = std::make_unique<SystemInfo>();
+    info->oQLXInfo->sSMTPHost = "127.0.0.1";
+    info->oQLXInfo->sSMTPort = qgetenv(kPort).toStdString();
+    info->oQLXInfo->sSMTPAccountName = "studio@example.org";
+    MailDesk desk(*info);
+    for (int i = 0; i < kQueued; ++i) {
+        const std::string picture = account + "/" + std::to_string(i) + ".jpg";
+        test::writeFile(picture, "picture " + std::to_string(i));
+        desk.send({"anna@example.org", QString::number(i), "", "", picture});
+    }
+    QTest::qWait(10 * test::kPatienceMs);
+}
+
+TEST_F(MailTest, LettersBehindASlowOneOutliveAKillAndGoOnceEach) {
+    server_.setHabits({Fault::hangAtStart, "", "", "", 0});
+    const std::string account = folder_.file("other");
+    std::filesystem::create_directories(account + "/Tavrin/QLXXML");
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(kAccount, QString::fromStdString(account));
+    environment.insert(kPort, QString::number(server_.port()));
+    program.setProcessEnvironment(environment);
+    program.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=MailQueueTest.*"});
+    const Outbox outbox(account + "/Tavrin/Outbox/");
+    EXPECT_TRUE(test::eventually([&] { return outbox.entries().size() == kQueued; }))
+        << program.readAll().toStdString();
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished(test::kPatienceMs));
+    for (const OutboxEntry& entry : outbox.entries())
+        EXPECT_EQ(entry.state, OutboxEntry::State::waiting);
+    server_.setHabits({});
+    const MailRoute route{{"127.0.0.1", "", "", server_.port()}, "studio@example.org", ""};
+    postDue(outbox, route, {}, [](const OutboxEntry&, const Posted& posted) { EXPECT_TRUE(posted.isSent()); });
+    EXPECT_TRUE(outbox.entries().empty());
+    ASSERT_EQ(server_.mails().size(), static_cast<std::size_t>(kQueued));
+    for (int i = 0; i < kQueued; ++i) {
+        const std::string mail = server_.mails()[static_cast<std::size_t>(i)];
+        EXPECT_NE(mail.find("Subject: " + std::to_string(i) + "\r\n"), std::string::npos);
+        const QByteArray picture = "picture " + QByteArray::number(i);
+        EXPECT_NE(mail.find(picture.toBase64().toStdString()), std::string::npos);
+    }
 }
 
 TEST_F(MailTest, AWindowThatIsClosedWaitsForItsMail) {

@@ -28,7 +28,7 @@ bool sendEventMail(SystemInfo& info, const std::string& attachment, const std::s
     mail.sEmailSubject = info.oQLXInfo->sEventModeEmailTitle;
     mail.sEmailBody = info.oQLXInfo->sEventModeEmailBody;
     mail.sEmailAddress = EmailAddress;
-    mail.outbox = keep;
+    if (keep) mail.outbox = *keep;
     mail.keepLocation = keepLocation;
     const bool sent = mail.SendMailNow();
     if (!sent) alertMailFailed(info);

@@ -122,10 +122,29 @@ void OutboxClaim::settle(const MailResult& result) {
     fs::remove(folder_ + kOutboxHandedOver, none);
 }
 
-Outbox::Outbox(std::string folder) : folder_(std::move(folder)) {}
+Outbox::Outbox(std::string folder, OutboxLimits limits) : folder_(std::move(folder)), limits_(limits) {}
 
 std::string Outbox::usualFolder() {
     return Places::current().sharedFolder() + "Outbox/";
+}
+
+/// @param more bytes that are to be attached. @return "" while there is room
+std::string Outbox::whyFull(long long more) const {
+    int mails = 0;
+    long long bytes = 0;
+    std::error_code failed;
+    for (fs::directory_iterator at(folder_, failed), end; !failed && at != end; at.increment(failed)) {
+        if (at->path().filename().native().starts_with('.')) continue;
+        std::error_code none;
+        const auto size = fs::file_size(at->path().native() + kOutboxAttachment, none);
+        bytes += none ? 0 : static_cast<long long>(size);
+        ++mails;
+    }
+    if (mails < limits_.mails && bytes + more <= limits_.bytes) return "";
+    constexpr long long kMega = 1'000'000;
+    return "The outbox is full: it holds mails: " + std::to_string(mails) + ", MB: " + std::to_string(bytes / kMega) +
+           ". It takes " + std::to_string(limits_.mails) + " mails and " + std::to_string(limits_.bytes / kMega) +
+           " MB. Send or discard some of them.";
 }
 
 std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArray& attachment,
@@ -134,6 +153,7 @@ std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArra
         problem = "The outbox " + folder_ + " cannot be written to: " + why;
         return std::optional<OutboxClaim>();
     };
+    if (problem = whyFull(attachment.size()); !problem.empty()) return {};
     std::error_code failed;
     fs::create_directories(fs::path(folder_).parent_path().parent_path(), failed);
     if (!makePrivateFolder(folder_) && errno != EEXIST) return fail(writeProblem(errno, folder_) + ".");
@@ -159,6 +179,9 @@ std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArra
         return fail(problem);
     }
     bringNamesToDisk(folder_);
+    // As it is read from the disk.
+    if (!mail.attachment.empty()) claim.entry_.mail.attachment = claim.folder_ + kOutboxAttachment;
+    claim.entry_.mail.keepLocation = true;
     return claim;
 }
 

@@ -62,14 +62,20 @@ class OutboxClaim {
     OutboxEntry entry_;
 };
 
+/// How much an outbox takes in.
+struct OutboxLimits {
+    int mails = 1000;
+    long long bytes = 4'000'000'000;  ///< of all that is attached
+};
+
 /// Mails that could not go, or are just going, each in a folder of its own that nobody but its owner can read. A mail
 /// is brought here before it is sent, so a kill at any moment leaves it sent or here, once.
 class Outbox {
   public:
-    explicit Outbox(std::string folder = Outbox::usualFolder());
+    explicit Outbox(std::string folder = Outbox::usualFolder(), OutboxLimits limits = {});
     static std::string usualFolder();
 
-    /// Puts a mail in, ready to be sent by the caller.
+    /// Puts a mail in, ready to be sent by the caller. A full outbox takes none.
     /// @param attachment what the attached file holds
     /// @param problem is set when it cannot be put in
     std::optional<OutboxClaim> add(const OutgoingMail& mail, const QByteArray& attachment,
@@ -88,7 +94,10 @@ class Outbox {
   private:
     std::string pathOf(const std::string& id) const { return folder_ + id; }
 
+    std::string whyFull(long long more) const;
+
     std::string folder_;
+    OutboxLimits limits_;
 };
 
 }  // namespace tavrin

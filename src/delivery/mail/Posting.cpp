@@ -10,11 +10,11 @@ namespace tavrin {
 
 namespace {
 
-Email emailOf(const OutgoingMail& mail, const MailRoute& route) {
+Email emailOf(const OutgoingMail& mail) {
     Email email;
     email.setSubject(mail.subject);
     email.setBody(mail.body);
-    if (const std::string& from = mail.from.empty() ? route.from : mail.from; !from.empty()) email.setFrom(from);
+    if (!mail.from.empty()) email.setFrom(mail.from);
     if (!mail.replyTo.empty()) email.setReplyTo(mail.replyTo);
     email.AddTo("", mail.to);
     if (!mail.attachment.empty()) email.AddFileAttachment(mail.attachment, mail.attachmentName, mail.keepLocation);
@@ -27,12 +27,13 @@ std::string whyNeverGoes(const OutgoingMail& mail, const Email& email) {
     return isAddress(mail.to) ? "" : "\"" + mail.to + "\" is no mail address.";
 }
 
-MailResult send(const OutgoingMail& mail, const Email& email, const MailRoute& route, const MailWatch& watch,
+MailResult send(const OutgoingMail& mail, Email email, const MailRoute& route, const MailWatch& watch,
                 std::function<bool()> beforeEnd) {
     if (!mail.server && !route.problem.empty()) {
         logError(route.problem);
         return {MailEnd::refused, false, route.problem};
     }
+    if (mail.from.empty() && !route.from.empty()) email.setFrom(route.from);
     MailMan manager;
     manager.setServer(mail.server ? *mail.server : route.server);
     manager.setPatience(watch.patience);
@@ -88,35 +89,40 @@ MailRoute routeOf(const QLXInfo& settings, const DeliveryConf& conf) {
     return route;
 }
 
-Posted post(const OutgoingMail& mail, const MailRoute& route, const Outbox* outbox, const MailWatch& watch) {
-    const Email email = emailOf(mail, route);
-    if (const std::string problem = whyNeverGoes(mail, email); !problem.empty()) {
-        logError(problem);
-        return {{MailEnd::refused, false, problem}};
+ReadyMail makeReady(const OutgoingMail& mail, const Outbox* outbox) {
+    ReadyMail ready;
+    ready.email = emailOf(mail);
+    ready.never = whyNeverGoes(mail, ready.email);
+    ready.mail = mail;
+    ready.mail.attachmentName = ready.email.attachmentName();
+    if (!outbox || !ready.never.empty()) return ready;
+    ready.claim = outbox->add(ready.mail, ready.email.attachment(), ready.notKept);
+    if (ready.claim) ready.email = {};  // a hundred of them may wait for a slow server
+    return ready;
+}
+
+Posted postReady(ReadyMail ready, const MailRoute& route, const MailWatch& watch) {
+    if (!ready.never.empty()) {
+        logError(ready.never);
+        return {{MailEnd::refused, false, ready.never}};
     }
-    std::string problem;
-    std::optional<OutboxClaim> claim;
-    if (outbox) {
-        OutgoingMail kept = mail;
-        kept.attachmentName = email.attachmentName();
-        claim = outbox->add(kept, email.attachment(), problem);
-    }
-    if (!claim) {
-        if (!problem.empty()) logError(problem);  // the mail may go all the same
-        return {send(mail, email, route, watch, {})};
-    }
-    Posted posted{send(mail, email, route, watch, [&claim] { return claim->noteHandedOver(); })};
-    claim->settle(posted);
-    posted.inOutbox = !posted.isSent();
+    if (ready.claim) return postAgain(std::move(*ready.claim), route, watch);
+    if (!ready.notKept.empty()) logError(ready.notKept);  // the mail may go all the same
+    Posted posted{send(ready.mail, std::move(ready.email), route, watch, {})};
+    if (!posted.isSent() && !ready.notKept.empty()) posted.reason += ' ' + ready.notKept;
     return posted;
+}
+
+Posted post(const OutgoingMail& mail, const MailRoute& route, const Outbox* outbox, const MailWatch& watch) {
+    return postReady(makeReady(mail, outbox), route, watch);
 }
 
 Posted postAgain(OutboxClaim claim, const MailRoute& route, const MailWatch& watch) {
     const OutgoingMail mail = claim.entry().mail;
-    const Email email = emailOf(mail, route);
+    Email email = emailOf(mail);
     Posted posted{{MailEnd::refused, false, whyNeverGoes(mail, email)}};
     if (posted.reason.empty())
-        posted = {send(mail, email, route, watch, [&claim] { return claim.noteHandedOver(); })};
+        posted = {send(mail, std::move(email), route, watch, [&claim] { return claim.noteHandedOver(); })};
     claim.settle(posted);
     posted.inOutbox = !posted.isSent();
     return posted;

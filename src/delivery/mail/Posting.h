@@ -39,8 +39,22 @@ struct Posted : MailResult {
     bool isSent() const { return end == MailEnd::sent; }
 };
 
-/// Sends a mail, and blocks until that has come to an end. With an outbox the mail lies there meanwhile, and stays
-/// when it does not go. A mail that no server would take, such as one without an address, does not get there.
+/// A mail before it is sent: in the outbox, or in memory where it is not kept.
+struct ReadyMail {
+    std::optional<OutboxClaim> claim;
+    OutgoingMail mail;    ///< without a claim
+    Email email;          ///< without a claim
+    std::string never;    ///< why no server would take it; "" for nothing
+    std::string notKept;  ///< why it is not in the outbox that was to keep it; "" for nothing
+};
+
+/// Takes in what a mail is made of, and puts it into the outbox. From then on a kill leaves it there.
+ReadyMail makeReady(const OutgoingMail& mail, const Outbox* outbox);
+/// Sends such a mail, and blocks until that has come to an end.
+Posted postReady(ReadyMail ready, const MailRoute& route, const MailWatch& watch = {});
+
+/// Both: sends a mail, and blocks until that has come to an end. With an outbox the mail lies there meanwhile, and
+/// stays when it does not go. A mail that no server would take, such as one without an address, does not get there.
 /// @param route for a mail that names no server
 Posted post(const OutgoingMail& mail, const MailRoute& route, const Outbox* outbox, const MailWatch& watch = {});
 

@@ -1,17 +1,12 @@
 #include "delivery/mail/SendSomeMail.h"
 
+#include <utility>
+
 #include "delivery/mail/MailText.h"
 
 namespace tavrin {
 
-bool SendSomeMail::SendMailNow() {
-    const MailRoute route = routeOf(*pMySystemInfo->oQLXInfo, readDeliveryConf());
-    sSmtpServer = route.server.host;
-    sSmtpUserName = route.server.account;
-    sSmtpPassword = route.server.password;
-    sSmtpSSL = route.server.ssl ? "1" : "0";
-    sSmtpTLS = route.server.startTls ? "1" : "0";
-    sSmtpPort = std::to_string(route.server.port);
+void SendSomeMail::makeReady() {
     OutgoingMail mail;
     mail.to = sEmailAddress;
     mail.subject = sEmailSubject;
@@ -19,7 +14,19 @@ bool SendSomeMail::SendMailNow() {
     if (isAddress(sEmailFromAddress)) mail.replyTo = sEmailFromAddress;
     mail.attachment = sEmailAttachment;
     mail.keepLocation = keepLocation;
-    posted_ = post(mail, route, outbox, watch);
+    ready_ = tavrin::makeReady(mail, outbox ? &*outbox : nullptr);
+}
+
+bool SendSomeMail::SendMailNow() {
+    if (!ready_) makeReady();
+    const MailRoute route = routeOf(*pMySystemInfo->oQLXInfo, readDeliveryConf());
+    sSmtpServer = route.server.host;
+    sSmtpUserName = route.server.account;
+    sSmtpPassword = route.server.password;
+    sSmtpSSL = route.server.ssl ? "1" : "0";
+    sSmtpTLS = route.server.startTls ? "1" : "0";
+    sSmtpPort = std::to_string(route.server.port);
+    posted_ = postReady(*std::exchange(ready_, {}), route, watch);
     return posted_.isSent() && posted_.closedCleanly;
 }
 

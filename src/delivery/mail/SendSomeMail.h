@@ -20,16 +20,20 @@ class SendSomeMail {
     std::string sSmtpServer, sSmtpUserName, sSmtpPassword, sSmtpSSL, sSmtpTLS, sSmtpPort;
     SystemInfo* pMySystemInfo;
 
-    const Outbox* outbox = nullptr;  ///< where a mail that does not go is kept; null for nowhere
-    bool keepLocation = false;       ///< as `OutgoingMail::keepLocation`
+    std::optional<Outbox> outbox = {};  ///< where a mail that does not go is kept; none for nowhere
+    bool keepLocation = false;          ///< as `OutgoingMail::keepLocation`
     MailWatch watch;
 
+    /// Takes in the fields and the attached file, and brings the mail into the outbox, so that it may wait there for
+    /// `SendMailNow`, which else does so first.
+    void makeReady();
     /// Sends the mail and blocks until then.
     /// @return whether it went and the connection was closed cleanly. `posted` has the rest
     bool SendMailNow();
     const Posted& posted() const { return posted_; }
 
   private:
+    std::optional<ReadyMail> ready_;
     Posted posted_;
 };
 

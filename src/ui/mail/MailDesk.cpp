@@ -1,6 +1,7 @@
 #include "ui/mail/MailDesk.h"
 
 #include <filesystem>
+#include <memory>
 
 #include "ui/WindowSettings.h"
 
@@ -15,6 +16,7 @@ constexpr int kLookEvery = 15000;  // milliseconds
 
 MailDesk::MailDesk(SystemInfo& info, QObject* parent) : QObject(parent), info_(info) {
     worker_.setMaxThreadCount(1);
+    filer_.setMaxThreadCount(1);
     timer_.setInterval(kLookEvery);
     connect(&timer_, &QTimer::timeout, this, &MailDesk::look);
     timer_.start();
@@ -23,6 +25,7 @@ MailDesk::MailDesk(SystemInfo& info, QObject* parent) : QObject(parent), info_(i
 MailDesk::~MailDesk() {
     leaving_ = true;  // first, so that no job that begins now takes the stop back
     stop_ = true;
+    filer_.waitForDone();  // what a person sent is kept
     worker_.clear();
     worker_.waitForDone();
 }
@@ -57,27 +60,31 @@ MailRoute MailDesk::route() const {
     return routeOf(*info_.oQLXInfo, readDeliveryConf());
 }
 
+/// The letter is on the disk before it waits for those that were written before it.
 void MailDesk::send(const Letter& letter) {
     ++letters_;
     emit began(letter.to);
     const bool keeps = keepsMails(), location = keepsLocation();
-    work([this, letter, keeps, location] {
-        const Outbox outbox;
-        SendSomeMail mail(info_);
-        mail.sEmailAttachment = letter.picture;
-        mail.sEmailSubject = letter.title.toStdString();
-        mail.sEmailBody = letter.text.toStdString();
-        mail.sEmailAddress = letter.to.trimmed().toStdString();
-        mail.sEmailFromAddress = letter.from.trimmed().toStdString();
-        mail.outbox = keeps ? &outbox : nullptr;
-        mail.keepLocation = location;
-        mail.watch = watch();
-        const bool wentWell = mail.SendMailNow();
+    filer_.start([this, letter, keeps, location] {
+        const auto mail = std::make_shared<SendSomeMail>(info_);
+        mail->sEmailAttachment = letter.picture;
+        mail->sEmailSubject = letter.title.toStdString();
+        mail->sEmailBody = letter.text.toStdString();
+        mail->sEmailAddress = letter.to.trimmed().toStdString();
+        mail->sEmailFromAddress = letter.from.trimmed().toStdString();
+        if (keeps) mail->outbox.emplace();
+        mail->keepLocation = location;
+        mail->watch = watch();
+        mail->makeReady();
         std::error_code none;
         std::filesystem::remove(letter.picture, none);
-        tell([this, wentWell, posted = mail.posted(), to = letter.to] {
-            --letters_;
-            emit ended(wentWell, posted, to);
+        readOutbox();
+        work([this, mail, to = letter.to] {
+            const bool wentWell = mail->SendMailNow();
+            tell([this, wentWell, posted = mail->posted(), to] {
+                --letters_;
+                emit ended(wentWell, posted, to);
+            });
         });
     });
 }

@@ -17,7 +17,8 @@ struct Letter {
     std::string picture;  ///< a file; it is removed when it has been taken
 };
 
-/// Sends mails beside the main thread, one after another, and those of the outbox whose time has come.
+/// Sends mails beside the main thread, one after another, and those of the outbox whose time has come. Each is
+/// brought into the outbox at once, however many wait before it.
 class MailDesk : public QObject {
     Q_OBJECT
 
@@ -62,7 +63,7 @@ class MailDesk : public QObject {
     MailRoute route() const;
 
     SystemInfo& info_;
-    QThreadPool worker_;
+    QThreadPool filer_, worker_;
     QTimer timer_;
     std::atomic<bool> stop_ = false, leaving_ = false;
     std::atomic<int> percent_ = -1;
