@@ -72,6 +72,27 @@ TEST_F(PrintSheetTest, ASlotIsFilledFromTheLowerLeftAndTheRestIsGrey) {
         EXPECT_EQ(sheet.pixelColor(outside), kGrey);
 }
 
+TEST_F(PrintSheetTest, WhatIsTransparentShowsTheGroundHoweverThePictureHoldsIt) {
+    QImage straight(40, 60, QImage::Format_RGBA8888);
+    straight.fill(QColor(250, 240, 10, 0));
+    for (int x = 20; x < 40; ++x)
+        for (int y = 0; y < 60; ++y)
+            straight.setPixelColor(x, y, QColor(100, 200, 50, 128));
+    const QImage premultiplied = straight.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    for (const SlotFit fit : {SlotFit::stretch, SlotFit::fill, SlotFit::whole}) {
+        for (const QImage& picture : {straight, premultiplied}) {
+            SheetLook look;
+            look.fit = fit;
+            const QImage sheet = draw(test::pageOf(60, 100, {QRect(10, 20, 20, 30)}), picture, look);
+            EXPECT_EQ(sheet.pixelColor(90, 400), kGrey);
+            const QColor half = sheet.pixelColor(150, 400);
+            EXPECT_NEAR(half.red(), (100 + 179) / 2, 2);
+            EXPECT_NEAR(half.green(), (200 + 179) / 2, 2);
+            EXPECT_NEAR(half.blue(), (50 + 179) / 2, 2);
+        }
+    }
+}
+
 TEST_F(PrintSheetTest, ATurnedPictureLiesClockwise) {
     const QImage sheet = draw(test::pageOf(30, 20, {QRect(0, 0, 30, 20)}), quarters(40, 60));
     EXPECT_EQ(sheet.pixelColor(2, 2), kBlue);

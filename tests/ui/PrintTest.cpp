@@ -125,6 +125,26 @@ TEST_F(PrintTest, TheSheetIsShownAsItWillBePrinted) {
     EXPECT_EQ(printed(), 0u);
 }
 
+TEST_F(PrintTest, ATransparentPictureShowsThePaperAndKeepsItsColours) {
+    window_->binder().run("", [](SettingEditor& editor) { editor.set("bOutputTransparency", "1"); });
+    ASSERT_TRUE(waitForPicture());
+    ASSERT_EQ(qAlpha(window_->view()->fullPicture().pixel(2, 2)), 0);
+    ASSERT_TRUE(openDialog());
+    auto* view = part<TemplateView>("imageViewPrinterTemplate");
+    ASSERT_TRUE(test::eventually([&] { return !view->sheet().isNull(); }));
+    const QImage sheet = view->sheet();
+    EXPECT_EQ(sheet.pixelColor(3, 3), QColor(179, 179, 179)) << "the ground, and nothing of the screen";
+    const QColor middle = window_->view()->fullPicture().pixelColor(120, 150);
+    const QColor shown = sheet.pixelColor(sheet.rect().center());
+    EXPECT_NEAR(shown.red(), middle.red(), 3);
+    EXPECT_NEAR(shown.green(), middle.green(), 3);
+    for (int x = 0; x < sheet.width(); ++x) {
+        // At a soft edge, too, nothing is brighter than what lies there.
+        const QColor seen = sheet.pixelColor(x, sheet.height() / 2);
+        EXPECT_LE(seen.green(), std::max(179, middle.green()) + 3) << x;
+    }
+}
+
 TEST_F(PrintTest, WhatCannotBePrintedIsToldAndStaysToBeSentAgain) {
     set([&] { room_.trouble = "The printer \"studio\" is stopped."; });
     ASSERT_TRUE(openDialog());

@@ -85,7 +85,10 @@ void nameProgram() {
 /// As if they were dropped on the window: a state file by its name, the first picture as the portrait, the next as
 /// the background. A host application's first file is its portrait, whatever it is, and the others are not taken.
 void openFiles(tavrin::MainWindow& window, const QStringList& files, bool forHost) {
-    if (forHost && !files.isEmpty()) return window.openForHost(files.front());
+    if (forHost && !files.isEmpty()) {
+        tavrin::logTrace("Files dragged on: " + files.join(", ").toStdString());
+        return window.openForHost(files.front());
+    }
     int pictures = 0;
     for (const QString& path : files) {
         if (path.endsWith(".qlx", Qt::CaseInsensitive)) {
