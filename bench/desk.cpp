@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include "core/BackgroundThread.h"
 #include "core/files/Places.h"
 #include "core/raster/PixelMemory.h"
 #include "desk/Scribble.h"
@@ -158,6 +159,7 @@ int main(int argc, char** argv) {
     Places::current().setSharedFolder(account.filePath("shared").toStdString() + "/");
     Places::current().setPicturesFolder(account.filePath("pictures").toStdString() + "/");
     TimedApplication application(argc, argv);
+    putMainThreadFirst();
     keepPixelMemory(std::size_t{1} << 28);
     useTheme(Theme::dark);
     const auto info = std::make_unique<SystemInfo>();

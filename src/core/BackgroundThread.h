@@ -11,6 +11,14 @@ void becomeBackgroundThread();
 /// Whether the calling thread is one of these.
 bool isBackgroundThread();
 
+/// For a program with windows, on its main thread: from here on all other threads that work on rows of pixels have a
+/// somewhat lower priority for good, so that a click and a paint go first where pictures keep every core busy. Does
+/// nothing where threads have no priorities of their own.
+void putMainThreadFirst();
+
+/// For `runRows`: the calling thread works on pixels.
+void noteRowWork();
+
 /// What `runRows` throws where work gives way: it is given up as a whole, whatever was half done.
 struct GivenUp {};
 

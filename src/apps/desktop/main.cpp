@@ -12,6 +12,7 @@
 
 #include "apps/desktop/EndSignals.h"
 #include "apps/desktop/FirstStart.h"
+#include "core/BackgroundThread.h"
 #include "core/Log.h"
 #include "core/raster/PixelMemory.h"
 #include "core/state/SystemInfo.h"
@@ -119,6 +120,7 @@ int main(int argc, char** argv) {
     const auto [files, forHost] = readArguments(application);
     FirstStart first;
     if (first.handOver(files, forHost)) return 0;
+    tavrin::putMainThreadFirst();
     // A pass takes the memory that the last one gave back; at rest it is the system's.
     tavrin::keepPixelMemory(std::size_t{1} << 28);
     QTimer memory;

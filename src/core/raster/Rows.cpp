@@ -24,6 +24,7 @@ struct Band {
     mutable std::atomic<int> finished = 0;
 
     void operator()(const Range& piece) const {
+        noteRowWork();
         for (int y = piece.begin(); y < piece.end(); y += grain) {
             GivingWay::ask();
             if (stopped.load(std::memory_order_acquire)) break;
