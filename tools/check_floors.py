@@ -35,7 +35,7 @@ ROOMS = {
     "key": [["pixel"], ["screen", "skin", "guard", "refine"], ["hair", "spill"], ["light"], ["."]],
     "effects": [["."], ["frame", "shadow", "sketch", "smoothing", "star"]],
     "editor": [["brush"], ["."]],
-    "delivery": [["mail", "pages", "print"]],
+    "delivery": [["words"], ["mail", "pages", "print"]],
     "ui": [["."], ["bind", "views"], ["tiles"], ["adjust", "batch", "editor", "effects", "mail", "review", "settings", "sizes", "strip", "text"], ["look", "picture", "print"], ["frame"]],
     "apps": [["cli", "desktop", "web"]],
 }

@@ -2,6 +2,413 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Delivery</name>
+    <message>
+        <source>%1 took the whole mail and did not say whether it keeps it. It may have gone.</source>
+        <translation>%1 hat die ganze Mail angenommen und nicht gesagt, ob sie behalten wird. Sie kann angekommen sein.</translation>
+    </message>
+    <message>
+        <source>The sending was stopped.</source>
+        <translation>Das Senden wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>The outbox cannot be written to, so nothing was sent.</source>
+        <translation>In den Postausgang kann nicht geschrieben werden, deshalb wurde nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>The mail has %1 and %2 takes %3 at most. Nothing was sent; a smaller picture may do.</source>
+        <translation>Die Mail hat %1, und %2 nimmt höchstens %3. Es wurde nichts gesendet; ein kleineres Bild geht vielleicht.</translation>
+    </message>
+    <message>
+        <source>%1 does not take the account name or the password.</source>
+        <translation>%1 nimmt den Kontonamen oder das Passwort nicht an.</translation>
+    </message>
+    <message>
+        <source>%1 does not take the account name or the password (%2).</source>
+        <translation>%1 nimmt den Kontonamen oder das Passwort nicht an (%2).</translation>
+    </message>
+    <message>
+        <source>%1 refuses the mail: %2</source>
+        <translation>%1 weist die Mail ab: %2</translation>
+    </message>
+    <message>
+        <source>No mail server %1 is found: its name is wrong, or there is no network.</source>
+        <translation>Der Mailserver %1 wird nicht gefunden: Sein Name ist falsch, oder es gibt kein Netz.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on port %2.</source>
+        <translation>%1 antwortet nicht an Port %2.</translation>
+    </message>
+    <message>
+        <source>%1 keeps silent for %2 seconds.</source>
+        <translation>%1 schweigt seit %2 Sekunden.</translation>
+    </message>
+    <message>
+        <source>%1 offers no encryption (STARTTLS) on port %2, so nothing was sent.</source>
+        <translation>%1 bietet an Port %2 keine Verschlüsselung (STARTTLS) an, deshalb wurde nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not to be trusted, so nothing was sent: %2</source>
+        <translation>Dem Zertifikat von %1 ist nicht zu trauen, deshalb wurde nichts gesendet: %2</translation>
+    </message>
+    <message>
+        <source>No encrypted connection to %1 comes about; is the port right? %2</source>
+        <translation>Es kommt keine verschlüsselte Verbindung zu %1 zustande; stimmt der Port? %2</translation>
+    </message>
+    <message>
+        <source>The connection to %1 broke off: %2.</source>
+        <translation>Die Verbindung zu %1 ist abgebrochen: %2.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the mail.</source>
+        <translation>Der Speicher reicht für die Mail nicht aus.</translation>
+    </message>
+    <message>
+        <source>There is no mail server in the settings.</source>
+        <translation>In den Einstellungen steht kein Mailserver.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a mail server.</source>
+        <translation>„%1“ ist kein Name eines Mailservers.</translation>
+    </message>
+    <message>
+        <source>The account name or the password of the mail server holds a control character.</source>
+        <translation>Der Kontoname oder das Passwort des Mailservers enthält ein Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>The port of the mail server is no number from 1 to 65535.</source>
+        <translation>Der Port des Mailservers ist keine Zahl von 1 bis 65535.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address to send from.</source>
+        <translation>„%1“ ist keine Adresse, von der gesendet werden kann.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no mail address.</source>
+        <translation>„%1“ ist keine Mailadresse.</translation>
+    </message>
+    <message>
+        <source>The library that sends mails cannot be started.</source>
+        <translation>Die Bibliothek, die Mails sendet, lässt sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>Tavrin was closed while the mail was sent.</source>
+        <translation>Tavrin wurde geschlossen, während die Mail gesendet wurde.</translation>
+    </message>
+    <message>
+        <source>Tavrin ended while the mail was handed over. It may have gone.</source>
+        <translation>Tavrin endete, während die Mail übergeben wurde. Sie kann angekommen sein.</translation>
+    </message>
+    <message>
+        <source>The default mail server is not set up: %1.</source>
+        <translation>Der vorgegebene Mailserver ist nicht eingerichtet: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is missing in %2</source>
+        <translation>%1 fehlt in %2</translation>
+    </message>
+    <message>
+        <source>There is no address to send from: the account name of the mail server is none, and relay-account is missing in %1.</source>
+        <translation>Es gibt keine Adresse, von der gesendet werden kann: Der Kontoname des Mailservers ist keine, und relay-account fehlt in %1.</translation>
+    </message>
+    <message>
+        <source>The gateway for text messages is not set up: text-gateway is missing in %1.</source>
+        <translation>Der Übergang für Textnachrichten ist nicht eingerichtet: text-gateway fehlt in %1.</translation>
+    </message>
+    <message>
+        <source>The outbox is full (mails: %1, MB: %2); it takes %3 mails and %4 MB. Send or discard some of them.</source>
+        <translation>Der Postausgang ist voll (Mails: %1, MB: %2); er fasst %3 Mails und %4 MB. Senden oder verwerfen Sie einige davon.</translation>
+    </message>
+    <message>
+        <source>The outbox %1 cannot be written to: %2.</source>
+        <translation>In den Postausgang %1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>its file system knows no locks</source>
+        <translation>sein Dateisystem kennt keine Sperren</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be attached: %2.</source>
+        <translation>%1 lässt sich nicht anhängen: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read; what is attached lies beside it.</source>
+        <translation>%1 ist nicht lesbar; was angehängt ist, liegt daneben.</translation>
+    </message>
+    <message>
+        <source>The sender: %1.</source>
+        <translation>Der Absender: %1.</translation>
+    </message>
+    <message>
+        <source>The address for answers: %1.</source>
+        <translation>Die Adresse für Antworten: %1.</translation>
+    </message>
+    <message>
+        <source>The recipient: %1.</source>
+        <translation>Der Empfänger: %1.</translation>
+    </message>
+    <message>
+        <source>there is no address</source>
+        <translation>es gibt keine Adresse</translation>
+    </message>
+    <message>
+        <source>the address is too long</source>
+        <translation>die Adresse ist zu lang</translation>
+    </message>
+    <message>
+        <source>the address begins with a hyphen</source>
+        <translation>die Adresse beginnt mit einem Bindestrich</translation>
+    </message>
+    <message>
+        <source>the address holds a line break or another control character</source>
+        <translation>die Adresse enthält einen Zeilenumbruch oder ein anderes Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>the address holds a character that no address has, such as a blank, a comma or a bracket</source>
+        <translation>die Adresse enthält ein Zeichen, das keine Adresse hat, wie ein Leerzeichen, ein Komma oder eine Klammer</translation>
+    </message>
+    <message>
+        <source>the address is no text</source>
+        <translation>die Adresse ist kein Text</translation>
+    </message>
+    <message>
+        <source>The printing system (CUPS) does not answer; see that it runs.</source>
+        <translation>Das Drucksystem (CUPS) antwortet nicht; sehen Sie nach, ob es läuft.</translation>
+    </message>
+    <message>
+        <source>This program was built without a printing system, so there are no printers; a sheet can be saved as a PDF and printed from there.</source>
+        <translation>Dieses Programm wurde ohne Drucksystem gebaut, deshalb gibt es keine Drucker; ein Blatt lässt sich als PDF speichern und von dort drucken.</translation>
+    </message>
+    <message>
+        <source>There are no printers on this machine.</source>
+        <translation>An diesem Rechner gibt es keine Drucker.</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Drucker „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
+        <translation>Es gibt keinen Drucker „%1“; meinten Sie „%2“?</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; takes no jobs at present.</source>
+        <translation>Der Drucker „%1“ nimmt zurzeit keine Aufträge an.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is stopped.</source>
+        <translation>Der Drucker „%1“ ist angehalten.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is stopped: %2.</source>
+        <translation>Der Drucker „%1“ ist angehalten: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print now: %2.</source>
+        <translation>Der Drucker „%1“ kann jetzt nicht drucken: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be asked: %2.</source>
+        <translation>Der Drucker „%1“ lässt sich nicht fragen: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not take the sheet: %2.</source>
+        <translation>Der Drucker „%1“ nimmt das Blatt nicht an: %2.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be sent to the printer &quot;%1&quot;: %2.</source>
+        <translation>Das Blatt konnte nicht an den Drucker „%1“ gesendet werden: %2.</translation>
+    </message>
+    <message>
+        <source>its file %1 cannot be read</source>
+        <translation>seine Datei %1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>no reason was given</source>
+        <translation>ein Grund wurde nicht genannt</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>es wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not go on: %2.</source>
+        <translation>Der Drucker „%1“ macht nicht weiter: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; did not print it.</source>
+        <translation>Der Drucker „%1“ hat es nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; did not print it: %2.</source>
+        <translation>Der Drucker „%1“ hat es nicht gedruckt: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not give it back. It may have been printed already; look at the printer before it is sent again.</source>
+        <translation>Der Drucker „%1“ gibt es nicht zurück. Es kann schon gedruckt sein; sehen Sie am Drucker nach, bevor es noch einmal gesendet wird.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not know it any more. It may have been printed already; look at the printer before it is sent again.</source>
+        <translation>Der Drucker „%1“ kennt es nicht mehr. Es kann schon gedruckt sein; sehen Sie am Drucker nach, bevor es noch einmal gesendet wird.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be asked. It may have been printed already; look at the printer before it is sent again.</source>
+        <translation>Der Drucker „%1“ lässt sich nicht fragen. Es kann schon gedruckt sein; sehen Sie am Drucker nach, bevor es noch einmal gesendet wird.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has the sheet and does not give it back.</source>
+        <translation>Der Drucker „%1“ hat das Blatt und gibt es nicht zurück.</translation>
+    </message>
+    <message>
+        <source>The program was ended before the sheet was sent.</source>
+        <translation>Das Programm wurde beendet, bevor das Blatt gesendet war.</translation>
+    </message>
+    <message>
+        <source>Another program is at work with this sheet.</source>
+        <translation>Ein anderes Programm arbeitet gerade mit diesem Blatt.</translation>
+    </message>
+    <message>
+        <source>The folder %1 for sheets that wait cannot be made: %2.</source>
+        <translation>Der Ordner %1 für wartende Blätter lässt sich nicht anlegen: %2.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be kept in %1: %2.</source>
+        <translation>Das Blatt lässt sich nicht in %1 aufbewahren: %2.</translation>
+    </message>
+    <message>
+        <source>The colour profile %1 cannot be used: %2.</source>
+        <translation>Das Farbprofil %1 ist nicht zu verwenden: %2.</translation>
+    </message>
+    <message>
+        <source>it is no ICC profile</source>
+        <translation>es ist kein ICC-Profil</translation>
+    </message>
+    <message>
+        <source>it is for a printer that takes four inks, and sheets are sent in red, green and blue; take the printer&apos;s RGB profile</source>
+        <translation>es ist für einen Drucker mit vier Farben, und Blätter werden in Rot, Grün und Blau gesendet; nehmen Sie das RGB-Profil des Druckers</translation>
+    </message>
+    <message>
+        <source>it is not for red, green and blue</source>
+        <translation>es ist nicht für Rot, Grün und Blau</translation>
+    </message>
+    <message>
+        <source>it does not tell how to print</source>
+        <translation>es sagt nicht, wie gedruckt wird</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>es ist beschädigt</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>kein Papier</translation>
+    </message>
+    <message>
+        <source>a paper jam</source>
+        <translation>ein Papierstau</translation>
+    </message>
+    <message>
+        <source>the paper tray is missing</source>
+        <translation>das Papierfach fehlt</translation>
+    </message>
+    <message>
+        <source>a cover is open</source>
+        <translation>eine Klappe ist offen</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>eine Tür ist offen</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>kein Toner</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>keine Tinte</translation>
+    </message>
+    <message>
+        <source>the waste box is full</source>
+        <translation>der Resttintenbehälter ist voll</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>das Ausgabefach ist voll</translation>
+    </message>
+    <message>
+        <source>the output tray is missing</source>
+        <translation>das Ausgabefach fehlt</translation>
+    </message>
+    <message>
+        <source>switched off or not connected</source>
+        <translation>ausgeschaltet oder nicht angeschlossen</translation>
+    </message>
+    <message>
+        <source>cannot be reached yet</source>
+        <translation>noch nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>does not answer</source>
+        <translation>antwortet nicht</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>partly stopped</source>
+        <translation>teilweise angehalten</translation>
+    </message>
+    <message>
+        <source>held back</source>
+        <translation>zurückgehalten</translation>
+    </message>
+    <message>
+        <source>its driver is incomplete</source>
+        <translation>sein Treiber ist unvollständig</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>der Ordner %1 existiert nicht</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>no permission to write into the folder %1</source>
+        <translation>keine Erlaubnis, in den Ordner %1 zu schreiben</translation>
+    </message>
+    <message>
+        <source>the folder %1 can only be read</source>
+        <translation>der Ordner %1 kann nur gelesen werden</translation>
+    </message>
+</context>
+<context>
     <name>Edits</name>
     <message>
         <source>There is no full picture to edit.</source>
@@ -5598,6 +6005,10 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>Shows the portraits of the folder side by side; a double click opens one</source>
         <translation>Zeigt die Porträts des Ordners nebeneinander; ein Doppelklick öffnet eines</translation>
+    </message>
+    <message>
+        <source>The pages are being made.</source>
+        <translation>Die Seiten werden erstellt.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,413 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>Delivery</name>
+    <message>
+        <source>%1 took the whole mail and did not say whether it keeps it. It may have gone.</source>
+        <translation>%1 recibió el correo entero y no dijo si lo conserva. Puede haber llegado.</translation>
+    </message>
+    <message>
+        <source>The sending was stopped.</source>
+        <translation>El envío se detuvo.</translation>
+    </message>
+    <message>
+        <source>The outbox cannot be written to, so nothing was sent.</source>
+        <translation>No se puede escribir en la bandeja de salida, así que no se envió nada.</translation>
+    </message>
+    <message>
+        <source>The mail has %1 and %2 takes %3 at most. Nothing was sent; a smaller picture may do.</source>
+        <translation>El correo ocupa %1 y %2 acepta como máximo %3. No se envió nada; quizá baste una imagen más pequeña.</translation>
+    </message>
+    <message>
+        <source>%1 does not take the account name or the password.</source>
+        <translation>%1 no acepta el nombre de la cuenta o la contraseña.</translation>
+    </message>
+    <message>
+        <source>%1 does not take the account name or the password (%2).</source>
+        <translation>%1 no acepta el nombre de la cuenta o la contraseña (%2).</translation>
+    </message>
+    <message>
+        <source>%1 refuses the mail: %2</source>
+        <translation>%1 rechaza el correo: %2</translation>
+    </message>
+    <message>
+        <source>No mail server %1 is found: its name is wrong, or there is no network.</source>
+        <translation>No se encuentra el servidor de correo %1: su nombre es incorrecto o no hay red.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on port %2.</source>
+        <translation>%1 no responde en el puerto %2.</translation>
+    </message>
+    <message>
+        <source>%1 keeps silent for %2 seconds.</source>
+        <translation>%1 lleva %2 segundos sin responder.</translation>
+    </message>
+    <message>
+        <source>%1 offers no encryption (STARTTLS) on port %2, so nothing was sent.</source>
+        <translation>%1 no ofrece cifrado (STARTTLS) en el puerto %2, así que no se envió nada.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not to be trusted, so nothing was sent: %2</source>
+        <translation>El certificado de %1 no es de confianza, así que no se envió nada: %2</translation>
+    </message>
+    <message>
+        <source>No encrypted connection to %1 comes about; is the port right? %2</source>
+        <translation>No se logra una conexión cifrada con %1; ¿es correcto el puerto? %2</translation>
+    </message>
+    <message>
+        <source>The connection to %1 broke off: %2.</source>
+        <translation>Se cortó la conexión con %1: %2.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the mail.</source>
+        <translation>No hay memoria suficiente para el correo.</translation>
+    </message>
+    <message>
+        <source>There is no mail server in the settings.</source>
+        <translation>No hay ningún servidor de correo en los ajustes.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a mail server.</source>
+        <translation>«%1» no es el nombre de un servidor de correo.</translation>
+    </message>
+    <message>
+        <source>The account name or the password of the mail server holds a control character.</source>
+        <translation>El nombre de la cuenta o la contraseña del servidor de correo contiene un carácter de control.</translation>
+    </message>
+    <message>
+        <source>The port of the mail server is no number from 1 to 65535.</source>
+        <translation>El puerto del servidor de correo no es un número de 1 a 65535.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address to send from.</source>
+        <translation>«%1» no es una dirección desde la que se pueda enviar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no mail address.</source>
+        <translation>«%1» no es una dirección de correo.</translation>
+    </message>
+    <message>
+        <source>The library that sends mails cannot be started.</source>
+        <translation>No se puede iniciar la biblioteca que envía correos.</translation>
+    </message>
+    <message>
+        <source>Tavrin was closed while the mail was sent.</source>
+        <translation>Tavrin se cerró mientras se enviaba el correo.</translation>
+    </message>
+    <message>
+        <source>Tavrin ended while the mail was handed over. It may have gone.</source>
+        <translation>Tavrin terminó mientras se entregaba el correo. Puede haber llegado.</translation>
+    </message>
+    <message>
+        <source>The default mail server is not set up: %1.</source>
+        <translation>El servidor de correo predeterminado no está configurado: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is missing in %2</source>
+        <translation>falta %1 en %2</translation>
+    </message>
+    <message>
+        <source>There is no address to send from: the account name of the mail server is none, and relay-account is missing in %1.</source>
+        <translation>No hay dirección desde la que enviar: el nombre de la cuenta del servidor no lo es, y falta relay-account en %1.</translation>
+    </message>
+    <message>
+        <source>The gateway for text messages is not set up: text-gateway is missing in %1.</source>
+        <translation>La pasarela de mensajes de texto no está configurada: falta text-gateway en %1.</translation>
+    </message>
+    <message>
+        <source>The outbox is full (mails: %1, MB: %2); it takes %3 mails and %4 MB. Send or discard some of them.</source>
+        <translation>La bandeja de salida está llena (correos: %1, MB: %2); admite %3 correos y %4 MB. Envíe o descarte algunos.</translation>
+    </message>
+    <message>
+        <source>The outbox %1 cannot be written to: %2.</source>
+        <translation>No se puede escribir en la bandeja de salida %1: %2.</translation>
+    </message>
+    <message>
+        <source>its file system knows no locks</source>
+        <translation>su sistema de archivos no admite bloqueos</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>No se puede escribir %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be attached: %2.</source>
+        <translation>No se puede adjuntar %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read; what is attached lies beside it.</source>
+        <translation>No se puede leer %1; lo adjunto está a su lado.</translation>
+    </message>
+    <message>
+        <source>The sender: %1.</source>
+        <translation>El remitente: %1.</translation>
+    </message>
+    <message>
+        <source>The address for answers: %1.</source>
+        <translation>La dirección para respuestas: %1.</translation>
+    </message>
+    <message>
+        <source>The recipient: %1.</source>
+        <translation>El destinatario: %1.</translation>
+    </message>
+    <message>
+        <source>there is no address</source>
+        <translation>no hay dirección</translation>
+    </message>
+    <message>
+        <source>the address is too long</source>
+        <translation>la dirección es demasiado larga</translation>
+    </message>
+    <message>
+        <source>the address begins with a hyphen</source>
+        <translation>la dirección empieza con un guion</translation>
+    </message>
+    <message>
+        <source>the address holds a line break or another control character</source>
+        <translation>la dirección contiene un salto de línea u otro carácter de control</translation>
+    </message>
+    <message>
+        <source>the address holds a character that no address has, such as a blank, a comma or a bracket</source>
+        <translation>la dirección contiene un carácter que ninguna dirección tiene, como un espacio, una coma o un paréntesis</translation>
+    </message>
+    <message>
+        <source>the address is no text</source>
+        <translation>la dirección no es texto</translation>
+    </message>
+    <message>
+        <source>The printing system (CUPS) does not answer; see that it runs.</source>
+        <translation>El sistema de impresión (CUPS) no responde; compruebe que está en marcha.</translation>
+    </message>
+    <message>
+        <source>This program was built without a printing system, so there are no printers; a sheet can be saved as a PDF and printed from there.</source>
+        <translation>Este programa se compiló sin sistema de impresión, así que no hay impresoras; una hoja se puede guardar como PDF e imprimir desde allí.</translation>
+    </message>
+    <message>
+        <source>There are no printers on this machine.</source>
+        <translation>No hay impresoras en este equipo.</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot;.</source>
+        <translation>No existe la impresora «%1».</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
+        <translation>No existe la impresora «%1»; ¿quería decir «%2»?</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; takes no jobs at present.</source>
+        <translation>La impresora «%1» no acepta trabajos por ahora.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is stopped.</source>
+        <translation>La impresora «%1» está detenida.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is stopped: %2.</source>
+        <translation>La impresora «%1» está detenida: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot print now: %2.</source>
+        <translation>La impresora «%1» no puede imprimir ahora: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be asked: %2.</source>
+        <translation>No se puede consultar la impresora «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not take the sheet: %2.</source>
+        <translation>La impresora «%1» no acepta la hoja: %2.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be sent to the printer &quot;%1&quot;: %2.</source>
+        <translation>No se pudo enviar la hoja a la impresora «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>its file %1 cannot be read</source>
+        <translation>no se puede leer su archivo %1</translation>
+    </message>
+    <message>
+        <source>no reason was given</source>
+        <translation>no se indicó el motivo</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>se canceló</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not go on: %2.</source>
+        <translation>La impresora «%1» no continúa: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; did not print it.</source>
+        <translation>La impresora «%1» no la imprimió.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; did not print it: %2.</source>
+        <translation>La impresora «%1» no la imprimió: %2.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not give it back. It may have been printed already; look at the printer before it is sent again.</source>
+        <translation>La impresora «%1» no la devuelve. Puede que ya esté impresa; mire la impresora antes de enviarla otra vez.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not know it any more. It may have been printed already; look at the printer before it is sent again.</source>
+        <translation>La impresora «%1» ya no la conoce. Puede que ya esté impresa; mire la impresora antes de enviarla otra vez.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be asked. It may have been printed already; look at the printer before it is sent again.</source>
+        <translation>No se puede consultar la impresora «%1». Puede que ya esté impresa; mire la impresora antes de enviarla otra vez.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has the sheet and does not give it back.</source>
+        <translation>La impresora «%1» tiene la hoja y no la devuelve.</translation>
+    </message>
+    <message>
+        <source>The program was ended before the sheet was sent.</source>
+        <translation>El programa terminó antes de enviar la hoja.</translation>
+    </message>
+    <message>
+        <source>Another program is at work with this sheet.</source>
+        <translation>Otro programa está trabajando con esta hoja.</translation>
+    </message>
+    <message>
+        <source>The folder %1 for sheets that wait cannot be made: %2.</source>
+        <translation>No se puede crear la carpeta %1 para las hojas que esperan: %2.</translation>
+    </message>
+    <message>
+        <source>The sheet cannot be kept in %1: %2.</source>
+        <translation>No se puede guardar la hoja en %1: %2.</translation>
+    </message>
+    <message>
+        <source>The colour profile %1 cannot be used: %2.</source>
+        <translation>El perfil de color %1 no se puede usar: %2.</translation>
+    </message>
+    <message>
+        <source>it is no ICC profile</source>
+        <translation>no es un perfil ICC</translation>
+    </message>
+    <message>
+        <source>it is for a printer that takes four inks, and sheets are sent in red, green and blue; take the printer&apos;s RGB profile</source>
+        <translation>es para una impresora de cuatro tintas, y las hojas se envían en rojo, verde y azul; use el perfil RGB de la impresora</translation>
+    </message>
+    <message>
+        <source>it is not for red, green and blue</source>
+        <translation>no es para rojo, verde y azul</translation>
+    </message>
+    <message>
+        <source>it does not tell how to print</source>
+        <translation>no indica cómo imprimir</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>está dañado</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>sin papel</translation>
+    </message>
+    <message>
+        <source>a paper jam</source>
+        <translation>un atasco de papel</translation>
+    </message>
+    <message>
+        <source>the paper tray is missing</source>
+        <translation>falta la bandeja de papel</translation>
+    </message>
+    <message>
+        <source>a cover is open</source>
+        <translation>hay una cubierta abierta</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>hay una puerta abierta</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>sin tóner</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>sin tinta</translation>
+    </message>
+    <message>
+        <source>the waste box is full</source>
+        <translation>el depósito de residuos está lleno</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>la bandeja de salida de papel está llena</translation>
+    </message>
+    <message>
+        <source>the output tray is missing</source>
+        <translation>falta la bandeja de salida de papel</translation>
+    </message>
+    <message>
+        <source>switched off or not connected</source>
+        <translation>apagada o no conectada</translation>
+    </message>
+    <message>
+        <source>cannot be reached yet</source>
+        <translation>aún no se puede alcanzar</translation>
+    </message>
+    <message>
+        <source>does not answer</source>
+        <translation>no responde</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>apagada</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>imprimiendo</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>lista</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>no acepta trabajos</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenida</translation>
+    </message>
+    <message>
+        <source>partly stopped</source>
+        <translation>detenida en parte</translation>
+    </message>
+    <message>
+        <source>held back</source>
+        <translation>retenido</translation>
+    </message>
+    <message>
+        <source>its driver is incomplete</source>
+        <translation>su controlador está incompleto</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>el disco está lleno</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>la carpeta %1 no existe</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 no es una carpeta</translation>
+    </message>
+    <message>
+        <source>no permission to write into the folder %1</source>
+        <translation>sin permiso para escribir en la carpeta %1</translation>
+    </message>
+    <message>
+        <source>the folder %1 can only be read</source>
+        <translation>la carpeta %1 es de solo lectura</translation>
+    </message>
+</context>
+<context>
     <name>Edits</name>
     <message>
         <source>There is no full picture to edit.</source>
@@ -5598,6 +6005,10 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>Shows the portraits of the folder side by side; a double click opens one</source>
         <translation>Muestra los retratos de la carpeta uno junto a otro; un doble clic abre uno</translation>
+    </message>
+    <message>
+        <source>The pages are being made.</source>
+        <translation>Se están creando las páginas.</translation>
     </message>
 </context>
 <context>

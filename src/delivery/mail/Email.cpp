@@ -6,6 +6,7 @@
 #include "core/files/StandardPath.h"
 #include "core/image/Location.h"
 #include "delivery/mail/MailText.h"
+#include "delivery/words/Says.h"
 
 namespace tavrin {
 
@@ -13,31 +14,31 @@ void Email::fail(const std::string& why) {
     if (error_.empty()) error_ = why;
 }
 
-void Email::take(const char* what, const std::string& address, std::string& into) {
-    if (const std::string problem = whyUnsafe(address); !problem.empty()) return fail(what + (": " + problem) + ".");
+void Email::take(Says what, const std::string& address, std::string& into) {
+    if (const std::string problem = whyUnsafe(address); !problem.empty()) return fail(said(what, {problem}));
     into = address;
 }
 
 void Email::setFrom(const std::string& address) {
-    take("The sender", address, from_);
+    take(Says::theSender, address, from_);
 }
 
 void Email::setReplyTo(const std::string& address) {
-    take("The address for answers", address, replyTo_);
+    take(Says::answersTo, address, replyTo_);
 }
 
 void Email::AddTo(const std::string& displayName, const std::string& address) {
     displayName_ = displayName;
-    take("The recipient", address, to_);
+    take(Says::theRecipient, address, to_);
 }
 
 void Email::AddFileAttachment(const std::string& path, const std::string& name, bool keepLocation) {
     QFile file(textOfName(path));
     if (!file.open(QFile::ReadOnly))
-        return fail(path + " cannot be attached: " + file.errorString().toStdString() + ".");
+        return fail(said(Says::cannotBeAttached, {path, file.errorString().toStdString()}));
     attachment_ = file.readAll();
     if (file.error() != QFile::NoError)
-        return fail(path + " cannot be attached: " + file.errorString().toStdString() + ".");
+        return fail(said(Says::cannotBeAttached, {path, file.errorString().toStdString()}));
     if (!keepLocation) attachment_ = fileWithoutLocation(std::move(attachment_));
     attachmentName_ = name.empty() ? lastPathComponent(path) : name;
 }

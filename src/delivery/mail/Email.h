@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include "delivery/words/Says.h"
+
 namespace tavrin {
 
 /// A mail with one recipient and at most one file. What went wrong first stays: `LastErrorText` tells it.
@@ -39,7 +41,7 @@ class Email {
 
   private:
     void fail(const std::string& why);
-    void take(const char* what, const std::string& address, std::string& into);
+    void take(Says what, const std::string& address, std::string& into);
 
     std::string subject_, body_, from_, replyTo_, to_, displayName_, attachmentName_, error_;
     QByteArray attachment_;

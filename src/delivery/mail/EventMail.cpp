@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "delivery/words/Says.h"
+
 namespace tavrin {
 
 namespace {
@@ -61,8 +63,7 @@ std::span<const Carrier> carriers() {
 bool chooseCarrier(SystemInfo& info, const Carrier& carrier, const DeliveryConf& conf) {
     if (!carrier.sends) return false;
     if (conf.textGateway.empty()) {
-        info.alert("Error", "The gateway for text messages is not set up: text-gateway is missing in " +
-                                deliveryConfFile() + ".");
+        info.alert("Error", said(Says::gatewayMissing, {deliveryConfFile()}));
         return false;
     }
     info.sEventEmail = info.sEventEmail.load() + "@" + conf.textGateway;

@@ -11,6 +11,7 @@
 
 #include "core/Log.h"
 #include "delivery/mail/MailText.h"
+#include "delivery/words/Says.h"
 
 namespace tavrin {
 
@@ -80,8 +81,7 @@ class MailTalk {
     MailTalk& operator=(const MailTalk&) = delete;
 
     bool run() {
-        if (!easy_ || !(mime_ = curl_mime_init(easy_)))
-            return man_.refuse("There is not enough memory for the mail.");
+        if (!easy_ || !(mime_ = curl_mime_init(easy_))) return man_.refuse(said(Says::noMemoryForMail));
         setServer();
         setLimits();
         setMail();
@@ -259,37 +259,31 @@ class MailTalk {
     }
 
     std::string explain(CURLcode code) const {
-        const MailServer& server = man_.server_;
-        const std::string& host = server.host;
-        const std::string seconds = std::to_string(man_.patience_.count());
-        if (man_.end_ == MailEnd::unknown)
-            return host + " took the whole mail and did not say whether it keeps it. It may have gone.";
-        if (man_.end_ == MailEnd::stopped) return "The sending was stopped.";
-        if (heldBack_) return "The outbox cannot be written to, so nothing was sent.";
-        if (tooLarge_)
-            return "The mail has " + megabytes(email_.sizeOnLine()) + " and " + host + " takes " + megabytes(limit_) +
-                   " at most. Nothing was sent; a smaller picture may do.";
+        const std::string& host = man_.server_.host;
+        const std::string port = std::to_string(man_.server_.port);
+        if (man_.end_ == MailEnd::unknown) return said(Says::tookSilently, {host});
+        if (man_.end_ == MailEnd::stopped) return said(Says::sendingStopped);
+        if (heldBack_) return said(Says::heldBack);
+        if (tooLarge_) return said(Says::mailTooLarge, {megabytes(email_.sizeOnLine()), host, megabytes(limit_)});
         if (code == CURLE_LOGIN_DENIED)
-            return host + " does not take the account name or the password" +
-                   (refusal_.empty() ? "." : " (" + refusal_ + ").");
-        if (!refusal_.empty()) return host + " refuses the mail: " + refusal_;
+            return refusal_.empty() ? said(Says::loginRefused, {host})
+                                    : said(Says::loginRefusedWith, {host, refusal_});
+        if (!refusal_.empty()) return said(Says::refusesMail, {host, refusal_});
         switch (code) {
             case CURLE_COULDNT_RESOLVE_HOST:
-                return "No mail server " + host + " is found: its name is wrong, or there is no network.";
+                return said(Says::serverNotFound, {host});
             case CURLE_COULDNT_CONNECT:
-                return host + " does not answer on port " + std::to_string(server.port) + ".";
+                return said(Says::noAnswerOnPort, {host, port});
             case CURLE_OPERATION_TIMEDOUT:
-                return host + " keeps silent for " + seconds + " seconds.";
+                return said(Says::keepsSilent, {host, std::to_string(man_.patience_.count())});
             case CURLE_USE_SSL_FAILED:
-                return host + " offers no encryption (STARTTLS) on port " + std::to_string(server.port) +
-                       ", so nothing was sent.";
+                return said(Says::noEncryption, {host, port});
             case CURLE_PEER_FAILED_VERIFICATION:
-                return "The certificate of " + host + " is not to be trusted, so nothing was sent: " + told_;
+                return said(Says::notTrusted, {host, told_});
             case CURLE_SSL_CONNECT_ERROR:
-                return "No encrypted connection to " + host + " comes about; is the port right? " + told_;
+                return said(Says::noSecureConnection, {host, told_});
             default:
-                return "The connection to " + host + " broke off: " + (told_[0] ? told_ : curl_easy_strerror(code)) +
-                       ".";
+                return said(Says::brokeOff, {host, told_[0] ? told_ : curl_easy_strerror(code)});
         }
     }
 
@@ -317,19 +311,17 @@ bool MailMan::refuse(const std::string& why) {
 
 bool MailMan::check(const Email& email) {
     if (!email.LastMethodSuccess()) return refuse(email.LastErrorText());
-    if (server_.host.empty()) return refuse("There is no mail server in the settings.");
+    if (server_.host.empty()) return refuse(said(Says::noServer));
     const auto hasOdd = [](const std::string& text) {
         return std::ranges::any_of(text, [](unsigned char c) { return c < 0x20 || c == 0x7F; });
     };
     if (server_.host.find_first_of(" /@?#\\") != std::string::npos || hasOdd(server_.host))
-        return refuse("\"" + server_.host + "\" is no name of a mail server.");
-    if (hasOdd(server_.account) || hasOdd(server_.password))
-        return refuse("The account name or the password of the mail server holds a control character.");
-    if (server_.port < 1 || server_.port > 65535)
-        return refuse("The port of the mail server is no number from 1 to 65535.");
-    if (!isAddress(email.from())) return refuse("\"" + email.from() + "\" is no address to send from.");
-    if (!isAddress(email.to())) return refuse("\"" + email.to() + "\" is no mail address.");
-    return startLibrary() || refuse("The library that sends mails cannot be started.");
+        return refuse(said(Says::noServerName, {server_.host}));
+    if (hasOdd(server_.account) || hasOdd(server_.password)) return refuse(said(Says::oddAccount));
+    if (server_.port < 1 || server_.port > 65535) return refuse(said(Says::oddPort));
+    if (!isAddress(email.from())) return refuse(said(Says::noSender, {email.from()}));
+    if (!isAddress(email.to())) return refuse(said(Says::noAddress, {email.to()}));
+    return startLibrary() || refuse(said(Says::noMailLibrary));
 }
 
 int MailMan::SendEmail(const Email& email) {

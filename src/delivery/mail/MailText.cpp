@@ -8,6 +8,7 @@
 #include <QString>
 
 #include "core/files/NameText.h"
+#include "delivery/words/Says.h"
 
 namespace tavrin {
 
@@ -28,16 +29,15 @@ bool goesOn(char c) {
 }  // namespace
 
 std::string whyUnsafe(const std::string& address) {
-    if (address.empty()) return "there is no address";
+    if (address.empty()) return said(Says::emptyAddress);
     constexpr std::size_t kLongest = 320;
-    if (address.size() > kLongest) return "the address is too long";
-    if (address.front() == '-') return "the address begins with a hyphen";
-    if (std::ranges::any_of(address, isControl)) return "the address holds a line break or another control character";
-    if (address.find_first_of(" <>,;:\"()[]\\") != std::string::npos)
-        return "the address holds a character that no address has, such as a blank, a comma or a bracket";
+    if (address.size() > kLongest) return said(Says::longAddress);
+    if (address.front() == '-') return said(Says::hyphenAddress);
+    if (std::ranges::any_of(address, isControl)) return said(Says::controlInAddress);
+    if (address.find_first_of(" <>,;:\"()[]\\") != std::string::npos) return said(Says::oddInAddress);
     if (!QString::fromStdString(address).isValidUtf16() ||
         QString::fromStdString(address).contains(QChar(QChar::ReplacementCharacter)))
-        return "the address is no text";
+        return said(Says::addressNoText);
     return "";
 }
 

@@ -17,6 +17,7 @@
 #include "core/files/AtomicFile.h"
 #include "core/files/Places.h"
 #include "delivery/mail/OutboxFiles.h"
+#include "delivery/words/Says.h"
 
 namespace fs = std::filesystem;
 
@@ -70,7 +71,7 @@ OutboxEntry lookAt(const std::string& folder) {
         entry.state = State::maybeGone;
         std::ifstream note(folder + kOutboxHandedOver);
         if (!std::getline(note, entry.reason))  // whoever sent it never came to an end
-            entry.reason = "Tavrin ended while the mail was handed over. It may have gone.";
+            entry.reason = said(Says::endedMeanwhile);
     }
     return entry;
 }
@@ -142,38 +143,37 @@ std::string Outbox::whyFull(long long more) const {
     }
     if (mails < limits_.mails && bytes + more <= limits_.bytes) return "";
     constexpr long long kMega = 1'000'000;
-    return "The outbox is full: it holds mails: " + std::to_string(mails) + ", MB: " + std::to_string(bytes / kMega) +
-           ". It takes " + std::to_string(limits_.mails) + " mails and " + std::to_string(limits_.bytes / kMega) +
-           " MB. Send or discard some of them.";
+    return said(Says::outboxFull, {std::to_string(mails), std::to_string(bytes / kMega),
+                                   std::to_string(limits_.mails), std::to_string(limits_.bytes / kMega)});
 }
 
 std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArray& attachment,
                                        std::string& problem) const {
     const auto fail = [&](const std::string& why) {
-        problem = "The outbox " + folder_ + " cannot be written to: " + why;
+        problem = said(Says::outboxFails, {folder_, why});
         return std::optional<OutboxClaim>();
     };
     if (problem = whyFull(attachment.size()); !problem.empty()) return {};
     std::error_code failed;
     fs::create_directories(fs::path(folder_).parent_path().parent_path(), failed);
-    if (!makePrivateFolder(folder_) && errno != EEXIST) return fail(writeProblem(errno, folder_) + ".");
+    if (!makePrivateFolder(folder_) && errno != EEXIST) return fail(writeProblem(errno, folder_));
     const Interruption::Hold hold;
     const QDateTime now = QDateTime::currentDateTime();
     const std::string id =
         (now.toString("yyyyMMdd-HHmmss-zzz-") + QUuid::createUuid().toString(QUuid::Id128).left(8)).toStdString();
     const std::string being = folder_ + kBeingMade + id;
-    if (!makePrivateFolder(being)) return fail(writeProblem(errno, folder_) + ".");
+    if (!makePrivateFolder(being)) return fail(writeProblem(errno, folder_));
     OutboxClaim claim(pathOf(id), lockOf(being, O_RDWR | O_CREAT, LOCK_EX));
     claim.entry_.id = id;
     claim.entry_.mail = mail;
     claim.entry_.created = claim.entry_.nextTry = now;
-    if (claim.lock_ < 0) problem = "its file system knows no locks.";
+    if (claim.lock_ < 0) problem = said(Says::noLocks);
     if (problem.empty() && !mail.attachment.empty())
         problem = writePrivateFile(being + kOutboxAttachment, attachment);
     if (problem.empty()) problem = writeOutboxEntry(claim.entry_, being);
     if (problem.empty()) bringNamesToDisk(being);
     if (problem.empty() && ::rename(being.c_str(), claim.folder_.c_str()) != 0)
-        problem = writeProblem(errno, folder_) + ".";
+        problem = writeProblem(errno, folder_);
     if (!problem.empty()) {
         fs::remove_all(being, failed);
         return fail(problem);

@@ -7,6 +7,7 @@
 
 #include "core/files/NameText.h"
 #include "core/files/StandardPath.h"
+#include "delivery/words/Says.h"
 
 namespace tavrin {
 
@@ -43,7 +44,7 @@ std::string writePrivateFile(const std::string& path, const QByteArray& bytes) {
     QSaveFile file(textOfName(path));
     const bool written = file.open(QFile::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) &&
                          file.write(bytes) == bytes.size() && file.commit();
-    return written ? "" : path + " cannot be written: " + file.errorString().toStdString() + ".";
+    return written ? "" : said(Says::cannotBeWritten, {path, file.errorString().toStdString()});
 }
 
 std::string writeOutboxEntry(const OutboxEntry& entry, const std::string& folder) {
@@ -72,7 +73,7 @@ OutboxEntry readOutboxEntry(const std::string& folder) {
         file.open(QFile::ReadOnly) ? QJsonDocument::fromJson(file.readAll(), &damage).object() : QJsonObject();
     if (object.isEmpty()) {
         entry.state = OutboxEntry::State::held;
-        entry.reason = folder + kOutboxMail + " cannot be read; what is attached lies beside it.";
+        entry.reason = said(Says::unreadableMail, {folder + kOutboxMail});
         return entry;
     }
     entry.mail = {bytes(object["to"]),        bytes(object["subject"]), bytes(object["body"]),

@@ -5,6 +5,7 @@
 
 #include "core/Log.h"
 #include "delivery/mail/MailText.h"
+#include "delivery/words/Says.h"
 
 namespace tavrin {
 
@@ -24,7 +25,7 @@ Email emailOf(const OutgoingMail& mail) {
 /// What is missing for a mail to set out at all, whichever way.
 std::string whyNeverGoes(const OutgoingMail& mail, const Email& email) {
     if (!email.LastMethodSuccess()) return email.LastErrorText();
-    return isAddress(mail.to) ? "" : "\"" + mail.to + "\" is no mail address.";
+    return isAddress(mail.to) ? "" : said(Says::noAddress, {mail.to});
 }
 
 MailResult send(const OutgoingMail& mail, Email email, const MailRoute& route, const MailWatch& watch,
@@ -42,7 +43,7 @@ MailResult send(const OutgoingMail& mail, Email email, const MailRoute& route, c
     manager.setBeforeEnd(std::move(beforeEnd));
     if (manager.SendEmail(email) != 1) {
         if (manager.end() == MailEnd::stopped && watch.leaving && *watch.leaving)
-            return {MailEnd::notSent, false, "Tavrin was closed while the mail was sent."};
+            return {MailEnd::notSent, false, said(Says::closedMeanwhile)};
         logError(manager.LastErrorText());
         return {manager.end(), false, manager.LastErrorText()};
     }
@@ -70,21 +71,17 @@ MailRoute routeOf(const QLXInfo& settings, const DeliveryConf& conf) {
     if (settings.bDefaultSMTPServer) {
         route.server = {conf.relayHost, conf.relayAccount,      conf.relayPassword, 25, false,
                         false,          conf.checkCertificates, conf.caFile};
+        std::string missing;
         for (const auto& [name, value] :
              {std::pair{"relay-host", conf.relayHost}, std::pair{"relay-account", conf.relayAccount}})
             if (value.empty())
-                route.problem += (route.problem.empty() ? "The default mail server is not set up: " : ", ") +
-                                 std::string(name) + " is missing in " + deliveryConfFile();
-        if (!route.problem.empty()) route.problem += ".";
+                missing += (missing.empty() ? "" : ", ") + said(Says::missingIn, {name, deliveryConfFile()});
+        if (!missing.empty()) route.problem = said(Says::relayMissing, {missing});
     } else if (route.server.host.empty()) {
-        route.problem = "There is no mail server in the settings.";
+        route.problem = said(Says::noServer);
     } else if (route.from.empty()) {
         route.from = route.server.account;
-        if (!isAddress(route.from))
-            route.problem =
-                "There is no address to send from: the account name of the mail server is none, and "
-                "relay-account is missing in " +
-                deliveryConfFile() + ".";
+        if (!isAddress(route.from)) route.problem = said(Says::noSenderAnywhere, {deliveryConfFile()});
     }
     return route;
 }
@@ -109,7 +106,7 @@ Posted postReady(ReadyMail ready, const MailRoute& route, const MailWatch& watch
     if (ready.claim) return postAgain(std::move(*ready.claim), route, watch);
     if (!ready.notKept.empty()) logError(ready.notKept);  // the mail may go all the same
     Posted posted{send(ready.mail, std::move(ready.email), route, watch, {})};
-    if (!posted.isSent() && !ready.notKept.empty()) posted.reason += ' ' + ready.notKept;
+    if (!posted.isSent() && !ready.notKept.empty()) posted.reason += '\n' + ready.notKept;
     return posted;
 }
 

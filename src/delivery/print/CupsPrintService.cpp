@@ -6,6 +6,7 @@
 #include "core/NearestName.h"
 #include "delivery/print/CupsWords.h"
 #include "delivery/print/PrintService.h"
+#include "delivery/words/Says.h"
 
 namespace tavrin {
 
@@ -34,14 +35,12 @@ class Connection {
     http_t* http_;
 };
 
-constexpr const char* kNoAnswer = "The printing system (CUPS) does not answer; see that it runs.";
-
-/// What the library says about the last call, as one plain line.
-std::string lastProblem(const std::string& what) {
+/// What the library says about the last call. @param what with places for the printer and the reason
+std::string lastProblem(Says what, const std::string& printer) {
     std::string line = cupsLastErrorString() ? cupsLastErrorString() : "";
-    if (line.empty()) line = "no reason was given";
-    if (!line.ends_with('.')) line += '.';
-    return what + ": " + line;
+    while (line.ends_with('.'))
+        line.pop_back();
+    return said(what, {printer, line.empty() ? said(Says::noReason) : line});
 }
 
 std::string option(const cups_dest_t& dest, const char* name) {
@@ -50,15 +49,15 @@ std::string option(const cups_dest_t& dest, const char* name) {
 }
 
 std::string troubleOf(const std::string& name, const cups_dest_t& dest, const std::string& words) {
-    const std::string printer = "The printer \"" + name + "\" ";
     const bool isStopped = option(dest, "printer-state") == std::to_string(IPP_PSTATE_STOPPED);
-    if (option(dest, "printer-is-accepting-jobs") == "false") return printer + "takes no jobs at present.";
+    if (option(dest, "printer-is-accepting-jobs") == "false") return said(Says::takesNoJobs, {name});
     if (words.empty() || words == "stopped") {
-        const std::string said = option(dest, "printer-state-message");
+        const std::string told = option(dest, "printer-state-message");
         if (!isStopped) return "";
-        return printer + "is stopped" + (said.empty() || said == "Paused" ? "." : ": " + said + ".");
+        return told.empty() || told == "Paused" ? said(Says::printerStopped, {name})
+                                                : said(Says::printerStoppedBy, {name, told});
     }
-    return printer + (isStopped ? "is stopped: " : "cannot print now: ") + words + ".";
+    return said(isStopped ? Says::printerStoppedBy : Says::cannotPrintNow, {name, words});
 }
 
 Printer printerOf(const cups_dest_t& dest) {
@@ -66,10 +65,10 @@ Printer printerOf(const cups_dest_t& dest) {
     const std::string state = option(dest, "printer-state");
     Printer printer{dest.name, option(dest, "printer-info"), dest.is_default != 0, words, ""};
     if (words.empty())
-        printer.state = state == std::to_string(IPP_PSTATE_STOPPED)      ? "stopped"
-                        : state == std::to_string(IPP_PSTATE_PROCESSING) ? "printing"
-                                                                         : "ready";
-    if (option(dest, "printer-is-accepting-jobs") == "false") printer.state = "takes no jobs";
+        printer.state = said(state == std::to_string(IPP_PSTATE_STOPPED)      ? Says::stopped
+                             : state == std::to_string(IPP_PSTATE_PROCESSING) ? Says::printing
+                                                                              : Says::ready);
+    if (option(dest, "printer-is-accepting-jobs") == "false") printer.state = said(Says::noJobsNow);
     printer.trouble = troubleOf(printer.name, dest, wordsOf(reasons, false));
     return printer;
 }
@@ -140,12 +139,12 @@ JobNews newsOf(ipp_t* response) {
         for (int i = 0; attribute && i < ippGetCount(attribute); ++i)
             reasons += std::string(ippGetString(attribute, i, nullptr)) + ',';
     }
-    ipp_attribute_t* said = ippFindAttribute(response, "job-printer-state-message", IPP_TAG_ZERO);
-    const char* message = said ? ippGetString(said, 0, nullptr) : "";
+    ipp_attribute_t* told = ippFindAttribute(response, "job-printer-state-message", IPP_TAG_ZERO);
+    const char* message = told ? ippGetString(told, 0, nullptr) : "";
     const auto state = static_cast<ipp_jstate_t>(number("job-state"));
     using State = JobNews::State;
     if (state == IPP_JSTATE_COMPLETED) return {State::printed, ""};
-    if (state == IPP_JSTATE_CANCELED) return {State::givenUp, "it was cancelled"};
+    if (state == IPP_JSTATE_CANCELED) return {State::givenUp, said(Says::wasCancelled)};
     if (state == IPP_JSTATE_ABORTED) return {State::givenUp, withoutStop(message ? message : "")};
     if (number("number-of-documents") < 1) return {State::empty, ""};
     std::string words = wordsOf(reasons, true);
@@ -159,7 +158,7 @@ class CupsPrintService : public PrintService {
   public:
     PrinterList printers() override {
         const Connection connection;
-        if (!connection) return {{}, kNoAnswer};
+        if (!connection) return {{}, said(Says::noCups)};
         PrinterList list;
         Dests dests(connection.get());
         for (int i = 0; i < dests.count; ++i) {
@@ -173,20 +172,19 @@ class CupsPrintService : public PrintService {
         if (!list.problem.empty()) return {"", "", false, "", list.problem};
         const auto found = std::ranges::find(list.printers, name, &Printer::name);
         if (found != list.printers.end()) return *found;
-        if (list.printers.empty()) return {"", "", false, "", "There are no printers on this machine."};
+        if (list.printers.empty()) return {"", "", false, "", said(Says::noPrinters)};
         std::vector<std::string> names;
         for (const Printer& one : list.printers)
             names.push_back(one.name);
         const std::string nearest = nearestName(name, names);
-        return {
-            "", "", false, "",
-            "There is no printer \"" + name + "\"" + (nearest.empty() ? "." : "; did you mean \"" + nearest + "\"?")};
+        return {"", "", false, "",
+                nearest.empty() ? said(Says::noSuchPrinter, {name}) : said(Says::noSuchPrinterNear, {name, nearest})};
     }
 
     PrinterPapers papers(const std::string& name) override {
         PrinterPapers papers{{}, usualPaper(), ""};
         const Connection connection;
-        if (!connection) return {{}, usualPaper(), kNoAnswer};
+        if (!connection) return {{}, usualPaper(), said(Says::noCups)};
         const Dest dest(connection.get(), name);
         if (!dest) return {{}, usualPaper(), printer(name).trouble};
         cups_size_t size{};
@@ -207,9 +205,9 @@ class CupsPrintService : public PrintService {
 
     MadeJob make(const PrintJob& job) override {
         const Connection connection;
-        if (!connection) return {0, kNoAnswer};
+        if (!connection) return {0, said(Says::noCups)};
         const Dest dest(connection.get(), job.printer);
-        if (!dest) return {0, lastProblem("The printer \"" + job.printer + "\" cannot be asked")};
+        if (!dest) return {0, lastProblem(Says::printerUnasked, job.printer)};
         cups_option_t* options = nullptr;
         const std::string media = dest.mediaOf(job.paper);
         int count = cupsAddOption("print-scaling", "none", 0, &options);
@@ -219,29 +217,29 @@ class CupsPrintService : public PrintService {
             cupsCreateDestJob(connection.get(), dest.dest(), dest.info(), &id, job.title.c_str(), count, options);
         cupsFreeOptions(count, options);
         if (status <= IPP_STATUS_OK_EVENTS_COMPLETE && id > 0) return {id, ""};
-        return {0, lastProblem("The printer \"" + job.printer + "\" does not take the sheet")};
+        return {0, lastProblem(Says::doesNotTake, job.printer)};
     }
 
     std::string send(const PrintJob& job, int id, const std::string& document) override {
-        const std::string failed = "The sheet could not be sent to the printer \"" + job.printer + "\"";
+        const std::string unread = said(Says::sheetNotSent, {job.printer, said(Says::itsFileUnreadable, {document})});
         std::ifstream file(document, std::ios::binary);
-        if (!file) return failed + ": its file " + document + " cannot be read.";
+        if (!file) return unread;
         const Connection connection;
-        if (!connection) return kNoAnswer;
+        if (!connection) return said(Says::noCups);
         const Dest dest(connection.get(), job.printer);
-        if (!dest) return lastProblem(failed);
+        if (!dest) return lastProblem(Says::sheetNotSent, job.printer);
         if (cupsStartDestDocument(connection.get(), dest.dest(), dest.info(), id, "sheet.pdf", CUPS_FORMAT_PDF, 0,
                                   nullptr, 1) != HTTP_STATUS_CONTINUE)
-            return lastProblem(failed);
+            return lastProblem(Says::sheetNotSent, job.printer);
         std::vector<char> bytes(std::size_t{1} << 16U);
         while (file.read(bytes.data(), static_cast<std::streamsize>(bytes.size())), file.gcount() > 0) {
             if (cupsWriteRequestData(connection.get(), bytes.data(), static_cast<std::size_t>(file.gcount())) !=
                 HTTP_STATUS_CONTINUE)
-                return lastProblem(failed);
+                return lastProblem(Says::sheetNotSent, job.printer);
         }
-        if (file.bad()) return failed + ": its file " + document + " cannot be read.";
+        if (file.bad()) return unread;
         if (cupsFinishDestDocument(connection.get(), dest.dest(), dest.info()) > IPP_STATUS_OK_EVENTS_COMPLETE)
-            return lastProblem(failed);
+            return lastProblem(Says::sheetNotSent, job.printer);
         return "";
     }
 

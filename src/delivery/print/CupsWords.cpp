@@ -5,40 +5,42 @@
 #include <string_view>
 #include <utility>
 
+#include "delivery/words/Says.h"
+
 namespace tavrin {
 
 namespace {
 
 /// By the beginning of the keyword, since makers add to its end.
-constexpr std::array<std::pair<std::string_view, const char*>, 22> kWords{{
-    {"media-empty", "out of paper"},
-    {"media-needed", "out of paper"},
-    {"media-jam", "a paper jam"},
-    {"input-tray-missing", "the paper tray is missing"},
-    {"cover-open", "a cover is open"},
-    {"door-open", "a door is open"},
-    {"interlock-open", "a cover is open"},
-    {"toner-empty", "out of toner"},
-    {"marker-supply-empty", "out of ink"},
-    {"marker-waste-full", "the waste box is full"},
-    {"output-area-full", "the output tray is full"},
-    {"output-tray-missing", "the output tray is missing"},
-    {"offline", "switched off or not connected"},
-    {"connecting-to-device", "cannot be reached yet"},
-    {"timed-out", "does not answer"},
-    {"shutdown", "switched off"},
-    {"paused", "stopped"},
-    {"moving-to-paused", "stopped"},
-    {"printer-stopped", "stopped"},
-    {"stopped-partly", "partly stopped"},
-    {"job-hold-until", "held back"},
-    {"cups-missing-filter", "its driver is incomplete"},
+constexpr std::array<std::pair<std::string_view, Says>, 22> kWords{{
+    {"media-empty", Says::outOfPaper},
+    {"media-needed", Says::outOfPaper},
+    {"media-jam", Says::paperJam},
+    {"input-tray-missing", Says::noTray},
+    {"cover-open", Says::coverOpen},
+    {"door-open", Says::doorOpen},
+    {"interlock-open", Says::coverOpen},
+    {"toner-empty", Says::outOfToner},
+    {"marker-supply-empty", Says::outOfInk},
+    {"marker-waste-full", Says::wasteFull},
+    {"output-area-full", Says::outputFull},
+    {"output-tray-missing", Says::noOutputTray},
+    {"offline", Says::switchedOffOrAway},
+    {"connecting-to-device", Says::notReachedYet},
+    {"timed-out", Says::doesNotAnswer},
+    {"shutdown", Says::switchedOff},
+    {"paused", Says::stopped},
+    {"moving-to-paused", Says::stopped},
+    {"printer-stopped", Says::stopped},
+    {"stopped-partly", Says::partlyStopped},
+    {"job-hold-until", Says::heldForLater},
+    {"cups-missing-filter", Says::driverIncomplete},
 }};
 
 std::string wordOf(std::string_view keyword, bool warnings) {
     if (!warnings && (keyword.ends_with("-warning") || keyword.ends_with("-report"))) return "";
     for (const auto& [beginning, words] : kWords) {
-        if (keyword.starts_with(beginning)) return words;
+        if (keyword.starts_with(beginning)) return said(words);
     }
     return "";
 }

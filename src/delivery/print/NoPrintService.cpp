@@ -1,20 +1,17 @@
 #include "delivery/print/PrintService.h"
+#include "delivery/words/Says.h"
 
 namespace tavrin {
 
 namespace {
 
-constexpr const char* kNone =
-    "This program was built without a printing system, so there are no printers; a sheet "
-    "can be saved as a PDF and printed from there.";
-
 class NoPrintService : public PrintService {
   public:
-    PrinterList printers() override { return {{}, kNone}; }
+    PrinterList printers() override { return {{}, said(Says::builtWithoutPrinting)}; }
     PrinterPapers papers(const std::string&) override { return {usualPapers(), usualPaper(), ""}; }
-    Printer printer(const std::string&) override { return {"", "", false, "", kNone}; }
-    MadeJob make(const PrintJob&) override { return {0, kNone}; }
-    std::string send(const PrintJob&, int, const std::string&) override { return kNone; }
+    Printer printer(const std::string&) override { return {"", "", false, "", said(Says::builtWithoutPrinting)}; }
+    MadeJob make(const PrintJob&) override { return {0, said(Says::builtWithoutPrinting)}; }
+    std::string send(const PrintJob&, int, const std::string&) override { return said(Says::builtWithoutPrinting); }
     JobNews news(const PrintJob&, int) override { return {}; }
     bool cancel(const PrintJob&, int) override { return false; }
 };

@@ -17,6 +17,7 @@
 #include "core/files/AtomicFile.h"
 #include "core/files/NameText.h"
 #include "core/files/Places.h"
+#include "delivery/words/Says.h"
 
 namespace fs = std::filesystem;
 
@@ -75,7 +76,7 @@ std::string newName() {
 std::string makeFolder(const std::string& folder) {
     std::error_code failed;
     fs::create_directories(folder, failed);
-    if (failed) return "The folder " + folder + " for sheets that wait cannot be made: " + failed.message() + ".";
+    if (failed) return said(Says::noRoomForSheets, {folder, failed.message()});
     fs::permissions(folder, fs::perms::owner_all, failed);
     return "";
 }
@@ -103,7 +104,7 @@ std::string PrintQueue::add(QueuedSheet& sheet, const std::string& document) {
     std::error_code failed;
     fs::create_hard_link(document, own, failed);
     if (failed) fs::copy_file(document, own, failed);
-    if (failed) return "The sheet cannot be kept in " + folder_ + ": " + failed.message() + ".";
+    if (failed) return said(Says::sheetNotKept, {folder_, failed.message()});
     keepFromOthers(own);
     sheet.id = fs::path(own).stem().string();
     const std::string problem = note(sheet);
@@ -149,7 +150,7 @@ std::string PrintQueue::note(const QueuedSheet& sheet) const {
     const QByteArray bytes = QJsonDocument(objectOf(sheet)).toJson();
     AtomicFile file(path);
     file.write(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    if (!file.commit()) return "The sheet cannot be kept in " + folder_ + ": " + file.error() + ".";
+    if (!file.commit()) return said(Says::sheetNotKept, {folder_, file.error()});
     keepFromOthers(path);
     return "";
 }

@@ -3,6 +3,7 @@
 #include <QLockFile>
 
 #include "core/Log.h"
+#include "delivery/words/Says.h"
 
 namespace tavrin {
 
@@ -10,13 +11,6 @@ namespace {
 
 using Stage = QueuedSheet::Stage;
 using News = JobNews::State;
-
-constexpr const char* kBusy = "Another program is at work with this sheet.";
-constexpr const char* kUnsure = "It may have been printed already; look at the printer before it is sent again.";
-
-std::string printerOf(const QueuedSheet& sheet) {
-    return "The printer \"" + sheet.job.printer + "\"";
-}
 
 }  // namespace
 
@@ -32,7 +26,7 @@ QueuedSheet PrintRunner::stay(QueuedSheet sheet, Stage stage, const std::string&
 QueuedSheet PrintRunner::send(const std::string& id) {
     const auto hold = queue_.hold(id);
     QueuedSheet sheet = queue_.sheet(id);
-    if (!hold) sheet.reason = kBusy;
+    if (!hold) sheet.reason = said(Says::sheetBusy);
     return hold && sheet.stage == Stage::waiting && !sheet.id.empty() ? sendHeld(sheet) : sheet;
 }
 
@@ -63,7 +57,7 @@ QueuedSheet PrintRunner::sendHeld(QueuedSheet sheet) {
 
 /// What the printer knows of a sheet that may have gone, or is there.
 QueuedSheet PrintRunner::taken(QueuedSheet sheet, const JobNews& news) {
-    const std::string behind = news.reason.empty() ? "." : ": " + news.reason + ".";
+    const std::string& printer = sheet.job.printer;
     switch (news.state) {
         case News::printed:
             queue_.remove(sheet.id);
@@ -72,26 +66,25 @@ QueuedSheet PrintRunner::taken(QueuedSheet sheet, const JobNews& news) {
         case News::waiting:
         case News::printing:
             return stay(sheet, Stage::atPrinter,
-                        news.reason.empty() ? "" : printerOf(sheet) + " does not go on" + behind);
+                        news.reason.empty() ? "" : said(Says::doesNotGoOn, {printer, news.reason}));
         case News::empty: {
             // A document that is still on its way must not arrive in a job that is taken for dead.
             if (!service_.cancel(sheet.job, sheet.number))
-                return stay(sheet, Stage::unsure,
-                            printerOf(sheet) + " does not give it back. " + std::string(kUnsure));
-            const std::string reason =
-                sheet.reason.empty() ? "The program was ended before the sheet was sent." : sheet.reason;
+                return stay(sheet, Stage::unsure, said(Says::keepsItUnsure, {printer}));
+            const std::string reason = sheet.reason.empty() ? said(Says::endedBeforeSheet) : sheet.reason;
             return stay(sheet, Stage::waiting, reason);
         }
         case News::givenUp:
-            return stay(sheet, Stage::waiting, printerOf(sheet) + " did not print it" + behind);
+            return stay(sheet, Stage::waiting,
+                        news.reason.empty() ? said(Says::didNotPrint, {printer})
+                                            : said(Says::didNotPrintFor, {printer, news.reason}));
         case News::unknown:
-            return stay(sheet, Stage::unsure,
-                        printerOf(sheet) + " does not know it any more. " + std::string(kUnsure));
+            return stay(sheet, Stage::unsure, said(Says::forgotItUnsure, {printer}));
         case News::unreachable:
             break;
     }
     if (sheet.stage == Stage::atPrinter) return sheet;
-    return stay(sheet, Stage::unsure, printerOf(sheet) + " cannot be asked. " + std::string(kUnsure));
+    return stay(sheet, Stage::unsure, said(Says::unaskedUnsure, {printer}));
 }
 
 void PrintRunner::follow(const std::string& id) {
@@ -100,7 +93,7 @@ void PrintRunner::follow(const std::string& id) {
     const QueuedSheet sheet = queue_.sheet(id);
     if (sheet.id.empty() || sheet.stage == Stage::waiting) return;
     if (sheet.number == 0) {  // it had no job yet, so nothing was printed
-        stay(sheet, Stage::waiting, "The program was ended before the sheet was sent.");
+        stay(sheet, Stage::waiting, said(Says::endedBeforeSheet));
     } else {
         taken(sheet, service_.news(sheet.job, sheet.number));
     }
@@ -124,10 +117,10 @@ bool PrintRunner::takeBack(QueuedSheet& sheet) {
 QueuedSheet PrintRunner::sendAgain(const std::string& id) {
     const auto hold = queue_.hold(id);
     QueuedSheet sheet = queue_.sheet(id);
-    if (!hold) sheet.reason = kBusy;
+    if (!hold) sheet.reason = said(Says::sheetBusy);
     if (!hold || sheet.id.empty()) return sheet;
     if (!takeBack(sheet)) {
-        if (!sheet.id.empty()) sheet.reason = printerOf(sheet) + " has the sheet and does not give it back.";
+        if (!sheet.id.empty()) sheet.reason = said(Says::keepsSheet, {sheet.job.printer});
         return sheet;
     }
     return sendHeld(sheet);
@@ -135,10 +128,10 @@ QueuedSheet PrintRunner::sendAgain(const std::string& id) {
 
 std::string PrintRunner::discard(const std::string& id) {
     const auto hold = queue_.hold(id);
-    if (!hold) return kBusy;
+    if (!hold) return said(Says::sheetBusy);
     QueuedSheet sheet = queue_.sheet(id);
     if (sheet.id.empty()) return "";
-    if (!takeBack(sheet) && !sheet.id.empty()) return printerOf(sheet) + " has the sheet and does not give it back.";
+    if (!takeBack(sheet) && !sheet.id.empty()) return said(Says::keepsSheet, {sheet.job.printer});
     queue_.remove(id);
     return "";
 }

@@ -3,6 +3,7 @@
 #include <lcms2.h>
 
 #include "core/raster/Rows.h"
+#include "delivery/words/Says.h"
 
 namespace tavrin {
 
@@ -24,13 +25,11 @@ class Profile {
 };
 
 std::string whyUnfit(cmsHPROFILE profile, cmsUInt32Number intent) {
-    if (!profile) return "it is no ICC profile";
-    if (cmsGetColorSpace(profile) == cmsSigCmykData)
-        return "it is for a printer that takes four inks, and sheets are sent in red, green and blue; take the "
-               "printer's RGB profile";
-    if (cmsGetColorSpace(profile) != cmsSigRgbData) return "it is not for red, green and blue";
+    if (!profile) return said(Says::noProfile);
+    if (cmsGetColorSpace(profile) == cmsSigCmykData) return said(Says::fourInks);
+    if (cmsGetColorSpace(profile) != cmsSigRgbData) return said(Says::notRgb);
     if (!cmsIsIntentSupported(profile, intent, LCMS_USED_AS_OUTPUT) && !cmsIsMatrixShaper(profile))
-        return "it does not tell how to print";
+        return said(Says::noWayToPrint);
     return "";
 }
 
@@ -51,9 +50,9 @@ std::shared_ptr<const PrinterProfile> PrinterProfile::load(const std::string& pa
             cmsCreateTransform(srgb.get(), TYPE_RGBA_8, printer.get(), TYPE_RGBA_8, wanted,
                                black | cmsFLAGS_COPY_ALPHA | cmsFLAGS_NOCACHE | cmsFLAGS_HIGHRESPRECALC);
         if (transform) return std::shared_ptr<const PrinterProfile>(new PrinterProfile(transform));
-        problem = "it is damaged";
+        problem = said(Says::profileDamaged);
     }
-    problem = "The colour profile " + path + " cannot be used: " + problem + ".";
+    problem = said(Says::profileUnusable, {path, problem});
     return nullptr;
 }
 

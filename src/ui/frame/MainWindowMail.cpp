@@ -5,6 +5,7 @@
 #include "core/files/Places.h"
 #include "core/image/Location.h"
 #include "delivery/mail/SharingService.h"
+#include "ui/ReasonText.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/WorkBar.h"
 #include "ui/mail/MailPage.h"
@@ -32,7 +33,7 @@ int MainWindow::workUnderWay() const {
 }
 
 void MainWindow::tellMail(const Posted& posted, const QString& to) {
-    const QString reason = QString::fromStdString(posted.reason);
+    const QString reason = reasonText(posted.reason);
     if (posted.isSent()) {
         messages_->tell(tr("The mail to %1 is sent.").arg(to));
     } else if (posted.end == MailEnd::unknown) {

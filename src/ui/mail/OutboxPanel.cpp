@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "core/files/NameText.h"
+#include "ui/ReasonText.h"
 #include "ui/bind/WordButton.h"
 #include "ui/mail/MailDesk.h"
 
@@ -34,7 +35,7 @@ QString stateOf(const OutboxEntry& entry) {
 QString linesOf(const OutboxEntry& entry) {
     const QString title = QString::fromStdString(entry.mail.subject);
     return OutboxPanel::tr("%1: %2").arg(QString::fromStdString(entry.mail.to), stateOf(entry)) + '\n' +
-           (title.isEmpty() ? "" : title + '\n') + QString::fromStdString(entry.reason);
+           (title.isEmpty() ? "" : title + '\n') + reasonText(entry.reason);
 }
 
 }  // namespace

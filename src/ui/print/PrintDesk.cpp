@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include "core/files/NameText.h"
+#include "ui/ReasonText.h"
 
 namespace tavrin {
 
@@ -78,7 +79,7 @@ void PrintDesk::print(const PrintOrder& order, const SheetPicture& picture) {
         std::vector<std::string> ids;
         const std::string problem = queueSheets(tools.queue, order, picture, ids);
         if (!problem.empty())
-            return [this, problem] { emit failed(tr("The sheet cannot be made."), QString::fromStdString(problem)); };
+            return [this, problem] { emit failed(tr("The sheet cannot be made."), reasonText(problem)); };
         PrintRunner runner(tools.queue, *tools.service);
         for (const std::string& id : ids)
             runner.send(id);
@@ -93,7 +94,7 @@ void PrintDesk::savePdf(const SheetPlan& plan, const SheetPicture& picture, cons
         const std::string problem = sheet.commit();
         return [this, problem, path] {
             if (problem.empty()) emit told(tr("The sheet is saved as %1.").arg(path));
-            if (!problem.empty()) emit failed(tr("The sheet cannot be saved."), QString::fromStdString(problem));
+            if (!problem.empty()) emit failed(tr("The sheet cannot be saved."), reasonText(problem));
         };
     });
 }
@@ -105,7 +106,7 @@ void PrintDesk::sendAgain(const std::string& id) {
             take(sheets);
             // A person has asked, so an answer comes also where nothing has changed.
             if (!sheet.id.empty() && !sheet.reason.empty())
-                emit failed(tr("%1 is not printed.").arg(titleOf(sheet)), QString::fromStdString(sheet.reason));
+                emit failed(tr("%1 is not printed.").arg(titleOf(sheet)), reasonText(sheet.reason));
         };
     });
 }
@@ -116,7 +117,7 @@ void PrintDesk::discard(const std::string& id) {
         return [this, id, problem, sheets = tools.queue.sheets()] {
             std::erase_if(sheets_, [&](const QueuedSheet& sheet) { return problem.empty() && sheet.id == id; });
             take(sheets);
-            if (!problem.empty()) emit failed(tr("The sheet stays."), QString::fromStdString(problem));
+            if (!problem.empty()) emit failed(tr("The sheet stays."), reasonText(problem));
         };
     });
 }
@@ -153,7 +154,7 @@ void PrintDesk::tellNews(const QueuedSheet& sheet, const QueuedSheet* before) {
     if (isSame) return;
     if (!sheet.reason.empty()) {
         emit failed(tr("%1 is not printed; it waits among the sheets of the Print page.").arg(titleOf(sheet)),
-                    QString::fromStdString(sheet.reason));
+                    reasonText(sheet.reason));
     } else if (sheet.stage == Stage::atPrinter && (!before || before->stage != Stage::atPrinter)) {
         emit told(tr("%1 is sent to %2.").arg(titleOf(sheet), textOfName(sheet.job.printer)));
     }

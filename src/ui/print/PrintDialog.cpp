@@ -17,6 +17,7 @@
 #include "core/files/NameText.h"
 #include "delivery/print/Caption.h"
 #include "session/PrintPages.h"
+#include "ui/ReasonText.h"
 #include "ui/WindowSettings.h"
 
 namespace tavrin {
@@ -208,7 +209,7 @@ void PrintDialog::showPrinters(const PrinterList& list) {
         state_->setText(list.problem.empty()
                             ? tr("There are no printers on this machine. Add one in the desktop's settings, or save "
                                  "the sheet as a PDF.")
-                            : QString::fromStdString(list.problem));
+                            : reasonText(list.problem));
         print_->setEnabled(false);
         return;
     }
@@ -224,7 +225,7 @@ void PrintDialog::choosePrinter() {
     const auto index = static_cast<std::size_t>(printer_->currentIndex());
     if (index >= printers_.size()) return;
     const Printer& one = printers_[index];
-    state_->setText(QString::fromStdString(one.trouble.empty() ? one.state : one.trouble));
+    state_->setText(reasonText(one.trouble.empty() ? one.state : one.trouble));
     desk_.askPapers(printer_->currentData().toString());
 }
 
@@ -333,7 +334,7 @@ bool PrintDialog::plan(SheetPlan& plan) {
     std::string problem;
     plan.profile =
         PrinterProfile::load(nameOfText(profile_->text()), static_cast<Intent>(intent_->currentIndex()), problem);
-    if (!problem.empty()) tell(QString::fromStdString(problem));
+    if (!problem.empty()) tell(reasonText(problem));
     return problem.empty();
 }
 

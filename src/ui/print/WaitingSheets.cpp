@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "core/files/NameText.h"
+#include "ui/ReasonText.h"
 
 namespace tavrin {
 
@@ -90,7 +91,7 @@ void WaitingSheets::show() {
     table_->setRowCount(static_cast<int>(sheets.size()));
     for (int row = 0; row < table_->rowCount(); ++row) {
         const QueuedSheet& sheet = sheets[static_cast<std::size_t>(row)];
-        const QString why = QString::fromStdString(sheet.reason);
+        const QString why = reasonText(sheet.reason);
         const QString texts[] = {QString::fromStdString(sheet.job.title), textOfName(sheet.job.printer),
                                  why.isEmpty() ? stageText(sheet.stage) : stageText(sheet.stage) + ": " + why};
         for (int i = 0; i < 3; ++i) {
@@ -133,7 +134,7 @@ void WaitingSheets::askAbout(const std::vector<QueuedSheet>& unsure) {
                                 tr("What is selected may have been printed already. Print it once more?"),
                                 QMessageBox::NoButton, this);
     box->setObjectName("sendUnsureSheet");
-    box->setInformativeText(QString::fromStdString(unsure.front().reason));
+    box->setInformativeText(reasonText(unsure.front().reason));
     box->addButton(tr("Print Once More"), QMessageBox::AcceptRole);
     box->setDefaultButton(box->addButton(tr("Cancel"), QMessageBox::RejectRole));
     box->setAttribute(Qt::WA_DeleteOnClose);
