@@ -407,6 +407,34 @@
         <source>the folder %1 can only be read</source>
         <translation>der Ordner %1 kann nur gelesen werden</translation>
     </message>
+    <message>
+        <source>the file would be larger than this disk allows</source>
+        <translation>die Datei wäre größer, als dieser Datenträger zulässt</translation>
+    </message>
+    <message>
+        <source>there is a folder of that name</source>
+        <translation>es gibt einen Ordner dieses Namens</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>der Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>%1 is write-protected and stays as it is</source>
+        <translation>%1 ist schreibgeschützt und bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>%1 is not a plain file</source>
+        <translation>%1 ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>Line %1 of delivery.conf (%2) means nothing.</source>
+        <translation>Zeile %1 von delivery.conf (%2) bedeutet nichts.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 ist nicht lesbar.</translation>
+    </message>
 </context>
 <context>
     <name>Edits</name>

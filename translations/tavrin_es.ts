@@ -407,6 +407,34 @@
         <source>the folder %1 can only be read</source>
         <translation>la carpeta %1 es de solo lectura</translation>
     </message>
+    <message>
+        <source>the file would be larger than this disk allows</source>
+        <translation>el archivo sería mayor de lo que admite este disco</translation>
+    </message>
+    <message>
+        <source>there is a folder of that name</source>
+        <translation>hay una carpeta con ese nombre</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>el nombre es demasiado largo</translation>
+    </message>
+    <message>
+        <source>%1 is write-protected and stays as it is</source>
+        <translation>%1 está protegido contra escritura y queda como está</translation>
+    </message>
+    <message>
+        <source>%1 is not a plain file</source>
+        <translation>%1 no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>Line %1 of delivery.conf (%2) means nothing.</source>
+        <translation>La línea %1 de delivery.conf (%2) no significa nada.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>No se puede leer %1.</translation>
+    </message>
 </context>
 <context>
     <name>Edits</name>

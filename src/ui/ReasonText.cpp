@@ -63,6 +63,14 @@ QString part(const QString& english, int depth) {
     return words.join(QStringLiteral(", "));
 }
 
+/// "FILE: why."
+QString lineText(const QString& english) {
+    if (const auto whole = translated(english, 0)) return *whole;
+    const qsizetype colon = english.lastIndexOf(QStringLiteral(": "));
+    if (colon < 0 || !english.endsWith('.')) return part(english, 0);
+    return english.left(colon + 2) + part(english.mid(colon + 2).chopped(1), 0) + '.';
+}
+
 std::optional<QString> translated(const QString& english, int depth) {
     constexpr int kDeepest = 3;
     if (depth > kDeepest || english.isEmpty()) return {};
@@ -87,7 +95,7 @@ std::optional<QString> translated(const QString& english, int depth) {
 QString reasonText(const std::string& english) {
     QStringList lines = QString::fromStdString(english).split('\n');
     for (QString& line : lines)
-        line = part(line, 0);
+        line = lineText(line);
     return lines.join('\n');
 }
 

@@ -53,7 +53,7 @@ TEST_F(MailSettingsTest, TheConfigurationIsReadToTheEndOfItsLinesAndClosedToOthe
     EXPECT_EQ(conf.relayHost, "mail.example.org");
     EXPECT_EQ(conf.relayPassword, "a = b;c # d");
     EXPECT_EQ(conf.problem,
-              "Line 4 of delivery.conf (relay-prot) means nothing. Line 6 of delivery.conf (odd) means nothing.");
+              "Line 4 of delivery.conf (relay-prot) means nothing.\nLine 6 of delivery.conf (odd) means nothing.");
     struct stat facts {};
     ASSERT_EQ(::stat(deliveryConfFile().c_str(), &facts), 0);
     EXPECT_EQ(facts.st_mode & 0777, 0600u);

@@ -45,6 +45,8 @@ TEST_F(ReasonTest, ServersWordsAndNamesStayAndWordsInASentenceAreTranslated) {
     EXPECT_EQ(
         reasonText(said(Says::printerStoppedBy, {"a \"b\" (c)", words})),
         QString::fromUtf8("Der Drucker \u201ea \"b\" (c)\u201c ist angehalten: kein Papier, eine Klappe ist offen."));
+    EXPECT_EQ(reasonText("/a: b/sheet.pdf: the disk is full."),
+              QString::fromUtf8("/a: b/sheet.pdf: der Datentr\u00e4ger ist voll."));
     for (const char* other :
          {"", "550 5.1.1 unknown, really", "some words of a printer", "%1", "out of paper, and so on"})
         EXPECT_EQ(reasonText(other), other);

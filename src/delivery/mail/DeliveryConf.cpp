@@ -10,6 +10,7 @@
 #include <QFile>
 
 #include "core/files/NameText.h"
+#include "delivery/words/Says.h"
 #include "formats/SafeFile.h"
 
 namespace tavrin {
@@ -39,8 +40,8 @@ void readLine(DeliveryConf& conf, const std::string& line, int number) {
     } else if (name == "check-certificates" && (value == "yes" || value == "no")) {
         conf.checkCertificates = value == "yes";
     } else {
-        conf.problem += (conf.problem.empty() ? "" : " ") +
-                        ("Line " + std::to_string(number) + " of delivery.conf (" + name + ") means nothing.");
+        if (!conf.problem.empty()) conf.problem += '\n';
+        conf.problem += said(Says::confLine, {std::to_string(number), name});
     }
 }
 
@@ -65,7 +66,7 @@ DeliveryConf readDeliveryConf(const std::string& path) {
     constexpr auto kOwner = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
     if (QFile::permissions(name) & ~kOwner) QFile::setPermissions(name, QFile::ReadOwner | QFile::WriteOwner);
     std::ifstream file(path);
-    if (!file) conf.problem = path + " cannot be read.";
+    if (!file) conf.problem = said(Says::confUnreadable, {path});
     int number = 0;
     for (std::string line; std::getline(file, line);)
         readLine(conf, line, ++number);

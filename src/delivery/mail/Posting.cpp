@@ -77,6 +77,7 @@ MailRoute routeOf(const QLXInfo& settings, const DeliveryConf& conf) {
             if (value.empty())
                 missing += (missing.empty() ? "" : ", ") + said(Says::missingIn, {name, deliveryConfFile()});
         if (!missing.empty()) route.problem = said(Says::relayMissing, {missing});
+        if (!missing.empty() && !conf.problem.empty()) route.problem += '\n' + conf.problem;  // a slip of the pen
     } else if (route.server.host.empty()) {
         route.problem = said(Says::noServer);
     } else if (route.from.empty()) {

@@ -105,36 +105,43 @@ constexpr const char* kWords[] = {
     QT_TRANSLATE_NOOP("Delivery", "it is no ICC profile"),                                         // noProfile
     QT_TRANSLATE_NOOP("Delivery",
                       "it is for a printer that takes four inks, and sheets are sent in red, green and blue; take "
-                      "the printer's RGB profile"),                              // fourInks
-    QT_TRANSLATE_NOOP("Delivery", "it is not for red, green and blue"),          // notRgb
-    QT_TRANSLATE_NOOP("Delivery", "it does not tell how to print"),              // noWayToPrint
-    QT_TRANSLATE_NOOP("Delivery", "it is damaged"),                              // profileDamaged
-    QT_TRANSLATE_NOOP("Delivery", "out of paper"),                               // outOfPaper
-    QT_TRANSLATE_NOOP("Delivery", "a paper jam"),                                // paperJam
-    QT_TRANSLATE_NOOP("Delivery", "the paper tray is missing"),                  // noTray
-    QT_TRANSLATE_NOOP("Delivery", "a cover is open"),                            // coverOpen
-    QT_TRANSLATE_NOOP("Delivery", "a door is open"),                             // doorOpen
-    QT_TRANSLATE_NOOP("Delivery", "out of toner"),                               // outOfToner
-    QT_TRANSLATE_NOOP("Delivery", "out of ink"),                                 // outOfInk
-    QT_TRANSLATE_NOOP("Delivery", "the waste box is full"),                      // wasteFull
-    QT_TRANSLATE_NOOP("Delivery", "the output tray is full"),                    // outputFull
-    QT_TRANSLATE_NOOP("Delivery", "the output tray is missing"),                 // noOutputTray
-    QT_TRANSLATE_NOOP("Delivery", "switched off or not connected"),              // switchedOffOrAway
-    QT_TRANSLATE_NOOP("Delivery", "cannot be reached yet"),                      // notReachedYet
-    QT_TRANSLATE_NOOP("Delivery", "does not answer"),                            // doesNotAnswer
-    QT_TRANSLATE_NOOP("Delivery", "switched off"),                               // switchedOff
-    QT_TRANSLATE_NOOP("Delivery", "printing"),                                   // printing
-    QT_TRANSLATE_NOOP("Delivery", "ready"),                                      // ready
-    QT_TRANSLATE_NOOP("Delivery", "takes no jobs"),                              // noJobsNow
-    QT_TRANSLATE_NOOP("Delivery", "stopped"),                                    // stopped
-    QT_TRANSLATE_NOOP("Delivery", "partly stopped"),                             // partlyStopped
-    QT_TRANSLATE_NOOP("Delivery", "held back"),                                  // heldForLater
-    QT_TRANSLATE_NOOP("Delivery", "its driver is incomplete"),                   // driverIncomplete
-    QT_TRANSLATE_NOOP("Delivery", "the disk is full"),                           // diskFull
-    QT_TRANSLATE_NOOP("Delivery", "the folder %1 does not exist"),               // noFolder
-    QT_TRANSLATE_NOOP("Delivery", "%1 is not a folder"),                         // notAFolder
-    QT_TRANSLATE_NOOP("Delivery", "no permission to write into the folder %1"),  // mayNotWrite
-    QT_TRANSLATE_NOOP("Delivery", "the folder %1 can only be read"),             // onlyReadable
+                      "the printer's RGB profile"),                                   // fourInks
+    QT_TRANSLATE_NOOP("Delivery", "it is not for red, green and blue"),               // notRgb
+    QT_TRANSLATE_NOOP("Delivery", "it does not tell how to print"),                   // noWayToPrint
+    QT_TRANSLATE_NOOP("Delivery", "it is damaged"),                                   // profileDamaged
+    QT_TRANSLATE_NOOP("Delivery", "out of paper"),                                    // outOfPaper
+    QT_TRANSLATE_NOOP("Delivery", "a paper jam"),                                     // paperJam
+    QT_TRANSLATE_NOOP("Delivery", "the paper tray is missing"),                       // noTray
+    QT_TRANSLATE_NOOP("Delivery", "a cover is open"),                                 // coverOpen
+    QT_TRANSLATE_NOOP("Delivery", "a door is open"),                                  // doorOpen
+    QT_TRANSLATE_NOOP("Delivery", "out of toner"),                                    // outOfToner
+    QT_TRANSLATE_NOOP("Delivery", "out of ink"),                                      // outOfInk
+    QT_TRANSLATE_NOOP("Delivery", "the waste box is full"),                           // wasteFull
+    QT_TRANSLATE_NOOP("Delivery", "the output tray is full"),                         // outputFull
+    QT_TRANSLATE_NOOP("Delivery", "the output tray is missing"),                      // noOutputTray
+    QT_TRANSLATE_NOOP("Delivery", "switched off or not connected"),                   // switchedOffOrAway
+    QT_TRANSLATE_NOOP("Delivery", "cannot be reached yet"),                           // notReachedYet
+    QT_TRANSLATE_NOOP("Delivery", "does not answer"),                                 // doesNotAnswer
+    QT_TRANSLATE_NOOP("Delivery", "switched off"),                                    // switchedOff
+    QT_TRANSLATE_NOOP("Delivery", "printing"),                                        // printing
+    QT_TRANSLATE_NOOP("Delivery", "ready"),                                           // ready
+    QT_TRANSLATE_NOOP("Delivery", "takes no jobs"),                                   // noJobsNow
+    QT_TRANSLATE_NOOP("Delivery", "stopped"),                                         // stopped
+    QT_TRANSLATE_NOOP("Delivery", "partly stopped"),                                  // partlyStopped
+    QT_TRANSLATE_NOOP("Delivery", "held back"),                                       // heldForLater
+    QT_TRANSLATE_NOOP("Delivery", "its driver is incomplete"),                        // driverIncomplete
+    QT_TRANSLATE_NOOP("Delivery", "the disk is full"),                                // diskFull
+    QT_TRANSLATE_NOOP("Delivery", "the folder %1 does not exist"),                    // noFolder
+    QT_TRANSLATE_NOOP("Delivery", "%1 is not a folder"),                              // notAFolder
+    QT_TRANSLATE_NOOP("Delivery", "no permission to write into the folder %1"),       // mayNotWrite
+    QT_TRANSLATE_NOOP("Delivery", "the file would be larger than this disk allows"),  // fileTooLarge
+    QT_TRANSLATE_NOOP("Delivery", "there is a folder of that name"),                  // folderOfThatName
+    QT_TRANSLATE_NOOP("Delivery", "the name is too long"),                            // nameTooLong
+    QT_TRANSLATE_NOOP("Delivery", "%1 is write-protected and stays as it is"),        // writeProtected
+    QT_TRANSLATE_NOOP("Delivery", "%1 is not a plain file"),                          // notAPlainFile
+    QT_TRANSLATE_NOOP("Delivery", "Line %1 of delivery.conf (%2) means nothing."),    // confLine
+    QT_TRANSLATE_NOOP("Delivery", "%1 cannot be read."),                              // confUnreadable
+    QT_TRANSLATE_NOOP("Delivery", "the folder %1 can only be read"),                  // onlyReadable
 };
 static_assert(std::size(kWords) == static_cast<std::size_t>(Says::last) + 1);
 

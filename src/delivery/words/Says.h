@@ -108,6 +108,13 @@ enum class Says {
     noFolder,
     notAFolder,
     mayNotWrite,
+    fileTooLarge,
+    folderOfThatName,
+    nameTooLong,
+    writeProtected,
+    notAPlainFile,
+    confLine,
+    confUnreadable,
     onlyReadable,
     last = onlyReadable
 };

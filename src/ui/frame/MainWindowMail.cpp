@@ -87,7 +87,7 @@ void MainWindow::shareUsingEmail() {
     withMailPicture([this, letter](const std::string& picture) {
         const std::string problem = MailDesk::keepsLocation() ? "" : takeLocationOut(picture);
         if (!problem.empty())
-            return messages_->fail(tr("The mail program could not be opened."), QString::fromStdString(problem));
+            return messages_->fail(tr("The mail program could not be opened."), reasonText(problem));
         sharingServiceDelegate service;
         service.setRecipientString(letter.to.trimmed().toStdString());
         service.setSubjectString(letter.title.toStdString());

@@ -9,6 +9,7 @@
 #include "core/files/NameText.h"
 #include "core/files/StandardPath.h"
 #include "delivery/pages/ComparePage.h"
+#include "ui/ReasonText.h"
 
 namespace tavrin {
 
@@ -85,8 +86,7 @@ void ReviewDesk::showFirstPage(int page, const std::vector<std::string>& picture
 void ReviewDesk::endReview(const WrittenPages& written) {
     slow_.stop();
     isMaking_ = false;
-    if (!written.problem.empty())
-        emit failed(tr("The pages cannot be written."), QString::fromStdString(written.problem));
+    if (!written.problem.empty()) emit failed(tr("The pages cannot be written."), reasonText(written.problem));
     if (written.count == 0) {
         const QString folder = textOfName(standardizePath(info_.oQLXInfo->sLastBatchOutput));
         return emit told(tr("%1 holds no pictures.").arg(folder));
@@ -122,8 +122,7 @@ void ReviewDesk::compare(const QString& folder) {
 
 void ReviewDesk::endCompare(const QString& folder, const WrittenPages& written) {
     slow_.stop();
-    if (!written.problem.empty())
-        return emit failed(tr("The pages cannot be written."), QString::fromStdString(written.problem));
+    if (!written.problem.empty()) return emit failed(tr("The pages cannot be written."), reasonText(written.problem));
     if (written.count == 0) return emit told(tr("%1 holds no pictures.").arg(folder));
     compared_ = folder;
     portraits_ = info_.myFileNames = written.pictures;
