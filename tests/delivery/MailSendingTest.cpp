@@ -87,6 +87,24 @@ TEST_F(MailSendingTest, AMailArrivesOnceWithItsWordsAndItsFile) {
     EXPECT_EQ(QByteArray::fromBase64(text.mid(file, text.indexOf("\r\n--", file) - file)).toStdString(), bytes_);
 }
 
+TEST_F(MailSendingTest, AFileWhoseNameIsNoTextIsAttached) {
+    test::SmtpServer server;
+    const std::string path = folder_.file("a\xff\n%\xfe.jpg");
+    test::writeFile(path, "the picture");
+    Email mail = email();
+    mail.AddFileAttachment(path);
+    ASSERT_TRUE(mail.LastMethodSuccess()) << mail.LastErrorText();
+    MailMan man = manFor(server);
+    EXPECT_EQ(man.SendEmail(mail), 1) << man.LastErrorText();
+    ASSERT_EQ(server.mails().size(), 1u);
+    const std::string text = server.mails()[0];
+    EXPECT_NE(text.find(QByteArray("the picture").toBase64().toStdString()), std::string::npos);
+    const std::size_t name = text.find("filename*=utf-8''a");
+    ASSERT_NE(name, std::string::npos);
+    EXPECT_EQ(text.substr(text.find("\r\n", name) - 8, 8), "%3F.jpg");
+    EXPECT_NE(text.find("_%25"), std::string::npos) << "no line break in the name that the recipient sees";
+}
+
 TEST_F(MailSendingTest, OnlyTheRightPasswordOpensTheServer) {
     test::SmtpHabits habits;
     habits.auth = QByteArray("\0studio\0pass w\xC3\xB6rd", 18).toBase64().toStdString();

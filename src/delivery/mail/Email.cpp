@@ -1,8 +1,12 @@
 #include "delivery/mail/Email.h"
 
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
 #include <QFile>
 
-#include "core/files/NameText.h"
 #include "core/files/StandardPath.h"
 #include "core/image/Location.h"
 #include "delivery/mail/MailText.h"
@@ -33,12 +37,14 @@ void Email::AddTo(const std::string& displayName, const std::string& address) {
 }
 
 void Email::AddFileAttachment(const std::string& path, const std::string& name, bool keepLocation) {
-    QFile file(textOfName(path));
-    if (!file.open(QFile::ReadOnly))
-        return fail(said(Says::cannotBeAttached, {path, file.errorString().toStdString()}));
-    attachment_ = file.readAll();
-    if (file.error() != QFile::NoError)
-        return fail(said(Says::cannotBeAttached, {path, file.errorString().toStdString()}));
+    // By the bytes of its name, which need not be text.
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), &std::fclose);
+    QFile bytes;
+    const bool isOpen = file && bytes.open(file.get(), QFile::ReadOnly);
+    if (!isOpen) return fail(said(Says::cannotBeAttached, {path, std::strerror(errno)}));
+    attachment_ = bytes.readAll();
+    if (bytes.error() != QFile::NoError)
+        return fail(said(Says::cannotBeAttached, {path, bytes.errorString().toStdString()}));
     if (!keepLocation) attachment_ = fileWithoutLocation(std::move(attachment_));
     attachmentName_ = name.empty() ? lastPathComponent(path) : name;
 }

@@ -64,7 +64,9 @@ std::string headerText(const std::string& text) {
     return words;
 }
 
-std::string dispositionLine(const std::string& fileName) {
+std::string dispositionLine(const std::string& anyName) {
+    std::string fileName = anyName;
+    std::ranges::replace_if(fileName, isControl, '_');  // which other systems' files cannot have in their names
     const std::string begin = "Content-Disposition: attachment; filename";
     if (isPlain(fileName) && fileName.find_first_of("\"\\") == std::string::npos)
         return begin + "=\"" + fileName + "\"";
