@@ -435,6 +435,10 @@
         <source>%1 cannot be read.</source>
         <translation>%1 ist nicht lesbar.</translation>
     </message>
+    <message>
+        <source>The file of certificates %1 cannot be read or holds none, so nothing was sent.</source>
+        <translation>Die Zertifikatsdatei %1 ist nicht lesbar oder enthält keine, deshalb wurde nichts gesendet.</translation>
+    </message>
 </context>
 <context>
     <name>Edits</name>

@@ -435,6 +435,10 @@
         <source>%1 cannot be read.</source>
         <translation>No se puede leer %1.</translation>
     </message>
+    <message>
+        <source>The file of certificates %1 cannot be read or holds none, so nothing was sent.</source>
+        <translation>El archivo de certificados %1 no se puede leer o no contiene ninguno, así que no se envió nada.</translation>
+    </message>
 </context>
 <context>
     <name>Edits</name>

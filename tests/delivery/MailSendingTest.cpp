@@ -87,6 +87,20 @@ TEST_F(MailSendingTest, AMailArrivesOnceWithItsWordsAndItsFile) {
     EXPECT_EQ(QByteArray::fromBase64(text.mid(file, text.indexOf("\r\n--", file) - file)).toStdString(), bytes_);
 }
 
+TEST_F(MailSendingTest, AFileThatHoldsNoCertificatesIsNamed) {
+    test::SmtpServer server;
+    test::writeFile(folder_.file("none.pem"), "no certificate");
+    for (const char* name : {"none.pem", "gone.pem"}) {
+        MailMan man;
+        MailServer smtps{"127.0.0.1", "", "", server.port(), true};
+        smtps.caFile = folder_.file(name);
+        man.setServer(smtps);
+        EXPECT_EQ(man.SendEmail(email()), 0);
+        EXPECT_EQ(man.end(), MailEnd::refused);
+        EXPECT_NE(man.LastErrorText().find(smtps.caFile), std::string::npos) << man.LastErrorText();
+    }
+}
+
 TEST_F(MailSendingTest, AFileWhoseNameIsNoTextIsAttached) {
     test::SmtpServer server;
     const std::string path = folder_.file("a\xff\n%\xfe.jpg");
@@ -101,7 +115,7 @@ TEST_F(MailSendingTest, AFileWhoseNameIsNoTextIsAttached) {
     EXPECT_NE(text.find(QByteArray("the picture").toBase64().toStdString()), std::string::npos);
     const std::size_t name = text.find("filename*=utf-8''a");
     ASSERT_NE(name, std::string::npos);
-    EXPECT_EQ(text.substr(text.find("\r\n", name) - 8, 8), "%3F.jpg");
+    EXPECT_EQ(text.substr(text.find("\r\n", name) - 7, 7), "%3F.jpg");
     EXPECT_NE(text.find("_%25"), std::string::npos) << "no line break in the name that the recipient sees";
 }
 

@@ -280,6 +280,8 @@ class MailTalk {
                 return said(Says::noEncryption, {host, port});
             case CURLE_PEER_FAILED_VERIFICATION:
                 return said(Says::notTrusted, {host, told_});
+            case CURLE_SSL_CACERT_BADFILE:
+                return said(Says::noCertificates, {man_.server_.caFile});
             case CURLE_SSL_CONNECT_ERROR:
                 return said(Says::noSecureConnection, {host, told_});
             default:

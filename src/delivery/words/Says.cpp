@@ -26,6 +26,9 @@ constexpr const char* kWords[] = {
                       "%1 offers no encryption (STARTTLS) on port %2, so nothing was sent."),  // noEncryption
     QT_TRANSLATE_NOOP("Delivery",
                       "The certificate of %1 is not to be trusted, so nothing was sent: %2"),  // notTrusted
+    QT_TRANSLATE_NOOP(
+        "Delivery",
+        "The file of certificates %1 cannot be read or holds none, so nothing was sent."),  // noCertificates
     QT_TRANSLATE_NOOP("Delivery",
                       "No encrypted connection to %1 comes about; is the port right? %2"),  // noSecureConnection
     QT_TRANSLATE_NOOP("Delivery", "The connection to %1 broke off: %2."),                   // brokeOff

@@ -20,6 +20,7 @@ enum class Says {
     keepsSilent,
     noEncryption,
     notTrusted,
+    noCertificates,
     noSecureConnection,
     brokeOff,
     noMemoryForMail,
