@@ -127,8 +127,9 @@ TEST_F(PrintTest, TheSheetIsShownAsItWillBePrinted) {
 
 TEST_F(PrintTest, ATransparentPictureShowsThePaperAndKeepsItsColours) {
     window_->binder().run("", [](SettingEditor& editor) { editor.set("bOutputTransparency", "1"); });
+    ASSERT_TRUE(test::eventually([&] { return qAlpha(window_->view()->fullPicture().pixel(2, 2)) == 0; }));
     ASSERT_TRUE(waitForPicture());
-    ASSERT_EQ(qAlpha(window_->view()->fullPicture().pixel(2, 2)), 0);
+    ASSERT_TRUE(test::eventually([&] { return action("Save")->isEnabled(); }));
     ASSERT_TRUE(openDialog());
     auto* view = part<TemplateView>("imageViewPrinterTemplate");
     ASSERT_TRUE(test::eventually([&] { return !view->sheet().isNull(); }));
