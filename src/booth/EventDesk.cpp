@@ -49,6 +49,8 @@ std::string EventDesk::defaultRecipe() {
 
 std::string EventDesk::batchButtonClicked() {
     sEventLastQLXFile_ = defaultRecipe();
+    std::error_code unmade;  // the saving tells
+    std::filesystem::create_directories(std::filesystem::path(sEventLastQLXFile_).parent_path(), unmade);
     const std::string problem = saveImageStateToXML(info_, sEventLastQLXFile_);
     goesToPortrait_ = !hasWord(info_, kHorz);
     ChangeEventLayout();

@@ -6,6 +6,7 @@
 #include "formats/ImageState.h"
 #include "session/OutputSizes.h"
 #include "session/Sources.h"
+#include "support/Files.h"
 #include "support/Pictures.h"
 #include "support/TestData.h"
 

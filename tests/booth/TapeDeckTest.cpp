@@ -84,7 +84,8 @@ TEST_F(TapeDeckTest, ButtonsMoveLikeATape) {
         return shown();
     };
     EXPECT_EQ(after(3), "[1] 2 3 4 5");
-    EXPECT_EQ(after(4), "6 [7] 8 9 10") << "base and cursor go on by five, from the selected first one";
+    EXPECT_EQ(after(4), "[6] 7 8 9 10");
+    EXPECT_EQ(after(4), "8 9 10 [11] 12") << "the places end with the folder, and the selection went on by five";
     EXPECT_EQ(after(4), "8 9 10 11 [12]");
     EXPECT_EQ(after(3), "8 9 10 11 [12]");
     EXPECT_EQ(after(2), "3 4 5 6 [7]");

@@ -15,6 +15,7 @@
 #include "ui/DroppedFiles.h"
 #include "ui/FileFilters.h"
 #include "ui/WindowSettings.h"
+#include "ui/booth/EventPage.h"
 #include "ui/frame/Habits.h"
 #include "ui/frame/TipGuard.h"
 #include "ui/mail/MailPage.h"
@@ -42,6 +43,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       printing_(new PrintDesk(this)),
       batch_(new BatchPage(binder_)),
       mail_(new MailPage(binder_)),
+      booth_(new EventBooth(binder_, *loop_, *heldLoop_, this)),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
@@ -64,6 +66,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     connectReview();
     connectMail();
     connectPrinting();
+    connectEvent();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
 }
@@ -259,8 +262,10 @@ void MainWindow::clearFreeze() {
 }
 
 void MainWindow::takePublished() {
-    for (const PublishedRows& rows : bridge_.takePublished())
+    for (const PublishedRows& rows : bridge_.takePublished()) {
         view_->show(rows);
+        if (rows.isPreview()) booth_->showPreview(rows.pixels);
+    }
     tellProgress();
 }
 

@@ -10,6 +10,7 @@
 #include "ui/WindowBridge.h"
 #include "ui/batch/BatchPage.h"
 #include "ui/bind/Binder.h"
+#include "ui/booth/EventBooth.h"
 #include "ui/editor/Airbrush.h"
 #include "ui/frame/Commands.h"
 #include "ui/frame/MessageBar.h"
@@ -93,6 +94,7 @@ class MainWindow : public QMainWindow {
     Strip* strip() const { return strip_; }
     BatchPage* batch() const { return batch_; }
     MailPage* mail() const { return mail_; }
+    EventBooth* booth() const { return booth_; }
     PrintDesk* printing() const { return printing_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
@@ -139,6 +141,9 @@ class MainWindow : public QMainWindow {
     void tellMail(const Posted& posted, const QString& to);
     WorkBar* makeMailBar();
     int workUnderWay() const;
+    void connectEvent();
+    void showEventMode();
+    void ShowEventSetup();
     void connectPrinting();
     void printImage();
     void runPageLayout();
@@ -206,6 +211,7 @@ class MainWindow : public QMainWindow {
     PrintDesk* printing_;
     BatchPage* batch_;
     MailPage* mail_;
+    EventBooth* booth_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "ui/WindowSettings.h"
+#include "ui/booth/EventPage.h"
 #include "ui/frame/ActionButton.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/PictureCommands.h"
@@ -35,6 +36,7 @@ void MainWindow::layOut() {
     panel_->addPage(settings_);
     panel_->addPage(airbrush_->page());
     panel_->addPage(new PrintPage(binder_, templates_, new WaitingSheets(*printing_)));
+    panel_->addPage(booth_->page());
     panel_->addPage(batch_);
     panel_->addPage(mail_);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
@@ -68,6 +70,12 @@ void MainWindow::layOut() {
     commands_->menu("&File")->insertMenu(commands_->action("Save"), recent);
     column->addWidget(new ViewBar(*commands_, view_, this));  // below the picture, so that it covers none of it
     column->addWidget(strip_);
+    auto* decks = new QWidget(middle);
+    auto* both = new QHBoxLayout(decks);
+    both->setContentsMargins(0, 0, 0, 0);
+    both->addWidget(booth_->foregroundSelector(), 1);
+    both->addWidget(booth_->backgroundSelector(), 1);
+    column->addWidget(decks);
     makeToolBar();
     makeStatusLine();
     view_->setFocus();

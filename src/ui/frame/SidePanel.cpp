@@ -22,7 +22,6 @@ namespace {
 
 constexpr const char* kPageKey = "mainTab";
 constexpr int kTabsInALine = 4;
-constexpr int kEventTab = 3;
 
 /// The part of an item that takes the keys; of buttons to choose from, the one in force.
 void giveFocus(QWidget* item) {
@@ -151,7 +150,6 @@ void SidePanel::layOutTabs() {
 void SidePanel::selectMainTab(int key) {
     const auto page = std::ranges::find(pages_, key, [](const PanelPage* one) { return one->title().key; });
     if (page == pages_.end()) return;
-    binder_.editor().info().bEventModeShowing = key == kEventTab;
     windowSettings().setValue(kPageKey, (*page)->title().name);
     search_->clear();
     showPage(*page);
