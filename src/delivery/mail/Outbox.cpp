@@ -15,6 +15,7 @@
 
 #include "core/Interruption.h"
 #include "core/files/AtomicFile.h"
+#include "core/files/FreeName.h"
 #include "core/files/Places.h"
 #include "delivery/mail/OutboxFiles.h"
 
@@ -27,13 +28,6 @@ namespace {
 using State = OutboxEntry::State;
 
 constexpr const char *kBeingMade = ".new-", *kBeingRemoved = ".gone-";
-
-void bringNamesToDisk(const std::string& folder) {
-    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return;
-    ::fsync(handle);
-    ::close(handle);
-}
 
 bool makePrivateFolder(const std::string& path) {
     return ::mkdir(path.c_str(), S_IRWXU) == 0;
