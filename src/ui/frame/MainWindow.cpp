@@ -32,6 +32,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       keeping_(new Safekeeping(editor_, *loop_, this)),
       looks_(new LookDesk(binder_, *keeping_, this)),
       review_(new ReviewDesk(info_, this)),
+      galleries_(new GalleryDesk(binder_, *loop_, this)),
       view_(new PictureView),
       strip_(new Strip(info, this)),
       messages_(new MessageBar),
@@ -62,6 +63,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     comeBack();
     connectSettings();
     connectLists();
+    connectGalleries();  // whose idle work comes before that of the batch
     connectBatch();
     connectReview();
     connectMail();
@@ -271,6 +273,7 @@ void MainWindow::takePublished() {
 
 void MainWindow::showAlert(const QString& message, const QString& reason) {
     if (batch_->takeAlert(message, reason)) return;
+    if (galleries_->isRunning()) return messages_->fail(message.section('\n', 0, 0), reason);
     auto* box = new QMessageBox(QMessageBox::Warning, "Tavrin", message, QMessageBox::Ok, this);
     box->setInformativeText(reason);
     box->setAttribute(Qt::WA_DeleteOnClose);

@@ -22,6 +22,7 @@
 #include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
 #include "ui/print/PrintDesk.h"
+#include "ui/review/GalleryDesk.h"
 #include "ui/review/ReviewDesk.h"
 #include "ui/settings/SettingsPage.h"
 #include "ui/sizes/SizesPanel.h"
@@ -101,6 +102,7 @@ class MainWindow : public QMainWindow {
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
     LookDesk& looks() { return *looks_; }
     ReviewDesk& review() { return *review_; }
+    GalleryDesk& galleries() { return *galleries_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
     Commands& commands() { return *commands_; }
@@ -134,6 +136,7 @@ class MainWindow : public QMainWindow {
     void connectLists();
     void connectBatch();
     void connectReview();
+    void connectGalleries();
     void connectMail();
     void sendQLXMail(const QString& to);
     void shareUsingEmail();
@@ -200,6 +203,7 @@ class MainWindow : public QMainWindow {
     Safekeeping* keeping_;
     LookDesk* looks_;
     ReviewDesk* review_;
+    GalleryDesk* galleries_;
     PictureView* view_;
     Strip* strip_;
     MessageBar* messages_;
