@@ -142,15 +142,17 @@ void EventBooth::setShowing(bool showing) {
     tick_.start();
     lookForTickets();
     showSigns();
-    if (isRunning()) return;
-    held_.run([this] {
-        if (const std::string problem = desk_.batchButtonClicked(); !problem.empty())
-            emit failed(tr("The recipe of the booth cannot be kept."), QString::fromStdString(problem));
-        foregroundSelector_->updateFolder(standardizePath(info_.oQLXInfo->sEventModeForegroundFolder));
-        followFolders();
-        showLayout();
-        info_.StartUpdate();
-    });
+    held_.run([this] { batchButtonClicked(); });
+}
+
+void EventBooth::batchButtonClicked() {
+    const std::string backgrounds = desk_.backgroundFolder();
+    if (const std::string problem = desk_.batchButtonClicked(); !problem.empty())
+        emit failed(tr("The recipe of the booth cannot be kept."), QString::fromStdString(problem));
+    if (!isRunning()) foregroundSelector_->updateFolder(standardizePath(info_.oQLXInfo->sEventModeForegroundFolder));
+    if (!isRunning() || backgrounds != desk_.backgroundFolder()) followFolders();
+    showLayout();
+    info_.StartUpdate();
 }
 
 /// The background strip shows the folder of the layout.
@@ -177,6 +179,11 @@ EventSetup EventBooth::setup() const {
     setup.keepsLocation = MailDesk::keepsLocation();
     setup.keepsMails = MailDesk::keepsMails();
     setup.printers = printers_;
+    // The page is known by its title; places in the list change.
+    const auto page = std::ranges::find(info_.oPrinterPages, setup.settings.sEventModeSelectedTemplate.load(),
+                                        [](const PrinterPage& one) { return one.sPageTitle.load(); });
+    setup.settings.iEventModeSelectedTemplate =
+        page == info_.oPrinterPages.end() ? 0 : static_cast<std::int32_t>(page - info_.oPrinterPages.begin());
     return setup;
 }
 

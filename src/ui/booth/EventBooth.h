@@ -84,6 +84,7 @@ class EventBooth : public QObject {
     class Listener;
     void press(int mode, const std::string& address);
     void endPress(const Press& press);
+    void batchButtonClicked();
     void changePrintCount(int by);
     void showPrintCount();
     void followFolders();

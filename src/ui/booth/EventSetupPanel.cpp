@@ -127,11 +127,10 @@ void EventSetupPanel::updateEventUI() {
         field.shown->setText(textOfName(settings_.*field.path));
     title_->setText(QString::fromStdString(settings_.sEventModeEmailTitle));
     body_->setPlainText(QString::fromStdString(settings_.sEventModeEmailBody));
-    showTemplate();
 }
 
-void EventSetupPanel::showTemplate() {
-    page_->setText(QString::fromStdString(settings_.sEventModeSelectedTemplate));
+void EventSetupPanel::showTemplate(const QString& title) {
+    page_->setText(title);
 }
 
 void EventSetupPanel::setPrinters(const QStringList& names) {

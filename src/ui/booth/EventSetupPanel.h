@@ -24,8 +24,7 @@ class EventSetupPanel : public QDialog {
     void updateEventUI();
     /// The printers that there are. One of the settings that is not among them gives way to the first.
     void setPrinters(const QStringList& names);
-    /// The print page has another name.
-    void showTemplate();
+    void showTemplate(const QString& title);
     void HideEventSetup();
 
   signals:

@@ -5,6 +5,7 @@
 #include "ui/booth/EventSetupPanel.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/mail/PhoneTextView.h"
+#include "ui/print/TemplatePanel.h"
 
 namespace tavrin {
 
@@ -61,6 +62,13 @@ void MainWindow::ShowEventSetup() {
         setup->setPrinters(names);
     });
     printing_->askPrinters();
+    auto* pages = new TemplatePanel(
+        eventTemplates(), info_, [this] { return view_->fullPicture(); }, setup);
+    pages->updatePrinterTemplateCombobox();
+    setup->showTemplate(pages->title());
+    connect(setup, &EventSetupPanel::templateWanted, pages, &TemplatePanel::showPrinterTemplate);
+    connect(pages, &TemplatePanel::templateChosen, this, &MainWindow::keepSettings);
+    connect(pages, &TemplatePanel::templateChosen, setup, &EventSetupPanel::showTemplate);
     setup->show();
 }
 
