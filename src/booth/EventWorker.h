@@ -102,7 +102,6 @@ class EventWorker {
     const SystemInfo& base_;
     EventListener& listener_;
     std::unique_ptr<Run> run_;
-    EventSigns last_;  ///< of the run before
 };
 
 }  // namespace tavrin

@@ -27,7 +27,7 @@ namespace {
 
 using State = OutboxEntry::State;
 
-constexpr const char *kBeingMade = ".new-", *kBeingRemoved = ".gone-";
+constexpr const char *kBeingMade = ".new-", *kBeingRemoved = ".gone-", *kPrepared = ".ready-";
 
 bool makePrivateFolder(const std::string& path) {
     return ::mkdir(path.c_str(), S_IRWXU) == 0;
@@ -55,6 +55,19 @@ void removeIfOld(const fs::path& path) {
     std::error_code failed;
     const auto changed = fs::last_write_time(path, failed);
     if (!failed && fs::file_time_type::clock::now() - changed > kAge) fs::remove_all(path, failed);
+}
+
+std::string cannotWrite(const std::string& folder, const std::string& why) {
+    return "The outbox " + folder + " cannot be written to: " + why;
+}
+
+/// @return "" or why not all of a mail is in its folder
+std::string fill(const std::string& folder, const OutboxEntry& entry, const QByteArray& attachment) {
+    std::string problem;
+    if (!entry.mail.attachment.empty()) problem = writePrivateFile(folder + kOutboxAttachment, attachment);
+    if (problem.empty()) problem = writeOutboxEntry(entry, folder);
+    if (problem.empty()) bringNamesToDisk(folder);
+    return problem;
 }
 
 OutboxEntry lookAt(const std::string& folder) {
@@ -122,15 +135,20 @@ std::string Outbox::usualFolder() {
     return Places::current().sharedFolder() + "Outbox/";
 }
 
+/// @return "" or why there is none
+std::string Outbox::makeFolder() const {
+    std::error_code failed;
+    fs::create_directories(fs::path(folder_).parent_path().parent_path(), failed);
+    return makePrivateFolder(folder_) || errno == EEXIST ? "" : writeProblem(errno, folder_) + ".";
+}
+
 std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArray& attachment,
                                        std::string& problem) const {
     const auto fail = [&](const std::string& why) {
-        problem = "The outbox " + folder_ + " cannot be written to: " + why;
+        problem = cannotWrite(folder_, why);
         return std::optional<OutboxClaim>();
     };
-    std::error_code failed;
-    fs::create_directories(fs::path(folder_).parent_path().parent_path(), failed);
-    if (!makePrivateFolder(folder_) && errno != EEXIST) return fail(writeProblem(errno, folder_) + ".");
+    if (const std::string why = makeFolder(); !why.empty()) return fail(why);
     const Interruption::Hold hold;
     const QDateTime now = QDateTime::currentDateTime();
     const std::string id =
@@ -142,18 +160,44 @@ std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArra
     claim.entry_.mail = mail;
     claim.entry_.created = claim.entry_.nextTry = now;
     if (claim.lock_ < 0) problem = "its file system knows no locks.";
-    if (problem.empty() && !mail.attachment.empty())
-        problem = writePrivateFile(being + kOutboxAttachment, attachment);
-    if (problem.empty()) problem = writeOutboxEntry(claim.entry_, being);
-    if (problem.empty()) bringNamesToDisk(being);
+    if (problem.empty()) problem = fill(being, claim.entry_, attachment);
     if (problem.empty() && ::rename(being.c_str(), claim.folder_.c_str()) != 0)
         problem = writeProblem(errno, folder_) + ".";
     if (!problem.empty()) {
+        std::error_code failed;
         fs::remove_all(being, failed);
         return fail(problem);
     }
     bringNamesToDisk(folder_);
     return claim;
+}
+
+std::string Outbox::prepare(const std::string& id, const OutgoingMail& mail, const QByteArray& attachment) const {
+    if (const std::string why = makeFolder(); !why.empty()) return cannotWrite(folder_, why);
+    const std::string being = folder_ + kPrepared + id;
+    const Interruption::Hold hold;
+    withdraw(id);
+    if (!makePrivateFolder(being)) return cannotWrite(folder_, writeProblem(errno, folder_) + ".");
+    OutboxEntry entry;
+    entry.id = id;
+    entry.mail = mail;
+    entry.created = entry.nextTry = QDateTime::currentDateTime();
+    std::string problem = writePrivateFile(being + kOutboxLock, {});
+    if (problem.empty()) problem = fill(being, entry, attachment);
+    if (problem.empty()) return "";
+    withdraw(id);
+    return cannotWrite(folder_, problem);
+}
+
+bool Outbox::release(const std::string& id) const {
+    const bool isNew = ::rename((folder_ + kPrepared + id).c_str(), pathOf(id).c_str()) == 0;
+    bringNamesToDisk(folder_);
+    return isNew;
+}
+
+void Outbox::withdraw(const std::string& id) const {
+    std::error_code ignored;
+    fs::remove_all(folder_ + kPrepared + id, ignored);
 }
 
 std::vector<OutboxEntry> Outbox::entries() const {
