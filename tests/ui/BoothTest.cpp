@@ -12,6 +12,7 @@
 #include "formats/ImageState.h"
 #include "support/FakePrinters.h"
 #include "support/Files.h"
+#include "support/PrintPages.h"
 #include "ui/WindowTest.h"
 #include "ui/booth/EventPage.h"
 #include "ui/booth/EventSetupPanel.h"
@@ -40,6 +41,11 @@ class BoothTest : public test::WindowTest {
         settings.sEventModeBackgroundVertFolder = folder_.file("vert");
         settings.sEventModeBackgroundHorzFolder = folder_.file("horz");
         settings.sEventModeOutputFolder = folder_.file("out");
+        settings.sEventModePrinterName = "studio";
+        info_->oPrinterPages = {test::pageOf(400, 600, {{0, 0, 400, 600}})};
+        for (const char* name : {"in", "vert"})  // they have lain there for a while
+            for (const auto& entry : fs::directory_iterator(folder_.file(name)))
+                fs::last_write_time(entry, fs::file_time_type::clock::now() - std::chrono::minutes(5));
         open({1300, 1000});
         window_->booth()->setPrinters([this] { return std::make_unique<test::FakePrinters>(room_); });
         window_->panel()->selectMainTab(3);
@@ -128,7 +134,7 @@ TEST_F(BoothTest, PrintsAreCountedAtThePressAndTheCountGoesBack) {
     EXPECT_TRUE(test::eventually([&] {
         const std::lock_guard lock(room_.mutex);
         return room_.printed.size() == 3;
-    }));
+    })) << words("textEventPrinter").toStdString() << words("textEventProblem").toStdString();
     for (int i = 0; i < 12; ++i)
         press("eventModePrintCountUp");
     EXPECT_EQ(part<QLineEdit>("textEventPrintCount")->text(), "10");
@@ -187,7 +193,7 @@ TEST_F(BoothTest, NothingComesOfABoothThatCannotWork) {
 
 TEST_F(BoothTest, ALineOfTextLiesOnThePicture) {
     part<QLineEdit>("textFieledEventUserName")->setText("Anna");
-    press("buttonAddText");
+    press("buttonEventAddText");
     ASSERT_TRUE(test::eventually([&] { return info_->iFontObjectCount() == 1; }));
     EXPECT_EQ(info_->oFontObject[0].sText.load(), "Anna");
     EXPECT_TRUE(part<QLineEdit>("textFieledEventUserName")->text().isEmpty());

@@ -211,7 +211,7 @@ void EventPage::addText() {
     shadow_->setProperty("handler", "eventTextChanged:");
     shadow_->setToolTip(tr("A shadow below the line, in the other colour"));
     group->addItem(shadow_);
-    group->addItem(add({"buttonAddText", "buttonAddTextClicked:", tr("Add the text"),
+    group->addItem(add({"buttonEventAddText", "buttonAddTextClicked:", tr("Add the text"),
                         tr("Puts the line on the picture, where it can be moved with the mouse on \"Text\""),
                         &EventPage::addTextWanted}));
 }

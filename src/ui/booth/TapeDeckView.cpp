@@ -177,10 +177,10 @@ void TapeDeckView::watch() {
         QMetaObject::invokeMethod(
             this, [this] { look(); }, Qt::QueuedConnection);
     });
-    look();
+    if (!deck_.oOrderedFiles().empty()) look();
 }
 
-/// The folder may be far away, so it is listed beside the main thread.
+/// The folder may be far away, so it is listed beside the main thread. What is shown stays while it is written anew.
 void TapeDeckView::look() {
     if (!news_) return;
     if (lister_.activeThreadCount() > 0) {
@@ -188,11 +188,14 @@ void TapeDeckView::look() {
         return;
     }
     looksAgain_ = false;
-    lister_.start([this, folder = deck_.folder(), news = news_] {
+    const auto& shown = deck_.oOrderedFiles();
+    lister_.start([this, folder = deck_.folder(), news = news_, known = std::set(shown.begin(), shown.end())] {
         std::string problem;
         std::vector<std::string> names = namesInFolder(folder, photoExtensions(), &problem);
         sortAsPeopleDo(names);
-        std::erase_if(names, [&](const std::string& name) { return !news->isWhole(folder + '/' + name); });
+        std::erase_if(names, [&](const std::string& name) {
+            return !known.contains(name) && !news->isWhole(folder + '/' + name);
+        });
         QMetaObject::invokeMethod(
             this, [this, folder, names = std::move(names), problem] { takeNames(folder, names, problem); },
             Qt::QueuedConnection);
