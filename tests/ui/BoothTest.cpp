@@ -47,7 +47,9 @@ class BoothTest : public test::WindowTest {
             for (const auto& entry : fs::directory_iterator(folder_.file(name)))
                 fs::last_write_time(entry, fs::file_time_type::clock::now() - std::chrono::minutes(5));
         open({1300, 1000});
-        window_->booth()->setPrinters([this] { return std::make_unique<test::FakePrinters>(room_); });
+        const auto printers = [this] { return std::make_unique<test::FakePrinters>(room_); };
+        window_->booth()->setPrinters(printers);
+        window_->printing()->setService(printers);
         window_->panel()->selectMainTab(3);
         ASSERT_TRUE(test::eventually([&] { return place("foregroundSelector", 2)->isEnabled(); }));
         ASSERT_TRUE(test::eventually([&] { return place("backgroundSelector", 2)->isEnabled(); }));
@@ -134,7 +136,7 @@ TEST_F(BoothTest, PrintsAreCountedAtThePressAndTheCountGoesBack) {
     EXPECT_TRUE(test::eventually([&] {
         const std::lock_guard lock(room_.mutex);
         return room_.printed.size() == 3;
-    })) << words("textEventPrinter").toStdString() << words("textEventProblem").toStdString();
+    })) << room_.printed.size() << words("textEventPrinter").toStdString() << words("textEventProblem").toStdString();
     for (int i = 0; i < 12; ++i)
         press("eventModePrintCountUp");
     EXPECT_EQ(part<QLineEdit>("textEventPrintCount")->text(), "10");

@@ -70,11 +70,10 @@ class EventBooth::Listener : public EventListener {
     EventBooth& booth_;
 };
 
-EventBooth::EventBooth(Binder& binder, CombineThread& loop, HeldLoop& held, QObject* parent)
+EventBooth::EventBooth(Binder& binder, HeldLoop& held, QObject* parent)
     : QObject(parent),
       binder_(binder),
       info_(binder.editor().info()),
-      loop_(loop),
       held_(held),
       desk_(info_),
       foregroundSelector_(new TapeDeckView(
@@ -213,21 +212,19 @@ void EventBooth::eventModeStop() {
     showSigns();
 }
 
-/// What is pressed after this comes after it, and what is changed on the screen meanwhile does not count.
+/// The ticket has what the panel showed at the press, whatever is typed until the loop stands still. All of this is
+/// written by the main thread alone, or the picture of one guest could go to the next.
 void EventBooth::press(int mode, const std::string& address) {
-    const int copies = allowedCopies(info_.iEventPrintCount, page_->copyLimit());
     info_.iEventSaveMode = mode;
     info_.sEventEmail = address;
-    loop_.edit([this, mode, address, copies]() -> std::vector<ChangedRows> {
-        const std::int32_t shown = info_.iEventPrintCount;
-        info_.iEventSaveMode = mode;
-        info_.sEventEmail = address;
-        info_.iEventPrintCount = copies;
+    EventSettings pressed = info_;
+    pressed.iEventPrintCount = allowedCopies(info_.iEventPrintCount, page_->copyLimit());
+    held_.run([this, pressed] {
+        const EventSettings typedSince = info_;
+        static_cast<EventSettings&>(info_) = pressed;
         const Press press = tavrin::eventModeSaveNow(info_);
-        info_.iEventPrintCount = shown;
-        QMetaObject::invokeMethod(
-            this, [this, press] { endPress(press); }, Qt::QueuedConnection);
-        return {};
+        static_cast<EventSettings&>(info_) = typedSince;
+        endPress(press);
     });
 }
 

@@ -9,7 +9,6 @@
 #include "booth/EventDesk.h"
 #include "booth/EventWorker.h"
 #include "booth/Ticket.h"
-#include "pipeline/CombineThread.h"
 #include "ui/HeldLoop.h"
 #include "ui/bind/Binder.h"
 #include "ui/booth/TapeDeckView.h"
@@ -25,7 +24,7 @@ class EventBooth : public QObject {
     Q_OBJECT
 
   public:
-    EventBooth(Binder& binder, CombineThread& loop, HeldLoop& held, QObject* parent = nullptr);
+    EventBooth(Binder& binder, HeldLoop& held, QObject* parent = nullptr);
     ~EventBooth() override;
 
     EventPage* page() const { return page_; }
@@ -97,7 +96,6 @@ class EventBooth : public QObject {
 
     Binder& binder_;
     SystemInfo& info_;
-    CombineThread& loop_;
     HeldLoop& held_;
     EventDesk desk_;
     TicketNames tickets_;

@@ -44,7 +44,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       printing_(new PrintDesk(this)),
       batch_(new BatchPage(binder_)),
       mail_(new MailPage(binder_)),
-      booth_(new EventBooth(binder_, *loop_, *heldLoop_, this)),
+      booth_(new EventBooth(binder_, *heldLoop_, this)),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
