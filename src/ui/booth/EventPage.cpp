@@ -101,7 +101,8 @@ void EventPage::addBooth() {
     GroupBox* group = addGroup(kBoothGroup, binder_);
     tickets_ = wordLabel("textQLXCount");
     pictures_ = wordLabel("textImageCount");
-    group->addStatus(line(tr("Tickets, pictures"), {tickets_, pictures_}));
+    group->addStatus(line(tr("Tickets"), {tickets_}));
+    group->addStatus(line(tr("Pictures"), {pictures_}));
     QToolButton* guests = add({"buttonGuestScreen", "showGuestScreen:", tr("Guest screen"),
                                tr("Shows the picture and the backgrounds to the guests, on a second display where "
                                   "there is one"),
@@ -328,17 +329,17 @@ void EventPage::showSigns(const EventSigns& signs) {
     const auto words = [](const std::string& text) { return QString::fromStdString(text); };
     job_->setText(!signs.job.empty()      ? tr("%1, for %2 s").arg(words(signs.job)).arg(secondsSince(signs.since))
                   : !signs.isRunning      ? tr("stopped")
-                  : signs.jobsWaiting > 0 ? tr("%n wait(s)", "", signs.jobsWaiting)
+                  : signs.jobsWaiting > 0 ? tr("waiting: %1").arg(signs.jobsWaiting)
                                           : tr("nothing to do"));
     sign_->setText(signs.isRunning ? tr("%1 s ago").arg(secondsSince(signs.lastSign)) : QString(QChar(0x2013)));
     QStringList printer{words(signs.printer), words(signs.printerState)};
-    if (signs.printsWaiting > 0) printer << tr("%n print(s) wait", "", signs.printsWaiting);
-    if (signs.printsUnsure > 0) printer << tr("%n may be printed already: see Print", "", signs.printsUnsure);
-    if (signs.printsLeft >= 0) printer << tr("%n left in the pack", "", signs.printsLeft);
+    if (signs.printsWaiting > 0) printer << tr("waiting: %1").arg(signs.printsWaiting);
+    if (signs.printsUnsure > 0) printer << tr("perhaps printed, see Print: %1").arg(signs.printsUnsure);
+    if (signs.printsLeft >= 0) printer << tr("left in the pack: %1").arg(signs.printsLeft);
     printer.removeAll(QString());
     printer_->setText(printer.isEmpty() ? QString(QChar(0x2013)) : printer.join(", "));
-    QStringList mails{tr("%n wait(s)", "", signs.mailsWaiting)};
-    if (signs.mailsHeld > 0) mails << tr("%n need(s) a look: see Mail", "", signs.mailsHeld);
+    QStringList mails{tr("waiting: %1").arg(signs.mailsWaiting)};
+    if (signs.mailsHeld > 0) mails << tr("to be looked at, see Mail: %1").arg(signs.mailsHeld);
     if (!signs.mailTrouble.empty()) mails << words(signs.mailTrouble);
     mails_->setText(mails.join(", "));
     today_->setText(tr("%1 pictures, %2 prints, %3 mails")

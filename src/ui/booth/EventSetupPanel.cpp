@@ -79,6 +79,7 @@ EventSetupPanel::EventSetupPanel(QLXInfo& settings, QWidget* parent)
     QToolButton* choosePage = makeButton("buttonEventTemplate", "showEventPrinterTemplate:", tr("Choose..."),
                                          tr("Shows the print pages with the picture in them"));
     connect(choosePage, &QToolButton::clicked, this, &EventSetupPanel::templateWanted);
+    choosePage->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     grid->addWidget(choosePage, grid->rowCount() - 1, 2);
     add(printers_, printers_->accessibleName());
     QToolButton* close = makeButton("buttonHideEventSetup", "HideEventSetup:", tr("Done"),
@@ -98,6 +99,7 @@ QLineEdit* EventSetupPanel::addFolder(QGridLayout* grid, int which) {
     name->setBuddy(shown);
     QToolButton* ask = makeButton((std::string(words.name) + "Button").c_str(), words.handler, tr("Choose..."),
                                   shown->toolTip());
+    ask->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     ask->setAccessibleName(tr("%1: choose a folder").arg(label));
     connect(ask, &QToolButton::clicked, this, [this, which] { choose(which); });
     grid->addWidget(name, which, 0);

@@ -20,6 +20,7 @@ namespace tavrin {
 namespace {
 
 constexpr double kTouch = 60.0;  // points: what a finger meets without looking twice
+constexpr int kArrow = 24;      // points
 constexpr QSize kItem(180, 180);
 
 int pixelsOf(double points, const QWidget& on) {
@@ -89,6 +90,7 @@ void GuestScreen::layOut() {
     grid_->setItemDelegate(new PictureDelegate(grid_, kItem));
     grid_->setVerticalScrollMode(QListView::ScrollPerPixel);
     grid_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // fingers push the pictures themselves
+    grid_->setFocusPolicy(Qt::NoFocus);
     grid_->setContextMenuPolicy(Qt::NoContextMenu);
     grid_->setModel(&list_);
     QScroller::grabGesture(grid_->viewport(), QScroller::TouchGesture);
@@ -99,8 +101,8 @@ void GuestScreen::layOut() {
     });
     connect(grid_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { soon_.start(); });
     auto* pages = new QHBoxLayout;
-    pages->addWidget(makePager("guestBack", tr("Backgrounds before these"), Qt::UpArrow, -1));
-    pages->addWidget(makePager("guestOn", tr("More backgrounds"), Qt::DownArrow, 1));
+    pages->addWidget(makePager("guestBack", tr("Backgrounds before these"), QChar(0x25B2), -1));
+    pages->addWidget(makePager("guestOn", tr("More backgrounds"), QChar(0x25BC), 1));
     auto* column = new QVBoxLayout;
     column->addWidget(grid_, 1);
     column->addLayout(pages);
@@ -110,12 +112,15 @@ void GuestScreen::layOut() {
     row->addLayout(column, 2);
 }
 
-QToolButton* GuestScreen::makePager(const char* name, const QString& words, Qt::ArrowType arrow, int pages) {
+QToolButton* GuestScreen::makePager(const char* name, const QString& words, QChar arrow, int pages) {
     auto* button = new QToolButton(this);
     button->setObjectName(name);
     button->setProperty("handler", "showGuestScreen:");
     button->setAccessibleName(words);
-    button->setArrowType(arrow);
+    button->setText(QString(arrow));
+    QFont large = button->font();
+    large.setPointSize(kArrow);
+    button->setFont(large);
     button->setMinimumHeight(pixelsOf(kTouch, *this));
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(button, &QToolButton::clicked, this, [this, pages] {

@@ -37,7 +37,7 @@ class GuestScreen : public QWidget {
 
   private:
     class Picture;
-    QToolButton* makePager(const char* name, const QString& words, Qt::ArrowType arrow, int pages);
+    QToolButton* makePager(const char* name, const QString& words, QChar arrow, int pages);
     void layOut();
     void fetch();
 

@@ -144,10 +144,12 @@ void MainWindow::tellProgress() {
                            .arg(info_.iOutputPixelHeight.load())
                            .arg(info_.iOutputImageDPI.load()));
     zoomText_->setText(tr("%1 %").arg(qRound(100.0 * view_->zoom().pixelScale())));
+    const bool previewOnly = info_.bSkipHiRes && !finished_;
     const int percent = finished_ ? 100 : static_cast<int>(100.0 * view_->progress());
     progress_->setValue(percent);
     stateText_->setText(savesUnderWay() > 0 ? tr("Saving...")
                         : finished_         ? tr("Ready")
+                        : previewOnly       ? tr("Preview")
                                             : tr("Full picture %1 %").arg(percent));
 }
 
