@@ -54,7 +54,7 @@ class EventBooth::Listener : public EventListener {
     }
     void alert(const std::string& message, const std::string& reason) override {
         pass([&booth = booth_, message, reason] {
-            emit booth.alerted(QString::fromStdString(message), QString::fromStdString(reason));
+            emit booth.jobAlerted(QString::fromStdString(message), QString::fromStdString(reason));
         });
     }
     void ended() override {

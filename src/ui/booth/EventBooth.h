@@ -76,7 +76,10 @@ class EventBooth : public QObject {
     void carrierWanted();
     void told(const QString& line);
     void failed(const QString& line, const QString& details);
+    /// What was typed will not do.
     void alerted(const QString& message, const QString& reason);
+    /// A job has something to say, which is to hold up nobody.
+    void jobAlerted(const QString& message, const QString& reason);
     void ended();
 
   private:

@@ -52,7 +52,7 @@ QWidget* gridOf(const std::vector<QToolButton*>& buttons, const QString& name) {
 
 EventPage::EventPage(Binder& binder, QWidget* parent)
     : PanelPage({"panelEvent", "TabEvent", 3, QT_TRANSLATE_NOOP("Panel", "Event"),
-                 QT_TRANSLATE_NOOP("Panel", "The photo booth: one press for each guest")},
+                 QT_TRANSLATE_NOOP("Panel", "The photo booth: one press for each guest"), false},
                 parent),
       binder_(binder) {
     addBooth();
@@ -101,8 +101,8 @@ void EventPage::addBooth() {
     GroupBox* group = addGroup(kBoothGroup, binder_);
     tickets_ = wordLabel("textQLXCount");
     pictures_ = wordLabel("textImageCount");
+    group->addStatus(line(tr("Pictures"), {pictures_}));  // each goes above the one before
     group->addStatus(line(tr("Tickets"), {tickets_}));
-    group->addStatus(line(tr("Pictures"), {pictures_}));
     QToolButton* guests = add({"buttonGuestScreen", "showGuestScreen:", tr("Guest screen"),
                                tr("Shows the picture and the backgrounds to the guests, on a second display where "
                                   "there is one"),
@@ -124,7 +124,8 @@ void EventPage::addBooth() {
         tr("Start, stop, setup, layout")));
     problem_ = wordLabel("textEventProblem");
     problem_->setProperty("problem", true);
-    problem_->hide();
+    problem_->setFixedHeight(2 * problem_->fontMetrics().lineSpacing());  // the buttons below never move
+    problem_->setAlignment(Qt::AlignTop);
     group->addWidget(problem_);
 }
 
@@ -318,7 +319,7 @@ void EventPage::showLayoutButton(const QString& words) {
 
 void EventPage::showProblem(const QString& words) {
     problem_->setText(words);
-    problem_->setVisible(!words.isEmpty());
+    problem_->setToolTip(words);
 }
 
 void EventPage::showSigns(const EventSigns& signs) {

@@ -146,6 +146,7 @@ class MainWindow : public QMainWindow {
     int workUnderWay() const;
     void connectEvent();
     void showEventMode();
+    void showJobAlert(const QString& message, const QString& reason);
     void ShowEventSetup();
     void connectPrinting();
     void printImage();

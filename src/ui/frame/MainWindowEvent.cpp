@@ -1,4 +1,6 @@
 // The photo booth in the window.
+#include <QMessageBox>
+
 #include "core/files/Places.h"
 #include "core/files/TempFiles.h"
 #include "ui/booth/EventPage.h"
@@ -30,6 +32,7 @@ void MainWindow::connectEvent() {
     connect(booth_, &EventBooth::told, messages_, &MessageBar::tell);
     connect(booth_, &EventBooth::failed, messages_, &MessageBar::fail);
     connect(booth_, &EventBooth::alerted, this, &MainWindow::showAlert);
+    connect(booth_, &EventBooth::jobAlerted, this, &MainWindow::showJobAlert);
     connect(booth_, &EventBooth::carrierWanted, this, [this] {
         auto* carriers = new PhoneTextView(info_, this);
         carriers->setAttribute(Qt::WA_DeleteOnClose);
@@ -38,6 +41,21 @@ void MainWindow::connectEvent() {
     });
     connect(booth_->page(), &EventPage::setupWanted, this, &MainWindow::ShowEventSetup);
     showEventMode();
+}
+
+/// One box for all of them, beside which the booth goes on.
+void MainWindow::showJobAlert(const QString& message, const QString& reason) {
+    auto* box = findChild<QMessageBox*>("eventAlert");
+    if (!box) {
+        box = new QMessageBox(QMessageBox::Warning, "Tavrin", message, QMessageBox::Ok, this);
+        box->setObjectName("eventAlert");
+        box->setWindowModality(Qt::NonModal);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->setAttribute(Qt::WA_ShowWithoutActivating);
+    }
+    box->setText(message);
+    box->setInformativeText(reason);
+    box->show();
 }
 
 /// The strips of the booth stand where the strip of pictures is else.
