@@ -36,7 +36,7 @@ ROOMS = {
     "effects": [["."], ["frame", "shadow", "sketch", "smoothing", "star"]],
     "editor": [["brush"], ["."]],
     "delivery": [["words"], ["mail", "pages", "print"]],
-    "ui": [["."], ["bind", "views"], ["tiles"], ["adjust", "batch", "editor", "effects", "mail", "review", "settings", "sizes", "strip", "text"], ["look", "picture", "print"], ["frame"]],
+    "ui": [["."], ["bind", "views"], ["tiles"], ["adjust", "batch", "editor", "effects", "mail", "review", "settings", "sizes", "strip", "text"], ["booth", "look", "picture", "print"], ["frame"]],
     "apps": [["cli", "desktop", "web"]],
 }
 

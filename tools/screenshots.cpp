@@ -23,6 +23,8 @@
 #include "SampleState.h"
 #include "formats/Installation.h"
 #include "session/SettingChanges.h"
+#include "ui/booth/EventPage.h"
+#include "ui/booth/GuestScreen.h"
 #include "ui/frame/Language.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/Theme.h"
@@ -237,6 +239,46 @@ void shootBatch(MainWindow& window, SystemInfo& info, const std::function<void(c
     settings.sLastBatchForeground = settings.sLastBatchBackground = settings.sLastBatchOutput = "";
 }
 
+/// The photo booth at work, and what its guests see.
+void shootBooth(MainWindow& window, SystemInfo& info, const std::function<void(const char*, QWidget&)>& save) {
+    const QTemporaryDir folder;
+    fillFolders(folder.path() + "/Portraits", folder.path() + "/Scenes");
+    QDir(folder.path()).mkdir("Done");
+    QLXInfo& settings = *info.oQLXInfo;
+    settings.bAutoQLXSave = true;
+    settings.sEventModeForegroundFolder = (folder.path() + "/Portraits").toStdString();
+    settings.sEventModeBackgroundVertFolder = settings.sEventModeBackgroundHorzFolder =
+        (folder.path() + "/Scenes").toStdString();
+    settings.sEventModeOutputFolder = (folder.path() + "/Done").toStdString();
+    settings.sEventModePrinterName = "Booth";
+    window.panel()->selectMainTab(window.booth()->page()->title().key);
+    const auto rest = [](int ms) {
+        QElapsedTimer time;
+        for (time.start(); time.elapsed() < ms;)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    };
+    rest(4000);
+    const auto press = [&](const char* name) { window.findChild<QAbstractButton*>(name)->click(); };
+    press("eventModeStart");
+    press("foregroundSelectorImage2");
+    press("backgroundSelectorImage3");
+    rest(1000);
+    press("eventModeSave");
+    press("buttonGuestScreen");
+    rest(4000);
+    save("booth", window);
+    save("booth-guests", *window.booth()->guestScreen());
+    press("buttonGuestScreen");
+    press("eventModeStop");
+    press("buttonEventSetup");
+    rest(1500);
+    auto* setup = window.findChild<QWidget*>("MyEventSetupPanel");
+    save("booth-setup", *setup);
+    setup->close();
+    settings.sEventModeForegroundFolder = settings.sEventModeBackgroundVertFolder =
+        settings.sEventModeBackgroundHorzFolder = settings.sEventModeOutputFolder = "";
+}
+
 /// The outbox with a mail that waits and one that may have gone.
 void shootOutbox(MainWindow& window, const std::function<void(const char*)>& save) {
     for (const MailEnd end : {MailEnd::notSent, MailEnd::unknown}) {
@@ -364,6 +406,9 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
         shootEffects(window, save);
         shootBatch(window, *info, save);
         shootOutbox(window, save);
+        shootBooth(window, *info, [&](const char* name, QWidget& shown) {
+            all = shown.grab().save(folder + '/' + name + end) && all;
+        });
         window.panel()->selectMainTab(0);
         const auto action = [&](const char* id) { return window.commands().action(id); };
         const auto shoots = [&](const char* id, const char* name) {

@@ -62,6 +62,7 @@ AskingPage::AskingPage(QWebEngineProfile* profile, tavrin::PageCalls calls, QObj
     settings()->setAttribute(QWebEngineSettings::JavascriptCanAccessClipboard, false);
     settings()->setAttribute(QWebEngineSettings::PluginsEnabled, false);
     settings()->setAttribute(QWebEngineSettings::ErrorPageEnabled, false);
+    if (calls_.loaded) connect(this, &QWebEnginePage::loadFinished, this, [this] { calls_.loaded(); });
     if (calls_.lastScroll) {
         auto* channel = new QWebChannel(this);
         channel->registerObject("program", new PageListener(calls_.lastScroll, channel));
@@ -81,7 +82,7 @@ bool AskingPage::acceptNavigationRequest(const QUrl& url, NavigationType, bool i
 }
 
 void AskingPage::javaScriptAlert(const QUrl&, const QString& text) {
-    qWarning("The page says: %s", qPrintable(text));
+    calls_.alert ? calls_.alert(text) : qWarning("The page says: %s", qPrintable(text));
 }
 
 QWidget* WebView::makeView(tavrin::PageCalls calls, QWidget* parent) {

@@ -49,7 +49,7 @@ class AskingPage : public QWebEnginePage {
 /// The library that the program loads when a page is to be shown.
 class WebView : public QObject, public tavrin::WebPages {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.tavrin.WebPages/1")
+    Q_PLUGIN_METADATA(IID "org.tavrin.WebPages/2")
     Q_INTERFACES(tavrin::WebPages)
 
   public:

@@ -89,10 +89,14 @@ std::string installationMark(const DeliveryConf& conf) {
     return kept.bytes.empty() ? made : trimmed(kept.bytes);
 }
 
-std::string mailPictureName(long long milliseconds, const std::string& mark) {
+long long hundredthsOf(long long milliseconds) {
     static const long long begin =
         QDateTime::fromString("2010-01-01T04:00:00+09:00", Qt::ISODate).toMSecsSinceEpoch();
-    return std::to_string((milliseconds - begin) / 10) + mark + ".jpg";
+    return (milliseconds - begin) / 10;
+}
+
+std::string mailPictureName(long long milliseconds, const std::string& mark) {
+    return std::to_string(hundredthsOf(milliseconds)) + mark + ".jpg";
 }
 
 }  // namespace tavrin

@@ -26,8 +26,11 @@ DeliveryConf readDeliveryConf(const std::string& path = deliveryConfFile());
 /// What the names of this installation's files hold: that of the configuration, or one that is made once and kept.
 std::string installationMark(const DeliveryConf& conf);
 
-/// Name of a picture that goes out by mail: hundredths of a second since the beginning of 2010 in Tokyo (4 o'clock),
-/// and the mark.
+/// How names tell the time: hundredths of a second, cut off, since the beginning of 2010 in Tokyo (4 o'clock).
+/// @param milliseconds since 1970
+long long hundredthsOf(long long milliseconds);
+
+/// Name of a picture that goes out by mail: these hundredths and the mark.
 /// @param milliseconds since 1970
 std::string mailPictureName(long long milliseconds, const std::string& mark);
 

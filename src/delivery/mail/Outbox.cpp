@@ -15,6 +15,7 @@
 
 #include "core/Interruption.h"
 #include "core/files/AtomicFile.h"
+#include "core/files/FreeName.h"
 #include "core/files/Places.h"
 #include "delivery/mail/OutboxFiles.h"
 #include "delivery/words/Says.h"
@@ -27,14 +28,7 @@ namespace {
 
 using State = OutboxEntry::State;
 
-constexpr const char *kBeingMade = ".new-", *kBeingRemoved = ".gone-";
-
-void bringNamesToDisk(const std::string& folder) {
-    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return;
-    ::fsync(handle);
-    ::close(handle);
-}
+constexpr const char *kBeingMade = ".new-", *kBeingRemoved = ".gone-", *kPrepared = ".ready-";
 
 bool makePrivateFolder(const std::string& path) {
     return ::mkdir(path.c_str(), S_IRWXU) == 0;
@@ -62,6 +56,15 @@ void removeIfOld(const fs::path& path) {
     std::error_code failed;
     const auto changed = fs::last_write_time(path, failed);
     if (!failed && fs::file_time_type::clock::now() - changed > kAge) fs::remove_all(path, failed);
+}
+
+/// @return "" or why not all of a mail is in its folder
+std::string fill(const std::string& folder, const OutboxEntry& entry, const QByteArray& attachment) {
+    std::string problem;
+    if (!entry.mail.attachment.empty()) problem = writePrivateFile(folder + kOutboxAttachment, attachment);
+    if (problem.empty()) problem = writeOutboxEntry(entry, folder);
+    if (problem.empty()) bringNamesToDisk(folder);
+    return problem;
 }
 
 OutboxEntry lookAt(const std::string& folder) {
@@ -147,6 +150,13 @@ std::string Outbox::whyFull(long long more) const {
                                    std::to_string(limits_.mails), std::to_string(limits_.bytes / kMega)});
 }
 
+/// @return "" or why there is none
+std::string Outbox::makeFolder() const {
+    std::error_code failed;
+    fs::create_directories(fs::path(folder_).parent_path().parent_path(), failed);
+    return makePrivateFolder(folder_) || errno == EEXIST ? "" : writeProblem(errno, folder_);
+}
+
 std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArray& attachment,
                                        std::string& problem) const {
     const auto fail = [&](const std::string& why) {
@@ -154,9 +164,7 @@ std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArra
         return std::optional<OutboxClaim>();
     };
     if (problem = whyFull(attachment.size()); !problem.empty()) return {};
-    std::error_code failed;
-    fs::create_directories(fs::path(folder_).parent_path().parent_path(), failed);
-    if (!makePrivateFolder(folder_) && errno != EEXIST) return fail(writeProblem(errno, folder_));
+    if (const std::string why = makeFolder(); !why.empty()) return fail(why);
     const Interruption::Hold hold;
     const QDateTime now = QDateTime::currentDateTime();
     const std::string id =
@@ -168,13 +176,11 @@ std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArra
     claim.entry_.mail = mail;
     claim.entry_.created = claim.entry_.nextTry = now;
     if (claim.lock_ < 0) problem = said(Says::noLocks);
-    if (problem.empty() && !mail.attachment.empty())
-        problem = writePrivateFile(being + kOutboxAttachment, attachment);
-    if (problem.empty()) problem = writeOutboxEntry(claim.entry_, being);
-    if (problem.empty()) bringNamesToDisk(being);
+    if (problem.empty()) problem = fill(being, claim.entry_, attachment);
     if (problem.empty() && ::rename(being.c_str(), claim.folder_.c_str()) != 0)
         problem = writeProblem(errno, folder_);
     if (!problem.empty()) {
+        std::error_code failed;
         fs::remove_all(being, failed);
         return fail(problem);
     }
@@ -183,6 +189,34 @@ std::optional<OutboxClaim> Outbox::add(const OutgoingMail& mail, const QByteArra
     if (!mail.attachment.empty()) claim.entry_.mail.attachment = claim.folder_ + kOutboxAttachment;
     claim.entry_.mail.keepLocation = true;
     return claim;
+}
+
+std::string Outbox::prepare(const std::string& id, const OutgoingMail& mail, const QByteArray& attachment) const {
+    if (const std::string why = makeFolder(); !why.empty()) return said(Says::outboxFails, {folder_, why});
+    const std::string being = folder_ + kPrepared + id;
+    const Interruption::Hold hold;
+    withdraw(id);
+    if (!makePrivateFolder(being)) return said(Says::outboxFails, {folder_, writeProblem(errno, folder_)});
+    OutboxEntry entry;
+    entry.id = id;
+    entry.mail = mail;
+    entry.created = entry.nextTry = QDateTime::currentDateTime();
+    std::string problem = writePrivateFile(being + kOutboxLock, {});
+    if (problem.empty()) problem = fill(being, entry, attachment);
+    if (problem.empty()) return "";
+    withdraw(id);
+    return said(Says::outboxFails, {folder_, problem});
+}
+
+bool Outbox::release(const std::string& id) const {
+    const bool isNew = ::rename((folder_ + kPrepared + id).c_str(), pathOf(id).c_str()) == 0;
+    bringNamesToDisk(folder_);
+    return isNew;
+}
+
+void Outbox::withdraw(const std::string& id) const {
+    std::error_code ignored;
+    fs::remove_all(folder_ + kPrepared + id, ignored);
 }
 
 std::vector<OutboxEntry> Outbox::entries() const {

@@ -80,6 +80,14 @@ class Outbox {
     /// @param problem is set when it cannot be put in
     std::optional<OutboxClaim> add(const OutgoingMail& mail, const QByteArray& attachment,
                                    std::string& problem) const;
+    /// As `add`, but under a name of the caller's, and nobody sees the mail until `release`.
+    /// @return "" or why it cannot be put in
+    std::string prepare(const std::string& id, const OutgoingMail& mail, const QByteArray& attachment) const;
+    /// Lets a prepared mail into the outbox, in one step that comes to the disk; it is due at once.
+    /// @return false when none of that name is prepared, such as one that was let in before
+    bool release(const std::string& id) const;
+    /// Forgets a prepared mail.
+    void withdraw(const std::string& id) const;
     /// The oldest first.
     std::vector<OutboxEntry> entries() const;
     /// @return null when the mail is gone or another program is sending it
@@ -93,6 +101,7 @@ class Outbox {
 
   private:
     std::string pathOf(const std::string& id) const { return folder_ + id; }
+    std::string makeFolder() const;
 
     std::string whyFull(long long more) const;
 

@@ -18,6 +18,14 @@ std::string titleOf(const std::string& picture, const std::string& page) {
     return title.toStdString();
 }
 
+std::string keepSheet(PrintQueue& queue, QueuedSheet& sheet, const std::string& document,
+                      const std::string& prepareAs, int copy) {
+    if (prepareAs.empty()) return queue.add(sheet, document);
+    sheet.id = prepareAs + "-" + std::to_string(copy + 1);
+    sheet.byItself = true;
+    return queue.prepare(sheet, document);
+}
+
 }  // namespace
 
 int copiesToPrint(SystemInfo& info) {
@@ -39,10 +47,11 @@ std::string queueSheets(PrintQueue& queue, const PrintOrder& order, const SheetP
     queued.job = {order.printer, titleOf(picture.name, queued.page), order.plan.paper.value_or(usualPaper())};
     std::vector<std::string> added;
     for (int copy = 0; copy < order.copies && problem.empty(); ++copy) {
-        problem = queue.add(queued, document);
+        problem = keepSheet(queue, queued, document, order.prepareAs, copy);
         if (problem.empty()) added.push_back(queued.id);
     }
-    if (!problem.empty()) std::ranges::for_each(added, [&queue](const std::string& id) { queue.remove(id); });
+    for (const std::string& id : problem.empty() ? std::vector<std::string>() : added)
+        order.prepareAs.empty() ? queue.remove(id) : queue.withdraw(id);
     std::error_code ignored;
     std::filesystem::remove(document, ignored);
     if (problem.empty()) ids.insert(ids.end(), added.begin(), added.end());

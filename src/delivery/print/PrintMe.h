@@ -14,13 +14,16 @@ struct PrintOrder {
     SheetPlan plan;  ///< with a paper
     std::string printer;
     int copies = 1;
+    /// Not empty: the sheets are only prepared (`PrintQueue::prepare`), under this name and the number of the copy,
+    /// and go by themselves once they are let into the queue.
+    std::string prepareAs = {};
 };
 
 /// How often a sheet is printed: `iEventPrintCount`, which becomes 1 where it is less, and stays so.
 int copiesToPrint(SystemInfo& info);
 
 /// Makes the sheet of a picture and puts it into the queue, once for each copy: copies are jobs of their own.
-/// @param ids gets the names of the sheets in the queue, none of which is sent yet
+/// @param ids gets the names of the sheets, none of which is sent yet
 /// @return "" or one plain line; nothing is in the queue then
 std::string queueSheets(PrintQueue& queue, const PrintOrder& order, const SheetPicture& picture,
                         std::vector<std::string>& ids);

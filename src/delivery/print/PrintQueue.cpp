@@ -15,6 +15,7 @@
 
 #include "core/Log.h"
 #include "core/files/AtomicFile.h"
+#include "core/files/FreeName.h"
 #include "core/files/NameText.h"
 #include "core/files/Places.h"
 #include "delivery/words/Says.h"
@@ -26,6 +27,7 @@ namespace tavrin {
 namespace {
 
 constexpr auto kOwnerOnly = fs::perms::owner_read | fs::perms::owner_write;
+constexpr const char *kSeen = ".json", *kPrepared = ".prepared";
 constexpr const char* kStages[] = {"waiting", "sending", "atPrinter", "unsure"};
 
 QJsonObject objectOf(const QueuedSheet& sheet) {
@@ -39,6 +41,7 @@ QJsonObject objectOf(const QueuedSheet& sheet) {
             {"page", QString::fromStdString(sheet.page)},
             {"stage", kStages[static_cast<int>(sheet.stage)]},
             {"number", sheet.number},
+            {"byItself", sheet.byItself},
             {"reason", QString::fromStdString(sheet.reason)}};
 }
 
@@ -54,6 +57,7 @@ bool take(const QJsonObject& object, QueuedSheet& sheet) {
     sheet.page = text("page").toStdString();
     sheet.stage = static_cast<QueuedSheet::Stage>(stage - std::begin(kStages));
     sheet.number = object["number"].toInt();
+    sheet.byItself = object["byItself"].toBool();
     sheet.reason = text("reason").toStdString();
     return true;
 }
@@ -99,20 +103,51 @@ std::string PrintQueue::newDocument(std::string& problem) const {
     return folder_ + newName() + ".pdf";
 }
 
-std::string PrintQueue::add(QueuedSheet& sheet, const std::string& document) {
-    const std::string own = this->document(newName());
+std::string PrintQueue::keepDocument(const std::string& id, const std::string& document) const {
+    const std::string own = this->document(id);
     std::error_code failed;
+    fs::remove(own, failed);
     fs::create_hard_link(document, own, failed);
     if (failed) fs::copy_file(document, own, failed);
     if (failed) return said(Says::sheetNotKept, {folder_, failed.message()});
     keepFromOthers(own);
-    sheet.id = fs::path(own).stem().string();
-    const std::string problem = note(sheet);
+    return "";
+}
+
+std::string PrintQueue::add(QueuedSheet& sheet, const std::string& document) {
+    const std::string id = newName();
+    std::string problem = keepDocument(id, document);
+    if (!problem.empty()) return problem;
+    sheet.id = id;
+    problem = note(sheet);
     if (!problem.empty()) {
-        fs::remove(own, failed);
+        std::error_code failed;
+        fs::remove(this->document(id), failed);
         sheet.id.clear();
     }
     return problem;
+}
+
+std::string PrintQueue::prepare(const QueuedSheet& sheet, const std::string& document) const {
+    std::error_code failed;
+    if (fs::exists(folder_ + sheet.id + kSeen, failed)) return "";
+    std::string problem = keepDocument(sheet.id, document);
+    if (problem.empty()) problem = write(sheet, kPrepared);
+    if (!problem.empty()) withdraw(sheet.id);
+    return problem;
+}
+
+bool PrintQueue::release(const std::string& id) const {
+    std::error_code failed;
+    fs::rename(folder_ + id + kPrepared, folder_ + id + kSeen, failed);
+    bringNamesToDisk(folder_);
+    return !failed;
+}
+
+void PrintQueue::withdraw(const std::string& id) const {
+    std::error_code ignored;
+    fs::remove(folder_ + id + kPrepared, ignored);
+    if (!fs::exists(folder_ + id + kSeen, ignored)) fs::remove(document(id), ignored);
 }
 
 std::vector<QueuedSheet> PrintQueue::sheets() const {
@@ -146,7 +181,11 @@ QueuedSheet PrintQueue::sheet(const std::string& id) const {
 }
 
 std::string PrintQueue::note(const QueuedSheet& sheet) const {
-    const std::string path = folder_ + sheet.id + ".json";
+    return write(sheet, kSeen);
+}
+
+std::string PrintQueue::write(const QueuedSheet& sheet, const char* ending) const {
+    const std::string path = folder_ + sheet.id + ending;
     const QByteArray bytes = QJsonDocument(objectOf(sheet)).toJson();
     AtomicFile file(path);
     file.write(bytes.constData(), static_cast<std::size_t>(bytes.size()));
@@ -175,7 +214,8 @@ void PrintQueue::removeLeftDocuments() const {
     std::error_code ended, failed;
     for (auto entry = fs::directory_iterator(folder_, ended); !ended && entry != fs::directory_iterator();
          entry.increment(ended)) {
-        if (entry->path().extension() != ".pdf" || fs::exists(folder_ + entry->path().stem().string() + ".json"))
+        const std::string sheet = folder_ + entry->path().stem().string();
+        if (entry->path().extension() != ".pdf" || fs::exists(sheet + kSeen) || fs::exists(sheet + kPrepared))
             continue;
         const auto age = fs::file_time_type::clock::now() - entry->last_write_time(failed);
         if (!failed && age > kAge) fs::remove(entry->path(), failed);

@@ -22,8 +22,9 @@ struct QueuedSheet {
     PrintJob job;
     std::string picture, page;  ///< for people: the picture's file and the title of the print page
     Stage stage = Stage::waiting;
-    int number = 0;      ///< of the printer's job; 0: it was not made
-    std::string reason;  ///< why it waits or is unsure, as one plain line; may be empty
+    int number = 0;         ///< of the printer's job; 0: it was not made
+    std::string reason;     ///< why it waits or is unsure, as one plain line; may be empty
+    bool byItself = false;  ///< is sent as soon as its printer is well, without a person's word
 };
 
 /// Sheets that are not known to be printed, in a folder of the account that nobody else can read. Each is a small
@@ -37,6 +38,14 @@ class PrintQueue {
     /// queue's, or that of another sheet, which has the same.
     /// @return "" or one plain line; nothing is kept then
     std::string add(QueuedSheet& sheet, const std::string& document);
+    /// As `add`, but under the name that the sheet has, and nobody sees it until `release`. A sheet of that name that
+    /// is in the queue stays as it is.
+    std::string prepare(const QueuedSheet& sheet, const std::string& document) const;
+    /// Lets a prepared sheet into the queue, in one step that comes to the disk.
+    /// @return false when none of that name is prepared, such as one that was let in before
+    bool release(const std::string& id) const;
+    /// Forgets a prepared sheet.
+    void withdraw(const std::string& id) const;
     /// A name in the folder for a document that is still to be written.
     /// @param problem set to one plain line where there is no such folder
     std::string newDocument(std::string& problem) const;
@@ -59,6 +68,9 @@ class PrintQueue {
     void removeLeftDocuments() const;
 
   private:
+    std::string write(const QueuedSheet& sheet, const char* ending) const;
+    std::string keepDocument(const std::string& id, const std::string& document) const;
+
     std::string folder_;
 };
 

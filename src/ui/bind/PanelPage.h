@@ -17,6 +17,8 @@ struct PageTitle {
     const char* command;  ///< of the command that turns to it, and of its tab
     int key;              ///< key equivalent of its main tab
     const char *title, *toolTip;
+    /// Whether what is on is listed above it: a list that grows moves the page down.
+    bool showsChips = true;
 };
 
 /// A page of the side panel: groups of controls below each other, and what stands between them.

@@ -15,6 +15,7 @@
 #include "ui/DroppedFiles.h"
 #include "ui/FileFilters.h"
 #include "ui/WindowSettings.h"
+#include "ui/booth/EventPage.h"
 #include "ui/frame/Habits.h"
 #include "ui/frame/TipGuard.h"
 #include "ui/mail/MailPage.h"
@@ -31,6 +32,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       keeping_(new Safekeeping(editor_, *loop_, this)),
       looks_(new LookDesk(binder_, *keeping_, this)),
       review_(new ReviewDesk(info_, this)),
+      galleries_(new GalleryDesk(binder_, *loop_, this)),
       view_(new PictureView),
       strip_(new Strip(info, this)),
       messages_(new MessageBar),
@@ -42,6 +44,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       printing_(new PrintDesk(this)),
       batch_(new BatchPage(binder_)),
       mail_(new MailPage(binder_)),
+      booth_(new EventBooth(binder_, *heldLoop_, this)),
       history_(new HistoryPanel(binder_, this)),
       looksPanel_(new LooksPanel(*looks_, this)),
       sizeBox_(new SizeBox(info)),
@@ -60,10 +63,12 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
     comeBack();
     connectSettings();
     connectLists();
+    connectGalleries();  // whose idle work comes before that of the batch
     connectBatch();
     connectReview();
     connectMail();
     connectPrinting();
+    connectEvent();
     info_.pInterface = &bridge_;
     loop_->StartMainThread();
 }
@@ -259,13 +264,16 @@ void MainWindow::clearFreeze() {
 }
 
 void MainWindow::takePublished() {
-    for (const PublishedRows& rows : bridge_.takePublished())
+    for (const PublishedRows& rows : bridge_.takePublished()) {
         view_->show(rows);
+        if (rows.isPreview()) booth_->showPreview(rows.pixels);
+    }
     tellProgress();
 }
 
 void MainWindow::showAlert(const QString& message, const QString& reason) {
     if (batch_->takeAlert(message, reason)) return;
+    if (galleries_->isRunning()) return messages_->fail(message.section('\n', 0, 0), reason);
     auto* box = new QMessageBox(QMessageBox::Warning, "Tavrin", message, QMessageBox::Ok, this);
     box->setInformativeText(reason);
     box->setAttribute(Qt::WA_DeleteOnClose);

@@ -10,6 +10,7 @@
 #include "ui/WindowBridge.h"
 #include "ui/batch/BatchPage.h"
 #include "ui/bind/Binder.h"
+#include "ui/booth/EventBooth.h"
 #include "ui/editor/Airbrush.h"
 #include "ui/frame/Commands.h"
 #include "ui/frame/MessageBar.h"
@@ -21,6 +22,7 @@
 #include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
 #include "ui/print/PrintDesk.h"
+#include "ui/review/GalleryDesk.h"
 #include "ui/review/ReviewDesk.h"
 #include "ui/settings/SettingsPage.h"
 #include "ui/sizes/SizesPanel.h"
@@ -93,12 +95,14 @@ class MainWindow : public QMainWindow {
     Strip* strip() const { return strip_; }
     BatchPage* batch() const { return batch_; }
     MailPage* mail() const { return mail_; }
+    EventBooth* booth() const { return booth_; }
     PrintDesk* printing() const { return printing_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
     LookDesk& looks() { return *looks_; }
     ReviewDesk& review() { return *review_; }
+    GalleryDesk& galleries() { return *galleries_; }
     MessageBar* messages() const { return messages_; }
     Binder& binder() { return binder_; }
     Commands& commands() { return *commands_; }
@@ -132,6 +136,7 @@ class MainWindow : public QMainWindow {
     void connectLists();
     void connectBatch();
     void connectReview();
+    void connectGalleries();
     void connectMail();
     void sendQLXMail(const QString& to);
     void shareUsingEmail();
@@ -139,6 +144,10 @@ class MainWindow : public QMainWindow {
     void tellMail(const Posted& posted, const QString& to);
     WorkBar* makeMailBar();
     int workUnderWay() const;
+    void connectEvent();
+    void showEventMode();
+    void showJobAlert(const QString& message, const QString& reason);
+    void ShowEventSetup();
     void connectPrinting();
     void printImage();
     void runPageLayout();
@@ -195,6 +204,7 @@ class MainWindow : public QMainWindow {
     Safekeeping* keeping_;
     LookDesk* looks_;
     ReviewDesk* review_;
+    GalleryDesk* galleries_;
     PictureView* view_;
     Strip* strip_;
     MessageBar* messages_;
@@ -206,6 +216,7 @@ class MainWindow : public QMainWindow {
     PrintDesk* printing_;
     BatchPage* batch_;
     MailPage* mail_;
+    EventBooth* booth_;
     HistoryPanel* history_;
     LooksPanel* looksPanel_;
     SizeBox* sizeBox_;

@@ -19,6 +19,7 @@ void MainWindow::openFile(const QString& path) {
 }
 
 void MainWindow::openForeground(const QString& path) {
+    galleries_->leave();
     leaveWaysOfSaving();
     keeping_->leavePortrait();
     keeping_->forgetEdits();
@@ -40,11 +41,13 @@ void MainWindow::openReset(const QString& path) {
 }
 
 void MainWindow::openBackground(const QString& path) {
+    galleries_->leave();
     keeping_->chooseBackground(nameOfText(path));
     files_->openBackground(path, commands_->action("BackgroundReset")->isChecked());
 }
 
 void MainWindow::openState(const QString& path) {
+    galleries_->leave();
     leaveWaysOfSaving();
     finished_ = false;
     commands_->refresh();
@@ -215,6 +218,20 @@ void MainWindow::connectReview() {
     connect(review_, &ReviewDesk::told, messages_, &MessageBar::tell);
     connect(review_, &ReviewDesk::failed, messages_, &MessageBar::fail);
     connect(files_, &PictureFiles::saved, review_, &ReviewDesk::noteSaved);
+}
+
+/// What passes through the window while a gallery is made is nobody's work.
+void MainWindow::connectGalleries() {
+    loop_->addIdleJob(galleries_->engine());
+    connect(galleries_, &GalleryDesk::runBegins, keeping_, &Safekeeping::pause);
+    connect(galleries_, &GalleryDesk::runEnded, this, [this] {
+        keeping_->goOn();
+        binder_.UpdateAllUI();
+    });
+    connect(galleries_, &GalleryDesk::backgroundChosen, this, &MainWindow::openBackground);
+    connect(galleries_, &GalleryDesk::told, messages_, &MessageBar::tell);
+    connect(galleries_, &GalleryDesk::failed, messages_, &MessageBar::fail);
+    connect(galleries_, &GalleryDesk::alerted, this, &MainWindow::showAlert);
 }
 
 void MainWindow::askForReview() {

@@ -47,7 +47,10 @@ void MainWindow::connectKeeping() {
         savedPositions_.pop_front();
         if (done) editor_.markSaved(position);
     });
-    connect(qApp, &QGuiApplication::commitDataRequest, keeping_, &Safekeeping::keepNow, Qt::DirectConnection);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] {
+        galleries_->leave();
+        keeping_->keepNow();
+    });
 }
 
 void MainWindow::offerLeftRecipes() {
@@ -95,6 +98,7 @@ void MainWindow::endSave(const QString& path, bool done) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (question_) return;  // asked already
+    galleries_->leave();
     if (batch_->isRunning()) return askBeforeEndingBatch();
     closing_ = workUnderWay() > 0;
     if (closing_)
@@ -152,6 +156,7 @@ void MainWindow::askBeforeEndingBatch() {
 }
 
 void MainWindow::endFromOutside() {
+    galleries_->leave();
     keeping_->keepNow();
     QSettings settings = windowSettings();
     settings.setValue("geometry", saveGeometry());

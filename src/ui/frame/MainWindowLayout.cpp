@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "ui/WindowSettings.h"
+#include "ui/booth/EventPage.h"
 #include "ui/frame/ActionButton.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/frame/PictureCommands.h"
@@ -35,6 +36,7 @@ void MainWindow::layOut() {
     panel_->addPage(settings_);
     panel_->addPage(airbrush_->page());
     panel_->addPage(new PrintPage(binder_, templates_, new WaitingSheets(*printing_)));
+    panel_->addPage(booth_->page());
     panel_->addPage(batch_);
     panel_->addPage(mail_);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
@@ -49,6 +51,9 @@ void MainWindow::layOut() {
     std::ranges::move(fileCommands(*this), std::back_inserter(table));
     std::ranges::move(reviewCommands(*review_), std::back_inserter(table));
     std::ranges::move(printCommands(*this), std::back_inserter(table));
+    std::ranges::move(
+        galleryCommands(*galleries_, [this] { return !batch_->isRunning() && !info_.bEventModeShowing; }),
+        std::back_inserter(table));
     std::ranges::move(pageCommands(*panel_), std::back_inserter(table));
     std::vector<Command> effects = effectCommands(*panel_->effects());
     const auto help =
@@ -68,6 +73,12 @@ void MainWindow::layOut() {
     commands_->menu("&File")->insertMenu(commands_->action("Save"), recent);
     column->addWidget(new ViewBar(*commands_, view_, this));  // below the picture, so that it covers none of it
     column->addWidget(strip_);
+    auto* decks = new QWidget(middle);
+    auto* both = new QHBoxLayout(decks);
+    both->setContentsMargins(0, 0, 0, 0);
+    both->addWidget(booth_->foregroundSelector(), 1);
+    both->addWidget(booth_->backgroundSelector(), 1);
+    column->addWidget(decks);
     makeToolBar();
     makeStatusLine();
     view_->setFocus();
@@ -133,10 +144,12 @@ void MainWindow::tellProgress() {
                            .arg(info_.iOutputPixelHeight.load())
                            .arg(info_.iOutputImageDPI.load()));
     zoomText_->setText(tr("%1 %").arg(qRound(100.0 * view_->zoom().pixelScale())));
+    const bool previewOnly = info_.bSkipHiRes && !finished_;
     const int percent = finished_ ? 100 : static_cast<int>(100.0 * view_->progress());
     progress_->setValue(percent);
     stateText_->setText(savesUnderWay() > 0 ? tr("Saving...")
                         : finished_         ? tr("Ready")
+                        : previewOnly       ? tr("Preview")
                                             : tr("Full picture %1 %").arg(percent));
 }
 

@@ -22,7 +22,6 @@ namespace {
 
 constexpr const char* kPageKey = "mainTab";
 constexpr int kTabsInALine = 4;
-constexpr int kEventTab = 3;
 
 /// The part of an item that takes the keys; of buttons to choose from, the one in force.
 void giveFocus(QWidget* item) {
@@ -60,11 +59,15 @@ SidePanel::SidePanel(Binder& binder, QWidget* parent)
     tabs_->setSpacing(2);
     column->addLayout(tabs_);
     column->addWidget(search_);
-    auto* chips = new Chips(binder, whole);
+    chips_ = new QWidget(whole);
+    auto* chips = new Chips(binder, chips_);
+    auto* chipColumn = new QVBoxLayout(chips_);
+    chipColumn->setContentsMargins(0, 0, 0, 0);
+    chipColumn->addWidget(chips);
     connect(chips, &Chips::wanted, this, &SidePanel::reveal);
     for (PictureRow* slot : effects_->overlays())
         chips->addSlot(slot);
-    column->addWidget(chips);
+    column->addWidget(chips_);
     SystemInfo& info = binder.editor().info();
     segments_ = {adjustmentSegments(*adjust_, *scroll_, info), effectSegments(*effects_, *scroll_, info)};
     for (SegmentBar* bar : segments_)
@@ -151,7 +154,6 @@ void SidePanel::layOutTabs() {
 void SidePanel::selectMainTab(int key) {
     const auto page = std::ranges::find(pages_, key, [](const PanelPage* one) { return one->title().key; });
     if (page == pages_.end()) return;
-    binder_.editor().info().bEventModeShowing = key == kEventTab;
     windowSettings().setValue(kPageKey, (*page)->title().name);
     search_->clear();
     showPage(*page);
@@ -168,6 +170,7 @@ void SidePanel::showPage(PanelPage* page) {
     }
     current_ = page;
     page->show();
+    chips_->setVisible(page->title().showsChips);
     showSegments();
     tabGroup_->button(page->title().key)->setChecked(true);
     scroll_->widget()->layout()->activate();

@@ -73,6 +73,7 @@ class SidePanel : public QDockWidget {
     QButtonGroup* tabGroup_;
     QLineEdit* search_;
     QLabel* nothing_;
+    QWidget* chips_ = nullptr;
     QWidget* found_;       ///< buttons of the actions that were found
     QVBoxLayout* column_;  ///< of the pages
     QScrollArea* scroll_;

@@ -142,6 +142,14 @@ void Safekeeping::waitForState() {
     });
 }
 
+void Safekeeping::pause() {
+    if (timer_.isActive() && underWay_ == 0) {
+        timer_.stop();
+        keep();
+    }
+    ++underWay_;
+}
+
 void Safekeeping::keepNow() {
     if (!touched_ || underWay_ > 0) return keeper_.wait();
     leavePortrait();

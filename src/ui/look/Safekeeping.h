@@ -49,6 +49,11 @@ class Safekeeping : public QObject {
     /// After a state was given to the loop for opening: from then on its settings are those to keep.
     void waitForState();
 
+    /// What is in force from now on is no work of a person, such as the alternatives of a gallery: the recipe that is
+    /// kept stays that of before, until `goOn`.
+    void pause();
+    void goOn() { --underWay_; }
+
     /// The program is ended from outside: on return the present recipe is on the disk, for the next start to offer.
     void keepNow();
     /// The program ends as its user wants it.

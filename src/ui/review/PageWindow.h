@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 #include "ui/review/WebPages.h"
@@ -17,6 +18,8 @@ class PageWindow : public QWidget {
 
     /// Shows a page, in front of all windows.
     void showPage(const QString& path);
+    /// Reads a page twice and shows it then, so that one of the same name as before never shows its old pictures.
+    void showPageAnew(const QString& path);
 
   signals:
     /// One plain sentence about what became of it.
@@ -26,10 +29,16 @@ class PageWindow : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    bool makeView(const QString& path);
+    void takeLoaded();
+    void bringUp();
     void placeOnScreen();
 
-    const PageCalls calls_;
+    PageCalls calls_;
     QWidget* view_ = nullptr;
+    QString anew_;                ///< the page that is read twice
+    bool bReloadWebview = false;  ///< that is still to be read again
+    QTimer patience_;
 };
 
 }  // namespace tavrin

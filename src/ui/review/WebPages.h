@@ -15,6 +15,8 @@ struct PageCalls {
     /// @return whether the page may go there
     std::function<bool(const QString& name)> mayGo;
     std::function<void(double)> lastScroll = {};  ///< how far the strip of the page is scrolled, in its pixels
+    std::function<void()> loaded = {};            ///< a page has been read to its end, or cannot be
+    std::function<void(const QString& text)> alert = {};  ///< what a script of the page wants to tell
 };
 
 /// Shows pages of this computer's files in a window of the program. It is a library of its own beside the program, so
@@ -35,4 +37,4 @@ WebPages* webPages();
 
 }  // namespace tavrin
 
-Q_DECLARE_INTERFACE(tavrin::WebPages, "org.tavrin.WebPages/1")
+Q_DECLARE_INTERFACE(tavrin::WebPages, "org.tavrin.WebPages/2")
