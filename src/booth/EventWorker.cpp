@@ -148,7 +148,7 @@ std::string EventWorker::start(EventSetup setup) {
     const auto lists = std::make_shared<SystemInfo>();
     startLike(*lists, base_);
     const auto prints = std::make_shared<EventPrints>(shared, *teller);
-    const auto counts = std::make_shared<EventCounts>(folder.output(), installationMark(shared->delivery));
+    const auto counts = std::make_shared<EventCounts>(folder.output(), EventOrders::ownerOf(*shared));
     const auto orders = std::make_shared<EventOrders>(shared, lists, prints, counts);
     run_ = std::make_unique<Run>(EventShop{shared, lists, folder, orders}, teller, prints, counts);
     run_->start();
