@@ -19,9 +19,12 @@ class BoothFolder {
     std::string note(const std::string& stem) const { return hidden() + stem + ".job"; }
     std::string broken() const { return output_ + "Broken/"; }
 
-    /// Makes the hidden folder.
+    /// Sees to the hidden folder. Where this process has used the output folder, and now another one without it lies
+    /// in its place, that is where a disk is connected that is not there at present; nothing may get in there.
     /// @return "" or why nothing can be put into the output folder, as one plain line
     std::string prepare() const;
+    /// The same for whatever lies there now: a person has just chosen it.
+    std::string adopt() const;
     /// Whether a photo of this stem lies in the folder, whatever its type.
     bool hasPhoto(const std::string& stem) const;
 

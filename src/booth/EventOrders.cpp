@@ -82,6 +82,7 @@ void EventOrders::prepareSheets(SystemInfo& info, const std::string& stem, const
         order.plan.paper = target->paper;
         order.printer = target->printer;
         order.prepareAs = nameOf(stem);
+        order.picture = BoothFolder(setup_->outputFolder).photo(stem);
         problem = printEventFile(info, file, order, queue_, note.sheets);
     }
     note.owesSheets = !problem.empty();

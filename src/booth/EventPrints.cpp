@@ -94,9 +94,10 @@ void EventPrints::count(const std::vector<QueuedSheet>& sheets) {
         trouble = waiting > 0 ? printer_.trouble : "";
     }
     teller_.trouble("printer", "The sheets wait for their printer.", trouble);
-    teller_.trouble("unsure", "Some sheets may have been printed.",
-                    unsure > 0 ? std::to_string(unsure) + " in the list of waiting sheets: print or forget them."
-                               : std::string());
+    teller_.trouble("unsure", "Some sheets wait for your word.",
+                    unsure > 0
+                        ? std::to_string(unsure) + " in the list of waiting sheets: print them again, or forget them."
+                        : std::string());
 }
 
 std::optional<PrintTarget> EventPrints::target(std::chrono::milliseconds limit, std::string& problem) {

@@ -125,6 +125,7 @@ EventSigns EventWorker::Run::signs() const {
     signs.isRunning = isRunning();
     signs.isDraining = isRunning() && isStopped_;
     signs.lastSign = pictureWorker_.lastSign();
+    signs.hanging = pictures_.hanging();
     pictures_.tell(signs);
     prints_->tell(signs);
     mails_.tell(signs);
@@ -140,7 +141,7 @@ EventWorker::~EventWorker() = default;
 std::string EventWorker::start(EventSetup setup) {
     if (isRunning()) return "The booth still runs.";
     BoothFolder folder(setup.outputFolder);
-    if (std::string problem = folder.prepare(); !problem.empty()) return problem;
+    if (std::string problem = folder.adopt(); !problem.empty()) return problem;
     AtomicFile::removeAbandonedParts(folder.hidden());
     run_.reset();
     const auto teller = std::make_shared<EventTeller>(listener_);

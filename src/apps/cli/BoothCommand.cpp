@@ -6,6 +6,7 @@
 #include "apps/cli/BoothConsole.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/MailServerOptions.h"
+#include "apps/cli/Output.h"
 #include "apps/cli/PrinterOptions.h"
 #include "apps/cli/Usage.h"
 #include "core/Interruption.h"
@@ -108,6 +109,9 @@ int runBooth(const BoothOptions& options) {
     console.waitForEnd();
     const EventSigns signs = worker.signs();
     console.summarize(signs);
+    flushOutput();
+    // A thread that the system keeps in a call would use what the end of the program takes down.
+    if (signs.hanging > 0) std::_Exit(kFailed);
     const bool isLeft = options.once && (signs.jobsWaiting > 0 || !signs.trouble.empty());
     return console.failed() == 0 && !isLeft ? kDone : kFailed;
 }
