@@ -93,6 +93,7 @@ void EventWorker::Run::join() {
 
 Next EventWorker::Run::pictureStep() {
     pictures_.pass(pictureWorker_);
+    mails_.count();
     tellChange();
     if (shop_.setup->once && pictures_.isAllDone()) pictureWorker_.stop();
     return Next::pause;

@@ -165,7 +165,9 @@ class Evening:
     def killer(self, done):
         while not done.is_set() and sum(booth.kills for booth in self.booths) < self.kills:
             time.sleep(self.chance.uniform(0.1, 1.2))
-            self.chance.choice(self.booths).kill()
+            # A booth that starts while the disk is away would take the empty place for its folder.
+            if not self.pause.is_set():
+                self.chance.choice(self.booths).kill()
 
     def printer_stops(self):
         """After the sheet in hand: one that the printing system is made to let go of in the middle it prints again."""
@@ -186,11 +188,12 @@ class Evening:
     def disk_fills(self):
         filler = self.disk / "filler"
         with open(filler, "wb", buffering=0) as file:
-            try:
-                while file.write(bytes(1 << 20)):
+            for size in (1 << 20, 4096):
+                try:
+                    while file.write(bytes(size)) == size:
+                        pass
+                except OSError:
                     pass
-            except OSError:
-                pass
         time.sleep(4)
         filler.unlink()
 
@@ -198,22 +201,19 @@ class Evening:
         """While nobody presses: what is on the screen refuses to then, which a program that starts anew cannot know."""
         self.pause.set()
         wait_for("the guests", 20, lambda: not self.busy)
-        killing = self.kills
-        self.kills = 0  # a booth that starts now would take the empty place for its folder
-        time.sleep(1.5)
+        time.sleep(1.5)  # for a booth that has just been started
         subprocess.run(["umount", "-l", str(self.out)])
         time.sleep(4)
         left = [str(path) for path in self.out.rglob("*")]
         self.expect(f"nothing gets to where the disk is not {left}", not left)
         self.mount_out()
-        self.kills = killing
         self.pause.clear()
 
     def faults(self, done):
         kinds = [self.printer_stops, self.mail_goes_away, self.paper_runs_out, self.disk_fills, self.printer_stops,
                  self.folder_goes_away]
         for fault in kinds:
-            done.wait(self.chance.uniform(1, 4))
+            done.wait(self.chance.uniform(1, 4) * self.presses / 60)
             fault()
 
     # The end.
