@@ -17,7 +17,9 @@ namespace {
 struct Folder {
     Folder() { fs::create_directories(path); }
     ~Folder() { fs::remove_all(path); }
-    const fs::path path = fs::temp_directory_path() / ("tavrin-bench-" + std::to_string(::getpid()));
+    static inline int made = 0;  // each has a name that none had before
+    const fs::path path =
+        fs::temp_directory_path() / ("tavrin-bench-" + std::to_string(::getpid()) + "-" + std::to_string(++made));
 };
 
 void BM_Press(benchmark::State& state) {

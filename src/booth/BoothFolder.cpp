@@ -1,6 +1,7 @@
 #include "booth/BoothFolder.h"
 
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <map>
 #include <mutex>
@@ -8,6 +9,7 @@
 #include <utility>
 
 #include "core/files/AtomicFile.h"
+#include "folders/FolderListing.h"
 #include "folders/NextFileInFolder.h"
 
 namespace fs = std::filesystem;
@@ -72,6 +74,21 @@ std::string BoothFolder::prepare() const {
 std::string BoothFolder::adopt() const {
     knownFolders().forget(output_);
     return prepare();
+}
+
+void BoothFolder::removeLeftovers() const {
+    constexpr std::chrono::hours kAge{1};  // a younger one may be under work
+    AtomicFile::removeAbandonedParts(hidden());
+    for (const std::string& name : listFolder(hidden()).names) {
+        const fs::path path = hidden() + name;
+        const std::string extension = path.extension().string();
+        std::error_code failed;
+        const bool isPress = name.starts_with("press-");
+        const bool isJobs = extension == ".jpg" || extension == ".own";
+        if (!isPress && !(isJobs && !fs::exists(ticket(path.stem().string()), failed))) continue;
+        const auto changed = fs::last_write_time(path, failed);
+        if (!failed && fs::file_time_type::clock::now() - changed > kAge) fs::remove(path, failed);
+    }
 }
 
 bool BoothFolder::hasPhoto(const std::string& stem) const {

@@ -25,6 +25,9 @@ class BoothFolder {
     std::string prepare() const;
     /// The same for whatever lies there now: a person has just chosen it.
     std::string adopt() const;
+    /// Removes what killed programs left in the hidden folder: tickets that were never named, pictures and claims of
+    /// tickets that are gone.
+    void removeLeftovers() const;
     /// Whether a photo of this stem lies in the folder, whatever its type.
     bool hasPhoto(const std::string& stem) const;
 

@@ -5,7 +5,6 @@
 #include "booth/EventPictures.h"
 #include "booth/EventPrints.h"
 #include "core/Worker.h"
-#include "core/files/AtomicFile.h"
 #include "core/state/SystemInfo.h"
 #include "session/StartUp.h"
 
@@ -143,7 +142,7 @@ std::string EventWorker::start(EventSetup setup) {
     if (isRunning()) return "The booth still runs.";
     BoothFolder folder(setup.outputFolder);
     if (std::string problem = folder.adopt(); !problem.empty()) return problem;
-    AtomicFile::removeAbandonedParts(folder.hidden());
+    folder.removeLeftovers();
     run_.reset();
     const auto teller = std::make_shared<EventTeller>(listener_);
     const auto shared = std::make_shared<const EventSetup>(std::move(setup));

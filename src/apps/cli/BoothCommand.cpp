@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <mutex>
 
 #include "apps/cli/BoothConsole.h"
 #include "apps/cli/Console.h"
@@ -80,6 +81,29 @@ Refusal takeLook(const BoothOptions& options, EventSetup& setup) {
     return {};
 }
 
+/// What a signal stops, as long as there is something.
+class Stopping {
+  public:
+    explicit Stopping(EventWorker& worker) {
+        set(&worker);
+        Interruption::stopFirst([] {
+            const std::lock_guard lock(mutex_);
+            if (worker_) worker_->stop();
+        });
+    }
+    ~Stopping() { set(nullptr); }
+    Stopping(const Stopping&) = delete;
+    Stopping& operator=(const Stopping&) = delete;
+
+  private:
+    static void set(EventWorker* worker) {
+        const std::lock_guard lock(mutex_);
+        worker_ = worker;
+    }
+    static inline std::mutex mutex_;
+    static inline EventWorker* worker_ = nullptr;
+};
+
 int refuse(const Refusal& refusal) {
     complain(refusal.line);
     return refusal.code;
@@ -105,7 +129,7 @@ int runBooth(const BoothOptions& options) {
     EventWorker worker(*info, console);
     if (const std::string problem = worker.start(std::move(setup)); !problem.empty())
         return refuse({kUsage, problem});
-    Interruption::stopFirst([&worker] { worker.stop(); });
+    const Stopping stopping(worker);
     console.waitForEnd();
     const EventSigns signs = worker.signs();
     console.summarize(signs);

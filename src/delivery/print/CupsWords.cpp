@@ -19,7 +19,7 @@ constexpr std::array<std::pair<std::string_view, const char*>, 22> kWords{{
     {"door-open", "a door is open"},
     {"interlock-open", "a cover is open"},
     {"toner-empty", "out of toner"},
-    {"marker-supply-empty", "out of ink"},
+    {"marker-supply-empty", "out of ink or ribbon"},
     {"marker-waste-full", "the waste box is full"},
     {"output-area-full", "the output tray is full"},
     {"output-tray-missing", "the output tray is missing"},
