@@ -28,17 +28,15 @@ struct Running {
     std::optional<JobEnd> end;
 };
 
-std::shared_ptr<Running> runOnThread(const std::shared_ptr<EventJob>& job) {
-    auto running = std::make_shared<Running>();
-    std::thread([job, running] {
+std::thread runOnThread(const std::shared_ptr<EventJob>& job, const std::shared_ptr<Running>& running) {
+    return std::thread([job, running] {
         JobEnd end = job->run();
         {
             std::lock_guard lock(running->mutex);
             running->end = std::move(end);
         }
         running->ended.notify_all();
-    }).detach();
-    return running;
+    });
 }
 
 std::string secondsText(milliseconds time) {
@@ -146,7 +144,8 @@ void EventPictures::setJob(const std::string& stem, std::shared_ptr<EventJob> jo
 /// Waits for a job as long as a job may take, and then a little for its end.
 JobEnd EventPictures::watch(const std::shared_ptr<EventJob>& job, Worker& worker) {
     constexpr milliseconds kLook{100}, kGrace{5000};
-    const std::shared_ptr<Running> running = runOnThread(job);
+    const auto running = std::make_shared<Running>();
+    std::thread thread = runOnThread(job, running);
     const Clock::time_point limit = Clock::now() + shop_.setup->jobLimit;
     std::unique_lock lock(running->mutex);
     while (!running->ended.wait_for(lock, kLook, [&] { return running->end.has_value(); })) {
@@ -154,8 +153,11 @@ JobEnd EventPictures::watch(const std::shared_ptr<EventJob>& job, Worker& worker
         job->cancel();
         if (Clock::now() < limit + kGrace || !job->abandon()) continue;
         ++hanging_;
+        thread.detach();
         return {Kind::givenUp, "A call of the system does not come back; a network folder may not answer.", 0, 0, ""};
     }
+    lock.unlock();
+    thread.join();
     worker.giveSign();
     return *running->end;
 }
