@@ -218,31 +218,44 @@ bool EventPictures::settle(const std::string& stem, JobEnd end, EventResult resu
             break;
         case Kind::broken:
         case Kind::givenUp:
-            setAside(stem, end.reason, result);
+            setAside(stem, end.kind, result);
     }
-    if (end.kind != Kind::source && end.kind != Kind::place) waits_.erase(stem);
+    const bool isStuck = result.status == Status::failed && waits_.contains(stem);
+    if (end.kind != Kind::source && end.kind != Kind::place && !isStuck) waits_.erase(stem);
     if (result.status == Status::partly || result.status == Status::failed) note(stem, result.reason);
     if (end.kind == Kind::done || end.kind == Kind::notThere || result.status == Status::failed) {
         std::lock_guard lock(mutex_);
         left_ = std::max(left_ - 1, 0);
     }
     if (result.status != Status::skipped) teller_.finished(result);
-    return end.kind != Kind::place;
+    return end.kind != Kind::place && !isStuck;
 }
 
-void EventPictures::setAside(const std::string& stem, const std::string& reason, EventResult& result) {
-    const std::string problem = setTicketAside(shop_.folder, stem, reason);
+/// Unless another booth has made something of the ticket meanwhile. One that hangs has its claim still.
+void EventPictures::setAside(const std::string& stem, JobEnd::Kind kind, EventResult& result) {
+    const std::optional<TicketClaim> claim = TicketClaim::take(shop_.folder, stem);
+    std::error_code failed;
+    const bool isOurs = claim.has_value() || kind == Kind::givenUp;
+    if (!isOurs || !fs::exists(result.ticket, failed) || shop_.folder.hasPhoto(stem)) {
+        result.status = Status::skipped;
+        return;
+    }
     result.status = Status::failed;
+    const std::string problem = setTicketAside(shop_.folder, stem, result.reason);
+    constexpr const char* kFailed = "A picture could not be made.";
     if (problem.empty()) {
+        waits_.erase(stem);
         counts_->addFailure(stem);
+        teller_.alert(kFailed, stem + ".qlx: " + result.reason);
         std::lock_guard lock(mutex_);
         ++broken_;
     } else {
-        result.reason += " " + problem;
+        constexpr std::chrono::seconds kPause{30};
         mustWait(stem);
-        waits_[stem].next = Clock::now() + std::chrono::seconds(30);
+        waits_[stem].next = Clock::now() + kPause;
+        result.reason += " " + problem;
+        teller_.trouble("ticket " + stem, kFailed, stem + ".qlx: " + result.reason);
     }
-    teller_.alert("A picture could not be made.", stem + ".qlx: " + result.reason);
 }
 
 void EventPictures::note(const std::string& stem, const std::string& reason) {
