@@ -19,9 +19,15 @@ class BoothFolder {
     std::string note(const std::string& stem) const { return hidden() + stem + ".job"; }
     std::string broken() const { return output_ + "Broken/"; }
 
-    /// Makes the hidden folder.
+    /// Sees to the hidden folder. Where this process has used the output folder, and now another one without it lies
+    /// in its place, that is where a disk is connected that is not there at present; nothing may get in there.
     /// @return "" or why nothing can be put into the output folder, as one plain line
     std::string prepare() const;
+    /// The same for whatever lies there now: a person has just chosen it.
+    std::string adopt() const;
+    /// Removes what killed programs left in the hidden folder: tickets that were never named, pictures and claims of
+    /// tickets that are gone.
+    void removeLeftovers() const;
     /// Whether a photo of this stem lies in the folder, whatever its type.
     bool hasPhoto(const std::string& stem) const;
 

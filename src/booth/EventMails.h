@@ -21,12 +21,13 @@ class EventMails {
     void step();
     /// A mail under way is given back to the outbox, and no other begun. On any thread.
     void leave() { leaving_ = true; }
+    /// Counts what waits. On any thread, also while a mail is under way.
+    void count();
     void tell(EventSigns& signs) const;
 
   private:
     bool sendOne(const std::string& id);
     void tellEnd(const OutboxEntry& entry, const Posted& posted);
-    void count();
 
     const std::shared_ptr<const EventSetup> setup_;
     EventTeller& teller_;

@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include <QSysInfo>
+
 #include "booth/Ticket.h"
 #include "core/state/SystemInfo.h"
 #include "delivery/mail/Email.h"
@@ -24,6 +26,16 @@ void addReason(JobNote& note, const std::string& reason) {
 
 }  // namespace
 
+/// The same each time on one machine and for one account, which has the queue and the outbox.
+std::string EventOrders::ownerOf(const EventSetup& setup) {
+    constexpr std::size_t kDigits = 16;
+    QByteArray machine = QSysInfo::machineUniqueId();
+    if (machine.isEmpty()) machine = QSysInfo::machineHostName().toUtf8();
+    return digestOfText(machine.toStdString() + ":" +
+                        (setup.printQueue.empty() ? PrintQueue::usualFolder() : setup.printQueue))
+        .substr(0, kDigits);
+}
+
 EventOrders::EventOrders(std::shared_ptr<const EventSetup> setup, std::shared_ptr<const SystemInfo> lists,
                          std::shared_ptr<EventPrints> prints, std::shared_ptr<EventCounts> counts)
     : setup_(std::move(setup)),
@@ -32,7 +44,7 @@ EventOrders::EventOrders(std::shared_ptr<const EventSetup> setup, std::shared_pt
       counts_(std::move(counts)),
       queue_(setup_->printQueue.empty() ? PrintQueue() : PrintQueue(setup_->printQueue)),
       outbox_(setup_->outbox.empty() ? Outbox() : Outbox(setup_->outbox)),
-      owner_(installationMark(setup_->delivery)) {}
+      owner_(ownerOf(*setup_)) {}
 
 /// Sheets and mails are kept in the order of their names, which begin with the time; the rest is the ticket's own, so
 /// that a job that is done anew finds what it had made ready.
@@ -70,6 +82,7 @@ void EventOrders::prepareSheets(SystemInfo& info, const std::string& stem, const
         order.plan.paper = target->paper;
         order.printer = target->printer;
         order.prepareAs = nameOf(stem);
+        order.picture = BoothFolder(setup_->outputFolder).photo(stem);
         problem = printEventFile(info, file, order, queue_, note.sheets);
     }
     note.owesSheets = !problem.empty();

@@ -35,7 +35,8 @@ class EventOrders {
     /// Whether this installation has what the note names.
     bool isOurs(const JobNote& note) const { return note.owner == owner_; }
 
-    const std::string& installation() const { return owner_; }
+    /// Whose queue and outbox those of a booth are.
+    static std::string ownerOf(const EventSetup& setup);
 
   private:
     void prepareSheets(SystemInfo& info, const std::string& stem, const std::string& file, JobNote& note);

@@ -28,17 +28,15 @@ struct Running {
     std::optional<JobEnd> end;
 };
 
-std::shared_ptr<Running> runOnThread(const std::shared_ptr<EventJob>& job) {
-    auto running = std::make_shared<Running>();
-    std::thread([job, running] {
+std::thread runOnThread(const std::shared_ptr<EventJob>& job, const std::shared_ptr<Running>& running) {
+    return std::thread([job, running] {
         JobEnd end = job->run();
         {
             std::lock_guard lock(running->mutex);
             running->end = std::move(end);
         }
         running->ended.notify_all();
-    }).detach();
-    return running;
+    });
 }
 
 std::string secondsText(milliseconds time) {
@@ -146,7 +144,8 @@ void EventPictures::setJob(const std::string& stem, std::shared_ptr<EventJob> jo
 /// Waits for a job as long as a job may take, and then a little for its end.
 JobEnd EventPictures::watch(const std::shared_ptr<EventJob>& job, Worker& worker) {
     constexpr milliseconds kLook{100}, kGrace{5000};
-    const std::shared_ptr<Running> running = runOnThread(job);
+    const auto running = std::make_shared<Running>();
+    std::thread thread = runOnThread(job, running);
     const Clock::time_point limit = Clock::now() + shop_.setup->jobLimit;
     std::unique_lock lock(running->mutex);
     while (!running->ended.wait_for(lock, kLook, [&] { return running->end.has_value(); })) {
@@ -154,8 +153,11 @@ JobEnd EventPictures::watch(const std::shared_ptr<EventJob>& job, Worker& worker
         job->cancel();
         if (Clock::now() < limit + kGrace || !job->abandon()) continue;
         ++hanging_;
+        thread.detach();
         return {Kind::givenUp, "A call of the system does not come back; a network folder may not answer.", 0, 0, ""};
     }
+    lock.unlock();
+    thread.join();
     worker.giveSign();
     return *running->end;
 }
@@ -216,31 +218,44 @@ bool EventPictures::settle(const std::string& stem, JobEnd end, EventResult resu
             break;
         case Kind::broken:
         case Kind::givenUp:
-            setAside(stem, end.reason, result);
+            setAside(stem, end.kind, result);
     }
-    if (end.kind != Kind::source && end.kind != Kind::place) waits_.erase(stem);
+    const bool isStuck = result.status == Status::failed && waits_.contains(stem);
+    if (end.kind != Kind::source && end.kind != Kind::place && !isStuck) waits_.erase(stem);
     if (result.status == Status::partly || result.status == Status::failed) note(stem, result.reason);
     if (end.kind == Kind::done || end.kind == Kind::notThere || result.status == Status::failed) {
         std::lock_guard lock(mutex_);
         left_ = std::max(left_ - 1, 0);
     }
     if (result.status != Status::skipped) teller_.finished(result);
-    return end.kind != Kind::place;
+    return end.kind != Kind::place && !isStuck;
 }
 
-void EventPictures::setAside(const std::string& stem, const std::string& reason, EventResult& result) {
-    const std::string problem = setTicketAside(shop_.folder, stem, reason);
+/// Unless another booth has made something of the ticket meanwhile. One that hangs has its claim still.
+void EventPictures::setAside(const std::string& stem, JobEnd::Kind kind, EventResult& result) {
+    const std::optional<TicketClaim> claim = TicketClaim::take(shop_.folder, stem);
+    std::error_code failed;
+    const bool isOurs = claim.has_value() || kind == Kind::givenUp;
+    if (!isOurs || !fs::exists(result.ticket, failed) || shop_.folder.hasPhoto(stem)) {
+        result.status = Status::skipped;
+        return;
+    }
     result.status = Status::failed;
+    const std::string problem = setTicketAside(shop_.folder, stem, result.reason);
+    constexpr const char* kFailed = "A picture could not be made.";
     if (problem.empty()) {
+        waits_.erase(stem);
         counts_->addFailure(stem);
+        teller_.alert(kFailed, stem + ".qlx: " + result.reason);
         std::lock_guard lock(mutex_);
         ++broken_;
     } else {
-        result.reason += " " + problem;
+        constexpr std::chrono::seconds kPause{30};
         mustWait(stem);
-        waits_[stem].next = Clock::now() + std::chrono::seconds(30);
+        waits_[stem].next = Clock::now() + kPause;
+        result.reason += " " + problem;
+        teller_.trouble("ticket " + stem, kFailed, stem + ".qlx: " + result.reason);
     }
-    teller_.alert("A picture could not be made.", stem + ".qlx: " + result.reason);
 }
 
 void EventPictures::note(const std::string& stem, const std::string& reason) {

@@ -45,7 +45,7 @@ class EventPictures {
     JobEnd watch(const std::shared_ptr<EventJob>& job, Worker& worker);
     bool settle(const std::string& stem, JobEnd end, EventResult result);
     bool mustWait(const std::string& stem);
-    void setAside(const std::string& stem, const std::string& reason, EventResult& result);
+    void setAside(const std::string& stem, JobEnd::Kind kind, EventResult& result);
     void setTrouble(const std::string& reason);
     void note(const std::string& stem, const std::string& reason);
     void setJob(const std::string& stem, std::shared_ptr<EventJob> job);

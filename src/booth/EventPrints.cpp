@@ -61,7 +61,12 @@ void EventPrints::findTarget(const Printer& printer) {
 }
 
 void EventPrints::step() {
-    look();
+    constexpr std::chrono::seconds kPause{5};  // where no sheet waits
+    const auto now = std::chrono::steady_clock::now();
+    if (hasSheets_ || now >= nextLook_) {
+        look();
+        nextLook_ = now + kPause;
+    }
     const std::vector<QueuedSheet> sheets = runner_.followUp();
     sendWaiting(sheets);
     count(queue_.sheets());
@@ -81,6 +86,7 @@ void EventPrints::sendWaiting(const std::vector<QueuedSheet>& sheets) {
 void EventPrints::count(const std::vector<QueuedSheet>& sheets) {
     int waiting = 0, unsure = 0;
     std::string trouble;
+    hasSheets_ = !sheets.empty();
     for (const QueuedSheet& sheet : sheets) {
         const bool asks = sheet.stage == Stage::unsure || (sheet.stage == Stage::waiting && !sheet.byItself);
         asks ? ++unsure : ++waiting;
@@ -94,9 +100,10 @@ void EventPrints::count(const std::vector<QueuedSheet>& sheets) {
         trouble = waiting > 0 ? printer_.trouble : "";
     }
     teller_.trouble("printer", "The sheets wait for their printer.", trouble);
-    teller_.trouble("unsure", "Some sheets may have been printed.",
-                    unsure > 0 ? std::to_string(unsure) + " in the list of waiting sheets: print or forget them."
-                               : std::string());
+    teller_.trouble("unsure", "Some sheets wait for your word.",
+                    unsure > 0
+                        ? std::to_string(unsure) + " in the list of waiting sheets: print them again, or forget them."
+                        : std::string());
 }
 
 std::optional<PrintTarget> EventPrints::target(std::chrono::milliseconds limit, std::string& problem) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -44,6 +45,8 @@ class EventPrints {
     const std::unique_ptr<PrintService> service_;
     PrintQueue queue_;
     PrintRunner runner_;
+    bool hasSheets_ = false;
+    std::chrono::steady_clock::time_point nextLook_{};
 
     mutable std::mutex mutex_;
     std::condition_variable answered_;

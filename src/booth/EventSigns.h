@@ -30,6 +30,7 @@ struct EventSigns {
     std::string job;               ///< name of the ticket in hand; "" for none
     Clock::time_point since{};     ///< when that began
     Clock::time_point lastSign{};  ///< the last sign of life
+    int hanging = 0;               ///< jobs given up that hang in a call of the system
     std::string trouble;           ///< why no picture can be made at present, as one plain line; "" when all is well
 
     int tickets = 0, photos = 0;  ///< in the folder, as the last pass counted them
@@ -41,7 +42,7 @@ struct EventSigns {
     std::string printerState;    ///< in plain words: "ready", "printing", "out of paper"
     std::string printerTrouble;  ///< why nothing is printed now, as one plain line; "" when it is
     int printsWaiting = 0;       ///< sheets that are not printed yet, those at the printer among them
-    int printsUnsure = 0;        ///< may have been printed; only a person decides
+    int printsUnsure = 0;        ///< only a person decides: may have been printed, or the printer gave them up
     int printsLeft = -1;         ///< in the pack; -1: nobody counts
 
     int mailsWaiting = 0;     ///< sent by themselves when the server takes them

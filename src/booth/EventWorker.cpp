@@ -5,7 +5,6 @@
 #include "booth/EventPictures.h"
 #include "booth/EventPrints.h"
 #include "core/Worker.h"
-#include "core/files/AtomicFile.h"
 #include "core/state/SystemInfo.h"
 #include "session/StartUp.h"
 
@@ -93,6 +92,7 @@ void EventWorker::Run::join() {
 
 Next EventWorker::Run::pictureStep() {
     pictures_.pass(pictureWorker_);
+    mails_.count();
     tellChange();
     if (shop_.setup->once && pictures_.isAllDone()) pictureWorker_.stop();
     return Next::pause;
@@ -125,6 +125,7 @@ EventSigns EventWorker::Run::signs() const {
     signs.isRunning = isRunning();
     signs.isDraining = isRunning() && isStopped_;
     signs.lastSign = pictureWorker_.lastSign();
+    signs.hanging = pictures_.hanging();
     pictures_.tell(signs);
     prints_->tell(signs);
     mails_.tell(signs);
@@ -140,15 +141,15 @@ EventWorker::~EventWorker() = default;
 std::string EventWorker::start(EventSetup setup) {
     if (isRunning()) return "The booth still runs.";
     BoothFolder folder(setup.outputFolder);
-    if (std::string problem = folder.prepare(); !problem.empty()) return problem;
-    AtomicFile::removeAbandonedParts(folder.hidden());
+    if (std::string problem = folder.adopt(); !problem.empty()) return problem;
+    folder.removeLeftovers();
     run_.reset();
     const auto teller = std::make_shared<EventTeller>(listener_);
     const auto shared = std::make_shared<const EventSetup>(std::move(setup));
     const auto lists = std::make_shared<SystemInfo>();
     startLike(*lists, base_);
     const auto prints = std::make_shared<EventPrints>(shared, *teller);
-    const auto counts = std::make_shared<EventCounts>(folder.output(), installationMark(shared->delivery));
+    const auto counts = std::make_shared<EventCounts>(folder.output(), EventOrders::ownerOf(*shared));
     const auto orders = std::make_shared<EventOrders>(shared, lists, prints, counts);
     run_ = std::make_unique<Run>(EventShop{shared, lists, folder, orders}, teller, prints, counts);
     run_->start();

@@ -56,7 +56,7 @@ TEST_F(MannersCliTest, AWrongWordIsAnsweredWithTheNearestRightOne) {
     } calls[] = {
         {{"rendr"}, "There is no command rendr; did you mean render?"},
         {{"state", "shwo", "a.qlx"}, "There is no command shwo; did you mean show?"},
-        {{}, "A command is missing: render, batch, report, print, mail, outbox, info"},
+        {{}, "A command is missing: render, batch, report, booth, print, mail, outbox, info"},
         {{"render", "--foregroud", foreground_, "--out", out},
          "There is no option --foregroud; did you mean --foreground?"},
         {{"render", "--ouput=x.png"}, "There is no option --ouput; did you mean --out"},

@@ -1,8 +1,6 @@
 #include "apps/cli/MailCommand.h"
 
-#include <charconv>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <optional>
 
@@ -11,6 +9,7 @@
 #include <QJsonObject>
 
 #include "apps/cli/Console.h"
+#include "apps/cli/MailServerOptions.h"
 #include "apps/cli/Output.h"
 #include "apps/cli/Refusal.h"
 #include "apps/cli/Usage.h"
@@ -19,8 +18,6 @@
 #include "core/state/SystemInfo.h"
 #include "delivery/mail/EventMail.h"
 #include "delivery/mail/MailText.h"
-#include "formats/SafeFile.h"
-#include "formats/SettingsFile.h"
 
 namespace tavrin::cli {
 
@@ -28,62 +25,11 @@ namespace {
 
 struct MailOptions {
     OutgoingMail mail;
-    std::string server, account, passwordFile, caFile, phone;
-    bool startTls = false, anyCertificate = false, noOutbox = false, location = false;
+    MailServerOptions server;
+    std::string phone;
+    bool noOutbox = false, location = false;
     int patience = 30;
 };
-
-/// "smtp://HOST:PORT" or "smtps://HOST:PORT"; without a port the usual one.
-std::string readServer(const std::string& text, MailServer& server) {
-    const std::string wrong = "--server takes smtp://HOST:PORT or smtps://HOST:PORT, not \"" + text + "\".";
-    server.ssl = text.starts_with("smtps://");
-    if (!server.ssl && !text.starts_with("smtp://")) return wrong;
-    std::string rest = text.substr(server.ssl ? 8 : 7);
-    while (rest.ends_with('/'))
-        rest.pop_back();
-    const std::size_t colon = rest.rfind(':'), bracket = rest.rfind(']');
-    const bool named = colon != std::string::npos && (bracket == std::string::npos || colon > bracket);
-    constexpr int kPlain = 25, kEncrypted = 465;
-    server.port = server.ssl ? kEncrypted : kPlain;
-    server.host = rest.substr(0, named ? colon : std::string::npos);
-    if (named) {
-        const char *from = rest.data() + colon + 1, *to = rest.data() + rest.size();
-        const auto [end, problem] = std::from_chars(from, to, server.port);
-        if (problem != std::errc() || end != to || server.port < 1 || server.port > 65535) return wrong;
-    }
-    return server.host.empty() || server.host.find_first_of("/@ ") != std::string::npos ? wrong : "";
-}
-
-/// The account's settings, where it has any.
-void loadServerSettings(QLXInfo& settings) {
-    if (!safeFileExists(Places::current().settingsFile())) return;
-    if (const std::string problem = LoadQLXFile(settings); !problem.empty()) warn(problem);
-}
-
-/// The first line of a file, so that no password stands on a command line, which everybody on the machine can read.
-Refusal readPassword(const std::string& path, std::string& password) {
-    std::ifstream file(path);
-    if (!std::getline(file, password)) return {kFailed, "The password cannot be read from " + path + "."};
-    if (password.ends_with('\r')) password.pop_back();
-    return {};
-}
-
-Refusal takeServer(MailOptions& options) {
-    if (options.server.empty()) {
-        if (options.startTls || options.anyCertificate || !options.account.empty() || !options.caFile.empty())
-            return {kUsage, "--account, --starttls, --ca-file and --any-certificate go with --server."};
-        return {};
-    }
-    MailServer server;
-    if (const std::string problem = readServer(options.server, server); !problem.empty()) return {kUsage, problem};
-    server.startTls = options.startTls;
-    server.checksCertificate = !options.anyCertificate;
-    server.caFile = options.caFile;
-    server.account = options.account;
-    options.mail.server = server;
-    if (options.passwordFile.empty()) return {};
-    return readPassword(options.passwordFile, options.mail.server->password);
-}
 
 /// The address that the number of a telephone has at the gateway for text messages.
 Refusal takePhone(SystemInfo& info, MailOptions& options) {
@@ -133,7 +79,7 @@ MailWatch watchOf(const MailOptions& options) {
 int sendOne(MailOptions options) {
     const auto info = std::make_unique<SystemInfo>();
     loadServerSettings(*info->oQLXInfo);
-    Refusal refusal = takeServer(options);
+    Refusal refusal = readMailServer(options.server, options.mail.server);
     if (refusal.code == kDone) refusal = takePhone(*info, options);
     if (refusal.code == kDone) refusal = check(options);
     if (refusal.code != kDone) {
@@ -257,23 +203,9 @@ void addMailCommands(CLI::App& app, int& result) {
     command->add_option("--subject", mail.subject, "Subject")->type_name("TEXT");
     command->add_option("--body", mail.body, "Text of the mail")->type_name("TEXT");
     command->add_option("--attach", mail.attachment, "File to attach")->type_name("FILE");
-    CLI::Option* server = command->add_option("--server", options->server,
-                                              "Mail server: smtp://HOST:PORT, or smtps:// where all is encrypted "
-                                              "(default: the one of the settings)");
-    server->type_name("URL");
+    addMailServerOptions(*command, options->server);
     command->add_option("--from", mail.from, "Address of the sender (default: the server's account)")
         ->type_name("ADDRESS");
-    CLI::Option* account = command->add_option("--account", options->account, "Account name at the server");
-    account->type_name("NAME");
-    command
-        ->add_option("--password-file", options->passwordFile, "File with the account's password in its first line")
-        ->needs(account)
-        ->type_name("FILE");
-    command->add_flag("--starttls", options->startTls,
-                      "Encrypt from the server's word on; without it nothing is sent");
-    command->add_option("--ca-file", options->caFile, "Certificates to trust besides the system's")
-        ->type_name("FILE");
-    command->add_flag("--any-certificate", options->anyCertificate, "Do not look at the server's certificate");
     command->add_flag("--location", options->location,
                       "Leave the place on earth, as the camera noted it, in the picture");
     command->add_flag("--no-outbox", options->noOutbox, "Do not keep a mail that cannot be sent");

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 
 #include "apps/cli/BatchCommand.h"
+#include "apps/cli/BoothCommand.h"
 #include "apps/cli/Completion.h"
 #include "apps/cli/Console.h"
 #include "apps/cli/EditOptions.h"
@@ -75,6 +76,7 @@ int main(int argc, char** argv) {
     cli::addRenderCommand(app, result);
     cli::addBatchCommand(app, result);
     cli::addReportCommand(app, result);
+    cli::addBoothCommand(app, result);
     cli::addPrintCommand(app, result);
     cli::addMailCommands(app, result);
     cli::addInfoCommand(app, result);
@@ -87,7 +89,8 @@ int main(int argc, char** argv) {
     std::unique_ptr<QCoreApplication> application;
     app.parse_complete_callback([&] {
         const bool drawsSheet = app.got_subcommand("print") || app.get_subcommand("report")->got_subcommand("sheet");
-        application = startLibraries(app.got_subcommand("render") || app.got_subcommand("batch") || drawsSheet);
+        application = startLibraries(app.got_subcommand("render") || app.got_subcommand("batch") ||
+                                     app.got_subcommand("booth") || drawsSheet);
     });
     try {
         app.parse(argc, argv);

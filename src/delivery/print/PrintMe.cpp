@@ -71,6 +71,7 @@ std::string printEventFile(SystemInfo& info, const std::string& file, PrintOrder
     order.plan.page = info.oPrinterPages[static_cast<std::size_t>(index)];
     SheetPicture picture;
     if (std::string problem = readForSheet(file, picture); !problem.empty()) return problem;
+    if (!order.picture.empty()) picture.name = order.picture;
     if (info.iOutputPixelWidth > 0 && info.iOutputPixelHeight > 0)
         picture.proportion = static_cast<double>(info.iOutputPixelWidth) / info.iOutputPixelHeight;
     return PrintMe(info, std::move(order), picture, queue, ids);

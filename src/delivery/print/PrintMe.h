@@ -17,6 +17,7 @@ struct PrintOrder {
     /// Not empty: the sheets are only prepared (`PrintQueue::prepare`), under this name and the number of the copy,
     /// and go by themselves once they are let into the queue.
     std::string prepareAs = {};
+    std::string picture = {};  ///< path of the picture for people, where it will lie; "" for where it is read
 };
 
 /// How often a sheet is printed: `iEventPrintCount`, which becomes 1 where it is less, and stays so.

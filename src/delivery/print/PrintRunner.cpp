@@ -75,6 +75,9 @@ QueuedSheet PrintRunner::taken(QueuedSheet sheet, const JobNews& news) {
             return stay(sheet, Stage::waiting, reason);
         }
         case News::givenUp:
+            // Somebody took it out of the printer's hands, or it cannot be printed as it is; once more would be the
+            // same.
+            sheet.byItself = false;
             return stay(sheet, Stage::waiting,
                         news.reason.empty() ? said(Says::didNotPrint, {printer})
                                             : said(Says::didNotPrintFor, {printer, news.reason}));

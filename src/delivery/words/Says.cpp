@@ -118,7 +118,7 @@ constexpr const char* kWords[] = {
     QT_TRANSLATE_NOOP("Delivery", "a cover is open"),                                 // coverOpen
     QT_TRANSLATE_NOOP("Delivery", "a door is open"),                                  // doorOpen
     QT_TRANSLATE_NOOP("Delivery", "out of toner"),                                    // outOfToner
-    QT_TRANSLATE_NOOP("Delivery", "out of ink"),                                      // outOfInk
+    QT_TRANSLATE_NOOP("Delivery", "out of ink or ribbon"),                            // outOfInk
     QT_TRANSLATE_NOOP("Delivery", "the waste box is full"),                           // wasteFull
     QT_TRANSLATE_NOOP("Delivery", "the output tray is full"),                         // outputFull
     QT_TRANSLATE_NOOP("Delivery", "the output tray is missing"),                      // noOutputTray
