@@ -248,6 +248,7 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     const Mask open = plate.screen.inverted();
     Look look{Mask(shot.width, shot.height), Mask(shot.width, shot.height)};
     runAreas(context, open, [&](const Area& area) { lookAt(context, shot, plate, area, look); });
+    look.high &= open;  // a screen that has become another
     const int reach = shot.px(kCoreReach);
     Core core{shrunk(context, look.high, reach), shrunk(context, look.sure, shot.px(kFirstReach)), {}, {}};
     core.deep = shrunk(context, open, shot.px(kDepthReach));

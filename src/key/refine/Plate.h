@@ -33,6 +33,11 @@ void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen);
 /// Makes the colours from the screen's pixels, and measures `spread` anew.
 void paintPlate(const RunContext& context, const Shot& shot, Plate& plate);
 
+/// Adds what the screen goes over into where its colour changes little by little, from green to blue for one: cells as
+/// smooth as the screen whose colour differs little from that of the one before. Only if that is a large area.
+/// @param difference the screen's usual one
+void followDrift(const RunContext& context, const Shot& shot, float difference, Mask& screen);
+
 /// The pixels to which the key gave next to nothing, and to all around them: a gap in which the light is another.
 Mask clearParts(const RunContext& context, const Shot& shot);
 
