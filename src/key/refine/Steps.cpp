@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/raster/Pixels.h"
+#include "key/refine/Marks.h"
 #include "key/refine/OwnColor.h"
 
 namespace tavrin::refine {
@@ -90,6 +91,8 @@ bool Steps::findSubject(const RunContext& context, const Shot& shot, bool& still
     core_ = findCore(context, shot, plate_);
     if (context.isSuperseded() || core_.sure.count() < kFewestSure) return false;
     open_ = openPixels(context, plate_.screen, core_.solid);
+    marks_ = findMarks(context, shot, plate_, core_, open_);
+    open_ &= marks_.inverted();
     first_ = separate(context, shot, plate_, core_.sure, open_);
     return true;
 }
@@ -124,7 +127,7 @@ Refined Steps::run(const RunContext& context, const Shot& shot, const RefineTast
 
 Refined Steps::runWith(const RunContext& context, const Shot& shot, const RefineTaste& taste, std::uint8_t* result) {
     known_ = false;
-    const Findings findings{shot, plate_, separation_, core_.solid, open_, alpha_, taste, missingDetail_};
+    const Findings findings{shot, plate_, separation_, core_.solid, open_, marks_, alpha_, taste, missingDetail_};
     known_ = writeResult(context, findings, result);
     return known_ ? Refined::done : Refined::superseded;
 }
