@@ -31,14 +31,17 @@ float rednessOf(float r, float g, float b) {
     return r / std::max(std::max(g, b), 1.0f);
 }
 
-// Whether much that is no screen has a screen's colour.
+// Whether much that is no screen, nor near it, has a screen's colour.
 bool mayDrift(const Shot& shot, const Mask& screen, float difference) {
     const ChannelRoles roles(shot.blue);
     int found = 0, all = 0;
     for (int y = kSampleStep / 2; y < shot.height; y += kSampleStep) {
         for (int x = kSampleStep / 2; x < shot.width; x += kSampleStep, ++all) {
             const std::uint8_t* const p = shot.pixels + pixelOffset(shot.width, x, y);
-            found += leads(p[0], p[roles.green], p[roles.blue], difference) && !screen.at(x, y);
+            if (!leads(p[0], p[roles.green], p[roles.blue], difference)) continue;
+            const int left = std::max(x - kSampleStep, 0), right = std::min(x + kSampleStep, shot.width);
+            found += screen.isClear(y, left, right) && screen.isClear(std::max(y - kSampleStep, 0), left, right) &&
+                     screen.isClear(std::min(y + kSampleStep, shot.height - 1), left, right);
         }
     }
     return found > kLeastSamples * all;

@@ -12,7 +12,7 @@ namespace tavrin::refine {
 namespace {
 
 constexpr int kHalo = 4;                              // columns beyond an area that its windows look at
-constexpr double kMarkCell = 4.0, kMostMark = 0.004;  // of all cells
+constexpr double kMarkCell = 8.0, kMostMark = 0.004;  // of all cells
 constexpr float kOtherCover = 0.25f;                  // the least alpha of what has another hue than the screen
 constexpr double kFill = 0.45;                        // of the box around a mark
 constexpr int kMostLength = 2;                        // in widths
@@ -59,9 +59,7 @@ void findOther(const RunContext& context, const Shot& shot, const Plate& plate, 
 
 Mask findMarks(const RunContext& context, const Shot& shot, const Plate& plate, const Core& core, const Mask& open) {
     const int size = shot.cell(kMarkCell);
-    Mask known = core.solid;
-    known |= core.sure;
-    const Cells shares = sharesOf(context, open, size), subject = sharesOf(context, known, size);
+    const Cells shares = sharesOf(context, open, size), subject = sharesOf(context, core.sure, size);
     std::vector<std::uint8_t> set(shares.count());
     for (std::size_t i = 0; i < set.size(); ++i)
         set[i] = shares.row(0, 0)[i] > 0.0f || subject.row(0, 0)[i] > 0.0f;

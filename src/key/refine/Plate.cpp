@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
 #include <numeric>
 
 #include "core/raster/Pixels.h"
@@ -112,8 +113,8 @@ float measureSpread(const RunContext& context, const Shot& shot, const Plate& pl
 // Sums of the screen's pixels in some columns of one row of cells.
 void sumCells(const Shot& shot, const Mask& screen, int row, int left, int count, Cells& cells) {
     const auto length = static_cast<std::size_t>(count);
-    std::vector<float> lines((4 + kPlateCell) * length);
-    float *const sums = lines.data(), *const weights = sums + 4 * length;
+    const auto lines = std::make_unique_for_overwrite<float[]>((4 + kPlateCell) * length);
+    float *const sums = lines.get(), *const weights = sums + 4 * length;
     const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
     for (int y = first; y < last; ++y)
         screen.unpack(y, left, count, weights + std::ptrdiff_t{y - first} * count);
@@ -171,7 +172,7 @@ StartRows::StartRows(const Strip& strip, const Plate& plate)
     : strip_(strip),
       least_(kLeastShare * plate.difference),
       plate_(plate.colors, kPlateCell, strip.left, strip.width),
-      lines_(6 * static_cast<std::size_t>(strip.width)) {}
+      lines_(std::make_unique_for_overwrite<float[]>(6 * static_cast<std::size_t>(strip.width))) {}
 
 void StartRows::load(int y, float* const* planes) {
     loadColors(strip_, y, planes[0], planes[1], planes[2]);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -68,13 +69,13 @@ class StartRows {
     ChannelRow screen() const { return {line(3), line(4), line(5)}; }
 
   private:
-    const float* line(std::size_t i) const { return lines_.data() + i * static_cast<std::size_t>(strip_.width); }
-    float* line(std::size_t i) { return lines_.data() + i * static_cast<std::size_t>(strip_.width); }
+    const float* line(std::size_t i) const { return lines_.get() + i * static_cast<std::size_t>(strip_.width); }
+    float* line(std::size_t i) { return lines_.get() + i * static_cast<std::size_t>(strip_.width); }
 
     Strip strip_;
     float least_;
     CellRows plate_;
-    std::vector<float> lines_;
+    std::unique_ptr<float[]> lines_;
 };
 
 }  // namespace tavrin::refine
