@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <deque>
+#include <numeric>
 
 #include "core/raster/Pixels.h"
 #include "key/pixel/ChannelRoles.h"
@@ -32,49 +33,56 @@ float rednessOf(float r, float g, float b) {
 }
 
 // Whether much that is no screen, nor near it, has a screen's colour.
-bool mayDrift(const Shot& shot, const Mask& screen, float difference) {
+bool mayDrift(const Shot& shot, const Mask& screen, float difference, int far) {
     const ChannelRoles roles(shot.blue);
     int found = 0, all = 0;
     for (int y = kSampleStep / 2; y < shot.height; y += kSampleStep) {
         for (int x = kSampleStep / 2; x < shot.width; x += kSampleStep, ++all) {
             const std::uint8_t* const p = shot.pixels + pixelOffset(shot.width, x, y);
             if (!leads(p[0], p[roles.green], p[roles.blue], difference)) continue;
-            const int left = std::max(x - kSampleStep, 0), right = std::min(x + kSampleStep, shot.width);
-            found += screen.isClear(y, left, right) && screen.isClear(std::max(y - kSampleStep, 0), left, right) &&
-                     screen.isClear(std::min(y + kSampleStep, shot.height - 1), left, right);
+            const int left = std::max(x - far, 0), right = std::min(x + far, shot.width);
+            found += screen.isClear(y, left, right) && screen.isClear(std::max(y - far, 0), left, right) &&
+                     screen.isClear(std::min(y + far, shot.height - 1), left, right);
         }
     }
     return found > kLeastSamples * all;
+}
+
+// Adds the means of three channels and of their squares together over the rows of a row of cells.
+void lookAtRow(const Shot& shot, int row, int size, Cells& cells) {
+    const auto width = static_cast<std::size_t>(shot.width);
+    std::vector<float> lines(7 * width);
+    float* planes[7];
+    for (std::size_t i = 0; i < 7; ++i)
+        planes[i] = lines.data() + i * width;
+    const auto [r, g, b, rs, gs, bs, squares] = planes;
+    const int first = row * size, last = std::min(first + size, shot.height);
+    for (int y = first; y < last; ++y) {
+        loadColors({shot, 0, shot.width}, y, r, g, b);
+        for (std::size_t x = 0; x < width; ++x) {
+            rs[x] += r[x];
+            gs[x] += g[x];
+            bs[x] += b[x];
+            squares[x] += r[x] * r[x] + g[x] * g[x] + b[x] * b[x];
+        }
+    }
+    for (int c = 0; c < cells.columns(); ++c) {
+        const int begin = c * size, end = std::min(begin + size, shot.width);
+        for (int plane = 0; plane < 4; ++plane)
+            cells.row(row, plane)[c] = std::accumulate(planes[3 + plane] + begin, planes[3 + plane] + end, 0.0f) /
+                                       static_cast<float>((end - begin) * (last - first));
+    }
 }
 
 // Means of the three channels, in roles, and the sum of their variances.
 Cells lookAtCells(const RunContext& context, const Shot& shot, int size) {
     Cells cells = Cells::over(shot.width, shot.height, size, 4);
     runRows(context, cells.rows(), 4, [&](int row) {
-        const auto width = static_cast<std::size_t>(shot.width);
-        std::vector<float> lines(3 * width);
-        const int first = row * size, last = std::min(first + size, shot.height);
-        for (int y = first; y < last; ++y) {
-            loadColors({shot, 0, shot.width}, y, lines.data(), lines.data() + width, lines.data() + 2 * width);
-            for (int plane = 0; plane < 3; ++plane) {
-                const float* const line = lines.data() + static_cast<std::size_t>(plane) * width;
-                float *const means = cells.row(row, plane), *const squares = cells.row(row, 3);
-                for (int x = 0; x < shot.width; ++x) {
-                    means[x / size] += line[x];
-                    squares[x / size] += line[x] * line[x];
-                }
-            }
-        }
+        lookAtRow(shot, row, size, cells);
+        float* const variances = cells.row(row, 3);
         for (int c = 0; c < cells.columns(); ++c) {
-            const auto pixels =
-                static_cast<float>((std::min((c + 1) * size, shot.width) - c * size) * (last - first));
-            float& variance = cells.row(row, 3)[c];
-            variance /= pixels;
-            for (int plane = 0; plane < 3; ++plane) {
-                float& mean = cells.row(row, plane)[c];
-                mean /= pixels;
-                variance -= mean * mean;
-            }
+            for (int plane = 0; plane < 3; ++plane)
+                variances[c] -= cells.row(row, plane)[c] * cells.row(row, plane)[c];
         }
     });
     return cells;
@@ -139,8 +147,8 @@ class Walk {
 }  // namespace
 
 void followDrift(const RunContext& context, const Shot& shot, float difference, Mask& screen) {
-    if (!mayDrift(shot, screen, difference)) return;
     const int size = shot.cell(kDriftCell);
+    if (!mayDrift(shot, screen, difference, 2 * size)) return;
     const Cells cells = lookAtCells(context, shot, size);
     const Walk walk(cells, sharesOf(context, screen, size), difference);
     if (static_cast<double>(walk.count()) < kLeastDrift * static_cast<double>(cells.count())) return;

@@ -86,8 +86,9 @@ Mask findMarks(const RunContext& context, const Shot& shot, const Plate& plate, 
         return !mark.subject && mark.cells < most && mark.isCompact() &&
                mark.isWithin(shares.columns(), shares.rows());
     };
-    Mask found = maskOfMarks(maybe), other(shot.width, shot.height);
-    if (found.count() == 0) return found;
+    if (std::none_of(marks.begin(), marks.end(), maybe)) return Mask(shot.width, shot.height);
+    const Mask found = maskOfMarks(maybe);
+    Mask other(shot.width, shot.height);
     runAreas(context, found, [&](const Area& area) { findOther(context, shot, plate, area, other); });
     other &= found;
     const Cells otherShares = sharesOf(context, other, size);
