@@ -116,5 +116,28 @@ TEST(RefineScreen, GapsInHairStayOpen) {
     EXPECT_LT(least / gaps, 0.4);
 }
 
+TEST(RefineScreen, ASourceThatEndsInThePictureLeavesNoLineAtItsSide) {
+    const Rgb skin{210.0, 150.0, 120.0};
+    const double kept = 0.72;  // of the light, in the source's corners
+    PaintedScene scene(400, 300, kScreen, [&](int x, int y) {
+        const double far = std::hypot((x - 200) / 160.0, (y - 150) / 200.0), light = 1.0 - (1.0 - kept) * far * far;
+        const Rgb own{kScreen.r * light, kScreen.g * light, kScreen.b * light};
+        return mix(skin, own, body(x, y));
+    });
+    for (int y = 0; y < 300; ++y) {
+        for (int x = 0; x < 400; ++x) {
+            if (x < 40 || x >= 360) scene.at(scene.foreground, x, y) = {52, 160, 74, 255};
+        }
+    }
+    Combine(scene.info, 1, 1);
+    int left = 0;
+    for (int y = 0; y < 300; ++y) {
+        for (int x = 30; x < 50; ++x)
+            left = std::max(left, scene.alpha(x, y));
+    }
+    EXPECT_EQ(left, 0);
+    EXPECT_EQ(scene.alpha(200, 220), 255);
+}
+
 }  // namespace
 }  // namespace tavrin

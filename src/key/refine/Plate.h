@@ -32,10 +32,11 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot);
 void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen);
 
 /// Makes the colours from the screen's pixels, and measures `spread` anew.
-void paintPlate(const RunContext& context, const Shot& shot, Plate& plate);
+/// @param frame what tells nothing of the screen though it is part of it; may be empty
+void paintPlate(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate);
 
-/// Adds what the screen goes over into where its colour changes little by little, from green to blue for one: cells as
-/// smooth as the screen whose colour differs little from that of the one before. Only if that is a large area.
+/// Adds what the screen goes over into where its colour changes little by little, from green to blue for one: cells
+/// as smooth as the screen whose colour differs little from that of the one before. Only if that is a large area.
 /// @param difference the screen's usual one
 void followDrift(const RunContext& context, const Shot& shot, float difference, Mask& screen);
 
