@@ -19,8 +19,7 @@ constexpr float kScreenCell = 0.9f;     // share of a cell that lies on the scre
 constexpr float kLeastLead = 0.5f;      // of the screen's usual colour difference
 constexpr float kMostStep = 3.0f;       // levels from one cell to the next
 constexpr float kVariances = 2.0f, kVariance = 6.0f;  // of the screen's middle one, and levels squared
-
-constexpr float kMoreRed = 0.04f;  // than where the way began
+constexpr float kMoreRed = 0.04f;                     // than where the way began
 
 // Green or blue, whichever is more, over red: red is in no screen.
 bool leads(float r, float g, float b, float difference) {
@@ -48,7 +47,7 @@ bool mayDrift(const Shot& shot, const Mask& screen, float difference, int far) {
     return found > kLeastSamples * all;
 }
 
-// Adds the means of three channels and of their squares together over the rows of a row of cells.
+// The means of the three channels, and of their squares together, over one row of cells.
 void lookAtRow(const Shot& shot, int row, int size, Cells& cells) {
     const auto width = static_cast<std::size_t>(shot.width);
     std::vector<float> lines(7 * width);

@@ -42,6 +42,17 @@ struct Mark {
     }
 };
 
+std::vector<Mark> listParts(const Parts& parts, const Cells& subject) {
+    std::vector<Mark> marks(static_cast<std::size_t>(parts.count) + 1);
+    for (std::size_t i = 0; i < subject.count(); ++i) {
+        Mark& mark = marks[static_cast<std::size_t>(parts.labels[i])];
+        mark.add(static_cast<int>(i) % subject.columns(), static_cast<int>(i) / subject.columns());
+        mark.subject |= subject.row(0, 0)[i] > 0.0f;
+    }
+    marks[0].subject = true;  // what is no part
+    return marks;
+}
+
 // Which pixels of an area have another hue than the screen.
 void findOther(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& other) {
     const Strip strip = area.strip(shot, kHalo);
@@ -64,16 +75,10 @@ Mask findMarks(const RunContext& context, const Shot& shot, const Plate& plate, 
     for (std::size_t i = 0; i < set.size(); ++i)
         set[i] = shares.row(0, 0)[i] > 0.0f || subject.row(0, 0)[i] > 0.0f;
     const Parts parts = findParts(shares.columns(), shares.rows(), set, Neighbours::eight);
-    std::vector<Mark> marks(static_cast<std::size_t>(parts.count) + 1);
+    std::vector<Mark> marks = listParts(parts, subject);
     const auto markAt = [&](std::size_t cell) -> Mark& {
         return marks[static_cast<std::size_t>(parts.labels[cell])];
     };
-    for (std::size_t i = 0; i < set.size(); ++i) {
-        Mark& mark = markAt(i);
-        mark.add(static_cast<int>(i) % shares.columns(), static_cast<int>(i) / shares.columns());
-        mark.subject |= subject.row(0, 0)[i] > 0.0f;
-    }
-    marks[0].subject = true;  // what is no part
     const double most = kMostMark * static_cast<double>(set.size());
     const auto maskOfMarks = [&](const auto& isOne) {
         Mask mask = maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
