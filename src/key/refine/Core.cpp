@@ -22,6 +22,10 @@ constexpr float kOtherCover = 0.16f, kClothCover = 0.4f;  // least alphas: no sh
 constexpr std::uint8_t kNoKey = 12;                       // the key's alpha up to 0.05
 constexpr float kCalm = 2.5f, kCalmFactor = 1.2f;
 constexpr double kLeastPart = 0.005;  // of all cells
+// Share of a cell from which on it has no gap, and how many of a part's cells must have none: of hair and veils
+// fewer.
+constexpr float kCellWithoutGap = 0.98f;
+constexpr double kWholeOfCloth = 0.65, kWholeOfCalm = 0.92;
 constexpr float kWholeCell = 0.999f;
 
 // Where the simple alpha is high, and where it is surely whole.
@@ -127,7 +131,8 @@ float middleOn(const Cells& values, const Cells& screen) {
     return middleOf(found);
 }
 
-// Connected parts that are surely cloth, or mostly as calm as cloth, not hair. A few folds make no part rough.
+// Connected parts that are surely cloth, or mostly as calm as cloth, and without the many gaps of hair and veils. A
+// few folds make no part rough.
 Mask clothParts(const RunContext& context, const Shot& shot, const Cloth& cloth, const Mask& screen) {
     const int size = shot.cell(kPartCell);
     const Cells shares = sharesOf(context, cloth.likely, size), sure = sharesOf(context, cloth.sure, size),
@@ -139,17 +144,22 @@ Mask clothParts(const RunContext& context, const Shot& shot, const Cloth& cloth,
         set[i] = shares.row(0, 0)[i] > 0.5f;
     const Parts parts = findParts(shares.columns(), shares.rows(), set, Neighbours::four);
     std::vector<std::vector<float>> roughs(static_cast<std::size_t>(parts.count) + 1), covers(roughs);
+    std::vector<int> whole(roughs.size());  // cells without a gap
     for (std::size_t i = 0; i < set.size(); ++i) {
         const auto part = static_cast<std::size_t>(parts.labels[i]);
         if (part == 0) continue;
         roughs[part].push_back(smooth.row(0, 0)[i]);
         covers[part].push_back(sure.row(0, 0)[i]);
+        whole[part] += shares.row(0, 0)[i] > kCellWithoutGap;
     }
     const double least = kLeastPart * static_cast<double>(shares.count());
     std::vector<std::uint8_t> kept(roughs.size());
-    for (std::size_t part = 1; part < kept.size(); ++part)
-        kept[part] = static_cast<double>(roughs[part].size()) > least &&
-                     (middleOf(covers[part]) > 0.5f || middleOf(roughs[part]) < most);
+    for (std::size_t part = 1; part < kept.size(); ++part) {
+        const auto cells = static_cast<double>(roughs[part].size());
+        const bool sureCloth = middleOf(covers[part]) > 0.5f;
+        kept[part] = cells > least && whole[part] > (sureCloth ? kWholeOfCloth : kWholeOfCalm) * cells &&
+                     (sureCloth || middleOf(roughs[part]) < most);
+    }
     return maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
         return kept[static_cast<std::size_t>(parts.labels[static_cast<std::size_t>(row * shares.columns() + c)])] !=
                0;
@@ -238,6 +248,7 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     const Mask open = plate.screen.inverted();
     Look look{Mask(shot.width, shot.height), Mask(shot.width, shot.height)};
     runAreas(context, open, [&](const Area& area) { lookAt(context, shot, plate, area, look); });
+    look.high &= open;  // a screen that has become another
     const int reach = shot.px(kCoreReach);
     Core core{shrunk(context, look.high, reach), shrunk(context, look.sure, shot.px(kFirstReach)), {}, {}};
     core.deep = shrunk(context, open, shot.px(kDepthReach));

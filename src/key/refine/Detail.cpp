@@ -15,18 +15,23 @@ constexpr int kReach = 4;          // pixels of every picture, as the loops have
 constexpr float kMiddle = 128.0f;  // taken off the luma, so that its variance loses no digits
 constexpr float kLeastDetail = 0.02f, kLowMean = 0.1f, kHighMean = 0.9f;
 constexpr double kHasAll = 0.5, kHasHalf = 0.36;  // share of the detail that alpha has
-constexpr double kLeastMissing = 0.02;            // less is not worth its passes
-constexpr int kFewest = 500;                      // pixels that tell it
-constexpr std::int64_t kSamples = 20'000;         // open pixels to look at
+// What the halved luma has of it from which on soft edges, not a finer colour, explain more than that, and how much
+// more.
+constexpr double kSoftLuma = 0.25, kSoftGain = 1.5;
+constexpr double kLeastMissing = 0.02;     // less is not worth its passes
+constexpr int kFewest = 500;               // pixels that tell it
+constexpr std::int64_t kSamples = 20'000;  // open pixels to look at
 
 struct Shares {
     double common = 0.0, whole = 0.0;
+    double half = 0.0;  // what is common to the detail and to that of the luma after halving it
     int count = 0;
     int areas = 0;  // that were met, looked at or not
 
     void add(const Shares& other) {
         common += other.common;
         whole += other.whole;
+        half += other.half;
         count += other.count;
     }
 };
@@ -36,18 +41,22 @@ Shares detailOf(const RunContext& context, const Shot& shot, const AlphaPlane& a
     const Strip strip = area.strip(shot, kDetailHalo);
     DetailRows rows(strip, alpha, 0.0f);
     HalfRows half(strip.width, shot.height, [&](int y, float* to) { loadAlpha(alpha, strip, y, to); });
+    HalfRows twice(strip.width, shot.height, [&](int y, float* to) { std::copy_n(rows.luma(y), strip.width, to); });
     const auto width = static_cast<std::size_t>(strip.width);
-    std::vector<float> lines(3 * width);
-    float *const mean = lines.data(), *const detail = mean + width, *const coarse = detail + width;
+    std::vector<float> lines(4 * width);
+    float *const mean = lines.data(), *const detail = mean + width, *const coarse = detail + width,
+                 *const coarser = coarse + width;
     Shares shares;
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         rows.fill(y, mean, detail);
         half.fill(y, coarse);
-        const float* const own = rows.alpha(y);
+        twice.fill(y, coarser);
+        const float *const own = rows.alpha(y), *const luma = rows.luma(y), *const rest = rows.rest();
         for (int x = area.left - strip.left, end = x + area.width(); x < end; ++x) {
             if (!(mean[x] > kLowMean && mean[x] < kHighMean && std::abs(detail[x]) > kLeastDetail)) continue;
             shares.common += static_cast<double>((own[x] - coarse[x]) * detail[x]);
             shares.whole += static_cast<double>(detail[x] * detail[x]);
+            shares.half += static_cast<double>(detail[x] * detail[x] * (luma[x] - coarser[x]) / rest[x]);
             ++shares.count;
         }
     }
@@ -138,8 +147,11 @@ float missingDetail(const RunContext& context, const Shot& shot, const AlphaPlan
     Shares all;
     for (const Shares& block : blocks)
         all.add(block);
-    const double has = all.count * step > kFewest ? all.common / std::max(all.whole, 1e-6) : 1.0;
-    const double missing = std::min((kHasAll - has) / (kHasAll - kHasHalf), 1.0);
+    if (all.count * step <= kFewest) return 0.0f;
+    const double whole = std::max(all.whole, 1e-6), has = all.common / whole;
+    // Of soft edges even a halved colour has much.
+    const double enough = kHasAll + kSoftGain * std::max(all.half / whole - kSoftLuma, 0.0);
+    const double missing = std::min((enough - has) / (enough - kHasHalf), 1.0);
     return missing < kLeastMissing ? 0.0f : static_cast<float>(missing);
 }
 

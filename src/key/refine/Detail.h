@@ -39,6 +39,10 @@ class DetailRows {
     void fill(int y, float* mean, float* detail);
     /// Alpha after sharpening, not limited.
     const float* alpha(int y) { return ring_.at(y, 4); }
+    /// The luma of a row near the last one after halving and sharpening it, from -128 on; and what the picture's own
+    /// of the last row filled has beyond that.
+    const float* luma(int y) { return ring_.at(y, 1); }
+    const float* rest() { return scratch_.row(0); }
 
   private:
     void sharpen(int y, int plane, float* to);

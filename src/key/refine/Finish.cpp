@@ -111,6 +111,9 @@ void FinishRows::fill(int y, float* alpha) {
     shape(mean, alpha);
     findings_.solid.unpack(y, strip_.left, width, detail);
     finishLoops().raise(detail, width, alpha);
+    if (findings_.marks.isClear(y, strip_.left, strip_.left + width)) return;
+    for (int x = 0; x < width; ++x)
+        alpha[x] = findings_.marks.at(strip_.left + x, y) ? 0.0f : alpha[x];
 }
 
 void FinishRows::fillPlain(int y, float* alpha) {

@@ -14,7 +14,8 @@ struct Findings {
     const Plate& plate;
     const Separation& separation;
     const Mask& solid;
-    const Mask& open;  ///< neither well inside nor well on the screen
+    const Mask& open;   ///< neither well inside nor well on the screen
+    const Mask& marks;  ///< small things on the screen, which are to be gone
     const AlphaPlane& alpha;
     RefineTaste taste;
     float missingDetail = 0.0f;

@@ -29,8 +29,8 @@ void sumColors(const Shot& shot, const Mask& sure, int row, int firstCell, int e
     const int left = firstCell * size, width = std::min(endCell * size, shot.width) - left;
     const int top = row * size, bottom = std::min(top + size, shot.height);
     const auto length = static_cast<std::size_t>(width);
-    std::vector<float> lines((kSums + 1 + static_cast<std::size_t>(size)) * length);
-    float *const sums = lines.data(), *const weights = sums + (kSums + 1) * length;
+    const auto lines = std::make_unique_for_overwrite<float[]>((kSums + 1 + static_cast<std::size_t>(size)) * length);
+    float *const sums = lines.get(), *const weights = sums + (kSums + 1) * length;
     for (int y = top; y < bottom; ++y)
         sure.unpack(y, left, width, weights + std::ptrdiff_t{y - top} * width);
     sumLoops().sumProducts({shot.pixelRow(top) + left, shot.width, weights, bottom - top, width}, shot.blue, sums);

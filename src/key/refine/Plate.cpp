@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
 #include <numeric>
 
 #include "core/raster/Pixels.h"
@@ -55,14 +56,14 @@ int usualDifference(const Shot& shot) {
 }
 
 // How far alpha is from 0 on a sample of the screen's pixels, in scan order.
-std::vector<float> strayAlphas(const RunContext& context, const Shot& shot, const Plate& plate) {
+std::vector<float> strayAlphas(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& screen) {
     const int step = sampleStep(shot), count = (shot.height + step - 1) / step;
     std::vector<std::vector<float>> found(static_cast<std::size_t>(count));
     runRowRanges(context, count, 16, [&](int first, int last) {
         std::vector<float> alpha(static_cast<std::size_t>(shot.width));
         StartRows rows({shot, 0, shot.width}, plate);
         for (int i = first, y = i * step; i < last; ++i, y += step) {
-            if (plate.screen.isClear(y, 0, shot.width)) continue;
+            if (screen.isClear(y, 0, shot.width)) continue;
             rows.go(y);
             rows.alpha(alpha.data());
             std::vector<float>& strays = found[static_cast<std::size_t>(i)];
@@ -70,7 +71,7 @@ std::vector<float> strayAlphas(const RunContext& context, const Shot& shot, cons
             std::size_t count = 0;
             for (int x = i % step; x < shot.width; x += step) {
                 strays[count] = std::abs(alpha[static_cast<std::size_t>(x)]);
-                count += plate.screen.at(x, y) ? 1 : 0;
+                count += screen.at(x, y) ? 1 : 0;
             }
             strays.resize(count);
         }
@@ -103,8 +104,8 @@ float middleOf(const std::vector<float>& values) {
     return *at;
 }
 
-float measureSpread(const RunContext& context, const Shot& shot, const Plate& plate) {
-    const std::vector<float> distances = strayAlphas(context, shot, plate);
+float measureSpread(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& screen) {
+    const std::vector<float> distances = strayAlphas(context, shot, plate, screen);
     if (distances.empty()) return 0.0f;
     return kDeviation * middleOf(distances);
 }
@@ -112,8 +113,8 @@ float measureSpread(const RunContext& context, const Shot& shot, const Plate& pl
 // Sums of the screen's pixels in some columns of one row of cells.
 void sumCells(const Shot& shot, const Mask& screen, int row, int left, int count, Cells& cells) {
     const auto length = static_cast<std::size_t>(count);
-    std::vector<float> lines((4 + kPlateCell) * length);
-    float *const sums = lines.data(), *const weights = sums + 4 * length;
+    const auto lines = std::make_unique_for_overwrite<float[]>((4 + kPlateCell) * length);
+    float *const sums = lines.get(), *const weights = sums + 4 * length;
     const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
     for (int y = first; y < last; ++y)
         screen.unpack(y, left, count, weights + std::ptrdiff_t{y - first} * count);
@@ -160,18 +161,24 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot) {
     return plate;
 }
 
-void paintPlate(const RunContext& context, const Shot& shot, Plate& plate) {
+void paintPlate(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate) {
     Cells cells = Cells::over(shot.width, shot.height, kPlateCell, 4);
-    runRows(context, cells.rows(), 8, [&](int row) { sumCells(shot, plate.screen, row, cells); });
+    Mask telling;
+    if (frame.width() > 0) {
+        telling = frame.inverted();
+        telling &= plate.screen;
+    }
+    const Mask& painted = telling.width() > 0 ? telling : plate.screen;
+    runRows(context, cells.rows(), 8, [&](int row) { sumCells(shot, painted, row, cells); });
     plate.colors = pushPull(context, cells);
-    plate.spread = measureSpread(context, shot, plate);
+    plate.spread = measureSpread(context, shot, plate, painted);
 }
 
 StartRows::StartRows(const Strip& strip, const Plate& plate)
     : strip_(strip),
       least_(kLeastShare * plate.difference),
       plate_(plate.colors, kPlateCell, strip.left, strip.width),
-      lines_(6 * static_cast<std::size_t>(strip.width)) {}
+      lines_(std::make_unique_for_overwrite<float[]>(6 * static_cast<std::size_t>(strip.width))) {}
 
 void StartRows::load(int y, float* const* planes) {
     loadColors(strip_, y, planes[0], planes[1], planes[2]);

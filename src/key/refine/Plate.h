@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -31,7 +32,13 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot);
 void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen);
 
 /// Makes the colours from the screen's pixels, and measures `spread` anew.
-void paintPlate(const RunContext& context, const Shot& shot, Plate& plate);
+/// @param frame what tells nothing of the screen though it is part of it; may be empty
+void paintPlate(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate);
+
+/// Adds what the screen goes over into where its colour changes little by little, from green to blue for one: cells
+/// as smooth as the screen whose colour differs little from that of the one before. Only if that is a large area.
+/// @param difference the screen's usual one
+void followDrift(const RunContext& context, const Shot& shot, float difference, Mask& screen);
 
 /// The pixels to which the key gave next to nothing, and to all around them: a gap in which the light is another.
 Mask clearParts(const RunContext& context, const Shot& shot);
@@ -63,13 +70,13 @@ class StartRows {
     ChannelRow screen() const { return {line(3), line(4), line(5)}; }
 
   private:
-    const float* line(std::size_t i) const { return lines_.data() + i * static_cast<std::size_t>(strip_.width); }
-    float* line(std::size_t i) { return lines_.data() + i * static_cast<std::size_t>(strip_.width); }
+    const float* line(std::size_t i) const { return lines_.get() + i * static_cast<std::size_t>(strip_.width); }
+    float* line(std::size_t i) { return lines_.get() + i * static_cast<std::size_t>(strip_.width); }
 
     Strip strip_;
     float least_;
     CellRows plate_;
-    std::vector<float> lines_;
+    std::unique_ptr<float[]> lines_;
 };
 
 }  // namespace tavrin::refine

@@ -174,6 +174,7 @@ Mask mendedScreen(const RunContext& context, const Shot& shot, const Plate& plat
     shadows |= clearParts(context, shot);
     shadows &= open;
     screen |= shadows;
+    followDrift(context, shot, plate.difference, screen);
     return screen;
 }
 

@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "core/raster/Pixels.h"
+#include "key/refine/Frame.h"
+#include "key/refine/Marks.h"
 #include "key/refine/OwnColor.h"
 
 namespace tavrin::refine {
@@ -68,10 +70,13 @@ Mask openPixels(const RunContext& context, const Mask& screen, const Mask& solid
 bool Steps::findPlate(const RunContext& context, const Shot& shot, bool& still) {
     std::optional<Plate> found = findScreen(context, shot);
     if (!found) return false;
+    Mask frame = findFrame(shot, found->screen);
+    still = still && frame == frame_;
+    frame_ = std::move(frame);
     if (!still || found->screen != seeds_.screen || found->difference != seeds_.difference) {
         seeds_ = std::move(*found);
         look_ = {};
-        paintPlate(context, shot, seeds_);
+        paintPlate(context, shot, frame_, seeds_);
     }
     Mask screen = mendedScreen(context, shot, seeds_, look_);
     still = still && screen == plate_.screen && seeds_.difference == plate_.difference;
@@ -80,7 +85,7 @@ bool Steps::findPlate(const RunContext& context, const Shot& shot, bool& still) 
     plate_.difference = seeds_.difference;
     plate_.screen = std::move(screen);
     if (!keeps_) seeds_ = {};
-    paintPlate(context, shot, plate_);
+    paintPlate(context, shot, frame_, plate_);
     return true;
 }
 
@@ -90,6 +95,9 @@ bool Steps::findSubject(const RunContext& context, const Shot& shot, bool& still
     core_ = findCore(context, shot, plate_);
     if (context.isSuperseded() || core_.sure.count() < kFewestSure) return false;
     open_ = openPixels(context, plate_.screen, core_.solid);
+    marks_ = findMarks(context, shot, plate_, core_, open_);
+    if (frame_.width() > 0) marks_ |= frame_;
+    open_ &= marks_.inverted();
     first_ = separate(context, shot, plate_, core_.sure, open_);
     return true;
 }
@@ -124,7 +132,7 @@ Refined Steps::run(const RunContext& context, const Shot& shot, const RefineTast
 
 Refined Steps::runWith(const RunContext& context, const Shot& shot, const RefineTaste& taste, std::uint8_t* result) {
     known_ = false;
-    const Findings findings{shot, plate_, separation_, core_.solid, open_, alpha_, taste, missingDetail_};
+    const Findings findings{shot, plate_, separation_, core_.solid, open_, marks_, alpha_, taste, missingDetail_};
     known_ = writeResult(context, findings, result);
     return known_ ? Refined::done : Refined::superseded;
 }

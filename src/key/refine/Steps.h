@@ -32,7 +32,8 @@ class Steps {
     Plate seeds_, plate_;  // by the key's screen alone, and mended
     PlateLook look_;       // of the first one
     Core core_;
-    Mask clear_, open_, sure_;
+    Mask frame_;  // beside a source that does not fill the picture
+    Mask marks_, clear_, open_, sure_;
     Cells nearer_;
     Separation first_, separation_;  // by the core's sure pixels, and by those of the first one
     AlphaPlane alpha_;
