@@ -43,8 +43,8 @@ void GalleryDesk::showAdjustGallery() {
 
 void GalleryDesk::showGallery() {
     if (binder_.editor().info().oQLXInfo->sPickDirectory.load().empty())
-        emit told(
-            tr("No folder of backgrounds is chosen, so the gallery is empty. The page \"Settings\" has that folder."));
+        emit told(tr(
+            "No folder of backgrounds is chosen, so the gallery is empty. The page \"Settings\" has that folder."));
     begin(&Galleries::showGallery);
 }
 
