@@ -2622,6 +2622,10 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <source>Print a folder</source>
         <translation>Einen Ordner drucken</translation>
     </message>
+    <message>
+        <source>Sort photos by shape</source>
+        <translation>Fotos nach Format sortieren</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -6308,6 +6312,89 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>gmail-host is missing in delivery.conf</source>
         <translation>gmail-host fehlt in delivery.conf</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SortPanel</name>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose photos are sorted</source>
+        <translation>Wählt den Ordner, dessen Fotos sortiert werden</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Copies the photos into the subfolders Portrait and Landscape; the originals stay</source>
+        <translation>Kopiert die Fotos in die Unterordner Portrait und Landscape; die Originale bleiben</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Ends sorting after the photo in hand</source>
+        <translation>Beendet das Sortieren nach dem Foto, das in Arbeit ist</translation>
+    </message>
+    <message>
+        <source>Sort photos by shape</source>
+        <translation>Fotos nach Format sortieren</translation>
+    </message>
+    <message>
+        <source>Splits a folder of photos into upright ones and wide ones, such as backgrounds for an event</source>
+        <translation>Teilt einen Ordner mit Fotos in hohe und breite auf, zum Beispiel Hintergründe für eine Veranstaltung</translation>
+    </message>
+    <message>
+        <source>Photos to sort</source>
+        <translation>Fotos zum Sortieren</translation>
+    </message>
+    <message>
+        <source>The folder whose photos are sorted</source>
+        <translation>Der Ordner, dessen Fotos sortiert werden</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Folder of Photos to Sort</source>
+        <translation>Ordner mit Fotos zum Sortieren</translation>
+    </message>
+    <message>
+        <source>The photos are not sorted.</source>
+        <translation>Die Fotos sind nicht sortiert.</translation>
+    </message>
+    <message>
+        <source>Copied: %1, there already: %2, not copied or not read: %3.</source>
+        <translation>Kopiert: %1, schon da: %2, nicht kopiert oder nicht gelesen: %3.</translation>
+    </message>
+    <message>
+        <source>Sorting was stopped. %1</source>
+        <translation>Das Sortieren wurde angehalten. %1</translation>
+    </message>
+    <message>
+        <source>The photos are sorted. %1</source>
+        <translation>Die Fotos sind sortiert. %1</translation>
+    </message>
+    <message>
+        <source>Not every photo is sorted. %1</source>
+        <translation>Nicht jedes Foto ist sortiert. %1</translation>
     </message>
 </context>
 <context>

@@ -2622,6 +2622,10 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <source>Print a folder</source>
         <translation>Imprimir una carpeta</translation>
     </message>
+    <message>
+        <source>Sort photos by shape</source>
+        <translation>Separar fotos por formato</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -6308,6 +6312,89 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>gmail-host is missing in delivery.conf</source>
         <translation>falta gmail-host en delivery.conf</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::SortPanel</name>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose photos are sorted</source>
+        <translation>Elige la carpeta cuyas fotos se separan</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Separar</translation>
+    </message>
+    <message>
+        <source>Copies the photos into the subfolders Portrait and Landscape; the originals stay</source>
+        <translation>Copia las fotos en las subcarpetas Portrait y Landscape; los originales se quedan</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Ends sorting after the photo in hand</source>
+        <translation>Termina después de la foto en curso</translation>
+    </message>
+    <message>
+        <source>Sort photos by shape</source>
+        <translation>Separar fotos por formato</translation>
+    </message>
+    <message>
+        <source>Splits a folder of photos into upright ones and wide ones, such as backgrounds for an event</source>
+        <translation>Separa las fotos de una carpeta en verticales y horizontales, por ejemplo fondos para un evento</translation>
+    </message>
+    <message>
+        <source>Photos to sort</source>
+        <translation>Fotos para separar</translation>
+    </message>
+    <message>
+        <source>The folder whose photos are sorted</source>
+        <translation>La carpeta cuyas fotos se separan</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontales</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Verticales</translation>
+    </message>
+    <message>
+        <source>Folder of Photos to Sort</source>
+        <translation>Carpeta de fotos para separar</translation>
+    </message>
+    <message>
+        <source>The photos are not sorted.</source>
+        <translation>No se han separado las fotos.</translation>
+    </message>
+    <message>
+        <source>Copied: %1, there already: %2, not copied or not read: %3.</source>
+        <translation>Copiadas: %1, ya estaban: %2, no copiadas o no leídas: %3.</translation>
+    </message>
+    <message>
+        <source>Sorting was stopped. %1</source>
+        <translation>Se paró la separación. %1</translation>
+    </message>
+    <message>
+        <source>The photos are sorted. %1</source>
+        <translation>Las fotos están separadas. %1</translation>
+    </message>
+    <message>
+        <source>Not every photo is sorted. %1</source>
+        <translation>No se han separado todas las fotos. %1</translation>
     </message>
 </context>
 <context>
