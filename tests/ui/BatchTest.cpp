@@ -363,7 +363,8 @@ TEST_F(BatchTest, PhotosAreSortedByShapeBesideTheMainThread) {
     ASSERT_TRUE(test::eventually([&] { return !panel->isRunning(); }));
     EXPECT_EQ(part<QLabel>("textNumberOfHImages")->text(), "1");
     EXPECT_EQ(part<QLabel>("textNumberOfVImages")->text(), "1");
-    EXPECT_TRUE(fs::exists(folder_.file("fg/Landscape/wide.png")) && fs::exists(folder_.file("fg/Portrait/high.png")));
+    EXPECT_TRUE(fs::exists(folder_.file("fg/Landscape/wide.png")) &&
+                fs::exists(folder_.file("fg/Portrait/high.png")));
     EXPECT_TRUE(window_->messages()->message().startsWith("The photos are sorted.")) << "and says so";
     fs::remove_all(folder_.file("fg"));
     press("sortImagesInFolder");
