@@ -139,6 +139,7 @@ QWidget* BatchPrintPanel::makeRunRow() {
     auto* all = new QLabel(tr("Photos:"), run);
     auto* printed = new QLabel(tr("Printed:"), run);
     QWidget* counts = inALine({all, files_, printed, processed_}, run);
+    static_cast<QHBoxLayout*>(counts->layout())->insertSpacing(2, 12);
     static_cast<QHBoxLayout*>(counts->layout())->addStretch();
     status_->setObjectName("textBatchPrintStatus");
     status_->setWordWrap(true);
