@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
-#include <tuple>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -238,17 +237,6 @@ void shootBatch(MainWindow& window, SystemInfo& info, const std::function<void(c
     settings.sLastBatchForeground = settings.sLastBatchBackground = settings.sLastBatchOutput = "";
 }
 
-/// What is done with whole folders beside the batch: they are printed, and sorted.
-void shootFolderTools(MainWindow& window, const std::function<void(const char*)>& save) {
-    for (const auto& [page, group, name] :
-         {std::tuple{6, "groupBatchPrint", "printFolder"}, {5, "groupBatchSort", "sorter"}}) {
-        window.panel()->selectMainTab(page);
-        for (GroupBox* one : window.panel()->groups())
-            one->setFolded(one->objectName() != group);
-        save(name);
-    }
-}
-
 /// The outbox with a mail that waits and one that may have gone.
 void shootOutbox(MainWindow& window, const std::function<void(const char*)>& save) {
     for (const MailEnd end : {MailEnd::notSent, MailEnd::unknown}) {
@@ -376,7 +364,6 @@ bool shootAll(const QString& folder, const QString& scale, const QString& langua
         shootEffects(window, save);
         shootBatch(window, *info, save);
         shootOutbox(window, save);
-        shootFolderTools(window, save);
         window.panel()->selectMainTab(0);
         const auto action = [&](const char* id) { return window.commands().action(id); };
         const auto shoots = [&](const char* id, const char* name) {
