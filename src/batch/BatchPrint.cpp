@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <new>
 #include <utility>
 
 #include "core/Log.h"
@@ -41,8 +42,7 @@ BatchPrint::BatchPrint(SystemInfo& info, BatchPrintInterface* view)
     : info_(info),
       settings_(*info.oQLXInfo),
       view_(orSilent(view)),
-      worker_([this] { return batchPrintThread(); }, Worker::kPause,
-              [this] { view_.enableBatchPrint(true, false); }) {
+      worker_([this] { return step(); }, Worker::kPause, [this] { view_.enableBatchPrint(true, false); }) {
     const std::string folder = settings_.sBatchPrintFolder;
     nextBatchPrintFile.setFolderToCheck(folder);
     nextBatchPrintFile.setHistoryFileLocation(folder, kHistoryName);
@@ -138,6 +138,15 @@ void BatchPrint::clickedButtonClearHistory() {
     ShowBatchPrintStatus();
 }
 
+/// What there is no memory for now may be printed later.
+Next BatchPrint::step() {
+    try {
+        return batchPrintThread();
+    } catch (const std::bad_alloc&) {
+        return hold("There is not enough memory for the sheet.");
+    }
+}
+
 /// One turn: at most one photo.
 Next BatchPrint::batchPrintThread() {
     if (bEndPrinting) return stop();
@@ -221,6 +230,7 @@ Next BatchPrint::print(const std::string& folder, const std::string& name) {
     }
     ReadPicture read = readPicture(path);
     if (!(read.error + read.damage).empty() && mayStillGrow(path)) return Next::pause;
+    if (read.error == kNoMemory) return hold(path + ": " + read.error + ".");
     if (!read.error.empty()) {
         view_.batchPrintFailed(path + ": " + read.error + ". It is left out.");
         enter(name);

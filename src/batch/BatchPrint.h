@@ -104,6 +104,7 @@ class BatchPrint {
         std::string toldReason;            ///< why it is held, told once
     };
 
+    Worker::Next step();
     Worker::Next batchPrintThread();
     Worker::Next stop();
     Worker::Next hold(const std::string& reason);
