@@ -1,6 +1,6 @@
 // How the window feels, in figures: start, the longest event of the main thread while a slider is dragged, from a
 // move to the preview on the screen, painting, tiles, and the strip. desk_bench [SECONDS of dragging [tiles |
-// scribble | grid]]; the last word leaves everything else out.
+// scribble | grid | gallery]]; the last word leaves everything else out.
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -17,6 +17,7 @@
 #include "core/BackgroundThread.h"
 #include "core/files/Places.h"
 #include "core/raster/PixelMemory.h"
+#include "desk/GalleryFigures.h"
 #include "desk/Scribble.h"
 #include "desk/StripFigures.h"
 #include "desk/TileFigures.h"
@@ -184,6 +185,10 @@ int main(int argc, char** argv) {
                                return most;
                            }};
     const std::string only = argc > 2 ? argv[2] : "";
+    if (only == "gallery") {
+        bench::measureGallery(desk);
+        return 0;
+    }
     if (only != "tiles" && only != "grid") {
         for (const int brush : {kPaint, kEraseForeground, kRestoreHair, kBlendEdge})
             bench::measureScribble(desk, brush, seconds);

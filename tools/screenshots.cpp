@@ -41,7 +41,7 @@ constexpr int kWidth = 1440, kHeight = 900;
 constexpr std::pair<const char*, const char*> kDialogs[] = {
     {"buttonAddImageSizes", "panelAddEditImageSizes"}, {"addCustomTemplate", "panelAddEditTemplate"},
     {"showPrinterTemplate", "MyPrinterTemplatePanel"}, {"colorWellFrameOverlay", "colorWellFrameOverlayDialog"},
-    {"buttonShowSMTPServer", "MySMTPSettings"},
+    {"buttonShowSMTPServer", "MySMTPSettings"},        {"showBatchPrinterTemplate", "MyBatchPrinterTemplatePanel"},
 };
 
 bool waitsForTiles(const MainWindow& window) {

@@ -3057,6 +3057,14 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <source>A set of overlays of your own.</source>
         <translation>Ein eigener Satz von Auflagen.</translation>
     </message>
+    <message>
+        <source>Print a folder</source>
+        <translation>Einen Ordner drucken</translation>
+    </message>
+    <message>
+        <source>Sort photos by shape</source>
+        <translation>Fotos nach Format sortieren</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -3582,6 +3590,133 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
     </message>
 </context>
 <context>
+    <name>tavrin::BatchPrintPanel</name>
+    <message>
+        <source>Watch the folder</source>
+        <translation>Ordner beobachten</translation>
+    </message>
+    <message>
+        <source>Print a folder</source>
+        <translation>Einen Ordner drucken</translation>
+    </message>
+    <message>
+        <source>Prints every photo of a folder on the chosen page, and those that arrive while it is watched</source>
+        <translation>Druckt jedes Foto eines Ordners auf die gewählte Seite, und solange er beobachtet wird auch die, die ankommen</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>The printer to print on</source>
+        <translation>Der Drucker, auf dem gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>The run goes on and prints photos as they arrive in the folder</source>
+        <translation>Der Lauf geht weiter und druckt Fotos, sobald sie im Ordner ankommen</translation>
+    </message>
+    <message>
+        <source>The folder whose photos are printed</source>
+        <translation>Der Ordner, dessen Fotos gedruckt werden</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose photos are printed</source>
+        <translation>Wählt den Ordner, dessen Fotos gedruckt werden</translation>
+    </message>
+    <message>
+        <source>The print page that every photo is printed on</source>
+        <translation>Die Druckseite, auf die jedes Foto gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Shows the print pages and chooses the one to print on</source>
+        <translation>Zeigt die Druckseiten und wählt die, auf die gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Prints the photos that were not printed yet</source>
+        <translation>Druckt die Fotos, die noch nicht gedruckt wurden</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Ends the run after the photo in hand</source>
+        <translation>Beendet den Lauf nach dem Foto, das in Arbeit ist</translation>
+    </message>
+    <message>
+        <source>Print All Again</source>
+        <translation>Alles neu drucken</translation>
+    </message>
+    <message>
+        <source>Forgets which photos of the folder were printed</source>
+        <translation>Vergisst, welche Fotos des Ordners gedruckt wurden</translation>
+    </message>
+    <message>
+        <source>Photos:</source>
+        <translation>Fotos:</translation>
+    </message>
+    <message>
+        <source>Printed:</source>
+        <translation>Gedruckt:</translation>
+    </message>
+    <message>
+        <source>Folder of Photos to Print</source>
+        <translation>Ordner mit Fotos zum Drucken</translation>
+    </message>
+    <message>
+        <source>Not everything of the folder is printed.</source>
+        <translation>Nicht alles aus dem Ordner ist gedruckt.</translation>
+    </message>
+    <message>
+        <source>There are no printers on this machine.</source>
+        <translation>Auf diesem Rechner gibt es keine Drucker.</translation>
+    </message>
+    <message>
+        <source>Batch Print Stopped</source>
+        <translation>Stapeldruck angehalten</translation>
+    </message>
+    <message>
+        <source>Printing %1</source>
+        <translation>%1 wird gedruckt</translation>
+    </message>
+    <message>
+        <source>Waiting for photos that arrive</source>
+        <translation>Wartet auf Fotos, die ankommen</translation>
+    </message>
+    <message>
+        <source>Waiting: %1</source>
+        <translation>Wartet: %1</translation>
+    </message>
+    <message>
+        <source>Choose the folder whose photos are to be printed.</source>
+        <translation>Wählen Sie den Ordner, dessen Fotos gedruckt werden sollen.</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not there.</source>
+        <translation>Der Ordner %1 ist nicht da.</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::BatchProgress</name>
     <message>
         <source>Progress of the batch</source>
@@ -4007,6 +4142,49 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
     <message>
         <source>The folder %1 may not be read.</source>
         <translation>Der Ordner %1 darf nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::GalleryDesk</name>
+    <message>
+        <source>Gallery</source>
+        <translation>Galerie</translation>
+    </message>
+    <message>
+        <source>The gallery is being made.</source>
+        <translation>Die Galerie wird erstellt.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>The gallery cannot be made.</source>
+        <translation>Die Galerie kann nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>Adjustment %1 of the gallery</source>
+        <translation>Anpassung %1 aus der Galerie</translation>
+    </message>
+    <message>
+        <source>Gallery of Ad&amp;justments...</source>
+        <translation>Galerie der An&amp;passungen...</translation>
+    </message>
+    <message>
+        <source>Shows the portrait under twelve settings of the key; a click takes one of them</source>
+        <translation>Zeigt das Porträt mit zwölf Einstellungen der Freistellung; ein Klick übernimmt eine davon</translation>
+    </message>
+    <message>
+        <source>Gallery of Back&amp;grounds...</source>
+        <translation>Galerie der Hinter&amp;gründe...</translation>
+    </message>
+    <message>
+        <source>Shows the portrait over every background of the folder; a click takes one of them</source>
+        <translation>Zeigt das Porträt vor jedem Hintergrund des Ordners; ein Klick übernimmt einen davon</translation>
+    </message>
+    <message>
+        <source>No folder of backgrounds is chosen, so the gallery is empty. The page &quot;Settings&quot; has that folder.</source>
+        <translation>Es ist kein Ordner mit Hintergründen gewählt, darum ist die Galerie leer. Die Seite „Einstellungen“ hat diesen Ordner.</translation>
     </message>
 </context>
 <context>
@@ -6580,6 +6758,89 @@ oder beide im Menü Datei öffnen.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::SortPanel</name>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose photos are sorted</source>
+        <translation>Wählt den Ordner, dessen Fotos sortiert werden</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Copies the photos into the subfolders Portrait and Landscape; the originals stay</source>
+        <translation>Kopiert die Fotos in die Unterordner Portrait und Landscape; die Originale bleiben</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Ends sorting after the photo in hand</source>
+        <translation>Beendet das Sortieren nach dem Foto, das in Arbeit ist</translation>
+    </message>
+    <message>
+        <source>Sort photos by shape</source>
+        <translation>Fotos nach Format sortieren</translation>
+    </message>
+    <message>
+        <source>Splits a folder of photos into upright ones and wide ones, such as backgrounds for an event</source>
+        <translation>Teilt einen Ordner mit Fotos in hohe und breite auf, zum Beispiel Hintergründe für eine Veranstaltung</translation>
+    </message>
+    <message>
+        <source>Photos to sort</source>
+        <translation>Fotos zum Sortieren</translation>
+    </message>
+    <message>
+        <source>The folder whose photos are sorted</source>
+        <translation>Der Ordner, dessen Fotos sortiert werden</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Folder of Photos to Sort</source>
+        <translation>Ordner mit Fotos zum Sortieren</translation>
+    </message>
+    <message>
+        <source>The photos are not sorted.</source>
+        <translation>Die Fotos sind nicht sortiert.</translation>
+    </message>
+    <message>
+        <source>Copied: %1, there already: %2, not copied or not read: %3.</source>
+        <translation>Kopiert: %1, schon da: %2, nicht kopiert oder nicht gelesen: %3.</translation>
+    </message>
+    <message>
+        <source>Sorting was stopped. %1</source>
+        <translation>Das Sortieren wurde angehalten. %1</translation>
+    </message>
+    <message>
+        <source>The photos are sorted. %1</source>
+        <translation>Die Fotos sind sortiert. %1</translation>
+    </message>
+    <message>
+        <source>Not every photo is sorted. %1</source>
+        <translation>Nicht jedes Foto ist sortiert. %1</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::SplitLine</name>
     <message>
         <source>Line between before and after</source>
@@ -6670,6 +6931,33 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>The mark is not kept.</source>
         <translation>Die Markierung wird nicht aufgehoben.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TemplatePanel</name>
+    <message>
+        <source>Print Page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>The print page: where the picture lies on the sheet, and how often</source>
+        <translation>Die Druckseite: wo das Bild auf dem Bogen liegt und wie oft</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The page in the list is printed on</source>
+        <translation>Auf die Seite in der Liste wird gedruckt</translation>
     </message>
 </context>
 <context>

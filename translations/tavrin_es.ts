@@ -3057,6 +3057,14 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <source>A set of overlays of your own.</source>
         <translation>Un juego propio de capas superpuestas.</translation>
     </message>
+    <message>
+        <source>Print a folder</source>
+        <translation>Imprimir una carpeta</translation>
+    </message>
+    <message>
+        <source>Sort photos by shape</source>
+        <translation>Separar fotos por formato</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -3582,6 +3590,133 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
     </message>
 </context>
 <context>
+    <name>tavrin::BatchPrintPanel</name>
+    <message>
+        <source>Watch the folder</source>
+        <translation>Vigilar la carpeta</translation>
+    </message>
+    <message>
+        <source>Print a folder</source>
+        <translation>Imprimir una carpeta</translation>
+    </message>
+    <message>
+        <source>Prints every photo of a folder on the chosen page, and those that arrive while it is watched</source>
+        <translation>Imprime cada foto de una carpeta en la página elegida y, mientras se vigila, también las que llegan</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>The printer to print on</source>
+        <translation>La impresora en la que se imprime</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>The run goes on and prints photos as they arrive in the folder</source>
+        <translation>El proceso sigue e imprime las fotos a medida que llegan a la carpeta</translation>
+    </message>
+    <message>
+        <source>The folder whose photos are printed</source>
+        <translation>La carpeta cuyas fotos se imprimen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose photos are printed</source>
+        <translation>Elige la carpeta cuyas fotos se imprimen</translation>
+    </message>
+    <message>
+        <source>The print page that every photo is printed on</source>
+        <translation>La página en la que se imprime cada foto</translation>
+    </message>
+    <message>
+        <source>Shows the print pages and chooses the one to print on</source>
+        <translation>Muestra las páginas de impresión y elige la que se usa</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Empezar</translation>
+    </message>
+    <message>
+        <source>Prints the photos that were not printed yet</source>
+        <translation>Imprime las fotos que aún no se imprimieron</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Ends the run after the photo in hand</source>
+        <translation>Termina después de la foto en curso</translation>
+    </message>
+    <message>
+        <source>Print All Again</source>
+        <translation>Reimprimir todo</translation>
+    </message>
+    <message>
+        <source>Forgets which photos of the folder were printed</source>
+        <translation>Olvida qué fotos de la carpeta se imprimieron</translation>
+    </message>
+    <message>
+        <source>Photos:</source>
+        <translation>Fotos:</translation>
+    </message>
+    <message>
+        <source>Printed:</source>
+        <translation>Impresas:</translation>
+    </message>
+    <message>
+        <source>Folder of Photos to Print</source>
+        <translation>Carpeta de fotos para imprimir</translation>
+    </message>
+    <message>
+        <source>Not everything of the folder is printed.</source>
+        <translation>No se ha impreso todo lo de la carpeta.</translation>
+    </message>
+    <message>
+        <source>There are no printers on this machine.</source>
+        <translation>No hay impresoras en este equipo.</translation>
+    </message>
+    <message>
+        <source>Batch Print Stopped</source>
+        <translation>Impresión por lotes parada</translation>
+    </message>
+    <message>
+        <source>Printing %1</source>
+        <translation>Imprimiendo %1</translation>
+    </message>
+    <message>
+        <source>Waiting for photos that arrive</source>
+        <translation>Esperando fotos que lleguen</translation>
+    </message>
+    <message>
+        <source>Waiting: %1</source>
+        <translation>En espera: %1</translation>
+    </message>
+    <message>
+        <source>Choose the folder whose photos are to be printed.</source>
+        <translation>Elija la carpeta cuyas fotos se van a imprimir.</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not there.</source>
+        <translation>La carpeta %1 no está.</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::BatchProgress</name>
     <message>
         <source>Progress of the batch</source>
@@ -4007,6 +4142,49 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
     <message>
         <source>The folder %1 may not be read.</source>
         <translation>No se puede leer la carpeta %1.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::GalleryDesk</name>
+    <message>
+        <source>Gallery</source>
+        <translation>Galería</translation>
+    </message>
+    <message>
+        <source>The gallery is being made.</source>
+        <translation>Se está creando la galería.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>The gallery cannot be made.</source>
+        <translation>No se puede crear la galería.</translation>
+    </message>
+    <message>
+        <source>Adjustment %1 of the gallery</source>
+        <translation>Ajuste %1 de la galería</translation>
+    </message>
+    <message>
+        <source>Gallery of Ad&amp;justments...</source>
+        <translation>Galería de a&amp;justes...</translation>
+    </message>
+    <message>
+        <source>Shows the portrait under twelve settings of the key; a click takes one of them</source>
+        <translation>Muestra el retrato con doce ajustes del recorte; un clic toma uno de ellos</translation>
+    </message>
+    <message>
+        <source>Gallery of Back&amp;grounds...</source>
+        <translation>Galería de &amp;fondos...</translation>
+    </message>
+    <message>
+        <source>Shows the portrait over every background of the folder; a click takes one of them</source>
+        <translation>Muestra el retrato sobre cada fondo de la carpeta; un clic toma uno de ellos</translation>
+    </message>
+    <message>
+        <source>No folder of backgrounds is chosen, so the gallery is empty. The page &quot;Settings&quot; has that folder.</source>
+        <translation>No hay ninguna carpeta de fondos elegida, así que la galería está vacía. La página «Ajustes» tiene esa carpeta.</translation>
     </message>
 </context>
 <context>
@@ -6580,6 +6758,89 @@ o ábralos desde el menú Archivo.</translation>
     </message>
 </context>
 <context>
+    <name>tavrin::SortPanel</name>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Chooses the folder whose photos are sorted</source>
+        <translation>Elige la carpeta cuyas fotos se separan</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Separar</translation>
+    </message>
+    <message>
+        <source>Copies the photos into the subfolders Portrait and Landscape; the originals stay</source>
+        <translation>Copia las fotos en las subcarpetas Portrait y Landscape; los originales se quedan</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Ends sorting after the photo in hand</source>
+        <translation>Termina después de la foto en curso</translation>
+    </message>
+    <message>
+        <source>Sort photos by shape</source>
+        <translation>Separar fotos por formato</translation>
+    </message>
+    <message>
+        <source>Splits a folder of photos into upright ones and wide ones, such as backgrounds for an event</source>
+        <translation>Separa las fotos de una carpeta en verticales y horizontales, por ejemplo fondos para un evento</translation>
+    </message>
+    <message>
+        <source>Photos to sort</source>
+        <translation>Fotos para separar</translation>
+    </message>
+    <message>
+        <source>The folder whose photos are sorted</source>
+        <translation>La carpeta cuyas fotos se separan</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontales</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Verticales</translation>
+    </message>
+    <message>
+        <source>Folder of Photos to Sort</source>
+        <translation>Carpeta de fotos para separar</translation>
+    </message>
+    <message>
+        <source>The photos are not sorted.</source>
+        <translation>No se han separado las fotos.</translation>
+    </message>
+    <message>
+        <source>Copied: %1, there already: %2, not copied or not read: %3.</source>
+        <translation>Copiadas: %1, ya estaban: %2, no copiadas o no leídas: %3.</translation>
+    </message>
+    <message>
+        <source>Sorting was stopped. %1</source>
+        <translation>Se paró la separación. %1</translation>
+    </message>
+    <message>
+        <source>The photos are sorted. %1</source>
+        <translation>Las fotos están separadas. %1</translation>
+    </message>
+    <message>
+        <source>Not every photo is sorted. %1</source>
+        <translation>No se han separado todas las fotos. %1</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::SplitLine</name>
     <message>
         <source>Line between before and after</source>
@@ -6670,6 +6931,33 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>The mark is not kept.</source>
         <translation>La marca no se guarda.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TemplatePanel</name>
+    <message>
+        <source>Print Page</source>
+        <translation>Página de impresión</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>The print page: where the picture lies on the sheet, and how often</source>
+        <translation>La página de impresión: dónde va la imagen en la hoja y cuántas veces</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>The page in the list is printed on</source>
+        <translation>Se imprime en la página de la lista</translation>
     </message>
 </context>
 <context>

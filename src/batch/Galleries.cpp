@@ -72,20 +72,35 @@ std::vector<std::string> Galleries::backgrounds() const {
 }
 
 // A run that is on is left alone: begun anew it would take an alternative for what is to be put back.
-void Galleries::showAdjustGallery() {
+bool Galleries::showAdjustGallery(int number) {
     std::lock_guard lock(mutex_);
-    if (isOn()) return;
-    if (!info_.bHaveAdjGallery || !std::filesystem::exists(adjustPage())) return SetupAdjustGallery();
-    info_.sGalleryToViewPath = adjustPage();
-    view_.showGalleryViewer();
+    if (number != 0 && number != asked_) return false;
+    if (isOn()) return true;
+    if (info_.bHaveAdjGallery && std::filesystem::exists(adjustPage())) {
+        info_.sGalleryToViewPath = adjustPage();
+        view_.showGalleryViewer();
+    } else {
+        SetupAdjustGallery();
+    }
+    return true;
 }
 
-void Galleries::showGallery() {
+bool Galleries::showGallery(int number) {
     std::lock_guard lock(mutex_);
-    if (isOn()) return;
-    if (!info_.bHaveGallery || !std::filesystem::exists(backgroundPage())) return LoadGalleryNamesToProcess();
-    info_.sGalleryToViewPath = backgroundPage();
-    view_.showGalleryViewer();
+    if (number != 0 && number != asked_) return false;
+    if (isOn()) return true;
+    if (info_.bHaveGallery && std::filesystem::exists(backgroundPage())) {
+        info_.sGalleryToViewPath = backgroundPage();
+        view_.showGalleryViewer();
+    } else {
+        LoadGalleryNamesToProcess();
+    }
+    return true;
+}
+
+int Galleries::ask() {
+    std::lock_guard lock(mutex_);
+    return ++asked_;
 }
 
 /// Without the state on the disk no run begins.
@@ -229,6 +244,7 @@ void Galleries::putBackBackground() {
 bool Galleries::leave() {
     {
         std::lock_guard lock(mutex_);
+        ++asked_;
         if (!isOn()) return false;
         if (info_.bProcessingAdjGallery.exchange(false)) putBackSettings();
         if (info_.bProcessingGallery.exchange(false)) putBackBackground();

@@ -32,9 +32,14 @@ class Galleries : public IdleJob {
     /// @param view not owned; null is fine
     explicit Galleries(SystemInfo& info, GalleryInterface* view = nullptr);
 
+    /// For who asks from another thread: a number to show a gallery by. Only the newest holds, and none behind
+    /// `leave`.
+    int ask();
     /// Shows the page that is there, or begins to make one. Nothing happens while a gallery is made.
-    void showAdjustGallery();
-    void showGallery();
+    /// @param number of `ask`; 0 holds always
+    /// @return false when the number does not hold any more, and nothing was done
+    bool showAdjustGallery(int number = 0);
+    bool showGallery(int number = 0);
 
     bool isOn() const override { return info_.bProcessingGallery || info_.bProcessingAdjGallery; }
     void step() override;
@@ -70,6 +75,7 @@ class Galleries : public IdleJob {
     SystemInfo& info_;
     GalleryInterface& view_;
     Kept kept_;
+    int asked_ = 0;                         ///< under the lock
     mutable std::mutex mutex_;              ///< a step, or the end of a run from outside
     std::vector<std::string> backgrounds_;  ///< under it
 };

@@ -1,7 +1,10 @@
 // The galleries: what their pages hold, what a run leaves, and what a choice writes.
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <mutex>
+#include <thread>
 
 #include <QImage>
 
@@ -36,7 +39,10 @@ class GalleriesTest : public testing::Test, public GalleryInterface, public Inte
     }
     ~GalleriesTest() override { places_.setSharedFolder(home_); }
 
-    void galleryEnded(const std::string& problem) override { problems_.push_back(problem); }
+    void galleryEnded(const std::string& problem) override {
+        const std::lock_guard lock(mutex_);
+        problems_.push_back(problem);
+    }
     void showGalleryViewer() override { shown_.push_back(fs::path(info_->sGalleryToViewPath.load()).filename()); }
     void showAlert(const std::string&, const std::string& reason) override { alerts_.push_back(reason); }
 
@@ -45,15 +51,15 @@ class GalleriesTest : public testing::Test, public GalleryInterface, public Inte
         image.fill(color);
         return test::savePng(image, folder_.file(name));
     }
-    void run(void (Galleries::*make)()) {
-        (galleries_.*make)();
+    void run(bool (Galleries::*make)(int)) {
+        EXPECT_TRUE((galleries_.*make)(0));
         while (galleries_.isOn())
             loop_.iterate();
         loop_.runUntilIdle();
     }
     /// Until the first alternatives are in force.
-    void begin(void (Galleries::*make)()) {
-        (galleries_.*make)();
+    void begin(bool (Galleries::*make)(int)) {
+        EXPECT_TRUE((galleries_.*make)(0));
         while (info_->bProcessingAdjGallery ? info_->iNextAdjGalleryItem < 1 : info_->iNextGalleryItem < 0)
             loop_.iterate();
         ASSERT_TRUE(galleries_.isOn());
@@ -77,6 +83,7 @@ class GalleriesTest : public testing::Test, public GalleryInterface, public Inte
     std::unique_ptr<SystemInfo> info_ = test::stateForOutput(120, 150, 40);
     Galleries galleries_{*info_, this};
     CombineThread loop_{*info_};
+    std::mutex mutex_;
     std::vector<std::string> problems_, shown_, alerts_;
 };
 
@@ -198,6 +205,10 @@ TEST_F(GalleriesTest, OneGalleryAtATimeAndOneThatIsLeftLeavesNothing) {
     EXPECT_EQ(this->settings(), settings);
     EXPECT_FALSE(galleries_.isOn() || info_->bHaveAdjGallery || info_->bSkipHiRes);
     EXPECT_FALSE(galleries_.leave());
+    const int late = galleries_.ask();
+    galleries_.leave();
+    EXPECT_FALSE(galleries_.showGallery(late)) << "what was asked for before does not begin behind it";
+    EXPECT_FALSE(galleries_.isOn());
 
     begin(&Galleries::showGallery);
     EXPECT_NE(present(), folder_.file("bg.png"));
@@ -207,6 +218,32 @@ TEST_F(GalleriesTest, OneGalleryAtATimeAndOneThatIsLeftLeavesNothing) {
     setBackground(*info_, background("chosen.png", QColor(9, 9, 9)));
     galleries_.leave();
     EXPECT_EQ(present(), folder_.file("chosen.png")) << "a person chose it meanwhile";
+}
+
+// For the thread checker above all: what is opened at the window ends a run at any moment.
+TEST_F(GalleriesTest, ARunIsLeftFromAnotherThreadAtAnyMoment) {
+    background("pick/red.png", QColor(220, 20, 20));
+    background("pick/blue.png", QColor(20, 20, 220));
+    const auto settings = this->settings();
+    auto loop = std::make_unique<CombineThread>(*info_);
+    loop->addIdleJob(galleries_);
+    loop->StartMainThread();
+    for (int round = 0; round < 12; ++round) {
+        loop->edit([this, round]() -> std::vector<ChangedRows> {
+            round % 2 ? galleries_.showGallery() : galleries_.showAdjustGallery();
+            return {};
+        });
+        for (int wait = 0; wait < 2000 && !galleries_.isOn(); ++wait)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        std::this_thread::sleep_for(std::chrono::milliseconds(7 * round));
+        galleries_.leave();
+        info_->bHaveGallery = info_->bHaveAdjGallery = false;
+        EXPECT_FALSE(galleries_.isOn() || info_->bSkipHiRes);
+        EXPECT_EQ(present(), folder_.file("bg.png"));
+        info_->StartUpdate();
+    }
+    loop.reset();
+    EXPECT_EQ(this->settings(), settings);
 }
 
 TEST_F(GalleriesTest, WhereNothingCanBeWrittenThatIsSaidAndTheSettingsComeBack) {

@@ -151,11 +151,43 @@ class Test:
             self.call("--again", "all")
             self.expect(f"round {round_number}: each sheet once", self.all_printed(before + copies))
 
+    def folder(self):
+        """A folder is printed, then watched while photos arrive and the program is killed: each photo comes out once."""
+        photos, before = self.work / "photos", len(self.printer.prints())
+        photos.mkdir()
+        command = ("--folder", photos, "--page", PAGE, "--printer", "studio")
+        for number in range(1, 4):
+            write_picture(photos / f"p{number}.png", number)
+        done = self.call(*command)
+        self.expect("a folder is printed " + done.stderr, done.returncode == 0 and done.stdout.count(".png") == 3)
+        self.expect("three photos, three prints", self.all_printed(before + 3))
+        self.expect("its history is heeded", self.call(*command).stdout == "")
+        for number in (4, 5):
+            running = subprocess.Popen([self.cli, "print", *map(str, command), "--watch"], env=self.environment,
+                                       stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+            write_picture(photos / f"p{number}.png", number)
+            running.stdout.readline()
+            time.sleep(0.05 * (number - 4))
+            running.kill()
+            running.wait()
+        self.call(*command)
+        self.call("--again", "all")
+        self.expect("after the kills each photo was printed once", self.all_printed(before + 5))
+        time.sleep(1)
+        self.expect("and no more", len(self.printer.prints()) == before + 5)
+        self.printing.call("cupsdisable", "studio")
+        write_picture(photos / "p6.png", 6)
+        running = subprocess.Popen([self.cli, "print", *map(str, command)], env=self.environment,
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
+        self.expect("a printer that is stopped holds the run", "The run waits." in running.stderr.readline())
+        self.printing.call("cupsenable", "studio")
+        self.expect("which goes on by itself", running.wait(20) == 0 and self.all_printed(before + 6))
+
     def run(self):
         try:
             self.printer = self.printing.add_printer("studio")
             for step in (self.arrives, self.on_other_paper, self.stopped, self.out_of_paper, self.gone, self.nobody,
-                         self.killed):
+                         self.killed, self.folder):
                 began = time.monotonic()
                 step()
                 print(f"{step.__name__}: {time.monotonic() - began:.1f} s")

@@ -19,6 +19,7 @@
 #include "support/Faults.h"
 #include "support/SmallDisk.h"
 #include "ui/WindowTest.h"
+#include "ui/batch/SortPanel.h"
 #include "ui/bind/Groove.h"
 
 namespace tavrin {
@@ -349,6 +350,25 @@ TEST_F(BatchTest, AFastRunThatIsKilledTakesNothingAndTheNextMakesTheRest) {
     EXPECT_EQ(list("listBatchFailures")->count(), 0) << rows("listBatchFailures").join('|').toStdString();
     EXPECT_TRUE(part<QLabel>("batchTimeLeft")->text().contains("made before: 2"))
         << part<QLabel>("batchTimeLeft")->text().toStdString();
+}
+
+TEST_F(BatchTest, PhotosAreSortedByShapeBesideTheMainThread) {
+    auto* panel = part<SortPanel>("sortPanel");
+    EXPECT_FALSE(part<QToolButton>("sortImagesInFolder")->isEnabled());
+    test::savePng(test::discOnScreen(60, 40), folder_.file("fg/wide.png"));
+    test::savePng(test::discOnScreen(40, 60), folder_.file("fg/high.png"));
+    panel->setFolder(QString::fromStdString(folder_.file("fg")));
+    EXPECT_EQ(part<QLabel>("textNumberOfImages")->text(), "2");
+    press("sortImagesInFolder");
+    ASSERT_TRUE(test::eventually([&] { return !panel->isRunning(); }));
+    EXPECT_EQ(part<QLabel>("textNumberOfHImages")->text(), "1");
+    EXPECT_EQ(part<QLabel>("textNumberOfVImages")->text(), "1");
+    EXPECT_TRUE(fs::exists(folder_.file("fg/Landscape/wide.png")) &&
+                fs::exists(folder_.file("fg/Portrait/high.png")));
+    EXPECT_TRUE(window_->messages()->message().startsWith("The photos are sorted.")) << "and says so";
+    fs::remove_all(folder_.file("fg"));
+    press("sortImagesInFolder");
+    EXPECT_TRUE(test::eventually([&] { return window_->messages()->message() == "The photos are not sorted."; }));
 }
 
 }  // namespace

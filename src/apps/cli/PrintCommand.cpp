@@ -4,6 +4,7 @@
 
 #include "apps/cli/Console.h"
 #include "apps/cli/Output.h"
+#include "apps/cli/PrintFolder.h"
 #include "apps/cli/PrintQueueOptions.h"
 #include "apps/cli/PrinterOptions.h"
 #include "apps/cli/Refusal.h"
@@ -24,7 +25,8 @@ namespace {
 
 struct PrintOptions {
     std::vector<std::string> files;
-    std::string to;
+    std::string to, folder;
+    bool watch = false;
     PrinterOptions printer;
     PrintQueueOptions queue;
 
@@ -33,7 +35,16 @@ struct PrintOptions {
 
 Refusal checkCall(const PrintOptions& options) {
     if (options.queue.isWanted())
-        return options.files.empty() ? Refusal{} : Refusal{kUsage, "Lists and waiting sheets take no files."};
+        return options.files.empty() && options.folder.empty()
+                   ? Refusal{}
+                   : Refusal{kUsage, "Lists and waiting sheets take no files."};
+    if (options.watch && options.folder.empty()) return {kUsage, "--watch goes with --folder."};
+    if (!options.folder.empty()) {
+        if (!options.files.empty()) return {kUsage, "--folder prints its photos; other files go without it."};
+        if (!options.to.empty() || options.printer.printer.empty() || options.printer.wait > 0)
+            return {kUsage, "--folder goes with --printer, and without --to and --wait."};
+        return {};
+    }
     if (options.files.empty()) return {kUsage, "The pictures to print are missing."};
     if (options.to.empty() == options.printer.printer.empty())
         return {kUsage, options.to.empty() ? "Where to is missing: --printer or --to."
@@ -99,6 +110,7 @@ int print(const PrintOptions& options) {
     if (options.queue.isWanted()) return workOnQueue(options.queue);
     const auto info = std::make_unique<SystemInfo>();
     startCommandLine(*info);
+    if (!options.folder.empty()) return printFolder(*info, options.printer, options.folder, options.watch);
     return options.to.empty() ? printFiles(*info, options.printer, options.files) : printToFile(*info, options);
 }
 
@@ -106,6 +118,7 @@ constexpr const char* kPrintExamples = R"(
 Examples:
   tavrin-cli print done/anna_beach.jpg --page "Letter Eight Wallets" --printer default
   tavrin-cli print done/*.jpg --page "5x7 Vert" --to sheets.pdf --paper A4 --cut-marks --caption "<<filename>>"
+  tavrin-cli print --folder done --watch --page "4x6 Vert" --printer default
   tavrin-cli print --waiting
 
 A sheet that cannot be printed, because its printer is stopped, out of paper or gone, is kept: --waiting lists such
@@ -124,6 +137,11 @@ void addPrintCommand(CLI::App& app, int& result) {
         ->add_option("--to", options->to,
                      "Sheet to write: .pdf (true size, without loss), .png, .jpg or .tif (600 dpi)")
         ->type_name("FILE");
+    command
+        ->add_option("--folder", options->folder,
+                     "Print every photo of a folder that was not printed yet; its history says which")
+        ->type_name("FOLDER");
+    command->add_flag("--watch", options->watch, "With --folder: go on, and print photos as they arrive");
     addPrinterOptions(*command, options->printer, "--printer");
     addPrintQueueOptions(*command, options->queue);
     command->footer(kPrintExamples);

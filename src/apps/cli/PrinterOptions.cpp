@@ -157,27 +157,31 @@ Refusal planSheets(const SystemInfo& info, const PrinterOptions& options, PrintS
     return problem.empty() ? Refusal{} : Refusal{kUsage, problem};
 }
 
+Refusal choosePrinter(PrintService& service, std::string& printer) {
+    if (printer == "default") {
+        const PrinterList list = service.printers();
+        const auto usual = std::ranges::find_if(list.printers, &Printer::isDefault);
+        if (!list.problem.empty()) return {kFailed, list.problem};
+        if (usual == list.printers.end()) return {kFailed, "No printer is the usual one; name one with --printer."};
+        printer = usual->name;
+        return {};
+    }
+    const Printer found = service.printer(printer);
+    return found.name.empty() && service.printers().problem.empty() ? Refusal{kUsage, found.trouble} : Refusal{};
+}
+
 int printFiles(SystemInfo& info, const PrinterOptions& options, const std::vector<std::string>& files) {
     const std::unique_ptr<PrintService> service = systemPrintService();
-    PrintOrder order{{}, options.printer, options.copies};
     PrinterOptions chosen = options;
-    if (options.printer == "default") {
-        const PrinterList list = service->printers();
-        const auto usual = std::ranges::find_if(list.printers, &Printer::isDefault);
-        if (!list.problem.empty() || usual == list.printers.end()) {
-            complain(list.problem.empty() ? "No printer is the usual one; name one with --printer." : list.problem);
-            return kFailed;
-        }
-        order.printer = chosen.printer = usual->name;
-    } else if (const Printer printer = service->printer(options.printer);
-               printer.name.empty() && service->printers().problem.empty()) {
-        complain(printer.trouble);
-        return kUsage;
-    }
-    if (const Refusal refusal = planSheets(info, chosen, service.get(), order.plan); refusal.code != kDone) {
+    PrintOrder order;
+    Refusal refusal = choosePrinter(*service, chosen.printer);
+    if (refusal.code == kDone) refusal = planSheets(info, chosen, service.get(), order.plan);
+    if (refusal.code != kDone) {
         complain(refusal.line);
         return refusal.code;
     }
+    order.printer = chosen.printer;
+    order.copies = options.copies;
     if (!order.plan.paper) order.plan.paper = usualPaper();
     info.iEventPrintCount = options.copies;
     PrintQueue queue(options.queue);

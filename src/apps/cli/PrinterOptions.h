@@ -29,6 +29,9 @@ void addPrinterOptions(CLI::App& command, PrinterOptions& options, const char* p
 /// @param service whose printer tells the paper; null: there is none, and only a wanted paper counts
 Refusal planSheets(const SystemInfo& info, const PrinterOptions& options, PrintService* service, SheetPlan& plan);
 
+/// Puts the usual printer's name in the place of "default", and sees that there is a printer of that name.
+Refusal choosePrinter(PrintService& service, std::string& printer);
+
 /// Sends a sheet of each file to the printer, as often as there are copies. What cannot go waits in the queue.
 /// @return the exit code; what happened was told
 int printFiles(SystemInfo& info, const PrinterOptions& options, const std::vector<std::string>& files);

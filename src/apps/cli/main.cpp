@@ -17,6 +17,7 @@
 #include "apps/cli/Output.h"
 #include "apps/cli/PrintCommand.h"
 #include "apps/cli/RenderCommand.h"
+#include "apps/cli/SortCommand.h"
 #include "apps/cli/StateCommand.h"
 #include "apps/cli/Usage.h"
 #include "core/Interruption.h"
@@ -82,6 +83,7 @@ int main(int argc, char** argv) {
     cli::addInfoCommand(app, result);
     cli::addStateCommand(app, result);
     cli::addListCommands(app, result);
+    cli::addSortCommand(app, result);
     cli::addEditsCommand(app, result);
     cli::addEffectsCommand(app, result);
     cli::addCompletionCommand(app, result);

@@ -12,6 +12,7 @@
 #include "ui/batch/BatchProgress.h"
 #include "ui/batch/DesktopNotice.h"
 #include "ui/batch/FolderRow.h"
+#include "ui/batch/SortPanel.h"
 
 namespace tavrin {
 
@@ -24,6 +25,7 @@ const BindingGroup kChoiceGroup{"groupBatchChoices", QT_TRANSLATE_NOOP("Panel", 
 const BindingGroup kRunGroup{"groupBatchRun", QT_TRANSLATE_NOOP("Panel", "Run"), nullptr, {}};
 const BindingGroup kPlanGroup{"groupBatchPlan", QT_TRANSLATE_NOOP("Panel", "What will be made"), nullptr, {}};
 const BindingGroup kLastGroup{"groupBatchResults", QT_TRANSLATE_NOOP("Panel", "Last pictures"), nullptr, {}};
+const BindingGroup kSortGroup{"groupBatchSort", QT_TRANSLATE_NOOP("Panel", "Sort photos by shape"), nullptr, {}};
 const BindingGroup kFailureGroup{"groupBatchFailures", QT_TRANSLATE_NOOP("Panel", "Failures"), nullptr, {}};
 
 QLabel* makeLabel(const char* name) {
@@ -145,6 +147,10 @@ void BatchPage::addLists() {
                         tr("Makes what failed once more, as soon as its cause is gone"));
     connect(again_, &QToolButton::clicked, this, &BatchPage::again);
     failures->addItem(again_);
+    auto* sorter = new SortPanel;
+    connect(sorter, &SortPanel::told, this, &BatchPage::told);
+    connect(sorter, &SortPanel::failed, this, &BatchPage::failed);
+    addGroup(kSortGroup, binder_)->addItem(sorter);
 }
 
 void BatchPage::showEvent(QShowEvent* event) {

@@ -42,6 +42,7 @@ MainWindow::MainWindow(SystemInfo& info, QWidget* parent)
       sizes_(new SizesPanel(editor_, *heldLoop_)),
       templates_(new TemplatesPanel(editor_, *heldLoop_, [this] { return view_->fullPicture(); })),
       printing_(new PrintDesk(this)),
+      folderPrint_(new BatchPrintPanel(info, *printing_, [this] { return view_->fullPicture(); })),
       batch_(new BatchPage(binder_)),
       mail_(new MailPage(binder_)),
       booth_(new EventBooth(binder_, *heldLoop_, this)),
@@ -164,6 +165,7 @@ void MainWindow::connectLists() {
     connect(templates_, &TemplatesPanel::failed, messages_, &MessageBar::fail);
     connect(templates_, &TemplatesPanel::pageChosen, this, &MainWindow::keepSettings);
     connect(templates_, &TemplatesPanel::listChanged, sizes_, &SizesPanel::refresh);
+    connect(templates_, &TemplatesPanel::listChanged, folderPrint_, &BatchPrintPanel::refresh);
     connect(templates_, &TemplatesPanel::listChanged, this, &MainWindow::tellUndo);
     connect(sizes_, &SizesPanel::listChanged, this, [this] {
         tellUndo();

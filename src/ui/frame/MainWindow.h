@@ -21,7 +21,7 @@
 #include "ui/look/LooksPanel.h"
 #include "ui/look/Safekeeping.h"
 #include "ui/picture/PictureTools.h"
-#include "ui/print/PrintDesk.h"
+#include "ui/print/BatchPrintPanel.h"
 #include "ui/review/GalleryDesk.h"
 #include "ui/review/ReviewDesk.h"
 #include "ui/settings/SettingsPage.h"
@@ -97,6 +97,7 @@ class MainWindow : public QMainWindow {
     MailPage* mail() const { return mail_; }
     EventBooth* booth() const { return booth_; }
     PrintDesk* printing() const { return printing_; }
+    BatchPrintPanel* folderPrint() const { return folderPrint_; }
     HistoryPanel* history() const { return history_; }
     LooksPanel* looksPanel() const { return looksPanel_; }
     /// Looks: copied and pasted, also on portraits that are not shown, and those by name.
@@ -214,6 +215,7 @@ class MainWindow : public QMainWindow {
     SizesPanel* sizes_;
     TemplatesPanel* templates_;
     PrintDesk* printing_;
+    BatchPrintPanel* folderPrint_;
     BatchPage* batch_;
     MailPage* mail_;
     EventBooth* booth_;

@@ -35,7 +35,7 @@ void MainWindow::layOut() {
     settings_->addSizes(sizes_);
     panel_->addPage(settings_);
     panel_->addPage(airbrush_->page());
-    panel_->addPage(new PrintPage(binder_, templates_, new WaitingSheets(*printing_)));
+    panel_->addPage(new PrintPage(binder_, templates_, new WaitingSheets(*printing_), folderPrint_));
     panel_->addPage(booth_->page());
     panel_->addPage(batch_);
     panel_->addPage(mail_);

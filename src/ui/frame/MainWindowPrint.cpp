@@ -25,6 +25,9 @@ std::vector<Command> printCommands(MainWindow& w) {
 void MainWindow::connectPrinting() {
     connect(printing_, &PrintDesk::told, messages_, &MessageBar::tell);
     connect(printing_, &PrintDesk::failed, messages_, &MessageBar::fail);
+    connect(folderPrint_, &BatchPrintPanel::changed, this, &MainWindow::keepSettings);
+    connect(folderPrint_, &BatchPrintPanel::told, messages_, &MessageBar::tell);
+    connect(folderPrint_, &BatchPrintPanel::failed, messages_, &MessageBar::fail);
     connect(templates_, &TemplatesPanel::printWanted, this, &MainWindow::printImage);
     printing_->followUp();  // what the last start left
 }

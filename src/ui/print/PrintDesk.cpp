@@ -38,6 +38,7 @@ PrintDesk::~PrintDesk() {
 
 void PrintDesk::setService(MakeService make) {
     tools_ = std::make_shared<Tools>(Tools{make(), PrintQueue()});
+    make_ = std::move(make);
 }
 
 void PrintDesk::run(std::function<Told(Tools&)> work) {

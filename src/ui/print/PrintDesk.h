@@ -27,6 +27,8 @@ class PrintDesk : public QObject {
 
     /// Another printing system than the machine's, for what is asked from now on.
     void setService(MakeService make);
+    /// For work beside the desk's, which talks to printers on a thread of its own.
+    const MakeService& makeService() const { return make_; }
 
     void askPrinters();
     /// @param printer "" for none: the usual papers
@@ -59,6 +61,7 @@ class PrintDesk : public QObject {
     void take(const std::vector<QueuedSheet>& sheets);
     void tellNews(const QueuedSheet& sheet, const QueuedSheet* before);
 
+    MakeService make_;
     std::shared_ptr<Tools> tools_;
     std::unique_ptr<QThreadPool> pool_;
     QTimer timer_;

@@ -43,14 +43,13 @@ void GalleryDesk::showAdjustGallery() {
 
 void GalleryDesk::showGallery() {
     if (binder_.editor().info().oQLXInfo->sPickDirectory.load().empty())
-        emit told(
-            tr("No folder of backgrounds is chosen, so the gallery is empty. Choose one by \"Folder of the "
-               "Backgrounds\" in the menu File."));
+        emit told(tr(
+            "No folder of backgrounds is chosen, so the gallery is empty. The page \"Settings\" has that folder."));
     begin(&Galleries::showGallery);
 }
 
 /// A page that is there comes up as well by way of the loop, as soon as no pass is under work.
-void GalleryDesk::begin(void (Galleries::*make)()) {
+void GalleryDesk::begin(bool (Galleries::*make)(int)) {
     if (running_) return;
     running_ = true;
     emit runBegins();
@@ -62,9 +61,8 @@ void GalleryDesk::begin(void (Galleries::*make)()) {
     progress_->setAutoReset(false);
     connect(progress_, &QProgressDialog::canceled, this, &GalleryDesk::leave);
     progress_->show();
-    loop_.edit([this, make]() -> std::vector<ChangedRows> {
-        (engine_.*make)();
-        if (!engine_.isOn()) bridge_.galleryEnded("");
+    loop_.edit([this, make, number = engine_.ask()]() -> std::vector<ChangedRows> {
+        if ((engine_.*make)(number) && !engine_.isOn()) bridge_.galleryEnded("");
         return {};
     });
 }

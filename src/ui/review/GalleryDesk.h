@@ -55,7 +55,7 @@ class GalleryDesk : public QObject {
     void alerted(const QString& text, const QString& reason);
 
   private:
-    void begin(void (Galleries::*make)());
+    void begin(bool (Galleries::*make)(int));
     void end(const QString& problem);
     void showGalleryViewer();
     bool mayGo(const QString& name);
