@@ -328,10 +328,6 @@
         <translation>kein Toner</translation>
     </message>
     <message>
-        <source>out of ink</source>
-        <translation>keine Tinte</translation>
-    </message>
-    <message>
         <source>the waste box is full</source>
         <translation>der Resttintenbehälter ist voll</translation>
     </message>
@@ -438,6 +434,10 @@
     <message>
         <source>The file of certificates %1 cannot be read or holds none, so nothing was sent.</source>
         <translation>Die Zertifikatsdatei %1 ist nicht lesbar oder enthält keine, deshalb wurde nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>out of ink or ribbon</source>
+        <translation>Tinte oder Farbband leer</translation>
     </message>
 </context>
 <context>
@@ -3065,6 +3065,50 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <source>Sort photos by shape</source>
         <translation>Fotos nach Format sortieren</translation>
     </message>
+    <message>
+        <source>Photo booth</source>
+        <translation>Fotobox</translation>
+    </message>
+    <message>
+        <source>This guest</source>
+        <translation>Dieser Gast</translation>
+    </message>
+    <message>
+        <source>Text on the picture</source>
+        <translation>Text auf dem Bild</translation>
+    </message>
+    <message>
+        <source>How the booth is doing</source>
+        <translation>Wie es der Fotobox geht</translation>
+    </message>
+    <message>
+        <source>The photo booth: one press for each guest</source>
+        <translation>Die Fotobox: ein Druck für jeden Gast</translation>
+    </message>
+    <message>
+        <source>Where the camera puts the portraits</source>
+        <translation>Wohin die Kamera die Porträts legt</translation>
+    </message>
+    <message>
+        <source>Backgrounds, portrait layout</source>
+        <translation>Hintergründe, Hochformat</translation>
+    </message>
+    <message>
+        <source>A state file of the same name beside a background is its recipe</source>
+        <translation>Eine Standdatei gleichen Namens neben einem Hintergrund ist sein Rezept</translation>
+    </message>
+    <message>
+        <source>Backgrounds, landscape layout</source>
+        <translation>Hintergründe, Querformat</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Where the finished pictures go, and a ticket for each press</source>
+        <translation>Wohin die fertigen Bilder kommen und für jeden Druck ein Zettel</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -4076,6 +4120,483 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
     </message>
 </context>
 <context>
+    <name>tavrin::EventBooth</name>
+    <message>
+        <source>%1 was set aside.</source>
+        <translation>%1 wurde beiseitegelegt.</translation>
+    </message>
+    <message>
+        <source>%1 waits.</source>
+        <translation>%1 wartet.</translation>
+    </message>
+    <message>
+        <source>The picture of %1 stands.</source>
+        <translation>Das Bild von %1 ist da.</translation>
+    </message>
+    <message>
+        <source>Guests</source>
+        <translation>Gäste</translation>
+    </message>
+    <message>
+        <source>No folder of portraits was chosen yet: Setup...</source>
+        <translation>Noch kein Ordner mit Porträts gewählt: Einrichten …</translation>
+    </message>
+    <message>
+        <source>Backgrounds of the booth</source>
+        <translation>Hintergründe der Fotobox</translation>
+    </message>
+    <message>
+        <source>No folder of backgrounds was chosen yet: Setup...</source>
+        <translation>Noch kein Ordner mit Hintergründen gewählt: Einrichten …</translation>
+    </message>
+    <message>
+        <source>The recipe of the booth cannot be kept.</source>
+        <translation>Das Rezept der Fotobox kann nicht aufbewahrt werden.</translation>
+    </message>
+    <message>
+        <source>Main Window - Event Mode</source>
+        <translation>Hauptfenster – Veranstaltung</translation>
+    </message>
+    <message>
+        <source>Main Window - Adjust/Load Mode</source>
+        <translation>Hauptfenster - Anpassen/Laden</translation>
+    </message>
+    <message>
+        <source>No picture is made of this press.</source>
+        <translation>Aus diesem Druck wird kein Bild.</translation>
+    </message>
+    <message>
+        <source>The recipe of this background cannot be used.</source>
+        <translation>Das Rezept dieses Hintergrunds kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>Add a line of text</source>
+        <translation>Textzeile hinzufügen</translation>
+    </message>
+    <message>
+        <source>The text is not added.</source>
+        <translation>Der Text wurde nicht hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Save the Counts</source>
+        <translation>Zählung speichern</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tabellen (*.csv)</translation>
+    </message>
+    <message>
+        <source>The counts cannot be written.</source>
+        <translation>Die Zählung kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Go to Portrait Layout</source>
+        <translation>Zum Hochformat</translation>
+    </message>
+    <message>
+        <source>Go to Landscape Layout</source>
+        <translation>Zum Querformat</translation>
+    </message>
+    <message>
+        <source>A press makes nothing while &quot;Save the State with Every Picture&quot; is off.</source>
+        <translation>Ein Druck ergibt nichts, solange „Stand mit jedem Bild speichern“ aus ist.</translation>
+    </message>
+    <message>
+        <source>frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>texture</source>
+        <translation>Struktur</translation>
+    </message>
+    <message>
+        <source>reflection</source>
+        <translation>Spiegelung</translation>
+    </message>
+    <message>
+        <source>stars</source>
+        <translation>Sterne</translation>
+    </message>
+    <message>
+        <source>drawing</source>
+        <translation>Zeichnung</translation>
+    </message>
+    <message>
+        <source>smoothing</source>
+        <translation>Glättung</translation>
+    </message>
+    <message>
+        <source>The booth&apos;s pictures are made without: %1</source>
+        <translation>Die Bilder der Fotobox entstehen ohne: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::EventPage</name>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Tickets</source>
+        <translation>Zettel</translation>
+    </message>
+    <message>
+        <source>Guest screen</source>
+        <translation>Gästebildschirm</translation>
+    </message>
+    <message>
+        <source>Shows the picture and the backgrounds to the guests, on a second display where there is one</source>
+        <translation>Zeigt den Gästen Bild und Hintergründe, auf einem zweiten Bildschirm, wenn es einen gibt</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>From now on each press becomes a picture, beside what is done here</source>
+        <translation>Von jetzt an wird aus jedem Druck ein Bild, neben dem, was hier geschieht</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Ends after the picture in hand; presses that wait are made with the next start</source>
+        <translation>Endet nach dem Bild in Arbeit; was wartet, wird mit dem nächsten Start gemacht</translation>
+    </message>
+    <message>
+        <source>Setup...</source>
+        <translation>Einrichten …</translation>
+    </message>
+    <message>
+        <source>Folders, letter, print page and printer</source>
+        <translation>Ordner, Brief, Druckseite und Drucker</translation>
+    </message>
+    <message>
+        <source>Turns to the other layout: its backgrounds, and the output size of its shape</source>
+        <translation>Wechselt zum anderen Format: seine Hintergründe und die Ausgabegröße seiner Form</translation>
+    </message>
+    <message>
+        <source>Start, stop, setup, layout</source>
+        <translation>Start, Stopp, Einrichten, Format</translation>
+    </message>
+    <message>
+        <source>Search a portrait by name</source>
+        <translation>Porträt nach Namen suchen</translation>
+    </message>
+    <message>
+        <source>Shows the first portrait whose name has these letters</source>
+        <translation>Zeigt das erste Porträt, dessen Name diese Buchstaben hat</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Mail address or telephone number</source>
+        <translation>Mailadresse oder Telefonnummer</translation>
+    </message>
+    <message>
+        <source>Where the picture goes by mail or as a text message</source>
+        <translation>Wohin das Bild per Mail oder als Textnachricht geht</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Prints of the next picture, 1 to 10; 1 again after it</source>
+        <translation>Abzüge des nächsten Bildes, 1 bis 10; danach wieder 1</translation>
+    </message>
+    <message>
+        <source>One print less</source>
+        <translation>Ein Abzug weniger</translation>
+    </message>
+    <message>
+        <source>One print more</source>
+        <translation>Ein Abzug mehr</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>The picture is made and kept</source>
+        <translation>Das Bild wird gemacht und aufbewahrt</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>The picture is made and printed</source>
+        <translation>Das Bild wird gemacht und gedruckt</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>Mail</translation>
+    </message>
+    <message>
+        <source>The picture is made and sent to the mail address</source>
+        <translation>Das Bild wird gemacht und an die Mailadresse geschickt</translation>
+    </message>
+    <message>
+        <source>Text message</source>
+        <translation>Textnachricht</translation>
+    </message>
+    <message>
+        <source>The picture is made and sent to the telephone number</source>
+        <translation>Das Bild wird gemacht und an die Telefonnummer geschickt</translation>
+    </message>
+    <message>
+        <source>Save, print, mail, text message</source>
+        <translation>Speichern, drucken, mailen, Textnachricht</translation>
+    </message>
+    <message>
+        <source>Line of text</source>
+        <translation>Textzeile</translation>
+    </message>
+    <message>
+        <source>Such as the name of the guest</source>
+        <translation>Etwa der Name des Gastes</translation>
+    </message>
+    <message>
+        <source>Font of the line</source>
+        <translation>Schrift der Zeile</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Size of the line</source>
+        <translation>Größe der Zeile</translation>
+    </message>
+    <message>
+        <source>Very large</source>
+        <translation>Sehr groß</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Colour of the line</source>
+        <translation>Farbe der Zeile</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>A shadow below the line, in the other colour</source>
+        <translation>Ein Schatten unter der Zeile, in der anderen Farbe</translation>
+    </message>
+    <message>
+        <source>Add the text</source>
+        <translation>Text hinzufügen</translation>
+    </message>
+    <message>
+        <source>Puts the line on the picture, where it can be moved with the mouse on &quot;Text&quot;</source>
+        <translation>Setzt die Zeile auf das Bild, wo die Maus sie bei „Text“ verschiebt</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>Sign of life</source>
+        <translation>Lebenszeichen</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Mails</source>
+        <translation>Mails</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>ohne Grenze</translation>
+    </message>
+    <message>
+        <source>Most prints that one press gives</source>
+        <translation>So viele Abzüge gibt ein Druck höchstens</translation>
+    </message>
+    <message>
+        <source>Most copies a guest</source>
+        <translation>Höchstens Abzüge je Gast</translation>
+    </message>
+    <message>
+        <source>Prints that a new pack of paper and ribbon gives</source>
+        <translation>Abzüge, die ein neuer Satz Papier und Farbband gibt</translation>
+    </message>
+    <message>
+        <source>New pack of prints</source>
+        <translation>Neuer Satz Abzüge</translation>
+    </message>
+    <message>
+        <source>Put in</source>
+        <translation>Eingelegt</translation>
+    </message>
+    <message>
+        <source>A new pack was put into the printer: its prints are counted down</source>
+        <translation>Ein neuer Satz wurde eingelegt: Seine Abzüge werden heruntergezählt</translation>
+    </message>
+    <message>
+        <source>What went wrong</source>
+        <translation>Was schiefging</translation>
+    </message>
+    <message>
+        <source>Try these again</source>
+        <translation>Diese noch einmal</translation>
+    </message>
+    <message>
+        <source>Makes the tickets once more that were set aside</source>
+        <translation>Macht die beiseitegelegten Zettel noch einmal</translation>
+    </message>
+    <message>
+        <source>Counts as CSV...</source>
+        <translation>Zählung als CSV …</translation>
+    </message>
+    <message>
+        <source>Writes what each day gave into a table</source>
+        <translation>Schreibt, was jeder Tag ergab, in eine Tabelle</translation>
+    </message>
+    <message>
+        <source>Try again, counts</source>
+        <translation>Noch einmal, Zählung</translation>
+    </message>
+    <message>
+        <source>%1, for %2 s</source>
+        <translation>%1, seit %2 s</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>waiting: %1</source>
+        <translation>wartend: %1</translation>
+    </message>
+    <message>
+        <source>nothing to do</source>
+        <translation>nichts zu tun</translation>
+    </message>
+    <message>
+        <source>%1 s ago</source>
+        <translation>vor %1 s</translation>
+    </message>
+    <message>
+        <source>perhaps printed, see Print: %1</source>
+        <translation>vielleicht gedruckt, siehe Drucken: %1</translation>
+    </message>
+    <message>
+        <source>left in the pack: %1</source>
+        <translation>im Satz übrig: %1</translation>
+    </message>
+    <message>
+        <source>to be looked at, see Mail: %1</source>
+        <translation>anzusehen, siehe Mail: %1</translation>
+    </message>
+    <message>
+        <source>%1 pictures, %2 prints, %3 mails</source>
+        <translation>%1 Bilder, %2 Abzüge, %3 Mails</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::EventSetupPanel</name>
+    <message>
+        <source>Title of the mails</source>
+        <translation>Titel der Mails</translation>
+    </message>
+    <message>
+        <source>Subject of what the guests get</source>
+        <translation>Betreff dessen, was die Gäste bekommen</translation>
+    </message>
+    <message>
+        <source>Print page</source>
+        <translation>Druckseite</translation>
+    </message>
+    <message>
+        <source>How the pictures lie on the sheet</source>
+        <translation>Wie die Bilder auf dem Blatt liegen</translation>
+    </message>
+    <message>
+        <source>Text of the mails</source>
+        <translation>Text der Mails</translation>
+    </message>
+    <message>
+        <source>What the guests read</source>
+        <translation>Was die Gäste lesen</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Prints of the booth come from here</source>
+        <translation>Hier kommen die Abzüge der Fotobox heraus</translation>
+    </message>
+    <message>
+        <source>Setup of the Booth</source>
+        <translation>Fotobox einrichten</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Shows the print pages with the picture in them</source>
+        <translation>Zeigt die Druckseiten mit dem Bild darin</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Keeps all of this and closes the panel</source>
+        <translation>Behält all das und schließt das Fenster</translation>
+    </message>
+    <message>
+        <source>%1: choose a folder</source>
+        <translation>%1: Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Choose a Folder: %1</source>
+        <translation>Ordner wählen: %1</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::FailureList</name>
     <message>
         <source>What could not be made</source>
@@ -4216,6 +4737,25 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
     <message>
         <source>Close %1</source>
         <translation>%1 schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::GuestScreen</name>
+    <message>
+        <source>Your picture</source>
+        <translation>Ihr Bild</translation>
+    </message>
+    <message>
+        <source>Backgrounds to choose from</source>
+        <translation>Hintergründe zur Auswahl</translation>
+    </message>
+    <message>
+        <source>Backgrounds before these</source>
+        <translation>Hintergründe davor</translation>
+    </message>
+    <message>
+        <source>More backgrounds</source>
+        <translation>Weitere Hintergründe</translation>
     </message>
 </context>
 <context>
@@ -5455,6 +5995,10 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
     <message>
         <source>PDF (*.pdf)</source>
         <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>
@@ -6931,6 +7475,45 @@ oder beide im Menü Datei öffnen.</translation>
     <message>
         <source>The mark is not kept.</source>
         <translation>Die Markierung wird nicht aufgehoben.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TapeDeckView</name>
+    <message>
+        <source>To the first</source>
+        <translation>Zum ersten</translation>
+    </message>
+    <message>
+        <source>Back five</source>
+        <translation>Fünf zurück</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>On five</source>
+        <translation>Fünf weiter</translation>
+    </message>
+    <message>
+        <source>To the last</source>
+        <translation>Zum letzten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>Der Ordner kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1, served</source>
+        <translation>%1, erledigt</translation>
+    </message>
+    <message>
+        <source>%1, empty place %2</source>
+        <translation>%1, leerer Platz %2</translation>
     </message>
 </context>
 <context>

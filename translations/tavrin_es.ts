@@ -328,10 +328,6 @@
         <translation>sin tóner</translation>
     </message>
     <message>
-        <source>out of ink</source>
-        <translation>sin tinta</translation>
-    </message>
-    <message>
         <source>the waste box is full</source>
         <translation>el depósito de residuos está lleno</translation>
     </message>
@@ -438,6 +434,10 @@
     <message>
         <source>The file of certificates %1 cannot be read or holds none, so nothing was sent.</source>
         <translation>El archivo de certificados %1 no se puede leer o no contiene ninguno, así que no se envió nada.</translation>
+    </message>
+    <message>
+        <source>out of ink or ribbon</source>
+        <translation>sin tinta o cinta</translation>
     </message>
 </context>
 <context>
@@ -3065,6 +3065,50 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <source>Sort photos by shape</source>
         <translation>Separar fotos por formato</translation>
     </message>
+    <message>
+        <source>Photo booth</source>
+        <translation>Fotomatón</translation>
+    </message>
+    <message>
+        <source>This guest</source>
+        <translation>Este invitado</translation>
+    </message>
+    <message>
+        <source>Text on the picture</source>
+        <translation>Texto en la imagen</translation>
+    </message>
+    <message>
+        <source>How the booth is doing</source>
+        <translation>Estado del fotomatón</translation>
+    </message>
+    <message>
+        <source>The photo booth: one press for each guest</source>
+        <translation>El fotomatón: una pulsación para cada invitado</translation>
+    </message>
+    <message>
+        <source>Where the camera puts the portraits</source>
+        <translation>Donde la cámara deja los retratos</translation>
+    </message>
+    <message>
+        <source>Backgrounds, portrait layout</source>
+        <translation>Fondos, formato vertical</translation>
+    </message>
+    <message>
+        <source>A state file of the same name beside a background is its recipe</source>
+        <translation>Un archivo de estado del mismo nombre junto a un fondo es su receta</translation>
+    </message>
+    <message>
+        <source>Backgrounds, landscape layout</source>
+        <translation>Fondos, formato horizontal</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Where the finished pictures go, and a ticket for each press</source>
+        <translation>Donde van las imágenes terminadas, y un tique por cada pulsación</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutDialog</name>
@@ -4076,6 +4120,483 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
     </message>
 </context>
 <context>
+    <name>tavrin::EventBooth</name>
+    <message>
+        <source>%1 was set aside.</source>
+        <translation>%1 se ha apartado.</translation>
+    </message>
+    <message>
+        <source>%1 waits.</source>
+        <translation>%1 espera.</translation>
+    </message>
+    <message>
+        <source>The picture of %1 stands.</source>
+        <translation>La imagen de %1 está hecha.</translation>
+    </message>
+    <message>
+        <source>Guests</source>
+        <translation>Invitados</translation>
+    </message>
+    <message>
+        <source>No folder of portraits was chosen yet: Setup...</source>
+        <translation>Aún no se ha elegido una carpeta de retratos: Configurar…</translation>
+    </message>
+    <message>
+        <source>Backgrounds of the booth</source>
+        <translation>Fondos del fotomatón</translation>
+    </message>
+    <message>
+        <source>No folder of backgrounds was chosen yet: Setup...</source>
+        <translation>Aún no se ha elegido una carpeta de fondos: Configurar…</translation>
+    </message>
+    <message>
+        <source>The recipe of the booth cannot be kept.</source>
+        <translation>No se puede guardar la receta del fotomatón.</translation>
+    </message>
+    <message>
+        <source>Main Window - Event Mode</source>
+        <translation>Ventana principal - Modo de evento</translation>
+    </message>
+    <message>
+        <source>Main Window - Adjust/Load Mode</source>
+        <translation>Ventana principal - Ajustar/Cargar</translation>
+    </message>
+    <message>
+        <source>No picture is made of this press.</source>
+        <translation>De esta pulsación no sale ninguna imagen.</translation>
+    </message>
+    <message>
+        <source>The recipe of this background cannot be used.</source>
+        <translation>No se puede usar la receta de este fondo.</translation>
+    </message>
+    <message>
+        <source>Add a line of text</source>
+        <translation>Añadir una línea de texto</translation>
+    </message>
+    <message>
+        <source>The text is not added.</source>
+        <translation>El texto no se ha añadido.</translation>
+    </message>
+    <message>
+        <source>Save the Counts</source>
+        <translation>Guardar los recuentos</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tablas (*.csv)</translation>
+    </message>
+    <message>
+        <source>The counts cannot be written.</source>
+        <translation>No se pueden escribir los recuentos.</translation>
+    </message>
+    <message>
+        <source>Go to Portrait Layout</source>
+        <translation>Al formato vertical</translation>
+    </message>
+    <message>
+        <source>Go to Landscape Layout</source>
+        <translation>Al formato horizontal</translation>
+    </message>
+    <message>
+        <source>A press makes nothing while &quot;Save the State with Every Picture&quot; is off.</source>
+        <translation>Una pulsación no hace nada mientras «Guardar el estado con cada imagen» está desactivado.</translation>
+    </message>
+    <message>
+        <source>frame</source>
+        <translation>marco</translation>
+    </message>
+    <message>
+        <source>texture</source>
+        <translation>textura</translation>
+    </message>
+    <message>
+        <source>reflection</source>
+        <translation>reflejo</translation>
+    </message>
+    <message>
+        <source>stars</source>
+        <translation>estrellas</translation>
+    </message>
+    <message>
+        <source>drawing</source>
+        <translation>dibujo</translation>
+    </message>
+    <message>
+        <source>smoothing</source>
+        <translation>suavizado</translation>
+    </message>
+    <message>
+        <source>The booth&apos;s pictures are made without: %1</source>
+        <translation>Las imágenes del fotomatón se hacen sin: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::EventPage</name>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Tickets</source>
+        <translation>Tiques</translation>
+    </message>
+    <message>
+        <source>Guest screen</source>
+        <translation>Pantalla de invitados</translation>
+    </message>
+    <message>
+        <source>Shows the picture and the backgrounds to the guests, on a second display where there is one</source>
+        <translation>Muestra a los invitados la imagen y los fondos, en una segunda pantalla si la hay</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>From now on each press becomes a picture, beside what is done here</source>
+        <translation>Desde ahora cada pulsación se convierte en una imagen, mientras aquí se sigue trabajando</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Ends after the picture in hand; presses that wait are made with the next start</source>
+        <translation>Termina tras la imagen en curso; lo que espera se hace con el próximo inicio</translation>
+    </message>
+    <message>
+        <source>Setup...</source>
+        <translation>Configurar…</translation>
+    </message>
+    <message>
+        <source>Folders, letter, print page and printer</source>
+        <translation>Carpetas, carta, página de impresión e impresora</translation>
+    </message>
+    <message>
+        <source>Turns to the other layout: its backgrounds, and the output size of its shape</source>
+        <translation>Cambia al otro formato: sus fondos y el tamaño de salida de su forma</translation>
+    </message>
+    <message>
+        <source>Start, stop, setup, layout</source>
+        <translation>Iniciar, parar, configurar, formato</translation>
+    </message>
+    <message>
+        <source>Search a portrait by name</source>
+        <translation>Buscar un retrato por su nombre</translation>
+    </message>
+    <message>
+        <source>Shows the first portrait whose name has these letters</source>
+        <translation>Muestra el primer retrato cuyo nombre contiene estas letras</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Mail address or telephone number</source>
+        <translation>Dirección de correo o número de teléfono</translation>
+    </message>
+    <message>
+        <source>Where the picture goes by mail or as a text message</source>
+        <translation>A dónde va la imagen por correo o como mensaje de texto</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Prints of the next picture, 1 to 10; 1 again after it</source>
+        <translation>Copias de la próxima imagen, de 1 a 10; después otra vez 1</translation>
+    </message>
+    <message>
+        <source>One print less</source>
+        <translation>Una copia menos</translation>
+    </message>
+    <message>
+        <source>One print more</source>
+        <translation>Una copia más</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>The picture is made and kept</source>
+        <translation>La imagen se hace y se guarda</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>The picture is made and printed</source>
+        <translation>La imagen se hace y se imprime</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>Correo</translation>
+    </message>
+    <message>
+        <source>The picture is made and sent to the mail address</source>
+        <translation>La imagen se hace y se envía a la dirección de correo</translation>
+    </message>
+    <message>
+        <source>Text message</source>
+        <translation>Mensaje de texto</translation>
+    </message>
+    <message>
+        <source>The picture is made and sent to the telephone number</source>
+        <translation>La imagen se hace y se envía al número de teléfono</translation>
+    </message>
+    <message>
+        <source>Save, print, mail, text message</source>
+        <translation>Guardar, imprimir, correo, mensaje de texto</translation>
+    </message>
+    <message>
+        <source>Line of text</source>
+        <translation>Línea de texto</translation>
+    </message>
+    <message>
+        <source>Such as the name of the guest</source>
+        <translation>Por ejemplo, el nombre del invitado</translation>
+    </message>
+    <message>
+        <source>Font of the line</source>
+        <translation>Tipo de letra de la línea</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Letra</translation>
+    </message>
+    <message>
+        <source>Size of the line</source>
+        <translation>Tamaño de la línea</translation>
+    </message>
+    <message>
+        <source>Very large</source>
+        <translation>Muy grande</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mediano</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Pequeño</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanco</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <source>Colour of the line</source>
+        <translation>Color de la línea</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Sombra</translation>
+    </message>
+    <message>
+        <source>A shadow below the line, in the other colour</source>
+        <translation>Una sombra bajo la línea, en el otro color</translation>
+    </message>
+    <message>
+        <source>Add the text</source>
+        <translation>Añadir el texto</translation>
+    </message>
+    <message>
+        <source>Puts the line on the picture, where it can be moved with the mouse on &quot;Text&quot;</source>
+        <translation>Pone la línea en la imagen, donde se mueve con el ratón en «Texto»</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>Sign of life</source>
+        <translation>Señal de vida</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Mails</source>
+        <translation>Correos</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>sin límite</translation>
+    </message>
+    <message>
+        <source>Most prints that one press gives</source>
+        <translation>Máximo de copias que da una pulsación</translation>
+    </message>
+    <message>
+        <source>Most copies a guest</source>
+        <translation>Máximo de copias por invitado</translation>
+    </message>
+    <message>
+        <source>Prints that a new pack of paper and ribbon gives</source>
+        <translation>Copias que da un nuevo paquete de papel y cinta</translation>
+    </message>
+    <message>
+        <source>New pack of prints</source>
+        <translation>Nuevo paquete de copias</translation>
+    </message>
+    <message>
+        <source>Put in</source>
+        <translation>Puesto</translation>
+    </message>
+    <message>
+        <source>A new pack was put into the printer: its prints are counted down</source>
+        <translation>Se ha puesto un paquete nuevo en la impresora: sus copias se descuentan</translation>
+    </message>
+    <message>
+        <source>What went wrong</source>
+        <translation>Lo que ha fallado</translation>
+    </message>
+    <message>
+        <source>Try these again</source>
+        <translation>Intentar otra vez</translation>
+    </message>
+    <message>
+        <source>Makes the tickets once more that were set aside</source>
+        <translation>Hace otra vez los tiques apartados</translation>
+    </message>
+    <message>
+        <source>Counts as CSV...</source>
+        <translation>Recuentos como CSV…</translation>
+    </message>
+    <message>
+        <source>Writes what each day gave into a table</source>
+        <translation>Escribe en una tabla lo que dio cada día</translation>
+    </message>
+    <message>
+        <source>Try again, counts</source>
+        <translation>Reintentar, recuentos</translation>
+    </message>
+    <message>
+        <source>%1, for %2 s</source>
+        <translation>%1, desde hace %2 s</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenida</translation>
+    </message>
+    <message>
+        <source>waiting: %1</source>
+        <translation>en espera: %1</translation>
+    </message>
+    <message>
+        <source>nothing to do</source>
+        <translation>nada que hacer</translation>
+    </message>
+    <message>
+        <source>%1 s ago</source>
+        <translation>hace %1 s</translation>
+    </message>
+    <message>
+        <source>perhaps printed, see Print: %1</source>
+        <translation>quizá impresas, ver Imprimir: %1</translation>
+    </message>
+    <message>
+        <source>left in the pack: %1</source>
+        <translation>quedan en el paquete: %1</translation>
+    </message>
+    <message>
+        <source>to be looked at, see Mail: %1</source>
+        <translation>por revisar, ver Correo: %1</translation>
+    </message>
+    <message>
+        <source>%1 pictures, %2 prints, %3 mails</source>
+        <translation>%1 imágenes, %2 copias, %3 correos</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::EventSetupPanel</name>
+    <message>
+        <source>Title of the mails</source>
+        <translation>Título de los correos</translation>
+    </message>
+    <message>
+        <source>Subject of what the guests get</source>
+        <translation>Asunto de lo que reciben los invitados</translation>
+    </message>
+    <message>
+        <source>Print page</source>
+        <translation>Página de impresión</translation>
+    </message>
+    <message>
+        <source>How the pictures lie on the sheet</source>
+        <translation>Cómo quedan las imágenes en la hoja</translation>
+    </message>
+    <message>
+        <source>Text of the mails</source>
+        <translation>Texto de los correos</translation>
+    </message>
+    <message>
+        <source>What the guests read</source>
+        <translation>Lo que leen los invitados</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Prints of the booth come from here</source>
+        <translation>Por aquí salen las copias del fotomatón</translation>
+    </message>
+    <message>
+        <source>Setup of the Booth</source>
+        <translation>Configurar el fotomatón</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Shows the print pages with the picture in them</source>
+        <translation>Muestra las páginas de impresión con la imagen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Keeps all of this and closes the panel</source>
+        <translation>Guarda todo esto y cierra el panel</translation>
+    </message>
+    <message>
+        <source>%1: choose a folder</source>
+        <translation>%1: elegir una carpeta</translation>
+    </message>
+    <message>
+        <source>Choose a Folder: %1</source>
+        <translation>Elegir una carpeta: %1</translation>
+    </message>
+</context>
+<context>
     <name>tavrin::FailureList</name>
     <message>
         <source>What could not be made</source>
@@ -4216,6 +4737,25 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
     <message>
         <source>Close %1</source>
         <translation>Cerrar %1</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::GuestScreen</name>
+    <message>
+        <source>Your picture</source>
+        <translation>Su imagen</translation>
+    </message>
+    <message>
+        <source>Backgrounds to choose from</source>
+        <translation>Fondos para elegir</translation>
+    </message>
+    <message>
+        <source>Backgrounds before these</source>
+        <translation>Fondos anteriores</translation>
+    </message>
+    <message>
+        <source>More backgrounds</source>
+        <translation>Más fondos</translation>
     </message>
 </context>
 <context>
@@ -5455,6 +5995,10 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
     <message>
         <source>PDF (*.pdf)</source>
         <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
     </message>
 </context>
 <context>
@@ -6931,6 +7475,45 @@ o ábralos desde el menú Archivo.</translation>
     <message>
         <source>The mark is not kept.</source>
         <translation>La marca no se guarda.</translation>
+    </message>
+</context>
+<context>
+    <name>tavrin::TapeDeckView</name>
+    <message>
+        <source>To the first</source>
+        <translation>Al primero</translation>
+    </message>
+    <message>
+        <source>Back five</source>
+        <translation>Cinco atrás</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>On five</source>
+        <translation>Cinco adelante</translation>
+    </message>
+    <message>
+        <source>To the last</source>
+        <translation>Al último</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>No se puede leer la carpeta.</translation>
+    </message>
+    <message>
+        <source>%1, served</source>
+        <translation>%1, atendido</translation>
+    </message>
+    <message>
+        <source>%1, empty place %2</source>
+        <translation>%1, lugar vacío %2</translation>
     </message>
 </context>
 <context>

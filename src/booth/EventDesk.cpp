@@ -74,7 +74,8 @@ void EventDesk::ChangeEventLayout() {
     const std::size_t at = name.find(before);
     if (at == std::string::npos) return;
     if (!chooseSizeByName(info_, name.substr(0, at) + after))
-        info_.alert("Cound not find  image size", "Make sure the  image size selected has an identical Horz and Vert size");
+        info_.alert("Cound not find  image size",
+                    "Make sure the  image size selected has an identical Horz and Vert size");
 }
 
 /// @param problem is set to what is wrong with it; of a size that cannot be had the rest is taken

@@ -39,7 +39,8 @@ void TapeDeckFileSelector::updateImagesInFolder(const std::vector<std::string>& 
     if (loadSlots()) {
         updateUI();
     } else {
-        iOldNumberOfImages_ = -1;  // the next look tries again: that is how a picture still being copied is waited for
+        iOldNumberOfImages_ =
+            -1;  // the next look tries again: that is how a picture still being copied is waited for
     }
 }
 

@@ -80,8 +80,8 @@ class TapeDeckFileSelector {
     std::string folder_;
     std::array<DeckSlot, kSlots> buffers_, shown_;
     std::vector<std::string> oOrderedFiles_;
-    std::int32_t iCursor_ = -1;      ///< selected index of `oOrderedFiles_`; -1 for none
-    std::int32_t iCursorBase_ = 0;   ///< index in the first place
+    std::int32_t iCursor_ = -1;     ///< selected index of `oOrderedFiles_`; -1 for none
+    std::int32_t iCursorBase_ = 0;  ///< index in the first place
     std::int32_t iNumberOfImages_ = 0;
     std::int32_t iOldNumberOfImages_ = -1;  ///< at the last look; -1 has the next look do everything anew
 };

@@ -1,7 +1,6 @@
 // The film strip of the photo booth: order, places, selection, growing folders.
-#include <map>
-
 #include <gtest/gtest.h>
+#include <map>
 
 #include "booth/TapeDeckFileSelector.h"
 

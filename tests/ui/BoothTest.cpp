@@ -136,7 +136,8 @@ TEST_F(BoothTest, PrintsAreCountedAtThePressAndTheCountGoesBack) {
     EXPECT_TRUE(test::eventually([&] {
         const std::lock_guard lock(room_.mutex);
         return room_.printed.size() == 3;
-    })) << room_.printed.size() << words("textEventPrinter").toStdString() << words("textEventProblem").toStdString();
+    })) << room_.printed.size()
+        << words("textEventPrinter").toStdString() << words("textEventProblem").toStdString();
     for (int i = 0; i < 12; ++i)
         press("eventModePrintCountUp");
     EXPECT_EQ(part<QLineEdit>("textEventPrintCount")->text(), "10");

@@ -13,6 +13,7 @@
 #include "core/files/StandardPath.h"
 #include "delivery/mail/EventMail.h"
 #include "folders/NextFileInFolder.h"
+#include "ui/ReasonText.h"
 #include "ui/booth/EventPage.h"
 #include "ui/booth/GuestScreen.h"
 #include "ui/mail/MailDesk.h"
@@ -23,6 +24,36 @@ namespace {
 
 constexpr int kTick = 1000;  // milliseconds between looks at the booth
 constexpr int kMostCopies = 10;
+
+/// For the translations: the words are the desk's.
+[[maybe_unused]] constexpr const char* kLayouts[] = {
+    QT_TRANSLATE_NOOP("tavrin::EventBooth", "Go to Portrait Layout"),
+    QT_TRANSLATE_NOOP("tavrin::EventBooth", "Go to Landscape Layout")};
+
+/// What the short way from a ticket to its picture leaves out, although the screen shows it.
+struct LeftOut {
+    bool (*isOn)(const SystemInfo& info);
+    const char* name;
+};
+constexpr LeftOut kLeftOut[] = {
+    {[](const SystemInfo& i) { return i.oFrame->iFrameType != 0 || i.oFrameOverlay->iFrameType != 0; },
+     QT_TRANSLATE_NOOP("tavrin::EventBooth", "frame")},
+    {[](const SystemInfo& i) { return i.oImageTexture->bHaveTexture.load(); },
+     QT_TRANSLATE_NOOP("tavrin::EventBooth", "texture")},
+    {[](const SystemInfo& i) { return i.bHaveReflection.load(); },
+     QT_TRANSLATE_NOOP("tavrin::EventBooth", "reflection")},
+    {[](const SystemInfo& i) { return i.bStarFilerTurnOn.load(); }, QT_TRANSLATE_NOOP("tavrin::EventBooth", "stars")},
+    {[](const SystemInfo& i) { return i.iCartoonEffectType >= 1; },
+     QT_TRANSLATE_NOOP("tavrin::EventBooth", "drawing")},
+    {[](const SystemInfo& i) { return i.iSmoothMode != 0 || i.iGlobalSmoothingMode != 0; },
+     QT_TRANSLATE_NOOP("tavrin::EventBooth", "smoothing")}};
+
+QString leftOut(const SystemInfo& info) {
+    QStringList names;
+    for (const LeftOut& one : kLeftOut)
+        if (one.isOn(info)) names << EventBooth::tr(one.name);
+    return names.join(", ");
+}
 
 std::string nameOfTicket(const std::string& path) {
     return path.substr(path.find_last_of('/') + 1);
@@ -49,12 +80,12 @@ class EventBooth::Listener : public EventListener {
             const QString line = result.status == Status::failed    ? tr("%1 was set aside.").arg(name)
                                  : result.status == Status::waiting ? tr("%1 waits.").arg(name)
                                                                     : tr("The picture of %1 stands.").arg(name);
-            emit booth.failed(line, QString::fromStdString(result.reason));
+            emit booth.failed(line, reasonText(result.reason));
         });
     }
     void alert(const std::string& message, const std::string& reason) override {
         pass([&booth = booth_, message, reason] {
-            emit booth.jobAlerted(QString::fromStdString(message), QString::fromStdString(reason));
+            emit booth.jobAlerted(QString::fromStdString(message), reasonText(reason));
         });
     }
     void ended() override {
@@ -65,7 +96,9 @@ class EventBooth::Listener : public EventListener {
     }
 
   private:
-    void pass(std::function<void()> what) { QMetaObject::invokeMethod(&booth_, std::move(what), Qt::QueuedConnection); }
+    void pass(std::function<void()> what) {
+        QMetaObject::invokeMethod(&booth_, std::move(what), Qt::QueuedConnection);
+    }
 
     EventBooth& booth_;
 };
@@ -76,10 +109,10 @@ EventBooth::EventBooth(Binder& binder, HeldLoop& held, QObject* parent)
       info_(binder.editor().info()),
       held_(held),
       desk_(info_),
-      foregroundSelector_(new TapeDeckView(
-          {tr("Guests"), "foregroundSelector", "eventImageSelected:", "eventImageTapeDeckButtonPushed:",
-           tr("No folder of portraits was chosen yet: Setup...")},
-          [this](const std::string& stem) { return tickets_.hasStem(stem); })),
+      foregroundSelector_(
+          new TapeDeckView({tr("Guests"), "foregroundSelector", "eventImageSelected:",
+                            "eventImageTapeDeckButtonPushed:", tr("No folder of portraits was chosen yet: Setup...")},
+                           [this](const std::string& stem) { return tickets_.hasStem(stem); })),
       backgroundSelector_(new TapeDeckView(
           {tr("Backgrounds of the booth"), "backgroundSelector", "eventBackgroundSelected:",
            "eventBackgroundTapeDeckButtonPushed:", tr("No folder of backgrounds was chosen yet: Setup...")},
@@ -193,7 +226,7 @@ void EventBooth::eventModeStart() {
     }
     page_->showProblem(info_.oQLXInfo->bAutoQLXSave
                            ? QString()
-                           : tr("A press makes nothing while \"Save a state beside each picture\" is off."));
+                           : tr("A press makes nothing while \"Save the State with Every Picture\" is off."));
     page_->showState(EventPage::State::running);
     info_.bEventModeAcvtive = true;
     info_.bSkipHiRes = true;
@@ -230,10 +263,7 @@ void EventBooth::press(int mode, const std::string& address) {
 
 void EventBooth::endPress(const Press& press) {
     if (!press.isDone()) {
-        emit failed(tr("No picture is made of this press."),
-                    press.problem.empty()
-                        ? tr("\"Save a state beside each picture\" is off, and the state is the ticket.")
-                        : QString::fromStdString(press.problem));
+        emit failed(tr("No picture is made of this press."), QString::fromStdString(press.problem));
         return;
     }
     worker_.wake();
@@ -342,7 +372,8 @@ void EventBooth::lookForTickets() {
 
 void EventBooth::showSigns() {
     const EventSigns signs = worker_.signs();
-    page_->showSigns(signs);
+    const QString names = leftOut(info_);
+    page_->showSigns(signs, names.isEmpty() ? QString() : tr("The booth's pictures are made without: %1").arg(names));
     page_->showState(!worker_.isRunning()      ? EventPage::State::setup
                      : info_.bEventModeAcvtive ? EventPage::State::running
                                                : EventPage::State::draining);

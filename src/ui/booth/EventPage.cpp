@@ -13,6 +13,7 @@
 #include <QSpinBox>
 #include <QToolButton>
 
+#include "ui/ReasonText.h"
 #include "ui/WindowSettings.h"
 
 namespace tavrin {
@@ -22,7 +23,8 @@ namespace {
 const BindingGroup kBoothGroup{"groupEventBooth", QT_TRANSLATE_NOOP("Panel", "Photo booth"), nullptr, {}};
 const BindingGroup kGuestGroup{"groupEventGuest", QT_TRANSLATE_NOOP("Panel", "This guest"), nullptr, {}};
 const BindingGroup kTextGroup{"groupEventText", QT_TRANSLATE_NOOP("Panel", "Text on the picture"), nullptr, {}};
-const BindingGroup kServiceGroup{"groupEventService", QT_TRANSLATE_NOOP("Panel", "How the booth is doing"), nullptr, {}};
+const BindingGroup kServiceGroup{
+    "groupEventService", QT_TRANSLATE_NOOP("Panel", "How the booth is doing"), nullptr, {}};
 
 constexpr const char* kLimitKey = "eventCopyLimit";
 constexpr const char* kSizes[] = {"X-Large", "Large", "Medium", "Small"};
@@ -134,8 +136,8 @@ void EventPage::addGuest() {
     search_ = field("textFieledSearch", "eventSearchForImage:", tr("Search a portrait by name"),
                     tr("Shows the first portrait whose name has these letters"));
     connect(search_, &QLineEdit::returnPressed, this, &EventPage::searchWanted);
-    QToolButton* find = add({"buttonEventSearch", "eventSearchForImage:", tr("Find"), search_->toolTip(),
-                             &EventPage::searchWanted});
+    QToolButton* find =
+        add({"buttonEventSearch", "eventSearchForImage:", tr("Find"), search_->toolTip(), &EventPage::searchWanted});
     auto* searchLine = new QWidget;
     searchLine->setAccessibleName(search_->accessibleName());
     auto* row = new QHBoxLayout(searchLine);
@@ -152,23 +154,23 @@ void EventPage::addGuest() {
     copies_->setAlignment(Qt::AlignCenter);
     QToolButton* fewer = add({"eventModePrintCountDown", "eventModePrintCountDown:", QString(QChar(0x2212)),
                               tr("One print less"), &EventPage::countDownWanted});
-    QToolButton* more = add({"eventModePrintCountUp", "eventModePrintCountUp:", "+", tr("One print more"),
-                             &EventPage::countUpWanted});
+    QToolButton* more = add(
+        {"eventModePrintCountUp", "eventModePrintCountUp:", "+", tr("One print more"), &EventPage::countUpWanted});
     for (QToolButton* one : {fewer, more})
         one->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     fewer->setAccessibleName(fewer->toolTip());
     more->setAccessibleName(more->toolTip());
     group->addItem(line(tr("Copies"), {fewer, copies_, more}));
-    group->addItem(gridOf(
-        {add({"eventModeSave", "eventModeSave:", tr("Save"), tr("The picture is made and kept"),
-              &EventPage::saveWanted}),
-         add({"eventModeSavePrint", "eventModeSaveAndPrint:", tr("Print"), tr("The picture is made and printed"),
-              &EventPage::printWanted}),
-         add({"eventModeSaveEmail", "eventModeSaveAndEmail:", tr("Mail"),
-              tr("The picture is made and sent to the mail address"), &EventPage::mailWanted}),
-         add({"eventModeSendText", "eventModeSaveAndText:", tr("Text message"),
-              tr("The picture is made and sent to the telephone number"), &EventPage::textMessageWanted})},
-        tr("Save, print, mail, text message")));
+    group->addItem(
+        gridOf({add({"eventModeSave", "eventModeSave:", tr("Save"), tr("The picture is made and kept"),
+                     &EventPage::saveWanted}),
+                add({"eventModeSavePrint", "eventModeSaveAndPrint:", tr("Print"),
+                     tr("The picture is made and printed"), &EventPage::printWanted}),
+                add({"eventModeSaveEmail", "eventModeSaveAndEmail:", tr("Mail"),
+                     tr("The picture is made and sent to the mail address"), &EventPage::mailWanted}),
+                add({"eventModeSendText", "eventModeSaveAndText:", tr("Text message"),
+                     tr("The picture is made and sent to the telephone number"), &EventPage::textMessageWanted})},
+               tr("Save, print, mail, text message")));
     for (const char* name : {"eventModeSave", "eventModeSavePrint", "eventModeSaveEmail", "eventModeSendText"})
         button(name)->setMinimumHeight(44);
 }
@@ -185,6 +187,11 @@ void EventPage::addText() {
     font_->setAccessibleName(tr("Font of the line"));
     font_->setToolTip(font_->accessibleName());
     font_->setMinimumWidth(60);
+    QLineEdit* typed = font_->lineEdit();
+    typed->setObjectName("eventFontName");
+    typed->setProperty("handler", "eventModeSetupText:");
+    typed->setAccessibleName(font_->accessibleName());
+    typed->setToolTip(font_->toolTip());
     group->addItem(line(tr("Font"), {font_}));
     size_ = new QComboBox;
     size_->setObjectName("evenSize");
@@ -322,12 +329,12 @@ void EventPage::showProblem(const QString& words) {
     problem_->setToolTip(words);
 }
 
-void EventPage::showSigns(const EventSigns& signs) {
+void EventPage::showSigns(const EventSigns& signs, const QString& note) {
     using Clock = EventSigns::Clock;
     const auto secondsSince = [](Clock::time_point then) {
         return std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - then).count();
     };
-    const auto words = [](const std::string& text) { return QString::fromStdString(text); };
+    const auto words = [](const std::string& text) { return reasonText(text); };
     job_->setText(!signs.job.empty()      ? tr("%1, for %2 s").arg(words(signs.job)).arg(secondsSince(signs.since))
                   : !signs.isRunning      ? tr("stopped")
                   : signs.jobsWaiting > 0 ? tr("waiting: %1").arg(signs.jobsWaiting)
@@ -347,7 +354,7 @@ void EventPage::showSigns(const EventSigns& signs) {
                         .arg(signs.today.pictures)
                         .arg(signs.today.prints)
                         .arg(signs.today.mails));
-    QStringList troubles{words(signs.trouble), words(signs.printerTrouble)};
+    QStringList troubles{words(signs.trouble), words(signs.printerTrouble), note};
     troubles.removeAll(QString());
     if (signs.isRunning) showProblem(troubles.join('\n'));
     if (failures_->count() != static_cast<int>(signs.failures.size())) {

@@ -46,8 +46,8 @@ class EventPage : public PanelPage {
     void showLayoutButton(const QString& words);
     /// Why nothing comes of a press, or of the start; "" for nothing.
     void showProblem(const QString& words);
-    /// @param running whether the booth is, so that what it does can be told
-    void showSigns(const EventSigns& signs);
+    /// @param note what else the operator should know while the booth runs
+    void showSigns(const EventSigns& signs, const QString& note);
     /// Shows font, size, colour and shadow of the settings.
     void updateEventUI();
 

@@ -25,19 +25,20 @@ struct FolderWords {
 constexpr FolderWords kFolders[] = {
     {&QLXInfo::sEventModeForegroundFolder, "textEventForegroundFolder", "chooseEventForegroundFolder:",
      QT_TRANSLATE_NOOP("Panel", "Portraits"), QT_TRANSLATE_NOOP("Panel", "Where the camera puts the portraits")},
-    {&QLXInfo::sEventModeBackgroundVertFolder, "textEventBackgroundFolder", "chooseEventBackgroundFolder:",
-     QT_TRANSLATE_NOOP("Panel", "Backgrounds, portrait layout"),
+    {&QLXInfo::sEventModeBackgroundVertFolder, "textEventBackgroundFolder",
+     "chooseEventBackgroundFolder:", QT_TRANSLATE_NOOP("Panel", "Backgrounds, portrait layout"),
      QT_TRANSLATE_NOOP("Panel", "A state file of the same name beside a background is its recipe")},
-    {&QLXInfo::sEventModeBackgroundHorzFolder, "textEventHorzBackgroundFolder", "chooseEventHorzBackgroundFolder:",
-     QT_TRANSLATE_NOOP("Panel", "Backgrounds, landscape layout"),
+    {&QLXInfo::sEventModeBackgroundHorzFolder, "textEventHorzBackgroundFolder",
+     "chooseEventHorzBackgroundFolder:", QT_TRANSLATE_NOOP("Panel", "Backgrounds, landscape layout"),
      QT_TRANSLATE_NOOP("Panel", "A state file of the same name beside a background is its recipe")},
-    {&QLXInfo::sEventModeOutputFolder, "textEventOutputFolder", "chooseEventOutputFolder:",
-     QT_TRANSLATE_NOOP("Panel", "Pictures"),
+    {&QLXInfo::sEventModeOutputFolder, "textEventOutputFolder",
+     "chooseEventOutputFolder:", QT_TRANSLATE_NOOP("Panel", "Pictures"),
      QT_TRANSLATE_NOOP("Panel", "Where the finished pictures go, and a ticket for each press")},
 };
 
 template <class Control>
-Control* named(Control* control, const char* name, const char* handler, const QString& label, const QString& toolTip) {
+Control* named(Control* control, const char* name, const char* handler, const QString& label,
+               const QString& toolTip) {
     control->setObjectName(name);
     control->setProperty("handler", handler);
     control->setAccessibleName(label);
@@ -97,8 +98,8 @@ QLineEdit* EventSetupPanel::addFolder(QGridLayout* grid, int which) {
     shown->setReadOnly(true);
     auto* name = new QLabel(label, this);
     name->setBuddy(shown);
-    QToolButton* ask = makeButton((std::string(words.name) + "Button").c_str(), words.handler, tr("Choose..."),
-                                  shown->toolTip());
+    QToolButton* ask =
+        makeButton((std::string(words.name) + "Button").c_str(), words.handler, tr("Choose..."), shown->toolTip());
     ask->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     ask->setAccessibleName(tr("%1: choose a folder").arg(label));
     connect(ask, &QToolButton::clicked, this, [this, which] { choose(which); });

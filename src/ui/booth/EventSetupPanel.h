@@ -28,7 +28,8 @@ class EventSetupPanel : public QDialog {
     void HideEventSetup();
 
   signals:
-    /// @param which 0 the portraits, 1 the backgrounds of the portrait layout, 2 of the landscape layout, 3 the output
+    /// @param which 0 the portraits, 1 the backgrounds of the portrait layout, 2 of the landscape layout, 3 the
+    /// output
     void folderChosen(int which);
     void templateWanted();
     void settingsToKeep();

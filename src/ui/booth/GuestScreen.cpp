@@ -20,7 +20,7 @@ namespace tavrin {
 namespace {
 
 constexpr double kTouch = 60.0;  // points: what a finger meets without looking twice
-constexpr int kArrow = 24;      // points
+constexpr int kArrow = 24;       // points
 constexpr QSize kItem(180, 180);
 
 int pixelsOf(double points, const QWidget& on) {
@@ -61,11 +61,7 @@ GuestScreen::GuestScreen(QWidget* parent)
       grid_(new QListView(this)),
       loader_([this](const std::string& path, const Thumbnail& thumbnail) {
           QMetaObject::invokeMethod(
-              this,
-              [this, path, thumbnail] {
-                  list_.takeThumbnail(path, thumbnail);
-              },
-              Qt::QueuedConnection);
+              this, [this, path, thumbnail] { list_.takeThumbnail(path, thumbnail); }, Qt::QueuedConnection);
       }) {
     setObjectName("guestScreen");
     setWindowTitle(tr("Your picture"));

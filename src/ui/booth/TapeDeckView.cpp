@@ -251,10 +251,11 @@ void TapeDeckView::show() {
         places_[i]->setChecked(place.isSelected);
         places_[i]->setEnabled(!place.path.empty());
         const QString name = textOfName(place.path).section('/', -1);
-        places_[i]->setToolTip(place.isServed ? tr("%1, served").arg(name) : name);
-        places_[i]->setAccessibleName(
-            place.path.empty() ? tr("%1, empty place %2").arg(accessibleName()).arg(i + 1)
-                               : tr("%1 %2").arg(place.isServed ? tr("Served:") : QString(), name).trimmed());
+        const QString words = place.path.empty() ? tr("%1, empty place %2").arg(accessibleName()).arg(i + 1)
+                              : place.isServed   ? tr("%1, served").arg(name)
+                                                 : name;
+        places_[i]->setToolTip(words);
+        places_[i]->setAccessibleName(words);
         captions_[i]->setText(QString::fromStdString(place.caption));
         captions_[i]->setEnabled(!place.isServed);  // grey
     }

@@ -13,6 +13,7 @@
 
 #include "core/files/NameText.h"
 #include "core/files/StandardPath.h"
+#include "ui/ReasonText.h"
 #include "ui/print/PageLayout.h"
 
 namespace tavrin {
@@ -175,7 +176,10 @@ void BatchPrintPanel::connectEngine() {
         queued);
     connect(
         &bridge_, &BatchPrintBridge::failed, this,
-        [this](const QString& line) { emit failed(tr("Not everything of the folder is printed."), line); }, queued);
+        [this](const QString& line) {
+            emit failed(tr("Not everything of the folder is printed."), reasonText(line.toStdString()));
+        },
+        queued);
     connect(&bridge_, &BatchPrintBridge::sheetsChanged, &desk_, &PrintDesk::followUp, queued);
     connect(&bridge_, &BatchPrintBridge::settingsShown, this, &BatchPrintPanel::showSettings);
     connect(&desk_, &PrintDesk::printersKnown, this, &BatchPrintPanel::takePrinters);
@@ -194,14 +198,14 @@ void BatchPrintPanel::takePrinters(const PrinterList& list) {
     for (const Printer& one : list.printers) {
         names.push_back(one.name);
         printer_->addItem(textOfName(one.name), textOfName(one.name));
-        const QString state = QString::fromStdString(one.trouble.empty() ? one.state : one.trouble);
+        const QString state = reasonText(one.trouble.empty() ? one.state : one.trouble);
         printer_->setItemData(printer_->count() - 1, state, Qt::ToolTipRole);
     }
     printer_->setEnabled(!names.empty());
     engine_.updateBatchPrintUI(names);
     if (names.empty())
         printerState_->setText(list.problem.empty() ? tr("There are no printers on this machine.")
-                                                    : QString::fromStdString(list.problem));
+                                                    : reasonText(list.problem));
 }
 
 /// The printer's state is that of the last time that it was asked.
