@@ -4229,6 +4229,14 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <source>The booth&apos;s pictures are made without: %1</source>
         <translation>Die Bilder der Fotobox entstehen ohne: %1</translation>
     </message>
+    <message>
+        <source>The prints of the pack are not counted.</source>
+        <translation>Die Abzüge des Satzes werden nicht gezählt.</translation>
+    </message>
+    <message>
+        <source>The pack holds %1 prints now.</source>
+        <translation>Der Satz hat jetzt %1 Abzüge.</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::EventPage</name>

@@ -4229,6 +4229,14 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <source>The booth&apos;s pictures are made without: %1</source>
         <translation>Las imágenes del fotomatón se hacen sin: %1</translation>
     </message>
+    <message>
+        <source>The prints of the pack are not counted.</source>
+        <translation>No se cuentan las copias del paquete.</translation>
+    </message>
+    <message>
+        <source>The pack holds %1 prints now.</source>
+        <translation>El paquete tiene ahora %1 copias.</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::EventPage</name>

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
 #include <QToolButton>
 
 #include "formats/ImageState.h"
@@ -211,6 +212,10 @@ TEST_F(BoothTest, GuestsTouchABackgroundAndCannotLeave) {
     ASSERT_TRUE(guests);
     auto* grid = guests->findChild<QAbstractItemView*>("guestBackgrounds");
     ASSERT_TRUE(test::eventually([&] { return grid->model()->rowCount() == 2; }));
+    if (QGuiApplication::screens().size() > 1) {
+        EXPECT_NE(guests->screen(), window_->screen());
+        EXPECT_EQ(guests->geometry(), guests->screen()->geometry());
+    }
     EXPECT_GE(guests->findChild<QToolButton*>("guestOn")->height() * 72, 60 * guests->logicalDpiY());
     QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
                       grid->visualRect(grid->model()->index(1, 0)).center());
@@ -220,6 +225,15 @@ TEST_F(BoothTest, GuestsTouchABackgroundAndCannotLeave) {
     EXPECT_TRUE(guests->isVisible());
     press("buttonGuestScreen");
     EXPECT_FALSE(window_->booth()->guestScreen());
+}
+
+TEST_F(BoothTest, APackIsCountedDownFromBeforeTheFirstStart) {
+    press("buttonEventRefill");
+    start();
+    EXPECT_TRUE(test::eventually([&] { return words("textEventPrinter").contains("100"); }))
+        << words("textEventPrinter").toStdString();
+    press("eventModeSavePrint");
+    EXPECT_TRUE(test::eventually([&] { return words("textEventPrinter").contains("99"); }));
 }
 
 TEST_F(BoothTest, SetupShowsAndKeepsWhatTheEveningNeeds) {

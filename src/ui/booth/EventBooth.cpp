@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QToolButton>
 
-#include "booth/EventCounts.h"
+#include "booth/BoothFolder.h"
 #include "core/files/NameText.h"
 #include "core/files/StandardPath.h"
 #include "delivery/mail/EventMail.h"
@@ -145,7 +145,7 @@ EventBooth::EventBooth(Binder& binder, HeldLoop& held, QObject* parent)
     });
     connect(page_, &EventPage::addTextWanted, this, &EventBooth::buttonAddTextClicked);
     connect(page_, &EventPage::retryWanted, this, [this] { worker_.retryBroken(); });
-    connect(page_, &EventPage::refillWanted, this, [this](int prints) { worker_.refillPack(prints); });
+    connect(page_, &EventPage::refillWanted, this, &EventBooth::refillPack);
     connect(page_, &EventPage::exportWanted, this, &EventBooth::exportCounts);
     tick_.setInterval(kTick);
     connect(&tick_, &QTimer::timeout, this, [this] {
@@ -406,15 +406,30 @@ void EventBooth::showGuestScreen(bool shows) {
     guests_->appear(page_->window()->screen());
 }
 
+EventCounts EventBooth::counts() const {
+    return {standardizePath(info_.oQLXInfo->sEventModeOutputFolder), installationMark(readDeliveryConf())};
+}
+
+/// Also before the first start, when no worker knows the folder.
+void EventBooth::refillPack(int prints) {
+    const BoothFolder folder(standardizePath(info_.oQLXInfo->sEventModeOutputFolder));
+    if (const std::string problem = folder.prepare(); !problem.empty()) {
+        emit failed(tr("The prints of the pack are not counted."), QString::fromStdString(problem));
+        return;
+    }
+    isRunning() ? worker_.refillPack(prints) : counts().refill(prints);
+    emit told(tr("The pack holds %1 prints now.").arg(prints));
+}
+
 void EventBooth::exportCounts() {
     const std::string folder = standardizePath(info_.oQLXInfo->sEventModeOutputFolder);
     const QString path = QFileDialog::getSaveFileName(page_, tr("Save the Counts"),
                                                       textOfName(folder) + "/counts.csv", tr("Tables (*.csv)"));
     if (path.isEmpty()) return;
     std::ofstream file(nameOfText(path), std::ios::binary);
-    EventCounts counts(folder, installationMark(readDeliveryConf()));
-    counts.refresh();
-    file << counts.csv();
+    EventCounts all = counts();
+    all.refresh();
+    file << all.csv();
     file.close();
     if (file.fail()) emit failed(tr("The counts cannot be written."), path);
 }

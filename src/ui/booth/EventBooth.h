@@ -6,6 +6,7 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include "booth/EventCounts.h"
 #include "booth/EventDesk.h"
 #include "booth/EventWorker.h"
 #include "booth/Ticket.h"
@@ -94,6 +95,8 @@ class EventBooth : public QObject {
     void showLayout();
     void showSigns();
     void refillGuests();
+    EventCounts counts() const;
+    void refillPack(int prints);
     void exportCounts();
     EventSetup setup() const;
 
