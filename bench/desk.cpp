@@ -17,6 +17,7 @@
 #include "core/BackgroundThread.h"
 #include "core/files/Places.h"
 #include "core/raster/PixelMemory.h"
+#include "desk/BoothFigures.h"
 #include "desk/GalleryFigures.h"
 #include "desk/Scribble.h"
 #include "desk/StripFigures.h"
@@ -185,6 +186,10 @@ int main(int argc, char** argv) {
                                return most;
                            }};
     const std::string only = argc > 2 ? argv[2] : "";
+    if (only == "booth") {
+        bench::measureBooth(desk, account.path().toStdString());
+        return 0;
+    }
     if (only == "gallery") {
         bench::measureGallery(desk);
         return 0;
@@ -221,5 +226,6 @@ int main(int argc, char** argv) {
     qputenv("XDG_CACHE_HOME", account.filePath("cache").toLocal8Bit());
     bench::measureLargePortrait(desk, pictures);
     bench::measureStrip(desk, pictures);
+    bench::measureBooth(desk, account.path().toStdString());
     return 0;
 }

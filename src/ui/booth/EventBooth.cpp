@@ -178,11 +178,10 @@ void EventBooth::setShowing(bool showing) {
 }
 
 void EventBooth::batchButtonClicked() {
-    const std::string backgrounds = desk_.backgroundFolder();
     if (const std::string problem = desk_.batchButtonClicked(); !problem.empty())
         emit failed(tr("The recipe of the booth cannot be kept."), QString::fromStdString(problem));
-    if (!isRunning()) foregroundSelector_->updateFolder(standardizePath(info_.oQLXInfo->sEventModeForegroundFolder));
-    if (!isRunning() || backgrounds != desk_.backgroundFolder()) followFolders();
+    foregroundSelector_->updateFolder(standardizePath(info_.oQLXInfo->sEventModeForegroundFolder));
+    followFolders();
     showLayout();
     info_.StartUpdate();
 }
@@ -258,6 +257,7 @@ void EventBooth::press(int mode, const std::string& address) {
         const Press press = tavrin::eventModeSaveNow(info_);
         static_cast<EventSettings&>(info_) = typedSince;
         endPress(press);
+        emit pressEnded();
     });
 }
 

@@ -75,6 +75,8 @@ class EventBooth : public QObject {
     void leavesEventMode();
     /// A number was typed: the carrier has to be asked for.
     void carrierWanted();
+    /// A press is over: its ticket lies on the disk, or the window has told why not.
+    void pressEnded();
     void told(const QString& line);
     void failed(const QString& line, const QString& details);
     /// What was typed will not do.

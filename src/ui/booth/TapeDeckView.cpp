@@ -158,6 +158,7 @@ QToolButton* TapeDeckView::makeTapeButton(const DeckNames& names, int button) {
 }
 
 void TapeDeckView::updateFolder(const std::string& folder) {
+    if (folder == deck_.folder()) return;
     deck_.updateFolder(folder);
     deck_.updateImagesInFolder({});
     deck_.updateFolder(folder);  // the first names are looked at, however many they are

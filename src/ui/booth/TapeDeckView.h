@@ -38,7 +38,7 @@ class TapeDeckView : public QWidget {
                  QWidget* parent = nullptr);
     ~TapeDeckView() override;
 
-    /// Another folder, "" for none.
+    /// Another folder, "" for none; the same one stays as it is.
     void updateFolder(const std::string& folder);
     /// Whether the folder is followed.
     void setFollowing(bool follows);
