@@ -94,6 +94,7 @@ class TicketNames {
     void add(const std::string& name);
     /// Whether there is a ticket of a portrait's stem: a name that begins with it and "_".
     bool hasStem(const std::string& stem) const;
+    bool operator==(const TicketNames&) const = default;
 
   private:
     std::vector<std::string> names_;  // sorted

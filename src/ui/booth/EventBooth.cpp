@@ -129,6 +129,15 @@ EventBooth::EventBooth(Binder& binder, HeldLoop& held, QObject* parent)
     connect(backgroundSelector_, &TapeDeckView::listed, this, &EventBooth::refillGuests);
     for (TapeDeckView* deck : {foregroundSelector_, backgroundSelector_})
         connect(deck, &TapeDeckView::failed, this, &EventBooth::failed);
+    connectPage();
+    tick_.setInterval(kTick);
+    connect(&tick_, &QTimer::timeout, this, [this] {
+        showSigns();
+        lookForTickets();
+    });
+}
+
+void EventBooth::connectPage() {
     connect(page_, &EventPage::startWanted, this, &EventBooth::eventModeStart);
     connect(page_, &EventPage::stopWanted, this, &EventBooth::eventModeStop);
     connect(page_, &EventPage::layoutWanted, this, &EventBooth::ChangeEventLayout);
@@ -147,11 +156,6 @@ EventBooth::EventBooth(Binder& binder, HeldLoop& held, QObject* parent)
     connect(page_, &EventPage::retryWanted, this, [this] { worker_.retryBroken(); });
     connect(page_, &EventPage::refillWanted, this, &EventBooth::refillPack);
     connect(page_, &EventPage::exportWanted, this, &EventBooth::exportCounts);
-    tick_.setInterval(kTick);
-    connect(&tick_, &QTimer::timeout, this, [this] {
-        showSigns();
-        lookForTickets();
-    });
 }
 
 /// The job in hand is finished; tickets that wait are made with the next start.
@@ -358,12 +362,12 @@ void EventBooth::buttonAddTextClicked() {
 void EventBooth::lookForTickets() {
     if (lister_.activeThreadCount() > 0) return;
     lister_.start([this, folder = standardizePath(info_.oQLXInfo->sEventModeOutputFolder)] {
-        std::vector<std::string> names;
-        if (!folder.empty()) names = namesInFolder(folder, {"QLX"});
+        TicketNames tickets(folder.empty() ? std::vector<std::string>() : namesInFolder(folder, {"QLX"}));
         QMetaObject::invokeMethod(
             this,
-            [this, names = std::move(names)] {
-                tickets_ = TicketNames(names);
+            [this, tickets = std::move(tickets)] {
+                if (tickets == tickets_) return;
+                tickets_ = tickets;
                 foregroundSelector_->deck().updateUI();
             },
             Qt::QueuedConnection);

@@ -87,6 +87,7 @@ class EventBooth : public QObject {
 
   private:
     class Listener;
+    void connectPage();
     void press(int mode, const std::string& address);
     void endPress(const Press& press);
     void batchButtonClicked();
