@@ -81,6 +81,19 @@ TEST(ImageWriter, JpegDropsAlphaAndKeepsColours) {
     EXPECT_EQ(readPictureFacts(folder.file("a.jpg")).channels, 3);
 }
 
+// PNG files are packed in parts, of which some are held at a time: as many as fit, one more, and one that is short.
+TEST(ImageWriter, PartsOfAPngMakeOnePicture) {
+    const TempFolder folder;
+    for (const int height : {1, 128, 2048, 2049, 2300}) {
+        std::vector<std::uint8_t> bytes(std::size_t{4} * 7 * height);
+        std::uint32_t noise = 5;
+        for (std::uint8_t& byte : bytes)
+            byte = static_cast<std::uint8_t>((noise = noise * 1664525 + 1013904223) >> 24);
+        ASSERT_EQ(writePicture(folder.file("a.png"), {bytes.data(), 7, height, kPngFile, 240, {}}), "");
+        EXPECT_EQ(storedBytes(folder.file("a.png")), bytes) << height;
+    }
+}
+
 // Pictures of several strips, the last one short; the widest has strips of fewer rows.
 TEST(ImageWriter, StripsOfAJpegMakeOnePicture) {
     const TempFolder folder;

@@ -4,14 +4,11 @@
 #include <csetjmp>
 #include <png.h>
 
+#include "core/image/PackedRows.h"
+
 namespace tavrin {
 
 namespace {
-
-/// Fast deflate over the difference to the row above: higher levels and a filter picked for each row take several
-/// times as long for a few percent of size.
-constexpr int kLevel = 1;
-constexpr int kFilter = PNG_FILTER_UP;
 
 struct PngWriter {
     png_structp png = nullptr;
@@ -55,19 +52,33 @@ void setHeader(const PngWriter& writer, const WriteRequest& request, const std::
                        const_cast<png_bytep>(request.exif.data()) + kExifHead);
 }
 
-// The library leaves a failed write by a long jump to here, so nothing in this function may need a destructor.
-bool run(PngWriter& writer, AtomicFile& file, const WriteRequest& request, const std::vector<std::uint8_t>& profile) {
+// The library leaves a failed write by a long jump to these two, so nothing in them may need a destructor.
+
+bool writeHead(PngWriter& writer, AtomicFile& file, const WriteRequest& request,
+               const std::vector<std::uint8_t>& profile) {
     if (setjmp(png_jmpbuf(writer.png))) return false;
     png_set_write_fn(writer.png, &file, writeBytes, nullptr);
-    png_set_compression_level(writer.png, kLevel);
-    png_set_filter(writer.png, PNG_FILTER_TYPE_BASE, kFilter);
     setHeader(writer, request, profile);
     png_write_info(writer.png, writer.info);
-    const std::size_t row = std::size_t{4} * request.width;
-    for (int y = 0; y < request.height; ++y)
-        png_write_row(writer.png, request.pixels + row * y);
-    png_write_end(writer.png, nullptr);  // with its data given again it would repeat the camera data
     return true;
+}
+
+bool writeChunk(PngWriter& writer, const char* name, const char* bytes, std::size_t size) {
+    if (setjmp(png_jmpbuf(writer.png))) return false;
+    png_write_chunk(writer.png, reinterpret_cast<png_const_bytep>(name), reinterpret_cast<png_const_bytep>(bytes),
+                    size);
+    return true;
+}
+
+/// The rows are packed on all cores, which the library does on one.
+bool run(PngWriter& writer, AtomicFile& file, const WriteRequest& request, const std::vector<std::uint8_t>& profile) {
+    const RowsToPack rows{request.pixels, request.width, request.height, std::size_t{4} * request.width, 4};
+    return writeHead(writer, file, request, profile) &&
+           packRows(rows,
+                    [&writer](const std::string& bytes) {
+                        return writeChunk(writer, "IDAT", bytes.data(), bytes.size());
+                    }) &&
+           writeChunk(writer, "IEND", nullptr, 0);
 }
 
 }  // namespace
