@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <climits>
 
-#include "key/refine/Areas.h"
+#include "key/refine/CoverMask.h"
 #include "key/refine/Parts.h"
-#include "key/refine/ScreenRatio.h"
+#include "key/refine/RowLoops.h"
 
 namespace tavrin::refine {
 
 namespace {
 
-constexpr int kHalo = 4;                              // columns beyond an area that its windows look at
 constexpr double kMarkCell = 8.0, kMostMark = 0.004;  // of all cells
 constexpr float kOtherCover = 0.25f;                  // the least alpha of what has another hue than the screen
 constexpr double kFill = 0.45;                        // of the box around a mark
@@ -53,19 +52,6 @@ std::vector<Mark> listParts(const Parts& parts, const Cells& subject) {
     return marks;
 }
 
-// Which pixels of an area have another hue than the screen.
-void findOther(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& other) {
-    const Strip strip = area.strip(shot, kHalo);
-    ScreenRatio ratio(strip, plate);
-    std::vector<float> light(static_cast<std::size_t>(strip.width)), least(light);
-    std::vector<std::uint8_t> flags(light.size() + 8);
-    for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
-        ratio.cover(y, light.data(), least.data());
-        rowLoops().above(least.data(), kOtherCover, strip.width, flags.data());
-        other.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
-    }
-}
-
 }  // namespace
 
 Mask findMarks(const RunContext& context, const Shot& shot, const Plate& plate, const Core& core, const Mask& open) {
@@ -94,7 +80,9 @@ Mask findMarks(const RunContext& context, const Shot& shot, const Plate& plate, 
     if (std::none_of(marks.begin(), marks.end(), maybe)) return Mask(shot.width, shot.height);
     const Mask found = maskOfMarks(maybe);
     Mask other(shot.width, shot.height);
-    runAreas(context, found, [&](const Area& area) { findOther(context, shot, plate, area, other); });
+    runAreas(context, found, [&](const Area& area) {
+        maskByCover(context, shot, plate, area, {rowLoops().above, kOtherCover}, other);
+    });
     other &= found;
     const Cells otherShares = sharesOf(context, other, size);
     for (std::size_t i = 0; i < set.size(); ++i) {

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "key/refine/Areas.h"
+#include "key/refine/CoverMask.h"
 #include "key/refine/Parts.h"
 #include "key/refine/Plate.h"
 #include "key/refine/RowRing.h"
@@ -122,19 +123,6 @@ Plate evenPlate(const Shot& shot, const Mask& screen) {
     return plate;
 }
 
-// Which pixels of an area have the plate's colour in some light.
-void findAlike(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Mask& alike) {
-    const Strip strip = area.strip(shot, kHalo);
-    ScreenRatio ratio(strip, plate);
-    std::vector<float> light(static_cast<std::size_t>(strip.width)), least(light);
-    std::vector<std::uint8_t> flags(light.size() + 8);
-    for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
-        ratio.cover(y, light.data(), least.data());
-        rowLoops().below(least.data(), kOtherCover, strip.width, flags.data());
-        alike.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
-    }
-}
-
 }  // namespace
 
 void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen) {
@@ -144,7 +132,9 @@ void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen) {
     large &= screen;
     if (large.count() == 0) return;
     const Plate plate = evenPlate(shot, large);
-    runAreas(context, small, [&](const Area& area) { findAlike(context, shot, plate, area, alike); });
+    runAreas(context, small, [&](const Area& area) {
+        maskByCover(context, shot, plate, area, {rowLoops().below, kOtherCover}, alike);
+    });
     small &= alike;
     screen = std::move(large);
     screen |= small;

@@ -36,16 +36,6 @@ constexpr FolderWords kFolders[] = {
      QT_TRANSLATE_NOOP("Panel", "Where the finished pictures go, and a ticket for each press")},
 };
 
-template <class Control>
-Control* named(Control* control, const char* name, const char* handler, const QString& label,
-               const QString& toolTip) {
-    control->setObjectName(name);
-    control->setProperty("handler", handler);
-    control->setAccessibleName(label);
-    control->setToolTip(toolTip);
-    return control;
-}
-
 }  // namespace
 
 EventSetupPanel::EventSetupPanel(QLXInfo& settings, QWidget* parent)

@@ -14,6 +14,7 @@
 #include "core/files/NameText.h"
 #include "core/files/StandardPath.h"
 #include "ui/ReasonText.h"
+#include "ui/bind/WordButton.h"
 #include "ui/print/PageLayout.h"
 
 namespace tavrin {
@@ -61,16 +62,6 @@ BatchPrintPanel::BatchPrintPanel(SystemInfo& info, PrintDesk& desk, std::functio
     form->addRow(QString(), makeRunRow());
     connectEngine();
     showSettings();
-}
-
-template <class Control>
-Control* BatchPrintPanel::named(Control* control, const char* name, const char* handler, const QString& label,
-                                const QString& toolTip) {
-    control->setObjectName(name);
-    control->setProperty("handler", handler);
-    control->setAccessibleName(label);
-    control->setToolTip(toolTip);
-    return control;
 }
 
 QToolButton* BatchPrintPanel::addButton(const char* handler, const QString& text, const QString& toolTip,

@@ -66,9 +66,6 @@ class BatchPrintPanel : public QWidget {
   private:
     QToolButton* addButton(const char* handler, const QString& text, const QString& toolTip,
                            void (BatchPrintPanel::*clicked)());
-    template <class Control>
-    Control* named(Control* control, const char* name, const char* handler, const QString& label,
-                   const QString& toolTip);
     QWidget* makeFolderRow();
     QWidget* makePageRow();
     QWidget* makeRunRow();
