@@ -4237,6 +4237,10 @@ Läuft mit Qt %1. Was von anderen darin steckt, steht in seinem Ordner für Doku
         <source>The pack holds %1 prints now.</source>
         <translation>Der Satz hat jetzt %1 Abzüge.</translation>
     </message>
+    <message>
+        <source>A guest gets %1 copies at most, so that many are printed.</source>
+        <translation>Ein Gast bekommt höchstens %1 Abzüge; so viele werden gedruckt.</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::EventPage</name>

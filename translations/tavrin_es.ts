@@ -4237,6 +4237,10 @@ Funciona con Qt %1. El trabajo ajeno que contiene figura en licences.md, en su c
         <source>The pack holds %1 prints now.</source>
         <translation>El paquete tiene ahora %1 copias.</translation>
     </message>
+    <message>
+        <source>A guest gets %1 copies at most, so that many are printed.</source>
+        <translation>Un invitado recibe como máximo %1 copias; se imprimen esas.</translation>
+    </message>
 </context>
 <context>
     <name>tavrin::EventPage</name>

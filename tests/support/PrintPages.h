@@ -25,4 +25,11 @@ inline PrinterPage pageOf(std::int64_t width, std::int64_t height, const std::ve
     return page;
 }
 
+/// A print page that is all one slot.
+inline PrinterPage pageOf(const char* title, std::int64_t width, std::int64_t height) {
+    PrinterPage page = pageOf(width, height, {QRect(0, 0, static_cast<int>(width), static_cast<int>(height))});
+    page.sPageTitle = title;
+    return page;
+}
+
 }  // namespace tavrin::test

@@ -12,6 +12,7 @@
 
 #include "formats/SettingsFile.h"
 #include "support/FakePrinters.h"
+#include "support/PrintPages.h"
 #include "ui/WindowTest.h"
 #include "ui/sizes/TemplateView.h"
 
@@ -20,22 +21,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-PrinterPage pageOf(const char* title, std::int64_t width, std::int64_t height) {
-    PrinterPage page;
-    PrinterPageImage slot;
-    page.sPageTitle = title;
-    slot.iWidth = page.iPageWidth = width;
-    slot.iHeight = page.iPageHeight = height;
-    page.oPrinterPageImages = {slot};
-    return page;
-}
-
 class BatchPrintPanelTest : public test::WindowTest {
   protected:
     void SetUp() override {
         WindowTest::SetUp();
         fs::create_directory(folder_.file("photos"));
-        info_->oPrinterPages = {pageOf("Small", 200, 250), pageOf("Large", 500, 400)};
+        info_->oPrinterPages = {test::pageOf("Small", 200, 250), test::pageOf("Large", 500, 400)};
         settings().sSelectedBatchPrinterTemplate = "Large";
         settings().bWatchPrintFolder = false;
         open({1300, 1000});

@@ -139,6 +139,15 @@ TEST_F(BoothTest, PrintsAreCountedAtThePressAndTheCountGoesBack) {
         return room_.printed.size() == 3;
     })) << room_.printed.size()
         << words("textEventPrinter").toStdString() << words("textEventProblem").toStdString();
+    auto* copies = part<QLineEdit>("textEventPrintCount");
+    copies->setFocus();
+    copies->selectAll();
+    QTest::keyClicks(copies, "2");
+    press("eventModeSavePrint");
+    EXPECT_TRUE(test::eventually([&] {
+        const std::lock_guard lock(room_.mutex);
+        return room_.printed.size() == 5;
+    })) << "what is typed counts";
     for (int i = 0; i < 12; ++i)
         press("eventModePrintCountUp");
     EXPECT_EQ(part<QLineEdit>("textEventPrintCount")->text(), "10");

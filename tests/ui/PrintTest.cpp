@@ -15,27 +15,18 @@
 
 #include "support/FakePrinters.h"
 #include "support/Files.h"
+#include "support/PrintPages.h"
 #include "ui/WindowTest.h"
 #include "ui/print/PrintDialog.h"
 
 namespace tavrin {
 namespace {
 
-PrinterPage pageOf(const char* title, std::int64_t width, std::int64_t height) {
-    PrinterPage page;
-    PrinterPageImage slot;
-    page.sPageTitle = title;
-    slot.iWidth = page.iPageWidth = width;
-    slot.iHeight = page.iPageHeight = height;
-    page.oPrinterPageImages = {slot};
-    return page;
-}
-
 class PrintTest : public test::WindowTest {
   protected:
     void SetUp() override {
         WindowTest::SetUp();
-        info_->oPrinterPages = {pageOf("Small", 200, 250), pageOf("Large", 2000, 1000)};
+        info_->oPrinterPages = {test::pageOf("Small", 200, 250), test::pageOf("Large", 2000, 1000)};
         openOn(room_);
     }
     void openOn(test::PrintRoom& room) {
@@ -202,7 +193,7 @@ TEST_F(PrintTest, WithoutPrintersTheSheetCanStillBeSavedAndASheetIsDiscarded) {
     EXPECT_FALSE(part<QPushButton>("PrintTemplate")->isEnabled());
     EXPECT_TRUE(part<QPushButton>("printToPdf")->isEnabled());
     const QString path = QString::fromStdString(folder_.file("sheet.pdf"));
-    SheetPlan plan{pageOf("Small", 200, 250)};
+    SheetPlan plan{test::pageOf("Small", 200, 250)};
     window_->printing()->savePdf(plan, {window_->view()->fullPicture()}, path);
     EXPECT_TRUE(test::eventually([&] { return std::filesystem::exists(path.toStdString()); }));
 }

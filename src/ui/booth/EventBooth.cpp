@@ -143,6 +143,8 @@ void EventBooth::connectPage() {
     connect(page_, &EventPage::layoutWanted, this, &EventBooth::ChangeEventLayout);
     connect(page_, &EventPage::guestScreenWanted, this, &EventBooth::showGuestScreen);
     connect(page_, &EventPage::searchWanted, this, &EventBooth::eventSearchForImage);
+    // What is typed counts, too, as soon as the field is left.
+    connect(page_->textEventPrintCount(), &QLineEdit::editingFinished, this, [this] { changePrintCount(0); });
     connect(page_, &EventPage::countUpWanted, this, &EventBooth::eventModePrintCountUp);
     connect(page_, &EventPage::countDownWanted, this, &EventBooth::eventModePrintCountDown);
     connect(page_, &EventPage::saveWanted, this, &EventBooth::eventModeSave);
@@ -255,6 +257,8 @@ void EventBooth::press(int mode, const std::string& address) {
     info_.sEventEmail = address;
     EventSettings pressed = info_;
     pressed.iEventPrintCount = allowedCopies(info_.iEventPrintCount, page_->copyLimit());
+    if (mode == kEventSaveAndPrint && pressed.iEventPrintCount < info_.iEventPrintCount)
+        emit told(tr("A guest gets %1 copies at most, so that many are printed.").arg(page_->copyLimit()));
     held_.run([this, pressed] {
         const EventSettings typedSince = info_;
         static_cast<EventSettings&>(info_) = pressed;
@@ -326,6 +330,7 @@ void EventBooth::eventImageSelected(const QString& path) {
 }
 
 void EventBooth::eventBackgroundSelected(const QString& path) {
+    if (guests_) guests_->showChosen(nameOfText(path));
     held_.run([this, path] {
         const std::string problem = desk_.eventBackgroundSelected(nameOfText(path));
         if (!problem.empty())

@@ -350,10 +350,12 @@ void EventPage::showSigns(const EventSigns& signs, const QString& note) {
     if (signs.mailsHeld > 0) mails << tr("to be looked at, see Mail: %1").arg(signs.mailsHeld);
     if (!signs.mailTrouble.empty()) mails << words(signs.mailTrouble);
     mails_->setText(mails.join(", "));
-    today_->setText(tr("%1 pictures, %2 prints, %3 mails")
-                        .arg(signs.today.pictures)
-                        .arg(signs.today.prints)
-                        .arg(signs.today.mails));
+    const bool isKnown = signs.lastSign != Clock::time_point();  // nobody has looked before the first start
+    today_->setText(isKnown ? tr("%1 pictures, %2 prints, %3 mails")
+                                  .arg(signs.today.pictures)
+                                  .arg(signs.today.prints)
+                                  .arg(signs.today.mails)
+                            : QString(QChar(0x2013)));
     QStringList troubles{words(signs.trouble), words(signs.printerTrouble), note};
     troubles.removeAll(QString());
     if (signs.isRunning) showProblem(troubles.join('\n'));

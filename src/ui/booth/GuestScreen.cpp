@@ -90,11 +90,8 @@ void GuestScreen::layOut() {
     grid_->setContextMenuPolicy(Qt::NoContextMenu);
     grid_->setModel(&list_);
     QScroller::grabGesture(grid_->viewport(), QScroller::TouchGesture);
-    connect(grid_, &QListView::clicked, this, [this](const QModelIndex& index) {
-        const std::string path = list_.path(index.row());
-        list_.setPresent(path);
-        emit backgroundChosen(textOfName(path));
-    });
+    connect(grid_, &QListView::clicked, this,
+            [this](const QModelIndex& index) { emit backgroundChosen(textOfName(list_.path(index.row()))); });
     connect(grid_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { soon_.start(); });
     auto* pages = new QHBoxLayout;
     pages->addWidget(makePager("guestBack", tr("Backgrounds before these"), QChar(0x25B2), -1));

@@ -26,6 +26,8 @@ class GuestScreen : public QWidget {
     void leave();
     void showPicture(const QImage& picture);
     void setBackgrounds(std::vector<std::string> paths);
+    /// Frames the background that was chosen, here or by the operator.
+    void showChosen(const std::string& background) { list_.setPresent(background); }
 
   signals:
     void backgroundChosen(const QString& path);

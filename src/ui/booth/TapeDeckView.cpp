@@ -130,13 +130,8 @@ QToolButton* TapeDeckView::makePlace(const DeckNames& names, int slot) {
     button->setFocusPolicy(Qt::StrongFocus);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(button, &QToolButton::clicked, this, [this, slot] {
-        const std::string before = deck_.getSelectedImageName();
         deck_.imageSelected(slot);
-        const std::string path = deck_.getSelectedImageName();
-        if (!path.empty() && !deck_.shown()[static_cast<std::size_t>(slot - 1)].path.empty())
-            emit chosen(textOfName(path));
-        else
-            show();  // an empty place is not pressed in
+        if (const std::string path = deck_.getSelectedImageName(); !path.empty()) emit chosen(textOfName(path));
     });
     return button;
 }

@@ -24,7 +24,10 @@ void MainWindow::connectEvent() {
     });
     connect(booth_, &EventBooth::layoutChanged, this, &MainWindow::showState);
     connect(booth_, &EventBooth::settingsToKeep, this, &MainWindow::keepSettings);
-    connect(booth_, &EventBooth::titleChanged, this, &MainWindow::setWindowTitle);
+    connect(booth_, &EventBooth::titleChanged, this, [this](const QString& title) {
+        setWindowTitle(title);
+        commands_->refresh();
+    });
     connect(booth_, &EventBooth::leavesEventMode, this, [this] {
         info_.bHaveGallery = info_.bHaveAdjGallery = false;
         ClearTempFiles(Places::current().tempFilesFolder());

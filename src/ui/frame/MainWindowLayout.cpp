@@ -52,7 +52,9 @@ void MainWindow::layOut() {
     std::ranges::move(reviewCommands(*review_), std::back_inserter(table));
     std::ranges::move(printCommands(*this), std::back_inserter(table));
     std::ranges::move(
-        galleryCommands(*galleries_, [this] { return !batch_->isRunning() && !info_.bEventModeShowing; }),
+        galleryCommands(
+            *galleries_,
+            [this] { return !batch_->isRunning() && !info_.bEventModeShowing && !info_.bEventModeAcvtive; }),
         std::back_inserter(table));
     std::ranges::move(pageCommands(*panel_), std::back_inserter(table));
     std::vector<Command> effects = effectCommands(*panel_->effects());
