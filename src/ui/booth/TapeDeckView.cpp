@@ -84,7 +84,8 @@ TapeDeckView::TapeDeckView(const DeckNames& names, std::function<bool(const std:
     fetch_.setInterval(0);
     connect(&fetch_, &QTimer::timeout, this, [this] {
         const std::size_t count = wanted_.size();
-        loader_.want(std::exchange(wanted_, {}), count, ThumbnailSize::normal);
+        const bool isFine = devicePixelRatioF() > 1.0;
+        loader_.want(std::exchange(wanted_, {}), count, isFine ? ThumbnailSize::large : ThumbnailSize::normal);
     });
     layOut(names);
     show();
