@@ -16,7 +16,8 @@ namespace {
 constexpr int kHalo = 4;                               // columns beyond an area that its windows look at
 constexpr double kCoreReach = 20.0, kCoreNear = 10.0;  // looked at around a pixel; left between it and lower ones
 constexpr double kFirstReach = 3.0, kDepthReach = 60.0, kRoughReach = 10.0, kPartCell = 8.0, kGapCell = 4.0;
-constexpr float kCoreAlpha = 0.65f, kSureAlpha = 0.92f;
+constexpr float kCoreAlpha = 0.65f, kWholeAlpha = 0.8f, kSureAlpha = 0.92f;
+constexpr float kWholeShare = 0.95f;  // of an inside that is whole
 constexpr float kDepthAlpha = 0.08f, kDepthLight = 1.2f;
 constexpr float kOtherCover = 0.16f, kClothCover = 0.4f;  // least alphas: no shade of the screen; cloth for sure
 constexpr std::uint8_t kNoKey = 12;                       // the key's alpha up to 0.05
@@ -27,10 +28,11 @@ constexpr double kLeastPart = 0.005;  // of all cells
 constexpr float kCellWithoutGap = 0.98f;
 constexpr double kWholeOfCloth = 0.65, kWholeOfCalm = 0.92;
 constexpr float kWholeCell = 0.999f;
+constexpr std::uint8_t kCalmPart = 1, kRoughPart = 2;
 
-// Where the simple alpha is high, and where it is surely whole.
+// Where the simple alpha is high, where it may well be whole, and where it surely is.
 struct Look {
-    Mask high, sure;
+    Mask high, whole, sure;
 };
 
 void lookAt(const RunContext& context, const Shot& shot, const Plate& plate, const Area& area, Look& look) {
@@ -49,6 +51,8 @@ void lookAt(const RunContext& context, const Shot& shot, const Plate& plate, con
         sumLoops().boxSums(alphas.around(y, 0, 1), 1, strip.width, scratch.row(0), scratch.row(1));
         rowLoops().above(scratch.row(1), kCoreAlpha * 9.0f, strip.width, flags.data());
         look.high.pack(y, area.left, area.width(), own);
+        rowLoops().above(scratch.row(1), kWholeAlpha * 9.0f, strip.width, flags.data());
+        look.whole.pack(y, area.left, area.width(), own);
         rowLoops().above(alphas.at(y, 0), kSureAlpha, strip.width, flags.data());
         look.sure.pack(y, area.left, area.width(), own);
     }
@@ -133,7 +137,12 @@ float middleOn(const Cells& values, const Cells& screen) {
 
 // Connected parts that are surely cloth, or mostly as calm as cloth, and without the many gaps of hair and veils. A
 // few folds make no part rough.
-Mask clothParts(const RunContext& context, const Shot& shot, const Cloth& cloth, const Mask& screen) {
+// Parts that are cloth, and those of them that are as rough as dense hair, in whose gaps there may be screen.
+struct ClothParts {
+    Mask all, rough;
+};
+
+ClothParts clothParts(const RunContext& context, const Shot& shot, const Cloth& cloth, const Mask& screen) {
     const int size = shot.cell(kPartCell);
     const Cells shares = sharesOf(context, cloth.likely, size), sure = sharesOf(context, cloth.sure, size),
                 smooth = blurred(context, roughness(context, shot, size),
@@ -157,13 +166,18 @@ Mask clothParts(const RunContext& context, const Shot& shot, const Cloth& cloth,
     for (std::size_t part = 1; part < kept.size(); ++part) {
         const auto cells = static_cast<double>(roughs[part].size());
         const bool sureCloth = middleOf(covers[part]) > 0.5f;
-        kept[part] = cells > least && whole[part] > (sureCloth ? kWholeOfCloth : kWholeOfCalm) * cells &&
-                     (sureCloth || middleOf(roughs[part]) < most);
+        const bool calm = middleOf(roughs[part]) < most;
+        const bool isCloth =
+            cells > least && whole[part] > (sureCloth ? kWholeOfCloth : kWholeOfCalm) * cells && (sureCloth || calm);
+        kept[part] = !isCloth ? 0 : calm ? kCalmPart : kRoughPart;
     }
-    return maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
-        return kept[static_cast<std::size_t>(parts.labels[static_cast<std::size_t>(row * shares.columns() + c)])] !=
-               0;
-    });
+    const auto partsOf = [&](int least) {
+        return maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
+            return kept[static_cast<std::size_t>(
+                       parts.labels[static_cast<std::size_t>(row * shares.columns() + c)])] >= least;
+        });
+    };
+    return {partsOf(kCalmPart), partsOf(kRoughPart)};
 }
 
 // The pixels of an area whose surroundings have nearly the plate's colour.
@@ -233,30 +247,56 @@ Mask keyedOf(const RunContext& context, const Shot& shot, const Mask& wanted) {
 }
 
 // Parts far from any bare screen that are no screen by their colour.
-Mask deepCloth(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& keyed) {
+ClothParts deepCloth(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& keyed) {
     Cloth cloth{keyed, Mask(shot.width, shot.height)};
     runAreas(context, keyed, [&](const Area& area) { findCloth(context, shot, plate, area, cloth); });
     // A part that counts has more than half of its cells' pixels.
     const double pixels = static_cast<double>(shot.width) * shot.height;
-    if (static_cast<double>(cloth.likely.count()) < 0.4 * kLeastPart * pixels) return Mask(shot.width, shot.height);
+    if (static_cast<double>(cloth.likely.count()) < 0.4 * kLeastPart * pixels)
+        return {Mask(shot.width, shot.height), Mask(shot.width, shot.height)};
     return clothParts(context, shot, cloth, plate.screen);
+}
+
+// Where the inside is not whole by the simple alpha: cloth near the screen's hue, or that its light falls on.
+Mask paleInside(const RunContext& context, const Shot& shot, const Mask& inside, const Mask& whole) {
+    Mask both = inside;
+    both &= whole;
+    const int size = shot.cell(kPartCell);
+    const Cells all = sharesOf(context, inside, size), some = sharesOf(context, both, size);
+    Cells cells(all.columns(), all.rows(), 2);
+    std::copy_n(some.row(0, 0), some.count(), cells.row(0, 0));
+    std::copy_n(all.row(0, 0), all.count(), cells.row(0, 1));
+    const Cells share = pushPull(context, cells);
+    return maskOf(context, shot.width, shot.height, size,
+                  [&](int c, int row) { return share.row(row, 0)[c] < kWholeShare; });
 }
 
 }  // namespace
 
 Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     const Mask open = plate.screen.inverted();
-    Look look{Mask(shot.width, shot.height), Mask(shot.width, shot.height)};
+    Look look{Mask(shot.width, shot.height), Mask(shot.width, shot.height), Mask(shot.width, shot.height)};
     runAreas(context, open, [&](const Area& area) { lookAt(context, shot, plate, area, look); });
     look.high &= open;  // a screen that has become another
     const int reach = shot.px(kCoreReach);
+    const int near = std::max(1, reach - shot.px(kCoreNear));
+    Mask inside = shrunk(context, look.high, reach);
+    // Soft hair before an inside that is whole is no inside.
+    look.whole |= paleInside(context, shot, inside, look.whole);
+    look.high &= look.whole;
     Core core{shrunk(context, look.high, reach), shrunk(context, look.sure, shot.px(kFirstReach)), {}, {}};
     core.deep = shrunk(context, open, shot.px(kDepthReach));
     core.deep &= core.solid.inverted();
     core.keyed = keyedOf(context, shot, core.deep);
-    core.solid |= deepCloth(context, shot, plate, core.keyed);
-    core.solid = grown(context, core.solid, std::max(1, reach - shot.px(kCoreNear)));
-    core.solid |= enclosedGaps(context, shot, plate, core.solid);
+    const ClothParts cloth = deepCloth(context, shot, plate, core.keyed);
+    Mask gaps = core.keyed.inverted();
+    gaps &= cloth.rough;
+    gaps &= core.solid.inverted();
+    core.solid |= cloth.all;
+    core.solid = grown(context, core.solid, near);
+    inside |= cloth.all;
+    core.solid |= enclosedGaps(context, shot, plate, grown(context, inside, near));
+    core.solid &= grown(context, gaps, reach).inverted();
     core.sure |= core.solid;
     return core;
 }

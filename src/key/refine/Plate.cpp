@@ -161,16 +161,20 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot) {
     return plate;
 }
 
-void paintPlate(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate) {
+Cells colorsOn(const RunContext& context, const Shot& shot, const Mask& mask) {
     Cells cells = Cells::over(shot.width, shot.height, kPlateCell, 4);
+    runRows(context, cells.rows(), 8, [&](int row) { sumCells(shot, mask, row, cells); });
+    return cells;
+}
+
+void paintPlate(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate) {
     Mask telling;
     if (frame.width() > 0) {
         telling = frame.inverted();
         telling &= plate.screen;
     }
     const Mask& painted = telling.width() > 0 ? telling : plate.screen;
-    runRows(context, cells.rows(), 8, [&](int row) { sumCells(shot, painted, row, cells); });
-    plate.colors = pushPull(context, cells);
+    plate.colors = pushPull(context, colorsOn(context, shot, painted));
     plate.spread = measureSpread(context, shot, plate, painted);
 }
 

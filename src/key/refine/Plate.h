@@ -31,6 +31,9 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot);
 /// in cloth near its hue.
 void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen);
 
+/// Colours of a mask's pixels in roles times their share, and the share, on cells of `kPlateCell`.
+Cells colorsOn(const RunContext& context, const Shot& shot, const Mask& mask);
+
 /// Makes the colours from the screen's pixels, and measures `spread` anew.
 /// @param frame what tells nothing of the screen though it is part of it; may be empty
 void paintPlate(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate);

@@ -5,6 +5,7 @@
 
 #include "core/raster/Pixels.h"
 #include "key/refine/Frame.h"
+#include "key/refine/Haze.h"
 #include "key/refine/Marks.h"
 #include "key/refine/OwnColor.h"
 
@@ -94,30 +95,35 @@ bool Steps::findSubject(const RunContext& context, const Shot& shot, bool& still
     if (still) return true;
     core_ = findCore(context, shot, plate_);
     if (context.isSuperseded() || core_.sure.count() < kFewestSure) return false;
-    open_ = openPixels(context, plate_.screen, core_.solid);
-    marks_ = findMarks(context, shot, plate_, core_, open_);
+    clean_.screen = plate_.screen;
+    clean_.screen &= hazyScreen(context, shot, plate_, core_).inverted();
+    clean_.difference = plate_.difference;
+    paintPlate(context, shot, frame_, clean_);
+    if (context.isSuperseded()) return false;
+    open_ = openPixels(context, clean_.screen, core_.solid);
+    marks_ = findMarks(context, shot, clean_, core_, open_);
     if (frame_.width() > 0) marks_ |= frame_;
     open_ &= marks_.inverted();
-    first_ = separate(context, shot, plate_, core_.sure, open_);
+    first_ = separate(context, shot, clean_, core_.sure, open_);
     return true;
 }
 
 bool Steps::findAlpha(const RunContext& context, const Shot& shot, bool& still) {
     Mask clear = clearParts(context, shot);
     clear &= core_.solid.inverted();
-    clear |= plate_.screen;
+    clear |= clean_.screen;
     if (!still || clear != clear_) {
         clear_ = std::move(clear);
         nearer_ = nearerSide(context, core_.solid, clear_);
     }
-    Mask sure = surePixels(context, {shot, plate_, first_, nearer_}, core_.solid, open_);
+    Mask sure = surePixels(context, {shot, clean_, first_, nearer_}, core_.solid, open_);
     if (context.isSuperseded()) return false;
     if (!keeps_) first_ = {};
     if (!still || sure != sure_) {
         sure_ = std::move(sure);
-        separation_ = separate(context, shot, plate_, sure_, open_);
+        separation_ = separate(context, shot, clean_, sure_, open_);
     }
-    alpha_ = fitAlpha(context, {shot, plate_, separation_, nearer_}, core_.solid, open_);
+    alpha_ = fitAlpha(context, {shot, clean_, separation_, nearer_}, core_.solid, open_);
     if (context.isSuperseded()) return false;
     missingDetail_ = missingDetail(context, shot, alpha_, open_);
     return true;
@@ -132,7 +138,7 @@ Refined Steps::run(const RunContext& context, const Shot& shot, const RefineTast
 
 Refined Steps::runWith(const RunContext& context, const Shot& shot, const RefineTaste& taste, std::uint8_t* result) {
     known_ = false;
-    const Findings findings{shot, plate_, separation_, core_.solid, open_, marks_, alpha_, taste, missingDetail_};
+    const Findings findings{shot, clean_, separation_, core_.solid, open_, marks_, alpha_, taste, missingDetail_};
     known_ = writeResult(context, findings, result);
     return known_ ? Refined::done : Refined::superseded;
 }

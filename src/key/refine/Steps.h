@@ -29,8 +29,8 @@ class Steps {
 
     const bool keeps_;
     bool known_ = false;
-    Plate seeds_, plate_;  // by the key's screen alone, and mended
-    PlateLook look_;       // of the first one
+    Plate seeds_, plate_, clean_;  // by the key's screen alone, mended, and without haze
+    PlateLook look_;               // of the first one
     Core core_;
     Mask frame_;  // beside a source that does not fill the picture
     Mask marks_, clear_, open_, sure_;
