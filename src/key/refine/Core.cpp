@@ -281,6 +281,7 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     const int reach = shot.px(kCoreReach);
     const int near = std::max(1, reach - shot.px(kCoreNear));
     Mask inside = shrunk(context, look.high, reach);
+    if (context.isSuperseded()) return {};
     // Soft hair before an inside that is whole is no inside.
     look.whole |= paleInside(context, shot, inside, look.whole);
     look.high &= look.whole;

@@ -63,6 +63,7 @@ Mask hazyScreen(const RunContext& context, const Shot& shot, const Plate& plate,
     const Mask far = shrunk(context, plate.screen, shot.px(kFarReach));
     if (static_cast<double>(far.count()) < kLeastFar * shot.width * shot.height) return Mask(shot.width, shot.height);
     const Cells screen = colorsOn(context, shot, plate.screen), bare = colorsOn(context, shot, far);
+    if (context.isSuperseded()) return Mask(shot.width, shot.height);
     const Cells colors = pushPull(context, bare), subject = pushPull(context, colorsOn(context, shot, core.sure));
     const float least = kLeastTint + kTintSpreads * plate.spread;
     Mask hazy = maskOf(context, shot.width, shot.height, kPlateCell, [&](int c, int row) {

@@ -98,6 +98,7 @@ bool Steps::findSubject(const RunContext& context, const Shot& shot, bool& still
     clean_.screen = plate_.screen;
     clean_.screen &= hazyScreen(context, shot, plate_, core_).inverted();
     clean_.difference = plate_.difference;
+    if (context.isSuperseded()) return false;
     paintPlate(context, shot, frame_, clean_);
     if (context.isSuperseded()) return false;
     open_ = openPixels(context, clean_.screen, core_.solid);
