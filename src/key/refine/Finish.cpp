@@ -11,10 +11,20 @@ namespace tavrin::refine {
 namespace {
 
 constexpr float kNoiseFactor = 1.5f, kLeastNoise = 0.012f, kMostNoise = 0.1f;  // of alpha on the screen
-constexpr double kReachShare = 0.22, kReachCell = 8.0;                         // of the width
+// The noise beside the subject that the levels leave nothing of, beside that of the screen; and how far above its
+// deviation a line's mean is more than noise.
+constexpr float kUsualNearNoise = 0.017f, kScreenNoise = 1.35f, kLineFactor = 4.0f;
+constexpr double kReachShare = 0.22, kReachCell = 8.0;  // of the width
 constexpr float kHeed = 0.36f;  // of what the key has more, where a mixture explains the pixel
 constexpr float kSharpness = 0.6f;
 constexpr float kHardest = 4.0f;  // how much steeper the hardest edge is
+
+// What a line's mean has to be above beside the subject; 0 where the other steps are enough.
+float lineNoise(float nearNoise, float spread) {
+    const float usual = std::max(kUsualNearNoise, kScreenNoise * spread);
+    const float more = nearNoise * nearNoise - usual * usual;
+    return more > 0.0f ? kLineFactor * std::sqrt(more) : 0.0f;
+}
 
 // Luma of colours in roles, plane by plane.
 Cells lumaOf(const RunContext& context, const Cells& colors, bool blue) {
@@ -78,6 +88,7 @@ FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Trust
     : findings_(findings),
       strip_(strip),
       noise_(std::clamp(kNoiseFactor * findings.plate.spread, kLeastNoise, kMostNoise)),
+      lineNoise_(lineNoise(findings.nearNoise, findings.plate.spread)),
       alphas_(strip.width, findings.shot.height, 2,
               [this](int y, float** planes) { loadAlpha(findings_.alpha, strip_, y, planes[0]); }),
       keys_(strip.width, findings.shot.height, 2,
@@ -106,6 +117,7 @@ void FinishRows::fill(int y, float* alpha) {
     }
     fillMeans(y, mean);
     finishLoops().quieten(mean, noise_, width, alpha);
+    if (lineNoise_ > 0.0f) finishLoops().keepLines(alphas_.around(y, 0, 2), lineNoise_, width, alpha);
     heedKey(y, mean, kHeed, alpha);
     holdBack(y, alpha);
     shape(mean, alpha);

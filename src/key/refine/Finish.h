@@ -19,6 +19,7 @@ struct Findings {
     const AlphaPlane& alpha;
     RefineTaste taste;
     float missingDetail = 0.0f;
+    float nearNoise = 0.0f;  ///< of alpha on bare screen beside the subject
 };
 
 /// Where the subject is not far: 1 there, 0 far away, on cells of `size` pixels. Elsewhere creases, marks and lines
@@ -61,7 +62,7 @@ class FinishRows {
 
     const Findings& findings_;
     Strip strip_;
-    float noise_;
+    float noise_, lineNoise_;
     std::optional<DetailRows> detail_;  // where alpha lacks any
     RowRing<1, Maker> alphas_, keys_;
     CellRows near_, trust_, subject_, screen_;

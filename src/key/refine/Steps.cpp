@@ -6,6 +6,7 @@
 #include "core/raster/Pixels.h"
 #include "key/refine/Frame.h"
 #include "key/refine/Marks.h"
+#include "key/refine/NearNoise.h"
 #include "key/refine/OwnColor.h"
 
 namespace tavrin::refine {
@@ -120,6 +121,7 @@ bool Steps::findAlpha(const RunContext& context, const Shot& shot, bool& still) 
     alpha_ = fitAlpha(context, {shot, plate_, separation_, nearer_}, core_.solid, open_);
     if (context.isSuperseded()) return false;
     missingDetail_ = missingDetail(context, shot, alpha_, open_);
+    nearNoise_ = noiseBesideSubject(context, shot, plate_, separation_, open_);
     return true;
 }
 
@@ -132,7 +134,8 @@ Refined Steps::run(const RunContext& context, const Shot& shot, const RefineTast
 
 Refined Steps::runWith(const RunContext& context, const Shot& shot, const RefineTaste& taste, std::uint8_t* result) {
     known_ = false;
-    const Findings findings{shot, plate_, separation_, core_.solid, open_, marks_, alpha_, taste, missingDetail_};
+    const Findings findings{shot,   plate_, separation_, core_.solid,    open_,
+                            marks_, alpha_, taste,       missingDetail_, nearNoise_};
     known_ = writeResult(context, findings, result);
     return known_ ? Refined::done : Refined::superseded;
 }
