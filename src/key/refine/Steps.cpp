@@ -8,6 +8,7 @@
 #include "key/refine/Marks.h"
 #include "key/refine/NearNoise.h"
 #include "key/refine/OwnColor.h"
+#include "key/refine/Specks.h"
 
 namespace tavrin::refine {
 
@@ -24,7 +25,7 @@ struct Limits {
 };
 
 void writeArea(const RunContext& context, const Findings& findings, const Limits& limits, const Area& area,
-               std::uint8_t* result) {
+               Traces& traces, std::uint8_t* result) {
     const Shot& shot = findings.shot;
     const Strip wide = area.strip(shot, kColorHalo + FinishRows::halo(findings)),
                 strip = area.strip(shot, kColorHalo);
@@ -37,6 +38,7 @@ void writeArea(const RunContext& context, const Findings& findings, const Limits
         colors.fill(y, alpha.data() + (strip.left - wide.left), pixels.data());
         std::memcpy(result + pixelOffset(shot.width, area.left, y), pixels.data() + (area.left - strip.left),
                     static_cast<std::size_t>(area.width()) * kPixelBytes);
+        traces.note(y, area.left, area.width(), pixels.data() + (area.left - strip.left));
     }
 }
 
@@ -53,8 +55,10 @@ bool writeResult(const RunContext& context, const Findings& findings, std::uint8
     clearRows(context, findings.shot, result);
     runAreas(context, findings.solid,
              [&](const Area& area) { writeSolid(findings.shot, findings.plate, limits.green, area, result); });
+    Traces traces(findings.solid);
     return runAreas(context, findings.open,
-                    [&](const Area& area) { writeArea(context, findings, limits, area, result); });
+                    [&](const Area& area) { writeArea(context, findings, limits, area, traces, result); }) &&
+           clearSpecks(context, findings.shot, traces, result);
 }
 
 // What is neither well inside nor well on the screen.
