@@ -56,9 +56,9 @@ void levels(const float* HWY_RESTRICT alpha, const float* HWY_RESTRICT detail, f
         to[x] = limited((alpha[x] + strength * detail[x] - kLow) / (kHigh - kLow));
 }
 
-void quieten(const float* HWY_RESTRICT means, float noise, int count, float* HWY_RESTRICT alpha) {
+void quieten(const float* HWY_RESTRICT means, const float* HWY_RESTRICT noise, int count, float* HWY_RESTRICT alpha) {
     for (int x = 0; x < count; ++x) {
-        const float low = alpha[x] * limited(means[x] / noise - 1.0f);
+        const float low = alpha[x] * limited(means[x] / noise[x] - 1.0f);
         alpha[x] = 1.0f - (1.0f - low) * limited((1.0f - means[x]) / kTopNoise - 1.0f);
     }
 }

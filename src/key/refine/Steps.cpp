@@ -20,6 +20,7 @@ constexpr int kMargin = 3;                 // of what is decided, so that small 
 // What the last pass goes by besides the findings.
 struct Limits {
     Reach reach;
+    Cells unrest;
     GreenLimits green;
     Trust trust;
 };
@@ -29,7 +30,7 @@ void writeArea(const RunContext& context, const Findings& findings, const Limits
     const Shot& shot = findings.shot;
     const Strip wide = area.strip(shot, kColorHalo + FinishRows::halo(findings)),
                 strip = area.strip(shot, kColorHalo);
-    FinishRows finish(findings, limits.reach, limits.trust, wide);
+    FinishRows finish(findings, limits.reach, limits.unrest, limits.trust, wide);
     ColorRows colors(findings, limits.green, finish, strip);
     std::vector<float> alpha(static_cast<std::size_t>(wide.width));
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(strip.width));
@@ -51,7 +52,8 @@ void clearRows(const RunContext& context, const Shot& shot, std::uint8_t* result
 }
 
 bool writeResult(const RunContext& context, const Findings& findings, std::uint8_t* result) {
-    const Limits limits{findReach(context, findings), findLimits(context, findings), trustInKey(context, findings)};
+    const Limits limits{findReach(context, findings), unrestOf(context, findings.plate),
+                        findLimits(context, findings), trustInKey(context, findings)};
     clearRows(context, findings.shot, result);
     runAreas(context, findings.solid,
              [&](const Area& area) { writeSolid(findings.shot, findings.plate, limits.green, area, result); });
