@@ -75,7 +75,7 @@ Cells unrestOf(const RunContext& context, const Plate& plate) {
     runRows(context, leads.rows(), 32, [&](int y) {
         const int before = std::max(y - 1, 0), after = std::min(y + 1, leads.rows() - 1);
         const float *const own = leads.row(y, 0), *const above = leads.row(before, 0),
-                    *const below = leads.row(after, 0);
+                           *const below = leads.row(after, 0);
         for (int x = 0; x < leads.columns(); ++x) {
             const float left = own[std::max(x - 1, 0)], right = own[std::min(x + 1, leads.columns() - 1)];
             const auto [least, most] = std::minmax({left, own[x], right, above[x], below[x]});
