@@ -6,6 +6,7 @@
 
 #include "key/KeyScene.h"
 #include "key/refine/RefineKey.h"
+#include "key/refine/Specks.h"
 
 namespace tavrin {
 namespace {
@@ -102,6 +103,50 @@ TEST(RefineNoise, NoiseBetweenHairsIsNoHair) {
     };
     EXPECT_LT(scene.mean(isBetween), 0.5);
     EXPECT_GT(scene.mean(isHair), 180.0);
+}
+
+// Islands as they are found by walking from pixel to pixel, corners too.
+TEST(RefineNoise, SmallFaintIslandsAreClearedAndNothingElse) {
+    constexpr int kColumns = 150, kRows = 90, kFew = 4;
+    for (const unsigned share : {5u, 15u, 30u}) {
+        std::mt19937 random(share);
+        std::vector<std::uint32_t> pixels(kColumns * kRows);
+        for (std::uint32_t& pixel : pixels) {
+            const bool any = random() % 100 < share, clear = random() % 12 == 0;
+            pixel = 0x00808080u | (any ? clear ? 200u : 30u : 0u) << 24;
+        }
+        refine::Shot shot;
+        shot.width = kColumns;
+        shot.height = kRows;
+        refine::Traces traces{refine::Mask(kColumns, kRows)};
+        for (int y = 0; y < kRows; ++y)
+            traces.note(y, 0, kColumns, pixels.data() + y * kColumns);
+        std::vector<std::uint32_t> wanted = pixels;
+        std::vector<bool> seen(pixels.size());
+        for (std::size_t first = 0; first < pixels.size(); ++first) {
+            std::vector<std::size_t> island;
+            const auto meet = [&](std::size_t at) {
+                if (pixels[at] >> 24 == 0 || seen[at]) return;
+                seen[at] = true;
+                island.push_back(at);
+            };
+            meet(first);
+            bool clear = false;
+            for (std::size_t i = 0; i < island.size(); ++i) {
+                const int x = static_cast<int>(island[i]) % kColumns, y = static_cast<int>(island[i]) / kColumns;
+                clear |= pixels[island[i]] >> 24 == 200;
+                for (int row = std::max(y - 1, 0); row <= std::min(y + 1, kRows - 1); ++row) {
+                    for (int column = std::max(x - 1, 0); column <= std::min(x + 1, kColumns - 1); ++column)
+                        meet(static_cast<std::size_t>(row * kColumns + column));
+                }
+            }
+            for (const std::size_t at : island)
+                wanted[at] = clear || island.size() > kFew ? pixels[at] : 0;
+        }
+        ASSERT_NE(wanted, pixels);
+        ASSERT_TRUE(refine::clearSpecks({}, shot, traces, reinterpret_cast<std::uint8_t*>(pixels.data())));
+        EXPECT_EQ(wanted, pixels) << share;
+    }
 }
 
 TEST(RefineNoise, LittleIsLeftOfTheLineWhereWallAndFloorMeet) {
