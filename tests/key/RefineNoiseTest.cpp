@@ -119,8 +119,9 @@ TEST(RefineNoise, SmallFaintIslandsAreClearedAndNothingElse) {
         shot.width = kColumns;
         shot.height = kRows;
         refine::Traces traces{refine::Mask(kColumns, kRows)};
+        std::vector<std::uint8_t> scratch(2 * (kColumns + 8));
         for (int y = 0; y < kRows; ++y)
-            traces.note(y, 0, kColumns, pixels.data() + y * kColumns);
+            traces.note(y, 0, kColumns, pixels.data() + y * kColumns, scratch.data());
         std::vector<std::uint32_t> wanted = pixels;
         std::vector<bool> seen(pixels.size());
         for (std::size_t first = 0; first < pixels.size(); ++first) {

@@ -15,7 +15,7 @@ constexpr int kReach = 2;                  // pixels of the mean around
 constexpr float kBareMean = 0.05f;         // of bare screen at most
 constexpr int kFewest = 200;               // pixels that tell it
 constexpr std::int64_t kSamples = 20'000;  // open pixels to look at
-constexpr int kLeastStep = 6;
+constexpr int kLeastStep = 4;
 
 struct Strays {
     double squares = 0.0;

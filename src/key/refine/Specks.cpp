@@ -100,11 +100,9 @@ class Islands {
 
 }  // namespace
 
-void Traces::note(int y, int left, int count, const std::uint32_t* pixels) {
-    const auto size = static_cast<std::size_t>(count);
-    std::vector<std::uint8_t> flags(2 * (size + 8));
-    std::uint8_t *const some = flags.data(), *const much = some + size + 8;
-    for (std::size_t x = 0; x < size; ++x) {
+void Traces::note(int y, int left, int count, const std::uint32_t* pixels, std::uint8_t* scratch) {
+    std::uint8_t *const some = scratch, *const much = scratch + count + 8;
+    for (int x = 0; x < count; ++x) {
         some[x] = pixels[x] >> 24 > kAny;
         much[x] = pixels[x] >> 24 > kClear;
     }

@@ -12,7 +12,8 @@ struct Traces {
     explicit Traces(const Mask& solid) : any(solid), clear(solid) {}
     /// Notes `count` RGBA pixels of row `y` from the column `left` on, a multiple of 8. Different rows may be noted
     /// at the same time.
-    void note(int y, int left, int count, const std::uint32_t* pixels);
+    /// @param scratch room for `2 * (count + 8)`
+    void note(int y, int left, int count, const std::uint32_t* pixels, std::uint8_t* scratch);
 };
 
 /// Clears the faint islands of a few pixels, which are noise: a hair is longer, and what is a thing has something

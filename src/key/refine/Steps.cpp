@@ -34,12 +34,13 @@ void writeArea(const RunContext& context, const Findings& findings, const Limits
     ColorRows colors(findings, limits.green, finish, strip);
     std::vector<float> alpha(static_cast<std::size_t>(wide.width));
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(strip.width));
+    std::vector<std::uint8_t> scratch(2 * (static_cast<std::size_t>(area.width()) + 8));
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         finish.fill(y, alpha.data());
         colors.fill(y, alpha.data() + (strip.left - wide.left), pixels.data());
         std::memcpy(result + pixelOffset(shot.width, area.left, y), pixels.data() + (area.left - strip.left),
                     static_cast<std::size_t>(area.width()) * kPixelBytes);
-        traces.note(y, area.left, area.width(), pixels.data() + (area.left - strip.left));
+        traces.note(y, area.left, area.width(), pixels.data() + (area.left - strip.left), scratch.data());
     }
 }
 
