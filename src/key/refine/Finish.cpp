@@ -11,10 +11,23 @@ namespace tavrin::refine {
 namespace {
 
 constexpr float kNoiseFactor = 1.5f, kLeastNoise = 0.012f, kMostNoise = 0.1f;  // of alpha on the screen
-constexpr double kReachShare = 0.22, kReachCell = 8.0;                         // of the width
+// The noise beside the subject that the levels leave nothing of, beside that of the screen; and how far above its
+// deviation a line's mean is more than noise.
+constexpr float kUsualNearNoise = 0.017f, kScreenNoise = 1.35f, kLineFactor = 4.0f;
+// A step of the plate from cell to cell, of the screen's usual lead, that tells nothing; and how much of what is more
+// alpha may have by it.
+constexpr float kUsualStep = 0.03f, kStepShare = 0.3f;
+constexpr double kReachShare = 0.22, kReachCell = 8.0;  // of the width
 constexpr float kHeed = 0.36f;  // of what the key has more, where a mixture explains the pixel
 constexpr float kSharpness = 0.6f;
 constexpr float kHardest = 4.0f;  // how much steeper the hardest edge is
+
+// What a line's mean has to be above beside the subject; 0 where the other steps are enough.
+float lineNoise(float nearNoise, float spread) {
+    const float usual = std::max(kUsualNearNoise, kScreenNoise * spread);
+    const float more = nearNoise * nearNoise - usual * usual;
+    return more > 0.0f ? kLineFactor * std::sqrt(more) : 0.0f;
+}
 
 // Luma of colours in roles, plane by plane.
 Cells lumaOf(const RunContext& context, const Cells& colors, bool blue) {
@@ -51,6 +64,27 @@ Reach findReach(const RunContext& context, const Findings& findings) {
     return reach;
 }
 
+Cells unrestOf(const RunContext& context, const Plate& plate) {
+    const Cells& colors = plate.colors;
+    Cells leads(colors.columns(), colors.rows(), 1), unrest = leads;
+    runRows(context, leads.rows(), 32, [&](int y) {
+        const float *const r = colors.row(y, 0), *const g = colors.row(y, 1), *const b = colors.row(y, 2);
+        for (int x = 0; x < leads.columns(); ++x)
+            leads.row(y, 0)[x] = g[x] - std::max(r[x], b[x]);
+    });
+    runRows(context, leads.rows(), 32, [&](int y) {
+        const int before = std::max(y - 1, 0), after = std::min(y + 1, leads.rows() - 1);
+        const float *const own = leads.row(y, 0), *const above = leads.row(before, 0),
+                           *const below = leads.row(after, 0);
+        for (int x = 0; x < leads.columns(); ++x) {
+            const float left = own[std::max(x - 1, 0)], right = own[std::min(x + 1, leads.columns() - 1)];
+            const auto [least, most] = std::minmax({left, own[x], right, above[x], below[x]});
+            unrest.row(y, 0)[x] = kStepShare * std::max((most - least) / plate.difference - kUsualStep, 0.0f);
+        }
+    });
+    return unrest;
+}
+
 Trust trustInKey(const RunContext& context, const Findings& findings) {
     const Cells& subject = findings.separation.subject;
     const bool blue = findings.shot.blue;
@@ -74,10 +108,12 @@ void plainAlpha(const Findings& findings, const Strip& strip, int y, float* scra
     finishLoops().raise(scratch, strip.width, alpha);
 }
 
-FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Trust& trust, const Strip& strip)
+FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Cells& unrest, const Trust& trust,
+                       const Strip& strip)
     : findings_(findings),
       strip_(strip),
       noise_(std::clamp(kNoiseFactor * findings.plate.spread, kLeastNoise, kMostNoise)),
+      lineNoise_(lineNoise(findings.nearNoise, findings.plate.spread)),
       alphas_(strip.width, findings.shot.height, 2,
               [this](int y, float** planes) { loadAlpha(findings_.alpha, strip_, y, planes[0]); }),
       keys_(strip.width, findings.shot.height, 2,
@@ -87,6 +123,7 @@ FinishRows::FinishRows(const Findings& findings, const Reach& reach, const Trust
                     planes[0][x] = static_cast<float>(static_cast<int>(key[x])) / 255.0f;
             }),
       near_(reach.near, reach.size, strip.left, strip.width),
+      unrest_(unrest, kPlateCell, strip.left, strip.width),
       trust_(trust.key, findings.separation.size, strip.left, strip.width),
       subject_(trust.subject, findings.separation.size, strip.left, strip.width),
       screen_(trust.screen, kPlateCell, strip.left, strip.width),
@@ -105,7 +142,8 @@ void FinishRows::fill(int y, float* alpha) {
         finishLoops().levels(alphas_.at(y, 0), alphas_.at(y, 0), 0.0f, width, alpha);
     }
     fillMeans(y, mean);
-    finishLoops().quieten(mean, noise_, width, alpha);
+    quieten(y, mean, alpha);
+    if (lineNoise_ > 0.0f) finishLoops().keepLines(alphas_.around(y, 0, 2), lineNoise_, width, alpha);
     heedKey(y, mean, kHeed, alpha);
     holdBack(y, alpha);
     shape(mean, alpha);
@@ -140,6 +178,15 @@ void FinishRows::heedKey(int y, const float* means, float usual, float* alpha) {
     finishLoops().heedKey({findings_.shot.keyRow(y) + strip_.left, means, trust, alphas_.at(y, 0), luma, screen,
                            subject, 1.0f / findings_.plate.difference, usual},
                           strip_.width, alpha);
+}
+
+// Takes flat noise out, more of it where the plate itself is uneven.
+void FinishRows::quieten(int y, const float* means, float* alpha) {
+    float* const noise = scratch_.row(1);
+    unrest_.fill(y, 0, noise);
+    for (int x = 0; x < strip_.width; ++x)
+        noise[x] = std::max(noise[x], noise_);
+    finishLoops().quieten(means, noise, strip_.width, alpha);
 }
 
 // Far from the subject the key's word counts.

@@ -19,6 +19,7 @@ struct Findings {
     const AlphaPlane& alpha;
     RefineTaste taste;
     float missingDetail = 0.0f;
+    float nearNoise = 0.0f;  ///< of alpha on bare screen beside the subject
 };
 
 /// Where the subject is not far: 1 there, 0 far away, on cells of `size` pixels. Elsewhere creases, marks and lines
@@ -28,6 +29,10 @@ struct Reach {
     int size = 1;
 };
 Reach findReach(const RunContext& context, const Findings& findings);
+
+/// How much alpha strays by the plate alone, which knows steps of light (folds, the line between wall and floor) as
+/// far as its cells do: as `quieten` has its noise, on the plate's cells.
+Cells unrestOf(const RunContext& context, const Plate& plate);
 
 /// How far the key's alpha is to be trusted where it has more than the fit: a rim that the screen has tinted, or that
 /// brought the light of an old backdrop along, is of no colour that the inside has, and the fit takes it for screen.
@@ -41,7 +46,8 @@ Trust trustInKey(const RunContext& context, const Findings& findings);
 /// The final alpha of a strip's rows. For one thread.
 class FinishRows {
   public:
-    FinishRows(const Findings& findings, const Reach& reach, const Trust& trust, const Strip& strip);
+    FinishRows(const Findings& findings, const Reach& reach, const Cells& unrest, const Trust& trust,
+               const Strip& strip);
 
     /// @param alpha 0 to 1
     void fill(int y, float* alpha);
@@ -56,15 +62,16 @@ class FinishRows {
 
     void fillMeans(int y, float* means);
     void heedKey(int y, const float* means, float usual, float* alpha);
+    void quieten(int y, const float* means, float* alpha);
     void holdBack(int y, float* alpha);
     void shape(const float* means, float* alpha) const;
 
     const Findings& findings_;
     Strip strip_;
-    float noise_;
+    float noise_, lineNoise_;
     std::optional<DetailRows> detail_;  // where alpha lacks any
     RowRing<1, Maker> alphas_, keys_;
-    CellRows near_, trust_, subject_, screen_;
+    CellRows near_, unrest_, trust_, subject_, screen_;
     PaddedRows scratch_;
 };
 

@@ -56,10 +56,22 @@ void levels(const float* HWY_RESTRICT alpha, const float* HWY_RESTRICT detail, f
         to[x] = limited((alpha[x] + strength * detail[x] - kLow) / (kHigh - kLow));
 }
 
-void quieten(const float* HWY_RESTRICT means, float noise, int count, float* HWY_RESTRICT alpha) {
+void quieten(const float* HWY_RESTRICT means, const float* HWY_RESTRICT noise, int count, float* HWY_RESTRICT alpha) {
     for (int x = 0; x < count; ++x) {
-        const float low = alpha[x] * limited(means[x] / noise - 1.0f);
+        const float low = alpha[x] * limited(means[x] / noise[x] - 1.0f);
         alpha[x] = 1.0f - (1.0f - low) * limited((1.0f - means[x]) / kTopNoise - 1.0f);
+    }
+}
+
+void keepLines(const float* const* rows, float noise, int count, float* HWY_RESTRICT alpha) {
+    const float *const a = rows[0], *const b = rows[1], *const c = rows[2], *const d = rows[3], *const e = rows[4];
+    const float share = 1.0f / (5.0f * noise);
+    for (int x = 0; x < count; ++x) {
+        const float level = ((c[x - 2] + c[x - 1]) + (c[x + 1] + c[x + 2])) + c[x];
+        const float upright = ((a[x] + b[x]) + (d[x] + e[x])) + c[x];
+        const float falling = ((a[x - 2] + b[x - 1]) + (d[x + 1] + e[x + 2])) + c[x];
+        const float rising = ((a[x + 2] + b[x + 1]) + (d[x - 1] + e[x - 2])) + c[x];
+        alpha[x] *= limited(std::max(std::max(level, upright), std::max(falling, rising)) * share - 1.0f);
     }
 }
 
@@ -154,8 +166,8 @@ void solid(const std::uint32_t* HWY_RESTRICT pixels, ChannelRow screen, const fl
 }  // namespace
 
 const refine::FinishLoops& finishLoopsHere() {
-    static constexpr refine::FinishLoops loops{&levels, &quieten,   &heedKey, &holdBack, &shape,
-                                               &raise,  &remainder, &colors,  &solid};
+    static constexpr refine::FinishLoops loops{&levels, &quieten, &keepLines, &heedKey, &holdBack,
+                                               &shape,  &raise,   &remainder, &colors,  &solid};
     return loops;
 }
 

@@ -37,8 +37,11 @@ struct KeySources {
 struct FinishLoops {
     /// alpha + strength detail, stretched so that faint and nearly whole become 0 and 1.
     void (*levels)(const float* alpha, const float* detail, float strength, int count, float* to);
-    /// Takes flat noise out near 0 and 1; `means` are of alpha around.
-    void (*quieten)(const float* means, float noise, int count, float* alpha);
+    /// Takes flat noise out near 0 and 1; `means` are of alpha around, `noise` is what is flat near 0.
+    void (*quieten)(const float* means, const float* noise, int count, float* alpha);
+    /// Takes out what is in no line: no straight one of five pixels through it, whose five rows of alpha are given,
+    /// has a mean above the noise.
+    void (*keepLines)(const float* const* rows, float noise, int count, float* alpha);
     /// Where the key has more than alpha, on what is no bare screen by the means of alpha around: the usual share of
     /// the way to it, as far as it is to be trusted, and most of the way where no mixture has the pixel's luma.
     void (*heedKey)(const KeySources& from, int count, float* alpha);

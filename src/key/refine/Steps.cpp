@@ -7,7 +7,9 @@
 #include "key/refine/Frame.h"
 #include "key/refine/Haze.h"
 #include "key/refine/Marks.h"
+#include "key/refine/NearNoise.h"
 #include "key/refine/OwnColor.h"
+#include "key/refine/Specks.h"
 
 namespace tavrin::refine {
 
@@ -19,24 +21,27 @@ constexpr int kMargin = 3;                 // of what is decided, so that small 
 // What the last pass goes by besides the findings.
 struct Limits {
     Reach reach;
+    Cells unrest;
     GreenLimits green;
     Trust trust;
 };
 
 void writeArea(const RunContext& context, const Findings& findings, const Limits& limits, const Area& area,
-               std::uint8_t* result) {
+               Traces& traces, std::uint8_t* result) {
     const Shot& shot = findings.shot;
     const Strip wide = area.strip(shot, kColorHalo + FinishRows::halo(findings)),
                 strip = area.strip(shot, kColorHalo);
-    FinishRows finish(findings, limits.reach, limits.trust, wide);
+    FinishRows finish(findings, limits.reach, limits.unrest, limits.trust, wide);
     ColorRows colors(findings, limits.green, finish, strip);
     std::vector<float> alpha(static_cast<std::size_t>(wide.width));
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(strip.width));
+    std::vector<std::uint8_t> scratch(2 * (static_cast<std::size_t>(area.width()) + 8));
     for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
         finish.fill(y, alpha.data());
         colors.fill(y, alpha.data() + (strip.left - wide.left), pixels.data());
         std::memcpy(result + pixelOffset(shot.width, area.left, y), pixels.data() + (area.left - strip.left),
                     static_cast<std::size_t>(area.width()) * kPixelBytes);
+        traces.note(y, area.left, area.width(), pixels.data() + (area.left - strip.left), scratch.data());
     }
 }
 
@@ -49,12 +54,15 @@ void clearRows(const RunContext& context, const Shot& shot, std::uint8_t* result
 }
 
 bool writeResult(const RunContext& context, const Findings& findings, std::uint8_t* result) {
-    const Limits limits{findReach(context, findings), findLimits(context, findings), trustInKey(context, findings)};
+    const Limits limits{findReach(context, findings), unrestOf(context, findings.plate),
+                        findLimits(context, findings), trustInKey(context, findings)};
     clearRows(context, findings.shot, result);
     runAreas(context, findings.solid,
              [&](const Area& area) { writeSolid(findings.shot, findings.plate, limits.green, area, result); });
+    Traces traces(findings.solid);
     return runAreas(context, findings.open,
-                    [&](const Area& area) { writeArea(context, findings, limits, area, result); });
+                    [&](const Area& area) { writeArea(context, findings, limits, area, traces, result); }) &&
+           clearSpecks(context, findings.shot, traces, result);
 }
 
 // What is neither well inside nor well on the screen.
@@ -127,6 +135,7 @@ bool Steps::findAlpha(const RunContext& context, const Shot& shot, bool& still) 
     alpha_ = fitAlpha(context, {shot, clean_, separation_, nearer_}, core_.solid, open_);
     if (context.isSuperseded()) return false;
     missingDetail_ = missingDetail(context, shot, alpha_, open_);
+    nearNoise_ = noiseBesideSubject(context, shot, clean_, separation_, open_);
     return true;
 }
 
@@ -139,7 +148,8 @@ Refined Steps::run(const RunContext& context, const Shot& shot, const RefineTast
 
 Refined Steps::runWith(const RunContext& context, const Shot& shot, const RefineTaste& taste, std::uint8_t* result) {
     known_ = false;
-    const Findings findings{shot, clean_, separation_, core_.solid, open_, marks_, alpha_, taste, missingDetail_};
+    const Findings findings{shot,   clean_, separation_, core_.solid,    open_,
+                            marks_, alpha_, taste,       missingDetail_, nearNoise_};
     known_ = writeResult(context, findings, result);
     return known_ ? Refined::done : Refined::superseded;
 }

@@ -37,7 +37,7 @@ class Steps {
     Cells nearer_;
     Separation first_, separation_;  // by the core's sure pixels, and by those of the first one
     AlphaPlane alpha_;
-    float missingDetail_ = 0.0f;
+    float missingDetail_ = 0.0f, nearNoise_ = 0.0f;
 };
 
 }  // namespace tavrin::refine
