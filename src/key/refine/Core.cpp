@@ -256,6 +256,7 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     core.keyed = keyedOf(context, shot, core.deep);
     core.solid |= deepCloth(context, shot, plate, core.keyed);
     core.solid = grown(context, core.solid, std::max(1, reach - shot.px(kCoreNear)));
+    if (plate.cloth.width() > 0) core.solid |= plate.cloth;
     core.solid |= enclosedGaps(context, shot, plate, core.solid);
     core.sure |= core.solid;
     return core;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "key/refine/Mask.h"
+#include "key/refine/Shot.h"
+
+namespace tavrin::refine {
+
+/// Cloth near the screen's hue, whatever the key made of it.
+struct Garments {
+    Mask solid;    ///< the inside of such cloth; empty (width 0) where there is none
+    Mask strange;  ///< what lies at it and is no screen by its hue
+};
+
+/// Large areas of a hue that the screen has in no light, and whose colours go from light to dark as those of a solid
+/// thing do, through black. Colours of hair, veils, smoke and glass go from more to less of the screen.
+/// @param difference the screen's usual colour difference
+/// @param screen what the key takes for screen; a part of it may be such cloth
+Garments findGarments(const RunContext& context, const Shot& shot, float difference, const Mask& screen);
+
+}  // namespace tavrin::refine
