@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "key/refine/Areas.h"
+#include "key/refine/Garments.h"
 #include "key/refine/Parts.h"
 #include "key/refine/RowRing.h"
 #include "key/refine/ScreenRatio.h"
@@ -256,7 +257,10 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     core.keyed = keyedOf(context, shot, core.deep);
     core.solid |= deepCloth(context, shot, plate, core.keyed);
     core.solid = grown(context, core.solid, std::max(1, reach - shot.px(kCoreNear)));
-    if (plate.cloth.width() > 0) core.solid |= plate.cloth;
+    if (plate.cloth.width() > 0) {
+        core.solid |= plate.cloth;
+        core.solid |= findSeams(context, shot, plate, core.solid);
+    }
     core.solid |= enclosedGaps(context, shot, plate, core.solid);
     core.sure |= core.solid;
     return core;

@@ -16,8 +16,9 @@ namespace tavrin::refine {
 namespace {
 
 constexpr int kHalo = 4;  // columns beyond an area that its windows look at
-constexpr double kCell = 8.0;
+constexpr double kCell = 8.0, kSeamReach = 6.0;
 constexpr float kStrange = 6.0f, kStrangeShare = 0.12f;   // levels, and of the screen's difference
+constexpr float kLeastLight = 0.4f;                       // of the plate's, in a shade of it
 constexpr float kMostAlpha = 0.9f;                        // the simple alpha: more has no need of this
 constexpr float kWholeCell = 0.97f;                       // share of a cell's pixels that are strange
 constexpr double kWindow = 5.0;                           // cells
@@ -27,9 +28,17 @@ constexpr double kLeastPart = 0.002, kLeastSamples = 0.001;
 constexpr float kKeyed = 0.9f;       // the key's own alpha: nothing is to be mended
 constexpr float kTakenAway = 0.02f;  // share of a part that is the key's screen
 constexpr float kOtherHue = 0.35f;   // of the screen's difference, for such a part
-constexpr float kOfHaze = 0.5f;      // other hue to haze
+struct HueLimits {
+    float most, share;  // squared sines
+};
+constexpr HueLimits kCellHue{0.015f, 0.15f}, kPixelHue{0.03f, 0.25f};
+constexpr float kOfHaze = 0.5f;     // other hue to haze
 
 using Color = std::array<float, 3>;
+
+float leastStrangeness(float difference) {
+    return std::max(kStrange, kStrangeShare * difference);
+}
 
 float lengthOf(const Color& color) {
     return std::sqrt(color[0] * color[0] + color[1] * color[1] + color[2] * color[2]);
@@ -69,7 +78,7 @@ bool mayBeThere(const Shot& shot, float difference, const Mask& screen, int size
     if (count == 0 || sums[1] == 0) return false;
     const float ofRed = static_cast<float>(sums[0]) / static_cast<float>(sums[1]),
                 ofBlue = static_cast<float>(sums[2]) / static_cast<float>(sums[1]);
-    const float least = std::max(kStrange, kStrangeShare * difference), lead = (1.0f - kMostAlpha) * difference;
+    const float least = leastStrangeness(difference), lead = (1.0f - kMostAlpha) * difference;
     // How many cells in a row, up to this one, of this row and of those before it, may be: three by three count.
     std::vector<std::uint8_t> runs(static_cast<std::size_t>(columns));
     std::int64_t found = 0;
@@ -90,6 +99,40 @@ bool mayBeThere(const Shot& shot, float difference, const Mask& screen, int size
     return static_cast<double>(found) > kLeastSamples * columns * rows;
 }
 
+// Whether a colour has the hue of a dye rather than that of the screen: the angle to it is a small part of the
+// screen's.
+bool hasHue(const Color& own, const Color& dye, const Color& behind, const HueLimits& limits) {
+    const auto angle = [&](const Color& color) {
+        const float length = lengthOf(color);
+        return leftOver(color, dye) / std::max(length * length, 1.0f);
+    };
+    return angle(own) < std::min(limits.most, limits.share * angle(behind));
+}
+
+// What is no shade of a plate: the least strangeness, and light.
+struct Limits {
+    float strange, light;
+};
+
+// The pixels of `wanted`, and some others, that are no shade of a plate.
+Mask strangePixels(const RunContext& context, const Shot& shot, const Cells& plate, int size, const Limits& limits,
+                   const Mask& wanted) {
+    Mask strange(shot.width, shot.height);
+    runAreas(context, wanted, [&](const Area& area) {
+        const Strip strip = area.strip(shot, kHalo);
+        ScreenRatio ratio(strip, plate, size);
+        std::vector<float> light(static_cast<std::size_t>(strip.width)), off(light);
+        std::vector<std::uint8_t> flags(light.size() + 8);
+        for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
+            ratio.fill(y, light.data(), off.data());
+            for (std::size_t x = 0; x < off.size(); ++x)
+                flags[x] = (off[x] > limits.strange) | (light[x] < limits.light);
+            strange.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
+        }
+    });
+    return strange;
+}
+
 // Sorts the cells of a picture into parts of cloth.
 class Tailor {
   public:
@@ -98,7 +141,7 @@ class Tailor {
           shot_(shot),
           outer_(outer),
           difference_(difference),
-          least_(std::max(kStrange, kStrangeShare * difference)),
+          least_(leastStrangeness(difference)),
           columns_(outer.look.columns()),
           rows_(outer.look.rows()),
           strange_(outer.look.count()),
@@ -116,29 +159,36 @@ class Tailor {
 
     Garments cut() const {
         const Parts parts = findParts(columns_, rows_, shaded(), Neighbours::four);
-        const std::vector<std::uint8_t> kept = judge(parts);
-        if (std::count(kept.begin(), kept.end(), 0) == std::ssize(kept)) return {};
-        const auto isNear = [&](int c, int row, int reach) {
-            for (int y = std::max(row - reach, 0); y <= std::min(row + reach, rows_ - 1); ++y) {
-                for (int x = std::max(c - reach, 0); x <= std::min(c + reach, columns_ - 1); ++x) {
-                    if (kept[static_cast<std::size_t>(parts.labels[at(x, y)])] != 0) return true;
-                }
-            }
-            return false;
+        const std::vector<Part> found = measure(parts);
+        Mask kept(columns_, rows_);
+        std::vector<Color> dyes;
+        for (std::size_t i = 1; i < found.size(); ++i) {
+            if (isCloth(found[i])) dyes.push_back(found[i].color);
+        }
+        if (dyes.empty()) return {};
+        forCells([&](int c, int row) {
+            if (isCloth(found[static_cast<std::size_t>(parts.labels[at(c, row)])])) kept.set(row, c, c + 1);
+        });
+        kept = grown(context_, kept, 1);
+        kept |= pieces(dyes, kept);
+        const Mask near = grown(context_, kept, kNear);
+        const auto pixels = [&](const auto& isSet) {
+            return maskOf(context_, shot_.width, shot_.height, outer_.size, isSet);
         };
-        return {maskOf(context_, shot_.width, shot_.height, outer_.size,
-                       [&](int c, int row) { return isNear(c, row, 1); }),
-                maskOf(context_, shot_.width, shot_.height, outer_.size,
-                       [&](int c, int row) { return strange_[at(c, row)] != 0 && isNear(c, row, kNear); })};
+        const Mask solid = pixels([&](int c, int row) { return kept.at(c, row); });
+        return {shrunk(context_, solid, std::max(1, outer_.size / 2)),
+                dyedPixels(dyes, grown(context_, solid, outer_.size)),
+                pixels([&](int c, int row) { return strange_[at(c, row)] != 0 && near.at(c, row); })};
     }
 
   private:
-    static constexpr int kNear = 3;
+    static constexpr int kNear = 3, kPieceReach = 10;  // cells
 
     // Sums over a part.
     struct Part {
         double cells = 0.0, shade = 0.0, mix = 0.0, screen = 0.0, key = 0.0;
         double strange = 0.0, hue = 0.0, haze = 0.0;
+        Color color{};
         bool atSide = false;  // beside or above
     };
 
@@ -154,18 +204,7 @@ class Tailor {
     void keepWhole() {
         const Mask wanted = maskOf(context_, shot_.width, shot_.height, outer_.size,
                                    [&](int c, int row) { return whole_[at(c, row)] != 0; });
-        Mask strange(shot_.width, shot_.height);
-        runAreas(context_, wanted, [&](const Area& area) {
-            const Strip strip = area.strip(shot_, kHalo);
-            ScreenRatio ratio(strip, outer_.behind, outer_.size);
-            std::vector<float> light(static_cast<std::size_t>(strip.width)), off(light);
-            std::vector<std::uint8_t> flags(light.size() + 8);
-            for (int y = area.top; y < area.bottom && !context_.isSuperseded(); ++y) {
-                ratio.fill(y, light.data(), off.data());
-                rowLoops().above(off.data(), least_, strip.width, flags.data());
-                strange.pack(y, area.left, area.width(), flags.data() + (area.left - strip.left));
-            }
-        });
+        const Mask strange = strangePixels(context_, shot_, outer_.behind, outer_.size, {least_, 0.0f}, wanted);
         const Cells shares = sharesOf(context_, strange, outer_.size);
         for (std::size_t i = 0; i < whole_.size(); ++i)
             whole_[i] = whole_[i] != 0 && shares.row(0, 0)[i] > kWholeCell;
@@ -242,6 +281,8 @@ class Tailor {
         const auto number = [](float value) { return static_cast<double>(value); };
         const Color own = ownAt(i), behind = behindAt(i);
         part.cells += 1.0;
+        for (std::size_t k = 0; k < 3; ++k)
+            part.color[k] += own[k];
         part.shade += number(differences_.row(0, 0)[i]);
         part.mix += number(differences_.row(0, 1)[i]);
         part.screen += number(outer_.screen.row(0, 0)[i]);
@@ -265,19 +306,68 @@ class Tailor {
                (part.haze < 0.0 || std::abs(part.hue) > kOfHaze * part.haze);
     }
 
-    std::vector<std::uint8_t> judge(const Parts& parts) const {
+    std::vector<Part> measure(const Parts& parts) const {
         std::vector<Part> found(static_cast<std::size_t>(parts.count) + 1);
-        for (int row = 0; row < rows_; ++row) {
-            for (int c = 0; c < columns_; ++c) {
-                const int label = parts.labels[at(c, row)];
-                if (label != 0) add(c, row, found[static_cast<std::size_t>(label)]);
-            }
-        }
-        std::vector<std::uint8_t> kept;
-        for (const Part& part : found)
-            kept.push_back(isCloth(part));
+        forCells([&](int c, int row) {
+            const int label = parts.labels[at(c, row)];
+            if (label != 0) add(c, row, found[static_cast<std::size_t>(label)]);
+        });
+        return found;
+    }
+
+    // What else nearby has the same dye, however small, such as the other side of a strap: parts of whole cells that
+    // touch what is known, or are wide enough to have an inside.
+    Mask pieces(const std::vector<Color>& dyes, const Mask& known) const {
+        const Mask near = grown(context_, known, kPieceReach);
+        std::vector<std::uint8_t> set(whole_.size());
+        forCells([&](int c, int row) {
+            const std::size_t i = at(c, row);
+            if (whole_[i] == 0 || !near.at(c, row)) return;
+            set[i] = std::any_of(dyes.begin(), dyes.end(),
+                                 [&](const Color& dye) { return hasHue(ownAt(i), dye, behindAt(i), kCellHue); });
+        });
+        const Parts parts = findParts(columns_, rows_, set, Neighbours::four);
+        std::vector<std::uint8_t> kept(static_cast<std::size_t>(parts.count) + 1);
+        forCells([&](int c, int row) {
+            if (known.at(c, row) || isInner(c, row)) kept[static_cast<std::size_t>(parts.labels[at(c, row)])] = 1;
+        });
         kept[0] = 0;
-        return kept;
+        Mask cells(columns_, rows_);
+        forCells([&](int c, int row) {
+            if (kept[static_cast<std::size_t>(parts.labels[at(c, row)])] != 0) cells.set(row, c, c + 1);
+        });
+        return cells;
+    }
+
+    // Pixels of `wanted` of one of the dyes.
+    Mask dyedPixels(const std::vector<Color>& dyes, const Mask& wanted) const {
+        Mask dyed(shot_.width, shot_.height);
+        runAreas(context_, wanted, [&](const Area& area) {
+            const Strip strip = area.strip(shot_, kHalo);
+            ScreenRatio ratio(strip, outer_.behind, outer_.size);
+            std::vector<std::uint8_t> flags(static_cast<std::size_t>(area.width()) + 8);
+            for (int y = area.top; y < area.bottom && !context_.isSuperseded(); ++y) {
+                const auto [own, behind] = ratio.colors(y);
+                for (int x = 0; x < area.width(); ++x) {
+                    const int at = x + area.left - strip.left;
+                    flags[static_cast<std::size_t>(x)] = std::any_of(dyes.begin(), dyes.end(), [&](const Color& dye) {
+                        return hasHue({own.r[at], own.g[at], own.b[at]}, dye,
+                                      {behind.r[at], behind.g[at], behind.b[at]}, kPixelHue);
+                    });
+                }
+                dyed.pack(y, area.left, area.width(), flags.data());
+            }
+        });
+        dyed &= wanted;
+        return dyed;
+    }
+
+    template <class Work>
+    void forCells(const Work& work) const {
+        for (int row = 0; row < rows_; ++row) {
+            for (int c = 0; c < columns_; ++c)
+                work(c, row);
+        }
     }
 
     const RunContext& context_;
@@ -296,6 +386,16 @@ Garments findGarments(const RunContext& context, const Shot& shot, float differe
     if (!mayBeThere(shot, difference, screen, size)) return {};
     const OuterScreen outer = findOuterScreen(context, shot, screen, size);
     return Tailor(context, shot, difference, outer).cut();
+}
+
+Mask findSeams(const RunContext& context, const Shot& shot, const Plate& plate, const Mask& solid) {
+    const int reach = shot.px(kSeamReach);
+    Mask seams = shrunk(context, grown(context, solid, reach), reach);
+    seams &= solid.inverted();
+    seams &= grown(context, plate.cloth, 2 * reach);
+    const Limits limits{leastStrangeness(plate.difference), kLeastLight};
+    seams &= strangePixels(context, shot, plate.colors, kPlateCell, limits, seams);
+    return seams;
 }
 
 }  // namespace tavrin::refine

@@ -163,6 +163,7 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot) {
         garments.strange |= garments.solid;
         plate.screen &= garments.strange.inverted();
         plate.cloth = std::move(garments.solid);
+        plate.dyed = std::move(garments.dyed);
     }
     if (static_cast<double>(plate.screen.count()) < kLeastScreen * shot.width * shot.height) return std::nullopt;
     return plate;

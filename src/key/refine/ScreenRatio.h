@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "key/refine/CellRows.h"
 #include "key/refine/MatteLoops.h"
 #include "key/refine/Plate.h"
@@ -33,6 +35,12 @@ class ScreenRatio {
     void cover(int y, float* light, float* least) {
         look(y);
         matteLoops().cover(sums(), screen(), width_, light, least);
+    }
+
+    /// Nine times the colours, and the plate's, of row `y`.
+    std::pair<ChannelRow, ChannelRow> colors(int y) {
+        look(y);
+        return {sums(), screen()};
     }
 
     /// The largest distance of a channel of row `y` from the plate.

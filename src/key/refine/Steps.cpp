@@ -74,18 +74,20 @@ bool Steps::findPlate(const RunContext& context, const Shot& shot, bool& still) 
     still = still && frame == frame_;
     frame_ = std::move(frame);
     if (!still || found->screen != seeds_.screen || found->difference != seeds_.difference ||
-        found->cloth != seeds_.cloth) {
+        found->cloth != seeds_.cloth || found->dyed != seeds_.dyed) {
         seeds_ = std::move(*found);
         look_ = {};
         paintPlate(context, shot, frame_, seeds_);
     }
     Mask screen = mendedScreen(context, shot, seeds_, look_);
-    still = still && screen == plate_.screen && seeds_.difference == plate_.difference && seeds_.cloth == plate_.cloth;
+    still = still && screen == plate_.screen && seeds_.difference == plate_.difference &&
+            seeds_.cloth == plate_.cloth && seeds_.dyed == plate_.dyed;
     if (!keeps_) look_ = {};
     if (still || context.isSuperseded()) return still;
     plate_.difference = seeds_.difference;
     plate_.screen = std::move(screen);
     plate_.cloth = seeds_.cloth;
+    plate_.dyed = seeds_.dyed;
     if (!keeps_) seeds_ = {};
     paintPlate(context, shot, frame_, plate_);
     return true;
