@@ -31,8 +31,10 @@ constexpr float kOtherHue = 0.35f;   // of the screen's difference, for such a p
 struct HueLimits {
     float most, share;  // squared sines
 };
+constexpr std::size_t kMostDyes = 16;
+constexpr double kLeastOfDye = 0.02;  // of the cloth
 constexpr HueLimits kCellHue{0.015f, 0.15f}, kPixelHue{0.03f, 0.25f};
-constexpr float kOfHaze = 0.5f;     // other hue to haze
+constexpr double kOwn = 0.5;  // other hue, of the haze that there would be
 
 using Color = std::array<float, 3>;
 
@@ -161,14 +163,13 @@ class Tailor {
         const Parts parts = findParts(columns_, rows_, shaded(), Neighbours::four);
         const std::vector<Part> found = measure(parts);
         Mask kept(columns_, rows_);
-        std::vector<Color> dyes;
-        for (std::size_t i = 1; i < found.size(); ++i) {
-            if (isCloth(found[i])) dyes.push_back(found[i].color);
-        }
-        if (dyes.empty()) return {};
         forCells([&](int c, int row) {
             if (isCloth(found[static_cast<std::size_t>(parts.labels[at(c, row)])])) kept.set(row, c, c + 1);
         });
+        if (kept.count() == 0) return {};
+        const std::vector<Dye> dyes = findDyes(kept);
+        dropGrey(dyes, kept);
+        if (kept.count() == 0) return {};
         kept = grown(context_, kept, 1);
         kept |= pieces(dyes, kept);
         const Mask near = grown(context_, kept, kNear);
@@ -184,11 +185,17 @@ class Tailor {
   private:
     static constexpr int kNear = 3, kPieceReach = 10;  // cells
 
+    // Sums over cells of one hue.
+    struct Dye {
+        double cells = 0.0, hue = 0.0, haze = 0.0;
+        Color color{};
+        // No haze over the screen, nor the screen's light on grey, looks like that.
+        bool isOwn() const { return haze < 0.0 || std::abs(hue) > kOwn * haze; }
+    };
     // Sums over a part.
     struct Part {
-        double cells = 0.0, shade = 0.0, mix = 0.0, screen = 0.0, key = 0.0;
-        double strange = 0.0, hue = 0.0, haze = 0.0;
-        Color color{};
+        double shade = 0.0, mix = 0.0, screen = 0.0, key = 0.0, strange = 0.0;
+        Dye all;
         bool atSide = false;  // beside or above
     };
 
@@ -276,34 +283,53 @@ class Tailor {
         return static_cast<float>(sum) / static_cast<float>(255 * (right - left) * (bottom - top));
     }
 
-    void add(int c, int row, Part& part) const {
-        const std::size_t i = at(c, row);
-        const auto number = [](float value) { return static_cast<double>(value); };
+    void add(std::size_t i, Dye& dye) const {
         const Color own = ownAt(i), behind = behindAt(i);
-        part.cells += 1.0;
+        dye.cells += 1.0;
         for (std::size_t k = 0; k < 3; ++k)
-            part.color[k] += own[k];
-        part.shade += number(differences_.row(0, 0)[i]);
-        part.mix += number(differences_.row(0, 1)[i]);
-        part.screen += number(outer_.screen.row(0, 0)[i]);
-        part.key += number(keyOf(c, row));
-        part.strange += number(outer_.strangeness(i));
+            dye.color[k] += own[k];
         // Any shade of the screen with any haze over it lies in one plane.
         const Color normal{behind[1] - behind[2], behind[2] - behind[0], behind[0] - behind[1]};
-        part.hue +=
-            number((normal[0] * own[0] + normal[1] * own[1] + normal[2] * own[2]) / std::max(lengthOf(normal), 1.0f));
+        dye.hue += static_cast<double>((normal[0] * own[0] + normal[1] * own[1] + normal[2] * own[2]) /
+                                       std::max(lengthOf(normal), 1.0f));
         const float others = (own[0] + own[2]) * 0.5f, screens = (behind[0] + behind[2]) * 0.5f;
-        part.haze += number(others - screens * (own[1] - others) / std::max(behind[1] - screens, 8.0f));
+        dye.haze += static_cast<double>(others - screens * (own[1] - others) / std::max(behind[1] - screens, 8.0f));
+    }
+
+    void add(int c, int row, Part& part) const {
+        const std::size_t i = at(c, row);
+        add(i, part.all);
+        part.shade += static_cast<double>(differences_.row(0, 0)[i]);
+        part.mix += static_cast<double>(differences_.row(0, 1)[i]);
+        part.screen += static_cast<double>(outer_.screen.row(0, 0)[i]);
+        part.key += static_cast<double>(keyOf(c, row));
+        part.strange += static_cast<double>(outer_.strangeness(i));
         part.atSide |= c == 0 || c == columns_ - 1 || row == 0;
     }
 
     bool isCloth(const Part& part) const {
-        if (part.cells < kLeastPart * static_cast<double>(whole_.size())) return false;
-        if (part.shade > kShadeOfPart * part.mix || part.key > kKeyed * part.cells) return false;
-        if (part.screen <= kTakenAway * part.cells) return true;
+        if (part.all.cells < kLeastPart * static_cast<double>(whole_.size())) return false;
+        if (part.shade > kShadeOfPart * part.mix || part.key > kKeyed * part.all.cells) return false;
+        if (part.screen <= kTakenAway * part.all.cells) return true;
         // The key took some of it for screen: floors and walls of another paint, glare and glass are no cloth.
-        return !part.atSide && part.strange > kOtherHue * difference_ * part.cells &&
-               (part.haze < 0.0 || std::abs(part.hue) > kOfHaze * part.haze);
+        return !part.atSide && part.strange > kOtherHue * difference_ * part.all.cells && part.all.isOwn();
+    }
+
+    // The hues of cloth, in the order of their first cells.
+    std::vector<Dye> findDyes(const Mask& cloth) const {
+        std::vector<Dye> dyes;
+        forCells([&](int c, int row) {
+            if (!cloth.at(c, row)) return;
+            const std::size_t i = at(c, row);
+            if (const std::size_t dye = dyeOf(i, dyes); dye < dyes.size()) {
+                add(i, dyes[dye]);
+            } else if (dyes.size() < kMostDyes) {
+                add(i, dyes.emplace_back());
+            }
+        });
+        std::erase_if(dyes,
+                      [&](const Dye& dye) { return dye.cells < kLeastOfDye * static_cast<double>(cloth.count()); });
+        return dyes;
     }
 
     std::vector<Part> measure(const Parts& parts) const {
@@ -315,16 +341,35 @@ class Tailor {
         return found;
     }
 
+    // The place of the first dye whose hue a cell has, or that of none.
+    std::size_t dyeOf(std::size_t i, const std::vector<Dye>& dyes) const {
+        const auto dye = std::find_if(dyes.begin(), dyes.end(), [&](const Dye& one) {
+            return hasHue(ownAt(i), one.color, behindAt(i), kCellHue);
+        });
+        return static_cast<std::size_t>(dye - dyes.begin());
+    }
+
+    // Grey in the screen's light is solid as well, but its colour does not tell how much of it that light is.
+    void dropGrey(const std::vector<Dye>& dyes, Mask& cloth) const {
+        Mask grey(columns_, rows_);
+        forCells([&](int c, int row) {
+            if (!cloth.at(c, row)) return;
+            const std::size_t dye = dyeOf(at(c, row), dyes);
+            if (dye < dyes.size() && !dyes[dye].isOwn()) grey.set(row, c, c + 1);
+        });
+        cloth &= grey.inverted();
+    }
+
     // What else nearby has the same dye, however small, such as the other side of a strap: parts of whole cells that
     // touch what is known, or are wide enough to have an inside.
-    Mask pieces(const std::vector<Color>& dyes, const Mask& known) const {
+    Mask pieces(const std::vector<Dye>& dyes, const Mask& known) const {
         const Mask near = grown(context_, known, kPieceReach);
         std::vector<std::uint8_t> set(whole_.size());
         forCells([&](int c, int row) {
             const std::size_t i = at(c, row);
             if (whole_[i] == 0 || !near.at(c, row)) return;
-            set[i] = std::any_of(dyes.begin(), dyes.end(),
-                                 [&](const Color& dye) { return hasHue(ownAt(i), dye, behindAt(i), kCellHue); });
+            const std::size_t dye = dyeOf(i, dyes);
+            set[i] = dye < dyes.size() && dyes[dye].isOwn();
         });
         const Parts parts = findParts(columns_, rows_, set, Neighbours::four);
         std::vector<std::uint8_t> kept(static_cast<std::size_t>(parts.count) + 1);
@@ -339,8 +384,8 @@ class Tailor {
         return cells;
     }
 
-    // Pixels of `wanted` of one of the dyes.
-    Mask dyedPixels(const std::vector<Color>& dyes, const Mask& wanted) const {
+    // Pixels of `wanted` of a dye that cannot be the screen's light.
+    Mask dyedPixels(const std::vector<Dye>& dyes, const Mask& wanted) const {
         Mask dyed(shot_.width, shot_.height);
         runAreas(context_, wanted, [&](const Area& area) {
             const Strip strip = area.strip(shot_, kHalo);
@@ -350,9 +395,9 @@ class Tailor {
                 const auto [own, behind] = ratio.colors(y);
                 for (int x = 0; x < area.width(); ++x) {
                     const int at = x + area.left - strip.left;
-                    flags[static_cast<std::size_t>(x)] = std::any_of(dyes.begin(), dyes.end(), [&](const Color& dye) {
-                        return hasHue({own.r[at], own.g[at], own.b[at]}, dye,
-                                      {behind.r[at], behind.g[at], behind.b[at]}, kPixelHue);
+                    flags[static_cast<std::size_t>(x)] = std::any_of(dyes.begin(), dyes.end(), [&](const Dye& dye) {
+                        return dye.isOwn() && hasHue({own.r[at], own.g[at], own.b[at]}, dye.color,
+                                                     {behind.r[at], behind.g[at], behind.b[at]}, kPixelHue);
                     });
                 }
                 dyed.pack(y, area.left, area.width(), flags.data());
