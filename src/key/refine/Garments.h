@@ -11,6 +11,9 @@ struct Garments {
     Mask strange;  ///< what lies at it and is no screen by its hue
 };
 
+/// The least share of a picture that a part of such cloth must have.
+inline constexpr double kLeastCloth = 0.005;
+
 /// Large areas of a hue that the screen has in no light, and whose colours go from light to dark as those of a solid
 /// thing do, through black. Colours of hair, veils, smoke and glass go from more to less of the screen.
 /// @param difference the screen's usual colour difference
