@@ -103,7 +103,8 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
             cloth.row(0, 0)[i] = smoothStep(cloth.row(0, 0)[i], kMaybeCloth * usual, kSurelyCloth * usual) *
                                  std::min(findings.taste.ownGreen, 1.0f);
         limits.cloth = blurred(context, cloth, 3.0);
-        // Much and smooth, or it is spill: on black that stays below. What is cloth near the screen's hue has all of it.
+        // Much and smooth, or it is spill: on black that stays below. What is cloth near the screen's hue has all of
+        // it.
         const Cells dyed = clothAround(context, findings.plate.dyed, limits.size);
         for (std::size_t i = 0; i < least.count(); ++i) {
             float& own = least.row(0, 0)[i];
