@@ -14,6 +14,7 @@ constexpr float kWholeCell = 0.97f;                       // share of a cell's p
 constexpr double kWindow = 5.0;                           // cells
 constexpr float kShadeHere = 0.6f, kShadeOfPart = 0.33f;  // the most that is left over, of what a mixture leaves
 constexpr float kLeastTexture = 2.0f;                     // levels squared; less is noise
+constexpr double kShadedShare = 0.5;                      // of a part: in the folds of a veil there are such places
 constexpr double kSmallShare = 0.4;                       // of the least part, beside a larger one
 constexpr double kTakenAway = 0.02;                       // share of a part that is the key's screen
 constexpr double kOtherHue = 0.35;                        // of the screen's difference, for such a part
@@ -136,6 +137,7 @@ void ClothCells::add(int c, int row, const Cells& left, Part& part) const {
 
 bool ClothCells::isCloth(const Part& part) const {
     const Dye& dye = part.dye;
+    if (dye.cells < kShadedShare * part.cells) return false;
     if (part.shade > number(kShadeOfPart) * part.mix || part.key > number(kKeyed) * dye.cells) return false;
     if (part.screen <= kTakenAway * dye.cells) return true;
     // The key took some of it for screen: floors and walls of another paint, glare and glass are no cloth.
@@ -147,11 +149,17 @@ Mask ClothCells::find() const {
     const auto many = static_cast<double>(std::count(whole_.begin(), whole_.end(), 1));
     if (many < kLeastCloth * static_cast<double>(whole_.size())) return cloth;
     const Cells left = leftOvers();
-    const Parts parts = findParts(columns_, rows_, shadedCells(left), Neighbours::four);
+    const std::vector<std::uint8_t> shaded = shadedCells(left);
+    std::vector<std::uint8_t> inner(whole_.size());
+    forCells([&](int c, int row) { inner[at(c, row)] = isInner(c, row); });
+    const Parts parts = findParts(columns_, rows_, inner, Neighbours::four);
     std::vector<Part> found(static_cast<std::size_t>(parts.count) + 1);
     const auto partAt = [&](int c, int row) { return static_cast<std::size_t>(parts.labels[at(c, row)]); };
     forCells([&](int c, int row) {
-        if (partAt(c, row) != 0) add(c, row, left, found[partAt(c, row)]);
+        if (partAt(c, row) == 0) return;
+        Part& part = found[partAt(c, row)];
+        part.cells += 1.0;
+        if (shaded[at(c, row)] != 0) add(c, row, left, part);
     });
     // Beside a large part smaller ones count, such as a chest beside a sleeve.
     const double least = kLeastCloth * static_cast<double>(whole_.size());
@@ -163,7 +171,7 @@ Mask ClothCells::find() const {
     }
     if (!large) return cloth;
     forCells([&](int c, int row) {
-        if (kept[partAt(c, row)] != 0) cloth.set(row, c, c + 1);
+        if (kept[partAt(c, row)] != 0 && shaded[at(c, row)] != 0) cloth.set(row, c, c + 1);
     });
     return cloth;
 }

@@ -40,8 +40,9 @@ class ClothCells {
     }
 
   private:
-    // Sums over a part.
+    // A part of the inner cells, and sums over those of its cells that shading explains.
     struct Part {
+        double cells = 0.0;
         double shade = 0.0, mix = 0.0, screen = 0.0, key = 0.0;
         Dye dye;
         bool atSide = false;  // beside or above
