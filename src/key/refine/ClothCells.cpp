@@ -16,6 +16,7 @@ constexpr float kShadeHere = 0.6f, kShadeOfPart = 0.33f;  // the most that is le
 constexpr float kLeastTexture = 2.0f;                     // levels squared; less is noise
 constexpr double kShadedShare = 0.5;                      // of a part: in the folds of a veil there are such places
 constexpr double kSmallShare = 0.4;                       // of the least part, beside a larger one
+constexpr float kNextToNothing = 0.06f;                   // of the key's alpha
 constexpr double kTakenAway = 0.02;                       // share of a part that is the key's screen
 constexpr double kOtherHue = 0.35;                        // of the screen's difference, for such a part
 
@@ -130,8 +131,9 @@ void ClothCells::add(int c, int row, const Cells& left, Part& part) const {
     part.dye.add(own(i), behind(i), outer_.strangeness(i));
     part.shade += number(left.row(0, 0)[i]);
     part.mix += number(left.row(0, 1)[i]);
-    part.screen += number(outer_.screen.row(0, 0)[i]);
-    part.key += number(keyOf(c, row));
+    const float key = keyOf(c, row);
+    part.screen += key < kNextToNothing ? 1.0 : number(outer_.screen.row(0, 0)[i]);
+    part.key += number(key);
     part.atSide |= c == 0 || c == columns_ - 1 || row == 0;
 }
 

@@ -48,8 +48,10 @@ void dropGrey(const ClothCells& cells, const Dyes& dyes, Mask& cloth) {
     Mask grey(cells.columns(), cells.rows());
     cells.forCells([&](int c, int row) {
         if (!cloth.at(c, row)) return;
-        const std::size_t dye = dyeOf(cells, cells.at(c, row), dyes);
-        if (dye < dyes.size() && !dyes[dye].isOwn()) grey.set(row, c, c + 1);
+        const std::size_t i = cells.at(c, row), dye = dyeOf(cells, i, dyes);
+        Dye rare;
+        rare.add(cells.own(i), cells.behind(i), 0.0f);
+        if (!(dye < dyes.size() ? dyes[dye] : rare).isOwn()) grey.set(row, c, c + 1);
     });
     cloth &= grey.inverted();
 }
