@@ -117,6 +117,7 @@ Garments findGarments(const RunContext& context, const Shot& shot, float differe
     dropGrey(cells, dyes, cloth);
     if (cloth.count() == 0) return {};
     cloth = grown(context, cloth, 1);
+    dropGrey(cells, dyes, cloth);  // a gap's screen in another light is not far from being cloth, but for that
     cloth |= findPieces(context, cells, dyes, cloth);
     const Mask near = grown(context, cloth, kNear);
     const auto pixelsOf = [&](const auto& isSet) { return maskOf(context, shot.width, shot.height, size, isSet); };
