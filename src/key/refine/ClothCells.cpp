@@ -98,7 +98,7 @@ Cells ClothCells::leftOvers() const {
 }
 
 // The inner cells around which shading explains the colours and mixing does not.
-std::vector<std::uint8_t> ClothCells::shadedCells(const Cells& left) const {
+std::vector<std::uint8_t> ClothCells::shadedCells(const Cells& left, const std::vector<std::uint8_t>& inner) const {
     const auto around = [&](int plane) {
         Cells one(columns_, rows_, 1);
         std::copy_n(left.row(0, plane), one.count(), one.row(0, 0));
@@ -109,7 +109,7 @@ std::vector<std::uint8_t> ClothCells::shadedCells(const Cells& left) const {
     forCells([&](int c, int row) {
         const std::size_t i = at(c, row);
         set[i] = shade.row(0, 0)[i] < kShadeHere * mix.row(0, 0)[i] &&
-                 mix.row(0, 0)[i] > kLeastTexture * pairs.row(0, 0)[i] && isInner(c, row);
+                 mix.row(0, 0)[i] > kLeastTexture * pairs.row(0, 0)[i] && inner[i] != 0;
     });
     return set;
 }
@@ -148,12 +148,12 @@ bool ClothCells::isCloth(const Part& part) const {
 
 Mask ClothCells::find() const {
     Mask cloth(columns_, rows_);
-    const auto many = static_cast<double>(std::count(whole_.begin(), whole_.end(), 1));
-    if (many < kLeastCloth * static_cast<double>(whole_.size())) return cloth;
-    const Cells left = leftOvers();
-    const std::vector<std::uint8_t> shaded = shadedCells(left);
+    const double least = kLeastCloth * static_cast<double>(whole_.size());
     std::vector<std::uint8_t> inner(whole_.size());
     forCells([&](int c, int row) { inner[at(c, row)] = isInner(c, row); });
+    if (static_cast<double>(std::count(inner.begin(), inner.end(), 1)) < least) return cloth;
+    const Cells left = leftOvers();
+    const std::vector<std::uint8_t> shaded = shadedCells(left, inner);
     const Parts parts = findParts(columns_, rows_, inner, Neighbours::four);
     std::vector<Part> found(static_cast<std::size_t>(parts.count) + 1);
     const auto partAt = [&](int c, int row) { return static_cast<std::size_t>(parts.labels[at(c, row)]); };
@@ -164,7 +164,6 @@ Mask ClothCells::find() const {
         if (shaded[at(c, row)] != 0) add(c, row, left, part);
     });
     // Beside a large part smaller ones count, such as a chest beside a sleeve.
-    const double least = kLeastCloth * static_cast<double>(whole_.size());
     std::vector<std::uint8_t> kept;
     bool large = false;
     for (const Part& part : found) {

@@ -51,7 +51,7 @@ class ClothCells {
     void findWhole();
     void compare(std::size_t from, std::size_t to, Cells& left) const;
     Cells leftOvers() const;
-    std::vector<std::uint8_t> shadedCells(const Cells& left) const;
+    std::vector<std::uint8_t> shadedCells(const Cells& left, const std::vector<std::uint8_t>& inner) const;
     float keyOf(int c, int row) const;
     void add(int c, int row, const Cells& left, Part& part) const;
     bool isCloth(const Part& part) const;
