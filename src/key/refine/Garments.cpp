@@ -13,8 +13,9 @@ namespace {
 
 constexpr int kHalo = 4;  // columns beyond an area that its windows look at
 constexpr double kCell = 8.0, kSeamReach = 6.0;
-constexpr double kLeastSamples = 0.6;       // of what such cloth must have of the picture
-constexpr int kNear = 3, kPieceReach = 10;  // cells
+constexpr double kLeastSamples = 0.6;                        // of what such cloth must have of the picture
+constexpr int kNear = 3, kPieceReach = 10, kLeastPiece = 6;  // cells
+constexpr int kRounds = 3;
 constexpr std::size_t kMostDyes = 16;
 constexpr double kLeastOfDye = 0.02;  // of the cloth
 constexpr float kLeastLight = 0.4f;   // of the plate's, in a shade of it
@@ -68,15 +69,13 @@ Mask findPieces(const RunContext& context, const ClothCells& cells, const Dyes& 
         set[i] = dye < dyes.size() && dyes[dye].isOwn();
     });
     const Parts parts = findParts(cells.columns(), cells.rows(), set, Neighbours::four);
-    std::vector<std::uint8_t> kept(static_cast<std::size_t>(parts.count) + 1);
+    std::vector<int> sizes(static_cast<std::size_t>(parts.count) + 1);
     const auto partAt = [&](int c, int row) { return static_cast<std::size_t>(parts.labels[cells.at(c, row)]); };
-    cells.forCells([&](int c, int row) {
-        if (known.at(c, row) || cells.isInner(c, row)) kept[partAt(c, row)] = 1;
-    });
-    kept[0] = 0;  // what is no part
+    cells.forCells([&](int c, int row) { sizes[partAt(c, row)] += known.at(c, row) ? kLeastPiece : 1; });
+    sizes[0] = 0;  // what is no part
     Mask pieces(cells.columns(), cells.rows());
     cells.forCells([&](int c, int row) {
-        if (kept[partAt(c, row)] != 0) pieces.set(row, c, c + 1);
+        if (sizes[partAt(c, row)] >= kLeastPiece) pieces.set(row, c, c + 1);
     });
     return pieces;
 }
@@ -113,12 +112,15 @@ Garments findGarments(const RunContext& context, const Shot& shot, float differe
     const OuterScreen outer = findOuterScreen(context, shot, screen, size);
     const ClothCells cells(context, shot, difference, outer);
     Mask cloth = cells.find();
-    const Dyes dyes = findDyes(cells, cloth);
+    Dyes dyes = findDyes(cells, cloth);
     dropGrey(cells, dyes, cloth);
     if (cloth.count() == 0) return {};
     cloth = grown(context, cloth, 1);
     dropGrey(cells, dyes, cloth);  // a gap's screen in another light is not far from being cloth, but for that
-    cloth |= findPieces(context, cells, dyes, cloth);
+    for (int round = 0; round < kRounds; ++round) {
+        cloth |= findPieces(context, cells, dyes, cloth);
+        dyes = findDyes(cells, cloth);  // the same cloth under other light
+    }
     const Mask near = grown(context, cloth, kNear);
     const auto pixelsOf = [&](const auto& isSet) { return maskOf(context, shot.width, shot.height, size, isSet); };
     const Mask solid = pixelsOf([&](int c, int row) { return cloth.at(c, row); });
