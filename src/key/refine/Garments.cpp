@@ -57,16 +57,29 @@ void dropGrey(const ClothCells& cells, const Dyes& dyes, Mask& cloth) {
     cloth &= grey.inverted();
 }
 
+// Whether a colour is one of the dyes that cannot be the screen's light.
+bool hasOwn(const Dyes& dyes, const Color& own, const Color& behind, const HueLimits& limits) {
+    return std::any_of(dyes.begin(), dyes.end(),
+                       [&](const Dye& dye) { return dye.isOwn() && dye.has(own, behind, limits); });
+}
+
+// Dyes that were found first, and the same under whatever light.
+struct Palette {
+    const Dyes &first, &dyes;
+};
+
 // What else nearby has the same dye, however small, such as the other side of a strap: parts of whole cells that
-// touch what is known, or are wide enough to have an inside.
-Mask findPieces(const RunContext& context, const ClothCells& cells, const Dyes& dyes, const Mask& known) {
+// touch what is known, or are more than a few.
+Mask findPieces(const RunContext& context, const ClothCells& cells, const Palette& palette, const Mask& known) {
     const Mask near = grown(context, known, kPieceReach);
     std::vector<std::uint8_t> set(static_cast<std::size_t>(cells.columns() * cells.rows()));
     cells.forCells([&](int c, int row) {
         const std::size_t i = cells.at(c, row);
         if (!cells.isWhole(i) || !near.at(c, row)) return;
-        const std::size_t dye = dyeOf(cells, i, dyes);
-        set[i] = dye < dyes.size() && dyes[dye].isOwn();
+        Dye alone;
+        alone.add(cells.own(i), cells.behind(i), 0.0f);
+        set[i] = alone.isOwn() && hasOwn(palette.first, cells.own(i), cells.behind(i), kLitHue) &&
+                 hasOwn(palette.dyes, cells.own(i), cells.behind(i), kCellHue);
     });
     const Parts parts = findParts(cells.columns(), cells.rows(), set, Neighbours::four);
     std::vector<int> sizes(static_cast<std::size_t>(parts.count) + 1);
@@ -93,9 +106,7 @@ Mask dyedPixels(const RunContext& context, const Shot& shot, const OuterScreen& 
             for (int x = 0; x < area.width(); ++x) {
                 const int at = x + area.left - strip.left;
                 const Color own{sums.r[at], sums.g[at], sums.b[at]}, behind{plate.r[at], plate.g[at], plate.b[at]};
-                flags[static_cast<std::size_t>(x)] = std::any_of(dyes.begin(), dyes.end(), [&](const Dye& dye) {
-                    return dye.isOwn() && dye.has(own, behind, kPixelHue);
-                });
+                flags[static_cast<std::size_t>(x)] = hasOwn(dyes, own, behind, kPixelHue);
             }
             dyed.pack(y, area.left, area.width(), flags.data());
         }
@@ -112,13 +123,14 @@ Garments findGarments(const RunContext& context, const Shot& shot, float differe
     const OuterScreen outer = findOuterScreen(context, shot, screen, size);
     const ClothCells cells(context, shot, difference, outer);
     Mask cloth = cells.find();
-    Dyes dyes = findDyes(cells, cloth);
-    dropGrey(cells, dyes, cloth);
+    const Dyes first = findDyes(cells, cloth);
+    Dyes dyes = first;
+    dropGrey(cells, first, cloth);
     if (cloth.count() == 0) return {};
     cloth = grown(context, cloth, 1);
-    dropGrey(cells, dyes, cloth);  // a gap's screen in another light is not far from being cloth, but for that
+    dropGrey(cells, first, cloth);  // a gap's screen in another light is not far from being cloth, but for that
     for (int round = 0; round < kRounds; ++round) {
-        cloth |= findPieces(context, cells, dyes, cloth);
+        cloth |= findPieces(context, cells, {first, dyes}, cloth);
         dyes = findDyes(cells, cloth);  // the same cloth under other light
     }
     const Mask near = grown(context, cloth, kNear);

@@ -16,7 +16,7 @@ float leftOver(const Color& difference, const Color& along);
 struct HueLimits {
     float most, share;
 };
-inline constexpr HueLimits kCellHue{0.015f, 0.15f}, kPixelHue{0.03f, 0.25f};
+inline constexpr HueLimits kCellHue{0.015f, 0.15f}, kPixelHue{0.03f, 0.25f}, kLitHue{0.03f, 0.33f};
 
 /// Colours of one hue, light and dark. Sums over cells.
 struct Dye {
