@@ -121,15 +121,16 @@ Garments findGarments(const RunContext& context, const Shot& shot, float differe
     const int size = shot.cell(kCell);
     if (!mayHoldCloth(shot, difference, screen, size, kLeastSamples * kLeastCloth)) return {};
     const OuterScreen outer = findOuterScreen(context, shot, screen, size);
+    if (context.isSuperseded()) return {};
     const ClothCells cells(context, shot, difference, outer);
     Mask cloth = cells.find();
     const Dyes first = findDyes(cells, cloth);
     Dyes dyes = first;
     dropGrey(cells, first, cloth);
-    if (cloth.count() == 0) return {};
+    if (cloth.count() == 0 || context.isSuperseded()) return {};
     cloth = grown(context, cloth, 1);
     dropGrey(cells, first, cloth);  // a gap's screen in another light is not far from being cloth, but for that
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < kRounds && !context.isSuperseded(); ++round) {
         cloth |= findPieces(context, cells, {first, dyes}, cloth);
         dyes = findDyes(cells, cloth);  // the same cloth under other light
     }
