@@ -1,45 +1,17 @@
 // What the second look at the key takes for screen and what for subject, on drawn pictures.
 #include <cmath>
-#include <functional>
 #include <gtest/gtest.h>
-#include <random>
 
-#include "key/KeyScene.h"
+#include "key/PaintedScene.h"
 #include "key/refine/RefineKey.h"
 
 namespace tavrin {
 namespace {
 
-using test::KeyScene;
-using test::Pixel;
-
-using Paint = std::function<Rgb(int x, int y)>;
+using test::mix;
+using test::PaintedScene;
 
 constexpr Rgb kScreen{52.0, 160.0, 74.0};
-
-Rgb mix(const Rgb& subject, const Rgb& screen, double alpha) {
-    return {subject.r * alpha + screen.r * (1.0 - alpha), subject.g * alpha + screen.g * (1.0 - alpha),
-            subject.b * alpha + screen.b * (1.0 - alpha)};
-}
-
-// A picture with a little noise.
-struct PaintedScene : KeyScene {
-    PaintedScene(int width, int height, const Rgb& screen, const Paint& paint) : KeyScene(width, height) {
-        std::mt19937 random(3);
-        for (int y = 0; y < height; ++y) {
-            for (int x = 0; x < width; ++x) {
-                const Rgb color = paint(x, y);
-                const double noise = static_cast<double>(random() % 3) - 0.5;
-                at(foreground, x, y) = {toByte(color.r + noise), toByte(color.g + noise), toByte(color.b + noise),
-                                        255};
-            }
-        }
-        info.baseRed = screen.r;
-        info.baseGreen = screen.g;
-        info.baseBlue = screen.b;
-        info.bRefineKey = true;
-    }
-};
 
 double body(int x, int y) {
     return std::clamp((60.0 - std::hypot(x - 200, y - 220)) / 3.0 + 0.5, 0.0, 1.0);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "key/refine/Areas.h"
+#include "key/refine/Garments.h"
 #include "key/refine/Parts.h"
 #include "key/refine/RowRing.h"
 #include "key/refine/ScreenRatio.h"
@@ -296,8 +297,14 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     core.solid |= cloth.all;
     core.solid = grown(context, core.solid, near);
     inside |= cloth.all;
-    core.solid |= enclosedGaps(context, shot, plate, grown(context, inside, near));
+    inside = grown(context, inside, near);
     core.solid &= grown(context, gaps, reach).inverted();
+    if (plate.cloth.width() > 0) {
+        core.solid |= plate.cloth;
+        core.solid |= findSeams(context, shot, plate, core.solid);
+        inside |= core.solid;
+    }
+    core.solid |= enclosedGaps(context, shot, plate, inside);
     core.sure |= core.solid;
     return core;
 }

@@ -68,12 +68,32 @@ Mask wholePixels(const RunContext& context, const Findings& findings) {
     return whole;
 }
 
+// Whether cloth near the screen's hue is near; no cells where there is none.
+Cells clothAround(const RunContext& context, const Mask& cloth, int size) {
+    return cloth.width() > 0 ? sharesOf(context, grown(context, cloth, 2 * size), size) : Cells();
+}
+
+// Raises the limits of row `y` to what cloth near the screen's hue has.
+void keepDye(const GreenLimits& limits, const Strip& strip, int y, float* own) {
+    const Mask& dyed = *limits.dyed;
+    if (dyed.width() == 0 || dyed.isClear(y, strip.left, strip.left + strip.width)) return;
+    const auto width = static_cast<std::size_t>(strip.width);
+    std::vector<float> lines(3 * width);
+    float *const r = lines.data(), *const g = r + width, *const b = g + width;
+    loadColors(strip, y, r, g, b);
+    for (int x = 0; x < strip.width; ++x) {
+        if (dyed.at(strip.left + x, y)) own[x] = std::max(own[x], limits.dye * (g[x] - (r[x] + b[x]) * 0.5f));
+    }
+}
+
 }  // namespace
 
 GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     const Shot& shot = findings.shot;
     GreenLimits limits;
     limits.size = shot.px(kOwnCell) < 6 ? 4 : 8;  // parts of a grain of columns
+    limits.dyed = &findings.plate.dyed;
+    limits.dye = findings.taste.ownGreen;
     const Cells green = ownGreen(context, findings, limits.size);
     limits.own = limits.cloth = Cells(green.columns(), green.rows(), 1);
     if (green.sums()[1] > kFewCells) {
@@ -83,10 +103,13 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
             cloth.row(0, 0)[i] = smoothStep(cloth.row(0, 0)[i], kMaybeCloth * usual, kSurelyCloth * usual) *
                                  std::min(findings.taste.ownGreen, 1.0f);
         limits.cloth = blurred(context, cloth, 3.0);
-        // Much and smooth, or it is spill: on black that stays below.
+        // Much and smooth, or it is spill: on black that stays below. What is cloth near the screen's hue has all of
+        // it.
+        const Cells dyed = clothAround(context, findings.plate.dyed, limits.size);
         for (std::size_t i = 0; i < least.count(); ++i) {
             float& own = least.row(0, 0)[i];
-            own = std::min(own, kMostOwn * usual);
+            const float share = dyed.count() > 0 ? dyed.row(0, 0)[i] : 0.0f;
+            own = std::min(own, (kMostOwn + share) * usual);
             own *= smoothStep(own, std::max(0.12f * usual, 18.0f), std::max(0.25f * usual, 32.0f)) *
                    findings.taste.ownGreen;
         }
@@ -116,7 +139,8 @@ ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, Finish
       subject_(findings.separation.subject, findings.separation.size, strip.left, strip.width),
       own_(limits.own, limits.size, strip.left, strip.width),
       cloth_(limits.cloth, limits.size, strip.left, strip.width),
-      inner_(limits.inner, GreenLimits::kInnerCell, strip.left, strip.width) {}
+      inner_(limits.inner, GreenLimits::kInnerCell, strip.left, strip.width),
+      limits_(limits) {}
 
 void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
     const int width = strip_.width;
@@ -125,6 +149,7 @@ void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
     for (int c = 0; c < 3; ++c)
         subject_.fill(y, c, scratch_.row(4 + c));
     own_.fill(y, 0, scratch_.row(7));
+    keepDye(limits_, strip_, y, scratch_.row(7));
     inner_.fill(y, 0, scratch_.row(8));
     cloth_.fill(y, 0, scratch_.row(9));
     finishLoops().raise(scratch_.row(9), width, scratch_.row(8));
@@ -150,6 +175,7 @@ void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits,
     std::vector<std::uint32_t> pixels(width);
     for (int y = area.top; y < area.bottom; ++y) {
         own.fill(y, 0, line(0));
+        keepDye(limits, {shot, area.left, area.width()}, y, line(0));
         inner.fill(y, 0, line(1));
         cloth.fill(y, 0, line(2));
         finishLoops().raise(line(2), area.width(), line(1));

@@ -13,7 +13,9 @@ struct GreenLimits {
     Cells own;     ///< what the solid inside nearby has beyond the mean of the other channels; cells of `size`
     Cells
         cloth;  ///< 1 where that is more than the screen could bring: a rim of bluish cloth keeps its cyan; as above
-    Cells inner;  ///< 1 well inside, where a bluish cloth keeps its cyan; cells of `kInnerCell`
+    Cells inner;                 ///< 1 well inside, where a bluish cloth keeps its cyan; cells of `kInnerCell`
+    const Mask* dyed = nullptr;  ///< of the plate: cloth near the screen's hue, which keeps its own; may be empty
+    float dye = 1.0f;            ///< share of that
 };
 GreenLimits findLimits(const RunContext& context, const Findings& findings);
 
@@ -39,6 +41,7 @@ class ColorRows {
     PaddedRows scratch_;
     RowRing<10, Maker> shares_;  // the remainder, alpha, the picture, the plate
     CellRows subject_, own_, cloth_, inner_;
+    const GreenLimits& limits_;
 };
 
 /// Columns beyond an area that the windows of the colours look at.

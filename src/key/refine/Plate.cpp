@@ -9,6 +9,7 @@
 #include "core/raster/Pixels.h"
 #include "key/pixel/ChannelRoles.h"
 #include "key/refine/Areas.h"
+#include "key/refine/Garments.h"
 #include "key/refine/MatteLoops.h"
 #include "key/refine/SumLoops.h"
 
@@ -157,6 +158,13 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot) {
     plate.screen = shrunk(context, seeds, shot.px(kSeedReach));
     dropStrangers(context, shot, plate.screen);
     plate.difference = static_cast<float>(usual);
+    Garments garments = findGarments(context, shot, plate.difference, plate.screen);
+    if (garments.solid.width() > 0) {
+        garments.strange |= garments.solid;
+        plate.screen &= garments.strange.inverted();
+        plate.cloth = std::move(garments.solid);
+        plate.dyed = std::move(garments.dyed);
+    }
     if (static_cast<double>(plate.screen.count()) < kLeastScreen * shot.width * shot.height) return std::nullopt;
     return plate;
 }

@@ -17,8 +17,9 @@ inline constexpr int kPlateCell = 4;
 
 /// The empty screen as it must look behind the subject.
 struct Plate {
-    Mask screen;           ///< pixels that are surely screen
-    Cells colors;          ///< in roles, cells of `kPlateCell`
+    Mask screen;       ///< pixels that are surely screen
+    Mask cloth, dyed;  ///< the inside of cloth near the screen's hue, and what has its hue; may be empty (width 0)
+    Cells colors;      ///< in roles, cells of `kPlateCell`
     float difference = 0;  ///< the screen's usual lead of its channel over the larger of the others
     float spread = 0;      ///< how far alpha strays from 0 on the screen, as a deviation
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "key/refine/CellRows.h"
 #include "key/refine/MatteLoops.h"
 #include "key/refine/Plate.h"
@@ -12,11 +14,13 @@ namespace tavrin::refine {
 /// one block of rows on one thread.
 class ScreenRatio {
   public:
-    ScreenRatio(const Strip& strip, const Plate& plate)
+    ScreenRatio(const Strip& strip, const Plate& plate) : ScreenRatio(strip, plate.colors, kPlateCell) {}
+    /// @param plate its colours, in roles, on cells of `size` pixels
+    ScreenRatio(const Strip& strip, const Cells& plate, int size)
         : width_(strip.width),
           colors_(strip.width, strip.shot.height, 1,
                   [strip](int y, float** planes) { loadColors(strip, y, planes[0], planes[1], planes[2]); }),
-          plate_(plate.colors, kPlateCell, strip.left, strip.width),
+          plate_(plate, size, strip.left, strip.width),
           scratch_(strip.width, 7) {}
 
     /// @param light the screen's channel over the plate's
@@ -31,6 +35,12 @@ class ScreenRatio {
     void cover(int y, float* light, float* least) {
         look(y);
         matteLoops().cover(sums(), screen(), width_, light, least);
+    }
+
+    /// Nine times the colours, and the plate's, of row `y`.
+    std::pair<ChannelRow, ChannelRow> colors(int y) {
+        look(y);
+        return {sums(), screen()};
     }
 
     /// The largest distance of a channel of row `y` from the plate.

@@ -165,6 +165,7 @@ Mask mendedScreen(const RunContext& context, const Shot& shot, const Plate& plat
     shadows &= open;
     screen |= shadows;
     followDrift(context, shot, plate.difference, screen);
+    if (plate.cloth.width() > 0) screen &= plate.cloth.inverted();
     return screen;
 }
 

@@ -82,17 +82,21 @@ bool Steps::findPlate(const RunContext& context, const Shot& shot, bool& still) 
     Mask frame = findFrame(shot, found->screen);
     still = still && frame == frame_;
     frame_ = std::move(frame);
-    if (!still || found->screen != seeds_.screen || found->difference != seeds_.difference) {
+    if (!still || found->screen != seeds_.screen || found->difference != seeds_.difference ||
+        found->cloth != seeds_.cloth || found->dyed != seeds_.dyed) {
         seeds_ = std::move(*found);
         look_ = {};
         paintPlate(context, shot, frame_, seeds_);
     }
     Mask screen = mendedScreen(context, shot, seeds_, look_);
-    still = still && screen == plate_.screen && seeds_.difference == plate_.difference;
+    still = still && screen == plate_.screen && seeds_.difference == plate_.difference &&
+            seeds_.cloth == plate_.cloth && seeds_.dyed == plate_.dyed;
     if (!keeps_) look_ = {};
     if (still || context.isSuperseded()) return still;
     plate_.difference = seeds_.difference;
     plate_.screen = std::move(screen);
+    plate_.cloth = seeds_.cloth;
+    plate_.dyed = seeds_.dyed;
     if (!keeps_) seeds_ = {};
     paintPlate(context, shot, frame_, plate_);
     return true;
@@ -106,6 +110,8 @@ bool Steps::findSubject(const RunContext& context, const Shot& shot, bool& still
     clean_.screen = plate_.screen;
     clean_.screen &= hazyScreen(context, shot, plate_, core_).inverted();
     clean_.difference = plate_.difference;
+    clean_.cloth = plate_.cloth;
+    clean_.dyed = plate_.dyed;
     if (context.isSuperseded()) return false;
     paintPlate(context, shot, frame_, clean_);
     if (context.isSuperseded()) return false;
