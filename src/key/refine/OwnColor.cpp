@@ -7,8 +7,8 @@
 
 #include "core/raster/Pixels.h"
 #include "key/refine/CellRows.h"
-#include "key/refine/FinishLoops.h"
 #include "key/refine/SumLoops.h"
+#include "key/refine/UsualColor.h"
 
 namespace tavrin::refine {
 
@@ -93,6 +93,8 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
         limits.own = blurred(context, least, 3.0);
     }
 
+    limits.usual = usualLead(context, shot, findings.solid);
+    limits.leadKept = std::min(findings.taste.ownGreen, 1.0f);
     const int reach = std::max(2, shot.px(kInnerReach));
     constexpr int kSize = GreenLimits::kInnerCell;
     limits.inner = blurred(context, sharesOf(context, shrunk(context, wholePixels(context, findings), reach), kSize),
@@ -100,11 +102,31 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     return limits;
 }
 
+GreenLimitRows::GreenLimitRows(const GreenLimits& limits, int left, int width)
+    : leadKept_(limits.leadKept),
+      own_(limits.own, limits.size, left, width),
+      cloth_(limits.cloth, limits.size, left, width),
+      inner_(limits.inner, GreenLimits::kInnerCell, left, width),
+      usual_(limits.usual, kUsualCell, left, width),
+      lines_(width, 6),
+      width_(width) {}
+
+GreenRows GreenLimitRows::at(int y) {
+    const auto line = [this](int i) { return lines_.row(i); };
+    own_.fill(y, 0, line(0));
+    inner_.fill(y, 0, line(1));
+    cloth_.fill(y, 0, line(2));
+    finishLoops().raise(line(2), width_, line(1));
+    for (int plane = 0; plane < 3; ++plane)
+        usual_.fill(y, plane, line(3 + plane));
+    return {line(0), line(1), {line(3), line(4), line(5)}, leadKept_};
+}
+
 ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, FinishRows& finish, const Strip& strip)
     : strip_(strip),
       plain_(static_cast<std::size_t>(finish.strip().width)),
       start_(strip, findings.plate),
-      scratch_(strip.width, 12),
+      scratch_(strip.width, 9),
       shares_(strip.width, findings.shot.height, 1,
               [this, &finish](int y, float** planes) {
                   start_.load(y, planes + 4);
@@ -114,49 +136,37 @@ ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, Finish
                                           planes[3], strip_.width, planes[0], planes[1], planes[2]);
               }),
       subject_(findings.separation.subject, findings.separation.size, strip.left, strip.width),
-      own_(limits.own, limits.size, strip.left, strip.width),
-      cloth_(limits.cloth, limits.size, strip.left, strip.width),
-      inner_(limits.inner, GreenLimits::kInnerCell, strip.left, strip.width) {}
+      green_(limits, strip.left, strip.width) {}
 
 void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
     const int width = strip_.width;
     for (int plane = 0; plane < 4; ++plane)
-        sumLoops().boxSums(shares_.around(y, plane, 1), 1, width, scratch_.row(11), scratch_.row(plane));
+        sumLoops().boxSums(shares_.around(y, plane, 1), 1, width, scratch_.row(8), scratch_.row(plane));
     for (int c = 0; c < 3; ++c)
         subject_.fill(y, c, scratch_.row(4 + c));
-    own_.fill(y, 0, scratch_.row(7));
-    inner_.fill(y, 0, scratch_.row(8));
-    cloth_.fill(y, 0, scratch_.row(9));
-    finishLoops().raise(scratch_.row(9), width, scratch_.row(8));
-    loadLuma(strip_, y, scratch_.row(9));
+    loadLuma(strip_, y, scratch_.row(7));
     const auto here = [&](int plane) -> ChannelRow {
         return {shares_.at(y, plane), shares_.at(y, plane + 1), shares_.at(y, plane + 2)};
     };
     const LumaWeights luma(strip_.shot.blue);
-    finishLoops().colors({here(4), here(7), rowsFrom(0), scratch_.row(3), rowsFrom(4), scratch_.row(7),
-                          scratch_.row(8), scratch_.row(9), alpha, luma.r, luma.g, luma.b},
+    finishLoops().colors({here(4), here(7), rowsFrom(0), scratch_.row(3), rowsFrom(4), green_.at(y), scratch_.row(7),
+                          alpha, luma.r, luma.g, luma.b},
                          strip_.shot.blue, width, to);
 }
 
 void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits, const Area& area,
                 std::uint8_t* picture) {
-    CellRows own(limits.own, limits.size, area.left, area.width()),
-        cloth(limits.cloth, limits.size, area.left, area.width()),
-        inner(limits.inner, GreenLimits::kInnerCell, area.left, area.width()),
-        screen(plate.colors, kPlateCell, area.left, area.width());
+    GreenLimitRows green(limits, area.left, area.width());
+    CellRows screen(plate.colors, kPlateCell, area.left, area.width());
     const auto width = static_cast<std::size_t>(area.width());
-    std::vector<float> lines(5 * width);
-    const auto line = [&](std::size_t i) { return lines.data() + i * width; };
+    std::vector<float> lines(3 * width);
+    const ChannelRow behind = {lines.data(), lines.data() + width, lines.data() + 2 * width};
     std::vector<std::uint32_t> pixels(width);
     for (int y = area.top; y < area.bottom; ++y) {
-        own.fill(y, 0, line(0));
-        inner.fill(y, 0, line(1));
-        cloth.fill(y, 0, line(2));
-        finishLoops().raise(line(2), area.width(), line(1));
         for (int plane = 0; plane < 3; ++plane)
-            screen.fill(y, plane, line(2 + static_cast<std::size_t>(plane)));
-        finishLoops().solid(shot.pixelRow(y) + area.left, {line(2), line(3), line(4)}, line(0), line(1), shot.blue,
-                            area.width(), pixels.data());
+            screen.fill(y, plane, lines.data() + static_cast<std::size_t>(plane) * width);
+        finishLoops().solid(shot.pixelRow(y) + area.left, behind, green.at(y), shot.blue, area.width(),
+                            pixels.data());
         std::memcpy(picture + pixelOffset(shot.width, area.left, y), pixels.data(), width * kPixelBytes);
     }
 }

@@ -3,6 +3,7 @@
 #include "key/refine/Areas.h"
 #include "key/refine/CellRows.h"
 #include "key/refine/Finish.h"
+#include "key/refine/FinishLoops.h"
 
 namespace tavrin::refine {
 
@@ -13,9 +14,26 @@ struct GreenLimits {
     Cells own;     ///< what the solid inside nearby has beyond the mean of the other channels; cells of `size`
     Cells
         cloth;  ///< 1 where that is more than the screen could bring: a rim of bluish cloth keeps its cyan; as above
-    Cells inner;  ///< 1 well inside, where a bluish cloth keeps its cyan; cells of `kInnerCell`
+    Cells inner;            ///< 1 well inside, where a bluish cloth keeps its cyan; cells of `kInnerCell`
+    Cells usual;            ///< the subject's usual lead (`usualLead`)
+    float leadKept = 1.0f;  ///< of that, as far as it is above 0
 };
 GreenLimits findLimits(const RunContext& context, const Findings& findings);
+
+/// The same in rows of a strip. For one thread.
+class GreenLimitRows {
+  public:
+    GreenLimitRows(const GreenLimits& limits, int left, int width);
+
+    /// What is found is good until the next call.
+    GreenRows at(int y);
+
+  private:
+    float leadKept_;
+    CellRows own_, cloth_, inner_, usual_;
+    PaddedRows lines_;
+    int width_;
+};
 
 /// The subject's own colour in rows of a strip. For one thread.
 class ColorRows {
@@ -38,7 +56,8 @@ class ColorRows {
     StartRows start_;
     PaddedRows scratch_;
     RowRing<10, Maker> shares_;  // the remainder, alpha, the picture, the plate
-    CellRows subject_, own_, cloth_, inner_;
+    CellRows subject_;
+    GreenLimitRows green_;
 };
 
 /// Columns beyond an area that the windows of the colours look at.
