@@ -22,7 +22,8 @@ using refine::KeySources;
 
 constexpr float kLow = 0.03f, kHigh = 0.97f;  // levels that become 0 and 1
 constexpr float kTopNoise = 0.03f, kKeyGain = 4.0f;
-constexpr float kPull = 0.1f;  // of the subject's usual colour, where little of a pixel's own is there
+constexpr float kPull = 0.3f;       // of the colour around, where little of a pixel's own is there
+constexpr float kUsualPull = 0.1f;  // of the subject's usual one in that
 constexpr float kLumaPull = 0.05f;
 constexpr float kLeastGain = 0.4f, kMostGain = 2.5f;
 
@@ -132,16 +133,19 @@ void remainder(ChannelRow own, ChannelRow screen, const float* alpha, int count,
 }
 
 void colors(const ColorSources& from, bool blue, int count, std::uint32_t* HWY_RESTRICT to) {
-    const auto [own, screen, sums, weights, subject, green, luma, alpha, lumaR, lumaG, lumaB] = from;
+    const auto [own, screen, sums, weights, subject, around, shares, green, luma, alpha, lumaR, lumaG, lumaB] = from;
     const int greenBits = blue ? 16 : 8, blueBits = blue ? 8 : 16;
     for (int x = 0; x < count; ++x) {
         const bool whole = weights[x] >= 9.0f;
         const float share = 1.0f / (weights[x] / 9.0f + kPull), a = alpha[x];
-        const auto unmixed = [&](float sum, float usual) {
-            return std::min(std::max((sum / 9.0f + kPull * usual) * share, 0.0f), 255.0f);
+        const float pull = kPull / (shares[x] + kUsualPull);
+        const auto unmixed = [&](float sum, float near, float usual) {
+            const float there = pull * (near + kUsualPull * usual);
+            return std::min(std::max((sum / 9.0f + there) * share, 0.0f), 255.0f);
         };
-        const float ur = unmixed(sums.r[x], subject.r[x]), ug = unmixed(sums.g[x], subject.g[x]),
-                    ub = unmixed(sums.b[x], subject.b[x]);
+        const float ur = unmixed(sums.r[x], around.r[x], subject.r[x]),
+                    ug = unmixed(sums.g[x], around.g[x], subject.g[x]),
+                    ub = unmixed(sums.b[x], around.b[x], subject.b[x]);
         const float bright = lumaR * ur + lumaG * ug + lumaB * ub;
         const float behind = lumaR * screen.r[x] + lumaG * screen.g[x] + lumaB * screen.b[x];
         const float wanted = std::min(std::max(luma[x] - (1.0f - a) * behind, 0.0f), 255.0f * a);

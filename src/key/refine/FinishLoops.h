@@ -25,6 +25,8 @@ struct ColorSources {
     ChannelRow sums;         ///< of what nine pixels have without the screen's share
     const float* weights;    ///< sums of those pixels' alpha
     ChannelRow subject;      ///< its usual colour around
+    ChannelRow around;       ///< means of what all pixels around have without the screen's share
+    const float* shares;     ///< means of those pixels' alpha
     GreenRows green;
     const float *luma, *alpha;
     float lumaR, lumaG, lumaB;  ///< the luma's weights

@@ -51,18 +51,63 @@ Cells ownGreen(const RunContext& context, const Findings& findings, int size) {
     return cells;
 }
 
-// The pixels that are nearly whole before the detail.
-Mask wholePixels(const RunContext& context, const Findings& findings) {
+// What the subject has of the pixels of an area, summed over cells: the area's own ones, since these are parts of a
+// grain of columns and of a block of rows.
+class AroundSums {
+  public:
+    AroundSums(const Strip& strip, const Plate& plate, Cells& cells)
+        : strip_(strip),
+          start_(strip, plate),
+          cells_(cells),
+          lines_(4 * static_cast<std::size_t>(strip.width)),
+          sums_(lines_.size()) {}
+
+    /// Adds row `y`, if it is one of those that are looked at.
+    void add(int y, const float* alpha) {
+        constexpr int kRowStep = 2;
+        if (y % kRowStep != 0) return;
+        start_.go(y);
+        finishLoops().remainder(start_.own(), start_.screen(), alpha, strip_.width, line(0), line(1), line(2));
+        std::copy_n(alpha, strip_.width, line(3));
+        for (std::size_t i = 0; i < sums_.size(); ++i)
+            sums_[i] += lines_[i] * (static_cast<float>(kRowStep) / (kUsualCell * kUsualCell));
+    }
+
+    /// Ends the cells of row `y`.
+    void end(int y) {
+        for (int plane = 0; plane < 4; ++plane) {
+            float* const to = cells_.row(y / kUsualCell, plane) + strip_.left / kUsualCell;
+            const float* const from = sums_.data() + plane * std::ptrdiff_t{strip_.width};
+            for (int x = 0; x < strip_.width; ++x)
+                to[x / kUsualCell] += from[x];
+        }
+        std::fill(sums_.begin(), sums_.end(), 0.0f);
+    }
+
+  private:
+    float* line(int i) { return lines_.data() + i * std::ptrdiff_t{strip_.width}; }
+
+    Strip strip_;
+    StartRows start_;
+    Cells& cells_;
+    std::vector<float> lines_, sums_;
+};
+
+// The pixels that are nearly whole before the detail, and what is around the open ones.
+Mask wholePixels(const RunContext& context, const Findings& findings, Cells& around) {
     const Shot& shot = findings.shot;
     Mask whole = findings.solid;
     runAreas(context, findings.open, [&](const Area& area) {
         const Strip strip = area.strip(shot, 0);
         std::vector<float> alpha(static_cast<std::size_t>(strip.width)), scratch(alpha);
         std::vector<std::uint8_t> flags(alpha.size() + 8);
+        AroundSums sums(strip, findings.plate, around);
         for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
             plainAlpha(findings, strip, y, scratch.data(), alpha.data());
             rowLoops().above(alpha.data(), kWhole, strip.width, flags.data());
             whole.pack(y, area.left, area.width(), flags.data());
+            sums.add(y, alpha.data());
+            if ((y + 1) % kUsualCell == 0 || y + 1 == area.bottom) sums.end(y);
         }
     });
     return whole;
@@ -97,7 +142,9 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     limits.leadKept = std::min(findings.taste.ownGreen, 1.0f);
     const int reach = std::max(2, shot.px(kInnerReach));
     constexpr int kSize = GreenLimits::kInnerCell;
-    limits.inner = blurred(context, sharesOf(context, shrunk(context, wholePixels(context, findings), reach), kSize),
+    limits.around = Cells::over(shot.width, shot.height, kUsualCell, 4);
+    const Mask whole = wholePixels(context, findings, limits.around);
+    limits.inner = blurred(context, sharesOf(context, shrunk(context, whole, reach), kSize),
                            std::max(0.0, (2.0 * reach + 1.0) / kSize - 1.0) / 2.0);
     return limits;
 }
@@ -126,7 +173,7 @@ ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, Finish
     : strip_(strip),
       plain_(static_cast<std::size_t>(finish.strip().width)),
       start_(strip, findings.plate),
-      scratch_(strip.width, 9),
+      scratch_(strip.width, 13),
       shares_(strip.width, findings.shot.height, 1,
               [this, &finish](int y, float** planes) {
                   start_.load(y, planes + 4);
@@ -136,21 +183,24 @@ ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, Finish
                                           planes[3], strip_.width, planes[0], planes[1], planes[2]);
               }),
       subject_(findings.separation.subject, findings.separation.size, strip.left, strip.width),
+      around_(limits.around, kUsualCell, strip.left, strip.width),
       green_(limits, strip.left, strip.width) {}
 
 void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
     const int width = strip_.width;
     for (int plane = 0; plane < 4; ++plane)
-        sumLoops().boxSums(shares_.around(y, plane, 1), 1, width, scratch_.row(8), scratch_.row(plane));
+        sumLoops().boxSums(shares_.around(y, plane, 1), 1, width, scratch_.row(12), scratch_.row(plane));
     for (int c = 0; c < 3; ++c)
         subject_.fill(y, c, scratch_.row(4 + c));
+    for (int plane = 0; plane < 4; ++plane)
+        around_.fill(y, plane, scratch_.row(8 + plane));
     loadLuma(strip_, y, scratch_.row(7));
     const auto here = [&](int plane) -> ChannelRow {
         return {shares_.at(y, plane), shares_.at(y, plane + 1), shares_.at(y, plane + 2)};
     };
     const LumaWeights luma(strip_.shot.blue);
-    finishLoops().colors({here(4), here(7), rowsFrom(0), scratch_.row(3), rowsFrom(4), green_.at(y), scratch_.row(7),
-                          alpha, luma.r, luma.g, luma.b},
+    finishLoops().colors({here(4), here(7), rowsFrom(0), scratch_.row(3), rowsFrom(4), rowsFrom(8), scratch_.row(11),
+                          green_.at(y), scratch_.row(7), alpha, luma.r, luma.g, luma.b},
                          strip_.shot.blue, width, to);
 }
 

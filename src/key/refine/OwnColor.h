@@ -7,7 +7,7 @@
 
 namespace tavrin::refine {
 
-/// How green the subject may be at each place.
+/// How green the subject may be at each place, and what is around it.
 struct GreenLimits {
     static constexpr int kInnerCell = 4;
     int size = 8;  ///< of the cells of the first two: 8, or 4 in a small picture
@@ -17,6 +17,7 @@ struct GreenLimits {
     Cells inner;            ///< 1 well inside, where a bluish cloth keeps its cyan; cells of `kInnerCell`
     Cells usual;            ///< the subject's usual lead (`usualLead`)
     float leadKept = 1.0f;  ///< of that, as far as it is above 0
+    Cells around;  ///< means of the open pixels' colours times their alpha, and of that; cells of `kUsualCell`
 };
 GreenLimits findLimits(const RunContext& context, const Findings& findings);
 
@@ -56,7 +57,7 @@ class ColorRows {
     StartRows start_;
     PaddedRows scratch_;
     RowRing<10, Maker> shares_;  // the remainder, alpha, the picture, the plate
-    CellRows subject_;
+    CellRows subject_, around_;
     GreenLimitRows green_;
 };
 
