@@ -19,6 +19,7 @@ constexpr float kWhole = 0.98f;
 constexpr double kFewCells = 20.0;
 constexpr float kMaybeCloth = 0.3f, kSurelyCloth = 0.6f;  // of the screen's difference
 constexpr float kMostOwn = 0.45f;                         // of the screen's difference
+constexpr double kFarReach = 60.0;                        // from edges, where next to no light of the screen comes
 
 // Adds some columns of one row of cells.
 void sumGreen(const Mask& deep, int row, int size, const Strip& strip, Cells& cells) {
@@ -49,6 +50,21 @@ Cells ownGreen(const RunContext& context, const Findings& findings, int size) {
         });
     });
     return cells;
+}
+
+// The least around of what there is on cells far from all edges; 0 where there are next to none.
+Cells farGreen(const RunContext& context, const Shot& shot, Cells green, int size) {
+    Cells depth(green.columns(), green.rows(), 1);
+    for (std::size_t i = 0; i < depth.count(); ++i)
+        depth.row(0, 0)[i] = green.row(0, 1)[i] > 0.99f ? 1.0f : 0.0f;
+    const int cells = static_cast<int>(std::lround(shot.px(kFarReach - kDeepReach) / (2.0 * size)));
+    for (int i = 0; i < std::max(cells, 1); ++i)
+        depth = least5(depth);
+    for (std::size_t i = 0; i < depth.count(); ++i) {
+        green.row(0, 0)[i] *= depth.row(0, 0)[i];
+        green.row(0, 1)[i] *= depth.row(0, 0)[i];
+    }
+    return green.sums()[1] > kFewCells ? least5(pushPull(context, green)) : Cells(green.columns(), green.rows(), 1);
 }
 
 // What the subject has of the pixels of an area, summed over cells: the area's own ones, since these are parts of a
@@ -121,19 +137,23 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     limits.size = shot.px(kOwnCell) < 6 ? 4 : 8;  // parts of a grain of columns
     const Cells green = ownGreen(context, findings, limits.size);
     limits.own = limits.cloth = Cells(green.columns(), green.rows(), 1);
-    if (green.sums()[1] > kFewCells) {
+    if (green.sums()[1] > kFewCells && !context.isSuperseded()) {
         const float usual = findings.plate.difference;
         Cells least = least5(pushPull(context, green)), cloth = least;
         for (std::size_t i = 0; i < cloth.count(); ++i)
             cloth.row(0, 0)[i] = smoothStep(cloth.row(0, 0)[i], kMaybeCloth * usual, kSurelyCloth * usual) *
                                  std::min(findings.taste.ownGreen, 1.0f);
         limits.cloth = blurred(context, cloth, 3.0);
-        // Much and smooth, or it is spill: on black that stays below.
+        // Much and smooth, or it is spill: on black that stays below. Far from all edges less is enough: a dark suit
+        // of the screen's hue.
+        const Cells far = farGreen(context, shot, green, limits.size);
         for (std::size_t i = 0; i < least.count(); ++i) {
             float& own = least.row(0, 0)[i];
+            const float deep = std::min(own, far.row(0, 0)[i]);
             own = std::min(own, kMostOwn * usual);
-            own *= smoothStep(own, std::max(0.12f * usual, 18.0f), std::max(0.25f * usual, 32.0f)) *
-                   findings.taste.ownGreen;
+            own = std::max(own * smoothStep(own, std::max(0.12f * usual, 18.0f), std::max(0.25f * usual, 32.0f)),
+                           deep * smoothStep(deep, std::max(0.08f * usual, 12.0f), std::max(0.16f * usual, 20.0f)));
+            own *= findings.taste.ownGreen;
         }
         limits.own = blurred(context, least, 3.0);
     }

@@ -98,13 +98,14 @@ Spread widened(const Spread& cell, const Spread& common) {
 }  // namespace
 
 Cells usualLead(const RunContext& context, const Shot& shot, const Mask& solid) {
-    const Mask inside = shrunk(context, solid, shot.px(kFarReach));
     Cells cells = Cells::over(shot.width, shot.height, kUsualCell, static_cast<int>(kSums) + 1);
+    Cells lead(cells.columns(), cells.rows(), 3);
+    if (context.isSuperseded()) return lead;
+    const Mask inside = shrunk(context, solid, shot.px(kFarReach));
     runRows(context, cells.rows(), 2, [&](int row) {
         forColumns(inside, row * kUsualCell, std::min((row + 1) * kUsualCell, shot.height),
                    [&](int left, int right) { sumColors(shot, inside, row, left, right, cells); });
     });
-    Cells lead(cells.columns(), cells.rows(), 3);
     const std::vector<double> sums = cells.sums();
     if (sums[kSums] <= kFewCells) return lead;
     std::array<double, kSums> overall;
