@@ -52,19 +52,28 @@ Cells ownGreen(const RunContext& context, const Findings& findings, int size) {
     return cells;
 }
 
-// The least around of what there is on cells far from all edges; 0 where there are next to none.
-Cells farGreen(const RunContext& context, const Shot& shot, Cells green, int size) {
-    Cells depth(green.columns(), green.rows(), 1);
-    for (std::size_t i = 0; i < depth.count(); ++i)
-        depth.row(0, 0)[i] = green.row(0, 1)[i] > 0.99f ? 1.0f : 0.0f;
-    const int cells = static_cast<int>(std::lround(shot.px(kFarReach - kDeepReach) / (2.0 * size)));
-    for (int i = 0; i < std::max(cells, 1); ++i)
-        depth = least5(depth);
-    for (std::size_t i = 0; i < depth.count(); ++i) {
-        green.row(0, 0)[i] *= depth.row(0, 0)[i];
-        green.row(0, 1)[i] *= depth.row(0, 0)[i];
+// What there is on cells far from all edges; all 0 where none of them has more than `least`.
+Cells farGreen(const RunContext& context, const Shot& shot, Cells green, int size, float least) {
+    Mask inside(green.columns(), green.rows());
+    std::vector<std::uint8_t> flags(static_cast<std::size_t>(green.columns()) + 8);
+    for (int y = 0; y < green.rows(); ++y) {
+        rowLoops().above(green.row(y, 1), 0.99f, green.columns(), flags.data());
+        inside.pack(y, flags.data());
     }
-    return green.sums()[1] > kFewCells ? least5(pushPull(context, green)) : Cells(green.columns(), green.rows(), 1);
+    const Mask far = shrunk(context, inside, std::max(1, shot.px(kFarReach - kDeepReach) / size));
+    bool any = false;
+    std::vector<float> share(static_cast<std::size_t>(green.columns()));
+    for (int y = 0; y < green.rows(); ++y) {
+        float *const lead = green.row(y, 0), *const weight = green.row(y, 1);
+        far.unpack(y, 0, green.columns(), share.data());
+        for (int x = 0; x < green.columns(); ++x) {
+            lead[x] *= share[static_cast<std::size_t>(x)];
+            weight[x] *= share[static_cast<std::size_t>(x)];
+            any = any || lead[x] > least;
+        }
+    }
+    if (!any || green.sums()[1] <= kFewCells) return Cells(green.columns(), green.rows(), 1);
+    return pushPull(context, green);
 }
 
 // What the subject has of the pixels of an area, summed over cells: the area's own ones, since these are parts of a
@@ -80,7 +89,7 @@ class AroundSums {
 
     /// Adds row `y`, if it is one of those that are looked at.
     void add(int y, const float* alpha) {
-        constexpr int kRowStep = 2;
+        constexpr int kRowStep = 4;
         if (y % kRowStep != 0) return;
         start_.go(y);
         finishLoops().remainder(start_.own(), start_.screen(), alpha, strip_.width, line(0), line(1), line(2));
@@ -146,13 +155,14 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
         limits.cloth = blurred(context, cloth, 3.0);
         // Much and smooth, or it is spill: on black that stays below. Far from all edges less is enough: a dark suit
         // of the screen's hue.
-        const Cells far = farGreen(context, shot, green, limits.size);
+        const float leastFar = std::max(0.08f * usual, 12.0f);
+        const Cells far = farGreen(context, shot, green, limits.size, leastFar);
         for (std::size_t i = 0; i < least.count(); ++i) {
             float& own = least.row(0, 0)[i];
             const float deep = std::min(own, far.row(0, 0)[i]);
             own = std::min(own, kMostOwn * usual);
             own = std::max(own * smoothStep(own, std::max(0.12f * usual, 18.0f), std::max(0.25f * usual, 32.0f)),
-                           deep * smoothStep(deep, std::max(0.08f * usual, 12.0f), std::max(0.16f * usual, 20.0f)));
+                           deep * smoothStep(deep, leastFar, std::max(0.16f * usual, 20.0f)));
             own *= findings.taste.ownGreen;
         }
         limits.own = blurred(context, least, 3.0);

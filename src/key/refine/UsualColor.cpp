@@ -15,7 +15,7 @@ namespace tavrin::refine {
 namespace {
 
 constexpr double kFarReach = 20.0;    // from the edges of the inside
-constexpr int kRowStep = 2;           // of the rows that are looked at
+constexpr int kRowStep = 4;           // of the rows that are looked at
 constexpr double kFewCells = 5.0;     // of the inside, far from its edges
 constexpr double kCommonShare = 0.1;  // of the spread over the whole subject in that of a cell
 constexpr double kNoise = 100.0;      // of a channel, squared
