@@ -277,6 +277,62 @@ TEST(RefineKey, TheRimOfGreenClothIsAsGreenAsItsInsideAndThatOfOthersIsNot) {
     EXPECT_GT(missing({60.0, 90.0, 140.0}), 30) << "blue: the screen's light goes";
 }
 
+TEST(RefineKey, WhatTheScreenLendsARimIsToldByTheInsidesColours) {
+    const Rgb screen{50.0, 145.0, 72.0};
+    // Least and most of the screen's channel at the end of a rim of 10 pixels that the screen lights, and that gets
+    // darker.
+    const auto rimOf = [&](const Rgb& own, double lent, double dark) {
+        KeyScene scene(480, 360, {50, 145, 72, 255});
+        scene.info.baseRed = screen.r;
+        scene.info.baseGreen = screen.g;
+        scene.info.baseBlue = screen.b;
+        for (int y = 0; y < 360; ++y) {
+            for (int x = 98; x < 480; ++x) {
+                const double near = std::clamp((108.0 - x) / 4.0, 0.0, 1.0), light = 1.0 - dark * near;
+                const Rgb lit{own.r * light, own.g * light + lent * near, own.b * light};
+                scene.at(scene.foreground, x, y) = mixed(lit, screen, std::clamp((x - 97.5) / 4.0, 0.0, 1.0));
+            }
+        }
+        scene.info.bRefineKey = scene.info.bOutputTransparency = true;
+        Combine(scene.info, 1, 1);
+        std::pair<int, int> range{255, 0};
+        for (int x = 100; x < 104; ++x) {
+            const int green = scene.at(scene.combined, x, 180)[1];
+            range = {std::min(range.first, green), std::max(range.second, green)};
+        }
+        return range;
+    };
+    EXPECT_LT(rimOf({90.0, 48.0, 38.0}, 20.0, 0.0).second, 60)
+        << "brown hair is not as green as its red and blue allow";
+    EXPECT_GT(rimOf({205.0, 165.0, 110.0}, 0.0, 0.0).first, 159) << "blond hair gets no redder";
+    EXPECT_LT(rimOf({205.0, 165.0, 110.0}, 30.0, 0.0).second, 172) << "nor does it stay green";
+    EXPECT_LT(rimOf({120.0, 20.0, 96.0}, 10.0, 1.0).second, 40) << "a colour that has less than none has none";
+}
+
+TEST(RefineKey, ADarkSuitOfTheScreensHueKeepsItAndBlackClothTakesNoneUp) {
+    const Rgb screen{50.0, 145.0, 72.0};
+    // The screen's channel in the middle and near the edge.
+    const auto greenOf = [&](const Rgb& own, double lent) {
+        KeyScene scene(480, 360, {50, 145, 72, 255});
+        scene.info.baseRed = screen.r;
+        scene.info.baseGreen = screen.g;
+        scene.info.baseBlue = screen.b;
+        scene.info.iGreenProtectMode = 0;
+        for (int y = 0; y < 360; ++y) {
+            for (int x = 120; x < 480; ++x) {
+                const double near = std::clamp((144.0 - x) / 24.0, 0.0, 1.0);
+                scene.at(scene.foreground, x, y) = mixed({own.r, own.g + lent * near, own.b}, screen, 1.0);
+            }
+        }
+        scene.info.bRefineKey = true;
+        Combine(scene.info, 1, 1);
+        return std::pair<int, int>{scene.at(scene.combined, 300, 180)[1], scene.at(scene.combined, 124, 180)[1]};
+    };
+    EXPECT_GT(greenOf({40.0, 60.0, 45.0}, 0.0).first, 55) << "dark green cloth";
+    EXPECT_GT(greenOf({40.0, 60.0, 45.0}, 0.0).second, 52) << "up to its edge";
+    EXPECT_LT(greenOf({25.0, 25.0, 27.0}, 25.0).second, 30) << "black cloth that the screen lights";
+}
+
 TEST(RefineKey, ADeepShadowInAGapIsScreenWhereTheKeyHasNothing) {
     // Between two arms, too dark for a seed.
     KeyScene scene(480, 480);

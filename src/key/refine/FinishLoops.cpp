@@ -17,11 +17,13 @@ namespace {
 using refine::ChannelRow;
 using refine::ColorSources;
 using refine::EdgeShape;
+using refine::GreenRows;
 using refine::KeySources;
 
 constexpr float kLow = 0.03f, kHigh = 0.97f;  // levels that become 0 and 1
 constexpr float kTopNoise = 0.03f, kKeyGain = 4.0f;
-constexpr float kPull = 0.1f;  // of the subject's usual colour, where little of a pixel's own is there
+constexpr float kPull = 0.3f;       // of the colour around, where little of a pixel's own is there
+constexpr float kUsualPull = 0.1f;  // of the subject's usual one in that
 constexpr float kLumaPull = 0.05f;
 constexpr float kLeastGain = 0.4f, kMostGain = 2.5f;
 
@@ -37,17 +39,34 @@ struct Color {
     float r, g, b;
 };
 
-// How much of the screen's channel the subject keeps: reddish cloth is green's neighbour, bluish cloth is not. What
-// the screen's light cannot have brought, since it would have brought more of the other channels too, is the
-// subject's own, as far as there is a subject.
-HWY_INLINE float keptGreen(Color own, Color screen, float green, float cyan, float alpha) {
+// What the subject's colours have of the screen's channel beyond the mean of the others, as far as that can be. A lag
+// is less by a fifth than the inside has it, since edges are paler, and little where the others are alike, since that
+// is white or grey. A lead hardly goes beyond the mean on the reddish side, where skin and hair lie and what is
+// greener than they are has been lit by the screen, and on the bluish side not beyond the larger of the others; the
+// subject's own green comes on top.
+HWY_INLINE float usualLead(Color own, const GreenRows& rows, int x) {
+    constexpr float kLag = 0.8f, kGreyLag = 4.0f, kColorLag = 0.2f, kReddish = 0.1f, kBluish = 0.5f;
+    const float lead = rows.usual.r[x] + rows.usual.g[x] * own.r + rows.usual.b[x] * own.b;
+    const float redder = own.r - own.b, apart = std::max(redder, -redder);
+    const float most = std::max(kReddish * redder, -kBluish * redder) + rows.own[x];
+    const float least = -(kGreyLag + kColorLag * apart);
+    return std::max(std::min(std::max(lead, 0.0f) * rows.leadKept, most) + std::min(lead, 0.0f) * kLag, least);
+}
+
+// How much of the screen's channel the subject keeps: what its colours usually have. Well inside, at least what is
+// given without knowing them: reddish cloth is green's neighbour, bluish cloth is not. What the screen's light cannot
+// have brought, since it would have brought more of the other channels too, is the subject's own, as far as there is
+// a subject.
+HWY_INLINE float keptGreen(Color own, Color screen, const GreenRows& rows, int x, float alpha) {
     constexpr float kNoise = 10.0f;
-    const float mean = (own.r + own.b) * 0.5f;
-    const float most = (own.b > own.r ? mean + cyan * (own.b - mean) : mean) + green;
+    const float mean = (own.r + own.b) * 0.5f, cyan = rows.cyan[x];
+    const float anyway = (own.b > own.r ? mean + cyan * (own.b - mean) : mean) + rows.own[x];
+    const float usual = mean + usualLead(own, rows, x);
+    const float above = std::max(anyway - usual, 0.0f);
     const float light =
         std::min((own.r + kNoise) / std::max(screen.r, 1.0f), (own.b + kNoise) / std::max(screen.b, 1.0f));
-    const float beyond = std::max(own.g - light * screen.g - most, 0.0f);
-    return std::min(own.g, most + alpha * beyond);
+    const float beyond = std::max(own.g - light * screen.g - (usual + above), 0.0f);
+    return std::max(std::min(own.g, usual + cyan * above + alpha * beyond), 0.0f);
 }
 
 void levels(const float* HWY_RESTRICT alpha, const float* HWY_RESTRICT detail, float strength, int count,
@@ -126,16 +145,19 @@ void remainder(ChannelRow own, ChannelRow screen, const float* alpha, int count,
 }
 
 void colors(const ColorSources& from, bool blue, int count, std::uint32_t* HWY_RESTRICT to) {
-    const auto [own, screen, sums, weights, subject, green, cyan, luma, alpha, lumaR, lumaG, lumaB] = from;
+    const auto [own, screen, sums, weights, subject, around, shares, green, luma, alpha, lumaR, lumaG, lumaB] = from;
     const int greenBits = blue ? 16 : 8, blueBits = blue ? 8 : 16;
     for (int x = 0; x < count; ++x) {
         const bool whole = weights[x] >= 9.0f;
         const float share = 1.0f / (weights[x] / 9.0f + kPull), a = alpha[x];
-        const auto unmixed = [&](float sum, float usual) {
-            return std::min(std::max((sum / 9.0f + kPull * usual) * share, 0.0f), 255.0f);
+        const float pull = kPull / (shares[x] + kUsualPull);
+        const auto unmixed = [&](float sum, float near, float usual) {
+            const float there = pull * (near + kUsualPull * usual);
+            return std::min(std::max((sum / 9.0f + there) * share, 0.0f), 255.0f);
         };
-        const float ur = unmixed(sums.r[x], subject.r[x]), ug = unmixed(sums.g[x], subject.g[x]),
-                    ub = unmixed(sums.b[x], subject.b[x]);
+        const float ur = unmixed(sums.r[x], around.r[x], subject.r[x]),
+                    ug = unmixed(sums.g[x], around.g[x], subject.g[x]),
+                    ub = unmixed(sums.b[x], around.b[x], subject.b[x]);
         const float bright = lumaR * ur + lumaG * ug + lumaB * ub;
         const float behind = lumaR * screen.r[x] + lumaG * screen.g[x] + lumaB * screen.b[x];
         const float wanted = std::min(std::max(luma[x] - (1.0f - a) * behind, 0.0f), 255.0f * a);
@@ -144,21 +166,22 @@ void colors(const ColorSources& from, bool blue, int count, std::uint32_t* HWY_R
                      kMostGain);
         const float gain = whole ? 1.0f : measured;
         const float r = whole ? own.r[x] : ur, g = whole ? own.g[x] : ug, b = whole ? own.b[x] : ub;
-        const float kept = keptGreen({r, g, b}, {screen.r[x], screen.g[x], screen.b[x]}, green[x], cyan[x], a);
+        const float kept = keptGreen({r, g, b}, {screen.r[x], screen.g[x], screen.b[x]}, green, x, a);
         to[x] = byteOf(r * gain) | byteOf(kept * gain) << greenBits | byteOf(b * gain) << blueBits |
                 byteOf(a * 255.0f) << 24;
     }
 }
 
-void solid(const std::uint32_t* HWY_RESTRICT pixels, ChannelRow screen, const float* HWY_RESTRICT green,
-           const float* HWY_RESTRICT cyan, bool blue, int count, std::uint32_t* HWY_RESTRICT to) {
+void solid(const std::uint32_t* HWY_RESTRICT pixels, ChannelRow screen, const GreenRows& rows, bool blue, int count,
+           std::uint32_t* HWY_RESTRICT to) {
+    const GreenRows green = rows;
     const int greenBits = blue ? 16 : 8, blueBits = blue ? 8 : 16;
     for (int x = 0; x < count; ++x) {
         const auto at = [&](int bits) {
             return static_cast<float>(static_cast<std::int32_t>(pixels[x] >> bits & 255));
         };
-        const float kept = keptGreen({at(0), at(greenBits), at(blueBits)}, {screen.r[x], screen.g[x], screen.b[x]},
-                                     green[x], cyan[x], 1.0f);
+        const float kept =
+            keptGreen({at(0), at(greenBits), at(blueBits)}, {screen.r[x], screen.g[x], screen.b[x]}, green, x, 1.0f);
         to[x] = (pixels[x] & ~(std::uint32_t{255} << greenBits)) | byteOf(kept) << greenBits | 0xFF000000u;
     }
 }

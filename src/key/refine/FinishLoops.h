@@ -11,13 +11,23 @@ struct EdgeShape {
     float tint = 0.0f, shift = 0.0f;
 };
 
+/// How much of the screen's channel the subject may have, row by row.
+struct GreenRows {
+    const float* own;   ///< what much of its own green has beyond the mean of the others
+    const float* cyan;  ///< how much of a bluish cloth's cyan stays; 1 well inside
+    ChannelRow usual;   ///< its usual lead over that mean, as a line: the base, and by the channels r and b
+    float leadKept;     ///< of that, as far as it is above 0
+};
+
 /// What the colours of the subject are made of, row by row. In roles, 0 to 255.
 struct ColorSources {
-    ChannelRow own, screen;     ///< the picture and the plate
-    ChannelRow sums;            ///< of what nine pixels have without the screen's share
-    const float* weights;       ///< sums of those pixels' alpha
-    ChannelRow subject;         ///< its usual colour around
-    const float *green, *cyan;  ///< its own green, and how much of a bluish cloth's cyan stays
+    ChannelRow own, screen;  ///< the picture and the plate
+    ChannelRow sums;         ///< of what nine pixels have without the screen's share
+    const float* weights;    ///< sums of those pixels' alpha
+    ChannelRow subject;      ///< its usual colour around
+    ChannelRow around;       ///< means of what all pixels around have without the screen's share
+    const float* shares;     ///< means of those pixels' alpha
+    GreenRows green;
     const float *luma, *alpha;
     float lumaR, lumaG, lumaB;  ///< the luma's weights
 };
@@ -55,8 +65,8 @@ struct FinishLoops {
     /// The subject's colour and alpha as RGBA; what is whole around keeps its own colour, but for the screen's tint.
     void (*colors)(const ColorSources& from, bool blue, int count, std::uint32_t* to);
     /// The same well inside, over a plate.
-    void (*solid)(const std::uint32_t* pixels, ChannelRow screen, const float* green, const float* cyan, bool blue,
-                  int count, std::uint32_t* to);
+    void (*solid)(const std::uint32_t* pixels, ChannelRow screen, const GreenRows& green, bool blue, int count,
+                  std::uint32_t* to);
 };
 
 const FinishLoops& finishLoops();

@@ -7,8 +7,8 @@
 
 #include "core/raster/Pixels.h"
 #include "key/refine/CellRows.h"
-#include "key/refine/FinishLoops.h"
 #include "key/refine/SumLoops.h"
+#include "key/refine/UsualColor.h"
 
 namespace tavrin::refine {
 
@@ -19,6 +19,7 @@ constexpr float kWhole = 0.98f;
 constexpr double kFewCells = 20.0;
 constexpr float kMaybeCloth = 0.3f, kSurelyCloth = 0.6f;  // of the screen's difference
 constexpr float kMostOwn = 0.45f;                         // of the screen's difference
+constexpr double kFarReach = 60.0;                        // from edges, where next to no light of the screen comes
 
 // Adds some columns of one row of cells.
 void sumGreen(const Mask& deep, int row, int size, const Strip& strip, Cells& cells) {
@@ -51,18 +52,87 @@ Cells ownGreen(const RunContext& context, const Findings& findings, int size) {
     return cells;
 }
 
-// The pixels that are nearly whole before the detail.
-Mask wholePixels(const RunContext& context, const Findings& findings) {
+// What there is on cells far from all edges; all 0 where none of them has more than `least`.
+Cells farGreen(const RunContext& context, const Shot& shot, Cells green, int size, float least) {
+    Mask inside(green.columns(), green.rows());
+    std::vector<std::uint8_t> flags(static_cast<std::size_t>(green.columns()) + 8);
+    for (int y = 0; y < green.rows(); ++y) {
+        rowLoops().above(green.row(y, 1), 0.99f, green.columns(), flags.data());
+        inside.pack(y, flags.data());
+    }
+    const Mask far = shrunk(context, inside, std::max(1, shot.px(kFarReach - kDeepReach) / size));
+    bool any = false;
+    std::vector<float> share(static_cast<std::size_t>(green.columns()));
+    for (int y = 0; y < green.rows(); ++y) {
+        float *const lead = green.row(y, 0), *const weight = green.row(y, 1);
+        far.unpack(y, 0, green.columns(), share.data());
+        for (int x = 0; x < green.columns(); ++x) {
+            lead[x] *= share[static_cast<std::size_t>(x)];
+            weight[x] *= share[static_cast<std::size_t>(x)];
+            any = any || lead[x] > least;
+        }
+    }
+    if (!any || green.sums()[1] <= kFewCells) return Cells(green.columns(), green.rows(), 1);
+    return pushPull(context, green);
+}
+
+// What the subject has of the pixels of an area, summed over cells: the area's own ones, since these are parts of a
+// grain of columns and of a block of rows.
+class AroundSums {
+  public:
+    AroundSums(const Strip& strip, const Plate& plate, Cells& cells)
+        : strip_(strip),
+          start_(strip, plate),
+          cells_(cells),
+          lines_(4 * static_cast<std::size_t>(strip.width)),
+          sums_(lines_.size()) {}
+
+    /// Adds row `y`, if it is one of those that are looked at.
+    void add(int y, const float* alpha) {
+        constexpr int kRowStep = 4;
+        if (y % kRowStep != 0) return;
+        start_.go(y);
+        finishLoops().remainder(start_.own(), start_.screen(), alpha, strip_.width, line(0), line(1), line(2));
+        std::copy_n(alpha, strip_.width, line(3));
+        for (std::size_t i = 0; i < sums_.size(); ++i)
+            sums_[i] += lines_[i] * (static_cast<float>(kRowStep) / (kUsualCell * kUsualCell));
+    }
+
+    /// Ends the cells of row `y`.
+    void end(int y) {
+        for (int plane = 0; plane < 4; ++plane) {
+            float* const to = cells_.row(y / kUsualCell, plane) + strip_.left / kUsualCell;
+            const float* const from = sums_.data() + plane * std::ptrdiff_t{strip_.width};
+            for (int x = 0; x < strip_.width; ++x)
+                to[x / kUsualCell] += from[x];
+        }
+        std::fill(sums_.begin(), sums_.end(), 0.0f);
+    }
+
+  private:
+    float* line(int i) { return lines_.data() + i * std::ptrdiff_t{strip_.width}; }
+
+    Strip strip_;
+    StartRows start_;
+    Cells& cells_;
+    std::vector<float> lines_, sums_;
+};
+
+// The pixels that are nearly whole before the detail, and what is around the open ones.
+Mask wholePixels(const RunContext& context, const Findings& findings, Cells& around) {
     const Shot& shot = findings.shot;
     Mask whole = findings.solid;
     runAreas(context, findings.open, [&](const Area& area) {
         const Strip strip = area.strip(shot, 0);
         std::vector<float> alpha(static_cast<std::size_t>(strip.width)), scratch(alpha);
         std::vector<std::uint8_t> flags(alpha.size() + 8);
+        AroundSums sums(strip, findings.plate, around);
         for (int y = area.top; y < area.bottom && !context.isSuperseded(); ++y) {
             plainAlpha(findings, strip, y, scratch.data(), alpha.data());
             rowLoops().above(alpha.data(), kWhole, strip.width, flags.data());
             whole.pack(y, area.left, area.width(), flags.data());
+            sums.add(y, alpha.data());
+            if ((y + 1) % kUsualCell == 0 || y + 1 == area.bottom) sums.end(y);
         }
     });
     return whole;
@@ -96,7 +166,7 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     limits.dye = findings.taste.ownGreen;
     const Cells green = ownGreen(context, findings, limits.size);
     limits.own = limits.cloth = Cells(green.columns(), green.rows(), 1);
-    if (green.sums()[1] > kFewCells) {
+    if (green.sums()[1] > kFewCells && !context.isSuperseded()) {
         const float usual = findings.plate.difference;
         Cells least = least5(pushPull(context, green)), cloth = least;
         for (std::size_t i = 0; i < cloth.count(); ++i)
@@ -104,30 +174,59 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
                                  std::min(findings.taste.ownGreen, 1.0f);
         limits.cloth = blurred(context, cloth, 3.0);
         // Much and smooth, or it is spill: on black that stays below. What is cloth near the screen's hue has all of
-        // it.
-        const Cells dyed = clothAround(context, findings.plate.dyed, limits.size);
+        // it. Far from all edges less is enough: a dark suit of the screen's hue.
+        const float leastFar = std::max(0.08f * usual, 12.0f);
+        const Cells far = farGreen(context, shot, green, limits.size, leastFar),
+                    dyed = clothAround(context, findings.plate.dyed, limits.size);
         for (std::size_t i = 0; i < least.count(); ++i) {
             float& own = least.row(0, 0)[i];
+            const float deep = std::min(own, far.row(0, 0)[i]);
             const float share = dyed.count() > 0 ? dyed.row(0, 0)[i] : 0.0f;
             own = std::min(own, (kMostOwn + share) * usual);
-            own *= smoothStep(own, std::max(0.12f * usual, 18.0f), std::max(0.25f * usual, 32.0f)) *
-                   findings.taste.ownGreen;
+            own = std::max(own * smoothStep(own, std::max(0.12f * usual, 18.0f), std::max(0.25f * usual, 32.0f)),
+                           deep * smoothStep(deep, leastFar, std::max(0.16f * usual, 20.0f)));
+            own *= findings.taste.ownGreen;
         }
         limits.own = blurred(context, least, 3.0);
     }
 
+    limits.usual = usualLead(context, shot, findings.solid);
+    limits.leadKept = std::min(findings.taste.ownGreen, 1.0f);
     const int reach = std::max(2, shot.px(kInnerReach));
     constexpr int kSize = GreenLimits::kInnerCell;
-    limits.inner = blurred(context, sharesOf(context, shrunk(context, wholePixels(context, findings), reach), kSize),
+    limits.around = Cells::over(shot.width, shot.height, kUsualCell, 4);
+    const Mask whole = wholePixels(context, findings, limits.around);
+    limits.inner = blurred(context, sharesOf(context, shrunk(context, whole, reach), kSize),
                            std::max(0.0, (2.0 * reach + 1.0) / kSize - 1.0) / 2.0);
     return limits;
+}
+
+GreenLimitRows::GreenLimitRows(const GreenLimits& limits, const Strip& strip)
+    : limits_(limits),
+      strip_(strip),
+      own_(limits.own, limits.size, strip.left, strip.width),
+      cloth_(limits.cloth, limits.size, strip.left, strip.width),
+      inner_(limits.inner, GreenLimits::kInnerCell, strip.left, strip.width),
+      usual_(limits.usual, kUsualCell, strip.left, strip.width),
+      lines_(strip.width, 6) {}
+
+GreenRows GreenLimitRows::at(int y) {
+    const auto line = [this](int i) { return lines_.row(i); };
+    own_.fill(y, 0, line(0));
+    keepDye(limits_, strip_, y, line(0));
+    inner_.fill(y, 0, line(1));
+    cloth_.fill(y, 0, line(2));
+    finishLoops().raise(line(2), strip_.width, line(1));
+    for (int plane = 0; plane < 3; ++plane)
+        usual_.fill(y, plane, line(3 + plane));
+    return {line(0), line(1), {line(3), line(4), line(5)}, limits_.leadKept};
 }
 
 ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, FinishRows& finish, const Strip& strip)
     : strip_(strip),
       plain_(static_cast<std::size_t>(finish.strip().width)),
       start_(strip, findings.plate),
-      scratch_(strip.width, 12),
+      scratch_(strip.width, 13),
       shares_(strip.width, findings.shot.height, 1,
               [this, &finish](int y, float** planes) {
                   start_.load(y, planes + 4);
@@ -137,52 +236,40 @@ ColorRows::ColorRows(const Findings& findings, const GreenLimits& limits, Finish
                                           planes[3], strip_.width, planes[0], planes[1], planes[2]);
               }),
       subject_(findings.separation.subject, findings.separation.size, strip.left, strip.width),
-      own_(limits.own, limits.size, strip.left, strip.width),
-      cloth_(limits.cloth, limits.size, strip.left, strip.width),
-      inner_(limits.inner, GreenLimits::kInnerCell, strip.left, strip.width),
-      limits_(limits) {}
+      around_(limits.around, kUsualCell, strip.left, strip.width),
+      green_(limits, strip) {}
 
 void ColorRows::fill(int y, const float* alpha, std::uint32_t* to) {
     const int width = strip_.width;
     for (int plane = 0; plane < 4; ++plane)
-        sumLoops().boxSums(shares_.around(y, plane, 1), 1, width, scratch_.row(11), scratch_.row(plane));
+        sumLoops().boxSums(shares_.around(y, plane, 1), 1, width, scratch_.row(12), scratch_.row(plane));
     for (int c = 0; c < 3; ++c)
         subject_.fill(y, c, scratch_.row(4 + c));
-    own_.fill(y, 0, scratch_.row(7));
-    keepDye(limits_, strip_, y, scratch_.row(7));
-    inner_.fill(y, 0, scratch_.row(8));
-    cloth_.fill(y, 0, scratch_.row(9));
-    finishLoops().raise(scratch_.row(9), width, scratch_.row(8));
-    loadLuma(strip_, y, scratch_.row(9));
+    for (int plane = 0; plane < 4; ++plane)
+        around_.fill(y, plane, scratch_.row(8 + plane));
+    loadLuma(strip_, y, scratch_.row(7));
     const auto here = [&](int plane) -> ChannelRow {
         return {shares_.at(y, plane), shares_.at(y, plane + 1), shares_.at(y, plane + 2)};
     };
     const LumaWeights luma(strip_.shot.blue);
-    finishLoops().colors({here(4), here(7), rowsFrom(0), scratch_.row(3), rowsFrom(4), scratch_.row(7),
-                          scratch_.row(8), scratch_.row(9), alpha, luma.r, luma.g, luma.b},
+    finishLoops().colors({here(4), here(7), rowsFrom(0), scratch_.row(3), rowsFrom(4), rowsFrom(8), scratch_.row(11),
+                          green_.at(y), scratch_.row(7), alpha, luma.r, luma.g, luma.b},
                          strip_.shot.blue, width, to);
 }
 
 void writeSolid(const Shot& shot, const Plate& plate, const GreenLimits& limits, const Area& area,
                 std::uint8_t* picture) {
-    CellRows own(limits.own, limits.size, area.left, area.width()),
-        cloth(limits.cloth, limits.size, area.left, area.width()),
-        inner(limits.inner, GreenLimits::kInnerCell, area.left, area.width()),
-        screen(plate.colors, kPlateCell, area.left, area.width());
+    GreenLimitRows green(limits, {shot, area.left, area.width()});
+    CellRows screen(plate.colors, kPlateCell, area.left, area.width());
     const auto width = static_cast<std::size_t>(area.width());
-    std::vector<float> lines(5 * width);
-    const auto line = [&](std::size_t i) { return lines.data() + i * width; };
+    std::vector<float> lines(3 * width);
+    const ChannelRow behind = {lines.data(), lines.data() + width, lines.data() + 2 * width};
     std::vector<std::uint32_t> pixels(width);
     for (int y = area.top; y < area.bottom; ++y) {
-        own.fill(y, 0, line(0));
-        keepDye(limits, {shot, area.left, area.width()}, y, line(0));
-        inner.fill(y, 0, line(1));
-        cloth.fill(y, 0, line(2));
-        finishLoops().raise(line(2), area.width(), line(1));
         for (int plane = 0; plane < 3; ++plane)
-            screen.fill(y, plane, line(2 + static_cast<std::size_t>(plane)));
-        finishLoops().solid(shot.pixelRow(y) + area.left, {line(2), line(3), line(4)}, line(0), line(1), shot.blue,
-                            area.width(), pixels.data());
+            screen.fill(y, plane, lines.data() + static_cast<std::size_t>(plane) * width);
+        finishLoops().solid(shot.pixelRow(y) + area.left, behind, green.at(y), shot.blue, area.width(),
+                            pixels.data());
         std::memcpy(picture + pixelOffset(shot.width, area.left, y), pixels.data(), width * kPixelBytes);
     }
 }

@@ -3,10 +3,11 @@
 #include "key/refine/Areas.h"
 #include "key/refine/CellRows.h"
 #include "key/refine/Finish.h"
+#include "key/refine/FinishLoops.h"
 
 namespace tavrin::refine {
 
-/// How green the subject may be at each place.
+/// How green the subject may be at each place, and what is around it.
 struct GreenLimits {
     static constexpr int kInnerCell = 4;
     int size = 8;  ///< of the cells of the first two: 8, or 4 in a small picture
@@ -14,10 +15,28 @@ struct GreenLimits {
     Cells
         cloth;  ///< 1 where that is more than the screen could bring: a rim of bluish cloth keeps its cyan; as above
     Cells inner;                 ///< 1 well inside, where a bluish cloth keeps its cyan; cells of `kInnerCell`
+    Cells usual;                 ///< the subject's usual lead (`usualLead`)
+    float leadKept = 1.0f;       ///< of that, as far as it is above 0
     const Mask* dyed = nullptr;  ///< of the plate: cloth near the screen's hue, which keeps its own; may be empty
     float dye = 1.0f;            ///< share of that
+    Cells around;  ///< means of the open pixels' colours times their alpha, and of that; cells of `kUsualCell`
 };
 GreenLimits findLimits(const RunContext& context, const Findings& findings);
+
+/// The same in rows of a strip. For one thread.
+class GreenLimitRows {
+  public:
+    GreenLimitRows(const GreenLimits& limits, const Strip& strip);
+
+    /// What is found is good until the next call.
+    GreenRows at(int y);
+
+  private:
+    const GreenLimits& limits_;
+    Strip strip_;
+    CellRows own_, cloth_, inner_, usual_;
+    PaddedRows lines_;
+};
 
 /// The subject's own colour in rows of a strip. For one thread.
 class ColorRows {
@@ -40,8 +59,8 @@ class ColorRows {
     StartRows start_;
     PaddedRows scratch_;
     RowRing<10, Maker> shares_;  // the remainder, alpha, the picture, the plate
-    CellRows subject_, own_, cloth_, inner_;
-    const GreenLimits& limits_;
+    CellRows subject_, around_;
+    GreenLimitRows green_;
 };
 
 /// Columns beyond an area that the windows of the colours look at.
