@@ -7,8 +7,9 @@ namespace tavrin::refine {
 
 namespace {
 
-constexpr double kFarReach = 80.0;                        // from all that is no screen, for a plate that no hair dims
-constexpr double kLeastFar = 0.02;                        // of the picture
+constexpr double kFarReach = 80.0;  // from all that is no screen, for a plate that no hair dims
+constexpr double kLeastFar = 0.02;  // of the picture
+constexpr double kCell = 8.0;
 constexpr double kNearReach = 220.0;                      // of the inside: farther away nothing of it is expected
 constexpr float kLeastTint = 1.5f, kTintSpreads = 50.0f;  // levels
 constexpr float kLeastLight = 0.6f, kMostLight = 1.15f;   // of the plate's: more is another light, or glare
@@ -57,17 +58,38 @@ bool isTinted(const Color& own, const Color& plate, const Color& subject, float 
            along * along > kStraight * kStraight * (tint * tint) * (whole * whole);
 }
 
+// A power of two, about 8 pixels of 5 megapixels.
+int cellOf(const Shot& shot) {
+    int size = 4;
+    while (size < 16 && shot.px(kCell) >= 2 * size)
+        size *= 2;
+    return size;
+}
+
+// The cells that lie wholly in a mask.
+Cells onlyWhole(const RunContext& context, const Cells& cells, const Mask& mask, int size) {
+    const Cells shares = sharesOf(context, mask, size);
+    Cells whole(cells.columns(), cells.rows(), cells.planes());
+    for (int plane = 0; plane < cells.planes(); ++plane) {
+        for (std::size_t i = 0; i < cells.count(); ++i)
+            whole.row(0, plane)[i] = shares.row(0, 0)[i] < 1.0f ? 0.0f : cells.row(0, plane)[i];
+    }
+    return whole;
+}
+
 }  // namespace
 
 Mask hazyScreen(const RunContext& context, const Shot& shot, const Plate& plate, const Core& core) {
     const Mask far = shrunk(context, plate.screen, shot.px(kFarReach));
     if (static_cast<double>(far.count()) < kLeastFar * shot.width * shot.height) return Mask(shot.width, shot.height);
-    const Cells screen = colorsOn(context, shot, plate.screen), bare = colorsOn(context, shot, far);
+    const int size = cellOf(shot);
+    const Cells screen = colorsOn(context, shot, plate.screen, size), bare = onlyWhole(context, screen, far, size);
     if (context.isSuperseded()) return Mask(shot.width, shot.height);
-    const Cells colors = pushPull(context, bare), subject = pushPull(context, colorsOn(context, shot, core.sure));
+    const Cells colors = pushPull(context, bare),
+                subject = pushPull(context, colorsOn(context, shot, core.sure, size));
     const float least = kLeastTint + kTintSpreads * plate.spread;
-    Mask hazy = maskOf(context, shot.width, shot.height, kPlateCell, [&](int c, int row) {
-        return screen.row(row, 3)[c] > 0.0f && bare.row(row, 3)[c] < 1.0f &&
+    Mask hazy = maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
+        return screen.row(row, 3)[c] > 0.0f && bare.row(row, 3)[c] == 0.0f &&
                isTinted(meanAround(screen, c, row), at(colors, c, row), at(subject, c, row), least);
     });
     hazy &= grown(context, core.solid, shot.px(kNearReach));

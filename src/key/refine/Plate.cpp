@@ -111,33 +111,33 @@ float measureSpread(const RunContext& context, const Shot& shot, const Plate& pl
     return kDeviation * middleOf(distances);
 }
 
-// Sums of the screen's pixels in some columns of one row of cells.
-void sumCells(const Shot& shot, const Mask& screen, int row, int left, int count, Cells& cells) {
+// Sums of a mask's pixels in some columns of one row of cells.
+void sumCells(const Shot& shot, const Mask& mask, int size, int row, int left, int count, Cells& cells) {
     const auto length = static_cast<std::size_t>(count);
-    const auto lines = std::make_unique_for_overwrite<float[]>((4 + kPlateCell) * length);
+    const auto lines = std::make_unique_for_overwrite<float[]>((4 + static_cast<std::size_t>(size)) * length);
     float *const sums = lines.get(), *const weights = sums + 4 * length;
-    const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
+    const int first = row * size, last = std::min(first + size, shot.height);
     for (int y = first; y < last; ++y)
-        screen.unpack(y, left, count, weights + std::ptrdiff_t{y - first} * count);
+        mask.unpack(y, left, count, weights + std::ptrdiff_t{y - first} * count);
     sumLoops().sumColors({shot.pixelRow(first) + left, shot.width, weights, last - first, count}, shot.blue, sums);
-    const int whole = count / kPlateCell, rest = count % kPlateCell;
+    const int whole = count / size, rest = count % size;
     for (std::size_t plane = 0; plane < 4; ++plane) {
         const float* const from = sums + (plane + 1) % 4 * length;  // the weight comes last in the cells
-        float* const to = cells.row(row, static_cast<int>(plane)) + left / kPlateCell;
-        sumLoops().sumGroups(from, kPlateCell, whole, to);
+        float* const to = cells.row(row, static_cast<int>(plane)) + left / size;
+        sumLoops().sumGroups(from, size, whole, to);
         for (int c = 0; c < whole; ++c)
-            to[c] /= static_cast<float>(kPlateCell * (last - first));
+            to[c] /= static_cast<float>(size * (last - first));
         if (rest > 0)
-            to[whole] = std::accumulate(from + whole * kPlateCell, from + count, 0.0f) /
-                        static_cast<float>(rest * (last - first));
+            to[whole] =
+                std::accumulate(from + whole * size, from + count, 0.0f) / static_cast<float>(rest * (last - first));
     }
 }
 
-// The same, for all columns that have any of the screen.
-void sumCells(const Shot& shot, const Mask& screen, int row, Cells& cells) {
-    const int first = row * kPlateCell, last = std::min(first + kPlateCell, shot.height);
-    forColumns(screen, first, last,
-               [&](int left, int right) { sumCells(shot, screen, row, left, right - left, cells); });
+// The same, for all columns that have any.
+void sumCells(const Shot& shot, const Mask& mask, int size, int row, Cells& cells) {
+    const int first = row * size, last = std::min(first + size, shot.height);
+    forColumns(mask, first, last,
+               [&](int left, int right) { sumCells(shot, mask, size, row, left, right - left, cells); });
 }
 
 }  // namespace
@@ -169,20 +169,21 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot) {
     return plate;
 }
 
-Cells colorsOn(const RunContext& context, const Shot& shot, const Mask& mask) {
-    Cells cells = Cells::over(shot.width, shot.height, kPlateCell, 4);
-    runRows(context, cells.rows(), 8, [&](int row) { sumCells(shot, mask, row, cells); });
+Cells colorsOn(const RunContext& context, const Shot& shot, const Mask& mask, int size) {
+    Cells cells = Cells::over(shot.width, shot.height, size, 4);
+    runRows(context, cells.rows(), 8, [&](int row) { sumCells(shot, mask, size, row, cells); });
     return cells;
 }
 
+Mask paintColors(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate) {
+    Mask painted = plate.screen;
+    if (frame.width() > 0) painted &= frame.inverted();
+    plate.colors = pushPull(context, colorsOn(context, shot, painted, kPlateCell));
+    return painted;
+}
+
 void paintPlate(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate) {
-    Mask telling;
-    if (frame.width() > 0) {
-        telling = frame.inverted();
-        telling &= plate.screen;
-    }
-    const Mask& painted = telling.width() > 0 ? telling : plate.screen;
-    plate.colors = pushPull(context, colorsOn(context, shot, painted));
+    const Mask painted = paintColors(context, shot, frame, plate);
     plate.spread = measureSpread(context, shot, plate, painted);
 }
 

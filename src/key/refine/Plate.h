@@ -32,11 +32,14 @@ std::optional<Plate> findScreen(const RunContext& context, const Shot& shot);
 /// in cloth near its hue.
 void dropStrangers(const RunContext& context, const Shot& shot, Mask& screen);
 
-/// Colours of a mask's pixels in roles times their share, and the share, on cells of `kPlateCell`.
-Cells colorsOn(const RunContext& context, const Shot& shot, const Mask& mask);
+/// Colours of a mask's pixels in roles times their share, and the share, on cells of `size` pixels: 4, 8 or 16.
+Cells colorsOn(const RunContext& context, const Shot& shot, const Mask& mask, int size);
 
-/// Makes the colours from the screen's pixels, and measures `spread` anew.
+/// Makes the colours from the screen's pixels.
 /// @param frame what tells nothing of the screen though it is part of it; may be empty
+/// @return the pixels that they were made from
+Mask paintColors(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate);
+/// The same, and measures `spread` anew.
 void paintPlate(const RunContext& context, const Shot& shot, const Mask& frame, Plate& plate);
 
 /// Adds what the screen goes over into where its colour changes little by little, from green to blue for one: cells

@@ -102,46 +102,54 @@ bool Steps::findPlate(const RunContext& context, const Shot& shot, bool& still) 
     return true;
 }
 
+void Steps::clearHaze(const RunContext& context, const Shot& shot) {
+    const Mask hazy = hazyScreen(context, shot, plate_, core_);
+    clean_ = {};
+    isHazy_ = hazy.count() > 0;
+    if (!isHazy_ || context.isSuperseded()) return;
+    clean_.difference = plate_.difference;
+    clean_.spread = plate_.spread;
+    clean_.cloth = plate_.cloth;
+    clean_.dyed = plate_.dyed;
+    clean_.screen = plate_.screen;
+    clean_.screen &= hazy.inverted();
+    paintColors(context, shot, frame_, clean_);
+}
+
 bool Steps::findSubject(const RunContext& context, const Shot& shot, bool& still) {
     still = still && isStill(core_, context, shot);
     if (still) return true;
     core_ = findCore(context, shot, plate_);
     if (context.isSuperseded() || core_.sure.count() < kFewestSure) return false;
-    clean_.screen = plate_.screen;
-    clean_.screen &= hazyScreen(context, shot, plate_, core_).inverted();
-    clean_.difference = plate_.difference;
-    clean_.cloth = plate_.cloth;
-    clean_.dyed = plate_.dyed;
+    clearHaze(context, shot);
     if (context.isSuperseded()) return false;
-    paintPlate(context, shot, frame_, clean_);
-    if (context.isSuperseded()) return false;
-    open_ = openPixels(context, clean_.screen, core_.solid);
-    marks_ = findMarks(context, shot, clean_, core_, open_);
+    open_ = openPixels(context, behind().screen, core_.solid);
+    marks_ = findMarks(context, shot, behind(), core_, open_);
     if (frame_.width() > 0) marks_ |= frame_;
     open_ &= marks_.inverted();
-    first_ = separate(context, shot, clean_, core_.sure, open_);
+    first_ = separate(context, shot, behind(), core_.sure, open_);
     return true;
 }
 
 bool Steps::findAlpha(const RunContext& context, const Shot& shot, bool& still) {
     Mask clear = clearParts(context, shot);
     clear &= core_.solid.inverted();
-    clear |= clean_.screen;
+    clear |= behind().screen;
     if (!still || clear != clear_) {
         clear_ = std::move(clear);
         nearer_ = nearerSide(context, core_.solid, clear_);
     }
-    Mask sure = surePixels(context, {shot, clean_, first_, nearer_}, core_.solid, open_);
+    Mask sure = surePixels(context, {shot, behind(), first_, nearer_}, core_.solid, open_);
     if (context.isSuperseded()) return false;
     if (!keeps_) first_ = {};
     if (!still || sure != sure_) {
         sure_ = std::move(sure);
-        separation_ = separate(context, shot, clean_, sure_, open_);
+        separation_ = separate(context, shot, behind(), sure_, open_);
     }
-    alpha_ = fitAlpha(context, {shot, clean_, separation_, nearer_}, core_.solid, open_);
+    alpha_ = fitAlpha(context, {shot, behind(), separation_, nearer_}, core_.solid, open_);
     if (context.isSuperseded()) return false;
     missingDetail_ = missingDetail(context, shot, alpha_, open_);
-    nearNoise_ = noiseBesideSubject(context, shot, clean_, separation_, open_);
+    nearNoise_ = noiseBesideSubject(context, shot, behind(), separation_, open_);
     return true;
 }
 
@@ -154,8 +162,8 @@ Refined Steps::run(const RunContext& context, const Shot& shot, const RefineTast
 
 Refined Steps::runWith(const RunContext& context, const Shot& shot, const RefineTaste& taste, std::uint8_t* result) {
     known_ = false;
-    const Findings findings{shot,   clean_, separation_, core_.solid,    open_,
-                            marks_, alpha_, taste,       missingDetail_, nearNoise_};
+    const Findings findings{shot,   behind(), separation_, core_.solid,    open_,
+                            marks_, alpha_,   taste,       missingDetail_, nearNoise_};
     known_ = writeResult(context, findings, result);
     return known_ ? Refined::done : Refined::superseded;
 }

@@ -26,10 +26,13 @@ class Steps {
     bool findPlate(const RunContext& context, const Shot& shot, bool& still);
     bool findSubject(const RunContext& context, const Shot& shot, bool& still);
     bool findAlpha(const RunContext& context, const Shot& shot, bool& still);
+    void clearHaze(const RunContext& context, const Shot& shot);
+    // What alpha and colours go by.
+    const Plate& behind() const { return isHazy_ ? clean_ : plate_; }
 
     const bool keeps_;
-    bool known_ = false;
-    Plate seeds_, plate_, clean_;  // by the key's screen alone, mended, and without haze
+    bool known_ = false, isHazy_ = false;
+    Plate seeds_, plate_, clean_;  // by the key's screen alone, mended, and without haze where there is any
     PlateLook look_;               // of the first one
     Core core_;
     Mask frame_;  // beside a source that does not fill the picture
