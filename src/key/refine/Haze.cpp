@@ -67,8 +67,7 @@ int cellOf(const Shot& shot) {
 }
 
 // The cells that lie wholly in a mask.
-Cells onlyWhole(const RunContext& context, const Cells& cells, const Mask& mask, int size) {
-    const Cells shares = sharesOf(context, mask, size);
+Cells onlyWhole(const Cells& cells, const Cells& shares) {
     Cells whole(cells.columns(), cells.rows(), cells.planes());
     for (int plane = 0; plane < cells.planes(); ++plane) {
         for (std::size_t i = 0; i < cells.count(); ++i)
@@ -77,23 +76,38 @@ Cells onlyWhole(const RunContext& context, const Cells& cells, const Mask& mask,
     return whole;
 }
 
+// The cells of the screen that are not far from the subject.
+Mask cellsBetween(const RunContext& context, const Shot& shot, const Cells& screen, const Cells& bare,
+                  const Mask& solid, int size) {
+    const Cells near = sharesOf(context, grown(context, solid, shot.px(kNearReach)), size);
+    Mask between(screen.columns(), screen.rows());
+    std::vector<std::uint8_t> flags(static_cast<std::size_t>(screen.columns()) + 8);
+    for (int row = 0; row < screen.rows(); ++row) {
+        for (int c = 0; c < screen.columns(); ++c)
+            flags[static_cast<std::size_t>(c)] =
+                (screen.row(row, 3)[c] > 0.0f) & (bare.row(row, 3)[c] == 0.0f) & (near.row(row, 0)[c] > 0.5f);
+        between.pack(row, flags.data());
+    }
+    return between;
+}
+
 }  // namespace
 
 Mask hazyScreen(const RunContext& context, const Shot& shot, const Plate& plate, const Core& core) {
     const Mask far = shrunk(context, plate.screen, shot.px(kFarReach));
     if (static_cast<double>(far.count()) < kLeastFar * shot.width * shot.height) return Mask(shot.width, shot.height);
     const int size = cellOf(shot);
-    const Cells screen = colorsOn(context, shot, plate.screen, size), bare = onlyWhole(context, screen, far, size);
+    const Cells screen = colorsOn(context, shot, plate.screen, size),
+                bare = onlyWhole(screen, sharesOf(context, far, size));
+    const Mask between = cellsBetween(context, shot, screen, bare, core.solid, size);
     if (context.isSuperseded()) return Mask(shot.width, shot.height);
-    const Cells colors = pushPull(context, bare),
-                subject = pushPull(context, colorsOn(context, shot, core.sure, size));
+    const Cells colors = pushPull(context, bare, between),
+                subject = pushPull(context, colorsOn(context, shot, core.sure, size), between);
     const float least = kLeastTint + kTintSpreads * plate.spread;
-    Mask hazy = maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
-        return screen.row(row, 3)[c] > 0.0f && bare.row(row, 3)[c] == 0.0f &&
+    return maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
+        return between.at(c, row) &&
                isTinted(meanAround(screen, c, row), at(colors, c, row), at(subject, c, row), least);
     });
-    hazy &= grown(context, core.solid, shot.px(kNearReach));
-    return hazy;
 }
 
 }  // namespace tavrin::refine
