@@ -40,6 +40,11 @@ ROOMS = {
     "apps": [["cli", "desktop", "web"]],
 }
 
+# The same for a room that has rooms of its own.
+INNER_ROOMS = {
+    "key/refine": [["grid"], ["screen"], ["subject"], ["finish"], ["."]],
+}
+
 INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)')
 # The engine is not linked with these, so the compiler finds most of them too; the form with a folder it does not.
 WINDOW_HEADER = re.compile(r"^(Qt(Widgets|PrintSupport|WebEngine\w*)/|QApplication$|Q\w*(Widget|Dialog)$)")
@@ -51,9 +56,16 @@ def place(path):
     return parts[0], parts[1] if len(parts) > 2 else "."
 
 
+def inner_place(path):
+    """The room with rooms of its own that a path below src/ lies in, and which of them; None elsewhere."""
+    parts = path.split("/")
+    outer = "/".join(parts[:2])
+    return (outer, parts[2] if len(parts) > 3 else ".") if outer in INNER_ROOMS and len(parts) > 2 else None
+
+
 def level(folder, room):
     """How high a room stands in its folder, or None when the table does not have it."""
-    rooms = ROOMS.get(folder, [["."]])
+    rooms = ROOMS.get(folder) or INNER_ROOMS.get(folder, [["."]])
     return next((height for height, row in enumerate(rooms) if room in row), None)
 
 
@@ -71,8 +83,9 @@ def room_fault(folder, room, target):
     return None
 
 
-def fault(folder, room, quoted, system):
-    """The rule that an include in a file of `folder`/`room` breaks, or None."""
+def fault(path, quoted, system):
+    """The rule that an include in a file at `path` below src/ breaks, or None."""
+    folder, room = place(path)
     floor = FLOORS[folder]
     if system:
         if floor < WINDOW_FLOOR and WINDOW_HEADER.match(system):
@@ -84,6 +97,9 @@ def fault(folder, room, quoted, system):
     if "/" not in quoted or target not in FLOORS:
         return f'"{quoted}" does not begin with a folder of src/, as in "core/state/SystemInfo.h"'
     if target == folder:
+        own, other = inner_place(path), inner_place(quoted)
+        if own and other and own[0] == other[0]:
+            return room_fault(*own, other[1])
         return room_fault(folder, room, target_room)
     if FLOORS[target] == floor:
         return f"{folder} and {target} stand on the same floor ({floor}) and do not include each other"
@@ -101,20 +117,25 @@ def missing_from_tables(folder, room):
     return None
 
 
+def missing_inside(outer, room):
+    """The same for a file in a room with rooms of its own."""
+    return None if level(outer, room) is not None else f"the room {outer}/{room} has no place in tools/check_floors.py"
+
+
 def check(source_root):
     """All broken rules below `source_root`, one line each."""
     faults = []
     for path in sorted(source_root.rglob("*")):
         if path.suffix not in (".h", ".cpp"):
             continue
-        folder, room = place(path.relative_to(source_root).as_posix())
-        reason = missing_from_tables(folder, room)
+        below = path.relative_to(source_root).as_posix()
+        reason = missing_from_tables(*place(below)) or inner_place(below) and missing_inside(*inner_place(below))
         if reason:
             faults.append(f"{path}:1: {reason}")
             continue
         for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
             match = INCLUDE.match(line)
-            reason = match and fault(folder, room, match.group(1), match.group(2))
+            reason = match and fault(below, match.group(1), match.group(2))
             if reason:
                 faults.append(f"{path}:{number}: {reason}")
     return faults
@@ -123,7 +144,8 @@ def check(source_root):
 def self_test():
     """Builds small trees, good and bad, and sees whether exactly the bad lines are found."""
     good = ['#include "core/a.h"', '#include "core/text/t.h"', '#include "key/b.h"', '#include "key/hair/b.h"',
-            "#include <QImage>", "#include <vector>"]
+            "#include <QImage>", "#include <vector>",
+            '#include "key/refine/x.h"']
     bad = {
         "key/up.cpp": '#include "pipeline/loop.h"',
         "core/spaced.h": ' #  include "formats/x.h"',
@@ -135,6 +157,8 @@ def self_test():
         "key/pixel/root.cpp": '#include "key/Combine.h"',
         "key/skin/beside.cpp": '#include "key/guard/x.h"',
         "key/cellar/x.h": "",
+        "key/refine/screen/up.h": '#include "key/refine/finish/x.h"',
+        "key/refine/cellar/x.h": "",
         "elsewhere/x.h": "",
     }
     with tempfile.TemporaryDirectory() as folder:

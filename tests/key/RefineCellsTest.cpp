@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "key/refine/CellRows.h"
-#include "key/refine/Cells.h"
-#include "key/refine/Mask.h"
+#include "key/refine/grid/CellRows.h"
+#include "key/refine/grid/Cells.h"
+#include "key/refine/grid/Mask.h"
 
 namespace tavrin {
 namespace {

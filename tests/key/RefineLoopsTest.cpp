@@ -5,11 +5,11 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "key/refine/Areas.h"
-#include "key/refine/Cells.h"
-#include "key/refine/MatteLoops.h"
-#include "key/refine/Parts.h"
-#include "key/refine/SumLoops.h"
+#include "key/refine/grid/Areas.h"
+#include "key/refine/grid/Cells.h"
+#include "key/refine/grid/MatteLoops.h"
+#include "key/refine/grid/Parts.h"
+#include "key/refine/grid/SumLoops.h"
 #include "support/VectorTargets.h"
 
 namespace tavrin {

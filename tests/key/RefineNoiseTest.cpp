@@ -6,7 +6,7 @@
 
 #include "key/KeyScene.h"
 #include "key/refine/RefineKey.h"
-#include "key/refine/Specks.h"
+#include "key/refine/finish/Specks.h"
 
 namespace tavrin {
 namespace {

@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "core/raster/Pixels.h"
-#include "key/refine/Frame.h"
-#include "key/refine/Haze.h"
-#include "key/refine/Marks.h"
-#include "key/refine/NearNoise.h"
-#include "key/refine/OwnColor.h"
-#include "key/refine/Specks.h"
+#include "key/refine/finish/OwnColor.h"
+#include "key/refine/finish/Specks.h"
+#include "key/refine/screen/Frame.h"
+#include "key/refine/subject/Haze.h"
+#include "key/refine/subject/Marks.h"
+#include "key/refine/subject/NearNoise.h"
 
 namespace tavrin::refine {
 

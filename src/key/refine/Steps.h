@@ -1,7 +1,7 @@
 #pragma once
 
-#include "key/refine/FitAlpha.h"
 #include "key/refine/RefineKey.h"
+#include "key/refine/subject/FitAlpha.h"
 
 namespace tavrin::refine {
 

@@ -1,0 +1,113 @@
+#include "key/refine/subject/Haze.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tavrin::refine {
+
+namespace {
+
+constexpr double kFarReach = 80.0;  // from all that is no screen, for a plate that no hair dims
+constexpr double kLeastFar = 0.02;  // of the picture
+constexpr double kCell = 8.0;
+constexpr double kNearReach = 220.0;                      // of the inside: farther away nothing of it is expected
+constexpr float kLeastTint = 1.5f, kTintSpreads = 50.0f;  // levels
+constexpr float kLeastLight = 0.6f, kMostLight = 1.15f;   // of the plate's: more is another light, or glare
+constexpr float kMostShare = 0.5f;                        // of the subject, where the key has nothing
+constexpr float kStraight = 0.8f;                         // cosine between tint and subject
+
+struct Color {
+    float r = 0.0f, g = 0.0f, b = 0.0f;
+
+    float operator*(const Color& other) const { return r * other.r + g * other.g + b * other.b; }
+};
+
+Color at(const Cells& colors, int c, int row) {
+    return {colors.row(row, 0)[c], colors.row(row, 1)[c], colors.row(row, 2)[c]};
+}
+
+// The mean of the screen's pixels in 3 x 3 cells.
+Color meanAround(const Cells& screen, int c, int row) {
+    Color sum;
+    float weight = 0.0f;
+    for (int y = std::max(row - 1, 0); y <= std::min(row + 1, screen.rows() - 1); ++y) {
+        for (int x = std::max(c - 1, 0); x <= std::min(c + 1, screen.columns() - 1); ++x) {
+            sum.r += screen.row(y, 0)[x];
+            sum.g += screen.row(y, 1)[x];
+            sum.b += screen.row(y, 2)[x];
+            weight += screen.row(y, 3)[x];
+        }
+    }
+    return {sum.r / weight, sum.g / weight, sum.b / weight};
+}
+
+// What of a colour lies across the plate's, which light does not change.
+Color across(const Color& color, const Color& plate) {
+    const float share = color * plate / std::max(plate * plate, 1.0f);
+    return {color.r - share * plate.r, color.g - share * plate.g, color.b - share * plate.b};
+}
+
+// Whether the subject has a share of a colour, besides the plate in some light.
+bool isTinted(const Color& own, const Color& plate, const Color& subject, float least) {
+    const float light = own.g / std::max(plate.g, 1.0f);
+    if (light < kLeastLight || light > kMostLight) return false;
+    if (std::max(own.r - light * plate.r, own.b - light * plate.b) < least) return false;
+    const Color tint = across(own, plate), whole = across(subject, plate);
+    const float along = tint * whole;
+    return along > 0.0f && along < kMostShare * (whole * whole) &&
+           along * along > kStraight * kStraight * (tint * tint) * (whole * whole);
+}
+
+// A power of two, about 8 pixels of 5 megapixels.
+int cellOf(const Shot& shot) {
+    int size = 4;
+    while (size < 16 && shot.px(kCell) >= 2 * size)
+        size *= 2;
+    return size;
+}
+
+// The cells that lie wholly in a mask.
+Cells onlyWhole(const Cells& cells, const Cells& shares) {
+    Cells whole(cells.columns(), cells.rows(), cells.planes());
+    for (int plane = 0; plane < cells.planes(); ++plane) {
+        for (std::size_t i = 0; i < cells.count(); ++i)
+            whole.row(0, plane)[i] = shares.row(0, 0)[i] < 1.0f ? 0.0f : cells.row(0, plane)[i];
+    }
+    return whole;
+}
+
+// The cells of the screen that are not far from the subject.
+Mask cellsBetween(const RunContext& context, const Shot& shot, const Cells& screen, const Cells& bare,
+                  const Mask& solid, int size) {
+    const Cells near = sharesOf(context, grown(context, solid, shot.px(kNearReach)), size);
+    Mask between(screen.columns(), screen.rows());
+    std::vector<std::uint8_t> flags(static_cast<std::size_t>(screen.columns()) + 8);
+    for (int row = 0; row < screen.rows(); ++row) {
+        for (int c = 0; c < screen.columns(); ++c)
+            flags[static_cast<std::size_t>(c)] =
+                (screen.row(row, 3)[c] > 0.0f) & (bare.row(row, 3)[c] == 0.0f) & (near.row(row, 0)[c] > 0.5f);
+        between.pack(row, flags.data());
+    }
+    return between;
+}
+
+}  // namespace
+
+Mask hazyScreen(const RunContext& context, const Shot& shot, const Plate& plate, const Core& core) {
+    const Mask far = shrunk(context, plate.screen, shot.px(kFarReach));
+    if (static_cast<double>(far.count()) < kLeastFar * shot.width * shot.height) return Mask(shot.width, shot.height);
+    const int size = cellOf(shot);
+    const Cells screen = colorsOn(context, shot, plate.screen, size),
+                bare = onlyWhole(screen, sharesOf(context, far, size));
+    const Mask between = cellsBetween(context, shot, screen, bare, core.solid, size);
+    if (context.isSuperseded()) return Mask(shot.width, shot.height);
+    const Cells colors = pushPull(context, bare, between),
+                subject = pushPull(context, colorsOn(context, shot, core.sure, size), between);
+    const float least = kLeastTint + kTintSpreads * plate.spread;
+    return maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
+        return between.at(c, row) &&
+               isTinted(meanAround(screen, c, row), at(colors, c, row), at(subject, c, row), least);
+    });
+}
+
+}  // namespace tavrin::refine
