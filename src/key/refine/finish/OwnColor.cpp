@@ -168,7 +168,7 @@ GreenLimits findLimits(const RunContext& context, const Findings& findings) {
     limits.own = limits.cloth = Cells(green.columns(), green.rows(), 1);
     if (green.sums()[1] > kFewCells && !context.isSuperseded()) {
         const float usual = findings.plate.difference;
-        Cells least = least5(pushPull(context, green)), cloth = least;
+        Cells least = least5(context, pushPull(context, green)), cloth = least;
         for (std::size_t i = 0; i < cloth.count(); ++i)
             cloth.row(0, 0)[i] = smoothStep(cloth.row(0, 0)[i], kMaybeCloth * usual, kSurelyCloth * usual) *
                                  std::min(findings.taste.ownGreen, 1.0f);

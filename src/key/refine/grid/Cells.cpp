@@ -201,19 +201,27 @@ Cells blurred(const RunContext& context, const Cells& cells, double reach) {
     return result;
 }
 
-Cells least5(const Cells& cells) {
-    Cells result(cells.columns(), cells.rows(), 1);
-    for (int y = 0; y < cells.rows(); ++y) {
-        for (int x = 0; x < cells.columns(); ++x) {
-            float least = cells.row(y, 0)[x];
-            for (int j = std::max(y - 2, 0); j <= std::min(y + 2, cells.rows() - 1); ++j) {
-                const float* const row = cells.row(j, 0);
-                for (int i = std::max(x - 2, 0); i <= std::min(x + 2, cells.columns() - 1); ++i)
-                    least = std::min(least, row[i]);
-            }
-            result.row(y, 0)[x] = least;
+Cells least5(const RunContext& context, const Cells& cells) {
+    const int columns = cells.columns();
+    // `line(k)` is what lies k cells beyond.
+    const auto least = [&](const auto& line, float* to) {
+        const float *const a = line(-2), *const b = line(-1), *const c = line(0), *const d = line(1),
+                           *const e = line(2);
+        for (int x = 0; x < columns; ++x)
+            to[x] = std::min(std::min(std::min(a[x], b[x]), std::min(d[x], e[x])), c[x]);
+    };
+    Cells across(columns, cells.rows(), 1), result(across);
+    runRowRanges(context, cells.rows(), kGrainRows, [&](int first, int last) {
+        PaddedRows padded(columns, 1);
+        for (int y = first; y < last; ++y) {
+            std::copy_n(cells.row(y, 0), columns, padded.row(0));
+            padded.pad(0, 2);
+            least([&](int k) { return padded.row(0) + k; }, across.row(y, 0));
         }
-    }
+    });
+    runRows(context, cells.rows(), kGrainRows, [&](int y) {
+        least([&](int k) { return across.row(mirrored(y + k, cells.rows()), 0); }, result.row(y, 0));
+    });
     return result;
 }
 

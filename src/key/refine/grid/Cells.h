@@ -54,6 +54,6 @@ Mask maskOf(const RunContext& context, int width, int height, int size, const st
 /// cells count by their share. At most `kRowPad - 1` cells.
 Cells blurred(const RunContext& context, const Cells& cells, double reach);
 /// The least of the 5 x 5 cells around each, one plane.
-Cells least5(const Cells& cells);
+Cells least5(const RunContext& context, const Cells& cells);
 
 }  // namespace tavrin::refine

@@ -27,11 +27,11 @@ Color at(const Cells& colors, int c, int row) {
 }
 
 // The mean of the screen's pixels in 3 x 3 cells.
-Color meanAround(const Cells& screen, int c, int row) {
+Color meanAround(const Cells& screen, int reach, int c, int row) {
     Color sum;
     float weight = 0.0f;
-    for (int y = std::max(row - 1, 0); y <= std::min(row + 1, screen.rows() - 1); ++y) {
-        for (int x = std::max(c - 1, 0); x <= std::min(c + 1, screen.columns() - 1); ++x) {
+    for (int y = std::max(row - reach, 0); y <= std::min(row + reach, screen.rows() - 1); ++y) {
+        for (int x = std::max(c - reach, 0); x <= std::min(c + reach, screen.columns() - 1); ++x) {
             sum.r += screen.row(y, 0)[x];
             sum.g += screen.row(y, 1)[x];
             sum.b += screen.row(y, 2)[x];
@@ -60,7 +60,7 @@ bool isTinted(const Color& own, const Color& plate, const Color& subject, float 
 
 // A power of two, about 8 pixels of 5 megapixels.
 int cellOf(const Shot& shot) {
-    int size = 4;
+    int size = 8;
     while (size < 16 && shot.px(kCell) >= 2 * size)
         size *= 2;
     return size;
@@ -103,10 +103,11 @@ Mask hazyScreen(const RunContext& context, const Shot& shot, const Plate& plate,
     if (context.isSuperseded()) return Mask(shot.width, shot.height);
     const Cells colors = pushPull(context, bare, between),
                 subject = pushPull(context, colorsOn(context, shot, core.sure, size), between);
+    const int reach = shot.px(kCell) < size ? 0 : 1;
     const float least = kLeastTint + kTintSpreads * plate.spread;
     return maskOf(context, shot.width, shot.height, size, [&](int c, int row) {
         return between.at(c, row) &&
-               isTinted(meanAround(screen, c, row), at(colors, c, row), at(subject, c, row), least);
+               isTinted(meanAround(screen, reach, c, row), at(colors, c, row), at(subject, c, row), least);
     });
 }
 
