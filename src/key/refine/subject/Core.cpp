@@ -291,6 +291,7 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     core.deep &= core.solid.inverted();
     core.keyed = keyedOf(context, shot, core.deep);
     const ClothParts cloth = deepCloth(context, shot, plate, core.keyed);
+    // Dense hair is as sure a colour as cloth.
     Mask gaps = core.keyed.inverted();
     gaps &= cloth.rough;
     gaps &= core.solid.inverted();

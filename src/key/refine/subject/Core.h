@@ -12,8 +12,9 @@ struct Core {
     Mask keyed;  ///< what the key has of that
 };
 
-/// Solid is what lies well inside the simple alpha; calm parts far from any bare screen whose colour no shade of it
-/// has (cloth near the screen's hue); and the gaps of these that hold no screen.
+/// Solid is what lies well inside the simple alpha, as far as that goes in the inside around; parts far from any bare
+/// screen whose colour no shade of it has (cloth near the screen's hue) and the plate's cloth; and the gaps of these
+/// that hold no screen.
 Core findCore(const RunContext& context, const Shot& shot, const Plate& plate);
 
 /// Whether another key of the same picture, with the same plate, has the same core.

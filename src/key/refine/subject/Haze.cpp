@@ -7,9 +7,9 @@ namespace tavrin::refine {
 
 namespace {
 
-constexpr double kFarReach = 80.0;  // from all that is no screen, for a plate that no hair dims
-constexpr double kLeastFar = 0.02;  // of the picture
-constexpr double kCell = 8.0;
+constexpr double kFarReach = 80.0;                        // from all that is no screen, for a plate that no hair dims
+constexpr double kLeastFar = 0.02;                        // of the picture
+constexpr double kCell = 8.0;                             // about; never less
 constexpr double kNearReach = 220.0;                      // of the inside: farther away nothing of it is expected
 constexpr float kLeastTint = 1.5f, kTintSpreads = 50.0f;  // levels
 constexpr float kLeastLight = 0.6f, kMostLight = 1.15f;   // of the plate's: more is another light, or glare
@@ -26,7 +26,7 @@ Color at(const Cells& colors, int c, int row) {
     return {colors.row(row, 0)[c], colors.row(row, 1)[c], colors.row(row, 2)[c]};
 }
 
-// The mean of the screen's pixels in 3 x 3 cells.
+// The mean of the screen's pixels in the cells up to `reach` away.
 Color meanAround(const Cells& screen, int reach, int c, int row) {
     Color sum;
     float weight = 0.0f;
@@ -58,7 +58,7 @@ bool isTinted(const Color& own, const Color& plate, const Color& subject, float 
            along * along > kStraight * kStraight * (tint * tint) * (whole * whole);
 }
 
-// A power of two, about 8 pixels of 5 megapixels.
+// 8, or 16 in a large picture.
 int cellOf(const Shot& shot) {
     int size = 8;
     while (size < 16 && shot.px(kCell) >= 2 * size)
