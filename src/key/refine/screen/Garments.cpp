@@ -1,6 +1,7 @@
 #include "key/refine/screen/Garments.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "key/refine/grid/Areas.h"
 #include "key/refine/screen/ClothCells.h"
@@ -16,6 +17,10 @@ constexpr double kCell = 8.0, kSeamReach = 6.0;
 constexpr double kLeastSamples = 0.6;                        // of what such cloth must have of the picture
 constexpr int kNear = 3, kPieceReach = 10, kLeastPiece = 6;  // cells
 constexpr int kRounds = 3;
+constexpr int kBeyond = 3;                          // cells from the border, where the screen must look otherwise
+constexpr float kScreenCell = 0.5f;                 // share of a cell that the key took for screen
+constexpr float kLeastStep = 12.0f;                 // levels of a channel
+constexpr double kMostOpen = 0.15, kFewOpen = 3.0;  // of the border beside the screen, without a step; cells
 constexpr std::size_t kMostDyes = 16;
 constexpr double kLeastOfDye = 0.02;  // of the cloth
 constexpr float kLeastLight = 0.4f;   // of the plate's, in a shade of it
@@ -93,6 +98,52 @@ Mask findPieces(const RunContext& context, const ClothCells& cells, const Palett
     return pieces;
 }
 
+// How much of the border of a part lies beside the key's screen, and how much of that without a step of colour.
+struct Border {
+    int cells = 0, open = 0;
+};
+
+// Drops parts that go over into the key's screen without an outline, and all of their dyes: another paint, or light,
+// of a floor.
+void dropUnbounded(const ClothCells& cells, const OuterScreen& outer, Mask& cloth) {
+    std::vector<std::uint8_t> set(outer.look.count());
+    cells.forCells([&](int c, int row) { set[cells.at(c, row)] = cloth.at(c, row); });
+    const Parts parts = findParts(cells.columns(), cells.rows(), set, Neighbours::four);
+    std::vector<Border> borders(static_cast<std::size_t>(parts.count) + 1);
+    const auto partAt = [&](int c, int row) { return static_cast<std::size_t>(parts.labels[cells.at(c, row)]); };
+    const auto look = [&](int c, int row, int dx, int dy) {
+        const int x = c + kBeyond * dx, y = row + kBeyond * dy;
+        if (x < 0 || y < 0 || x >= cells.columns() || y >= cells.rows()) return;
+        if (cloth.at(c + dx, row + dy) || cloth.at(x, y) || outer.screen.row(y, 0)[x] < kScreenCell) return;
+        Border& border = borders[partAt(c, row)];
+        ++border.cells;
+        const Color own = cells.own(cells.at(c, row)), next = cells.own(cells.at(x, y));
+        float step = 0.0f;
+        for (std::size_t k = 0; k < 3; ++k)
+            step = std::max(step, std::abs(own[k] - next[k]));
+        border.open += step < kLeastStep;
+    };
+    cells.forCells([&](int c, int row) {
+        if (!cloth.at(c, row)) return;
+        look(c, row, 1, 0);
+        look(c, row, -1, 0);
+        look(c, row, 0, 1);
+        look(c, row, 0, -1);
+    });
+    Mask open(cells.columns(), cells.rows());
+    cells.forCells([&](int c, int row) {
+        const Border& border = borders[partAt(c, row)];
+        if (cloth.at(c, row) && border.open > std::max(kMostOpen * border.cells, kFewOpen)) open.set(row, c, c + 1);
+    });
+    if (open.count() == 0) return;
+    cloth &= open.inverted();
+    const Dyes paints = findDyes(cells, open);
+    cells.forCells([&](int c, int row) {
+        if (cloth.at(c, row) && dyeOf(cells, cells.at(c, row), paints) < paints.size()) open.set(row, c, c + 1);
+    });
+    cloth &= open.inverted();
+}
+
 // Pixels of `wanted` of a dye that cannot be the screen's light.
 Mask dyedPixels(const RunContext& context, const Shot& shot, const OuterScreen& outer, const Dyes& dyes,
                 const Mask& wanted) {
@@ -134,6 +185,8 @@ Garments findGarments(const RunContext& context, const Shot& shot, float differe
         cloth |= findPieces(context, cells, {first, dyes}, cloth);
         dyes = findDyes(cells, cloth);  // the same cloth under other light
     }
+    dropUnbounded(cells, outer, cloth);
+    if (cloth.count() == 0) return {};
     const Mask near = grown(context, cloth, kNear);
     const auto pixelsOf = [&](const auto& isSet) { return maskOf(context, shot.width, shot.height, size, isSet); };
     const Mask solid = pixelsOf([&](int c, int row) { return cloth.at(c, row); });
