@@ -4,6 +4,8 @@
 #include <numeric>
 #include <vector>
 
+#include "key/refine/grid/Middle.h"
+
 namespace tavrin::refine {
 
 namespace {
@@ -47,6 +49,14 @@ Cells lookAtCells(const RunContext& context, const Shot& shot, int size) {
         }
     });
     return cells;
+}
+
+float screenVariance(const Cells& look, const Cells& shares) {
+    std::vector<float> variances;
+    for (std::size_t i = 0; i < look.count(); ++i) {
+        if (shares.row(0, 0)[i] > kScreenCell) variances.push_back(look.row(0, 3)[i]);
+    }
+    return middleOf(variances);
 }
 
 }  // namespace tavrin::refine

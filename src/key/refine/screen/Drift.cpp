@@ -15,7 +15,6 @@ constexpr double kDriftCell = 8.0;
 constexpr int kSampleStep = 8;          // pixels, for the question whether there is anything to look for
 constexpr double kLeastSamples = 0.01;  // of all samples
 constexpr double kLeastDrift = 0.01;    // of all cells
-constexpr float kScreenCell = 0.9f;     // share of a cell that lies on the screen
 constexpr float kLeastLead = 0.5f;      // of the screen's usual colour difference
 constexpr float kMostStep = 3.0f;       // levels from one cell to the next
 constexpr float kVariances = 2.0f, kVariance = 6.0f;  // of the screen's middle one, and levels squared
@@ -51,20 +50,17 @@ bool mayDrift(const Shot& shot, const Mask& screen, float difference, int far) {
 class Walk {
   public:
     Walk(const Cells& cells, const Cells& shares, float difference)
-        : cells_(cells), reached_(cells.count()), redness_(cells.count()) {
-        std::vector<float> variances;
+        : cells_(cells),
+          reached_(cells.count()),
+          redness_(cells.count()),
+          mostVariance_(kVariances * screenVariance(cells, shares) + kVariance),
+          difference_(difference) {
         for (std::size_t i = 0; i < cells.count(); ++i) {
             if (shares.row(0, 0)[i] <= kScreenCell) continue;
             reached_[i] = 1;
-            variances.push_back(at(i, 3));
             next_.push_back(i);
             redness_[i] = rednessOf(at(i, 0), at(i, 1), at(i, 2));
         }
-        if (variances.empty()) return;
-        const auto middle = variances.begin() + static_cast<std::ptrdiff_t>(variances.size() / 2);
-        std::nth_element(variances.begin(), middle, variances.end());
-        mostVariance_ = kVariances * *middle + kVariance;
-        difference_ = difference;
         while (!next_.empty())
             goOn();
     }
@@ -100,7 +96,7 @@ class Walk {
     std::vector<std::uint8_t> reached_;
     std::vector<float> redness_;  // of the screen's cell that the way began at
     std::deque<std::size_t> next_;
-    float mostVariance_ = 0.0f, difference_ = 0.0f;
+    float mostVariance_, difference_;
 };
 
 }  // namespace

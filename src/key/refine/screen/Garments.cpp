@@ -1,7 +1,9 @@
 #include "key/refine/screen/Garments.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <utility>
 
 #include "key/refine/grid/Areas.h"
 #include "key/refine/screen/ClothCells.h"
@@ -18,7 +20,7 @@ constexpr double kLeastSamples = 0.6;                        // of what such clo
 constexpr int kNear = 3, kPieceReach = 10, kLeastPiece = 6;  // cells
 constexpr int kRounds = 3;
 constexpr int kBeyond = 3;                          // cells from the border, where the screen must look otherwise
-constexpr float kScreenCell = 0.5f;                 // share of a cell that the key took for screen
+constexpr float kBorderCell = 0.5f;                 // share of a cell that the key took for screen
 constexpr float kLeastStep = 12.0f;                 // levels of a channel
 constexpr double kMostOpen = 0.15, kFewOpen = 3.0;  // of the border beside the screen, without a step; cells
 constexpr std::size_t kMostDyes = 16;
@@ -101,42 +103,50 @@ Mask findPieces(const RunContext& context, const ClothCells& cells, const Palett
 // How much of the border of a part lies beside the key's screen, and how much of that without a step of colour.
 struct Border {
     int cells = 0, open = 0;
+
+    bool isOpen() const { return open > std::max(kMostOpen * cells, kFewOpen); }
 };
 
-// Drops parts that go over into the key's screen without an outline, and all of their dyes: another paint, or light,
-// of a floor.
-void dropUnbounded(const ClothCells& cells, const OuterScreen& outer, Mask& cloth) {
+float largestStep(const Color& from, const Color& to) {
+    return std::max({std::abs(from[0] - to[0]), std::abs(from[1] - to[1]), std::abs(from[2] - to[2])});
+}
+
+// Looks from a cell of cloth in one direction.
+void lookBeyond(const ClothCells& cells, const OuterScreen& outer, const Mask& cloth, const std::array<int, 4>& way,
+                Border& border) {
+    const auto [c, row, dx, dy] = way;
+    const int x = c + kBeyond * dx, y = row + kBeyond * dy;
+    if (x < 0 || y < 0 || x >= cells.columns() || y >= cells.rows()) return;
+    if (cloth.at(c + dx, row + dy) || cloth.at(x, y) || outer.screen.row(y, 0)[x] < kBorderCell) return;
+    ++border.cells;
+    border.open += largestStep(cells.own(cells.at(c, row)), cells.own(cells.at(x, y))) < kLeastStep;
+}
+
+// The parts that go over into the key's screen without an outline.
+Mask openParts(const ClothCells& cells, const OuterScreen& outer, const Mask& cloth) {
     std::vector<std::uint8_t> set(outer.look.count());
     cells.forCells([&](int c, int row) { set[cells.at(c, row)] = cloth.at(c, row); });
     const Parts parts = findParts(cells.columns(), cells.rows(), set, Neighbours::four);
     std::vector<Border> borders(static_cast<std::size_t>(parts.count) + 1);
-    const auto partAt = [&](int c, int row) { return static_cast<std::size_t>(parts.labels[cells.at(c, row)]); };
-    const auto look = [&](int c, int row, int dx, int dy) {
-        const int x = c + kBeyond * dx, y = row + kBeyond * dy;
-        if (x < 0 || y < 0 || x >= cells.columns() || y >= cells.rows()) return;
-        if (cloth.at(c + dx, row + dy) || cloth.at(x, y) || outer.screen.row(y, 0)[x] < kScreenCell) return;
-        Border& border = borders[partAt(c, row)];
-        ++border.cells;
-        const Color own = cells.own(cells.at(c, row)), next = cells.own(cells.at(x, y));
-        float step = 0.0f;
-        for (std::size_t k = 0; k < 3; ++k)
-            step = std::max(step, std::abs(own[k] - next[k]));
-        border.open += step < kLeastStep;
+    const auto borderAt = [&](int c, int row) -> Border& {
+        return borders[static_cast<std::size_t>(parts.labels[cells.at(c, row)])];
     };
     cells.forCells([&](int c, int row) {
         if (!cloth.at(c, row)) return;
-        look(c, row, 1, 0);
-        look(c, row, -1, 0);
-        look(c, row, 0, 1);
-        look(c, row, 0, -1);
+        for (const auto& [dx, dy] : {std::pair{1, 0}, {-1, 0}, {0, 1}, {0, -1}})
+            lookBeyond(cells, outer, cloth, {c, row, dx, dy}, borderAt(c, row));
     });
     Mask open(cells.columns(), cells.rows());
     cells.forCells([&](int c, int row) {
-        const Border& border = borders[partAt(c, row)];
-        if (cloth.at(c, row) && border.open > std::max(kMostOpen * border.cells, kFewOpen)) open.set(row, c, c + 1);
+        if (cloth.at(c, row) && borderAt(c, row).isOpen()) open.set(row, c, c + 1);
     });
+    return open;
+}
+
+// Drops these and all of their dyes: another paint, or light, of a floor.
+void dropUnbounded(const ClothCells& cells, const OuterScreen& outer, Mask& cloth) {
+    Mask open = openParts(cells, outer, cloth);
     if (open.count() == 0) return;
-    cloth &= open.inverted();
     const Dyes paints = findDyes(cells, open);
     cells.forCells([&](int c, int row) {
         if (cloth.at(c, row) && dyeOf(cells, cells.at(c, row), paints) < paints.size()) open.set(row, c, c + 1);

@@ -1,6 +1,7 @@
 #include "key/refine/screen/Hues.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tavrin::refine {
 
@@ -10,7 +11,7 @@ constexpr double kOwn = 0.5;  // other hue, of the haze that there would be
 constexpr float kFewLevels = 8.0f;
 
 float squared(const Color& color) {
-    return color[0] * color[0] + color[1] * color[1] + color[2] * color[2];
+    return dot(color, color);
 }
 
 // The squared sine of the angle between two colours.
@@ -20,10 +21,12 @@ float angleOf(const Color& color, const Color& other) {
 
 }  // namespace
 
+float dot(const Color& a, const Color& b) {
+    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+}
+
 float leftOver(const Color& difference, const Color& along) {
-    float product = 0.0f;
-    for (std::size_t i = 0; i < 3; ++i)
-        product += difference[i] * along[i];
+    const float product = dot(difference, along);
     return squared(difference) - product * product / std::max(squared(along), 1.0f);
 }
 
@@ -34,8 +37,7 @@ void Dye::add(const Color& own, const Color& behind, float strange) {
         color[i] += own[i];
     // All shades of the screen with any haze over them lie in one plane.
     const Color normal{behind[1] - behind[2], behind[2] - behind[0], behind[0] - behind[1]};
-    hue += static_cast<double>((normal[0] * own[0] + normal[1] * own[1] + normal[2] * own[2]) /
-                               std::sqrt(std::max(squared(normal), 1.0f)));
+    hue += static_cast<double>(dot(normal, own) / std::sqrt(std::max(squared(normal), 1.0f)));
     const float others = (own[0] + own[2]) * 0.5f, screens = (behind[0] + behind[2]) * 0.5f;
     haze += static_cast<double>(others - screens * (own[1] - others) / std::max(behind[1] - screens, kFewLevels));
 }

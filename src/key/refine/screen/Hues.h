@@ -1,13 +1,13 @@
 #pragma once
 
 #include <array>
-#include <cmath>
 
 namespace tavrin::refine {
 
 /// Three channels in roles.
 using Color = std::array<float, 3>;
 
+float dot(const Color& a, const Color& b);
 /// What is left of a difference's squared length when what goes along a direction is taken off.
 float leftOver(const Color& difference, const Color& along);
 

@@ -9,18 +9,10 @@ namespace tavrin::refine {
 
 namespace {
 
-constexpr float kScreenCell = 0.9f;                    // share of a cell that lies on the screen
 constexpr float kStep = 3.0f, kNoiseStep = 0.5f;       // levels from one cell to the next, and deviations
 constexpr float kVariances = 4.0f, kVariance = 12.0f;  // of the middle one, and levels squared
 constexpr float kSameHue = 8.0f;                       // levels
 constexpr int kRounds = 2;
-
-float middleOf(std::vector<float> values) {
-    if (values.empty()) return 0.0f;
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 // Areas of the screen's cells that one can walk through in small steps.
 class Walk {
@@ -107,11 +99,7 @@ OuterScreen findOuterScreen(const RunContext& context, const Shot& shot, const M
     outer.size = size;
     outer.look = lookAtCells(context, shot, size);
     outer.screen = sharesOf(context, screen, size);
-    std::vector<float> variances;
-    for (std::size_t i = 0; i < outer.look.count(); ++i) {
-        if (outer.screen.row(0, 0)[i] > kScreenCell) variances.push_back(outer.look.row(0, 3)[i]);
-    }
-    outer.noise = middleOf(std::move(variances));
+    outer.noise = screenVariance(outer.look, outer.screen);
     std::vector<std::uint8_t> known = Walk(outer).largest();
     for (int round = 0; round < kRounds; ++round) {
         outer.behind = paint(context, outer.look, known);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "key/refine/grid/Areas.h"
+#include "key/refine/grid/Middle.h"
 #include "key/refine/grid/Parts.h"
 #include "key/refine/grid/RowRing.h"
 #include "key/refine/grid/SumLoops.h"
@@ -117,14 +118,6 @@ Cells roughness(const RunContext& context, const Shot& shot, int size) {
         }
     });
     return rough;
-}
-
-// 0 of none.
-float middleOf(std::vector<float>& values) {
-    if (values.empty()) return 0.0f;
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
 }
 
 // The middle of the cells that are mostly screen.
@@ -272,6 +265,26 @@ Mask paleInside(const RunContext& context, const Shot& shot, const Mask& inside,
                   [&](int c, int row) { return share.row(row, 0)[c] < kWholeShare; });
 }
 
+// Adds deep parts and the plate's cloth, and grows the inside nearly to its ends.
+// @param inside all that may be, by which gaps are enclosed
+void addCloth(const RunContext& context, const Shot& shot, const Plate& plate, Core& core, Mask& inside) {
+    const int reach = shot.px(kCoreReach), near = std::max(1, reach - shot.px(kCoreNear));
+    const ClothParts parts = deepCloth(context, shot, plate, core.keyed);
+    // Dense hair is as sure a colour as cloth.
+    Mask gaps = core.keyed.inverted();
+    gaps &= parts.rough;
+    gaps &= core.solid.inverted();
+    core.solid |= parts.all;
+    core.solid = grown(context, core.solid, near);
+    core.solid &= grown(context, gaps, reach).inverted();
+    inside |= parts.all;
+    inside = grown(context, inside, near);
+    if (plate.cloth.width() == 0) return;
+    core.solid |= plate.cloth;
+    core.solid |= findSeams(context, shot, plate, core.solid);
+    inside |= core.solid;
+}
+
 }  // namespace
 
 Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
@@ -280,7 +293,6 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     runAreas(context, open, [&](const Area& area) { lookAt(context, shot, plate, area, look); });
     look.high &= open;  // a screen that has become another
     const int reach = shot.px(kCoreReach);
-    const int near = std::max(1, reach - shot.px(kCoreNear));
     Mask inside = shrunk(context, look.high, reach);
     if (context.isSuperseded()) return {};
     // Soft hair before an inside that is whole is no inside.
@@ -290,21 +302,7 @@ Core findCore(const RunContext& context, const Shot& shot, const Plate& plate) {
     core.deep = shrunk(context, open, shot.px(kDepthReach));
     core.deep &= core.solid.inverted();
     core.keyed = keyedOf(context, shot, core.deep);
-    const ClothParts cloth = deepCloth(context, shot, plate, core.keyed);
-    // Dense hair is as sure a colour as cloth.
-    Mask gaps = core.keyed.inverted();
-    gaps &= cloth.rough;
-    gaps &= core.solid.inverted();
-    core.solid |= cloth.all;
-    core.solid = grown(context, core.solid, near);
-    inside |= cloth.all;
-    inside = grown(context, inside, near);
-    core.solid &= grown(context, gaps, reach).inverted();
-    if (plate.cloth.width() > 0) {
-        core.solid |= plate.cloth;
-        core.solid |= findSeams(context, shot, plate, core.solid);
-        inside |= core.solid;
-    }
+    addCloth(context, shot, plate, core, inside);
     core.solid |= enclosedGaps(context, shot, plate, inside);
     core.sure |= core.solid;
     return core;

@@ -1,7 +1,8 @@
 #include "key/refine/subject/Haze.h"
 
 #include <algorithm>
-#include <cmath>
+
+#include "key/refine/screen/Hues.h"
 
 namespace tavrin::refine {
 
@@ -16,46 +17,39 @@ constexpr float kLeastLight = 0.6f, kMostLight = 1.15f;   // of the plate's: mor
 constexpr float kMostShare = 0.5f;                        // of the subject, where the key has nothing
 constexpr float kStraight = 0.8f;                         // cosine between tint and subject
 
-struct Color {
-    float r = 0.0f, g = 0.0f, b = 0.0f;
-
-    float operator*(const Color& other) const { return r * other.r + g * other.g + b * other.b; }
-};
-
 Color at(const Cells& colors, int c, int row) {
     return {colors.row(row, 0)[c], colors.row(row, 1)[c], colors.row(row, 2)[c]};
 }
 
 // The mean of the screen's pixels in the cells up to `reach` away.
 Color meanAround(const Cells& screen, int reach, int c, int row) {
-    Color sum;
+    Color sum{};
     float weight = 0.0f;
     for (int y = std::max(row - reach, 0); y <= std::min(row + reach, screen.rows() - 1); ++y) {
         for (int x = std::max(c - reach, 0); x <= std::min(c + reach, screen.columns() - 1); ++x) {
-            sum.r += screen.row(y, 0)[x];
-            sum.g += screen.row(y, 1)[x];
-            sum.b += screen.row(y, 2)[x];
+            for (int plane = 0; plane < 3; ++plane)
+                sum[static_cast<std::size_t>(plane)] += screen.row(y, plane)[x];
             weight += screen.row(y, 3)[x];
         }
     }
-    return {sum.r / weight, sum.g / weight, sum.b / weight};
+    return {sum[0] / weight, sum[1] / weight, sum[2] / weight};
 }
 
 // What of a colour lies across the plate's, which light does not change.
 Color across(const Color& color, const Color& plate) {
-    const float share = color * plate / std::max(plate * plate, 1.0f);
-    return {color.r - share * plate.r, color.g - share * plate.g, color.b - share * plate.b};
+    const float share = dot(color, plate) / std::max(dot(plate, plate), 1.0f);
+    return {color[0] - share * plate[0], color[1] - share * plate[1], color[2] - share * plate[2]};
 }
 
 // Whether the subject has a share of a colour, besides the plate in some light.
 bool isTinted(const Color& own, const Color& plate, const Color& subject, float least) {
-    const float light = own.g / std::max(plate.g, 1.0f);
+    const float light = own[1] / std::max(plate[1], 1.0f);
     if (light < kLeastLight || light > kMostLight) return false;
-    if (std::max(own.r - light * plate.r, own.b - light * plate.b) < least) return false;
+    if (std::max(own[0] - light * plate[0], own[2] - light * plate[2]) < least) return false;
     const Color tint = across(own, plate), whole = across(subject, plate);
-    const float along = tint * whole;
-    return along > 0.0f && along < kMostShare * (whole * whole) &&
-           along * along > kStraight * kStraight * (tint * tint) * (whole * whole);
+    const float along = dot(tint, whole), most = dot(whole, whole);
+    return along > 0.0f && along < kMostShare * most &&
+           along * along > kStraight * kStraight * dot(tint, tint) * most;
 }
 
 // 8, or 16 in a large picture.
